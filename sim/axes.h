@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "sim/faults.h"
+#include "sim/setup.h"
+
+namespace qvr7sim {
+
+/// A move of one axis: a straight rise of speed, a steady part and a straight fall.
+struct Motion {
+  std::int64_t start_us = 0;
+  int from = 0;
+  int to = 0;
+  double peak = 0.0;  ///< pulses a second, above 0
+  double rise_s = 0.0;
+  double steady_s = 0.0;
+  double fall_s = 0.0;
+  std::int64_t after_us = 0;  ///< Time at the target that still belongs to the move.
+
+  /// From standstill to standstill; a short way never reaches `speed`.
+  static Motion Between(int from, int to, double speed, double rise_s, std::int64_t start_us);
+
+  int PulsesAt(std::int64_t now_us) const;
+  double SpeedAt(std::int64_t now_us) const;
+  std::int64_t EndUs() const;
+};
+
+/// The four axes, index from 0. A move's end is seen by Settle, which runs before anything else
+/// is asked at a later time.
+class Axes {
+ public:
+  /// Brings finished moves to their end, in the order of time. Returns the alarm of a homing that
+  /// failed; all axes then stand since that moment.
+  std::optional<Alarm> Settle(std::int64_t now_us);
+
+  /// Needs an axis that stands. `speed` in pulses a second, above 0.
+  void Move(int axis, int to, double speed, double rise_s, std::int64_t now_us);
+  void Home(int axis, double speed, std::int64_t search_us, std::int64_t now_us);
+  /// Brakes every moving axis within `fall_s`; a homing given up leaves the axis without a home.
+  void Stop(double fall_s, std::int64_t now_us);
+  /// All axes stand at once.
+  void Halt(std::int64_t now_us);
+  /// The axis stands at `pulses`, whatever it did.
+  void Place(int axis, int pulses);
+  void LoseHome();
+  void SetHomed(int axis) { At(axis).homed = true; }
+  void FailNextHoming(int axis) { At(axis).fail_homing = true; }
+
+  bool Moving(int axis) const { return At(axis).motion.has_value(); }
+  bool Homed(int axis) const { return At(axis).homed; }
+  int Pulses(int axis, std::int64_t now_us) const;
+
+ private:
+  struct State {
+    int pulses = 0;
+    bool homed = false;
+    bool homing = false;
+    bool fail_homing = false;
+    std::optional<Motion> motion;
+  };
+  State& At(int axis) { return states_[static_cast<std::size_t>(axis)]; }
+  const State& At(int axis) const { return states_[static_cast<std::size_t>(axis)]; }
+  int NextToEnd(std::int64_t now_us) const;
+
+  std::array<State, kAxes> states_;
+};
+
+}  // namespace qvr7sim

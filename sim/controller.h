@@ -1,0 +1,107 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "sim/error_codes.h"
+#include "sim/faults.h"
+#include "sim/setup.h"
+
+namespace qvr7sim {
+
+/// One axis at one moment.
+struct AxisState {
+  bool in_use = false;
+  bool moving = false;
+  bool homed = false;
+  int pulses = 0;  ///< Present position; negative left of home.
+  int max_pulses = 0;
+};
+
+/// A QV-R7 controller on a line. Time is the caller's, in microseconds, and never runs back.
+///
+/// A run is a function of setup, seed and calls. Bytes take 10 bits each at the line's rate: byte k
+/// of a reply reaches the PC (k + 1) * 10 / baud seconds after the controller starts to send,
+/// rounded up to a microsecond.
+class Controller {
+ public:
+  /// `setup.Check()` must be empty. The seed drives the faults.
+  explicit Controller(const Setup& setup, std::uint64_t seed = 1);
+  ~Controller();
+  Controller(Controller&&) noexcept;
+  Controller& operator=(Controller&&) noexcept;
+
+  /// Bytes the PC hands to its port at `now_us`; the line takes them one after the other.
+  void Receive(std::string_view bytes, std::int64_t now_us);
+  /// When the next reply byte reaches the PC, or something happens inside that may cause one.
+  /// Nothing will happen by itself when there is no value.
+  std::optional<std::int64_t> NextEventUs() const;
+  /// As NextEventUs, but a reply counts when its last byte has arrived: for readers of whole lines.
+  std::optional<std::int64_t> NextLineUs() const;
+  /// Reply bytes that have reached the PC by `now_us` and were not taken before.
+  std::string Take(std::int64_t now_us);
+  /// The PC closed its port: bytes on the way are lost in both directions, a request whose last
+  /// byte had not been seen by the last call with a time included.
+  void DropLine();
+  /// Off and on: what was not committed is lost, a pending mode and axis mask take effect, the
+  /// alarm is cleared, axes stand and have lost their home position.
+  void PowerCycle(std::int64_t now_us);
+
+  void SetFaults(const Faults& faults);
+  void AddFault(const Fault& fault);
+  void AddAlarm(const TimedAlarm& alarm);
+  void ClearFaults();
+  /// Silent: as a controller without power on the line, it neither hears nor answers.
+  void SetSilent(bool silent);
+  bool silent() const;
+
+  /// Raises an alarm at once: axes stop, and every command but "0AR" answers with it.
+  void RaiseAlarm(const Alarm& alarm, std::int64_t now_us, bool send_line = false);
+  /// The next homing of this axis (1 to 4) ends in the home sensor alarm.
+  void FailNextHoming(int axis);
+  /// Pushes the slide of an axis (1 to 4) by hand to a position in pulses.
+  void PlaceAxis(int axis, int pulses, std::int64_t now_us);
+
+  /// Every request line that reached the controller, without its line end, also while it is silent.
+  const std::vector<std::string>& Requests() const;
+  void ClearRequests();
+
+  /// Digits behind the number in "0RP" (60), for 1 to 999.
+  const std::string& WrittenPosition(int number) const;
+  const std::string& CommittedPosition(int number) const;
+  /// Data of parameter block 0 to 13 (32 characters).
+  const std::string& WrittenBlock(int block) const;
+  const std::string& CommittedBlock(int block) const;
+  /// Start and end of group 1 to 99.
+  std::pair<int, int> WrittenGroup(int number) const;
+  std::pair<int, int> CommittedGroup(int number) const;
+  /// 16 pairs of command and value digit of macro 1 to 20 (32 characters).
+  const std::string& WrittenMacro(int number) const;
+  const std::string& CommittedMacro(int number) const;
+  /// Data of system block 0 to 6 (32 characters).
+  const std::string& WrittenSystemBlock(int block) const;
+  const std::string& CommittedSystemBlock(int block) const;
+
+  std::optional<Alarm> StandingAlarm() const;
+  /// Axis 1 to 4 at `now_us`; requests that have reached the controller by then are carried out.
+  AxisState Axis(int axis, std::int64_t now_us) const;
+  bool AnyMoving(std::int64_t now_us) const;
+  /// Mode and axis mask in force since power-on.
+  Mode RunningMode() const;
+  unsigned RunningMask() const;
+  /// The PC has the command: the last short "0CM" was "0CM1".
+  bool UnderPcCommand() const;
+  /// The last four axis digits of "0CM", "0000" at power-on.
+  const std::string& ControlDigits() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace qvr7sim

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "sim/axes.h"
+#include "sim/memory.h"
+#include "sim/setup.h"
+
+namespace qvr7sim {
+
+/// The controller behind its line: what it keeps, what moves, what stands.
+struct Machine {
+  explicit Machine(const Setup& start);
+
+  /// Reply to a request, both without line end. Time must not run back.
+  std::string Answer(const std::string& request, std::int64_t now_us);
+  /// Brings moves to their end; a failed homing raises its alarm.
+  void Settle(std::int64_t now_us);
+  void Raise(const Alarm& raised, std::int64_t now_us);
+  void PowerCycle(std::int64_t now_us);
+  bool AnyMoving() const;
+  bool InUse(int axis) const { return ((mask >> axis) & 1U) != 0; }
+  /// Pulses a second of an axis at a speed in mm/s; 0 when its device block holds no scale.
+  double PulseSpeed(int axis, int mm_s) const;
+
+  Setup setup;
+  Memory memory;
+  Axes axes;
+  Mode mode;
+  unsigned mask;
+  std::optional<Alarm> alarm;
+  bool pc_command = false;
+  std::string control_digits = "0000";
+};
+
+/// The text of an error reply without line end.
+std::string ErrorText(const Alarm& error);
+/// The same for unit, middle '0' and code.
+std::string ErrorText(char unit, char code);
+
+/// A command: its three characters and what answers it. `args` is what follows them.
+struct Command {
+  std::string_view name;
+  std::string (*answer)(Machine& machine, std::string_view args, std::int64_t now_us);
+  bool commits = false;           ///< Takes the commit time.
+  bool needs_standstill = false;  ///< Refused while an axis moves.
+};
+
+std::span<const Command> StatusCommands();
+std::span<const Command> MotionCommands();
+std::span<const Command> PositionCommands();
+std::span<const Command> BlockCommands();
+/// The command that a request begins with, or null.
+const Command* FindCommand(std::string_view request);
+
+}  // namespace qvr7sim

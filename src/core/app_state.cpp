@@ -1,0 +1,7 @@
+#include "core/app_state.h"
+
+namespace tr7 {
+
+AppStateRecord AppState;
+
+}  // namespace tr7

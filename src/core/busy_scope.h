@@ -1,0 +1,36 @@
+#pragma once
+
+namespace tr7 {
+
+// What a flow takes for its length and gives back on every way out.
+
+/// Commands of all views off, then on again: a flow within a flow leaves that to the outer one.
+class CommandsOff {
+ public:
+  CommandsOff();
+  ~CommandsOff();
+  CommandsOff(const CommandsOff&) = delete;
+  CommandsOff& operator=(const CommandsOff&) = delete;
+};
+
+/// `ComBusy`: the tool refuses to close from its window's own menu.
+class BusyScope {
+ public:
+  BusyScope();
+  ~BusyScope();
+  BusyScope(const BusyScope&) = delete;
+  BusyScope& operator=(const BusyScope&) = delete;
+
+ private:
+  bool was_busy_;
+};
+
+class WaitCursorScope {
+ public:
+  WaitCursorScope();
+  ~WaitCursorScope();
+  WaitCursorScope(const WaitCursorScope&) = delete;
+  WaitCursorScope& operator=(const WaitCursorScope&) = delete;
+};
+
+}  // namespace tr7

@@ -1,0 +1,28 @@
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/message_box.h"
+#include "core/selection.h"
+#include "core/session.h"
+#include "core/text.h"
+#include "link/para_commands.h"
+#include "link/port.h"
+
+namespace tr7 {
+
+void ChangeCtModeMenu() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
+  const int choice =
+      SelectionDialog2(Text(471), Text(476), {Text(477), Text(478)}, AppState.CtMode ? 1 : 0);
+  if (choice >= 0 && ChangeCtModeToCt(choice) == 0) {
+    MsgBox(Text(495) + "\n\n" + Text(496) + "\n\n" + Text(497), MsgButtons::Ok,
+           MsgIcon::Information);
+    // The PC's own mode stays: it changes when the tool starts again beside the restarted
+    // controller. Until then the online tabs stay off.
+    AppState.CtModePending = True;
+  }
+  TusinPortClose();
+}
+
+}  // namespace tr7

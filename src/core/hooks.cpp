@@ -1,0 +1,7 @@
+#include "core/hooks.h"
+
+namespace tr7 {
+
+HookTable Hooks;
+
+}  // namespace tr7

@@ -1,0 +1,46 @@
+#include "core/install_views.h"
+
+#include "core/frame_commands.h"
+#include "core/hooks.h"
+#include "core/main_entry.h"
+#include "core/options_view.h"
+#include "core/wait.h"
+#include "forms/frm_main.h"
+#include "link/tusin.h"
+#include "para/device_texts.h"
+#include "para/take_ct_device.h"
+#include "posi/device_change.h"
+#include "posi/posi_flows.h"
+#include "posi/posi_view.h"
+#include "posi/result_view.h"
+
+namespace tr7 {
+namespace {
+
+void InstallLinkTimers() {
+  frmMain.TimerJusin.Tick = TimerJusinTick;
+  frmMain.TimerJusin.HasWork = TimerJusinHasWork;
+  frmMain.TimerTusin.Tick = TimerTusinTick;
+  frmMain.TimerTusin.HasWork = TimerTusinHasWork;
+  frmMain.timerTimeout.Tick = TimerTimeoutTick;
+  frmMain.mmsecTimer.Tick = MmsecTimerTick;
+}
+
+}  // namespace
+
+void InstallViews() {
+  InstallLinkTimers();
+  InstallFrame();
+  InstallEntry();
+  InstallOptionsView();
+  InstallPosiView();
+  InstallPosiFlows();
+  InstallResultView();
+  InstallDeviceTexts();
+  Hooks.TakeDevFromCt = TakeDevFromCt;
+  Hooks.RebuildPosiView = RebuildPosiViewKeepingEdits;
+  Hooks.PositionsFollowDevices = [] { PositionsFollowDevices(); };
+  Hooks.MmFollowsPulses = MmFollowsPulses;
+}
+
+}  // namespace tr7

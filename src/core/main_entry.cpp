@@ -1,0 +1,172 @@
+#include "core/main_entry.h"
+
+#include <string>
+#include <vector>
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/frame_menus.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/progress.h"
+#include "core/selection.h"
+#include "core/session.h"
+#include "core/settings.h"
+#include "core/text.h"
+#include "core/text_file.h"
+#include "core/views.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_splash.h"
+#include "link/port.h"
+#include "link/request_queue.h"
+#include "para/dev_setting.h"
+#include "para/error_list.h"
+#include "platform/doors.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kHelpFile = "qvtr7hlp.chm";
+
+std::string VersionText() {
+  return std::to_string(TR7_VERSION_MAJOR) + "." + std::to_string(TR7_VERSION_MINOR) +
+         std::to_string(TR7_VERSION_REVISION);
+}
+
+void PumpUntilSplashDone() {
+  while (!AppState.SplashDone) Pump();
+}
+
+void SplashTick() {
+  AppState.SplashDone = True;
+  frmSplash.timerSplash.Stop();
+}
+
+void ClearDevices() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    DevSetting[axis].Size.clear();
+    DevSetting[axis].Speed.clear();
+    DevSetting[axis].Stroke = 0;
+    DevSetting[axis].NotChosen = True;
+    DevSetting[axis].Series = "QV";
+    AppState.AxisMuko[axis] = False;
+  }
+}
+
+/// The stored rectangle, within what any screen shows: a damaged value must not hide the window.
+void ApplyWindowRectangle() {
+  const auto sane = [](double value, double low, double high, double fallback) {
+    return value >= low && value <= high ? value : fallback;
+  };
+  constexpr double kFarthest = 150000;
+  frmMain.Left = sane(GetSettingNumber("MainLeft", 1000), -kFarthest, kFarthest, 1000);
+  frmMain.Top = sane(GetSettingNumber("MainTop", 1000), -kFarthest, kFarthest, 1000);
+  frmMain.Width = sane(GetSettingNumber("MainWidth", 15240), 3000, kFarthest, 15240);
+  frmMain.Height = sane(GetSettingNumber("MainHeight", 11000), 3000, kFarthest, 11000);
+}
+
+void LoadFrame() {
+  ApplyWindowRectangle();
+  PumpUntilSplashDone();
+  // The splash goes before the first dialogue comes, or it would stand over it.
+  doors.forms->Show(frmMain);
+  frmMain.Visible = true;
+  UnloadView(frmSplash);
+  ShowView(frmPosi);
+  Hide_ProgressBar();
+  StartOnlineOfflineChoice();
+  frmMain.Caption = Text(201) + " Ver" + VersionText();
+}
+
+bool QueryUnloadFrame(CloseReason reason) {
+  if (AppState.TeachingNow) {
+    MsgBox(TwoLines(60, 61));
+    return true;
+  }
+  if (reason == CloseReason::ControlMenu && AppState.ComBusy) return true;
+  // The views inside the frame are asked here too, while all of them can still stay: later on
+  // nothing stops the close.
+  for (View* view : OpenViews()) {
+    if (view != &frmMain && view->QueryUnload && view->QueryUnload(CloseReason::Code)) return true;
+  }
+  return false;
+}
+
+bool ChooseOnline() {
+  return SelectionDialog(Text(471), Text(71), Text(72), Text(73), 1, 0, 0) == 0;
+}
+
+void ChooseModeOffline() {
+  const int choice = SelectionDialog(Text(471), Text(74), Text(128), Text(129), 1, 0, 0);
+  AppState.CtMode = choice == 1;
+  DispControlerMode();
+  ChangeMenuDisp(AppState.CtMode);
+}
+
+}  // namespace
+
+void StartOnlineOfflineChoice() {
+  CTM_MukoSyori();
+  SetOffline();
+  PortLampHyoji();
+  Call(Hooks.RebuildPosiView);
+  bool online = false;
+  if (ChooseOnline()) {
+    const BusyScope busy;
+    online = FirstConnection() == 0;
+  }
+  if (!online) {
+    ChooseModeOffline();
+    Call(Hooks.SelectDevicesAtStart);
+    AppState.AxisCount = kAxes;
+  }
+  Call(Hooks.RecalcLimits);
+  Call(Hooks.RebuildPosiView);
+  SetOnlineTabs();
+  ChangeMenuDisp(AppState.CtMode);
+  AppState.ComBusy = False;
+  AllViewsCmdYuko();
+}
+
+void UnloadFrame() {
+  const std::vector<View*> views = OpenViews();
+  for (View* view : views) {
+    if (view != &frmMain) UnloadView(*view);
+  }
+  TusinPortCloseForce();
+  SaveSettingsAtExit();
+  doors.forms->EndProcess();
+}
+
+void Main() {
+  AppState.HelpFilePath = ProgramFile(kHelpFile);
+  LoadSettingLanguage();  // the splash is already in the user's language
+  frmSplash.lblVersion.Caption = VersionText();
+  ShowView(frmSplash);
+  doors.forms->Refresh();
+  frmSplash.timerSplash.Start();
+  ClearDevices();
+  AppState.AxisPattern = 0;
+  AppState.LanguageChanged = False;
+  TusinQueueClear();
+  TusinQueueInit();
+  AppState.NextProgViewNo = 1;
+  AppState.BaudIndex = 0;
+  AppState.Offline = True;
+  LoadDefaults();
+  LoadMotionSettings();
+  ReadErrorList();
+  frmMain.Load = LoadFrame;
+  ShowView(frmMain);
+}
+
+void InstallEntry() {
+  frmSplash.timerSplash.Tick = SplashTick;
+  frmMain.Load = LoadFrame;
+  frmMain.QueryUnload = QueryUnloadFrame;
+  frmMain.Unload = UnloadFrame;
+  frmMain.timerTerminate.Tick = UnloadFrame;
+}
+
+}  // namespace tr7

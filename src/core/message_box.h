@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "platform/form_host.h"
+
+namespace tr7 {
+
+/// A box with the product's name as its title, in front of everything; returns the user's answer.
+/// Closing the box counts as Cancel, or as OK where OK is all it offers.
+MsgAnswer MsgBox(const std::string& text, MsgButtons buttons = MsgButtons::Ok,
+                 MsgIcon icon = MsgIcon::Warning);
+MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
+                 const std::string& title);
+
+/// Two messages, one line each.
+std::string TwoLines(int id1, int id2);
+
+}  // namespace tr7

@@ -1,0 +1,154 @@
+#include "core/options_view.h"
+
+#include <string>
+
+#include "core/app_state.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/settings.h"
+#include "core/text.h"
+#include "core/text_helpers.h"
+#include "core/views.h"
+#include "forms/frm_options2.h"
+#include "link/port.h"
+#include "platform/doors.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kSimDevice = "sim";
+constexpr int kPortTab = 0, kPosiTab = 1, kUnitTab = 2, kLanguageTab = 3;
+
+/// Device names in the order of the combo box.
+std::vector<std::string> listed_devices;
+
+int TypedPortNo() { return static_cast<int>(Val(frmOptions2.txtPortNo.Text)); }
+
+bool IsPortNo(int number) { return number >= 1 && number <= 9; }
+
+void ShowDeviceOfPort() {
+  const std::string device = IsPortNo(TypedPortNo()) ? PortDevice(TypedPortNo()) : std::string();
+  frmOptions2.comboPortDevice.ListIndex = -1;
+  for (std::size_t i = 0; i < listed_devices.size(); ++i) {
+    if (listed_devices[i] == device) frmOptions2.comboPortDevice.ListIndex = static_cast<int>(i);
+  }
+}
+
+void ListDevices() {
+  ComboBox& combo = frmOptions2.comboPortDevice;
+  combo.Clear();
+  listed_devices = doors.serial->PortNames();
+  const std::string set = PortDevice(AppState.PortNo);
+  bool listed = set.empty() || set == kSimDevice;
+  for (const std::string& name : listed_devices) listed = listed || name == set;
+  if (!listed) listed_devices.push_back(set);  // set by hand, not present now
+  for (const std::string& name : listed_devices) combo.AddItem(name, 0);
+  listed_devices.emplace_back(kSimDevice);
+  combo.AddItem(Text(5304), 0);
+}
+
+void ShowTab() {
+  FrmOptions2& f = frmOptions2;
+  const int tab = f.tabOptions.Selected;
+  for (Control* control :
+       std::initializer_list<Control*>{&f.lblPortNo, &f.txtPortNo, &f.lblPortHint, &f.lblPortDevice,
+                                       &f.comboPortDevice, &f.chkPortOccupy}) {
+    control->Visible = tab == kPortTab;
+  }
+  for (Control* control :
+       std::initializer_list<Control*>{&f.lblRounding, &f.optRoundUp, &f.optRoundDown}) {
+    control->Visible = tab == kPosiTab;
+  }
+  for (Control* control :
+       std::initializer_list<Control*>{&f.lblUnit, &f.optUnitMm, &f.optUnitPulse}) {
+    control->Visible = tab == kUnitTab;
+  }
+  for (Control* control :
+       std::initializer_list<Control*>{&f.lblLanguage, &f.optJapanese, &f.optEnglish}) {
+    control->Visible = tab == kLanguageTab;
+  }
+}
+
+void LoadOptions() {
+  FrmOptions2& f = frmOptions2;
+  f.tabOptions.Selected = kPortTab;
+  f.txtPortNo.Text = std::to_string(AppState.PortNo);
+  ListDevices();
+  ShowDeviceOfPort();
+  f.chkPortOccupy.Value = AppState.PortOccupy;
+  (AppState.MmRoundUp ? f.optRoundUp : f.optRoundDown).Choose();
+  (AppState.DispMmUnit ? f.optUnitMm : f.optUnitPulse).Choose();
+  const bool japanese = (AppState.LanguageNo == 1) != AppState.LanguageChanged;
+  (japanese ? f.optJapanese : f.optEnglish).Choose();
+  ShowTab();
+}
+
+/// A port that changes takes effect at its next opening, so an open one is shut.
+void TakePort() {
+  const int typed = TypedPortNo();
+  const std::string before = PortDevice(AppState.PortNo);
+  if (IsPortNo(typed)) {
+    AppState.PortNo = static_cast<std::int16_t>(typed);
+  } else {
+    LoadSettingPortNo();
+  }
+  const int device = frmOptions2.comboPortDevice.ListIndex;
+  if (device >= 0) {
+    PutSetting("PortDevice" + std::to_string(AppState.PortNo),
+               listed_devices[static_cast<std::size_t>(device)]);
+  }
+  PutSetting("PortNo", AppState.PortNo);
+  if (PortDevice(AppState.PortNo) != before) TusinPortCloseForce();
+  PortLampHyoji();
+}
+
+void TakeUnit() {
+  const bool mm = frmOptions2.optUnitMm.Value;
+  if (mm == AppState.DispMmUnit) return;
+  // The grid still holds the old unit's texts: they are taken into the table before it changes.
+  if (Hooks.PosiDataCheck && Hooks.PosiDataCheck() != 0) {
+    MsgBox(TwoLines(2541, 2542));
+    return;
+  }
+  PutSetting("DispMmUnit", mm ? 1 : 0);
+  AppState.DispMmUnit = mm;
+  Call(Hooks.PosiUnitChanged);
+}
+
+void TakeOptions() {
+  FrmOptions2& f = frmOptions2;
+  TakePort();
+  AppState.LanguageChanged = f.optJapanese.Value != (AppState.LanguageNo == 1);
+  TakeUnit();
+  AppState.MmRoundUp = f.optRoundUp.Value;
+  PutSetting("MmRoundUp", AppState.MmRoundUp ? 1 : 0);
+  AppState.PortOccupy = f.chkPortOccupy.Value;
+  PutSetting("PortOccupy", AppState.PortOccupy ? 1 : 0);
+  if (!AppState.PortOccupy && !AppState.ComBusy) TusinPortClose();
+  if (AppState.LanguageChanged) MsgBox(TwoLines(420, 421), MsgButtons::Ok, MsgIcon::Information);
+}
+
+void Close() { frmOptions2.Visible = false; }
+
+}  // namespace
+
+void ShowOptions() { ShowViewModal(frmOptions2); }
+
+void InstallOptionsView() {
+  FrmOptions2& f = frmOptions2;
+  f.Load = LoadOptions;
+  f.tabOptions.Click = ShowTab;
+  // The digits that the field takes; the number's own range is 1 to 9 and is checked by OK.
+  f.txtPortNo.AllowedChars = "0123";
+  f.txtPortNo.Change = ShowDeviceOfPort;
+  f.txtPortNo.Enter = [] { doors.forms->SetFocus(frmOptions2.cmdOk); };
+  f.cmdOk.Click = [] {
+    TakeOptions();
+    Close();
+  };
+  // Apply closes without taking anything, as Cancel does: that is how this view has always worked.
+  f.cmdApply.Click = Close;
+  f.cmdCancel.Click = Close;
+}
+
+}  // namespace tr7

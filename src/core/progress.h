@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace tr7 {
+
+/// Shows the progress bar at 0; the cancel button beside it while `ProgressWriting` is True.
+void Disp_ProgressBar();
+/// Takes bar, status text and cancel button away.
+void Hide_ProgressBar();
+
+/// The bar for the length of a flow: status text, maximum, shown; taken away on every way out.
+class ProgressScope {
+ public:
+  ProgressScope(const std::string& status, int maximum, bool may_cancel);
+  ~ProgressScope();
+  ProgressScope(const ProgressScope&) = delete;
+  ProgressScope& operator=(const ProgressScope&) = delete;
+  void Set(int value);
+  void Advance();
+};
+
+}  // namespace tr7

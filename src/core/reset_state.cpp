@@ -1,0 +1,78 @@
+#include "core/reset_state.h"
+
+#include <memory>
+
+#include "core/app_state.h"
+#include "core/hooks.h"
+#include "core/install_views.h"
+#include "core/views.h"
+#include "forms/frm_device.h"
+#include "forms/frm_main.h"
+#include "forms/frm_options2.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_selection.h"
+#include "forms/frm_splash.h"
+#include "forms/frm_stroke_calc.h"
+#include "forms/frm_syogo_kekka.h"
+#include "link/motion_commands.h"
+#include "link/para_commands.h"
+#include "link/request_queue.h"
+#include "para/dev_setting.h"
+#include "para/device_list.h"
+#include "para/error_list.h"
+#include "para/param_set.h"
+#include "para/std_table.h"
+#include "posi/posi_table.h"
+
+namespace tr7 {
+namespace {
+
+/// Views hold pointers to their own controls, so they are built anew in place.
+template <typename View, typename... Args>
+void Renew(View& view, Args... args) {
+  std::destroy_at(&view);
+  std::construct_at(&view, args...);
+}
+
+}  // namespace
+
+void ResetState() {
+  ResetViews();
+  Hooks = HookTable{};
+  AppState = AppStateRecord{};
+  TusinQueues = RequestQueues{};
+  ResetMotionCommands();
+  ErrorList = ErrorListRecord{};
+  CtDev.fill(CtDeviceRecord{});
+  DevSetting.fill(DevSettingRecord{});
+  DevSettei.fill(DevSettingRecord{});
+  FileDevice.fill({});
+  DeviceList.fill(DeviceListRecord{});
+  DevListMissing.fill(False);
+  DeviceLookup = DeviceLookupRecord{};
+  ParamSet = ParamSetRecord{};
+  ParaTable = ParaTableRecord{};
+  ParaFlags = ParaFlagsRecord{};
+  StdTable.fill(StdList{});
+  CommonTable = CommonTableRecord{};
+  PosiTable = PosiTableRecord{};
+  Renew(frmMain);
+  Renew(frmSplash);
+  Renew(frmPosi);
+  Renew(frmSelection, "frmSelection");
+  Renew(frmSelection2, "frmSelection2");
+  Renew(frmOptions2);
+  Renew(frmParameta2);
+  Renew(frmStrokeCalc);
+  Renew(frmDevice2, "frmDevice2", 6250, false);
+  Renew(frmDevice3, "frmDevice3", 6251, true);
+  Renew(frmSyogoKekka);
+  Renew(frmSelectPosiNo2, "frmSelectPosiNo2", 5350);
+  Renew(frmSelectPosiNo3, "frmSelectPosiNo3", 5355);
+  Renew(frmSelectPosiNo4, "frmSelectPosiNo4", 5356);
+  InstallViews();
+}
+
+}  // namespace tr7

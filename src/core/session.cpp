@@ -1,0 +1,145 @@
+#include "core/session.h"
+
+#include <string>
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/frame_menus.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/progress.h"
+#include "core/reconcile.h"
+#include "core/text.h"
+#include "core/version_check.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "link/para_commands.h"
+#include "link/port.h"
+#include "link/status_commands.h"
+#include "platform/doors.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kConnectSteps = 4;
+
+int ConnectSteps() {
+  SetOnline();
+  AppState.TusinFailed = False;
+  ProgressScope progress(Text(368), kConnectSteps, false);
+  if (CtComStart(1) != 0) return 1;
+  if (GetVersionNoDisp() != 0) return 1;
+  if (!CheckModelMarker()) return 1;
+  AppState.AxisCount = AppState.CtAxisDigit;
+  progress.Set(1);
+  if (ReconcileMode(progress) != 0) return 1;
+  if (ReconcileDevices(DeviceReconcile::Connect) != 0) return 1;
+  // The controller's own axes, also where they are disregarded: its replies speak of them.
+  AppState.AxisPattern = AppState.AxisPatternOfCt;
+  AppState.CtModePending = False;
+  progress.Set(kConnectSteps);
+  VersionHyoji();
+  return 0;
+}
+
+void FailToOffline() {
+  SetOffline();
+  TusinPortCloseForce();
+  SetOnlineTabs();
+  ChangeMenuDisp(AppState.CtMode);
+}
+
+int FirstConnectionSteps() {
+  ProgressScope progress(Text(368), kConnectSteps, false);
+  if (CtControlModeSet(0, 0, 0) != 0) return 1;
+  if (GetVersionNoDisp() != 0) return 1;
+  if (!CheckModelMarker()) return 1;
+  AppState.AxisCount = AppState.CtAxisDigit;
+  progress.Set(1);
+  if (ReadCtModeAndAxis() != 0) return 1;
+  TakeModeAndAxesOfCt();
+  progress.Set(2);
+  DispControlerMode();
+  ChangeMenuDisp(AppState.CtMode);
+  if (ReadCtDeviceFromCt() != 0) return 1;
+  progress.Set(3);
+  Call(Hooks.TakeDevFromCt);
+  Call(Hooks.RecalcLimits);
+  TusinPortClose();
+  frmMain.lblStatus.Caption = Text(1902);
+  doors.forms->Refresh();
+  Call(Hooks.RebuildPosiView);
+  progress.Set(kConnectSteps);
+  SetOnlineTabs();
+  VersionHyoji();
+  return 0;
+}
+
+}  // namespace
+
+int fChangeToOnline() {
+  if (TusinPortOpen() != 0) return 1;
+  if (ConnectSteps() == 0) return 0;
+  FailToOffline();
+  return 1;
+}
+
+int OpenPortOrTell() {
+  if (TusinPortOpen() == 0) return 0;
+  MsgBox(Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText);
+  return 1;
+}
+
+int ChangeToOnlineFromCommand() { return OpenPortOrTell() == 0 ? fChangeToOnline() : 1; }
+
+void ChangeToOnlineMenu() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  ChangeToOnlineFromCommand();  // the step that failed has told the user
+  TusinPortClose();
+}
+
+void ChangeToOfflineMenu() {
+  const CommandsOff commands_off;
+  if (!AppState.Offline &&
+      MsgBox(Text(432), MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
+    return;
+  }
+  TusinPortCloseForce();
+  SetOffline();
+}
+
+int FirstConnection() {
+  const auto muko = AppState.AxisMuko;
+  AppState.Offline = False;
+  if (FirstConnectionSteps() == 0) return 0;
+  // Half a controller's state is nobody's: the offline start begins with all axes.
+  AppState.AxisMuko = muko;
+  AppState.AxisPattern = 0;
+  FailToOffline();
+  return 1;
+}
+
+void LiftOffline() {
+  if (!AppState.Offline) return;
+  AppState.Offline = False;
+  AppState.OfflineTemporarilyLifted = True;
+}
+
+void SettleOnlineState() {
+  if (!AppState.Offline && !frmMain.imgOnline.Visible) SetOffline();
+  AppState.OfflineTemporarilyLifted = False;
+}
+
+void SetOnlineTabs() {
+  const bool on = !AppState.Offline && !AppState.CtModePending;
+  for (TabStrip* strip : {&frmPosi.tabCmd, &frmPosi.tabCmdPrg}) {
+    for (std::size_t tab : {1u, 2u}) strip->Tabs[tab].Enabled = on;
+    if (!on && strip->Selected != 0) {
+      strip->Selected = 0;
+      Call(strip->Click);
+    }
+  }
+}
+
+}  // namespace tr7

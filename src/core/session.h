@@ -1,0 +1,36 @@
+#pragma once
+
+namespace tr7 {
+
+/// The connect sequence with a dialogue for each difference between PC and controller. 0: online;
+/// 1: offline with the line shut. It ends in one of the two, never between.
+int fChangeToOnline();
+
+/// The same for a command that was started offline: menus and tabs follow. 0 or 1.
+int ChangeToOnlineFromCommand();
+
+/// Opens the line for a command of the user's; a failure is told with its reason. 0 or 1.
+int OpenPortOrTell();
+
+/// `mnuSettingOnline` and `mnuSettingOffline`.
+void ChangeToOnlineMenu();
+void ChangeToOfflineMenu();
+
+/// The first connection at the start: no dialogues, since the PC holds nothing yet. 0 or 1.
+int FirstConnection();
+
+/// Lets the requests of a command out that was started offline and needs no connect sequence. The
+/// first good reply makes the state online; without one `SettleOnlineState` takes it back.
+void LiftOffline();
+
+/// At the end of a command: online is only what a good reply has confirmed, as the lamp shows.
+void SettleOnlineState();
+
+/// Tabs 1 and 2 of the position view's command strips: on when online, unless the controller waits
+/// for the power cycle of a mode change.
+void SetOnlineTabs();
+
+/// `mnuSettingCtMode`: asks for the mode and writes it to the controller.
+void ChangeCtModeMenu();
+
+}  // namespace tr7

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tr7 {
+
+/// One row of the message table.
+struct MessageRow {
+  int id;
+  std::string japanese;
+  std::string english;
+};
+
+/// All rows, sorted by id.
+const std::vector<MessageRow>& MessageTable();
+
+/// The text of a message in the user's language (`LangOffset`). An id that the table lacks gives
+/// "#" and the id, so that it is seen.
+std::string Text(int id);
+
+/// The text with "%1" and "%2" replaced.
+std::string Text(int id, const std::string& arg1, const std::string& arg2 = {});
+
+}  // namespace tr7

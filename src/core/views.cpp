@@ -1,0 +1,114 @@
+#include "core/views.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/text.h"
+#include "forms/control.h"
+#include "platform/doors.h"
+
+namespace tr7 {
+namespace {
+
+std::vector<View*> open_views;
+View* active_view = nullptr;
+
+void ApplyControlCaption(Control& control) {
+  if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    for (Tab& tab : tabs->Tabs) {
+      if (tab.Tag > 0) tab.Caption = Text(tab.Tag);
+    }
+  } else if (auto* bar = dynamic_cast<Toolbar*>(&control)) {
+    for (ToolButton& button : bar->Buttons) {
+      if (button.Tag > 0) button.ToolTipText = Text(button.Tag);
+    }
+  } else if (control.Tag > 0) {
+    control.Caption = Text(control.Tag);
+  }
+}
+
+}  // namespace
+
+const std::vector<View*>& OpenViews() { return open_views; }
+View* ActiveView() { return active_view; }
+void SetActiveView(View* view) {
+  if (active_view == view) return;
+  active_view = view;
+  if (view && view->Activate) view->Activate();
+}
+
+void ApplyViewCaptions(View& view) {
+  // The frame sets its own caption: it carries the version.
+  if (view.Tag != 0 && std::string_view(view.Name) != "frmMain") view.Caption = Text(view.Tag);
+  for (Control* control : view.Controls) ApplyControlCaption(*control);
+}
+
+namespace {
+
+void LoadView(View& view) {
+  // The view counts as open while it loads: the frame's load runs the whole start.
+  if (std::find(open_views.begin(), open_views.end(), &view) == open_views.end()) {
+    open_views.push_back(&view);
+  }
+  if (view.Loaded) return;
+  view.Loaded = true;
+  ApplyViewCaptions(view);
+  if (view.Load) view.Load();
+}
+
+}  // namespace
+
+void ShowView(View& view) {
+  LoadView(view);
+  view.Visible = true;
+  doors.forms->Show(view);
+  if (view.MdiChild) SetActiveView(&view);
+}
+
+void ShowViewModal(View& view) {
+  LoadView(view);
+  view.Visible = true;
+  doors.forms->ShowModal(view);
+  UnloadView(view);
+}
+
+void UnloadView(View& view) {
+  view.Visible = false;
+  std::erase(open_views, &view);
+  doors.forms->Hide(view);
+  if (view.Loaded) {
+    view.Loaded = false;
+    if (view.Unload) view.Unload();
+  }
+  if (active_view == &view) {
+    active_view = nullptr;
+    for (View* other : open_views) {
+      if (other->MdiChild) SetActiveView(other);
+    }
+  }
+}
+
+bool CloseView(View& view, CloseReason reason) {
+  if (view.QueryUnload && view.QueryUnload(reason)) return false;
+  UnloadView(view);
+  return true;
+}
+
+void ResetViews() {
+  open_views.clear();
+  active_view = nullptr;
+}
+
+void AllViewsCmdMuko() {
+  for (std::size_t i = 0; i < open_views.size(); ++i) {
+    if (open_views[i]->CmdMuko) open_views[i]->CmdMuko();
+  }
+}
+
+void AllViewsCmdYuko() {
+  for (std::size_t i = 0; i < open_views.size(); ++i) {
+    if (open_views[i]->CmdYuko) open_views[i]->CmdYuko();
+  }
+}
+
+}  // namespace tr7

@@ -1,0 +1,197 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/view.h"
+
+namespace tr7 {
+
+/// What every control has. `Tag` is the message id of its caption; 0 leaves the caption alone.
+struct Control {
+  Control(View& owner, const char* type_name, std::string name, int tag = 0)
+      : Owner(&owner), TypeName(type_name), Name(std::move(name)), Tag(tag) {
+    owner.Controls.push_back(this);
+  }
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  View* Owner;
+  const char* TypeName;
+  std::string Name;
+  int Tag;
+  std::string Caption;
+  std::string ToolTip;
+  bool Enabled = true;
+  bool Visible = true;
+};
+
+struct Label : Control {
+  Label(View& owner, const std::string& name, int tag = 0) : Control(owner, "Label", name, tag) {}
+  double Width = 0;  ///< twips; 0: as wide as the layout makes it
+  std::function<void()> DblClick;
+};
+
+/// A picture lamp: lit or dark by `Visible`.
+struct Image : Control {
+  Image(View& owner, const std::string& name, int tag = 0) : Control(owner, "Image", name, tag) {}
+};
+
+struct Frame : Control {
+  Frame(View& owner, const std::string& name, int tag = 0) : Control(owner, "Frame", name, tag) {}
+};
+
+struct CommandButton : Control {
+  CommandButton(View& owner, const std::string& name, int tag = 0)
+      : Control(owner, "CommandButton", name, tag) {}
+  bool Default = false;  ///< Enter presses it
+  bool Cancel = false;   ///< Escape presses it
+  std::function<void()> Click;
+  /// Presses the button as a user does: nothing when it is off or hidden.
+  void Press() {
+    if (Enabled && Visible && Click) Click();
+  }
+};
+
+struct TextBox : Control {
+  TextBox(View& owner, const std::string& name, int tag = 0)
+      : Control(owner, "TextBox", name, tag) {}
+  std::string Text;
+  int MaxLength = 0;           ///< characters; 0: no limit
+  std::string AllowedChars;    ///< keys that are taken beside Backspace and Tab; empty: all
+  bool InputMethodOff = true;  ///< number fields switch the input method off
+  std::function<void()> Change;
+  std::function<void()> LostFocus;
+  std::function<void()> Enter;  ///< the Enter key
+  /// Types a text as a user does: replaces the content by what the field takes of it.
+  void Type(const std::string& typed);
+};
+
+struct CheckBox : Control {
+  CheckBox(View& owner, const std::string& name, int tag = 0)
+      : Control(owner, "CheckBox", name, tag) {}
+  bool Value = false;
+  std::function<void()> Click;
+  /// Sets the value as a user's click does, when it differs.
+  void Set(bool on) {
+    if (!Enabled || !Visible || Value == on) return;
+    Value = on;
+    if (Click) Click();
+  }
+};
+
+/// One of a group; the group is all option buttons of the view with the same `Group`.
+struct OptionButton : Control {
+  OptionButton(View& owner, const std::string& name, int group, int tag = 0)
+      : Control(owner, "OptionButton", name, tag), Group(group) {}
+  int Group;
+  bool Value = false;
+  std::function<void()> Click;
+  /// Chooses this option and clears the others of its group.
+  void Choose();
+  /// Chooses as a user's click does.
+  void Press() {
+    if (!Enabled || !Visible) return;
+    Choose();
+    if (Click) Click();
+  }
+};
+
+struct ComboBox : Control {
+  ComboBox(View& owner, const std::string& name, int tag = 0)
+      : Control(owner, "ComboBox", name, tag) {}
+  std::vector<std::string> List;
+  std::vector<int> ItemData;  ///< parallel to List
+  int ListIndex = -1;         ///< -1: nothing chosen
+  std::function<void()> Click;
+  std::function<void()> LostFocus;
+  void Clear();
+  void AddItem(const std::string& text, int data);
+  /// The chosen text, or empty.
+  std::string Text() const;
+  /// Shows the entry of that text; false (and no change) when the list lacks it.
+  bool ShowText(const std::string& text);
+  /// Chooses as a user does.
+  void Pick(int index);
+};
+
+struct ListBox : Control {
+  ListBox(View& owner, const std::string& name, int tag = 0)
+      : Control(owner, "ListBox", name, tag) {}
+  std::vector<std::string> List;
+  int ListIndex = -1;
+  std::function<void()> Click;
+};
+
+struct ProgressBar : Control {
+  ProgressBar(View& owner, const std::string& name) : Control(owner, "ProgressBar", name) {}
+  int Max = 100;
+  int Value = 0;  ///< 0 to Max
+};
+
+/// A menu or a menu command; "-" in the layout makes separators, which have no record.
+struct Menu : Control {
+  Menu(View& owner, const std::string& name, int tag = 0) : Control(owner, "Menu", name, tag) {}
+  std::function<void()> Click;
+  void Press() {
+    if (Enabled && Visible && Click) Click();
+  }
+};
+
+struct Tab {
+  int Tag = 0;
+  std::string Caption = {};
+  bool Enabled = true;
+};
+
+struct TabStrip : Control {
+  TabStrip(View& owner, const std::string& name, std::vector<Tab> tabs)
+      : Control(owner, "TabStrip", name), Tabs(std::move(tabs)) {}
+  std::vector<Tab> Tabs;
+  int Selected = 0;
+  std::function<void()> Click;
+};
+
+struct ToolButton {
+  const char* Key;  ///< empty: a separator
+  int Tag = 0;      ///< message id of the tool tip
+  std::string ToolTipText = {};
+  bool Enabled = true;
+};
+
+/// Buttons are addressed by index from 1, separators count.
+struct Toolbar : Control {
+  Toolbar(View& owner, const std::string& name, std::vector<ToolButton> buttons)
+      : Control(owner, "Toolbar", name), Buttons(std::move(buttons)) {}
+  std::vector<ToolButton> Buttons;
+  std::function<void(const std::string& key)> ButtonClick;
+  ToolButton& At(int index_from_1) {
+    return Buttons.at(static_cast<std::size_t>(index_from_1) - 1);
+  }
+  void Press(const std::string& key);
+};
+
+struct StatusBar : Control {
+  StatusBar(View& owner, const std::string& name, int panels)
+      : Control(owner, "StatusBar", name), Panels(static_cast<std::size_t>(panels)) {}
+  std::vector<std::string> Panels;  ///< index 0 is the first panel
+};
+
+/// Four controls of one kind, one an axis: index 0 to 3, names "base1" to "base4".
+template <typename Kind>
+struct PerAxis {
+  PerAxis(View& owner, const std::string& base, int tag = 0)
+      : items{Kind(owner, base + "1", tag), Kind(owner, base + "2", tag),
+              Kind(owner, base + "3", tag), Kind(owner, base + "4", tag)} {}
+  Kind& operator[](std::size_t axis) { return items.at(axis); }
+  const Kind& operator[](std::size_t axis) const { return items.at(axis); }
+  auto begin() { return items.begin(); }
+  auto end() { return items.end(); }
+  std::array<Kind, 4> items;
+};
+
+}  // namespace tr7

@@ -1,0 +1,17 @@
+#include "forms/frm_main.h"
+
+namespace tr7 {
+
+FrmMain::FrmMain() : View("frmMain") {
+  imgAlarm.Visible = false;
+  imgComPort.Visible = false;
+  imgOnline.Visible = false;
+  lblSimulated.Visible = false;
+  cmdComCancel.Visible = false;
+  cmdComCancel.Enabled = false;
+  ProgressBar1.Visible = false;
+}
+
+FrmMain frmMain;
+
+}  // namespace tr7

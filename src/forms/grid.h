@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace tr7 {
+
+/// 0xRRGGBB, or one of the two system colours below.
+using Colour = std::int32_t;
+inline constexpr Colour kWindowColour = -1;
+inline constexpr Colour kHeaderColour = -2;
+
+/// Least width of a column that takes the width that is left, twips.
+inline constexpr int kRestWidthAtLeast = 3500;
+
+/// Where texts stand in a column. `General`: numbers to the right, all else to the left.
+enum class ColAlign { General, Left, Centre, Right };
+
+/// A grid of texts with fixed header rows and columns. Rows and columns count from 0 and include
+/// the fixed ones. The texts are the editing buffer: what the user types lands here.
+/// `Revision` rises with every change that a drawing of the grid must show.
+struct Grid : Control {
+  Grid(View& owner, const std::string& name, int rows, int cols, int fixed_rows, int fixed_cols);
+
+  int Rows() const { return rows_; }
+  int Cols() const { return cols_; }
+  /// Grows with empty cells or cuts.
+  void SetRows(int rows);
+  void SetCols(int cols);
+  /// Inserts one empty row above `row`, or removes `row`; rows below move.
+  void InsertRow(int row);
+  void RemoveRow(int row);
+
+  const std::string& Text(int row, int col) const;
+  void SetText(int row, int col, std::string text);
+
+  /// Twips; 0 hides the column, -1 takes the width that is left.
+  void SetColWidth(int col, int twips);
+  int ColWidth(int col) const { return col_widths_[Index(col)]; }
+  void SetRowHeight(int row, int twips);
+  /// Twips; 0: the platform's own height.
+  int RowHeight(int row) const;
+  void SetColColour(int col, Colour colour);
+  Colour ColColour(int col) const { return col_colours_[Index(col)]; }
+  void SetColAlign(int col, ColAlign align);
+  ColAlign AlignOf(int col) const { return col_aligns_[Index(col)]; }
+
+  void SelectCell(int row, int col);
+  void Select(int row, int col, int row_end, int col_end);
+
+  /// Marks the grid as changed where a change is not one of the texts above (cell marks).
+  void Touch() { ++Revision; }
+
+  int FixedRows;
+  int FixedCols;
+  int Row = 0, Col = 0;        ///< current cell
+  int RowSel = 0, ColSel = 0;  ///< other corner of the selection
+  int TopRow = 0;              ///< first body row on show
+  bool Redraw = true;          ///< false: painting waits
+  std::uint64_t Revision = 0;
+
+  // Rules that logic sets.
+  std::function<bool(int row, int col)> CanEdit;
+  /// Asked when an edit ends: 0 accepts, with the text to show in `text`; 1 refuses.
+  std::function<int(int row, int col, std::string& text)> AcceptEdit;
+  std::function<int(int col)> MaxLength;           ///< characters; 0: no limit
+  std::function<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
+  std::function<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
+  std::function<std::string(int row, int col)> CellToolTip;
+  std::function<void()> SelChange;
+  /// The Enter or Tab key with no edit open or after one was accepted: moves the current cell.
+  std::function<void(bool backwards)> MoveOn;
+  std::function<void()> Copy;   ///< Ctrl+C
+  std::function<void()> Paste;  ///< Ctrl+V
+
+  /// Edits the cell as a user does: selects it, and when it may be edited hands the text to
+  /// `AcceptEdit` and keeps what that gives back. 0 accepted, 1 refused (the old text stays).
+  int TypeInto(int row, int col, const std::string& typed);
+  /// Its two halves, for an editor on the screen.
+  bool MayEdit(int row, int col) const;
+  int EndEdit(int row, int col, std::string typed);
+
+ private:
+  std::size_t Index(int col) const { return static_cast<std::size_t>(col); }
+  std::size_t CellIndex(int row, int col) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) + Index(col);
+  }
+
+  int rows_ = 0;
+  int cols_ = 0;
+  std::vector<std::string> cells_;
+  std::vector<int> col_widths_;
+  std::vector<Colour> col_colours_;
+  std::vector<ColAlign> col_aligns_;
+  std::vector<int> row_heights_;  ///< of the rows that have one
+};
+
+}  // namespace tr7

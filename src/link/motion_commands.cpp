@@ -1,0 +1,100 @@
+#include "link/motion_commands.h"
+
+#include "core/text_helpers.h"
+#include "link/tusin_wait.h"
+
+namespace tr7 {
+namespace {
+
+std::string last_move_direct_text;
+
+/// Hexadecimal text without a fixed width.
+std::string Hex(int value) {
+  std::string text;
+  do {
+    text.insert(text.begin(), "0123456789ABCDEF"[value % 16]);
+    value /= 16;
+  } while (value > 0);
+  return text;
+}
+
+/// A position number in at least three digits.
+std::string PositionField(int position_no) {
+  const std::string text = Hex(position_no);
+  return text.size() < 3 ? std::string(3 - text.size(), '0') + text : text;
+}
+
+std::string DirectMoveField(const DirectMoveAxis& axis) {
+  if (!axis.moves) return "00101000000";
+  return HexPad(axis.velocity, 3) + HexPad(axis.acceleration, 2) + "1" + HexPad(axis.position, 5);
+}
+
+}  // namespace
+
+int AxesInUseMask() {
+  int mask = 0;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    if (!AppState.AxisMuko[static_cast<std::size_t>(axis)]) mask |= 1 << axis;
+  }
+  return mask;
+}
+
+int MoveAxesToCt(int position_no, int kind) {
+  std::string reply;
+  const std::string command = kind == 1 ? "0MS" : "0MP";
+  return TusinCommand(command + PositionField(position_no) + Hex(AxesInUseMask()), 5, 1000, reply);
+}
+
+int StartProgToCt(int program_no) {
+  std::string number = std::to_string(program_no);
+  if (number.size() == 1) number.insert(0, "0");
+  std::string reply;
+  return TusinCommand("0MG" + number, 7, 0, reply);
+}
+
+int StopToCt(int timeout_ms) {
+  std::string reply;
+  return TusinCommand("0SP", 5, timeout_ms, reply);
+}
+
+int JogStartToCt(int speed_percent, int direction_code) {
+  const bool in_range = speed_percent >= 10 && speed_percent <= 90;
+  std::string command = "0JR" + std::to_string(in_range ? speed_percent / 10 : 0);
+  for (int axis = 0; axis < kAxes; ++axis) {
+    command += axis == direction_code / 2 ? std::to_string(direction_code % 2 + 1) : "0";
+  }
+  std::string reply;
+  return TusinCommand(command, 5, 1000, reply);
+}
+
+int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::string& tail) {
+  std::string command = "0MV";
+  for (const DirectMoveAxis& axis : axes) command += DirectMoveField(axis);
+  last_move_direct_text = command + tail;
+  std::string reply;
+  return TusinCommand(last_move_direct_text, 5, 1000, reply);
+}
+
+const std::string& LastMoveDirectText() { return last_move_direct_text; }
+void ResetMotionCommands() { last_move_direct_text.clear(); }
+
+int ReadPresentPosFromCt(std::array<std::int32_t, kAxes>& pulses) {
+  constexpr std::int64_t kSmallNegative = 0xF0000;
+  int used = 0;
+  for (int axis = 0; axis < kAxes; ++axis)
+    used += AppState.AxisMuko[static_cast<std::size_t>(axis)] ? 0 : 1;
+  std::string reply;
+  if (TusinCommand("0RC" + Hex(AxesInUseMask()), 6 + 5 * used, 1000, reply) != 0) return 1;
+  std::size_t at = 4;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const auto index = static_cast<std::size_t>(axis);
+    if (AppState.AxisMuko[index]) continue;
+    const std::int64_t value = HexValue(std::string_view(reply).substr(at, 5));
+    if (value < 0) return 1;
+    pulses[index] = value > kSmallNegative ? 0 : static_cast<std::int32_t>(value);
+    at += 5;
+  }
+  return 0;
+}
+
+}  // namespace tr7

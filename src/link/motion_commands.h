@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "core/app_state.h"
+
+namespace tr7 {
+
+// Commands that move axes. 0 success, 1 failure; the exchange has told the user of a failure.
+
+/// "0MP" (or "0MS" for kind 1): moves the axes in use to a position number.
+int MoveAxesToCt(int position_no, int kind);
+
+/// "0MG": starts a program, number in two digits. The time-out is 0: the wait has no bound.
+int StartProgToCt(int program_no);
+
+/// "0SP": stops. `timeout_ms` 1000 or 5000.
+int StopToCt(int timeout_ms);
+
+/// "0JR": jogs. `speed_percent` 10 to 90 goes out divided by 10, anything else as 0;
+/// `direction_code` is 2 x axis (from 0), plus 1 for the second direction.
+int JogStartToCt(int speed_percent, int direction_code);
+
+/// One axis of a direct move.
+struct DirectMoveAxis {
+  bool moves = false;
+  int velocity = 1;      ///< mm/s
+  int acceleration = 1;  ///< 10 ms
+  int position = 0;      ///< pulses
+};
+
+/// "0MV": moves axes directly. `tail` closes the frame as the kind of move asks.
+int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::string& tail);
+/// The last text that `MoveDirectToCt` sent, for repeats.
+const std::string& LastMoveDirectText();
+void ResetMotionCommands();
+
+/// "0RC": present positions of the axes in use, in pulses; a small negative counts as 0.
+int ReadPresentPosFromCt(std::array<std::int32_t, kAxes>& pulses);
+
+/// Bit mask of the axes in use on the PC: axis i has bit 1 << i.
+int AxesInUseMask();
+
+}  // namespace tr7

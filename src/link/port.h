@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+namespace tr7 {
+
+/// Opens the line when it is shut. 0 success; 1 failure, with the reason in
+/// `AppState.PortFaultText`.
+int TusinPortOpen();
+/// The same routine under the name that the device comparison uses.
+inline int TusinPortOpen2() { return TusinPortOpen(); }
+
+/// Closes the line unless `PortOccupy` keeps it.
+void TusinPortClose();
+/// Closes the line always.
+void TusinPortCloseForce();
+
+/// The device behind a port number 1 to 9: the setting `PortDevice`n, else the n-th port that the
+/// system lists; empty when there is none.
+std::string PortDevice(int port_no);
+
+/// Offline on with the lamp off, and the reverse.
+void SetOffline();
+void SetOnline();
+
+/// Shows the port lamp and whether the controller is a simulated one.
+void PortLampHyoji();
+
+}  // namespace tr7

@@ -1,0 +1,13 @@
+#include "para/dev_setting.h"
+
+namespace tr7 {
+
+std::array<DevSettingRecord, kAxes> DevSetting;
+std::array<DevSettingRecord, kAxes> DevSettei;
+std::array<std::string, kAxes> FileDevice;
+
+void CalcMmPerPulse(DevSettingRecord& device) {
+  device.MmPerPulse = device.Ppr == 0 ? 0 : static_cast<double>(device.Lead) / device.Ppr;
+}
+
+}  // namespace tr7

@@ -1,0 +1,19 @@
+#pragma once
+
+namespace tr7 {
+
+// Parameter files as the user saves and opens them. The view's commands are off while one runs.
+
+/// `cmdSaveParaFile`: checks the view, asks for a name and saves. 0 saved; 1 not: a wrong value,
+/// Cancel, or a failure, each told in a box except Cancel.
+int SaveParaToFile();
+
+/// `cmdReadParaFile`: asks for a file, takes it into `ParamSet` and shows it in the view.
+void OpenParaFile();
+
+/// Asks for a parameter file from which devices are taken, and reads it into `ParamSet`; up to four
+/// attempts, 100 ms apart. 0 done; 1 cancelled, or failed after message 681. The view is not
+/// redrawn.
+int OpenParaForDevice();
+
+}  // namespace tr7

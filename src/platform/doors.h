@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/clipboard.h"
+#include "platform/event_pump.h"
+#include "platform/files.h"
+#include "platform/form_host.h"
+#include "platform/help_viewer.h"
+#include "platform/serial_port.h"
+#include "platform/settings_store.h"
+
+namespace tr7 {
+
+/// The set of doors in use. The program or the test that installs it owns the objects, keeps them
+/// alive as long as logic runs, and installs all of them before the first call.
+struct Doors {
+  EventPump* pump = nullptr;
+  SerialPort* serial = nullptr;
+  SettingsStore* settings = nullptr;
+  FormHost* forms = nullptr;
+  Clipboard* clipboard = nullptr;
+  Files* files = nullptr;
+  HelpViewer* help = nullptr;
+};
+
+extern Doors doors;
+
+}  // namespace tr7

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace tr7 {
+
+/// The door to time and to the event queue. One thread: everything that happens, happens in a
+/// tick or a user event that the pump serves. `Run` may be called from any handler, so a handler
+/// may re-enter every routine that is not guarded.
+class EventPump {
+ public:
+  virtual ~EventPump() = default;
+
+  /// Monotonic clock, microseconds.
+  virtual std::int64_t NowUs() const = 0;
+
+  /// Serves what is due. When nothing is, sleeps until something is, and serves that.
+  virtual void Run() = 0;
+
+ protected:
+  /// Serves each timer that is due once, in table order. True when one ticked.
+  bool ServeDueTimers();
+  /// When the next timer is due or the serial port next has something to say; nothing when never.
+  std::optional<std::int64_t> NextDueUs() const;
+};
+
+/// Serves what is due through the installed pump, or sleeps until something is.
+void Pump();
+
+}  // namespace tr7

@@ -1,0 +1,58 @@
+#include "platform/virtual/virtual_form_host.h"
+
+#include "core/views.h"
+#include "forms/control.h"
+#include "forms/view.h"
+#include "platform/event_pump.h"
+
+namespace tr7 {
+
+void VirtualFormHost::Show(View& view) { view.Visible = true; }
+
+void VirtualFormHost::ShowModal(View& view) {
+  view.Visible = true;
+  modals.emplace_back(view.Name);
+  if (const auto script = on_modal.find(view.Name); script != on_modal.end()) {
+    script->second(view);
+  } else if (on_any_modal) {
+    on_any_modal(view);
+  }
+  while (view.Visible && may_wait) Pump();
+  if (!view.Visible) return;
+  unanswered.emplace_back(view.Name);
+  view.Visible = false;
+}
+
+void VirtualFormHost::Hide(View& view) { view.Visible = false; }
+
+void VirtualFormHost::BringToFront(View& view) {
+  if (view.MdiChild) SetActiveView(&view);
+}
+
+MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
+  boxes.push_back(call);
+  if (call.Buttons == MsgButtons::Ok) return MsgAnswer::Ok;
+  if (on_message_box) {
+    if (const auto answer = on_message_box(call)) return *answer;
+  }
+  if (answers.empty()) {
+    unanswered.push_back(call.Text);
+    return call.Buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
+  }
+  const MsgAnswer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+std::optional<std::string> VirtualFormHost::FileDialog(const FileDialogCall& call) {
+  file_dialogs.push_back(call);
+  if (file_answers.empty()) {
+    unanswered.push_back(call.Title);
+    return std::nullopt;
+  }
+  const auto answer = file_answers.front();
+  file_answers.pop_front();
+  return answer;
+}
+
+}  // namespace tr7

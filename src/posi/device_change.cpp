@@ -1,0 +1,66 @@
+#include "posi/device_change.h"
+
+#include "core/app_state.h"
+#include "core/message_box.h"
+#include "core/text.h"
+#include "forms/frm_posi.h"
+#include "posi/posi_check.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_keep.h"
+#include "posi/posi_table.h"
+#include "posi/posi_view.h"
+#include "posi/recalc.h"
+
+namespace tr7 {
+namespace {
+
+/// The whole loaded table is the range of an operation.
+class LoadedRange {
+ public:
+  LoadedRange() : from_(AppState.PosiFromNo), to_(AppState.PosiToNo) {
+    AppState.PosiFromNo = AppState.PosiFirstNo;
+    AppState.PosiToNo = AppState.PosiLastNo;
+  }
+  ~LoadedRange() {
+    AppState.PosiFromNo = from_;
+    AppState.PosiToNo = to_;
+  }
+  LoadedRange(const LoadedRange&) = delete;
+  LoadedRange& operator=(const LoadedRange&) = delete;
+
+ private:
+  std::int16_t from_, to_;
+};
+
+bool Recalc() { return (AppState.DispMmUnit ? RecalcPulseFromMm() : RecalcMmFromPulse()) == 0; }
+
+}  // namespace
+
+void RebuildPosiViewKeepingEdits() {
+  const KeptEdits edits;
+  RebuildPosiView();
+  edits.PutBack();
+}
+
+bool PositionsFollowDevices() {
+  RebuildPosiViewKeepingEdits();
+  if (AppState.PosiFirstNo < 1) return true;
+  const auto pulses = PosiTable.PosiPulse;
+  if (PosiDataCheckAll() != 0 || !Recalc()) {
+    MsgBox(Text(1526));
+    return false;
+  }
+  if (PosiTable.PosiPulse != pulses) frmPosi.PosiChanged = True;
+  FG_ShowTable();
+  return true;
+}
+
+void MmFollowsPulses() {
+  if (AppState.PosiFirstNo >= 1) {
+    const LoadedRange range;
+    RecalcMmFromPulse();  // a device that cannot convert leaves the millimetres as they were
+  }
+  RebuildPosiViewKeepingEdits();
+}
+
+}  // namespace tr7

@@ -1,0 +1,19 @@
+#pragma once
+
+namespace tr7 {
+
+// The loaded table after devices, axes or the mode changed. All rebuild the view; what the user has
+// typed and not committed stays.
+
+/// The view in the layout of `CtMode`.
+void RebuildPosiViewKeepingEdits();
+
+/// Checks the table against the new limits. Good: in the millimetre view the millimetres stand and
+/// the pulses are recomputed from them, in the pulse view the reverse. Bad: the user has seen
+/// which positions, and every cell stands as it was. True when the check was good.
+bool PositionsFollowDevices();
+
+/// The pulses stand in either view, and the millimetres follow them.
+void MmFollowsPulses();
+
+}  // namespace tr7

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace tr7 {
+
+/// Checks every grid line from `PosiFromNo` to `PosiToNo`. 0: all are good, and the grid's texts
+/// stand in the table (an empty grid is good, and then there is no table). 1: some are bad, the
+/// user has seen which, and the table is as it was. The grid's current cell goes to the corner.
+int PosiDataCheck3();
+
+/// The same for the program mode's layout, under its own name; `PosiDataCheck3` serves both.
+int PosiDataCheck3Prg();
+
+/// The same over the whole loaded range, which becomes the range of the operation: for whoever
+/// lets the user narrow it afterwards or not at all.
+int PosiDataCheckAll();
+
+/// False, after telling so, when an axis in use has no device to convert by.
+bool AllAxesConvert();
+
+/// 0 when there is a table; 1, after telling so, when there is none.
+int Check_flgdLineNo();
+
+}  // namespace tr7

@@ -1,0 +1,130 @@
+#include "posi/posi_edit.h"
+
+#include <string>
+
+#include "core/app_state.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/text.h"
+#include "forms/frm_posi.h"
+#include "platform/doors.h"
+#include "posi/cell_rules.h"
+#include "posi/posi_check.h"
+#include "posi/posi_clipboard.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_hint.h"
+#include "posi/posi_lines.h"
+#include "posi/posi_table.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgAllGood = 6358;
+
+/// Ends an edit. Leaving a cell as it was is no edit, so it is neither judged nor a change.
+int AcceptEdit(int row, int col, std::string& text) {
+  Grid& grid = frmPosi.flgdData;
+  frmPosi.OldCellText = grid.Text(row, col);
+  if (text == frmPosi.OldCellText) return 0;
+  if (grid.RowSel != row || grid.ColSel != col) grid.SelectCell(row, col);
+  if (SetCellData(row, col, text) != 0) {
+    text = frmPosi.OldCellText;
+    doors.forms->Beep();
+    TellInStatusPanel(RefusalText(col));
+    return 1;
+  }
+  frmPosi.PosiChanged = True;
+  return 0;
+}
+
+/// The shown body column beside `col` in a direction; 0 when there is none.
+int ShownBeside(int col, int step) {
+  for (int next = col + step; next >= 1 && next < kPosiColumns; next += step) {
+    if (IsShownColumn(next)) return next;
+  }
+  return 0;
+}
+
+int LastShownColumn() { return ShownBeside(kPosiColumns, -1); }
+
+void MoveForward() {
+  Grid& grid = frmPosi.flgdData;
+  if (grid.Row < kPosiHeaderRows) {
+    grid.SelectCell(kPosiHeaderRows, FirstShownColumn());
+  } else if (const int next = ShownBeside(grid.Col, 1); next > 0) {
+    grid.SelectCell(grid.Row, next);
+  } else if (grid.Row + 1 < grid.Rows() || (AppState.CtMode && AppendLine())) {
+    grid.SelectCell(grid.Row + 1, FirstShownColumn());
+  } else {
+    grid.SelectCell(grid.Row, grid.Col);
+  }
+}
+
+void MoveBack() {
+  Grid& grid = frmPosi.flgdData;
+  if (const int before = ShownBeside(grid.Col, -1); before > 0 && grid.Row >= kPosiHeaderRows) {
+    grid.SelectCell(grid.Row, before);
+  } else if (grid.Row > kPosiHeaderRows) {
+    grid.SelectCell(grid.Row - 1, LastShownColumn());
+  } else {
+    grid.SelectCell(kPosiHeaderRows, FirstShownColumn());
+  }
+}
+
+/// Enter and Tab: over the hidden columns, and from a line's end to the next line. In program mode
+/// the table grows by a line at its end.
+void MoveOn(bool backwards) {
+  const Grid& grid = frmPosi.flgdData;
+  if (!grid.Enabled || grid.Rows() <= kPosiHeaderRows) return;
+  if (backwards) {
+    MoveBack();
+  } else {
+    MoveForward();
+  }
+}
+
+}  // namespace
+
+void cmdPosiCheck_Click() {
+  if (Check_flgdLineNo() != 0) return;
+  int result = 0;
+  {
+    const KeepPlace place;
+    result = PosiDataCheckAll();
+  }
+  if (result == 0) {
+    MsgBox(Text(kMsgAllGood), MsgButtons::Ok, MsgIcon::Information);
+    return;
+  }
+  for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
+    if (!PosiTable.PosiLineBad[static_cast<std::size_t>(n)]) continue;
+    frmPosi.flgdData.SelectCell(RowOfPosition(n), FirstShownColumn());
+    return;
+  }
+}
+
+void InstallPosiEdit() {
+  FrmPosi& f = frmPosi;
+  f.flgdData.CanEdit = IsOpenCell;
+  f.flgdData.AcceptEdit = AcceptEdit;
+  f.flgdData.MaxLength = [](int col) { return col == kComment ? kCommentChars : 0; };
+  f.flgdData.InputMethodOn = [](int col) { return col == kComment; };
+  f.flgdData.MoveOn = MoveOn;
+  f.flgdData.Copy = [] { frmPosi.mnuPopupCopy.Press(); };
+  // The clipboard may have been filled elsewhere since the selection switched the menu.
+  f.flgdData.Paste = [] {
+    if (frmPosi.mnuPopupCopy.Enabled) cmdPosiPaste_Click();
+  };
+  f.cmdInsertLine.Click = cmdInsertLine_Click;
+  f.cmdDeleteLine.Click = cmdDeleteLine_Click;
+  f.cmdPosiCopy.Click = cmdPosiCopy_Click;
+  f.cmdPosiPaste.Click = cmdPosiPaste_Click;
+  f.cmdPosiCheck.Click = cmdPosiCheck_Click;
+  Hooks.PosiInsertLine = cmdInsertLine_Click;
+  Hooks.PosiDeleteLine = cmdDeleteLine_Click;
+  Hooks.PosiCopy = cmdPosiCopy_Click;
+  Hooks.PosiPaste = cmdPosiPaste_Click;
+}
+
+}  // namespace tr7

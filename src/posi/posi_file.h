@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tr7 {
+
+inline constexpr std::size_t kPosiFileLimit = 4u
+                                              << 20;  ///< bytes; a full table takes about 250,000
+
+/// Why a position file was not read or saved.
+struct PosiFileTrouble {
+  bool may_pass = false;  ///< a fault of the device, which another try may not meet
+  std::string words;      ///< the reason in the user's language
+};
+
+/// Reads a file into `PosiStage`, `FileFirstNo` and `FileLastNo` (the first and the last number in
+/// the file's order), `FileIsPrgMode`, `FileDevice` and the words of `DevSettei`. Numbers that the
+/// file leaves out keep what the stage held. 0 done; 1 not, with `PosiFileNotOurs`, and the
+/// stage holds what was read so far. A file of another kind is told to the user, and the result is
+/// 0 with `PosiFileNotOurs`.
+int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble);
+
+/// The same for the oldest layout: no mode, no words, 20 columns behind each number.
+int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble);
+
+/// Shows "(New)" or "(Old)" for each axis as the file read last says.
+void ShowFileAges();
+
+/// Saves positions `PosiFromNo` to `PosiToNo` but the bad lines, and on success names the table
+/// after the file. 0 done; 1 not, with the old file whole. The caller tells the user.
+int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble);
+
+}  // namespace tr7

@@ -1,0 +1,109 @@
+#include "posi/posi_format.h"
+
+#include "core/app_state.h"
+#include "core/text_helpers.h"
+#include "para/dev_setting.h"
+#include "posi/posi_table.h"
+#include "posi/unit_conversion.h"
+
+namespace tr7 {
+namespace {
+
+constexpr double kFillerVel = 30;
+constexpr double kFillerAcc = 10;
+
+/// A position as a number: millimetres with three decimals, or pulses.
+std::string LengthText(double pulses, double mm) {
+  if (!AppState.DispMmUnit) return PlainDecimal(pulses);
+  return FormatMm(mm);
+}
+
+std::string WithSign(const std::string& length, int way) {
+  switch (way) {
+    case 0:
+      return "N";
+    case 2:
+      return "+" + length;
+    case 3:
+      return "-" + length;
+    default:
+      return length;
+  }
+}
+
+/// Right-aligned where there is room. A sign in front of a metre and more leaves none, and then
+/// the text stands as it is.
+std::string Aligned(const std::string& text) {
+  return CharCount(text) > kPosiTextWidth ? text : RightAlignText(text, kPosiTextWidth);
+}
+
+const Variant& Field(int col, int number) {
+  return PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
+}
+
+std::string FillerText(int col, bool program_mode) {
+  switch (FieldOfColumn(col)) {
+    case kVel:
+      return PlainDecimal(kFillerVel);
+    case kAcc:
+      return PlainDecimal(kFillerAcc * 10);
+    case kPosi:
+      return program_mode ? RightAlignText("N", kPosiTextWidth) : "0";
+    default:
+      return "0";
+  }
+}
+
+}  // namespace
+
+std::string PosiCellText(int col, int number, bool program_mode) {
+  if (col == kComment) return TextOf(Field(col, number));
+  const int axis = AxisOfColumn(col);
+  if (axis < 0) return PlainDecimal(ValueOf(Field(col, number)));
+  const auto index = static_cast<std::size_t>(axis);
+  if (AppState.AxisMuko[index]) return FillerText(col, program_mode);
+  if (FieldOfColumn(col) == kPosi) {
+    const auto slot = static_cast<std::size_t>(number);
+    const int way = static_cast<int>(ValueOf(Field(AxisBase(axis) + kWay, number)));
+    return PosiLengthText(
+        LengthText(PosiTable.PosiPulse[index][slot], PosiTable.PosiMm[index][slot]), way,
+        program_mode);
+  }
+  const double value = ValueOf(Field(col, number));
+  return PlainDecimal(FieldOfColumn(col) == kAcc ? value * 10 : value);
+}
+
+std::string PosiValueText(int col, double stored, double way, bool program_mode) {
+  const int axis = AxisOfColumn(col);
+  if (axis < 0) return PlainDecimal(stored);
+  if (FieldOfColumn(col) == kAcc) return PlainDecimal(stored * 10);
+  if (FieldOfColumn(col) != kPosi) return PlainDecimal(stored);
+  const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
+  const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(0);
+  return PosiLengthText(LengthText(stored, mm), static_cast<int>(way), program_mode);
+}
+
+std::string PosiDefaultText(int col, bool program_mode) {
+  const int axis = AxisOfColumn(col);
+  if (col == kComment) return {};
+  if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) {
+    return FillerText(col, program_mode);
+  }
+  return PosiValueText(col, PosiDefault(col), 0, program_mode);
+}
+
+WayAndNumber SplitPosiText(std::string_view text) {
+  const std::string trimmed = Trim(text);
+  const char sign = trimmed.empty() ? '\0' : trimmed[0];
+  if (sign == 'N' || sign == 'n') return {0, "0"};
+  if (sign != '+' && sign != '-') return {1, trimmed};
+  const std::string number = Trim(std::string_view(trimmed).substr(1));
+  return {sign == '+' ? 2 : 3, number.empty() ? "1" : number};
+}
+
+std::string PosiLengthText(const std::string& length, int way, bool program_mode) {
+  if (program_mode) return Aligned(WithSign(length, way));
+  return AppState.DispMmUnit ? Aligned(length) : length;
+}
+
+}  // namespace tr7

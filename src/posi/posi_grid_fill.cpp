@@ -1,0 +1,74 @@
+#include "posi/posi_grid_fill.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/app_state.h"
+#include "forms/frm_posi.h"
+#include "posi/posi_format.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+
+namespace tr7 {
+namespace {
+
+int ShownPositions() {
+  if (AppState.PosiFirstNo < 1) return 0;
+  return std::max(AppState.PosiLastNo - AppState.PosiFirstNo + 1, 0);
+}
+
+void FillRow(int row, int number, bool program_mode) {
+  Grid& grid = frmPosi.flgdData;
+  grid.SetText(row, 0, std::to_string(number));
+  for (int col = 1; col < kPosiColumns; ++col) {
+    grid.SetText(row, col, PosiCellText(col, number, program_mode));
+  }
+}
+
+void Show(bool program_mode) {
+  FG_HighSyoriStart();
+  Grid& grid = frmPosi.flgdData;
+  grid.SetRows(ShownPositions() + kPosiHeaderRows);
+  frmPosi.ShownPrgMode = program_mode;
+  frmPosi.ShownMuko = AppState.AxisMuko;
+  for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
+    FillRow(row, PositionOfRow(row), program_mode);
+  }
+  if (grid.Rows() > kPosiHeaderRows) {
+    grid.TopRow = kPosiHeaderRows;
+    grid.SelectCell(kPosiHeaderRows, FirstShownColumn());
+  }
+  FG_HighSyoriEnd();
+}
+
+}  // namespace
+
+void QvDataHyoji_3() { Show(false); }
+void QvDataHyoji_3Prg() { Show(true); }
+void FG_ShowTable() { Show(AppState.CtMode); }
+void FillPosiRow(int row, int number) { FillRow(row, number, AppState.CtMode); }
+
+void FG_HighSyoriStart() { frmPosi.flgdData.Redraw = false; }
+
+void FG_HighSyoriEnd() {
+  frmPosi.flgdData.Redraw = true;
+  frmPosi.flgdData.Touch();
+}
+
+void FG_InitPos() { frmPosi.flgdData.SelectCell(0, 0); }
+
+KeepPlace::KeepPlace()
+    : row_(frmPosi.flgdData.Row),
+      col_(frmPosi.flgdData.Col),
+      row_sel_(frmPosi.flgdData.RowSel),
+      col_sel_(frmPosi.flgdData.ColSel),
+      top_row_(frmPosi.flgdData.TopRow) {}
+
+KeepPlace::~KeepPlace() {
+  Grid& grid = frmPosi.flgdData;
+  const int last = grid.Rows() - 1;
+  grid.TopRow = std::min(top_row_, last);
+  grid.Select(std::min(row_, last), col_, std::min(row_sel_, last), col_sel_);
+}
+
+}  // namespace tr7

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+namespace tr7 {
+
+/// The input hint of a cell's column: its range and unit; empty for column 0.
+std::string PosiHint(int col);
+
+/// The range of a column in use, also of one that the mode does not show.
+std::string PosiRangeText(int col);
+
+/// Why a cell of the column refused a text: its range, or what a comment cannot hold.
+std::string RefusalText(int col);
+
+/// Writes to the frame's first status panel; an alarm that stands there stays.
+void TellInStatusPanel(const std::string& text);
+
+/// Writes the hint of the grid's current cell to the frame's first status panel.
+void PosiHintHyoji();
+
+}  // namespace tr7

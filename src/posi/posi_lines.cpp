@@ -1,0 +1,92 @@
+#include "posi/posi_lines.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+
+#include "core/app_state.h"
+#include "core/message_box.h"
+#include "forms/frm_posi.h"
+#include "posi/posi_check.h"
+#include "posi/posi_format.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+
+namespace tr7 {
+namespace {
+
+bool IsBodyRow(int row) { return row >= kPosiHeaderRows && row < frmPosi.flgdData.Rows(); }
+
+/// No position may pass 999, wherever the table starts.
+bool IsFull() { return AppState.PosiLastNo >= kPosiMaxNo; }
+
+/// Numbers, range and change flag after lines have come or gone.
+void LinesChanged() {
+  Grid& grid = frmPosi.flgdData;
+  for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
+    grid.SetText(row, 0, std::to_string(PositionOfRow(row)));
+  }
+  AppState.PosiCount = static_cast<std::int16_t>(grid.Rows() - kPosiHeaderRows);
+  AppState.PosiLastNo = static_cast<std::int16_t>(AppState.PosiFirstNo + AppState.PosiCount - 1);
+  if (AppState.PosiCount == 0) AppState.PosiFirstNo = AppState.PosiLastNo = 0;
+  AppState.PosiFromNo = AppState.PosiFirstNo;
+  AppState.PosiToNo = AppState.PosiLastNo;
+  frmPosi.PosiChanged = True;
+}
+
+}  // namespace
+
+void InsertLineDefaults(int row) {
+  for (int col = 1; col < kPosiColumns; ++col) {
+    frmPosi.flgdData.SetText(row, col, PosiDefaultText(col, AppState.CtMode));
+  }
+}
+
+bool AppendLine() {
+  if (IsFull()) return false;
+  Grid& grid = frmPosi.flgdData;
+  grid.SetRows(grid.Rows() + 1);
+  InsertLineDefaults(grid.Rows() - 1);
+  LinesChanged();
+  return true;
+}
+
+void cmdInsertLine_Click() {
+  if (Check_flgdLineNo() != 0) return;
+  Grid& grid = frmPosi.flgdData;
+  const int row = grid.Row;
+  if (!IsBodyRow(row)) {
+    MsgBox(TwoLines(388, 389));
+    return;
+  }
+  if (IsFull()) return;
+  FG_HighSyoriStart();
+  grid.InsertRow(row);
+  InsertLineDefaults(row);
+  LinesChanged();
+  grid.SelectCell(row, grid.Col);
+  FG_HighSyoriEnd();
+}
+
+void cmdDeleteLine_Click() {
+  if (Check_flgdLineNo() != 0) return;
+  Grid& grid = frmPosi.flgdData;
+  const auto [first, last] = std::minmax({grid.Row, grid.RowSel});
+  if (!IsBodyRow(first) || !IsBodyRow(last)) {
+    MsgBox(TwoLines(386, 387));
+    return;
+  }
+  FG_HighSyoriStart();
+  for (int count = last - first + 1; count > 0; --count) grid.RemoveRow(first);
+  LinesChanged();
+  const int row = std::min(first, grid.Rows() - 1);
+  if (IsBodyRow(row)) {
+    grid.SelectCell(row, FirstShownColumn());
+  } else {
+    FG_InitPos();
+  }
+  FG_HighSyoriEnd();
+}
+
+}  // namespace tr7

@@ -1,0 +1,60 @@
+#include "posi/posi_new.h"
+
+#include <cstdint>
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/text.h"
+#include "forms/frm_posi.h"
+#include "posi/posi_caption.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_table.h"
+#include "posi/posi_view.h"
+#include "posi/range_dialogs.h"
+
+namespace tr7 {
+namespace {
+
+constexpr std::int16_t kProposedFirst = 1;
+constexpr std::int16_t kProposedLast = 15;
+
+/// True when the user gave a range; the loaded range is as before otherwise.
+bool AskNewRange() {
+  const std::int16_t first = AppState.PosiFirstNo, last = AppState.PosiLastNo;
+  AppState.RangeIsForNew = True;
+  AppState.PosiFirstNo = kProposedFirst;
+  AppState.PosiLastNo = kProposedLast;
+  const bool chosen = AskRange();
+  AppState.RangeIsForNew = False;
+  if (chosen) return true;
+  AppState.RangeCancelled = False;
+  AppState.PosiFirstNo = first;
+  AppState.PosiLastNo = last;
+  return false;
+}
+
+}  // namespace
+
+bool MayReplaceTable(int question_id) {
+  if (!frmPosi.PosiChanged) return true;
+  const MsgAnswer answer = MsgBox(Text(question_id), MsgButtons::YesNoCancel, MsgIcon::Question);
+  if (answer == MsgAnswer::No) return true;
+  if (answer != MsgAnswer::Yes) return false;
+  Call(Hooks.PosidataSaveToFile);
+  return !frmPosi.PosiChanged;
+}
+
+void SinkiSakusei() {
+  const CommandsOff commands_off;
+  EditCMD_Muko();
+  if (!MayReplaceTable(kMsgSaveBeforeNew) || !AskNewRange()) return;
+  AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
+  PosiTableInit();
+  FG_ShowTable();
+  frmPosi.PosiChanged = False;
+  SetPosiTableName(Text(213));
+}
+
+}  // namespace tr7

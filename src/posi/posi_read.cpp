@@ -1,0 +1,101 @@
+#include <string>
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/message_box.h"
+#include "core/progress.h"
+#include "core/reconcile.h"
+#include "core/session.h"
+#include "core/text.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "link/port.h"
+#include "link/posi_commands.h"
+#include "posi/posi_caption.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_new.h"
+#include "posi/posi_table.h"
+#include "posi/posi_transfer.h"
+#include "posi/posi_view.h"
+#include "posi/posi_wire.h"
+#include "posi/range_dialogs.h"
+#include "posi/recalc.h"
+
+namespace tr7 {
+namespace {
+
+/// Reads the range's lines; false on a failure, which the exchange has told.
+bool ReadLines() {
+  ProgressScope progress(Text(368), AppState.PosiToNo - AppState.PosiFromNo + 1, true);
+  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo && !AppState.CancelRequested; ++n) {
+    std::string reply;
+    if (ReadPosiRecordFromCt(n, reply) != TusinOutcome::Good) return false;
+    PosiTable.PosiRawReply[static_cast<std::size_t>(n - 1)] = reply;
+    progress.Advance();
+  }
+  return true;
+}
+
+/// A reply of the right length whose fields make no sense must not become a position.
+bool DecodeLines() {
+  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
+    if (DecodePosiRecord(PosiTable.PosiRawReply[static_cast<std::size_t>(n - 1)], n)) continue;
+    MsgBox(TwoLines(384, 385));
+    return false;
+  }
+  return true;
+}
+
+/// What the user wants read. False: the flow ends.
+bool AskWhatToRead() {
+  if (!MayReplaceTable(369)) return false;
+  AppState.ProgressWriting = True;
+  if (!AskReadRange()) return false;
+  return MsgBox(Text(370), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
+}
+
+void ShowReadData() {
+  AppState.PosiFirstNo = AppState.PosiFromNo;
+  AppState.PosiLastNo = AppState.PosiToNo;
+  AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
+  PosiStageCommit();
+  RecalcMmFromPulse();
+  FG_ShowTable();
+  SetPosiTableName(Text(374));
+  frmPosi.PosiChanged = False;
+}
+
+void ReadAndShow() {
+  const WaitCursorScope wait_cursor;
+  frmMain.TimerTusin.Start(2);
+  const int result = ReadPosidataFromCt();
+  if (result == kTransferStopped) MsgBox(Text(425), MsgButtons::Ok, MsgIcon::Information);
+  if (result == kTransferDone) ShowReadData();
+}
+
+}  // namespace
+
+int ReadPosidataFromCt() {
+  const bool read = ReadLines();
+  TusinPortClose();
+  if (!read) return kTransferFailed;
+  if (AppState.CancelRequested) return kTransferStopped;
+  if (!DecodeLines()) return kTransferFailed;
+  frmPosi.ReadDone = True;
+  return kTransferDone;
+}
+
+void PosidataGetfromCt() {
+  EditCMD_Muko();
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  const PosiGridOff grid_off;
+  AppState.CancelRequested = False;
+  if (!AskWhatToRead()) return;
+  if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
+  AppState.CancelRequested = False;
+  if (ReconcileDevices(DeviceReconcile::Read) == 0) ReadAndShow();
+  TusinPortClose();
+}
+
+}  // namespace tr7

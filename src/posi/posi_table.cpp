@@ -1,0 +1,76 @@
+#include "posi/posi_table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "para/dev_setting.h"
+#include "posi/unit_conversion.h"
+
+namespace tr7 {
+
+PosiTableRecord PosiTable;
+
+namespace {
+
+constexpr double kDefaultVel = 30;
+constexpr double kDefaultAcc = 10;     // tens of milliseconds
+constexpr double kDefaultAccD42 = 20;  // a device of that kind starts gently
+
+}  // namespace
+
+double PosiDefault(int col) {
+  const int axis = AxisOfColumn(col);
+  if (axis < 0) return 0;
+  switch (FieldOfColumn(col)) {
+    case kVel:
+      return kDefaultVel;
+    case kAcc: {
+      const auto index = static_cast<std::size_t>(axis);
+      const bool gentle = !AppState.AxisMuko[index] && IsD42(DevSetting[index]);
+      return gentle ? kDefaultAccD42 : kDefaultAcc;
+    }
+    default:
+      return 0;
+  }
+}
+
+void PosiTableInit() {
+  for (std::string& reply : PosiTable.PosiRawReply) reply.clear();
+  for (auto& pulses : PosiTable.PosiPulse) pulses.fill(0);
+  for (auto& lengths : PosiTable.PosiMm) lengths.fill(0);
+  for (int col = 1; col < kPosiColumns; ++col) {
+    const Variant value = col == kComment ? Variant(std::string()) : Variant(PosiDefault(col));
+    PosiTable.PosiRec[static_cast<std::size_t>(col)].fill(value);
+    PosiTable.PosiStage[static_cast<std::size_t>(col)].fill(value);
+  }
+}
+
+namespace {
+
+/// Whole pulses of a stage field, within what a pulse count holds.
+std::int32_t StagedPulses(const Variant& field) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const double pulses = std::nearbyint(ValueOf(field));
+  return static_cast<std::int32_t>(std::clamp<double>(pulses, Limits::min(), Limits::max()));
+}
+
+}  // namespace
+
+void PosiStageCommit() {
+  for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
+    if (n < 1 || n > kPosiMaxNo) continue;
+    const auto number = static_cast<std::size_t>(n);
+    for (std::size_t col = 1; col < kPosiColumns; ++col) {
+      PosiTable.PosiRec[col][number] = PosiTable.PosiStage[col][number];
+    }
+    for (int axis = 0; axis < kAxes; ++axis) {
+      const auto col = static_cast<std::size_t>(AxisBase(axis) + kPosi);
+      const std::int32_t pulses = StagedPulses(PosiTable.PosiStage[col][number]);
+      PosiTable.PosiPulse[static_cast<std::size_t>(axis)][number] = pulses;
+      PosiTable.PosiRec[col][number] = static_cast<double>(pulses);
+    }
+  }
+}
+
+}  // namespace tr7

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace tr7 {
+
+inline constexpr int kPosiReplyLength = 68;  ///< with CR LF
+
+/// Takes a reply line ("0RP", number, fields, CR LF) into `PosiStage` at that number, columns 1 to
+/// 27. False, and the stage untouched, when the line is not of `number` or a field is no
+/// hexadecimal number.
+bool DecodePosiRecord(const std::string& reply, int number);
+
+/// The write command of a position number from `PosiRec`: "0WP", number, 60 digits.
+std::string EncodePosiRecord(int number);
+
+}  // namespace tr7

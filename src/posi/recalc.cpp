@@ -1,0 +1,62 @@
+#include "posi/recalc.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/app_state.h"
+#include "para/dev_setting.h"
+#include "posi/posi_table.h"
+#include "posi/unit_conversion.h"
+
+namespace tr7 {
+namespace {
+
+/// Calls `convert(axis, number)` for every cell of the range until one fails.
+template <typename Convert>
+bool ForRange(Convert convert) {
+  const int last = std::min<int>(AppState.PosiToNo, kPosiMaxNo);
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (AppState.AxisMuko[axis]) continue;
+    for (int no = std::max<int>(AppState.PosiFromNo, 1); no <= last; ++no) {
+      if (!convert(axis, static_cast<std::size_t>(no))) return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+int RecalcMmFromPulse() {
+  auto fresh = PosiTable.PosiMm;
+  const bool good = ForRange([&](std::size_t axis, std::size_t no) {
+    const DevSettingRecord& device = DevSetting[axis];
+    const auto mm = PulseToMm(device.Lead, device.Ppr, PosiTable.PosiPulse[axis][no]);
+    if (mm) fresh[axis][no] = *mm;
+    return mm.has_value();
+  });
+  if (!good) return 1;
+  PosiTable.PosiMm = fresh;
+  return 0;
+}
+
+int RecalcPulseFromMm() {
+  auto fresh = PosiTable.PosiPulse;
+  const bool good = ForRange([&](std::size_t axis, std::size_t no) {
+    const DevSettingRecord& device = DevSetting[axis];
+    const auto pulses = MmToPulse(device.Lead, device.Ppr, PosiTable.PosiMm[axis][no]);
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (!pulses || *pulses < Limits::min() || *pulses > Limits::max()) return false;
+    fresh[axis][no] = static_cast<std::int32_t>(*pulses);
+    return true;
+  });
+  if (!good) return 1;
+  PosiTable.PosiPulse = fresh;
+  ForRange([](std::size_t axis, std::size_t no) {
+    const auto column = static_cast<std::size_t>(AxisBase(static_cast<int>(axis)) + kPosi);
+    PosiTable.PosiRec[column][no] = static_cast<double>(PosiTable.PosiPulse[axis][no]);
+    return true;
+  });
+  return 0;
+}
+
+}  // namespace tr7

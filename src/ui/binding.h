@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "forms/control.h"
+
+namespace tr7 {
+
+/// True when a command may run now: an edit that is open is finished first, and a refused one
+/// stops the command.
+using CommandGate = std::function<bool()>;
+
+/// One control of a record tied to its widget. `Push` draws what the record holds, and costs next
+/// to nothing when nothing has changed. What the user does goes into the record at once, then to
+/// the record's handler; the handler may pump, and may close the view that the widget stands on.
+class Binding {
+ public:
+  virtual ~Binding() = default;
+  virtual void Push() = 0;
+
+ protected:
+  /// Remembers `value`; true when it differs from what was drawn last.
+  template <typename Value>
+  static bool Changed(std::optional<Value>& shown, const Value& value) {
+    if (shown == value) return false;
+    shown = value;
+    return true;
+  }
+};
+
+inline QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+/// Enabled, visible and tool tip, which every widget has.
+class WidgetBinding : public Binding {
+ public:
+  WidgetBinding(Control& control, QWidget& widget) : control_(control), widget_(widget) {}
+  void Push() override;
+
+ protected:
+  void PushVisible();
+
+  Control& control_;
+  QWidget& widget_;
+
+ private:
+  std::optional<bool> enabled_, visible_;
+  std::optional<std::string> tool_tip_;
+};
+
+}  // namespace tr7

@@ -1,0 +1,273 @@
+#include "ui/bindings.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <vector>
+
+#include "ui/command_bindings.h"
+#include "ui/grid_table.h"
+#include "ui/label_binding.h"
+#include "ui/lamp.h"
+#include "ui/text_box_binding.h"
+
+namespace tr7 {
+
+void WidgetBinding::PushVisible() {
+  if (Changed(visible_, control_.Visible)) widget_.setVisible(control_.Visible);
+}
+
+void WidgetBinding::Push() {
+  if (Changed(enabled_, control_.Enabled)) widget_.setEnabled(control_.Enabled);
+  if (Changed(tool_tip_, control_.ToolTip)) widget_.setToolTip(Q(control_.ToolTip));
+  PushVisible();
+}
+
+namespace {
+
+/// A lamp is always there: the record's `Visible` lights it.
+class LampBinding : public Binding {
+ public:
+  LampBinding(Image& image, Lamp& lamp) : image_(image), lamp_(lamp) {}
+  void Push() override { lamp_.SetLit(image_.Visible); }
+
+ private:
+  Image& image_;
+  Lamp& lamp_;
+};
+
+class FrameBinding : public WidgetBinding {
+ public:
+  FrameBinding(Frame& frame, QWidget& widget)
+      : WidgetBinding(frame, widget), box_(qobject_cast<QGroupBox*>(&widget)) {}
+  void Push() override {
+    WidgetBinding::Push();
+    if (box_ && Changed(caption_, control_.Caption)) box_->setTitle(Q(control_.Caption));
+  }
+
+ private:
+  QGroupBox* box_;
+  std::optional<std::string> caption_;
+};
+
+/// What the three kinds of buttons share.
+class ButtonBinding : public WidgetBinding {
+ public:
+  ButtonBinding(Control& control, QAbstractButton& button)
+      : WidgetBinding(control, button), button_(button) {}
+  void Push() override {
+    WidgetBinding::Push();
+    if (Changed(caption_, control_.Caption)) button_.setText(Q(control_.Caption));
+  }
+
+ protected:
+  QAbstractButton& button_;
+
+ private:
+  std::optional<std::string> caption_;
+};
+
+class CommandButtonBinding : public ButtonBinding {
+ public:
+  CommandButtonBinding(CommandButton& record, QPushButton& button, const CommandGate& gate)
+      : ButtonBinding(record, button) {
+    // Enter presses the button that has the focus, and the default one from a field.
+    button.setAutoDefault(true);
+    button.setDefault(record.Default);
+    QObject::connect(&button, &QPushButton::clicked, &button, [&record, gate] {
+      if (gate()) record.Press();
+    });
+  }
+};
+
+class CheckBoxBinding : public ButtonBinding {
+ public:
+  CheckBoxBinding(CheckBox& record, QCheckBox& box) : ButtonBinding(record, box), record_(record) {
+    QObject::connect(&box, &QCheckBox::clicked, &box, [&record](bool on) { record.Set(on); });
+  }
+  void Push() override {
+    ButtonBinding::Push();
+    if (button_.isChecked() != record_.Value) button_.setChecked(record_.Value);
+  }
+
+ private:
+  CheckBox& record_;
+};
+
+class OptionButtonBinding : public ButtonBinding {
+ public:
+  OptionButtonBinding(OptionButton& record, QRadioButton& button, QButtonGroup& group)
+      : ButtonBinding(record, button), record_(record), group_(group) {
+    group.addButton(&button);
+    QObject::connect(&button, &QRadioButton::clicked, &button, [&record] { record.Press(); });
+  }
+  void Push() override {
+    ButtonBinding::Push();
+    if (button_.isChecked() == record_.Value) return;
+    // A group whose record holds no choice shows none.
+    group_.setExclusive(false);
+    button_.setChecked(record_.Value);
+    group_.setExclusive(true);
+  }
+
+ private:
+  OptionButton& record_;
+  QButtonGroup& group_;
+};
+
+class ComboBoxBinding : public WidgetBinding {
+ public:
+  ComboBoxBinding(ComboBox& record, QComboBox& combo)
+      : WidgetBinding(record, combo), record_(record), combo_(combo) {
+    QObject::connect(&combo, &QComboBox::activated, &combo,
+                     [&record](int index) { record.Pick(index); });
+  }
+  void Push() override {
+    WidgetBinding::Push();
+    if (Changed(list_, record_.List)) {
+      combo_.clear();
+      for (const std::string& entry : record_.List) combo_.addItem(Q(entry));
+    }
+    if (combo_.currentIndex() != record_.ListIndex) combo_.setCurrentIndex(record_.ListIndex);
+  }
+
+ private:
+  ComboBox& record_;
+  QComboBox& combo_;
+  std::optional<std::vector<std::string>> list_;
+};
+
+class ListBoxBinding : public QObject, public WidgetBinding {
+ public:
+  ListBoxBinding(ListBox& record, QListWidget& list)
+      : WidgetBinding(record, list), record_(record), list_widget_(list) {
+    QObject::connect(&list, &QListWidget::currentRowChanged, this, [this](int row) {
+      if (pushing_ || row < 0 || record_.ListIndex == row) return;
+      record_.ListIndex = row;
+      if (record_.Click) record_.Click();
+    });
+  }
+  void Push() override {
+    WidgetBinding::Push();
+    pushing_ = true;
+    if (Changed(list_, record_.List)) {
+      list_widget_.clear();
+      for (const std::string& entry : record_.List) list_widget_.addItem(Q(entry));
+    }
+    if (list_widget_.currentRow() != record_.ListIndex) {
+      list_widget_.setCurrentRow(record_.ListIndex);
+    }
+    pushing_ = false;
+  }
+
+ private:
+  ListBox& record_;
+  QListWidget& list_widget_;
+  std::optional<std::vector<std::string>> list_;
+  bool pushing_ = false;
+};
+
+class ProgressBarBinding : public WidgetBinding {
+ public:
+  ProgressBarBinding(ProgressBar& record, QProgressBar& bar)
+      : WidgetBinding(record, bar), record_(record), bar_(bar) {}
+  void Push() override {
+    WidgetBinding::Push();
+    if (bar_.maximum() != record_.Max) bar_.setRange(0, record_.Max);
+    if (bar_.value() != record_.Value) bar_.setValue(record_.Value);
+  }
+
+ private:
+  ProgressBar& record_;
+  QProgressBar& bar_;
+};
+
+class TabStripBinding : public QObject, public WidgetBinding {
+ public:
+  TabStripBinding(TabStrip& record, QTabBar& bar)
+      : WidgetBinding(record, bar), record_(record), bar_(bar) {
+    while (bar.count() < static_cast<int>(record.Tabs.size())) bar.addTab(QString());
+    bar.setDrawBase(true);
+    bar.setExpanding(false);
+    QObject::connect(&bar, &QTabBar::currentChanged, this, [this](int index) {
+      if (pushing_ || record_.Selected == index) return;
+      record_.Selected = index;
+      if (record_.Click) record_.Click();
+    });
+  }
+  void Push() override {
+    WidgetBinding::Push();
+    pushing_ = true;
+    for (std::size_t i = 0; i < record_.Tabs.size(); ++i) PushTab(static_cast<int>(i));
+    if (bar_.currentIndex() != record_.Selected) bar_.setCurrentIndex(record_.Selected);
+    pushing_ = false;
+  }
+
+ private:
+  void PushTab(int index) {
+    const Tab& tab = record_.Tabs[static_cast<std::size_t>(index)];
+    if (bar_.isTabEnabled(index) != tab.Enabled) bar_.setTabEnabled(index, tab.Enabled);
+    const QString caption = Q(tab.Caption);
+    if (bar_.tabText(index) != caption) bar_.setTabText(index, caption);
+  }
+
+  TabStrip& record_;
+  QTabBar& bar_;
+  bool pushing_ = false;
+};
+
+/// Tries one pair of kinds.
+template <typename Kind, typename Widget, typename Tied, typename... More>
+bool Tie(std::unique_ptr<Binding>& made, Control& control, QObject& target, More&&... more) {
+  auto* record = dynamic_cast<Kind*>(&control);
+  auto* widget = qobject_cast<Widget*>(&target);
+  if (record && widget) made = std::make_unique<Tied>(*record, *widget, more...);
+  return record != nullptr;
+}
+
+QButtonGroup& GroupOf(Control& control, QObject& target, OptionGroups& groups) {
+  const auto* option = dynamic_cast<OptionButton*>(&control);
+  QButtonGroup*& group = groups[option ? option->Group : 0];
+  if (!group) group = new QButtonGroup(qobject_cast<QWidget*>(&target)->window());
+  return *group;
+}
+
+}  // namespace
+
+std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGroups& groups,
+                                     const CommandGate& gate) {
+  std::unique_ptr<Binding> made;
+  if (dynamic_cast<OptionButton*>(&control)) {
+    if (!qobject_cast<QRadioButton*>(&target)) return made;
+    Tie<OptionButton, QRadioButton, OptionButtonBinding>(made, control, target,
+                                                         GroupOf(control, target, groups));
+    return made;
+  }
+  Tie<Label, QLabel, LabelBinding>(made, control, target) ||
+      Tie<Image, Lamp, LampBinding>(made, control, target) ||
+      Tie<Frame, QWidget, FrameBinding>(made, control, target) ||
+      Tie<CommandButton, QPushButton, CommandButtonBinding>(made, control, target, gate) ||
+      Tie<TextBox, QLineEdit, TextBoxBinding>(made, control, target) ||
+      Tie<CheckBox, QCheckBox, CheckBoxBinding>(made, control, target) ||
+      Tie<ComboBox, QComboBox, ComboBoxBinding>(made, control, target) ||
+      Tie<ListBox, QListWidget, ListBoxBinding>(made, control, target) ||
+      Tie<ProgressBar, QProgressBar, ProgressBarBinding>(made, control, target) ||
+      Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target) ||
+      Tie<Grid, GridTable, GridBinding>(made, control, target) ||
+      Tie<Toolbar, QToolBar, ToolbarBinding>(made, control, target, gate) ||
+      Tie<StatusBar, QStatusBar, StatusBarBinding>(made, control, target);
+  if (auto* menu = dynamic_cast<Menu*>(&control)) made = MakeMenuBinding(*menu, target, gate);
+  return made;
+}
+
+}  // namespace tr7

@@ -1,0 +1,168 @@
+#include "ui/bound_view.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <algorithm>
+
+#include "forms/control.h"
+#include "ui/grid_table.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kPopupMenu = "mnuPopup";
+
+bool IsOurs(const QString& name) {
+  // Qt's own helpers inside of widgets, layouts, and the layout file's areas.
+  return !name.isEmpty() && !name.startsWith("qt_") && !name.startsWith("area") &&
+         !name.startsWith("_q_");
+}
+
+}  // namespace
+
+BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const CommandGate& gate)
+    : view_(view), window_(window) {
+  form.set_up(window);
+  FindStrangers();
+  for (Control* control : view.Controls) Tie(*control, gate);
+  FindAreas();
+  FindTabs();
+  TiePopup();
+  SetTabOrder();
+}
+
+void BoundView::Tie(Control& control, const CommandGate& gate) {
+  const QString name = Q(control.Name);
+  QObject* target = window_.findChild<QObject*>(name);
+  if (!target) {
+    problems_.push_back(control.Name + ": no widget");
+    return;
+  }
+  auto binding = MakeBinding(control, *target, groups_, gate);
+  if (!binding) {
+    problems_.push_back(control.Name + ": a " + control.TypeName + " on a " +
+                        target->metaObject()->className());
+    return;
+  }
+  bindings_.push_back(std::move(binding));
+  auto* widget = qobject_cast<QWidget*>(target);
+  if (!widget || qobject_cast<QMenu*>(target)) return;
+  widgets_.emplace_back(&control, widget);
+  if (auto* grid = qobject_cast<GridTable*>(widget)) grids_.push_back(grid);
+}
+
+/// Ahead of the bindings, which add widgets of their own.
+void BoundView::FindStrangers() {
+  for (const QObject* object : window_.findChildren<QObject*>()) {
+    const bool named = object->isWidgetType() || qobject_cast<const QAction*>(object);
+    if (!named || !IsOurs(object->objectName())) continue;
+    if (qobject_cast<const QTabBar*>(object->parent())) continue;  // its own scroll buttons
+    const std::string name = object->objectName().toStdString();
+    if (!view_.Find(name)) problems_.push_back(name + ": no control");
+  }
+}
+
+void BoundView::FindAreas() {
+  for (QWidget* area : window_.findChildren<QWidget*>()) {
+    if (!area->objectName().startsWith("area")) continue;
+    Area entry{area, {}, nullptr};
+    for (const auto& [control, widget] : widgets_) {
+      if (area->isAncestorOf(widget)) entry.controls.push_back(control);
+    }
+    // A page's parent is the stack itself.
+    auto* stack = qobject_cast<QStackedWidget*>(area->parentWidget());
+    if (stack && qobject_cast<QTabWidget*>(stack->parentWidget())) continue;
+    entry.stack = stack;
+    if (!entry.controls.empty()) areas_.push_back(std::move(entry));
+  }
+}
+
+void BoundView::FindTabs() {
+  for (QTabWidget* tabs : window_.findChildren<QTabWidget*>()) {
+    for (int index = 0; index < tabs->count(); ++index) {
+      TabPage page{tabs, index, {}};
+      for (const auto& [control, widget] : widgets_) {
+        const bool frame = dynamic_cast<const Frame*>(control) != nullptr;
+        if (frame && tabs->widget(index)->isAncestorOf(widget)) page.frames.push_back(control);
+      }
+      tab_pages_.push_back(std::move(page));
+    }
+  }
+}
+
+void BoundView::PushTabTitles() {
+  for (const TabPage& page : tab_pages_) {
+    QStringList names;
+    for (const Control* frame : page.frames) names << Q(frame->Caption);
+    const QString title = names.join(" / ");
+    if (page.tabs->tabText(page.index) != title) page.tabs->setTabText(page.index, title);
+  }
+}
+
+void BoundView::Reveal(QWidget& widget) {
+  for (const TabPage& page : tab_pages_) {
+    if (page.tabs->widget(page.index)->isAncestorOf(&widget))
+      page.tabs->setCurrentIndex(page.index);
+  }
+  for (QScrollArea* scroll : window_.findChildren<QScrollArea*>()) {
+    if (scroll->isAncestorOf(&widget)) scroll->ensureWidgetVisible(&widget);
+  }
+}
+
+void BoundView::TiePopup() {
+  auto* popup = window_.findChild<QMenu*>(kPopupMenu);
+  if (!popup) return;
+  for (GridTable* grid : grids_) {
+    QObject::connect(grid, &QWidget::customContextMenuRequested, popup,
+                     [popup, grid](const QPoint& at) {
+                       if (grid->FinishEdit()) popup->popup(grid->viewport()->mapToGlobal(at));
+                     });
+  }
+}
+
+/// The record's order of controls is the order of the Tab key.
+void BoundView::SetTabOrder() {
+  QWidget* before = nullptr;
+  for (const auto& [control, widget] : widgets_) {
+    if (widget->focusPolicy() == Qt::NoFocus) continue;
+    if (before) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+void BoundView::PushAreas() {
+  std::vector<bool> visibility;
+  for (const auto& [control, widget] : widgets_) visibility.push_back(control->Visible);
+  if (visibility == shown_visibility_) return;
+  shown_visibility_ = std::move(visibility);
+  for (const Area& area : areas_) {
+    const bool any = std::any_of(area.controls.begin(), area.controls.end(),
+                                 [](const Control* control) { return control->Visible; });
+    if (!area.stack) {
+      area.widget->setVisible(any);
+    } else if (any) {
+      area.stack->setCurrentWidget(area.widget);
+    }
+  }
+}
+
+void BoundView::Push() {
+  const QString caption = Q(view_.Caption);
+  if (window_.windowTitle() != caption) window_.setWindowTitle(caption);
+  for (const auto& binding : bindings_) binding->Push();
+  PushAreas();
+  PushTabTitles();
+}
+
+QWidget* BoundView::WidgetOf(const Control& control) const {
+  for (const auto& [tied, widget] : widgets_) {
+    if (tied == &control) return widget;
+  }
+  return nullptr;
+}
+
+}  // namespace tr7

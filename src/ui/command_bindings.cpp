@@ -1,0 +1,92 @@
+#include "ui/command_bindings.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+
+#include "ui/icons.h"
+
+namespace tr7 {
+namespace {
+
+class MenuBinding : public Binding {
+ public:
+  MenuBinding(Menu& record, QAction& action) : record_(record), action_(action) {}
+  void Push() override {
+    if (action_.isEnabled() != record_.Enabled) action_.setEnabled(record_.Enabled);
+    if (Changed(visible_, record_.Visible)) action_.setVisible(record_.Visible);
+    if (Changed(caption_, record_.Caption)) action_.setText(Q(record_.Caption));
+  }
+
+ private:
+  Menu& record_;
+  QAction& action_;
+  std::optional<bool> visible_;
+  std::optional<std::string> caption_;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> MakeMenuBinding(Menu& record, QObject& target, const CommandGate& gate) {
+  if (auto* menu = qobject_cast<QMenu*>(&target)) {
+    return std::make_unique<MenuBinding>(record, *menu->menuAction());
+  }
+  auto* action = qobject_cast<QAction*>(&target);
+  if (!action) return nullptr;
+  QObject::connect(action, &QAction::triggered, action, [&record, gate] {
+    if (gate()) record.Press();
+  });
+  return std::make_unique<MenuBinding>(record, *action);
+}
+
+ToolbarBinding::ToolbarBinding(Toolbar& record, QToolBar& bar, const CommandGate& gate)
+    : WidgetBinding(record, bar), record_(record) {
+  bar.setIconSize(QSize(22, 22));
+  for (const ToolButton& button : record.Buttons) {
+    const std::string key = button.Key;
+    if (key.empty()) {
+      actions_.push_back(bar.addSeparator());
+      continue;
+    }
+    QAction* action = bar.addAction(ToolIcon(key), QString());
+    QObject::connect(action, &QAction::triggered, action, [&record, key, gate] {
+      if (gate()) record.Press(key);
+    });
+    actions_.push_back(action);
+  }
+}
+
+void ToolbarBinding::Push() {
+  WidgetBinding::Push();
+  for (std::size_t i = 0; i < actions_.size() && i < record_.Buttons.size(); ++i) {
+    const ToolButton& button = record_.Buttons[i];
+    if (actions_[i]->isSeparator()) continue;
+    if (actions_[i]->isEnabled() != button.Enabled) actions_[i]->setEnabled(button.Enabled);
+    const QString tip = Q(button.ToolTipText);
+    if (actions_[i]->toolTip() != tip) actions_[i]->setToolTip(tip);
+  }
+}
+
+StatusBarBinding::StatusBarBinding(StatusBar& record, QStatusBar& bar)
+    : WidgetBinding(record, bar), record_(record) {
+  for (std::size_t i = 0; i < record.Panels.size(); ++i) {
+    auto* label = new QLabel(&bar);
+    label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(4, 0, 4, 0);
+    if (i == 0) label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar.addWidget(label, i == 0 ? 1 : 0);
+    labels_.push_back(label);
+  }
+}
+
+void StatusBarBinding::Push() {
+  WidgetBinding::Push();
+  if (!Changed(shown_, record_.Panels)) return;
+  for (std::size_t i = 0; i < labels_.size(); ++i) {
+    labels_[i]->setText(Q(record_.Panels[i]));
+    labels_[i]->setVisible(i == 0 || !record_.Panels[i].empty());
+  }
+  labels_[0]->setToolTip(labels_[0]->text());
+}
+
+}  // namespace tr7

@@ -1,0 +1,53 @@
+#include "ui/desktop.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStandardPaths>
+
+#include "platform/doors.h"
+#include "ui/binding.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kApplication = "QV-DEV";
+constexpr const char* kSection = "Settings";
+
+std::string SettingsPath(const Profile& profile) {
+  QString path = profile.settings_file;
+  if (path.isEmpty()) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    path = folder + "/" + kApplication + (profile.demo ? "/demo.ini" : "/settings.ini");
+  }
+  QDir().mkpath(QFileInfo(path).absolutePath());
+  return path.toStdString();
+}
+
+void SetAtFirstUse(SettingsStore& settings, const std::string& key, const std::string& value) {
+  if (settings.Get(kSection, key, "").empty()) settings.Set(kSection, key, value);
+}
+
+}  // namespace
+
+Desktop::Desktop(const Profile& profile)
+    : files(QCoreApplication::applicationDirPath().toStdString()),
+      settings(files, SettingsPath(profile)) {
+  if (profile.demo) {
+    const bool japanese = QLocale::system().language() == QLocale::Japanese;
+    SetAtFirstUse(settings, "PortDevice1", "sim");
+    SetAtFirstUse(settings, "Language", japanese ? "1" : "2");
+  }
+  doors.pump = &pump;
+  doors.serial = &serial;
+  doors.settings = &settings;
+  doors.forms = &forms;
+  doors.clipboard = &clipboard;
+  doors.files = &files;
+  doors.help = &help;
+}
+
+Desktop::~Desktop() { doors = Doors{}; }
+
+}  // namespace tr7

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "platform/ini_settings_store.h"
+#include "platform/std_files.h"
+#include "ui/qt_clipboard.h"
+#include "ui/qt_form_host.h"
+#include "ui/qt_help_viewer.h"
+#include "ui/qt_pump.h"
+#include "ui/qt_serial_port.h"
+
+namespace tr7 {
+
+/// Which settings the program runs on.
+struct Profile {
+  QString settings_file;  ///< empty: in the user's configuration folder
+  bool demo = false;      ///< settings of its own; port 1 is the simulated controller at first
+};
+
+/// The desktop's set of doors, installed as long as this lives. The QApplication exists before
+/// and ends after.
+class Desktop {
+ public:
+  explicit Desktop(const Profile& profile);
+  ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  QtPump pump;
+  QtSerialPort serial;
+  QtFormHost forms{pump};
+  QtClipboard clipboard;
+  QtHelpViewer help;
+  StdFiles files;
+  IniSettingsStore settings;
+};
+
+}  // namespace tr7

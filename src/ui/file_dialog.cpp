@@ -1,0 +1,82 @@
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "core/text.h"
+#include "ui/binding.h"
+#include "ui/message_dialog.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kOpenText = 5161, kSaveText = 5162, kCancelText = 5153, kLookInText = 5163,
+              kFileNameText = 5164, kFileTypeText = 5165, kOverwriteText = 5166;
+
+constexpr QSize kDialogSize(760, 480);
+
+/// "words|*.ext|words|*.*" as Qt wants it: "words (*.ext)".
+QStringList NameFilters(const std::string& filter) {
+  const QStringList parts = Q(filter).split('|');
+  QStringList filters;
+  for (int i = 0; i + 1 < parts.size(); i += 2) {
+    // Brackets in the words would be taken for the pattern.
+    const QString words = QString(parts[i]).remove('(').remove(')').remove(parts[i + 1]).trimmed();
+    filters << words + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+  }
+  return filters;
+}
+
+void SetTexts(QFileDialog& dialog, const FileDialogCall& call) {
+  dialog.setWindowTitle(Q(call.Title));
+  dialog.setLabelText(QFileDialog::LookIn, Q(Text(kLookInText)));
+  dialog.setLabelText(QFileDialog::FileName, Q(Text(kFileNameText)));
+  dialog.setLabelText(QFileDialog::FileType, Q(Text(kFileTypeText)));
+  dialog.setLabelText(QFileDialog::Accept, Q(Text(call.Save ? kSaveText : kOpenText)));
+  dialog.setLabelText(QFileDialog::Reject, Q(Text(kCancelText)));
+}
+
+QString& LastFolder() {
+  static QString folder = QDir::homePath();
+  return folder;
+}
+
+bool MayOverwrite(const FileDialogCall& call, const QString& path, QWidget* parent,
+                  const WaitFor& wait) {
+  if (!call.Save || !call.OverwritePrompt || !QFileInfo::exists(path)) return true;
+  const MessageBoxCall question{Text(kOverwriteText, QFileInfo(path).fileName().toStdString()),
+                                call.Title, MsgButtons::YesNo, MsgIcon::Question};
+  return AskMessage(question, parent, wait) == MsgAnswer::Yes;
+}
+
+}  // namespace
+
+std::optional<std::string> AskFile(const FileDialogCall& call, QWidget* parent,
+                                   const WaitFor& wait) {
+  QFileDialog dialog(parent);
+#ifndef _WIN32
+  // The platform's own dialogue speaks the desktop's language, this one the user's.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+#endif
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setWindowModality(Qt::ApplicationModal);
+  dialog.setAcceptMode(call.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(call.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setNameFilters(NameFilters(call.Filter));
+  dialog.setDefaultSuffix(Q(call.DefaultExtension));
+  SetTexts(dialog, call);
+  const QFileInfo proposed(Q(call.ProposedName));
+  dialog.setDirectory(proposed.isAbsolute() ? proposed.absolutePath() : LastFolder());
+  if (call.Save) dialog.selectFile(proposed.fileName());
+  dialog.resize(kDialogSize);
+  for (;;) {
+    dialog.show();
+    wait([&dialog] { return !dialog.isVisible(); });
+    if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    const QString path = dialog.selectedFiles().constFirst();
+    if (!MayOverwrite(call, path, parent, wait)) continue;
+    LastFolder() = QFileInfo(path).absolutePath();
+    return path.toStdString();
+  }
+}
+
+}  // namespace tr7

@@ -1,0 +1,74 @@
+#include "ui/grid_cell_painter.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "ui/grid_model.h"
+#include "ui/look.h"
+
+namespace tr7 {
+namespace {
+
+QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
+  const auto mix = [share_of_b](int x, int y) { return qRound(x + (y - x) * share_of_b); };
+  return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+bool LooksLikeNumber(const QString& text) {
+  if (text.startsWith(' ')) return true;  // padded to the right by logic
+  bool good = false;
+  text.toDouble(&good);
+  return good;
+}
+
+}  // namespace
+
+bool GridCellPainter::IsSelected(int row, int col) const {
+  const auto [top, bottom] = std::minmax(grid_.Row, grid_.RowSel);
+  const auto [left, right] = std::minmax(grid_.Col, grid_.ColSel);
+  return row >= top && row <= bottom && col >= left && col <= right;
+}
+
+QColor GridCellPainter::Ground(int row, int col, bool enabled) const {
+  const Colour colour = grid_.ColColour(col);
+  QColor ground = colour == kWindowColour   ? look::kBase
+                  : colour == kHeaderColour ? look::kHeader
+                                            : QColor::fromRgb(static_cast<QRgb>(colour));
+  if (grid_.IsMarked && grid_.IsMarked(row, col)) ground = look::kMarkedCell;
+  if (!enabled) ground = Mixed(ground, look::kWindow, 0.55);
+  return ground;
+}
+
+Qt::Alignment GridCellPainter::AlignmentOf(int col, const QString& text) const {
+  switch (grid_.AlignOf(col)) {
+    case ColAlign::Left:
+      return Qt::AlignLeft;
+    case ColAlign::Centre:
+      return Qt::AlignHCenter;
+    case ColAlign::Right:
+      return Qt::AlignRight;
+    case ColAlign::General:
+      break;
+  }
+  return LooksLikeNumber(text) ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
+  const int row = index.row() + grid_.FixedRows, col = index.column() + grid_.FixedCols;
+  if (row >= grid_.Rows() || col >= grid_.Cols()) return;
+  const bool enabled = option.state & QStyle::State_Enabled;
+  QColor ground = Ground(row, col, enabled);
+  const bool current = row == grid_.Row && col == grid_.Col;
+  if (IsSelected(row, col) && enabled && !current) ground = Mixed(ground, look::kSelection, 0.35);
+  painter->fillRect(option.rect, ground);
+  const QString text = model_.TextAt(index.row(), index.column());
+  painter->setPen(enabled ? look::kText : look::kFaintText);
+  painter->drawText(option.rect.adjusted(3, 0, -4, 0), Qt::AlignVCenter | AlignmentOf(col, text),
+                    text.trimmed());
+  if (!current || !enabled) return;
+  painter->setPen(QPen(look::kSelection, 2));
+  painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+}
+
+}  // namespace tr7

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include "forms/grid.h"
+
+namespace tr7 {
+
+class GridModel;
+
+/// Paints body cells straight from the record: column colour, mark, selection, current cell, text.
+class GridCellPainter : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  GridCellPainter(const Grid& grid, const GridModel& model, QObject* parent)
+      : QStyledItemDelegate(parent), grid_(grid), model_(model) {}
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ private:
+  bool IsSelected(int row, int col) const;
+  QColor Ground(int row, int col, bool enabled) const;
+  Qt::Alignment AlignmentOf(int col, const QString& text) const;
+
+  const Grid& grid_;
+  const GridModel& model_;
+};
+
+}  // namespace tr7

@@ -1,0 +1,171 @@
+#include "ui/grid_table.h"
+
+#include <QAbstractButton>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "ui/grid_cell_painter.h"
+#include "ui/grid_header.h"
+#include "ui/grid_model.h"
+#include "ui/look.h"
+#include "ui/twips.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kRestOfWidth = -1;
+/// Width of a digit in the font that the design's column widths were made for.
+constexpr double kDesignDigit = 6.0;
+
+}  // namespace
+
+GridTable::GridTable(QWidget* parent) : QTableView(parent) {
+  header_ = new GridHeader(this);
+  setHorizontalHeader(header_);
+  setVerticalHeader(new GridRowHeader(this));
+  setSelectionMode(QAbstractItemView::NoSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setContextMenuPolicy(Qt::CustomContextMenu);
+  setFocusPolicy(Qt::StrongFocus);
+  header_->setSectionResizeMode(QHeaderView::Fixed);
+  header_->setMinimumSectionSize(1);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  setCornerButtonEnabled(false);
+  corner_ = findChild<QAbstractButton*>();
+  if (corner_) corner_->installEventFilter(this);
+  setStyleSheet(QStringLiteral("QTableView { gridline-color: %1; }").arg(look::kGridLine.name()));
+}
+
+void GridTable::Attach(Grid& grid) {
+  grid_ = &grid;
+  model_ = new GridModel(grid, this);
+  model_->FollowCounts();
+  setModel(model_);
+  setItemDelegate(new GridCellPainter(grid, *model_, this));
+  header_->Attach(&grid);
+  static_cast<GridRowHeader*>(verticalHeader())->Attach(&grid);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  verticalHeader()->setVisible(grid.FixedCols > 0);
+  header_->setVisible(grid.FixedRows > 0);
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+    if (!scrolling_) grid_->TopRow = shown_top_row_ = BodyRow(value);
+    PlaceEditor();
+  });
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { PlaceEditor(); });
+  connect(verticalHeader(), &QHeaderView::sectionPressed, this, [this](int section) {
+    SelectRows(section, QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
+  });
+  connect(verticalHeader(), &QHeaderView::sectionEntered, this,
+          [this](int section) { SelectRows(section, true); });
+  connect(header_, &QHeaderView::sectionPressed, this, [this](int section) {
+    SelectCols(section, QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
+  });
+  connect(header_, &QHeaderView::sectionEntered, this,
+          [this](int section) { SelectCols(section, true); });
+}
+
+QModelIndex GridTable::IndexOf(int row, int col) const {
+  return model_->index(row - grid_->FixedRows, col - grid_->FixedCols);
+}
+
+bool GridTable::InBody(int row, int col) const {
+  return row >= grid_->FixedRows && col >= grid_->FixedCols && row < grid_->Rows() &&
+         col < grid_->Cols();
+}
+
+QRect GridTable::CellRect(int row, int col) const { return visualRect(IndexOf(row, col)); }
+
+/// The fixed column's own title, in the line of the other columns' titles.
+void GridTable::PaintCorner() {
+  QPainter painter(corner_);
+  painter.fillRect(corner_->rect(), look::kHeader);
+  painter.setPen(look::kHeaderLine);
+  painter.drawRect(corner_->rect().adjusted(-1, -1, -1, -1));
+  if (grid_->FixedCols == 0 || grid_->FixedRows == 0) return;
+  const int level = grid_->FixedRows - 1;
+  const QRect line(0, corner_->height() - header_->LevelHeight(level), corner_->width(),
+                   header_->LevelHeight(level));
+  painter.setPen(isEnabled() ? look::kText : look::kFaintText);
+  painter.drawText(line, Qt::AlignCenter, Q(grid_->Text(level, grid_->FixedCols - 1)));
+}
+
+void GridTable::PushWidths() {
+  std::vector<int> widths;
+  for (int col = 0; col < grid_->Cols(); ++col) widths.push_back(grid_->ColWidth(col));
+  if (widths == shown_widths_) return;
+  shown_widths_ = std::move(widths);
+  FillWidth();
+}
+
+/// Widths follow the screen's scale and the size of the font, so that no text is cut.
+void GridTable::FillWidth() {
+  if (!grid_ || shown_widths_.empty()) return;
+  const double scale = std::max(fontMetrics().horizontalAdvance('0') / kDesignDigit, 1.0);
+  const auto scaled = [scale](int twips) { return qRound(Pixels(twips) * scale); };
+  int used = 0, rest_col = -1;
+  for (int col = grid_->FixedCols; col < grid_->Cols(); ++col) {
+    const int section = col - grid_->FixedCols, twips = grid_->ColWidth(col);
+    header_->setSectionHidden(section, twips == 0);
+    if (twips == kRestOfWidth) rest_col = section;
+    if (twips <= 0) continue;
+    header_->resizeSection(section, scaled(twips));
+    used += scaled(twips);
+  }
+  if (grid_->FixedCols > 0) {
+    const int least = fontMetrics().horizontalAdvance("9999") + 6;
+    verticalHeader()->setFixedWidth(std::max(scaled(grid_->ColWidth(0)), least));
+  }
+  if (rest_col >= 0) {
+    header_->resizeSection(rest_col,
+                           std::max(viewport()->width() - used, scaled(kRestWidthAtLeast)));
+  }
+}
+
+void GridTable::PushScroll() {
+  if (grid_->TopRow == shown_top_row_) return;
+  shown_top_row_ = grid_->TopRow;
+  scrolling_ = true;
+  verticalScrollBar()->setValue(std::max(grid_->TopRow - grid_->FixedRows, 0));
+  scrolling_ = false;
+}
+
+void GridTable::Push() {
+  if (!grid_ || !grid_->Redraw) return;
+  if (editor_ && (!grid_->Enabled || edit_row_ >= grid_->Rows())) CloseEditor();
+  if (shown_revision_ == grid_->Revision) return PushScroll();
+  shown_revision_ = grid_->Revision;
+  if (model_->FollowCounts()) shown_widths_.clear();
+  PushWidths();
+  PushScroll();
+  const std::pair current{grid_->Row, grid_->Col};
+  if (shown_current_ != current) {
+    shown_current_ = current;
+    ShowCurrent();
+  }
+  PlaceEditor();
+  viewport()->update();
+  header_->viewport()->update();
+  if (corner_) corner_->update();
+  verticalHeader()->viewport()->update();
+}
+
+void GridTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FillWidth();
+  PlaceEditor();
+}
+
+void GridTable::updateGeometries() {
+  QTableView::updateGeometries();
+  PlaceEditor();
+}
+
+}  // namespace tr7

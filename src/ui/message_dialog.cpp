@@ -1,0 +1,86 @@
+#include "ui/message_dialog.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+#include <vector>
+
+#include "core/text.h"
+#include "ui/binding.h"
+#include "ui/icons.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kYesText = 5150, kNoText = 5151, kOkText = 5152, kCancelText = 5153;
+
+struct AnswerButton {
+  MsgAnswer answer;
+  int text;
+  QMessageBox::ButtonRole role;
+};
+
+std::vector<AnswerButton> ButtonsOf(MsgButtons buttons) {
+  const AnswerButton ok{MsgAnswer::Ok, kOkText, QMessageBox::AcceptRole};
+  const AnswerButton cancel{MsgAnswer::Cancel, kCancelText, QMessageBox::RejectRole};
+  const AnswerButton yes{MsgAnswer::Yes, kYesText, QMessageBox::YesRole};
+  const AnswerButton no{MsgAnswer::No, kNoText, QMessageBox::NoRole};
+  switch (buttons) {
+    case MsgButtons::OkCancel:
+      return {ok, cancel};
+    case MsgButtons::YesNo:
+      return {yes, no};
+    case MsgButtons::YesNoCancel:
+      return {yes, no, cancel};
+    case MsgButtons::Ok:
+      break;
+  }
+  return {ok};
+}
+
+QPixmap PictureOf(MsgIcon icon) {
+  constexpr int kSide = 40;
+  switch (icon) {
+    case MsgIcon::Information:
+      return MessageIcon("Information").pixmap(kSide, kSide);
+    case MsgIcon::Question:
+      return MessageIcon("Question").pixmap(kSide, kSide);
+    case MsgIcon::Warning:
+      return MessageIcon("Warning").pixmap(kSide, kSide);
+    case MsgIcon::Error:
+      return MessageIcon("Error").pixmap(kSide, kSide);
+    case MsgIcon::None:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor& wait) {
+  QMessageBox box(parent);
+  box.setWindowModality(Qt::ApplicationModal);
+  box.setWindowTitle(Q(call.Title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Q(call.Text));
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  box.setIconPixmap(PictureOf(call.Icon));
+  const std::vector<AnswerButton> answers = ButtonsOf(call.Buttons);
+  for (const AnswerButton& answer : answers) {
+    QPushButton* button = box.addButton(Q(Text(answer.text)), answer.role);
+    // Without a Cancel the box stays until it is answered; OK alone is its own cancel.
+    if (answer.answer == MsgAnswer::Cancel || answers.size() == 1) box.setEscapeButton(button);
+    if (&answer == &answers.front()) box.setDefaultButton(button);
+  }
+  box.show();
+  box.raise();
+  box.activateWindow();
+  wait([&box] { return !box.isVisible(); });
+  for (const AnswerButton& answer : answers) {
+    const QAbstractButton* clicked = box.clickedButton();
+    if (clicked && clicked->text() == Q(Text(answer.text))) return answer.answer;
+  }
+  return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
+}
+
+}  // namespace tr7

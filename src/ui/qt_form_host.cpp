@@ -1,0 +1,330 @@
+#include "ui/qt_form_host.h"
+
+#include <QApplication>
+#include <QLayout>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <string_view>
+
+#include "core/app_state.h"
+#include "core/views.h"
+#include "forms/control.h"
+#include "ui/grid_table.h"
+#include "ui/look.h"
+#include "ui/twips.h"
+#include "ui/windows.h"
+
+namespace tr7 {
+namespace {
+
+/// Records that change all the time are drawn this often.
+constexpr std::int64_t kPushEveryUs = 16'000;
+/// How long a picture may take to get to the screen before the start goes on without it.
+constexpr std::int64_t kExposeUs = 200'000;
+
+bool Is(const View& view, std::string_view name) { return name == view.Name; }
+
+}  // namespace
+
+QtFormHost::QtFormHost(QtPump& pump) : pump_(pump) {
+  pump_.before_sleep = [this] { return PushWhenDue(); };
+}
+
+QtFormHost::~QtFormHost() {
+  pump_.before_sleep = nullptr;
+  while (!shown_.empty()) {
+    QWidget* window = shown_.begin()->second.window;
+    const bool inside = shown_.begin()->first->MdiChild && frame_;
+    shown_.erase(shown_.begin());
+    if (!inside && window != frame_) delete window;
+  }
+  delete frame_;
+}
+
+// Windows.
+
+QWidget* QtFormHost::ParentForDialogs() const {
+  QWidget* active = QApplication::activeModalWidget();
+  return active ? active : frame_ && frame_->isVisible() ? frame_ : nullptr;
+}
+
+QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QWidget*& inner) {
+  if (form.root == FormRoot::MainWindow) {
+    frame_ = new FrameWindow(view);
+    return inner = frame_;
+  }
+  if (view.MdiChild) {
+    inner = new QWidget;
+    if (modal) {
+      // A view of the frame's that is asked for as a dialogue for once.
+      auto* dialog = new DialogWindow(view, ParentForDialogs());
+      auto* layout = new QVBoxLayout(dialog);
+      layout->setContentsMargins(0, 0, 0, 0);
+      layout->addWidget(inner);
+      return dialog;
+    }
+    auto* child = new ChildWindow(view);
+    child->setWidget(inner);
+    return child;
+  }
+  if (form.root == FormRoot::Dialog) return inner = new DialogWindow(view, ParentForDialogs());
+  return inner = new SplashWindow;
+}
+
+QtFormHost::Shown* QtFormHost::Build(View& view, bool modal) {
+  auto found = shown_.find(&view);
+  if (found != shown_.end() && modal && !qobject_cast<QDialog*>(found->second.window)) {
+    Hide(view);
+    found = shown_.end();
+  }
+  if (found != shown_.end()) return &found->second;
+  const ViewForm* form = FindViewForm(view.Name);
+  if (!form) {
+    qCritical("%s has no layout", view.Name);
+    return nullptr;
+  }
+  look::UseLanguage(AppState.LangOffset == 0);
+  QWidget* inner = nullptr;
+  QWidget* window = MakeWindow(view, *form, modal, inner);
+  auto bound = std::make_unique<BoundView>(view, *form, *inner, [this] { return MayCommand(); });
+  for (const std::string& problem : bound->Problems()) {
+    qCritical("%s.%s", view.Name, problem.c_str());
+  }
+  bound->Push();
+  return &shown_.emplace(&view, Shown{window, std::move(bound)}).first->second;
+}
+
+void QtFormHost::ShowFrame() {
+  if (!mdi_) {
+    mdi_ = frame_->findChild<QMdiArea*>();
+    QObject::connect(mdi_, &QMdiArea::subWindowActivated, frame_, [this](QMdiSubWindow* window) {
+      for (const auto& [view, shown] : shown_) {
+        if (shown.window == window) SetActiveView(&shown.bound->Record());
+      }
+    });
+  }
+  if (frame_->isVisible()) return;
+  frame_->PlaceByRecord();
+  frame_->show();
+}
+
+/// The first view takes the whole frame; later ones open as the one before stands.
+void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
+  if (child.mdiArea() == mdi_) {
+    if (child.isMinimized()) child.showNormal();
+    mdi_->setActiveSubWindow(&child);
+    return;
+  }
+  const QMdiSubWindow* before = mdi_->activeSubWindow();
+  mdi_->addSubWindow(&child);
+  child.resize(Pixels(view.Width), Pixels(view.Height));
+  if (!before || before->isMaximized()) {
+    child.showMaximized();
+  } else {
+    child.show();
+  }
+}
+
+/// A dialogue is as large as its layout asks for; one that may be resized has the record's size.
+void QtFormHost::ShowDialog(View& view, QWidget& window, bool modal) {
+  window.setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+  window.adjustSize();
+  if (window.layout()->sizeConstraint() != QLayout::SetFixedSize) {
+    const QSize wanted = window.sizeHint().expandedTo({Pixels(view.Width), Pixels(view.Height)});
+    window.resize(wanted.boundedTo(window.screen()->availableSize() - QSize(20, 60)));
+  }
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+void QtFormHost::Show(View& view) {
+  if (ended_) return;
+  Shown* shown = Build(view, false);
+  if (!shown) return;
+  if (shown->window == frame_) {
+    ShowFrame();
+  } else if (auto* child = qobject_cast<QMdiSubWindow*>(shown->window); child && mdi_) {
+    ShowChild(view, *child);
+  } else if (Is(view, "frmSplash")) {
+    shown->window->adjustSize();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    shown->window->move(screen.center() - shown->window->rect().center());
+    shown->window->show();
+  } else {
+    ShowDialog(view, *shown->window, false);
+  }
+}
+
+void QtFormHost::ShowModal(View& view) {
+  Shown* shown = ended_ ? nullptr : Build(view, true);
+  if (!shown) {
+    view.Visible = false;  // a view that cannot be drawn counts as closed at once
+    return;
+  }
+  ShowDialog(view, *shown->window, true);
+  Wait([&view] { return !view.Visible; });
+}
+
+void QtFormHost::Hide(View& view) {
+  const auto found = shown_.find(&view);
+  if (found == shown_.end()) return;
+  QWidget* window = found->second.window;
+  shown_.erase(found);
+  window->hide();
+  // The window may stand further up in the calls, in the click that closes it.
+  window->deleteLater();
+  if (window == frame_) {
+    frame_ = nullptr;
+    mdi_ = nullptr;
+  }
+}
+
+void QtFormHost::BringToFront(View& view) {
+  const auto found = shown_.find(&view);
+  if (found == shown_.end()) return;
+  QWidget* window = found->second.window;
+  if (view.MdiChild && mdi_) {
+    if (window->isMinimized()) window->showNormal();
+    mdi_->setActiveSubWindow(static_cast<QMdiSubWindow*>(window));
+    SetActiveView(&view);
+    return;
+  }
+  window->raise();
+  window->activateWindow();
+}
+
+void QtFormHost::SetFocus(Control& control) {
+  QWidget* widget = WidgetOf(control);
+  if (!widget) return;
+  Push();  // the record may just have switched the control on
+  Find(*control.Owner)->Reveal(*widget);
+  widget->setFocus(Qt::OtherFocusReason);
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+}
+
+void QtFormHost::ArrangeWindows(WindowArrangement how) {
+  if (!mdi_) return;
+  const QList<QMdiSubWindow*> windows = mdi_->subWindowList(QMdiArea::CreationOrder);
+  if (windows.isEmpty()) return;
+  if (how == WindowArrangement::Cascade) return mdi_->cascadeSubWindows();
+  // Horizontally: one above the other, each over the full width.
+  const bool rows = how == WindowArrangement::TileHorizontal;
+  const QSize field = mdi_->viewport()->size();
+  const int count = static_cast<int>(windows.size());
+  for (int i = 0; i < count; ++i) {
+    const int extent = rows ? field.height() : field.width();
+    const int from = extent * i / count, to = extent * (i + 1) / count;
+    windows[i]->showNormal();
+    windows[i]->setGeometry(rows ? QRect(0, from, field.width(), to - from)
+                                 : QRect(from, 0, to - from, field.height()));
+  }
+}
+
+// Drawing.
+
+BoundView* QtFormHost::Find(const View& view) const {
+  const auto found = shown_.find(&view);
+  return found == shown_.end() ? nullptr : found->second.bound.get();
+}
+
+QWidget* QtFormHost::WidgetOf(const Control& control) const {
+  const BoundView* bound = Find(*control.Owner);
+  return bound ? bound->WidgetOf(control) : nullptr;
+}
+
+void QtFormHost::Push() {
+  if (pushing_ || ended_) return;
+  pushing_ = true;
+  for (const auto& [view, shown] : shown_) shown.bound->Push();
+  pushing_ = false;
+  last_push_us_ = pump_.NowUs();
+}
+
+/// Before the loop sleeps: what handlers and ticks have changed is drawn, not more often than an
+/// eye can follow.
+std::optional<std::int64_t> QtFormHost::PushWhenDue() {
+  if (pump_.NowUs() - last_push_us_ < kPushEveryUs) return last_push_us_ + kPushEveryUs;
+  Push();
+  return std::nullopt;
+}
+
+void QtFormHost::PaintNow() {
+  for (const auto& [view, shown] : shown_) {
+    if (shown.window->isVisible()) shown.window->repaint();
+  }
+}
+
+/// A window that has just come up is waited for until it is exposed, with the timers held.
+void QtFormHost::Refresh() {
+  Push();
+  const QtPump::HoldTimers hold(pump_);
+  const std::int64_t until = pump_.NowUs() + kExposeUs;
+  const auto all_exposed = [this] {
+    for (const auto& [view, shown] : shown_) {
+      const QWindow* handle = shown.window->windowHandle();
+      if (shown.window->isVisible() && handle && !handle->isExposed()) return false;
+    }
+    return true;
+  };
+  while (!all_exposed() && pump_.NowUs() < until) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 5);
+  }
+  PaintNow();
+}
+
+// Asking.
+
+/// An open edit is finished before a command runs, and a refused one stops it.
+bool QtFormHost::MayCommand() {
+  for (const auto& [view, shown] : shown_) {
+    for (GridTable* grid : shown.bound->Grids()) {
+      if (!grid->FinishEdit()) return false;
+    }
+  }
+  return true;
+}
+
+void QtFormHost::Wait(const std::function<bool()>& answered) {
+  while (!answered() && !ended_) pump_.Run();
+}
+
+MsgAnswer QtFormHost::MessageBox(const MessageBoxCall& call) {
+  if (ended_) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
+  Push();
+  const int cursors = wait_cursors_;
+  for (int i = 0; i < cursors; ++i) QApplication::restoreOverrideCursor();
+  const MsgAnswer answer =
+      AskMessage(call, ParentForDialogs(), [this](const auto& answered) { Wait(answered); });
+  for (int i = 0; i < cursors; ++i) QApplication::setOverrideCursor(Qt::WaitCursor);
+  return answer;
+}
+
+std::optional<std::string> QtFormHost::FileDialog(const FileDialogCall& call) {
+  if (ended_) return std::nullopt;
+  Push();
+  return AskFile(call, ParentForDialogs(), [this](const auto& answered) { Wait(answered); });
+}
+
+void QtFormHost::Beep() { QApplication::beep(); }
+
+void QtFormHost::WaitCursor(bool on) {
+  wait_cursors_ += on ? 1 : -1;
+  if (on) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+void QtFormHost::EndProcess() {
+  ended_ = true;
+  for (const auto& [view, shown] : shown_) shown.window->hide();
+  QCoreApplication::exit(0);
+}
+
+}  // namespace tr7

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/form_host.h"
+#include "ui/bound_view.h"
+#include "ui/message_dialog.h"
+#include "ui/qt_pump.h"
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace tr7 {
+
+class FrameWindow;
+
+/// The screen on Qt. A window lives while its view is shown; before the event loop sleeps, every
+/// record that is on the screen is compared with what was drawn last.
+class QtFormHost : public FormHost {
+ public:
+  explicit QtFormHost(QtPump& pump);
+  ~QtFormHost() override;
+
+  void Show(View& view) override;
+  void ShowModal(View& view) override;
+  void Hide(View& view) override;
+  void BringToFront(View& view) override;
+  void Refresh() override;
+  MsgAnswer MessageBox(const MessageBoxCall& call) override;
+  std::optional<std::string> FileDialog(const FileDialogCall& call) override;
+  void Beep() override;
+  void WaitCursor(bool on) override;
+  void SetFocus(Control& control) override;
+  void ArrangeWindows(WindowArrangement how) override;
+  void EndProcess() override;
+
+  /// True once the process is to end: nothing more is shown and nobody is asked.
+  bool Ended() const { return ended_; }
+  /// The tied view on the screen, or null.
+  BoundView* Find(const View& view) const;
+  QWidget* WidgetOf(const Control& control) const;
+  /// Draws what the records hold, now.
+  void Push();
+
+ private:
+  struct Shown {
+    QWidget* window;  ///< what closes, moves and is deleted; owns the bound widget
+    std::unique_ptr<BoundView> bound;
+  };
+
+  Shown* Build(View& view, bool modal);
+  QWidget* MakeWindow(View& view, const ViewForm& form, bool modal, QWidget*& inner);
+  QWidget* ParentForDialogs() const;
+  void ShowFrame();
+  void ShowChild(View& view, QMdiSubWindow& child);
+  void ShowDialog(View& view, QWidget& window, bool modal);
+  bool MayCommand();
+  std::optional<std::int64_t> PushWhenDue();
+  void PaintNow();
+  void Wait(const std::function<bool()>& answered);
+
+  QtPump& pump_;
+  std::map<const View*, Shown> shown_;
+  FrameWindow* frame_ = nullptr;
+  QMdiArea* mdi_ = nullptr;
+  std::int64_t last_push_us_ = 0;
+  bool pushing_ = false;
+  int wait_cursors_ = 0;
+  bool ended_ = false;
+};
+
+}  // namespace tr7

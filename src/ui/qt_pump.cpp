@@ -1,0 +1,65 @@
+#include "ui/qt_pump.h"
+
+#include <QAbstractEventDispatcher>
+#include <algorithm>
+#include <chrono>
+
+namespace tr7 {
+namespace {
+
+/// Ticks that follow one another without a pause let the user in this often.
+constexpr std::int64_t kEventsEveryUs = 10'000;
+/// Longest sleep that the armed timer is set for.
+constexpr std::int64_t kLongestSleepMs = 3'600'000;
+
+}  // namespace
+
+QtPump::QtPump() {
+  wake_.setSingleShot(true);
+  wake_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&wake_, &QTimer::timeout, this, [this] {
+    if (holds_ == 0) ServeDueTimers();
+  });
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                   this, &QtPump::Arm);
+}
+
+std::int64_t QtPump::NowUs() const {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+}
+
+void QtPump::Arm() {
+  ++sleeps;
+  std::optional<std::int64_t> due = before_sleep ? before_sleep() : std::nullopt;
+  if (holds_ == 0) {
+    if (const auto next = NextDueUs()) due = std::min(due.value_or(*next), *next);
+  }
+  if (!due) {
+    wake_.stop();
+    return;
+  }
+  if (wake_.isActive() && armed_us_ == *due) return;
+  armed_us_ = *due;
+  const std::int64_t wait_ms = (std::max<std::int64_t>(*due - NowUs(), 0) + 999) / 1000;
+  wake_.start(static_cast<int>(std::min(wait_ms, kLongestSleepMs)));
+}
+
+void QtPump::LetEventsIn() {
+  if (NowUs() - last_events_us_ < kEventsEveryUs) return;
+  last_events_us_ = NowUs();
+  if (before_sleep) before_sleep();
+  QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+}
+
+void QtPump::Run() {
+  if (holds_ == 0 && ServeDueTimers()) {
+    LetEventsIn();
+    return;
+  }
+  QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents |
+                                                      QEventLoop::WaitForMoreEvents);
+  last_events_us_ = NowUs();
+}
+
+}  // namespace tr7

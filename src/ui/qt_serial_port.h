@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QSerialPort>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/serial_port.h"
+#include "platform/sim_port.h"
+
+namespace tr7 {
+
+/// The computer's serial ports, pseudo-terminals among them. The name "sim" leads to a simulated
+/// controller inside the program.
+class QtSerialPort : public SerialPort {
+ public:
+  QtSerialPort();
+
+  PortFault Open(const std::string& device) override;
+  bool Configure(const std::string& settings, int carrier_detect_timeout_ms) override;
+  void Close() override;
+  bool IsOpen() const override { return sim_.IsOpen() || port_.isOpen(); }
+  bool Write(std::string_view bytes) override;
+  std::size_t InBufferCount() override;
+  std::string ReadAll() override;
+  std::string FaultText() const override { return fault_text_; }
+  bool IsSimulated() const override { return sim_.IsOpen(); }
+  std::optional<std::int64_t> NextEventUs() override { return sim_.NextEventUs(); }
+  std::vector<std::string> PortNames() const override;
+
+  /// The controller behind "sim".
+  SimPort& Sim() { return sim_; }
+
+ private:
+  PortFault FaultOfOpening(const QString& path) const;
+
+  QSerialPort port_;
+  SimPort sim_;
+  bool dead_ = false;  ///< the device went away while open
+  std::string fault_text_;
+};
+
+}  // namespace tr7

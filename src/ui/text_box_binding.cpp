@@ -1,0 +1,89 @@
+#include "ui/text_box_binding.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+#include <QValidator>
+#include <limits>
+
+namespace tr7 {
+namespace {
+
+/// Drops the characters that the field does not take.
+class AllowedCharsValidator : public QValidator {
+ public:
+  AllowedCharsValidator(const TextBox& record, QObject* parent)
+      : QValidator(parent), record_(record) {}
+
+  State validate(QString& text, int& cursor) const override {
+    if (record_.AllowedChars.empty()) return Acceptable;
+    const QString allowed = Q(record_.AllowedChars);
+    for (int i = text.size() - 1; i >= 0; --i) {
+      if (allowed.contains(text[i])) continue;
+      text.remove(i, 1);
+      if (cursor > i) --cursor;
+    }
+    return Acceptable;
+  }
+
+ private:
+  const TextBox& record_;
+};
+
+constexpr int kNoLimit = 32767;
+
+}  // namespace
+
+TextBoxBinding::TextBoxBinding(TextBox& record, QLineEdit& edit)
+    : WidgetBinding(record, edit), record_(record), edit_(edit) {
+  edit.setValidator(new AllowedCharsValidator(record, &edit));
+  edit.installEventFilter(this);
+  QObject::connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+    text_ = text.toStdString();
+    record_.Text = *text_;
+    if (record_.Change) record_.Change();
+  });
+}
+
+void TextBoxBinding::Push() {
+  pushing_ = true;
+  WidgetBinding::Push();
+  if (Changed(max_length_, record_.MaxLength)) {
+    edit_.setMaxLength(record_.MaxLength > 0 ? record_.MaxLength : kNoLimit);
+  }
+  if (Changed(text_, record_.Text)) edit_.setText(Q(record_.Text));
+  if (Changed(input_method_off_, record_.InputMethodOff)) {
+    edit_.setAttribute(Qt::WA_InputMethodEnabled, !record_.InputMethodOff);
+  }
+  pushing_ = false;
+}
+
+bool TextBoxBinding::OnKey(const QEvent& event) {
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  if ((key != Qt::Key_Return && key != Qt::Key_Enter) || !record_.Enter) return false;
+  record_.Enter();
+  return true;
+}
+
+void TextBoxBinding::OnFocusOut() {
+  if (!record_.LostFocus) return;
+  if (!pushing_) {
+    record_.LostFocus();
+    return;
+  }
+  // The focus went because of what is being drawn: the handler waits until that is done.
+  QTimer::singleShot(0, this, [this] {
+    if (record_.LostFocus) record_.LostFocus();
+  });
+}
+
+bool TextBoxBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && OnKey(*event)) return true;
+  const bool done = QObject::eventFilter(watched, event);
+  if (event->type() == QEvent::FocusOut) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) OnFocusOut();
+  }
+  return done;
+}
+
+}  // namespace tr7

@@ -1,0 +1,97 @@
+#include "ui/windows.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
+#include "core/views.h"
+#include "forms/control.h"
+#include "platform/doors.h"
+#include "ui/twips.h"
+
+namespace tr7 {
+namespace {
+
+/// The button that Escape presses, when it can be pressed.
+CommandButton* CancelButton(const View& view) {
+  for (Control* control : view.Controls) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button && button->Cancel && button->Enabled && button->Visible) return button;
+  }
+  return nullptr;
+}
+
+/// The user asks to close a view. The window stays until the record's close takes it away.
+void AskToClose(View& view, QCloseEvent& event) {
+  event.ignore();
+  if (view.RefuseClose) {
+    doors.forms->Beep();
+  } else if (view.Visible) {
+    CloseView(view, CloseReason::ControlMenu);
+  }
+}
+
+}  // namespace
+
+void FrameWindow::PlaceByRecord() {
+  QRect wanted(Pixels(view_.Left), Pixels(view_.Top), Pixels(view_.Width), Pixels(view_.Height));
+  const QScreen* screen = QGuiApplication::screenAt(wanted.center());
+  if (!screen) screen = QGuiApplication::primaryScreen();
+  const QRect field = screen->availableGeometry();
+  wanted.setSize(wanted.size().boundedTo(field.size()));
+  wanted.moveTo(std::clamp(wanted.left(), field.left(), field.right() - wanted.width() + 1),
+                std::clamp(wanted.top(), field.top(), field.bottom() - wanted.height() + 1));
+  setGeometry(wanted);
+}
+
+void FrameWindow::KeepRectangle() {
+  if (!isVisible() || isMinimized() || isMaximized() || isFullScreen()) return;
+  const QRect place = geometry();
+  view_.Left = Twips(place.left());
+  view_.Top = Twips(place.top());
+  view_.Width = Twips(place.width());
+  view_.Height = Twips(place.height());
+}
+
+void FrameWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+
+void FrameWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  KeepRectangle();
+}
+
+void FrameWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  KeepRectangle();
+}
+
+void FrameWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) view_.Minimised = isMinimized();
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+
+DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_(view) {
+  Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  if (!view.RefuseClose) flags |= Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint;
+  setWindowFlags(flags);
+}
+
+void DialogWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+
+/// Escape.
+void DialogWindow::reject() {
+  if (CommandButton* button = CancelButton(view_)) {
+    button->Press();
+  } else if (!view_.RefuseClose && view_.Visible) {
+    CloseView(view_, CloseReason::ControlMenu);
+  }
+}
+
+SplashWindow::SplashWindow() { setWindowFlags(Qt::SplashScreen | Qt::WindowStaysOnTopHint); }
+
+void SplashWindow::closeEvent(QCloseEvent* event) { event->ignore(); }
+
+}  // namespace tr7

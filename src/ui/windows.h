@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QDialog>
+#include <QMainWindow>
+#include <QMdiSubWindow>
+
+#include "forms/view.h"
+
+namespace tr7 {
+
+// The kinds of windows. They carry the user's wish to close, move or activate a window into the
+// record; what comes of it is the logic's.
+
+/// The frame. Its rectangle is kept in the record.
+class FrameWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit FrameWindow(View& view) : view_(view) {}
+  /// The record's rectangle, moved into the screen when it lies outside of all.
+  void PlaceByRecord();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void KeepRectangle();
+
+  View& view_;
+};
+
+/// A view inside the frame.
+class ChildWindow : public QMdiSubWindow {
+  Q_OBJECT
+
+ public:
+  explicit ChildWindow(View& view) : view_(view) {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  View& view_;
+};
+
+/// A dialogue. Escape presses its cancel button, Enter its default one.
+class DialogWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  DialogWindow(View& view, QWidget* parent);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void reject() override;
+  /// The record hides the window; Qt must not.
+  void accept() override {}
+
+ private:
+  View& view_;
+};
+
+/// The splash.
+class SplashWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  SplashWindow();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+};
+
+}  // namespace tr7

@@ -1,0 +1,166 @@
+#include "core/session.h"
+#include "forms/frm_options2.h"
+#include "forms/frm_splash.h"
+#include "posi/posi_table.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+class StartTest : public FlowTest {};
+
+TEST_F(StartTest, AFastMachineStillShowsTheSplashForThreeSeconds) {
+  const std::int64_t start = pump.NowUs();
+  std::int64_t chosen_at = 0;
+  Choose({1, 0});
+  forms.on_modal["frmSelection"] = [&](View& view) {
+    if (chosen_at == 0) chosen_at = pump.NowUs();
+    AnswerSelection(static_cast<SelectionView&>(view), chosen_at == pump.NowUs() ? 1 : 0);
+  };
+  Main();
+  EXPECT_GE(chosen_at - start, 3'000'000);
+  EXPECT_FALSE(frmSplash.Visible);
+  EXPECT_EQ(frmMain.Caption, "QV-TR7 Ver1.00");
+}
+
+TEST_F(StartTest, OnlineTellsTheVersionAndTakesTheControllersState) {
+  StartOnline();
+  ExpectOnline();
+  ExpectCommandsOn();
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], "The version of C/T is 140");
+  EXPECT_EQ(port.sent.substr(0, 10), "0CM00000\r\n");
+  EXPECT_EQ(AppState.AxisCount, 4);
+  EXPECT_EQ(AppState.AxisPattern, 15);
+  EXPECT_EQ(frmMain.lblCtMode.Caption, "Positioner Mode");
+  EXPECT_EQ(AppState.MaxPulse[0], 20000);
+  EXPECT_TRUE(frmMain.lblSimulated.Visible);
+}
+
+TEST_F(StartTest, OnlineFailedEndsInTheOfflineStart) {
+  port.Ct().SetSilent(true);
+  Choose({0, 1});
+  Main();
+  ExpectOffline();
+  ExpectCommandsOn();
+  EXPECT_TRUE(BoxShown(Text(100)));
+  EXPECT_EQ(asked.back(), Text(74));
+  EXPECT_TRUE(AppState.CtMode);
+  EXPECT_TRUE(frmMain.mnuFileNewProg.Visible);
+  EXPECT_EQ(AppState.AxisCount, 4);
+}
+
+qvr7sim::Setup ForeignController() {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.marker = "X4M";
+  return setup;
+}
+
+class ForeignControllerTest : public FlowTest {
+ protected:
+  ForeignControllerTest() : FlowTest(ForeignController()) {}
+};
+
+TEST_F(ForeignControllerTest, IsRefused) {
+  Choose({0, 0});
+  Main();
+  ExpectOffline();
+  EXPECT_TRUE(BoxShown(Text(124) + "\n" + Text(125)));
+  EXPECT_FALSE(port.IsOpen());
+}
+
+TEST_F(StartTest, ClosingWhileTeachingIsRefusedWithWords) {
+  StartOffline();
+  AppState.TeachingNow = True;
+  EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu));
+  EXPECT_TRUE(BoxShown(Text(60) + "\n" + Text(61)));
+  EXPECT_FALSE(forms.ended);
+}
+
+TEST_F(StartTest, ClosingDuringAReadFromTheWindowDoesNothing) {
+  StartOnline();
+  bool closed = true;
+  pump.After(500'000, [&] { closed = CloseView(frmMain, CloseReason::ControlMenu); });
+  ReadRange(1, 40);
+  EXPECT_FALSE(closed);
+  EXPECT_FALSE(forms.ended);
+  EXPECT_EQ(AppState.PosiLastNo, 40);
+}
+
+TEST_F(StartTest, ExitFromTheMenuDuringAReadEndsTheProcess) {
+  StartOnline();
+  frmMain.mnuFile.Enabled = true;
+  pump.After(500'000, [&] { frmMain.mnuFileExit.Press(); });
+  ReadRange(1, 40);
+  EXPECT_TRUE(forms.ended);
+  EXPECT_EQ(virt.settings.Get("Settings", "PortNo", ""), "1");
+}
+
+TEST_F(StartTest, CancellingTheSaveQuestionKeepsEverything) {
+  StartOnline();
+  ReadRange(1, 3);
+  frmPosi.PosiChanged = True;
+  forms.answers = {MsgAnswer::Cancel};
+  EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu));
+  EXPECT_FALSE(forms.ended);
+  EXPECT_EQ(forms.boxes.back().Title, Text(390));
+  forms.answers = {MsgAnswer::No};
+  EXPECT_TRUE(CloseView(frmMain, CloseReason::ControlMenu));
+  EXPECT_TRUE(forms.ended);
+}
+
+TEST_F(StartTest, TheLanguageChangesAtExitOnly) {
+  StartOffline();
+  forms.on_modal["frmOptions2"] = [](View&) {
+    frmOptions2.tabOptions.Selected = 3;
+    frmOptions2.tabOptions.Click();
+    frmOptions2.optJapanese.Press();
+    frmOptions2.cmdOk.Press();
+  };
+  frmMain.mnuSettingOptions.Press();
+  EXPECT_TRUE(BoxShown(Text(420)));
+  EXPECT_EQ(AppState.LangOffset, 10000);
+  EXPECT_TRUE(AppState.LanguageChanged);
+  forms.on_modal["frmOptions2"] = [](View&) {
+    frmOptions2.tabOptions.Selected = 3;
+    frmOptions2.tabOptions.Click();
+    frmOptions2.optEnglish.Press();
+    frmOptions2.cmdOk.Press();
+  };
+  frmMain.mnuSettingOptions.Press();
+  EXPECT_FALSE(AppState.LanguageChanged) << "twice back to the start";
+  AppState.LanguageChanged = True;
+  CloseView(frmMain, CloseReason::Code);
+  EXPECT_EQ(virt.settings.Get("Settings", "Language", ""), "1");
+}
+
+TEST_F(StartTest, AMinimisedFrameKeepsTheOldRectangle) {
+  virt.settings.Set("Settings", "MainLeft", "1234.5");
+  StartOffline();
+  EXPECT_EQ(frmMain.Left, 1234.5);
+  frmMain.Left = 7;
+  frmMain.Minimised = true;
+  CloseView(frmMain, CloseReason::Code);
+  EXPECT_EQ(virt.settings.Get("Settings", "MainLeft", ""), "1234.5");
+  StartOffline();
+}
+
+TEST_F(StartTest, OptionsTakeThePortAndItsDevice) {
+  StartOffline();
+  forms.on_modal["frmOptions2"] = [](View&) {
+    frmOptions2.txtPortNo.Type("7");
+    EXPECT_EQ(frmOptions2.txtPortNo.Text, "") << "keys outside 0 to 3 are refused";
+    frmOptions2.txtPortNo.Type("2");
+    frmOptions2.comboPortDevice.Pick(0);
+    EXPECT_EQ(frmOptions2.comboPortDevice.Text(), "Simulated controller");
+    frmOptions2.chkPortOccupy.Set(false);
+    frmOptions2.cmdOk.Press();
+  };
+  frmMain.mnuSettingOptions.Press();
+  EXPECT_EQ(AppState.PortNo, 2);
+  EXPECT_FALSE(AppState.PortOccupy);
+  EXPECT_EQ(virt.settings.Get("Settings", "PortDevice2", ""), "sim");
+  EXPECT_EQ(virt.settings.Get("Settings", "PortOccupy", ""), "0");
+}
+
+}  // namespace
+}  // namespace tr7

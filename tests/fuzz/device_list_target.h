@@ -1,0 +1,69 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/text_file.h"
+#include "para/device_list.h"
+#include "platform/doors.h"
+#include "platform/virtual/memory_files.h"
+#include "platform/virtual/virtual_form_host.h"
+#include "platform/virtual/virtual_settings.h"
+#include "tests/fuzz/check.h"
+
+namespace tr7 {
+
+/// A list that was read, or what stands of one: every bound holds, every row can be walked.
+inline void CheckDeviceList(const DeviceListRecord& list, bool good) {
+  FuzzCheck(list.RowCount >= 0 && list.RowCount < kDeviceSlots, "rows have slots");
+  FuzzCheck(list.Sizes.size() <= kDeviceListNames, "the sizes keep their bound");
+  FuzzCheck(list.Speeds.size() <= kDeviceListNames, "the speeds keep their bound");
+  FuzzCheck(good || list.Sizes.empty(), "a damaged list offers nothing");
+  FuzzCheck(good == (list.Rows[0].Raw == std::to_string(list.RowCount)) || !good,
+            "the count is that of the rows");
+  for (int i = 1; i <= list.RowCount; ++i) {
+    const DeviceRecord& row = list.Rows[static_cast<std::size_t>(i)];
+    FuzzCheck(row.Lead > 0, "every device has a lead");
+    const int found = list.Find(row.Size, row.Speed, row.Stroke);
+    FuzzCheck(found > 0 && found <= i, "every device is found");
+  }
+}
+
+/// Any bytes as both catalogues.
+inline void FuzzDeviceList(std::string_view bytes) {
+  MemoryFiles files;
+  VirtualFormHost forms;
+  VirtualSettings settings;
+  const Doors before = doors;
+  doors.files = &files;
+  doors.forms = &forms;
+  doors.settings = &settings;
+
+  for (const char* name : {"qvdevice.lst", "nqvdevice.lst"}) {
+    files.Put(ProgramFile(name), std::string(bytes));
+  }
+  DeviceListRecord& list = DeviceList[0];
+  const bool good_old = ReadDeviceListOldAxis(0) == 0;
+  CheckDeviceList(list, good_old);
+  const bool good = ReadDeviceListNewAxis(0) == 0;
+  CheckDeviceList(list, good);
+  FuzzCheck(good != bool(DevListMissing[0]), "the result agrees with the state");
+  for (const std::string& size : list.Sizes) {
+    MakeSpeedListNew(0, size);
+    FuzzCheck(!list.Speeds.empty() && list.Speeds.size() <= kDeviceListNames, "a size has speeds");
+  }
+  const std::size_t boxes = forms.boxes.size();
+  FuzzCheck(boxes == (good_old ? 0u : 1u) + (good ? 0u : 1u), "one box a failure");
+  const DeviceRecord row = list.Rows[1];
+  const bool found = FindDeviceNew(row.Size, row.Speed, row.Stroke) == 0;
+  FuzzCheck(found == (good && list.RowCount > 0), "a lookup agrees with the list");
+  const int kind = GetPgKindNew(row.Size, row.Speed, row.Stroke);
+  FuzzCheck(found ? kind >= 0 && kind <= 2 : kind == kKindUnknown, "a kind is one of three");
+
+  DeviceList.fill(DeviceListRecord{});
+  DevListMissing.fill(False);
+  DeviceLookup = DeviceLookupRecord{};
+  doors = before;
+}
+
+}  // namespace tr7

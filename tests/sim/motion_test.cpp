@@ -1,0 +1,239 @@
+#include <gtest/gtest.h>
+
+#include "sim/axes.h"
+#include "tests/sim/exchange.h"
+
+namespace qvr7sim {
+namespace {
+
+constexpr std::int64_t kSecond = 1'000'000;
+
+qvr7sim::Setup HomedSetup() {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.homed = true;
+  return setup;
+}
+
+/// Four groups of "0MV": axis 1 goes to `pulses` with 20 mm/s and 30 ms, the others stand.
+std::string DirectMove(const std::string& pulses) {
+  return "0MV014031" + pulses + "00101000000" + "00101000000" + "00101000000";
+}
+
+TEST(Motion, LongWaysReachTheSpeedAndShortOnesDoNot) {
+  const Motion way = Motion::Between(0, 1000, 1000.0, 0.1, 0);
+  EXPECT_EQ(way.EndUs(), 1100000);  // 100 ms up, 900 ms steady, 100 ms down
+  EXPECT_EQ(way.PulsesAt(0), 0);
+  EXPECT_EQ(way.PulsesAt(100000), 50);
+  EXPECT_EQ(way.PulsesAt(550000), 500);
+  EXPECT_EQ(way.PulsesAt(1000000), 950);
+  EXPECT_EQ(way.PulsesAt(2000000), 1000);
+  EXPECT_DOUBLE_EQ(way.SpeedAt(50000), 500.0);
+  EXPECT_DOUBLE_EQ(way.SpeedAt(550000), 1000.0);
+  const Motion back = Motion::Between(25, 0, 1000.0, 0.1, 0);
+  EXPECT_EQ(back.EndUs(), 100000);  // half the speed, reached after half the rise
+  EXPECT_DOUBLE_EQ(back.SpeedAt(50000), 500.0);
+  EXPECT_EQ(back.PulsesAt(50000), 13);
+  EXPECT_EQ(back.PulsesAt(100000), 0);
+}
+
+TEST(Motion, PositionsNeverRunBackOnTheWay) {
+  const Motion way = Motion::Between(100, 777, 350.0, 0.13, 0);
+  int before = 100;
+  for (std::int64_t t = 0; t <= way.EndUs(); t += 997) {
+    const int here = way.PulsesAt(t);
+    ASSERT_GE(here, before);
+    ASSERT_LE(here, 777);
+    before = here;
+  }
+  EXPECT_EQ(way.PulsesAt(way.EndUs()), 777);
+}
+
+TEST(Motion, HomingTakesTimeAndGivesTheHomePosition) {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.start_pulses = {4000, 0, 200, 0};
+  Exchange pc(setup);
+  EXPECT_EQ(pc.Ask("0MP001F"), "0%%105");  // no move to a record before homing
+  EXPECT_EQ(pc.Ask("0MP000F"), "0MP");
+  EXPECT_EQ(pc.Ask("0RA"), "0RA0");
+  EXPECT_EQ(pc.Ask("0RH"), "0RH0");
+  pc.Wait(kSecond / 2);
+  EXPECT_EQ(pc.Ask("0RA"), "0RAA");  // axes 2 and 4 stood on their sensors
+  EXPECT_EQ(pc.Ask("0RH"), "0RHA");
+  pc.Wait(3 * kSecond);
+  EXPECT_EQ(pc.Ask("0RA"), "0RAF");
+  EXPECT_EQ(pc.Ask("0RH"), "0RHF");
+  EXPECT_EQ(pc.Ask("0RCF"), "0RCF00000000000000000000");
+}
+
+TEST(Motion, RecordsMoveAbsoluteAndByTheirWay) {
+  qvr7sim::Setup setup = HomedSetup();
+  const auto record = [](int way, int pulses) {
+    PositionRecord r;
+    r.axis[1] = {100, 5, way, pulses, 0, 0};
+    return r;
+  };
+  setup.positions[50] = record(1, 5000);
+  setup.positions[51] = record(2, 300);
+  setup.positions[52] = record(3, 1300);
+  setup.positions[53] = record(0, 9);
+  Exchange pc(setup);
+  const struct {
+    const char* request;
+    int pulses;
+  } steps[] = {{"0MP0322", 5000}, {"0MS0332", 5300}, {"0MP03402", 4000},
+               {"0MP0352", 4000}, {"0MP0321", 4000}, {"0MP0320", 4000}};
+  for (const auto& [request, pulses] : steps) {
+    EXPECT_EQ(pc.Ask(request), std::string(request, 3));
+    pc.Wait(2 * kSecond);
+    EXPECT_EQ(pc.Axis(2).pulses, pulses) << request;
+    EXPECT_FALSE(pc.controller.AnyMoving(pc.now_us));
+  }
+}
+
+TEST(Motion, TargetsOutsideTheStrokeStartNothing) {
+  Exchange pc(HomedSetup());
+  EXPECT_EQ(pc.Ask(DirectMove("04E20")), "0MV");  // 20000, the end of the stroke
+  pc.Wait(10 * kSecond);
+  EXPECT_EQ(pc.Axis(1).pulses, 20000);
+  EXPECT_EQ(pc.Ask(DirectMove("04E21")), "0%%106");
+  EXPECT_FALSE(pc.controller.AnyMoving(pc.now_us));
+  EXPECT_EQ(pc.Ask(DirectMove("04E20") + "01"), "0MV");  // a tail changes nothing
+  EXPECT_EQ(pc.Ask("0MV014032" + std::string(38, '0')), "0%%003");
+  EXPECT_EQ(pc.Ask("0MV000031" + std::string(38, '0')), "0%%003");
+}
+
+TEST(Motion, JogRunsUntilStopOrTheEndOfTheStroke) {
+  Exchange pc(HomedSetup());
+  EXPECT_EQ(pc.Ask("0JR50200"), "0JR");
+  pc.Wait(kSecond);
+  EXPECT_TRUE(pc.Axis(2).moving);
+  EXPECT_NEAR(pc.Axis(2).pulses, 950, 25);  // 15 mm/s is 1000 pulses a second, less the rise
+  EXPECT_EQ(pc.Ask("0SP"), "0SP");
+  EXPECT_TRUE(pc.Axis(2).moving);
+  pc.Wait(kSecond / 10);
+  EXPECT_FALSE(pc.Axis(2).moving);
+  const int stopped = pc.Axis(2).pulses;
+  pc.Wait(kSecond);
+  EXPECT_EQ(pc.Axis(2).pulses, stopped);
+  EXPECT_EQ(pc.Ask("0JR00100"), "0JR");
+  pc.Wait(3 * kSecond);
+  EXPECT_EQ(pc.Axis(2).pulses, 0);
+  EXPECT_FALSE(pc.Axis(2).moving);
+  EXPECT_EQ(pc.Ask("0JR00200"), "0JR");
+  pc.Wait(60 * kSecond);
+  EXPECT_EQ(pc.Axis(2).pulses, 13334);
+}
+
+TEST(Motion, FullJogSpeedBelongsToDigitZero) {
+  int pulses[2] = {};
+  for (const int i : {0, 1}) {
+    Exchange pc(HomedSetup());
+    pc.Ask(i == 0 ? "0JR02000" : "0JR12000");
+    pc.Wait(kSecond);
+    pulses[i] = pc.Axis(1).pulses;
+  }
+  EXPECT_NEAR(pulses[0], 10 * pulses[1], 200);
+}
+
+TEST(Motion, WhileMovingWritesAndMovesAreRefusedAndReadsAnswer) {
+  Exchange pc(HomedSetup());
+  const std::string refused[] = {"0WP005" + std::string(60, '0'),
+                                 "0WA001002",
+                                 "0WD0" + std::string(32, '0'),
+                                 "0WG01001002",
+                                 "0WS01" + std::string(32, '0'),
+                                 "0WK0" + std::string(32, '0'),
+                                 "0WE",
+                                 "0WE2",
+                                 "0WF",
+                                 "0MP001F",
+                                 "0MP000F",
+                                 "0JR01000",
+                                 DirectMove("00000")};
+  ASSERT_EQ(pc.Ask(DirectMove("04E20")), "0MV");
+  for (const std::string& request : refused) EXPECT_EQ(pc.Ask(request), "0%%004") << request;
+  EXPECT_EQ(pc.Ask("0RA"), "0RAE");
+  EXPECT_EQ(pc.Ask("0RV"), "0RV140R4M");
+  EXPECT_EQ(pc.Ask("0CM1"), "0CM1");
+  EXPECT_EQ(pc.Ask("0RP001").substr(0, 6), "0RP001");
+  EXPECT_EQ(pc.controller.WrittenGroup(1), std::make_pair(1, 4));
+}
+
+TEST(Motion, AStoppedHomingLeavesNoHome) {
+  qvr7sim::Setup setup = HomedSetup();
+  setup.start_pulses = {10000, 0, 0, 0};
+  Exchange pc(setup);
+  pc.Ask("0MP0001");
+  EXPECT_EQ(pc.Ask("0RH"), "0RHE");
+  pc.Ask("0SP");
+  pc.Wait(20 * kSecond);
+  EXPECT_EQ(pc.Ask("0RH"), "0RHE");
+  EXPECT_GT(pc.Axis(1).pulses, 9000);
+}
+
+TEST(Motion, NegativePositionsWrapTo20Bits) {
+  Exchange pc;
+  pc.controller.PlaceAxis(1, -1, 0);
+  EXPECT_EQ(pc.Ask("0RC1"), "0RC1FFFFF");
+}
+
+TEST(Motion, AxesNotInUseAreRefused) {
+  qvr7sim::Setup setup = HomedSetup();
+  setup.mask = 10;
+  for (const char* request : {"0MP001F", "0MP0001", "0RC1", "0JR01000"}) {
+    EXPECT_EQ(Exchange(setup).Ask(request), "0%%003") << request;
+  }
+  EXPECT_EQ(Exchange(setup).Ask(DirectMove("00100")), "0%%003");
+  EXPECT_EQ(Exchange(setup).Ask("0RCA"), "0RCA0000000000");
+}
+
+TEST(Alarm, StopsTheAxesAndAnswersEverythingButReset) {
+  Exchange pc(HomedSetup());
+  pc.Ask(DirectMove("04E20"));
+  pc.Wait(kSecond / 2);
+  pc.controller.RaiseAlarm({'2', '0', '7'}, pc.now_us);
+  const int stopped = pc.Axis(1).pulses;
+  EXPECT_GT(stopped, 0);
+  for (const char* request : {"0RA", "0RV", "0CM0", "0CM1", "0RD0", "0SP", "0XX", "0AR0"}) {
+    EXPECT_EQ(pc.Ask(request), "0%%207") << request;
+  }
+  EXPECT_EQ(pc.Axis(1).pulses, stopped);
+  EXPECT_EQ(pc.Ask("0AR"), "0AR");
+  EXPECT_EQ(pc.Ask("0RA"), "0RAF");
+  EXPECT_FALSE(pc.controller.StandingAlarm());
+}
+
+TEST(Alarm, AFailedHomingStopsAllAxesWithTheSensorAlarm) {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.start_pulses = {0, 0, 10000, 0};
+  Exchange pc(setup);
+  pc.controller.FailNextHoming(1);
+  EXPECT_EQ(pc.Ask("0MP000F"), "0MP");
+  pc.Wait(kSecond);
+  EXPECT_EQ(pc.Ask("0RA"), "0%%134");
+  const int third = pc.Axis(3).pulses;
+  EXPECT_GT(third, 5000);
+  pc.Wait(kSecond);
+  EXPECT_EQ(pc.Axis(3).pulses, third);
+  pc.Ask("0AR");
+  EXPECT_EQ(pc.Ask("0RH").substr(3), "0");
+  EXPECT_EQ(pc.Ask("0MP000F"), "0MP");
+  pc.Wait(20 * kSecond);
+  EXPECT_EQ(pc.Ask("0RH"), "0RHF");
+}
+
+TEST(Alarm, APowerCycleClearsItAndLosesHomeAndCommand) {
+  Exchange pc(HomedSetup());
+  pc.Ask("0CM1");
+  pc.Ask("0CM01100");
+  EXPECT_TRUE(pc.controller.UnderPcCommand());
+  EXPECT_EQ(pc.controller.ControlDigits(), "1100");
+  pc.controller.RaiseAlarm({'0', '0', '9'}, pc.now_us);
+  pc.controller.PowerCycle(pc.now_us);
+  EXPECT_EQ(pc.Ask("0RH"), "0RH0");
+  EXPECT_FALSE(pc.controller.UnderPcCommand());
+  EXPECT_EQ(pc.controller.ControlDigits(), "0000");
+}
+
+}  // namespace
+}  // namespace qvr7sim

@@ -1,0 +1,155 @@
+#include "sim/pty.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <thread>
+
+#include "sim/server.h"
+
+namespace qvr7sim {
+namespace {
+
+double ProcessorSeconds() {
+  rusage used{};
+  getrusage(RUSAGE_SELF, &used);
+  const auto seconds = [](const timeval& t) {
+    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) * 1e-6;
+  };
+  return seconds(used.ru_utime) + seconds(used.ru_stime);
+}
+
+/// Reads until `end` is seen or two seconds have passed without a byte.
+std::string ReadUntil(int fd, char end) {
+  std::string got;
+  while (got.empty() || got.back() != end) {
+    pollfd polled{fd, POLLIN, 0};
+    if (poll(&polled, 1, 2000) <= 0) break;
+    char byte = 0;
+    if (read(fd, &byte, 1) != 1) break;
+    got += byte;
+  }
+  return got;
+}
+
+/// A controller served in a thread of its own, and its control lines.
+class PtyTest : public testing::Test {
+ protected:
+  void Start(const qvr7sim::Setup& setup) {
+    ASSERT_EQ(pty_.Open(), "");
+    ASSERT_EQ(pipe(control_.data()), 0);
+    ASSERT_EQ(pipe(answer_.data()), 0);
+    controller_ = std::make_unique<Controller>(setup);
+    thread_ = std::thread([this] {
+      failed_ = Serve(&pty_, controller_.get(), control_[0], answer_[1], true);
+      ended_ = true;
+    });
+  }
+  void TearDown() override {
+    if (control_[1] >= 0) close(control_[1]);
+    if (thread_.joinable()) thread_.join();
+    for (int fd : {control_[0], answer_[0], answer_[1]}) {
+      if (fd >= 0) close(fd);
+    }
+    EXPECT_EQ(failed_, "");
+  }
+  int OpenPort() const { return open(pty_.path().c_str(), O_RDWR | O_NOCTTY); }
+  void Send(int fd, const std::string& bytes) const {
+    ASSERT_EQ(write(fd, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+  }
+  std::string Command(const std::string& line) {
+    Send(control_[1], line + "\n");
+    return ReadUntil(answer_[0], '\n');
+  }
+
+  Pty pty_;
+  std::unique_ptr<Controller> controller_;
+  std::array<int, 2> control_{-1, -1};
+  std::array<int, 2> answer_{-1, -1};
+  std::thread thread_;
+  std::string failed_;
+  std::atomic<bool> ended_ = false;
+};
+
+TEST_F(PtyTest, AnswersAtTheLinesRateByteForByte) {
+  Start(qvr7sim::Setup::Useful());
+  const int port = OpenPort();
+  ASSERT_GE(port, 0);
+  const auto before = std::chrono::steady_clock::now();
+  Send(port, "0RP001\r\n");
+  EXPECT_EQ(ReadUntil(port, '\n').size(), 68u);
+  const auto took = std::chrono::steady_clock::now() - before;
+  EXPECT_GE(took, std::chrono::microseconds(8334 + 70834));
+  EXPECT_LT(took, std::chrono::seconds(2));
+  close(port);
+}
+
+TEST_F(PtyTest, ServesPortsOpenedAgainAndControlLines) {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.paced = false;
+  Start(setup);
+  for (int i = 0; i < 3; ++i) {
+    const int port = OpenPort();
+    Send(port, "0RV\r\n");
+    EXPECT_EQ(ReadUntil(port, '\n'), "0RV140R4M\r\n");
+    close(port);
+  }
+  const int port = OpenPort();
+  EXPECT_EQ(Command("alarm 1 4 line"), "ok alarm 1 4\n");
+  EXPECT_EQ(ReadUntil(port, '\n'), "0%%104\r\n");
+  Send(port, "0RA\r\n");
+  EXPECT_EQ(ReadUntil(port, '\n'), "0%%104\r\n");
+  EXPECT_EQ(Command("power-cycle\nstatus"), "ok power-cycle\n");
+  EXPECT_TRUE(ReadUntil(answer_[0], '\n').starts_with("ok mode=pos"));
+  close(port);
+}
+
+TEST_F(PtyTest, WhatAClosedPortHadNotReadIsGone) {
+  ASSERT_EQ(pty_.Open(), "");
+  if (pty_.watch_fd() < 0) GTEST_SKIP() << "this system cannot watch a port being closed";
+  const int port = OpenPort();
+  pty_.Write("0RV140R4M\r\n");
+  close(port);
+  EXPECT_TRUE(pty_.TakeClosed());
+  EXPECT_FALSE(pty_.TakeClosed());
+  const int again = OpenPort();
+  pty_.Write("0RA\n");
+  EXPECT_EQ(ReadUntil(again, '\n'), "0RA\n");
+  close(again);
+}
+
+TEST_F(PtyTest, SleepsWhileNothingIsDue) {
+  Start(qvr7sim::Setup::Useful());
+  close(OpenPort());
+  const double before = ProcessorSeconds();
+  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  EXPECT_LT(ProcessorSeconds() - before, 0.1);
+}
+
+TEST_F(PtyTest, EndsOnQuitAndOnASignal) {
+  Start(qvr7sim::Setup::Useful());
+  EXPECT_EQ(Command("quit"), "ok quit\n");
+  thread_.join();
+  EXPECT_TRUE(ended_);
+
+  ended_ = false;
+  thread_ = std::thread([this] {
+    failed_ = Serve(&pty_, controller_.get(), control_[0], answer_[1], true);
+    ended_ = true;
+  });
+  EXPECT_TRUE(Command("silence off").starts_with("ok"));
+  pthread_kill(thread_.native_handle(), SIGTERM);
+  thread_.join();
+  EXPECT_TRUE(ended_);
+}
+
+}  // namespace
+}  // namespace qvr7sim

@@ -1,0 +1,353 @@
+// What keeps the tree a house: who includes whom, that every text is in the message table, and
+// that every view is translated.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/text.h"
+#include "forms/control.h"
+#include "tests/support/source_tree.h"
+#include "tests/support/state_test.h"
+
+namespace tr7 {
+namespace {
+
+using Files = std::vector<SourceFile>;
+
+const Files& Tree() {
+  static const Files tree = ReadSources({"src", "sim", "tests", "bench"});
+  return tree;
+}
+
+bool InFolder(const std::string& path, const char* folder) { return path.starts_with(folder); }
+
+// Includes.
+
+using Graph = std::map<std::string, std::vector<std::string>>;
+
+Graph IncludeGraph(const Files& files) {
+  Graph graph;
+  for (const SourceFile& file : files) {
+    for (const std::string& quoted : file.quoted) {
+      const std::string path = IncludedPath(files, quoted);
+      if (!path.empty()) graph[file.path].push_back(path);
+    }
+  }
+  return graph;
+}
+
+/// Depth first: a file that is met again while it is still open closes a circle.
+void FindCircle(const Graph& graph, const std::string& path, std::vector<std::string>& open,
+                std::set<std::string>& done, std::vector<std::string>& circles) {
+  if (done.contains(path)) return;
+  if (const auto again = std::find(open.begin(), open.end(), path); again != open.end()) {
+    std::string circle;
+    for (auto it = again; it != open.end(); ++it) circle += *it + " -> ";
+    circles.push_back(circle + path);
+    return;
+  }
+  open.push_back(path);
+  if (const auto found = graph.find(path); found != graph.end()) {
+    for (const std::string& next : found->second) FindCircle(graph, next, open, done, circles);
+  }
+  open.pop_back();
+  done.insert(path);
+}
+
+std::vector<std::string> Circles(const Graph& graph) {
+  std::vector<std::string> circles, open;
+  std::set<std::string> done;
+  for (const auto& [path, included] : graph) FindCircle(graph, path, open, done, circles);
+  return circles;
+}
+
+TEST(Structure, TheTreeIsRead) {
+  EXPECT_GT(Tree().size(), 150u);
+  EXPECT_GT(IncludeGraph(Tree()).size(), 100u);
+}
+
+TEST(Structure, ACircleIsFound) {
+  EXPECT_EQ(Circles({{"a", {"b"}}, {"b", {"c"}}, {"c", {"b"}}}).size(), 1u);
+  EXPECT_EQ(Circles({{"a", {"b", "c"}}, {"b", {"c"}}}).size(), 0u);
+}
+
+TEST(Structure, IncludesFormNoCircle) {
+  for (const std::string& circle : Circles(IncludeGraph(Tree()))) ADD_FAILURE() << circle;
+}
+
+bool IsQtHeader(const std::string& name) {
+  static const std::regex kQt(R"((Q[A-Z]|Qt[A-Z]?|q(t|gpa|pa)[a-z]*/|qt).*)");
+  return std::regex_match(name, kQt);
+}
+
+TEST(Structure, OnlyTheDesktopKnowsQt) {
+  EXPECT_TRUE(IsQtHeader("QString") && IsQtHeader("QtWidgets/QLabel"));
+  EXPECT_FALSE(IsQtHeader("queue"));
+  for (const SourceFile& file : Tree()) {
+    if (!InFolder(file.path, "src/") && !InFolder(file.path, "sim/")) continue;
+    if (InFolder(file.path, "src/ui/")) continue;
+    for (const std::string& name : file.bracketed) {
+      EXPECT_FALSE(IsQtHeader(name)) << file.path << " includes <" << name << ">";
+    }
+    for (const std::string& name : file.quoted) {
+      EXPECT_FALSE(IsQtHeader(name) || name.starts_with("ui/"))
+          << file.path << " includes \"" << name << "\"";
+    }
+  }
+}
+
+TEST(Structure, ToolAndSimulatorMeetAtThePortAlone) {
+  for (const SourceFile& file : Tree()) {
+    for (const std::string& quoted : file.quoted) {
+      const std::string path = IncludedPath(Tree(), quoted);
+      if (InFolder(file.path, "sim/")) {
+        EXPECT_FALSE(InFolder(path, "src/")) << file.path << " includes " << path;
+      }
+      if (InFolder(file.path, "src/") && !InFolder(file.path, "src/platform/sim_port.")) {
+        EXPECT_FALSE(InFolder(path, "sim/")) << file.path << " includes " << path;
+      }
+      if (InFolder(file.path, "src/") || InFolder(file.path, "sim/")) {
+        EXPECT_FALSE(InFolder(path, "tests/")) << file.path << " includes " << path;
+      }
+    }
+  }
+}
+
+// Message ids in code: what is passed for a parameter named `id` or `..._id`, the constants that
+// stand for one (`kMsg...`), and the tags of the controls.
+
+bool HasMessage(int id) {
+  const auto& table = MessageTable();
+  return std::any_of(table.begin(), table.end(),
+                     [&](const MessageRow& row) { return row.id == id; });
+}
+
+/// The arguments of the call whose parenthesis opens at `open`, cut at the commas of its level.
+std::vector<std::string> Arguments(const std::string& code, std::size_t open) {
+  std::vector<std::string> arguments(1);
+  int depth = 0;
+  for (std::size_t at = open; at < code.size(); ++at) {
+    const char c = code[at];
+    if (c == '(' || c == '{' || c == '[') ++depth;
+    if (c == ')' || c == '}' || c == ']') --depth;
+    if (depth == 0) return arguments;
+    if (at == open) continue;
+    if (c == ',' && depth == 1) {
+      arguments.emplace_back();
+    } else {
+      arguments.back() += c;
+    }
+  }
+  return {};
+}
+
+struct Call {
+  std::string file;
+  std::string function;
+  std::vector<std::string> arguments;
+};
+
+/// Everything of the form name(...), declarations included.
+std::vector<Call> Calls(const Files& files) {
+  static const std::regex kCall(R"(\b([A-Za-z_]\w*)\()");
+  std::vector<Call> calls;
+  for (const SourceFile& file : files) {
+    const std::string& code = file.code;
+    for (std::sregex_iterator it(code.begin(), code.end(), kCall), end; it != end; ++it) {
+      const auto open = static_cast<std::size_t>(it->position() + it->length() - 1);
+      calls.push_back({file.path, (*it)[1], Arguments(code, open)});
+    }
+  }
+  return calls;
+}
+
+using IdParameters = std::map<std::string, std::set<std::size_t>>;
+
+IdParameters FindIdParameters(const std::vector<Call>& calls) {
+  static const std::regex kParameter(R"(\s*int\s+(\w+_)?id\d?\s*)");
+  IdParameters found;
+  for (const Call& call : calls) {
+    for (std::size_t i = 0; i < call.arguments.size(); ++i) {
+      if (std::regex_match(call.arguments[i], kParameter)) found[call.function].insert(i);
+    }
+  }
+  return found;
+}
+
+using Constants = std::map<std::string, int>;
+
+Constants FindConstants(const Files& files) {
+  static const std::regex kConstant(R"(\b(k[A-Z]\w*)\s*=\s*(\d+)\s*[;,])");
+  Constants constants;
+  for (const SourceFile& file : files) {
+    const std::string& code = file.code;
+    for (std::sregex_iterator it(code.begin(), code.end(), kConstant), end; it != end; ++it) {
+      constants[(*it)[1]] = std::stoi((*it)[2]);
+    }
+  }
+  return constants;
+}
+
+/// The ids that an argument may have: its own number or constant, or those behind ? and :.
+std::vector<std::string> IdTerms(const std::string& argument) {
+  static const std::regex kTerm(R"((^|[?:])\s*(\d+|k[A-Z]\w*))");
+  std::vector<std::string> terms;
+  for (std::sregex_iterator it(argument.begin(), argument.end(), kTerm), end; it != end; ++it) {
+    terms.push_back((*it)[2]);
+  }
+  return terms;
+}
+
+struct UsedId {
+  int id;
+  std::string where;
+};
+
+std::vector<UsedId> UsedIds(const Files& files) {
+  const std::vector<Call> calls = Calls(files);
+  const IdParameters id_parameters = FindIdParameters(calls);
+  const Constants constants = FindConstants(files);
+  std::vector<UsedId> used;
+  for (const auto& [name, id] : constants) {
+    if (name.starts_with("kMsg")) used.push_back({id, name});
+  }
+  for (const Call& call : calls) {
+    const auto function = id_parameters.find(call.function);
+    if (function == id_parameters.end()) continue;
+    for (std::size_t i : function->second) {
+      if (i >= call.arguments.size()) continue;
+      for (const std::string& term : IdTerms(call.arguments[i])) {
+        const auto constant = constants.find(term);
+        if (std::isdigit(static_cast<unsigned char>(term[0]))) {
+          used.push_back({std::stoi(term), call.file});
+        } else if (constant != constants.end()) {
+          used.push_back({constant->second, call.file + " by " + term});
+        }
+      }
+    }
+  }
+  return used;
+}
+
+Files TreeOf(const std::string& source) {
+  return {{"src/x.cpp", WithoutCommentsAndTexts(source), {}, {}}};
+}
+
+TEST(Structure, IdsAreFoundWhereverTheyAreUsed) {
+  const Files tree = TreeOf(
+      "std::string Text(int id, const std::string& arg);\n"
+      "constexpr int kMsgGone = 4; constexpr int kNext = 5;\n"
+      "int Ask(bool back, int question_id);\n"
+      "x = Text(1); y = Text(a.b(7) ? 2 : 3); Text(kNext, Name(9)); Ask(true, 6 + axis); // "
+      "Text(8)\n"
+      "z = \"Text(10)\";");
+  std::set<int> ids;
+  for (const UsedId& used : UsedIds(tree)) ids.insert(used.id);
+  EXPECT_EQ(ids, (std::set<int>{1, 2, 3, 4, 5, 6}));
+}
+
+TEST(Structure, EveryIdInCodeIsInTheTable) {
+  Files tree = ReadSources({"src"});
+  const std::vector<UsedId> used = UsedIds(tree);
+  EXPECT_GT(used.size(), 80u);
+  for (const UsedId& use : used) {
+    EXPECT_TRUE(HasMessage(use.id)) << "message " << use.id << " is used in " << use.where;
+  }
+}
+
+// The message table.
+
+/// "%1" and "%2" as far as the text has them.
+std::string Placeholders(const std::string& text) {
+  std::string marks;
+  for (const char* mark : {"%1", "%2"}) {
+    if (text.find(mark) != std::string::npos) marks += mark;
+  }
+  return marks;
+}
+
+TEST(Structure, TheMessageTableIsSortedWholeAndInBothLanguages) {
+  int before = 0;
+  for (const MessageRow& row : MessageTable()) {
+    EXPECT_GT(row.id, before) << "unsorted or double";
+    EXPECT_LT(row.id, 10000);
+    EXPECT_FALSE(row.japanese.empty() || row.english.empty()) << row.id << " has an empty column";
+    EXPECT_EQ(row.english.find('\t'), std::string::npos) << row.id << " has a fourth column";
+    EXPECT_EQ(Placeholders(row.japanese), Placeholders(row.english)) << row.id;
+    before = row.id;
+  }
+}
+
+TEST(Structure, NoLineOfTheMessageTableIsLost) {
+  EXPECT_EQ(TreeLines("src/res/messages.tsv"), MessageTable().size());
+}
+
+// The views.
+
+/// Kinds whose caption the user reads; the others show a value.
+bool ShowsItsCaption(const Control& control) {
+  static const std::set<std::string> kKinds{"CommandButton", "CheckBox", "OptionButton", "Frame",
+                                            "Menu"};
+  return kKinds.contains(control.TypeName);
+}
+
+/// Controls whose caption logic sets from messages of its own.
+bool LogicSetsTheCaption(const Control& control) {
+  static const std::set<std::string> kNames{
+      "frmSelection.cmdOk",       "frmSelection.optChoice1",  "frmSelection.optChoice2",
+      "frmSelection.optChoice3",  "frmSelection2.cmdOk",      "frmSelection2.optChoice1",
+      "frmSelection2.optChoice2", "frmSelection2.optChoice3", "frmPosi.mnuPopup"};
+  return kNames.contains(std::string(control.Owner->Name) + "." + control.Name);
+}
+
+std::vector<int> TagsOf(Control& control) {
+  std::vector<int> tags;
+  if (const auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    for (const Tab& tab : tabs->Tabs) tags.push_back(tab.Tag);
+  } else if (const auto* bar = dynamic_cast<Toolbar*>(&control)) {
+    for (const ToolButton& button : bar->Buttons) {
+      if (*button.Key) tags.push_back(button.Tag);  // a separator has no text
+    }
+  } else if (control.Tag != 0 || (ShowsItsCaption(control) && !LogicSetsTheCaption(control))) {
+    tags.push_back(control.Tag);
+  }
+  return tags;
+}
+
+class ViewTest : public StateTest {};
+
+TEST_F(ViewTest, EveryCaptionHasATranslation) {
+  ASSERT_GE(AllViews().size(), 8u);
+  int controls = 0;
+  for (View* view : AllViews()) {
+    EXPECT_TRUE(view->Tag == 0 || HasMessage(view->Tag)) << view->Name;
+    EXPECT_EQ(view->Caption, "") << view->Name << " has a text in its record";
+    for (Control* control : view->Controls) {
+      ++controls;
+      const std::string name = std::string(view->Name) + "." + control->Name;
+      EXPECT_EQ(control->Caption, "") << name << " has a text in its record";
+      for (int tag : TagsOf(*control)) EXPECT_TRUE(HasMessage(tag)) << name << " tag " << tag;
+    }
+  }
+  EXPECT_GT(controls, 150);
+}
+
+TEST_F(ViewTest, NamesAreUniqueWithinAView) {
+  std::set<std::string> views;
+  for (View* view : AllViews()) {
+    EXPECT_TRUE(views.insert(view->Name).second) << "two views are called " << view->Name;
+    std::set<std::string> names;
+    for (Control* control : view->Controls) {
+      EXPECT_TRUE(names.insert(control->Name).second) << view->Name << "." << control->Name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,91 @@
+#include "tests/support/flow_test.h"
+
+#include <utility>
+
+namespace tr7 {
+
+void AnswerSelection(SelectionView& view, int choice) {
+  if (choice < 0) {
+    view.cmdCancel.Press();
+    return;
+  }
+  view.options[static_cast<std::size_t>(choice)]->Press();
+  view.cmdOk.Press();
+}
+
+void FillRange(SelectPosiNoView& view, int first, int last) {
+  view.optRange.Press();
+  view.txtFromNo.Type(std::to_string(first));
+  view.txtToNo.Type(std::to_string(last));
+  view.cmdOk.Press();
+}
+
+FlowTest::FlowTest(const qvr7sim::Setup& setup) : StateTest(setup) {
+  virt.settings.Set("Settings", "Language", "2");
+  for (const char* name : {"frmSelection", "frmSelection2"}) {
+    forms.on_modal[name] = [this](View& view) {
+      auto& selection = static_cast<SelectionView&>(view);
+      asked.push_back(selection.lblPrompt.Caption);
+      if (choices_.empty()) return;  // counts as unanswered
+      const int choice = choices_.front();
+      choices_.erase(choices_.begin());
+      AnswerSelection(selection, choice);
+    };
+  }
+}
+
+void FlowTest::Choose(std::vector<int> choices) { choices_ = std::move(choices); }
+
+void FlowTest::StartOnline() {
+  Choose({0});
+  Main();
+}
+
+void FlowTest::StartOffline(bool program_mode) {
+  Choose({1, program_mode ? 1 : 0});
+  Main();
+}
+
+void FlowTest::AnswerRange(const std::string& name, int first, int last) {
+  forms.on_modal[name] = [first, last](View& view) {
+    FillRange(static_cast<SelectPosiNoView&>(view), first, last);
+  };
+}
+
+void FlowTest::ReadRange(int first, int last) {
+  AnswerRange("frmSelectPosiNo2", first, last);
+  forms.answers.push_back(MsgAnswer::Ok);
+  frmPosi.cmdPosiRead.Press();
+}
+
+void FlowTest::ExpectCommandsOn() const {
+  EXPECT_TRUE(frmMain.cmdReset.Enabled);
+  EXPECT_TRUE(frmMain.mnuFile.Enabled);
+  EXPECT_TRUE(frmMain.mnuSetting.Enabled);
+  EXPECT_TRUE(frmMain.tbToolBar.At(1).Enabled);
+  EXPECT_TRUE(frmPosi.cmdPosiRead.Enabled);
+  EXPECT_TRUE(frmPosi.flgdData.Enabled);
+  EXPECT_TRUE(frmPosi.flgdData.Redraw);
+  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+  EXPECT_FALSE(frmMain.cmdComCancel.Visible);
+  EXPECT_FALSE(AppState.ComBusy);
+  EXPECT_EQ(forms.wait_cursors, 0);
+}
+
+void FlowTest::ExpectOffline() const {
+  EXPECT_TRUE(AppState.Offline);
+  EXPECT_FALSE(frmMain.imgOnline.Visible);
+  EXPECT_TRUE(frmMain.mnuSettingOnline.Enabled);
+  EXPECT_FALSE(frmMain.mnuSettingOffline.Enabled);
+  EXPECT_FALSE(frmPosi.tabCmd.Tabs[1].Enabled);
+}
+
+void FlowTest::ExpectOnline() const {
+  EXPECT_FALSE(AppState.Offline);
+  EXPECT_TRUE(frmMain.imgOnline.Visible);
+  EXPECT_FALSE(frmMain.mnuSettingOnline.Enabled);
+  EXPECT_TRUE(frmMain.mnuSettingOffline.Enabled);
+  EXPECT_TRUE(frmPosi.tabCmd.Tabs[1].Enabled);
+}
+
+}  // namespace tr7

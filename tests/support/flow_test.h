@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "core/main_entry.h"
+#include "core/text.h"
+#include "core/views.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_selection.h"
+#include "tests/support/state_test.h"
+
+namespace tr7 {
+
+/// The user of a flow: starts the tool, chooses, clicks.
+class FlowTest : public StateTest {
+ protected:
+  explicit FlowTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful());
+
+  /// Starts the tool in English and chooses online.
+  void StartOnline();
+  /// Starts the tool offline in the given mode.
+  void StartOffline(bool program_mode = false);
+  /// The next choice boxes are answered in this order: 0, 1, or -1 for cancel.
+  void Choose(std::vector<int> choices);
+  /// The next range dialogue `name` is answered with this range.
+  void AnswerRange(const std::string& name, int first, int last);
+  /// Clicks Read, gives the range and confirms.
+  void ReadRange(int first, int last);
+
+  void ExpectCommandsOn() const;
+  void ExpectOffline() const;
+  void ExpectOnline() const;
+
+  std::vector<int> choices_;       ///< answers that are left
+  std::vector<std::string> asked;  ///< prompts of the choice boxes that came
+};
+
+/// Answers a choice box as a user does.
+void AnswerSelection(SelectionView& view, int choice);
+/// Fills a range dialogue and presses OK.
+void FillRange(SelectPosiNoView& view, int first, int last);
+
+}  // namespace tr7

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tr7 {
+
+/// One C++ file of the tree.
+struct SourceFile {
+  std::string path;                    ///< from the tree's root, "src/core/text.h"
+  std::string code;                    ///< without comments; the texts in quotes are emptied
+  std::vector<std::string> quoted;     ///< what stands in #include "..."
+  std::vector<std::string> bracketed;  ///< what stands in #include <...>
+};
+
+/// Every .h and .cpp file below the given folders of the tree, sorted by path.
+std::vector<SourceFile> ReadSources(const std::vector<std::string>& folders);
+
+/// The tree's path that a quoted include of a file below `src`, `sim` or `tests` leads to; empty
+/// when no such file stands in the tree (a generated one).
+std::string IncludedPath(const std::vector<SourceFile>& files, const std::string& quoted);
+
+/// Number of lines of a file of the tree that are not empty.
+std::size_t TreeLines(const std::string& path);
+
+/// C++ text without comments, with what stands between quotes left out. Lines keep their number.
+std::string WithoutCommentsAndTexts(std::string_view source);
+
+}  // namespace tr7
