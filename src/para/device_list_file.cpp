@@ -30,16 +30,19 @@ bool ReadKind(SeqReader& reader, std::int16_t& kind) {
   return true;
 }
 
-/// An item that nothing uses; it may be anything.
-bool SkipItem(SeqReader& reader) {
+/// Items that nothing uses; they may be anything.
+bool SkipItems(SeqReader& reader, int count) {
   Variant item;
-  return reader.ReadItem(item);
+  for (int i = 0; i < count; ++i) {
+    if (!reader.ReadItem(item)) return false;
+  }
+  return true;
 }
 
 bool ReadRow(SeqReader& reader, DeviceListKind kind, DeviceRecord& row) {
   if (!reader.ReadText(row.Raw) || !ReadPositive(reader, row.Lead)) return false;
   const bool read = kind == DeviceListKind::Old
-                        ? SkipItem(reader) && SkipItem(reader)
+                        ? SkipItems(reader, 2)
                         : ReadPositive(reader, row.Ppr) && ReadKind(reader, row.PgKind) &&
                               ReadKind(reader, row.VKind);
   if (!read) return false;

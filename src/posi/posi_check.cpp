@@ -154,9 +154,9 @@ void CommitLine(int number) {
 
 /// Both phases, the grid at rest. True: all lines were good and are committed.
 bool CheckAndCommit(const NumberRange& range) {
-  Grid& grid = frmPosi.flgdData;
-  const ScopeExit input([&grid, was_on = grid.Enabled] { grid.Enabled = was_on; });
-  grid.Enabled = false;
+  bool& input_on = frmPosi.flgdData.Enabled;
+  const ScopeExit input([was_on = input_on] { frmPosi.flgdData.Enabled = was_on; });
+  input_on = false;
   FG_HighSyoriStart();
   for (int n = range.first; n <= range.last; ++n) CheckLine(n);
   const bool good = PosiTable.PosiBadLineList.empty();

@@ -157,7 +157,8 @@ void EditCMD_Muko() { SetEditCommands({false, false, false, false}); }
 
 void EditCommandsBySelection() {
   const Grid& grid = frmPosi.flgdData;
-  const auto is_body = [&grid](int row) { return row >= kPosiHeaderRows && row < grid.Rows(); };
+  const int rows = grid.Rows();
+  const auto is_body = [rows](int row) { return row >= kPosiHeaderRows && row < rows; };
   const bool free = grid.Enabled && !AppState.TeachingNow;
   const bool line = free && is_body(grid.Row);
   const bool lines = line && is_body(grid.RowSel);
