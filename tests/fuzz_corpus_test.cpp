@@ -5,6 +5,7 @@
 #include "tests/fuzz/code_page_target.h"
 #include "tests/fuzz/device_list_target.h"
 #include "tests/fuzz/error_list_target.h"
+#include "tests/fuzz/para_file_target.h"
 #include "tests/fuzz/seq_file_target.h"
 #include "tests/fuzz/std_lists_target.h"
 #include "tests/support/state_test.h"
@@ -20,7 +21,8 @@ TEST_F(FuzzCorpus, EveryFileRuns) {
     void (*run)(std::string_view);
   } targets[] = {{"code_page", FuzzCodePage},     {"common_list", FuzzCommonList},
                  {"device_list", FuzzDeviceList}, {"error_list", FuzzErrorList},
-                 {"seq_file", FuzzSeqFile},       {"std_list", FuzzStdList}};
+                 {"para_file", FuzzParaFile},     {"seq_file", FuzzSeqFile},
+                 {"std_list", FuzzStdList}};
   for (const auto& target : targets) {
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(

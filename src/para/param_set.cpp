@@ -82,6 +82,17 @@ bool TakeItem(const Variant& item, int row, std::size_t axis, ParamSetRecord& se
   return NumberOf(item, value) && SetParaValue(set, row, axis, value);
 }
 
+/// `ParaTable` into `set`, up to the first row with an item that does not fit: its number, or 0.
+int TakeRows(ParamSetRecord& set) {
+  for (int row = 1; row <= kParaRows; ++row) {
+    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+      const Variant& item = ParaTable[axis][static_cast<std::size_t>(row)];
+      if (!TakeItem(item, row, axis, set)) return row;
+    }
+  }
+  return 0;
+}
+
 /// Characters `from` (from 0) to `from + count` of a text.
 std::string Characters(const std::string& text, int from, int count) {
   return LeftChars(text.substr(LeftChars(text, from).size()), count);
@@ -124,14 +135,14 @@ void ParaTableRecord::Clear() {
 
 int TakeParamTable() {
   ParamSetRecord taken = ParamSet;
-  for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
-      const Variant& item = ParaTable[axis][static_cast<std::size_t>(row)];
-      if (!TakeItem(item, row, axis, taken)) return 1;
-    }
-  }
+  if (TakeRows(taken) != 0) return 1;
   ParamSet = taken;
   return 0;
+}
+
+int RefusedParaRow() {
+  ParamSetRecord scratch;
+  return TakeRows(scratch);
 }
 
 ParaTableRecord ParaTableOf(const ParamSetRecord& set) {

@@ -117,6 +117,8 @@ extern ParaTableRecord ParaTable;
 /// `ParaTable` into `ParamSet`, with the device texts cut. 0; 1 when an item is no number or does
 /// not fit its row: `ParamSet` stays whole then, and nothing is shown. An empty number is 0.
 int TakeParamTable();
+/// The first row of `ParaTable` with an item that `TakeParamTable` refuses; 0: it takes them all.
+int RefusedParaRow();
 /// The rows of `set` as a table; unused slots and columns are empty.
 ParaTableRecord ParaTableOf(const ParamSetRecord& set);
 
@@ -124,7 +126,7 @@ ParaTableRecord ParaTableOf(const ParamSetRecord& set);
 struct ParaFlagsRecord {
   Bool16 ParaFileBad;  ///< the last parameter or list file was none, or damaged
   Bool16 ParaFileWriteFailed;
-  std::string FileFaultText;  ///< why a file could not be read or written; empty: not its fault
+  std::string FileFaultText;  ///< why a file could not be read or written; empty: nothing to add
   Bool16 AxisMaskFixed;       ///< a device dialogue has fixed `AxisMask` itself
   std::int16_t AxisMask = 0;  ///< sum of 2 to the axis index over the axes in use
   /// Axes that the parameter view shows by `comboOneAxis`, 1 to 4; 0: the axes in use.

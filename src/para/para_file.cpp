@@ -1,0 +1,169 @@
+#include "para/para_file.h"
+
+#include <array>
+#include <cstddef>
+#include <limits>
+#include <utility>
+
+#include "core/message_box.h"
+#include "core/seq_file.h"
+#include "core/text.h"
+#include "core/text_file.h"
+#include "para/param_set.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kProduct = "QV-R7";
+constexpr const char* kKind = "PRM";
+
+constexpr int kMsgHeadDamaged = 6451;
+constexpr int kMsgSectionDamaged = 6150;
+
+struct Section {
+  const char* tag;
+  int rows;  ///< as written
+};
+
+constexpr std::array<Section, 5> kSections = {
+    {{"HOME", 6}, {"AXIS", 7}, {"PG", 2}, {"ETC", 9}, {"SPECIAL", 10}}};
+
+// Reading. Rows and columns are as many as the file says, as long as the table has them.
+
+enum class Outcome { Done, NotOurs, Bad };
+
+/// An empty count is 0.
+bool TakeCount(const std::string& text, int& count) {
+  SeqReader item(text);
+  if (item.AtEnd()) return true;
+  return item.ReadInteger(0, std::numeric_limits<int>::max(), count) && item.AtEnd();
+}
+
+class Reading {
+ public:
+  Reading(std::string text, ParaTableRecord& table) : items_(std::move(text)), table_(table) {}
+  /// `path` is put into the table once the file is known to be one of ours.
+  Outcome Run(const std::string& path);
+  /// Why it is bad; empty where it is a file of some other order.
+  const std::string& Words() const { return words_; }
+
+ private:
+  bool ReadSections(int count);
+  bool ReadSection(const Section& section);
+  bool ReadRows();
+  Outcome HeadDamaged() {
+    words_ = Text(kMsgHeadDamaged);
+    return Outcome::Bad;
+  }
+  bool Fail(const std::string& words) {
+    words_ = words;
+    return false;
+  }
+
+  SeqReader items_;
+  ParaTableRecord& table_;
+  int row_ = 1;  ///< carries across the sections
+  std::string words_;
+};
+
+Outcome Reading::Run(const std::string& path) {
+  std::string product, kind, count_text;
+  if (!items_.ReadText(product) || !items_.ReadText(kind) || !items_.ReadText(count_text)) {
+    return HeadDamaged();
+  }
+  if (product != kProduct || kind != kKind) return Outcome::NotOurs;
+  table_[0][0] = path;
+  int count = 0;
+  if (!TakeCount(count_text, count)) return HeadDamaged();
+  return ReadSections(count) ? Outcome::Done : Outcome::Bad;
+}
+
+bool Reading::ReadSections(int count) {
+  const int known = static_cast<int>(kSections.size());
+  for (int index = 0; index < count; ++index) {
+    std::string tag;
+    if (index < known) {
+      if (!ReadSection(kSections[static_cast<std::size_t>(index)])) return false;
+    } else if (!items_.ReadText(tag)) {
+      // Of a section beyond the known ones no more than this is asked for.
+      return Fail(Text(kMsgHeadDamaged));
+    }
+  }
+  return true;
+}
+
+bool Reading::ReadSection(const Section& section) {
+  std::string tag;
+  const bool read = items_.ReadText(tag);
+  if (read && tag != section.tag) return false;
+  return (read && ReadRows()) || Fail(Text(kMsgSectionDamaged, section.tag));
+}
+
+bool Reading::ReadRows() {
+  const int rows_left = static_cast<int>(ParaTableRecord::kRows) - row_;
+  const int columns_most = static_cast<int>(ParaTableRecord::kColumns);
+  int rows = 0, columns = 0;
+  if (!items_.ReadInteger(0, rows_left, rows) || !items_.ReadInteger(0, columns_most, columns)) {
+    return false;
+  }
+  for (const int end = row_ + rows; row_ < end; ++row_) {
+    for (int column = 0; column < columns; ++column) {
+      Variant& slot = table_[static_cast<std::size_t>(column)][static_cast<std::size_t>(row_)];
+      if (!items_.ReadItem(slot)) return false;
+    }
+  }
+  return true;
+}
+
+int Bad(const std::string& words) {
+  ParaFlags.ParaFileBad = True;
+  ParaFlags.FileFaultText = words;
+  return 1;
+}
+
+// Writing.
+
+void WriteSections(SeqWriter& file, const ParaTableRecord& table) {
+  std::size_t row = 1;
+  for (const Section& section : kSections) {
+    file.Text(section.tag);
+    file.Number(section.rows);
+    file.Number(kAxes);
+    file.EndLine();
+    for (const std::size_t end = row + static_cast<std::size_t>(section.rows); row < end; ++row) {
+      for (std::size_t axis = 0; axis < kAxes; ++axis) file.Item(table[axis][row]);
+      file.EndLine();
+    }
+  }
+}
+
+}  // namespace
+
+int ReadParaTable(const std::string& path) {
+  ParaTable.Clear();
+  ParaFlags.FileFaultText.clear();
+  std::string text;
+  const TextFileResult file = ReadTextFile(path, text);
+  if (!file.ok) return Bad(file.words);
+  Reading reading(std::move(text), ParaTable);
+  const Outcome outcome = reading.Run(path);
+  if (outcome == Outcome::Done) return 0;
+  if (outcome == Outcome::NotOurs) MsgBox(TwoLines(22, 20));
+  return Bad(reading.Words());
+}
+
+int WriteParaFile(const std::string& path) {
+  SeqWriter file;
+  file.Text(kProduct);
+  file.Text(kKind);
+  file.EndLine();
+  file.Number(static_cast<double>(kSections.size()));
+  file.EndLine();
+  WriteSections(file, ParaTableOf(ParamSet));
+  const TextFileResult saved = SaveTextFile(path, file.Result());
+  ParaFlags.ParaFileWriteFailed = !saved.ok;
+  ParaFlags.FileFaultText = saved.words;
+  return saved.ok ? 0 : 1;
+}
+
+}  // namespace tr7
