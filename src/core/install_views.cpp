@@ -8,6 +8,7 @@
 #include "forms/frm_main.h"
 #include "link/tusin.h"
 #include "para/device_texts.h"
+#include "para/para_after_device.h"
 #include "para/take_ct_device.h"
 #include "posi/device_change.h"
 #include "posi/posi_flows.h"
@@ -37,6 +38,7 @@ void InstallViews() {
   InstallPosiFlows();
   InstallResultView();
   InstallDeviceTexts();
+  InstallParaAfterDevice();
   Hooks.TakeDevFromCt = TakeDevFromCt;
   Hooks.RebuildPosiView = RebuildPosiViewKeepingEdits;
   Hooks.PositionsFollowDevices = [] { PositionsFollowDevices(); };

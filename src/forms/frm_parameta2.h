@@ -134,7 +134,8 @@ struct FrmParameta2 : View {
 
   /// What the fields held when they last agreed with a file or the controller.
   std::string SavedContent;
-  bool CommandsAreOff = false;  ///< a flow runs: fields and buttons are off
+  bool CommandsAreOff = false;        ///< a flow runs: fields and buttons are off
+  std::array<bool, 4> LiveColumns{};  ///< columns that show an axis
 };
 
 extern FrmParameta2 frmParameta2;

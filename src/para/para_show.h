@@ -11,4 +11,9 @@ void ParametaHyoji();
 /// written anew from what is kept.
 void TorikomiParametaValue();
 
+/// 0: every field of the live axes, as far as row AXIS of the view counts them, and of the
+/// controller holds something; 1: some field is empty. Shows nothing: callers show messages 7
+/// and 8.
+int ParametaumuKakunin();
+
 }  // namespace tr7

@@ -126,9 +126,10 @@ ParaTableRecord ParaTableOf(const ParamSetRecord& set);
 struct ParaFlagsRecord {
   Bool16 ParaFileBad;  ///< the last parameter or list file was none, or damaged
   Bool16 ParaFileWriteFailed;
-  std::string FileFaultText;  ///< why a file could not be read or written; empty: nothing to add
-  Bool16 AxisMaskFixed;       ///< a device dialogue has fixed `AxisMask` itself
-  std::int16_t AxisMask = 0;  ///< sum of 2 to the axis index over the axes in use
+  std::string FileFaultText;   ///< why a file could not be read or written; empty: nothing to add
+  Bool16 AxisMaskFixed;        ///< a device dialogue has fixed `AxisMask` itself
+  std::int16_t AxisMask = 0;   ///< sum of 2 to the axis index over the axes in use
+  Bool16 OpenParaAfterDevice;  ///< the device dialogue's detail button was pressed
   /// Axes that the parameter view shows by `comboOneAxis`, 1 to 4; 0: the axes in use.
   std::int16_t ShownAxisCount = 0;
 };

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+
+namespace tr7 {
+
+// The device of an axis in the parameter view: lists of size, speed and stroke from the catalogue,
+// each narrowed by the one before, and the device text that follows them. A device of `ParamSet`
+// that the catalogue lacks stands in the lists all the same.
+
+/// Fills the lists and shows the device of `ParamSet`; nothing is chosen without one.
+void ShowActuator(std::size_t axis);
+/// Empties the lists.
+void ClearActuator(std::size_t axis);
+/// Takes the chosen device into `ParamSet` and `DevSettei`.
+void TakeActuator(std::size_t axis);
+
+/// Handlers of the lists.
+void InstallActuatorLists();
+
+}  // namespace tr7

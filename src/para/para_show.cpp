@@ -1,0 +1,23 @@
+#include "para/para_show.h"
+
+#include "para/para_axis_show.h"
+#include "para/para_columns.h"
+
+namespace tr7 {
+
+void ParametaHyoji() {
+  SettleParaColumns();
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (IsLiveAxis(axis)) ShowParaAxis(axis);
+  }
+  for (const ParaTextField& field : ParaTextFields()) {
+    if (!IsAxisRow(field.Row)) ShowParaText(field, 0);
+  }
+  for (const ParaListField& field : ParaListFields()) {
+    if (!IsAxisRow(field.Row)) ShowParaList(field, 0);
+  }
+  for (const ParaOptionField& field : ParaOptionFields()) ShowParaOption(field);
+  ShowParaAxisMask();
+}
+
+}  // namespace tr7
