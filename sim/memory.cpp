@@ -41,25 +41,33 @@ std::string CommonBlock(const Setup& setup) {
   return data;
 }
 
-std::string FirstAxisBlock(int axis) {
+/// HOME SEQ: the axes home one after the other.
+std::string OrderBlock() {
   std::string data = Zeros();
-  Put(&data, 5, Hex(100, 6));                               // HOME OFFSET
-  Put(&data, 11, Hex(50, 2));                               // HOME PUSH
-  Put(&data, 13, Hex(20, 4));                               // HOME VEL
-  Put(&data, 17, Hex(10, 4));                               // HOME OFSVEL
-  Put(&data, 21, Hex(5, 4));                                // HOME PUSHVEL
-  Put(&data, 25, Hex(static_cast<unsigned>(axis + 1), 2));  // HOME SEQ
-  Put(&data, 27, Hex(20, 2));                               // JOGVEL
-  Put(&data, 29, Hex(0, 2));                                // AUTODRIVE
-  Put(&data, 31, Hex(5, 2));                                // IN-P WID
-  Put(&data, 33, Hex(10, 2));                               // HOLD TIME
-  Put(&data, 35, Hex(1, 2));                                // SOFT LIMIT
+  for (int axis = 0; axis < kAxes; ++axis) {
+    Put(&data, 13 + 2 * axis, Hex(static_cast<unsigned>(axis + 1), 2));
+  }
+  return data;
+}
+
+std::string FirstAxisBlock() {
+  std::string data = Zeros();
+  Put(&data, 5, Hex(100, 6));  // HOME OFFSET
+  Put(&data, 11, Hex(50, 2));  // HOME PUSH
+  Put(&data, 13, Hex(20, 4));  // HOME VEL
+  Put(&data, 17, Hex(10, 4));  // HOME OFSVEL
+  Put(&data, 21, Hex(5, 4));   // HOME PUSHVEL
+  Put(&data, 25, Hex(20, 4));  // JOGVEL
+  Put(&data, 29, Hex(0, 2));   // AUTODRIVE
+  Put(&data, 31, Hex(5, 2));   // IN-P WID
+  Put(&data, 33, Hex(10, 2));  // HOLD TIME
+  Put(&data, 35, Hex(1, 2));   // SOFT LIMIT
   return data;
 }
 
 std::string SecondAxisBlock(const Device& device) {
   std::string data = Zeros();
-  Put(&data, 5, Hex(0, 6));                                          // ZONE1
+  Put(&data, 5, Hex(100, 6));                                        // ZONE1
   Put(&data, 11, Hex(static_cast<unsigned>(MaxPulses(device)), 6));  // ZONE2
   Put(&data, 17, Hex(100, 4));                                       // PG ALM
   Put(&data, 21, Hex(static_cast<unsigned>(device.pg), 2));          // PG FUNCTION
@@ -133,9 +141,10 @@ Memory::Memory(const Setup& setup)
   }
   for (const auto& [number, steps] : setup.macros) macros.Write(number, MacroData(steps));
   blocks.Write(0, CommonBlock(setup));
+  blocks.Write(1, OrderBlock());
   for (int axis = 0; axis < kAxes; ++axis) {
     const Device& device = setup.devices[static_cast<std::size_t>(axis)];
-    blocks.Write(DeviceBlock(axis) - 2, FirstAxisBlock(axis));
+    blocks.Write(DeviceBlock(axis) - 2, FirstAxisBlock());
     blocks.Write(SecondBlock(axis), SecondAxisBlock(device));
     blocks.Write(DeviceBlock(axis), DeviceData(device));
   }

@@ -18,6 +18,7 @@
 #include "forms/frm_syogo_kekka.h"
 #include "link/motion_commands.h"
 #include "link/para_commands.h"
+#include "link/para_transfer_commands.h"
 #include "link/request_queue.h"
 #include "para/dev_setting.h"
 #include "para/device_list.h"
@@ -46,6 +47,7 @@ void ResetState() {
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};
   CtDev.fill(CtDeviceRecord{});
+  AxisSettingSent = AxisSettingSentRecord{};
   DevSetting.fill(DevSettingRecord{});
   DevSettei.fill(DevSettingRecord{});
   FileDevice.fill({});

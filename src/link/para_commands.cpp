@@ -7,9 +7,12 @@
 #include "core/text_helpers.h"
 #include "core/wait.h"
 #include "link/port.h"
+#include "link/reply_fields.h"
 #include "link/status_commands.h"
+#include "link/transfer.h"
 #include "link/tusin_wait.h"
 #include "para/dev_setting.h"
+#include "para/para_blocks.h"
 
 namespace tr7 {
 
@@ -20,15 +23,6 @@ namespace {
 constexpr int kBlockReplyLength = 38;
 constexpr int kBlockTimeoutMs = 2000;
 constexpr int kOpenAttempts = 4;
-
-/// The characters of a reply from a position counted from 1.
-std::string_view Field(std::string_view reply, std::size_t from, std::size_t width) {
-  return reply.substr(from - 1, width);
-}
-
-int FieldValue(std::string_view reply, std::size_t from, std::size_t width) {
-  return static_cast<int>(HexValue(Field(reply, from, width)));
-}
 
 int OpenWithRetries() {
   AppState.TusinRetryCount = 0;
@@ -46,7 +40,7 @@ int ReadBlock0(std::string& reply) {
 }
 
 /// Axes in use of a block 0; -1 when the field is no number.
-int AxisMask(std::string_view block0) { return FieldValue(block0, 7, 2); }
+int AxisMask(std::string_view block0) { return ReplyValue(block0, 7, 2); }
 
 std::array<Bool16, kAxes> MukoOfMask(int mask) {
   std::array<Bool16, kAxes> muko;
@@ -56,26 +50,16 @@ std::array<Bool16, kAxes> MukoOfMask(int mask) {
   return muko;
 }
 
-void TakeTexts(std::string_view reply, CtDeviceRecord& device) {
-  const std::string speed = Trim(Field(reply, 23, 2));
-  if (speed == "E") {
-    device.Speed = "L";
-    device.Size = "E35";
-  } else {
-    device.Speed = speed;
-    device.Size = " " + std::string(Field(reply, 21, 2));
-  }
-}
-
 /// False when a field of the block is no number.
 bool TakeDeviceBlock(std::string_view reply, CtDeviceRecord& device) {
-  device.Type = FieldValue(reply, 5, 2);
-  device.Lead = FieldValue(reply, 7, 2);
-  device.Ppr = FieldValue(reply, 9, 4);
-  device.MaxPulse = FieldValue(reply, 13, 6);
-  const int stroke_low = FieldValue(reply, 25, 2);
-  const int stroke_high = FieldValue(reply, 27, 2);
-  TakeTexts(reply, device);
+  device.Type = ReplyValue(reply, 5, 2);
+  device.Lead = ReplyValue(reply, 7, 2);
+  device.Ppr = ReplyValue(reply, 9, 4);
+  device.MaxPulse = ReplyValue(reply, 13, 6);
+  const int stroke_low = ReplyValue(reply, 25, 2);
+  const int stroke_high = ReplyValue(reply, 27, 2);
+  TakeDeviceTexts(std::string(ReplyField(reply, 21, 2)), std::string(ReplyField(reply, 23, 2)),
+                  device.Size, device.Speed);
   if (stroke_low < 0 || stroke_high < 0) return false;
   device.Stroke = stroke_high * 256 + stroke_low;
   return device.Type >= 0 && device.Lead >= 0 && device.Ppr >= 0 && device.MaxPulse >= 0;
@@ -84,11 +68,10 @@ bool TakeDeviceBlock(std::string_view reply, CtDeviceRecord& device) {
 int ReadAxisDevice(int axis, CtDeviceRecord& device) {
   std::string reply;
   if (ReadParaBlock(AxisBlock(axis, 1), 3000, reply) != 0) return 1;
-  device.PgCode = FieldValue(reply, 21, 2);
+  device.PgCode = ReplyValue(reply, 21, 2);
   if (ReadParaBlock(AxisBlock(axis, 2), 1000, reply) != 0) return 1;
   if (device.PgCode >= 0 && TakeDeviceBlock(reply, device)) return 0;
-  MsgBox(TwoLines(384, 385));
-  return 1;
+  return TellBadData();
 }
 
 bool DeviceDiffers(const DevSettingRecord& pc, const CtDeviceRecord& ct, double pc_pulses) {
@@ -107,9 +90,7 @@ int WriteBlock0(const std::string& data) {
 
 }  // namespace
 
-char AxisBlock(int axis, int which) {
-  return "23456789ABCD"[static_cast<std::size_t>(3 * axis + which)];
-}
+char AxisBlock(int axis, int which) { return ParaBlockChar(ParaBlockOfAxis(axis, which)); }
 
 int ReadParaBlock(char block, int timeout_ms, std::string& reply) {
   return TusinCommand(std::string("0RD") + block, kBlockReplyLength, timeout_ms, reply);
@@ -128,7 +109,7 @@ int ReadCtModeAndAxis() {
   if (ReadBlock0(reply) != 0 || AxisMask(reply) < 0) return 1;
   AppState.AxisPatternOfCt = static_cast<std::int16_t>(AxisMask(reply));
   AppState.AxisMukoOfCt = MukoOfMask(AxisMask(reply));
-  AppState.CtModeOfCt = FieldValue(reply, 23, 2) == 1;
+  AppState.CtModeOfCt = ReplyValue(reply, 23, 2) == 1;
   return 0;
 }
 
@@ -163,8 +144,8 @@ int CompareCtDevice() {
 int WriteAxisPatternToCt(int mask) {
   std::string reply;
   if (ReadParaBlock('0', kBlockTimeoutMs, reply) != 0) return 1;
-  const std::string data =
-      std::string(Field(reply, 5, 2)) + HexPad(mask, 2) + std::string(Field(reply, 9, 28));
+  const std::string data = std::string(ReplyField(reply, 5, 2)) + HexPad(mask, 2) +
+                           std::string(ReplyField(reply, 9, 28));
   if (WriteBlock0(data) != 0) return 1;
   AppState.AxisPattern = static_cast<std::int16_t>(mask);
   return 0;
@@ -173,12 +154,12 @@ int WriteAxisPatternToCt(int mask) {
 int ChangeCtModeToCt(int mode) {
   std::string reply;
   if (ReadBlock0(reply) != 0) return 1;
-  const std::string block(Field(reply, 5, 32));
+  const std::string block(ReplyField(reply, 5, 32));
   const std::string data = block.substr(0, 18) + DecPad(mode, 2) + block.substr(20, 12);
   if (WriteBlock0(data) != 0) return 1;
   std::string committed;
   if (TusinCommand("0WE", 5, kBlockTimeoutMs, committed) != 0) return 1;
-  if ((FieldValue(reply, 23, 2) == 1) != (mode == 1)) {
+  if ((ReplyValue(reply, 23, 2) == 1) != (mode == 1)) {
     MsgBox(Text(495) + "\n\n" + Text(496), MsgButtons::Ok, MsgIcon::Information);
   }
   return 0;

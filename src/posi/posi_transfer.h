@@ -1,8 +1,8 @@
 #pragma once
 
-namespace tr7 {
+#include "link/transfer.h"
 
-inline constexpr int kTransferDone = 0, kTransferFailed = 1, kTransferStopped = 2;
+namespace tr7 {
 
 /// Reads `PosiFromNo` to `PosiToNo` into `PosiRawReply` and, when all have arrived, `PosiStage`.
 /// 0 done, 1 failure (the user has been told), 2 stopped by the cancel button.

@@ -1,0 +1,25 @@
+#include "link/transfer.h"
+
+#include "core/app_state.h"
+#include "core/message_box.h"
+#include "link/port.h"
+#include "link/tusin_wait.h"
+
+namespace tr7 {
+
+bool SendEchoed(const std::string& frame, int reply_length, int timeout_ms, std::size_t echo) {
+  std::string reply;
+  if (TusinCommand(frame, reply_length, timeout_ms, reply) != 0) return false;
+  if (reply.substr(0, echo) == frame.substr(0, echo)) return true;
+  TusinPortClose();
+  AppState.TusinFailed = True;
+  TellBadData();
+  return false;
+}
+
+int TellBadData() {
+  MsgBox(TwoLines(384, 385));
+  return kTransferFailed;
+}
+
+}  // namespace tr7

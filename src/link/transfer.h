@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tr7 {
+
+/// How a bulk transfer ended.
+inline constexpr int kTransferDone = 0, kTransferFailed = 1, kTransferStopped = 2;
+
+/// Sends one frame of a bulk write and compares the first `echo` characters of its reply with its
+/// own. False: a failure of the exchange, which has told it, or another echo. That is fatal: the
+/// line is closed, `TusinFailed` set and the user told.
+bool SendEchoed(const std::string& frame, int reply_length, int timeout_ms, std::size_t echo);
+
+/// Tells that what came or came back makes no sense; 1.
+int TellBadData();
+
+}  // namespace tr7
