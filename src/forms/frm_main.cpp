@@ -2,7 +2,7 @@
 
 namespace tr7 {
 
-FrmMain::FrmMain() : View("frmMain") {
+FrmMain::FrmMain() : View("frmMain", 201) {
   imgAlarm.Visible = false;
   imgComPort.Visible = false;
   imgOnline.Visible = false;

@@ -22,6 +22,15 @@ bool IsOurs(const QString& name) {
          !name.startsWith("_q_");
 }
 
+/// Widgets on `area` keep their places while they are hidden.
+void KeepPlaces(const QWidget& area) {
+  for (QWidget* widget : area.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+  }
+}
+
 }  // namespace
 
 BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const CommandGate& gate)
@@ -77,6 +86,8 @@ void BoundView::FindAreas() {
     auto* stack = qobject_cast<QStackedWidget*>(area->parentWidget());
     if (stack && qobject_cast<QTabWidget*>(stack->parentWidget())) continue;
     entry.stack = stack;
+    // The pages of a stack are as large as the largest, whichever is on show.
+    if (stack) KeepPlaces(*area);
     if (!entry.controls.empty()) areas_.push_back(std::move(entry));
   }
 }

@@ -1,6 +1,7 @@
 #include "ui/grid_table.h"
 
 #include <QAbstractButton>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -20,6 +21,7 @@ namespace {
 constexpr int kRestOfWidth = -1;
 /// Width of a digit in the font that the design's column widths were made for.
 constexpr double kDesignDigit = 6.0;
+constexpr double kLineInEms = 1.7;
 
 }  // namespace
 
@@ -52,7 +54,8 @@ void GridTable::Attach(Grid& grid) {
   setItemDelegate(new GridCellPainter(grid, *model_, this));
   header_->Attach(&grid);
   static_cast<GridRowHeader*>(verticalHeader())->Attach(&grid);
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  // By the size of the letters: the line height of a Japanese font would cost every fifth line.
+  verticalHeader()->setDefaultSectionSize(qRound(QFontInfo(font()).pixelSize() * kLineInEms));
   verticalHeader()->setVisible(grid.FixedCols > 0);
   header_->setVisible(grid.FixedRows > 0);
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {

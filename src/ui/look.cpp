@@ -4,7 +4,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <optional>
 
 #include "ui/icons.h"
@@ -47,10 +47,23 @@ QString JapaneseFamily() {
   return {};
 }
 
+/// Fusion, with room beside the captions of buttons.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override {
+    constexpr int kBeside = 12;
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_PushButton ? size.expandedTo({contents.width() + 2 * kBeside, 0}) : size;
+  }
+};
+
 }  // namespace
 
 void Apply(QApplication& application) {
-  application.setStyle(QStyleFactory::create("Fusion"));
+  application.setStyle(new Style);
   application.setPalette(LightPalette());
   application.setWindowIcon(ProgramIcon());
   QFont font = application.font();

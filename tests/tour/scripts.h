@@ -1,0 +1,14 @@
+#pragma once
+
+#include "tests/tour/session.h"
+
+namespace tr7::tour {
+
+// The scripts, one a file.
+
+/// From the splash to a table read from the controller; a controller that is silent, and an alarm.
+void FirstLook(Tour& tour);
+/// The same windows in Japanese.
+void JapaneseLook(Tour& tour);
+
+}  // namespace tr7::tour
