@@ -9,55 +9,21 @@
 #include "link/para_transfer_commands.h"
 #include "link/port.h"
 #include "link/transfer.h"
-#include "link/tusin_wait.h"
-#include "para/error_list.h"
 #include "para/para_blocks.h"
 #include "para/para_check.h"
-#include "tests/support/state_test.h"
+#include "tests/support/link_test.h"
 
 namespace tr7 {
 namespace {
 
-using qvr7sim::Fault;
 using qvr7sim::FaultKind;
 
-class BlocksTest : public StateTest {
+class BlocksTest : public LinkTest {
  protected:
-  BlocksTest() {
-    ReadErrorList();
-    SetOnline();
-  }
-
-  void Axes(bool a1, bool a2, bool a3, bool a4) { AppState.AxisMuko = {!a1, !a2, !a3, !a4}; }
-  /// Lines sent since the last call, without their ends.
-  std::vector<std::string> Sent() {
-    std::vector<std::string> lines;
-    std::string rest = port.sent;
-    port.sent.clear();
-    for (std::size_t end; (end = rest.find("\r\n")) != std::string::npos; rest.erase(0, end + 2)) {
-      lines.push_back(rest.substr(0, end));
-    }
-    return lines;
-  }
-  /// Commands without data: the first four characters of what was sent.
-  std::string Commands() {
-    std::string all;
-    for (const std::string& line : Sent()) all += (all.empty() ? "" : " ") + line.substr(0, 4);
-    return all;
-  }
   /// The controller holds this in a block.
-  void Plant(int block, const std::string& data) {
-    std::string reply;
-    ASSERT_EQ(TusinCommand(std::string("0WD") + ParaBlockChar(block) + data, 6, 5000, reply), 0);
+  void PlantBlock(int block, const std::string& data) {
+    Plant(std::string("0WD") + ParaBlockChar(block) + data);
     ASSERT_EQ(port.Ct().WrittenBlock(block), data);
-  }
-  void Spoil(FaultKind kind, const std::string& prefix, int at_byte = -1) {
-    Fault fault;
-    fault.kind = kind;
-    fault.prefix = prefix;
-    fault.at_request = 1;
-    fault.at_byte = at_byte;
-    port.Ct().AddFault(fault);
   }
   /// Reads the controller's parameters into `ParamSet`.
   void Take() {
@@ -233,10 +199,10 @@ TEST_F(BlocksTest, AFailedReadLeavesTheTableWhole) {
   fails_with(384);
   // A lead that is no number, and a home speed beyond its row.
   const std::string device = port.Ct().WrittenBlock(7), home = port.Ct().WrittenBlock(2);
-  Plant(7, std::string(device).replace(2, 2, "0G"));
+  PlantBlock(7, std::string(device).replace(2, 2, "0G"));
   fails_with(384);
-  Plant(7, device);
-  Plant(2, std::string(home).replace(8, 4, "8000"));
+  PlantBlock(7, device);
+  PlantBlock(2, std::string(home).replace(8, 4, "8000"));
   fails_with(384);
   EXPECT_FALSE(AppState.Offline);
 }
@@ -246,11 +212,11 @@ TEST_F(BlocksTest, AFailedReadLeavesTheTableWhole) {
 TEST_F(BlocksTest, WritesWhatChangedAndNothingElse) {
   // What no row holds is not the tool's to change.
   const std::string spare = "0123456789ABCDEF";
-  Plant(1, spare.substr(0, 8) + "04030201" + spare);
+  PlantBlock(1, spare.substr(0, 8) + "04030201" + spare);
   std::string device = port.Ct().WrittenBlock(4);
   device.replace(14, 2, "A5");
   device.replace(24, 8, "CAFE1234");
-  Plant(4, device);
+  PlantBlock(4, device);
   Take();
   ParamSet.HomeVel[0] = 33;
   ParamSet.HomeSeq[2] = 4;
@@ -347,6 +313,33 @@ TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
   EXPECT_EQ(WriteParaToCt(), 0);
   EXPECT_EQ(port.Ct().CommittedBlock(0), block0);
   EXPECT_TRUE(AxisSettingSent.Block0Sent.empty());
+}
+
+// Single fields of blocks.
+
+TEST_F(BlocksTest, HomingOrderAndStrokes) {
+  std::array<std::int32_t, kAxes> values{9, 9, 9, 9};
+  ASSERT_EQ(ReadCtBlock1(values), 0);
+  EXPECT_EQ(values, (std::array<std::int32_t, kAxes>{1, 2, 3, 4}));
+  Axes(true, false, true, true);
+  ASSERT_EQ(ReadAxisMaxPulseFromCt(values), 0);
+  EXPECT_EQ(values, (std::array<std::int32_t, kAxes>{20000, 0, 15000, 15000}));
+  EXPECT_EQ(Commands(), "0RD1 0RD4 0RDA 0RDD");
+  const auto before = values;
+  PlantBlock(1, "00000000010 0304" + std::string(16, '0'));
+  EXPECT_EQ(ReadCtBlock1(values), 1);
+  EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+  Spoil(FaultKind::kErrorReply, "0RDD");
+  EXPECT_EQ(ReadAxisMaxPulseFromCt(values), 1);
+  EXPECT_EQ(values, before);
+}
+
+TEST_F(BlocksTest, AWrongEchoOfBlock0IsTold) {
+  Spoil(FaultKind::kChangedByte, "0WD0", 3);
+  AppState.AxisPattern = 15;
+  EXPECT_EQ(WriteAxisPatternToCt(7), 1);
+  EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+  EXPECT_EQ(AppState.AxisPattern, 15);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include "core/hooks.h"
 #include "core/install_views.h"
 #include "core/views.h"
+#include "data/grp_table.h"
+#include "data/sm_table.h"
 #include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
@@ -25,6 +27,7 @@
 #include "para/error_list.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
+#include "para/sys_para.h"
 #include "posi/posi_table.h"
 
 namespace tr7 {
@@ -59,6 +62,9 @@ void ResetState() {
   ParaFlags = ParaFlagsRecord{};
   StdTable.fill(StdList{});
   CommonTable = CommonTableRecord{};
+  SysPara = SysParaRead = SysParaRecord{};
+  GrpTable = GrpStage = GrpTableRecord{};
+  SmTable = SmStage = SmTableRecord{};
   PosiTable = PosiTableRecord{};
   Renew(frmMain);
   Renew(frmSplash);

@@ -33,14 +33,16 @@ int OpenWithRetries() {
   return 0;
 }
 
+/// Axes in use of a block 0; -1 when the field is no number.
+int AxisMask(std::string_view block0) { return ReplyValue(block0, 7, 2); }
+
+/// Also known as ReadCtBlock0.
 int ReadBlock0(std::string& reply) {
   if (OpenWithRetries() != 0) return 1;
   if (CtComStart() != 0) return 1;
-  return ReadParaBlock('0', kBlockTimeoutMs, reply);
+  if (ReadParaBlock('0', kBlockTimeoutMs, reply) != 0) return 1;
+  return AxisMask(reply) < 0 ? TellBadData() : 0;
 }
-
-/// Axes in use of a block 0; -1 when the field is no number.
-int AxisMask(std::string_view block0) { return ReplyValue(block0, 7, 2); }
 
 std::array<Bool16, kAxes> MukoOfMask(int mask) {
   std::array<Bool16, kAxes> muko;
@@ -82,10 +84,7 @@ bool DeviceDiffers(const DevSettingRecord& pc, const CtDeviceRecord& ct, double 
 
 /// Writes block 0 as it stands in `data` (32 characters).
 int WriteBlock0(const std::string& data) {
-  std::string reply;
-  const std::string command = "0WD0" + data;
-  if (TusinCommand(command, 6, kBlockTimeoutMs, reply) != 0) return 1;
-  return reply.substr(0, 4) == command.substr(0, 4) ? 0 : 1;
+  return SendEchoed("0WD0" + data, 6, kBlockTimeoutMs, 4) ? 0 : 1;
 }
 
 }  // namespace
@@ -98,7 +97,7 @@ int ReadParaBlock(char block, int timeout_ms, std::string& reply) {
 
 int ReadCtAxisFromCt() {
   std::string reply;
-  if (ReadBlock0(reply) != 0 || AxisMask(reply) < 0) return 1;
+  if (ReadBlock0(reply) != 0) return 1;
   AppState.AxisPattern = static_cast<std::int16_t>(AxisMask(reply));
   AppState.AxisMuko = MukoOfMask(AxisMask(reply));
   return 0;
@@ -106,7 +105,7 @@ int ReadCtAxisFromCt() {
 
 int ReadCtModeAndAxis() {
   std::string reply;
-  if (ReadBlock0(reply) != 0 || AxisMask(reply) < 0) return 1;
+  if (ReadBlock0(reply) != 0) return 1;
   AppState.AxisPatternOfCt = static_cast<std::int16_t>(AxisMask(reply));
   AppState.AxisMukoOfCt = MukoOfMask(AxisMask(reply));
   AppState.CtModeOfCt = ReplyValue(reply, 23, 2) == 1;
@@ -138,6 +137,37 @@ int CompareCtDevice() {
     if (AppState.AxisMuko[axis]) continue;
     if (DeviceDiffers(DevSetting[axis], CtDev[axis], AppState.StrokePulse[axis])) return 1;
   }
+  return 0;
+}
+
+int ReadCtBlock1(std::array<std::int32_t, kAxes>& values) {
+  std::string reply;
+  if (ReadParaBlock('1', kBlockTimeoutMs, reply) != 0) return 1;
+  std::array<std::int32_t, kAxes> read{};
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    read[axis] = ReplyValue(reply, 13 + 2 * axis, 2);
+    if (read[axis] < 0) return TellBadData();
+  }
+  values = read;
+  return 0;
+}
+
+int ReadAxisMaxPulse(int axis, std::int32_t& pulses) {
+  std::string reply;
+  if (ReadParaBlock(AxisBlock(axis, 2), kBlockTimeoutMs, reply) != 0) return 1;
+  const std::int32_t read = ReplyValue(reply, 13, 6);
+  if (read < 0) return TellBadData();
+  pulses = read;
+  return 0;
+}
+
+int ReadAxisMaxPulseFromCt(std::array<std::int32_t, kAxes>& pulses) {
+  std::array<std::int32_t, kAxes> read{};
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const auto index = static_cast<std::size_t>(axis);
+    if (!AppState.AxisMuko[index] && ReadAxisMaxPulse(axis, read[index]) != 0) return 1;
+  }
+  pulses = read;
   return 0;
 }
 

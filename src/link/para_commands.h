@@ -47,6 +47,14 @@ int ReadCtDeviceFromCt();
 /// The controller's axes and devices against the PC's: 0 equal, 1 different, -1 failure.
 int CompareCtDevice();
 
+/// The four values of block 1, one for each axis: the order in which they home.
+int ReadCtBlock1(std::array<std::int32_t, kAxes>& values);
+
+/// Stroke in pulses of one axis (0 to 3), from its device block.
+int ReadAxisMaxPulse(int axis, std::int32_t& pulses);
+/// The same for each axis in use; 0 for others. A failure leaves `pulses` as they were.
+int ReadAxisMaxPulseFromCt(std::array<std::int32_t, kAxes>& pulses);
+
 /// Writes the mask of axes in use (axis i: 1 << i) into block 0; on success `AxisPattern` is it.
 /// Also known as WriteAxisMaskToCt.
 int WriteAxisPatternToCt(int mask);

@@ -41,19 +41,20 @@ ParaAxes LiveAxes() {
   return axes;
 }
 
-int ReadBlock(int block, int timeout_ms, std::string& data) {
+int ReadBlock(int block, std::string& data) {
+  constexpr int kReplyLength = 38;
   std::string reply;
-  const char name = ParaBlockChar(block);
-  if (ReadParaBlock(name, timeout_ms, reply) != 0) return 1;
-  if (reply[kEcho - 1] != name) return TellBadData();
+  if (!ReadNamed(std::string("0RD") + ParaBlockChar(block), kReplyLength, kTimeoutMs, reply)) {
+    return kTransferFailed;
+  }
   data = ReplyField(reply, kParaDataAt, kParaBlockLength);
-  return 0;
+  return kTransferDone;
 }
 
 int ReadBlocks(const std::vector<int>& wanted, ParaBlocks& blocks, ProgressScope& progress) {
   for (const int block : wanted) {
     if (AppState.CancelRequested) return kTransferStopped;
-    if (ReadBlock(block, kTimeoutMs, blocks[static_cast<std::size_t>(block)]) != 0) return 1;
+    if (ReadBlock(block, blocks[static_cast<std::size_t>(block)]) != 0) return 1;
     progress.Advance();
   }
   return kTransferDone;

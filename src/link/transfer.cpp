@@ -7,6 +7,13 @@
 
 namespace tr7 {
 
+bool ReadNamed(const std::string& frame, int reply_length, int timeout_ms, std::string& reply) {
+  if (TusinCommand(frame, reply_length, timeout_ms, reply) != 0) return false;
+  if (reply.starts_with(frame)) return true;
+  TellBadData();
+  return false;
+}
+
 bool SendEchoed(const std::string& frame, int reply_length, int timeout_ms, std::size_t echo) {
   std::string reply;
   if (TusinCommand(frame, reply_length, timeout_ms, reply) != 0) return false;

@@ -89,16 +89,9 @@ using Strokes = std::array<std::int32_t, kAxes>;
 
 /// The controller's stroke in pulses of an axis; false when it did not answer sensibly.
 bool ReadStroke(int axis, std::int32_t& pulses) {
-  constexpr std::size_t kAt = 12, kWidth = 6;
-  std::string reply;
-  if (ReadParaBlock(AxisBlock(axis, 2), 2000, reply) != 0) return false;
-  const std::int64_t value = HexValue(reply.substr(kAt, kWidth));
-  if (value < 0) {
-    MsgBox(TwoLines(384, 385));
-    return false;
-  }
+  if (ReadAxisMaxPulse(axis, pulses) != 0) return false;
   // Whatever its stroke, the line holds no more pulses than these.
-  pulses = static_cast<std::int32_t>(std::min<std::int64_t>(value, kMostPulses));
+  pulses = std::min(pulses, std::int32_t{kMostPulses});
   return true;
 }
 

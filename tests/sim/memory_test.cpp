@@ -60,6 +60,28 @@ TEST(Memory, APowerCycleLosesWhatIsNotCommitted) {
   EXPECT_EQ(pc.Ask("0RP008"), "0RP008" + kRecord);
 }
 
+TEST(Memory, EveryFamilyIsLostWithoutItsCommit) {
+  const struct {
+    std::string write, commit, read;
+  } rows[] = {{"0WD5" + kData, "0WE2", "0RD5"},
+              {"0WG0A011012", "0WE3", "0RG0A"},
+              {"0WS03" + kData, "0WE1", "0RS03"},
+              {"0WK4" + kData, "0WF", "0RK4"}};
+  for (const auto& [write, commit, read] : rows) {
+    Exchange pc;
+    const std::string before = pc.Ask(read);
+    pc.Ask(write);
+    const std::string after = pc.Ask(read);
+    EXPECT_NE(after, before) << write;
+    pc.controller.PowerCycle(pc.now_us);
+    EXPECT_EQ(pc.Ask(read), before) << write;
+    pc.Ask(write);
+    pc.Ask(commit);
+    pc.controller.PowerCycle(pc.now_us);
+    EXPECT_EQ(pc.Ask(read), after) << commit;
+  }
+}
+
 std::string Block0(unsigned mask, int mode) {
   std::string data(32, '0');
   data[3] = "0123456789ABCDEF"[mask];

@@ -1,0 +1,51 @@
+#include "tests/support/link_test.h"
+
+#include "link/port.h"
+#include "link/tusin_wait.h"
+#include "para/error_list.h"
+
+namespace tr7 {
+
+LinkTest::LinkTest() {
+  ReadErrorList();
+  SetOnline();
+}
+
+void LinkTest::Axes(bool a1, bool a2, bool a3, bool a4) {
+  AppState.AxisMuko = {!a1, !a2, !a3, !a4};
+}
+
+std::vector<std::string> LinkTest::Sent() {
+  std::vector<std::string> lines;
+  std::string rest = port.sent;
+  port.sent.clear();
+  for (std::size_t end; (end = rest.find("\r\n")) != std::string::npos; rest.erase(0, end + 2)) {
+    lines.push_back(rest.substr(0, end));
+  }
+  return lines;
+}
+
+std::string LinkTest::Commands(std::size_t characters) {
+  std::string all;
+  for (const std::string& line : Sent()) {
+    all += (all.empty() ? "" : " ") + line.substr(0, characters);
+  }
+  return all;
+}
+
+void LinkTest::Plant(const std::string& line) {
+  std::string reply;
+  const int length = line.starts_with("0WG") || line.starts_with("0WS") ? 7 : 6;
+  ASSERT_EQ(TusinCommand(line, length, 5000, reply), 0);
+}
+
+void LinkTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_byte) {
+  qvr7sim::Fault fault;
+  fault.kind = kind;
+  fault.prefix = prefix;
+  fault.at_request = 1;
+  fault.at_byte = at_byte;
+  port.Ct().AddFault(fault);
+}
+
+}  // namespace tr7
