@@ -7,7 +7,10 @@
 #include "core/message_box.h"
 #include "core/text.h"
 #include "core/wait.h"
+#include "para/para_check.h"
+#include "para/para_content.h"
 #include "para/para_file.h"
+#include "para/para_show.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
 
@@ -27,6 +30,16 @@ std::optional<std::string> AskOpenPath() {
   call.Filter = Text(1827);
   call.DefaultExtension = "pmt";
   const auto path = doors.forms->FileDialog(call);
+  return path && path->empty() ? std::nullopt : path;
+}
+
+std::optional<std::string> AskSavePath() {
+  const auto path = doors.forms->FileDialog({.Save = true,
+                                             .Title = Text(11),
+                                             .Filter = Text(1827),
+                                             .ProposedName = Text(12),
+                                             .DefaultExtension = "pmt",
+                                             .OverwritePrompt = true});
   return path && path->empty() ? std::nullopt : path;
 }
 
@@ -53,7 +66,50 @@ int TakeOver() {
   return 1;
 }
 
+/// Takes the view into `ParamSet`. False after the user has been told what is missing or wrong.
+bool TakeFromView() {
+  if (ParametaumuKakunin() != 0) {
+    MsgBox(TwoLines(7, 8));
+    return false;
+  }
+  TorikomiParametaValue();
+  if (ParametaValueCheck() != 0) {
+    MsgBox(TwoLines(9, 10));
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
+
+int SaveParaToFile() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  if (!TakeFromView()) return 1;
+  const auto path = AskSavePath();
+  if (!path) return 1;
+  if (WriteParaFile(*path) != 0) {
+    Tell(13);
+    return 1;
+  }
+  MarkParaSaved();
+  MsgBox(Text(14), MsgButtons::Ok, MsgIcon::Information);
+  return 0;
+}
+
+void OpenParaFile() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  const auto path = AskOpenPath();
+  if (!path) return;
+  ParaFlags.ParaFileBad = False;
+  if (ReadParaTable(*path) != 0 || TakeOver() != 0) {
+    Tell(kMsgOpenFailed);
+    return;
+  }
+  ParametaHyoji();
+  MarkParaSaved();
+}
 
 int OpenParaForDevice() {
   const CommandsOff commands_off;

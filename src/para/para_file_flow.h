@@ -4,8 +4,8 @@ namespace tr7 {
 
 // Parameter files as the user saves and opens them. The view's commands are off while one runs.
 
-/// `cmdSaveParaFile`: checks the view, asks for a name and saves. 0 saved; 1 not: a wrong value,
-/// Cancel, or a failure, each told in a box except Cancel.
+/// `cmdSaveParaFile`: checks the view, asks for a name and saves. 0 saved; 1 not: an empty or a
+/// wrong value, Cancel, or a failure, each told in a box except Cancel.
 int SaveParaToFile();
 
 /// `cmdReadParaFile`: asks for a file, takes it into `ParamSet` and shows it in the view.
