@@ -65,10 +65,24 @@ TEST_F(ReadTest, AFailedReadKeepsTheTable) {
   port.Ct().SetSilent(true);
   ReadRange(1, 10);
   EXPECT_EQ(AppState.PosiLastNo, 5);
+  EXPECT_EQ(AppState.PosiToNo, 5) << "the next operation means the table that is there";
   EXPECT_EQ(frmPosi.flgdData.Rows(), 7);
   EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
   ExpectCommandsOn();
   ExpectOffline();
+}
+
+TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
+  StartOnline();
+  ReadRange(3, 5);
+  const auto comments = static_cast<std::size_t>(kComment);
+  PosiTable.PosiRec[comments][4] = std::string("mine");
+  PosiTable.PosiRec[comments][6] = std::string("of an earlier table");
+  PosiTable.PosiStage[comments][5] = std::string("of a file to compare with");
+  ReadRange(2, 9);
+  EXPECT_EQ(Cell(4, kComment), "mine");
+  EXPECT_EQ(Cell(5, kComment), "");
+  EXPECT_EQ(Cell(6, kComment), "");
 }
 
 TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {

@@ -170,14 +170,19 @@ bool CheckAndCommit(const NumberRange& range) {
 
 }  // namespace
 
-bool AllAxesConvert() {
+std::string ConversionTrouble() {
   for (int axis = 0; axis < kAxes; ++axis) {
     const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
     if (!InUse(axis) || (device.Lead > 0 && device.Ppr > 0)) continue;
-    MsgBox(Text(kMsgCannotConvert, std::to_string(axis + 1)));
-    return false;
+    return Text(kMsgCannotConvert, std::to_string(axis + 1));
   }
-  return true;
+  return {};
+}
+
+bool AllAxesConvert() {
+  const std::string trouble = ConversionTrouble();
+  if (!trouble.empty()) MsgBox(trouble);
+  return trouble.empty();
 }
 
 int PosiDataCheck3() {

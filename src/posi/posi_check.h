@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace tr7 {
 
 /// Checks every grid line from `PosiFromNo` to `PosiToNo`. 0: all are good, and the grid's texts
@@ -14,7 +16,9 @@ int PosiDataCheck3Prg();
 /// lets the user narrow it afterwards or not at all.
 int PosiDataCheckAll();
 
-/// False, after telling so, when an axis in use has no device to convert by.
+/// Which axis in use has no device to convert by, in the user's language; empty: none.
+std::string ConversionTrouble();
+/// False, after telling so, when there is such an axis.
 bool AllAxesConvert();
 
 /// 0 when there is a table; 1, after telling so, when there is none.

@@ -56,6 +56,8 @@ std::string FillerText(int col, bool program_mode) {
 
 }  // namespace
 
+int WayOf(double stored) { return stored >= 0 && stored < 4 ? static_cast<int>(stored) : 1; }
+
 std::string PosiCellText(int col, int number, bool program_mode) {
   if (col == kComment) return TextOf(Field(col, number));
   const int axis = AxisOfColumn(col);
@@ -64,7 +66,7 @@ std::string PosiCellText(int col, int number, bool program_mode) {
   if (AppState.AxisMuko[index]) return FillerText(col, program_mode);
   if (FieldOfColumn(col) == kPosi) {
     const auto slot = static_cast<std::size_t>(number);
-    const int way = static_cast<int>(ValueOf(Field(AxisBase(axis) + kWay, number)));
+    const int way = WayOf(ValueOf(Field(AxisBase(axis) + kWay, number)));
     return PosiLengthText(
         LengthText(PosiTable.PosiPulse[index][slot], PosiTable.PosiMm[index][slot]), way,
         program_mode);
@@ -80,7 +82,7 @@ std::string PosiValueText(int col, double stored, double way, bool program_mode)
   if (FieldOfColumn(col) != kPosi) return PlainDecimal(stored);
   const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
   const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(0);
-  return PosiLengthText(LengthText(stored, mm), static_cast<int>(way), program_mode);
+  return PosiLengthText(LengthText(stored, mm), WayOf(way), program_mode);
 }
 
 std::string PosiDefaultText(int col, bool program_mode) {

@@ -10,6 +10,9 @@ inline constexpr int kPosiTextWidth = 8;  ///< characters of a "Posi" cell in mi
 /// Text of a body cell (columns 1 to 28) of position `number` in the layout of the mode.
 std::string PosiCellText(int col, int number, bool program_mode);
 
+/// The way of a stored value; what is none counts as an absolute move.
+int WayOf(double stored);
+
 /// The same for the value of the other side of a comparison (stored value, "Posi" in pulses).
 std::string PosiValueText(int col, double stored, double way, bool program_mode);
 

@@ -50,7 +50,7 @@ std::string KeptEdits::PosiText(int row, int axis) const {
   const std::string& text = Text(row, AxisBase(axis) + kPosi);
   if (Trim(text).empty()) return text;  // an empty cell stays one, for the check to find
   if (program_mode_) return PosiLengthText(SplitPosiText(text).number, 1, false);
-  const int way = static_cast<int>(Val(Text(row, AxisBase(axis) + kWay)));
+  const int way = WayOf(Val(Text(row, AxisBase(axis) + kWay)));
   return PosiLengthText(Trim(text), way, true);
 }
 

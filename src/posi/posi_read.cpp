@@ -14,6 +14,7 @@
 #include "posi/posi_caption.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_new.h"
+#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
 #include "posi/posi_view.h"
@@ -54,7 +55,19 @@ bool AskWhatToRead() {
   return MsgBox(Text(370), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
+/// Comments do not travel: those of the loaded positions stay in the PC.
+void KeepComments() {
+  const auto column = static_cast<std::size_t>(kComment);
+  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
+    const auto number = static_cast<std::size_t>(n);
+    const bool loaded = n >= AppState.PosiFirstNo && n <= AppState.PosiLastNo;
+    PosiTable.PosiStage[column][number] =
+        loaded ? PosiTable.PosiRec[column][number] : Variant(std::string());
+  }
+}
+
 void ShowReadData() {
+  KeepComments();
   AppState.PosiFirstNo = AppState.PosiFromNo;
   AppState.PosiLastNo = AppState.PosiToNo;
   AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
@@ -90,6 +103,7 @@ void PosidataGetfromCt() {
   const CommandsOff commands_off;
   const BusyScope busy;
   const PosiGridOff grid_off;
+  const WholeRangeAfter whole_range;
   AppState.CancelRequested = False;
   if (!AskWhatToRead()) return;
   if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;

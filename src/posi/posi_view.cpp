@@ -106,8 +106,15 @@ void SelectionChanged() {
   EditCommandsBySelection();
 }
 
+/// The check before another flow's change, which the user sees from the same place afterwards.
+int CheckInPlace() {
+  const KeepPlace place;
+  return PosiDataCheckAll();
+}
+
 /// The check before the change has committed the grid, so the pulses are exact.
 void ShowInNewUnit() {
+  const KeepPlace place;
   RecalcMmFromPulse();
   Change_DispUnit();
   FG_ShowTable();
@@ -196,7 +203,7 @@ void InstallPosiView() {
   f.mnuPopupLineDelete.Click = [] { Call(Hooks.PosiDeleteLine); };
 
   Hooks.RecalcLimits = RecalcLimits;
-  Hooks.PosiDataCheck = PosiDataCheckAll;
+  Hooks.PosiDataCheck = CheckInPlace;
   Hooks.SinkiSakusei = SinkiSakusei;
   Hooks.PosidataGetfromCt = PosidataGetfromCt;
   Hooks.PosiUnitChanged = ShowInNewUnit;

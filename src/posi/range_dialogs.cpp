@@ -91,7 +91,8 @@ bool Ask(const RangeForm& form) {
 }
 
 NumberRange LoadedRange() {
-  if (AppState.PosiFirstNo < 1) return {1, kProposedLast};
+  const bool loaded = AppState.PosiFirstNo >= 1 && AppState.PosiFirstNo <= AppState.PosiLastNo;
+  if (!loaded) return {1, kProposedLast};
   return {AppState.PosiFirstNo, AppState.PosiLastNo};
 }
 

@@ -1,0 +1,147 @@
+#include "posi/file_devices.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+
+#include "core/message_box.h"
+#include "core/selection.h"
+#include "core/text.h"
+#include "para/dev_setting_store.h"
+#include "para/device_names.h"
+#include "para/para_file_flow.h"
+#include "para/std_lists.h"
+#include "para/take_param_device.h"
+#include "posi/posi_check.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgNotSelected = 4;
+constexpr int kMsgSelectAgain = 5;
+constexpr int kMsgStopped = 367;
+constexpr int kMsgReadFailed = 484;
+
+enum class Choice { DevicesInUse, DevicesOfFile, ParameterFile };
+
+/// The axes that the file has a device for; true when they are not those in use.
+bool TakeAxesOfFile() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    AppState.AxisMukoOfFile[axis] = FileDevice[axis].empty();
+  }
+  return AppState.AxisMukoOfFile != AppState.AxisMuko;
+}
+
+bool TellNotSelected() {
+  MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
+  return false;
+}
+
+bool TellStopped() {
+  MsgBox(Text(kMsgStopped), MsgButtons::Ok, MsgIcon::Information);
+  return false;
+}
+
+bool EveryAxisHasADevice() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (!AppState.AxisMuko[axis] && DevSetting[axis].NotChosen) return false;
+  }
+  return true;
+}
+
+/// Axes, lead, pulses per turn and stroke as the parameters have them. What a controller reported
+/// earlier says nothing of these devices.
+bool TakeDevicesOfParam() {
+  CtDev.fill(CtDeviceRecord{});
+  TakeDevFromParam2();
+  ParaFlags.ShownAxisCount = 0;
+  return EveryAxisHasADevice() || TellNotSelected();
+}
+
+/// The file's devices come into use with their standard parameters.
+bool TakeDevicesOfFile() {
+  AppState.AxisMuko = AppState.AxisMukoOfFile;
+  const auto absent = [](Bool16 muko) { return static_cast<bool>(muko); };
+  if (std::all_of(AppState.AxisMuko.begin(), AppState.AxisMuko.end(), absent)) {
+    return TellNotSelected();
+  }
+  // Once more: the names of axes that were not in use had been passed over.
+  if (ParseDeviceNames() != 0) return false;
+  ReflectFileDevice2PcDevice();
+  ParaFlags.AxisMaskFixed = False;
+  const auto of_file = DevSettei;
+  if (IniParaFromStd() != 0 || !TakeDevicesOfParam()) return false;
+  // Type, PG and vertical are the file's, whatever the standard parameters say.
+  DevSettei = of_file;
+  ReflectFileDevice2PcDevice();
+  return true;
+}
+
+/// The devices of a parameter file come into use, and its parameters.
+bool TakeDevicesOfParaFile() {
+  ParaFlags.ParaFileBad = False;
+  if (OpenParaForDevice() != 0) return ParaFlags.ParaFileBad ? false : TellStopped();
+  const auto of_file = DevSettei;
+  if (!TakeDevicesOfParam()) return false;
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (AppState.AxisMuko[axis]) continue;
+    DevSetting[axis].NewType = of_file[axis].NewType;
+    DevSetting[axis].NewTypeWord = DevSetting[axis].NewType ? "NEW" : "OLD";
+  }
+  LetDevSettingToDevSettei();
+  return true;
+}
+
+void DevicesHaveChanged() {
+  const auto in_use = std::count(AppState.AxisMuko.begin(), AppState.AxisMuko.end(), False);
+  AppState.AxisCount = static_cast<std::int16_t>(in_use);
+  SaveDevSetting();
+}
+
+/// Asks by whose devices the positions are shown; those are in use then.
+bool AskAndFollow(Choice& choice) {
+  const int answer = SelectionDialog2(Text(471), Text(44), {Text(45), Text(46), Text(47)}, 0);
+  if (answer < 0) return TellStopped();
+  choice = static_cast<Choice>(answer);
+  if (choice == Choice::DevicesOfFile) return TakeDevicesOfFile();
+  return choice == Choice::DevicesInUse || TakeDevicesOfParaFile();
+}
+
+bool TellIfNotConvertible() {
+  const std::string trouble = ConversionTrouble();
+  if (!trouble.empty()) MsgBox(Text(kMsgReadFailed) + "\n\n" + trouble);
+  return trouble.empty();
+}
+
+}  // namespace
+
+DevicesOnTrial::~DevicesOnTrial() {
+  if (kept_) return;
+  DevSetting = in_use_;
+  DevSettei = pending_;
+  CtDev = reported_;
+  ParamSet = params_;
+  ParaFlags = flags_;
+  AppState.AxisMuko = muko_;
+  AppState.StrokePulse = stroke_pulse_;
+  AppState.StrokeMm = stroke_mm_;
+  AppState.AxisCount = axis_count_;
+}
+
+bool ReconcileFileDevices() {
+  const auto pending = DevSettei;
+  const bool axes_differ = TakeAxesOfFile();
+  if (ParseDeviceNames() != 0) return false;
+  const bool same = !axes_differ && CompareActuatorSettingOfPosifile2PC() == 0;
+  Choice choice = Choice::DevicesInUse;
+  if (!same && !AskAndFollow(choice)) return false;
+  if (!TellIfNotConvertible()) return false;
+  if (choice == Choice::DevicesInUse) {
+    DevSettei = pending;
+  } else {
+    DevicesHaveChanged();
+  }
+  return true;
+}
+
+}  // namespace tr7

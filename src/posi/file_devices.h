@@ -1,0 +1,41 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "core/app_state.h"
+#include "link/para_commands.h"
+#include "para/dev_setting.h"
+#include "para/param_set.h"
+
+namespace tr7 {
+
+/// Devices, axes and parameters as they were, unless what replaces them is kept.
+class DevicesOnTrial {
+ public:
+  DevicesOnTrial() = default;
+  ~DevicesOnTrial();
+  void Keep() { kept_ = true; }
+  DevicesOnTrial(const DevicesOnTrial&) = delete;
+  DevicesOnTrial& operator=(const DevicesOnTrial&) = delete;
+
+ private:
+  using Devices = std::array<DevSettingRecord, kAxes>;
+  const Devices in_use_ = DevSetting, pending_ = DevSettei;
+  const decltype(CtDev) reported_ = CtDev;
+  const ParamSetRecord params_ = ParamSet;
+  const ParaFlagsRecord flags_ = ParaFlags;
+  const decltype(AppState.AxisMuko) muko_ = AppState.AxisMuko;
+  const decltype(AppState.StrokePulse) stroke_pulse_ = AppState.StrokePulse;
+  const decltype(AppState.StrokeMm) stroke_mm_ = AppState.StrokeMm;
+  const std::int16_t axis_count_ = AppState.AxisCount;
+  bool kept_ = false;
+};
+
+/// Holds the axes and devices that the position file read last names against those in use. Where
+/// they differ the user decides by whose its positions are shown, and the devices follow. False
+/// when the file is not to be shown: a name that is not valid, Cancel, a failure, or an axis that
+/// cannot convert, each told; the caller's `DevicesOnTrial` then takes back what has changed.
+bool ReconcileFileDevices();
+
+}  // namespace tr7

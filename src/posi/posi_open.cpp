@@ -1,0 +1,96 @@
+#include "posi/posi_open.h"
+
+#include <cstdint>
+#include <string>
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/text.h"
+#include "forms/frm_posi.h"
+#include "para/dev_setting.h"
+#include "posi/file_devices.h"
+#include "posi/posi_caption.h"
+#include "posi/posi_file.h"
+#include "posi/posi_file_flows.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_new.h"
+#include "posi/posi_table.h"
+#include "posi/posi_view.h"
+#include "posi/recalc.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgSaveBeforeOpen = 6450;
+
+/// A path; empty when the flow ends.
+std::string AskPath() {
+  const auto path = AskOpenPath(364);
+  if (!path) MsgBox(Text(367), MsgButtons::Ok, MsgIcon::Information);
+  return path.value_or(std::string());
+}
+
+/// True when the stage holds a file of the present mode; otherwise the user knows why not.
+bool ReadIntoStage(const std::string& path) {
+  PosiFileTrouble trouble;
+  const auto read = [&](PosiFileTrouble& why) {
+    AppState.PosiFileNotOurs = False;
+    return ReadPosiFile(path, why);
+  };
+  if (TryFourTimes(read, trouble) != 0) {
+    MsgBox(WithReason(484, trouble));
+    return false;
+  }
+  // A file of another kind has been told. The flow goes on with what was there before, and that
+  // is on show as it is, with what the user has typed into it.
+  if (AppState.PosiFileNotOurs) return false;
+  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
+  MsgBox(TwoLines(330, 331));
+  return false;
+}
+
+/// The first series has the word "QV", which the standard lists go by.
+void NameSeries() {
+  for (DevSettingRecord& device : DevSetting) {
+    if (device.SeriesOk) device.Series = "QV";
+  }
+}
+
+/// The stage becomes the table, in the layout of the axes in use.
+void ShowStage() {
+  AppState.PosiFromNo = AppState.PosiFirstNo = AppState.FileFirstNo;
+  AppState.PosiToNo = AppState.PosiLastNo = AppState.FileLastNo;
+  AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
+  NameSeries();
+  Call(Hooks.RecalcLimits);
+  PosiStageCommit();
+  RecalcMmFromPulse();
+  FG_HighSyoriStart();
+  RebuildPosiView();
+  ShowFileAges();
+}
+
+void Open() {
+  if (!MayReplaceTable(kMsgSaveBeforeOpen)) return;
+  const std::string path = AskPath();
+  if (path.empty()) return;
+  DevicesOnTrial devices;
+  if (!ReadIntoStage(path) || !ReconcileFileDevices()) return;
+  devices.Keep();
+  ShowStage();
+  SetPosiTableFile(path);
+  frmPosi.PosiChanged = False;
+}
+
+}  // namespace
+
+void PosidataFileOpen() {
+  EditCMD_Muko();
+  const CommandsOff commands_off;
+  const PosiGridOff grid_off;
+  Open();
+}
+
+}  // namespace tr7

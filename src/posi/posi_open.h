@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tr7 {
+
+/// The open flow: asks for a position file and replaces the table by it, where the user wants with
+/// the devices that it was made for. On every failure table, name and devices are as they were.
+void PosidataFileOpen();
+
+}  // namespace tr7
