@@ -9,6 +9,8 @@
 #include "link/tusin.h"
 #include "para/device_texts.h"
 #include "para/para_after_device.h"
+#include "para/para_view.h"
+#include "para/stroke_calc.h"
 #include "para/take_ct_device.h"
 #include "posi/device_change.h"
 #include "posi/posi_flows.h"
@@ -39,6 +41,8 @@ void InstallViews() {
   InstallResultView();
   InstallDeviceTexts();
   InstallParaAfterDevice();
+  InstallParaView();
+  InstallStrokeCalc();
   Hooks.TakeDevFromCt = TakeDevFromCt;
   Hooks.RebuildPosiView = RebuildPosiViewKeepingEdits;
   Hooks.PositionsFollowDevices = [] { PositionsFollowDevices(); };
