@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -12,6 +13,27 @@ namespace tr7 {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Nothing is protected from root: a run as root becomes another user for a while.
+class AsOrdinaryUser {
+ public:
+  AsOrdinaryUser() : was_root_(geteuid() == 0) {
+    if (was_root_) {
+      EXPECT_EQ(setresuid(kNobody, kNobody, 0), 0);
+    }
+  }
+  ~AsOrdinaryUser() {
+    if (was_root_) {
+      EXPECT_EQ(setresuid(0, 0, 0), 0);
+    }
+  }
+  AsOrdinaryUser(const AsOrdinaryUser&) = delete;
+  AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  bool was_root_;
+};
 
 class StdFilesTest : public testing::Test {
  protected:
@@ -100,9 +122,13 @@ TEST_F(StdFilesTest, AFullDiskIsTold) {
 
 TEST_F(StdFilesTest, AProtectedFileIsNotReplaced) {
   Put("locked", "old");
-  fs::permissions(folder / "locked", fs::perms::owner_read);
-  if (std::ofstream(folder / "locked", std::ios::app)) GTEST_SKIP() << "this user may write it";
-  EXPECT_EQ(SaveAtomically(files, Path("locked"), "new"), FileFault::NotPermitted);
+  fs::permissions(folder / "locked", fs::perms(0444));
+  fs::permissions(folder, fs::perms::all);
+  {
+    const AsOrdinaryUser user;
+    ASSERT_FALSE(std::ofstream(folder / "locked", std::ios::app));
+    EXPECT_EQ(SaveAtomically(files, Path("locked"), "new"), FileFault::NotPermitted);
+  }
   EXPECT_EQ(Content("locked"), "old");
   EXPECT_EQ(Entries(), 1u);
 }
