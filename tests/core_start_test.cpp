@@ -1,6 +1,12 @@
+#include <functional>
+
 #include "core/session.h"
+#include "core/text_file.h"
+#include "forms/frm_device.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_splash.h"
+#include "para/dev_setting.h"
+#include "para/param_set.h"
 #include "posi/posi_table.h"
 #include "tests/support/flow_test.h"
 
@@ -160,6 +166,141 @@ TEST_F(StartTest, OptionsTakeThePortAndItsDevice) {
   EXPECT_FALSE(AppState.PortOccupy);
   EXPECT_EQ(virt.settings.Get("Settings", "PortDevice2", ""), "sim");
   EXPECT_EQ(virt.settings.Get("Settings", "PortOccupy", ""), "0");
+}
+
+// The offline start's devices.
+
+class OfflineStartTest : public FlowTest {
+ protected:
+  /// Starts offline; the user does this in the device dialogue, visit by visit.
+  void Start(std::vector<std::function<void()>> visits) {
+    forms.on_modal["frmDevice3"] = [this, &visits](View&) {
+      if (visits.empty()) return;  // counts as unanswered
+      const auto visit = visits.front();
+      visits.erase(visits.begin());
+      visit();
+    };
+    Choose({1, 0});
+    Main();
+    EXPECT_TRUE(visits.empty());
+    ExpectOffline();
+    ExpectCommandsOn();
+    EXPECT_EQ(AppState.AxisCount, 4);
+    EXPECT_EQ(port.sent, "");
+  }
+  void Store(const char* key, const char* value) { virt.settings.Set("Settings", key, value); }
+  std::vector<std::string> Boxes() const {
+    std::vector<std::string> texts;
+    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
+    return texts;
+  }
+  static void Ok() { frmDevice3.cmdDeviceSet.Press(); }
+  static void Cancel() { frmDevice3.cmdDeviceCancel.Press(); }
+  using Texts = std::vector<std::string>;
+  const std::string again_ = Text(4) + "\n" + Text(5);
+};
+
+TEST_F(OfflineStartTest, TheFirstStartOffersTheUsualDevice) {
+  Start({[] {
+    EXPECT_EQ(frmDevice3.comboDeviceSize[0].Text(), " 28");
+    EXPECT_EQ(frmDevice3.comboDeviceStroke[3].Text(), "100");
+    EXPECT_FALSE(frmDevice3.cmdDeviceBack.Visible);
+    Ok();
+  }});
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(AppState.MaxPulse[0], 20000);
+  EXPECT_EQ(ParamSet.Actuator[3], " 28L100");
+  EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 28L-100_");
+  EXPECT_EQ(virt.settings.Get("Settings", "DevSize1", ""), " 28");
+}
+
+TEST_F(OfflineStartTest, FewerAxesAndAnotherDevice) {
+  Store("WithPG1", "1");
+  Start({[] {
+    EXPECT_TRUE(frmDevice3.chkDevPgUse[0].Value) << "as it was stored";
+    frmDevice3.comboAxisSelect.Pick(1);
+    frmDevice3.comboDeviceSpeed[1].Pick(1);
+    Ok();
+  }});
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(DevSetting[1].Lead, 6);
+  EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 28L-100E");
+  EXPECT_EQ(frmPosi.lblDeviceType[2]->Caption, "");
+}
+
+TEST_F(OfflineStartTest, WhoeverLeavesGoesOnWithTheStoredDevices) {
+  Store("DevSize2", " 42");
+  Store("DevSpeed2", "H");
+  Store("DevStroke2", "300");
+  Start({[] {
+    frmDevice3.comboDeviceSize[1].Pick(0);
+    Cancel();
+  }});
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(AppState.MaxPulse[1], 15000);
+  EXPECT_EQ(ParamSet, ParamSetRecord{});
+}
+
+TEST_F(OfflineStartTest, AnInvalidDeviceAsksAgain) {
+  Store("DevStroke3", "5");
+  Start({Cancel, Ok});
+  EXPECT_EQ(Boxes(), Texts{again_});
+  EXPECT_EQ(DevSetting[2].Size, " 20") << "what the dialogue showed";
+  EXPECT_FALSE(DevSetting[2].NotChosen);
+}
+
+TEST_F(OfflineStartTest, NobodyIsLockedIn) {
+  Store("DevStroke3", "5");
+  Start({Cancel, Cancel});
+  EXPECT_EQ(Boxes(), Texts{again_});
+  EXPECT_TRUE(DevSetting[2].NotChosen);
+  EXPECT_EQ(AppState.MaxPulse[2], 0);
+  EXPECT_TRUE(frmMain.mnuSettingDevice.Enabled);
+}
+
+TEST_F(OfflineStartTest, WithoutTheCatalogueTheStoredDevicesServe) {
+  virt.files.Remove(ProgramFile("nqvdevice.lst"));
+  Store("DevLead1", "4");
+  for (const auto& leave : {Cancel, Ok}) {
+    ResetState();
+    forms.boxes.clear();
+    Start({leave});
+    EXPECT_TRUE(BoxShown(Text(15) + "\n" + Text(16)));
+    EXPECT_FALSE(BoxShown(Text(4)));
+    EXPECT_EQ(DevSetting[0].Lead, 4);
+    EXPECT_EQ(AppState.MaxPulse[0], 10000);
+  }
+  EXPECT_TRUE(BoxShown(Text(36))) << "OK on empty lists";
+}
+
+TEST_F(OfflineStartTest, WithoutStandardListsTheStoredDevicesServe) {
+  virt.files.Remove(ProgramFile("tr7nqvstpr.lst"));
+  Start({Ok, Cancel});
+  EXPECT_EQ(Boxes(), (Texts{Text(28) + "\n" + Text(29), Text(36), again_}));
+  EXPECT_EQ(AppState.MaxPulse[0], 20000);
+}
+
+TEST_F(OfflineStartTest, DetailsOpenTheParametersOnceTheDialogueHasGone) {
+  std::int64_t shown_at = 0, left_at = 0;
+  forms.on_modal["frmParameta2"] = [&](View& view) {
+    shown_at = pump.NowUs();
+    view.Visible = false;
+  };
+  Start({[&] {
+    left_at = pump.NowUs();
+    frmDevice3.cmdSyosai.Press();
+  }});
+  EXPECT_EQ(ParamSet.Actuator[0], " 28L100");
+  pump.RunFor(3'000'000);
+  EXPECT_EQ(shown_at - left_at, 1'000'000);
+  EXPECT_FALSE(frmMain.Timer2.Enabled);
+}
+
+TEST_F(OfflineStartTest, DetailsOfAFailedChoiceDoNotCome) {
+  virt.files.Remove(ProgramFile("tr7nqvstpr.lst"));
+  Start({[] { frmDevice3.cmdSyosai.Press(); }, Cancel});
+  pump.RunFor(3'000'000);
+  EXPECT_EQ(forms.modals.back(), "frmDevice3");
 }
 
 }  // namespace

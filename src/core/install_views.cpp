@@ -7,10 +7,11 @@
 #include "core/wait.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
+#include "para/change_device.h"
+#include "para/device_choice.h"
 #include "para/device_texts.h"
+#include "para/device_write.h"
 #include "para/para_after_device.h"
-#include "para/para_view.h"
-#include "para/stroke_calc.h"
 #include "para/take_ct_device.h"
 #include "posi/device_change.h"
 #include "posi/posi_flows.h"
@@ -41,8 +42,9 @@ void InstallViews() {
   InstallResultView();
   InstallDeviceTexts();
   InstallParaAfterDevice();
-  InstallParaView();
-  InstallStrokeCalc();
+  InstallDeviceChoice();
+  InstallDeviceWrite();
+  InstallChangeDevice();
   Hooks.TakeDevFromCt = TakeDevFromCt;
   Hooks.RebuildPosiView = RebuildPosiViewKeepingEdits;
   Hooks.PositionsFollowDevices = [] { PositionsFollowDevices(); };

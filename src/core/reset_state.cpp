@@ -23,6 +23,7 @@
 #include "link/para_transfer_commands.h"
 #include "link/request_queue.h"
 #include "para/dev_setting.h"
+#include "para/device_cascade.h"
 #include "para/device_list.h"
 #include "para/error_list.h"
 #include "para/param_set.h"
@@ -57,6 +58,7 @@ void ResetState() {
   DeviceList.fill(DeviceListRecord{});
   DevListMissing.fill(False);
   DeviceLookup = DeviceLookupRecord{};
+  DeviceDialog = DeviceDialogRecord{};
   ParamSet = ParamSetRecord{};
   ParaTable = ParaTableRecord{};
   ParaFlags = ParaFlagsRecord{};

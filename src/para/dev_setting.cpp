@@ -10,4 +10,11 @@ void CalcMmPerPulse(DevSettingRecord& device) {
   device.MmPerPulse = device.Ppr == 0 ? 0 : static_cast<double>(device.Lead) / device.Ppr;
 }
 
+bool EveryAxisHasADevice() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (!AppState.AxisMuko[axis] && DevSetting[axis].NotChosen) return false;
+  }
+  return true;
+}
+
 }  // namespace tr7

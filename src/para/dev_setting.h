@@ -38,4 +38,7 @@ extern std::array<std::string, kAxes> FileDevice;
 /// `MmPerPulse` from lead and PPR; 0 without a PPR.
 void CalcMmPerPulse(DevSettingRecord& device);
 
+/// Every axis in use has a device.
+bool EveryAxisHasADevice();
+
 }  // namespace tr7

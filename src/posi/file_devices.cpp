@@ -42,13 +42,6 @@ bool TellStopped() {
   return false;
 }
 
-bool EveryAxisHasADevice() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (!AppState.AxisMuko[axis] && DevSetting[axis].NotChosen) return false;
-  }
-  return true;
-}
-
 /// Axes, lead, pulses per turn and stroke as the parameters have them. What a controller reported
 /// earlier says nothing of these devices.
 bool TakeDevicesOfParam() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QFocusEvent>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -32,15 +31,6 @@ class Binding {
     return true;
   }
 };
-
-/// True for a focus event of this type that the user has caused inside the window: a menu, a list
-/// that drops down and another window take the focus only for a while.
-inline bool FocusMoves(const QEvent& event, QEvent::Type type) {
-  if (event.type() != type) return false;
-  const auto reason = static_cast<const QFocusEvent&>(event).reason();
-  return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
-         reason != Qt::MenuBarFocusReason;
-}
 
 inline QString Q(const std::string& text) { return QString::fromStdString(text); }
 

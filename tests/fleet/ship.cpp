@@ -1,12 +1,15 @@
 #include "tests/fleet/ship.h"
 
+#include "core/hooks.h"
 #include "core/main_entry.h"
 #include "core/text.h"
 #include "core/views.h"
+#include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "link/request_queue.h"
+#include "para/device_cascade.h"
 #include "posi/posi_table.h"
 #include "tests/support/flow_test.h"
 
@@ -80,8 +83,44 @@ void Ship::PlanUser() {
       const int first = random_.Between(1, 60);
       FillRange(*range, first, first + random_.Below(12));
       if (range->Visible) range->cmdCancel.Press();
+    } else if (auto* devices = dynamic_cast<DeviceView*>(&view)) {
+      AnswerDevices(*devices);
     }
   };
+}
+
+/// Changes this and that, perhaps writes, and leaves by one of the buttons.
+void Ship::AnswerDevices(DeviceView& view) {
+  const auto pick = [this](ComboBox& combo) {
+    if (!combo.List.empty()) combo.Pick(random_.Below(static_cast<int>(combo.List.size())));
+  };
+  for (int clicks = random_.Below(4); clicks > 0; --clicks) {
+    const auto axis = static_cast<std::size_t>(random_.Below(kAxes));
+    switch (random_.Below(6)) {
+      case 0:
+        pick(view.comboAxisSelect);
+        break;
+      case 1:
+        view.chkAxisEnable[axis].Set(!view.chkAxisEnable[axis].Value);
+        break;
+      case 2:
+        view.chkNewOrOld[axis].Set(!view.chkNewOrOld[axis].Value);
+        break;
+      case 3:
+        view.chkDevPgUse[axis].Set(!view.chkDevPgUse[axis].Value);
+        break;
+      default:
+        pick(view.comboDeviceSize[axis]);
+        pick(view.comboDeviceSpeed[axis]);
+        pick(view.comboDeviceStroke[axis]);
+        break;
+    }
+  }
+  if (random_.Chance(40)) view.cmdPrmCtWrite.Press();
+  for (CommandButton* button : {&view.cmdDeviceSet, &view.cmdDeviceBack, &view.cmdDeviceCancel}) {
+    if (view.Visible && random_.Chance(60)) button->Press();
+  }
+  if (view.Visible) view.cmdDeviceCancel.Press();
 }
 
 void Ship::PlanFaults() {
@@ -184,6 +223,20 @@ void Ship::ShowVersion() {
   CheckRest("version");
 }
 
+void Ship::ChangeDevices() {
+  log_ += " devices";
+  const auto muko = AppState.AxisMuko;
+  const bool failed = Hooks.Change_Device() != 0;
+  if (failed && muko != AppState.AxisMuko) Fail("a device change that failed changed the axes");
+  CheckRest("devices");
+}
+
+void Ship::WriteDevices() {
+  log_ += " write-devices";
+  frmMain.mnuSettingDeviceOnline.Press();
+  CheckRest("write-devices");
+}
+
 void Ship::CloseByWindow() {
   log_ += " close-later";
   virt_.pump.After(random_.Below(2'000'000), [this] {
@@ -195,7 +248,7 @@ void Ship::CloseByWindow() {
 }
 
 void Ship::DoFlow() {
-  switch (random_.Below(8)) {
+  switch (random_.Below(10)) {
     case 0:
       return Reset();
     case 1:
@@ -206,6 +259,10 @@ void Ship::DoFlow() {
       return ShowVersion();
     case 4:
       return CloseByWindow();
+    case 5:
+      return ChangeDevices();
+    case 6:
+      return WriteDevices();
     default:
       return Read();
   }
@@ -229,6 +286,7 @@ void Ship::CheckRest(const std::string& after) {
               frmMain.mnuSettingOffline.Enabled == !AppState.Offline,
           "menus lie");
   require(frmPosi.tabCmd.Tabs[1].Enabled == !AppState.Offline, "tabs lie");
+  require(!DeviceDialog.DevDialogActive && !DeviceDialog.DevWriting, "a device dialogue stands");
   require(!AppState.TusinExchanging && frmMain.TimerTusin.Enabled, "request timer off");
   require(!frmMain.timerTimeout.Enabled, "time-out armed");
   const std::size_t sent = virt_.port.sent.size();

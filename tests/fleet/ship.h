@@ -8,6 +8,8 @@
 
 namespace tr7 {
 
+struct DeviceView;
+
 /// One seeded run: a tool, a controller, a user who clicks at random and a line that fails at
 /// random. `Sail` returns the invariants that did not hold; empty is good.
 class Ship {
@@ -17,6 +19,7 @@ class Ship {
 
  private:
   void PlanUser();
+  void AnswerDevices(DeviceView& view);
   void PlanFaults();
   void Spoil();
   void DoFlow();
@@ -26,6 +29,8 @@ class Ship {
   void GoOnline();
   void GoOffline();
   void ShowVersion();
+  void ChangeDevices();
+  void WriteDevices();
   void CloseByWindow();
   void CheckRest(const std::string& after);
   void Fail(const std::string& what);

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "forms/frm_device.h"
+
 namespace tr7 {
 
 void AnswerSelection(SelectionView& view, int choice) {
@@ -12,6 +14,8 @@ void AnswerSelection(SelectionView& view, int choice) {
   view.options[static_cast<std::size_t>(choice)]->Press();
   view.cmdOk.Press();
 }
+
+void AcceptDevices(View& view) { static_cast<DeviceView&>(view).cmdDeviceSet.Press(); }
 
 void FillRange(SelectPosiNoView& view, int first, int last) {
   view.optRange.Press();
@@ -32,6 +36,7 @@ FlowTest::FlowTest(const qvr7sim::Setup& setup) : StateTest(setup) {
       AnswerSelection(selection, choice);
     };
   }
+  forms.on_modal["frmDevice3"] = AcceptDevices;
 }
 
 void FlowTest::Choose(std::vector<int> choices) { choices_ = std::move(choices); }

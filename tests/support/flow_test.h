@@ -20,7 +20,7 @@ class FlowTest : public StateTest {
 
   /// Starts the tool in English and chooses online.
   void StartOnline();
-  /// Starts the tool offline in the given mode.
+  /// Starts the tool offline in the given mode, with the devices that the device dialogue shows.
   void StartOffline(bool program_mode = false);
   /// The next choice boxes are answered in this order: 0, 1, or -1 for cancel.
   void Choose(std::vector<int> choices);
@@ -39,6 +39,8 @@ class FlowTest : public StateTest {
 
 /// Answers a choice box as a user does.
 void AnswerSelection(SelectionView& view, int choice);
+/// Accepts the devices that a device dialogue shows.
+void AcceptDevices(View& view);
 /// Fills a range dialogue and presses OK.
 void FillRange(SelectPosiNoView& view, int first, int last);
 

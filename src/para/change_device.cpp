@@ -1,0 +1,90 @@
+#include "para/change_device.h"
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/reconcile.h"
+#include "core/scope.h"
+#include "core/selection.h"
+#include "core/text.h"
+#include "link/port.h"
+#include "para/device_dialog.h"
+#include "para/device_take.h"
+#include "para/para_file_flow.h"
+#include "para/para_show.h"
+#include "para/std_lists.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgNotSelected = 4;
+constexpr int kMsgSelectAgain = 5;
+
+enum class Source { Choice, ParaFile };
+
+/// False: the user leaves.
+bool AskSource(Source& source) {
+  const int choice = SelectionDialog(Text(471), Text(41), Text(42), Text(43), 0, 0, 1);
+  source = choice == 0 ? Source::Choice : Source::ParaFile;
+  return choice >= 0;
+}
+
+/// Asks until parameters stand; false when the user leaves. Back, a failure and a file dialogue
+/// that was cancelled lead to the question again.
+bool ParametersStand() {
+  Source source;
+  while (AskSource(source)) {
+    const int result = source == Source::Choice ? SelectDeviceForPara() : OpenParaForDevice();
+    if (result == 0) return true;
+    if (source == Source::Choice && result == -1) return false;
+  }
+  return false;
+}
+
+void OfferCancelAndBack() { DeviceDialog.ShowDevCancel = DeviceDialog.ShowDevBack = True; }
+
+}  // namespace
+
+int Change_Device() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  const bool was_offline = AppState.Offline;
+  const ScopeExit offline_again([was_offline] {
+    if (was_offline) SetOffline();
+  });
+  if (!WarnOfDeviceChange(true)) return 1;
+  AxesOnTrial axes;
+  OfferCancelAndBack();
+  if (!ParametersStand()) return 1;
+  if (TakeDevicesOfParam() != 0) {
+    MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
+    return 1;
+  }
+  axes.Keep();
+  return 0;
+}
+
+void IniPrm() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  OfferCancelAndBack();
+  AxesOnTrial axes;
+  if (AskDevices(frmDevice2) != DeviceAnswer::Taken) return;
+  // The position table may follow later on: the user may rather not.
+  if (!WarnOfDeviceChange(true)) return;
+  if (IniParaFromStd() != 0) return;
+  axes.Keep();
+  if (axes.Changed()) {
+    Call(Hooks.RecalcLimits);
+    Call(Hooks.RebuildPosiView);
+  }
+  ParametaHyoji();
+}
+
+void InstallChangeDevice() {
+  Hooks.Change_Device = Change_Device;
+  Hooks.IniPrm = IniPrm;
+}
+
+}  // namespace tr7

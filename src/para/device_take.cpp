@@ -1,0 +1,47 @@
+#include "para/device_take.h"
+
+#include "core/app_state.h"
+#include "core/hooks.h"
+#include "forms/frm_parameta2.h"
+#include "link/para_commands.h"
+#include "para/dev_setting.h"
+#include "para/dev_setting_store.h"
+#include "para/para_show.h"
+#include "para/param_set.h"
+#include "para/take_param_device.h"
+
+namespace tr7 {
+namespace {
+
+void TakeNewType() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (AppState.AxisMuko[axis]) continue;
+    DevSetting[axis].NewType = DevSettei[axis].NewType;
+    DevSetting[axis].NewTypeWord = DevSetting[axis].NewType ? "NEW" : "OLD";
+  }
+}
+
+}  // namespace
+
+int TakeDevicesOfParam() {
+  const auto devices = DevSetting;
+  const auto strokes = AppState.StrokePulse;
+  // What a controller reported earlier says nothing of devices chosen here, so type and PG come
+  // from the choice.
+  CtDev.fill(CtDeviceRecord{});
+  TakeDevFromParam2();
+  ParaFlags.ShownAxisCount = 0;
+  if (!EveryAxisHasADevice()) {
+    DevSetting = devices;
+    AppState.StrokePulse = strokes;
+    return 1;
+  }
+  TakeNewType();
+  SaveDevSetting();
+  Call(Hooks.RecalcLimits);
+  Call(Hooks.PositionsFollowDevices);
+  if (frmParameta2.Loaded) ParametaHyoji();
+  return 0;
+}
+
+}  // namespace tr7

@@ -1,0 +1,155 @@
+#include "para/device_write.h"
+
+#include "core/app_state.h"
+#include "core/busy_scope.h"
+#include "core/message_box.h"
+#include "core/scope.h"
+#include "core/session.h"
+#include "core/text.h"
+#include "forms/frm_device.h"
+#include "forms/frm_posi.h"
+#include "link/para_commands.h"
+#include "link/para_transfer_commands.h"
+#include "link/port.h"
+#include "link/status_commands.h"
+#include "para/device_dialog.h"
+#include "para/device_take.h"
+#include "para/param_set.h"
+#include "para/std_lists.h"
+#include "platform/doors.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgLineFailed = 377;
+constexpr int kMsgMoving = 424;
+constexpr int kAllAxes = 0xF;
+
+enum class WriteResult {
+  Done,
+  Failed,   ///< while the parameters were written
+  NotBegun  ///< ended before that, and the user knows why
+};
+
+class DialogRests {
+ public:
+  DialogRests() { Device3CMDBTN_Muko(); }
+  ~DialogRests() { Device3CMDBTN_Yuko(); }
+  DialogRests(const DialogRests&) = delete;
+  DialogRests& operator=(const DialogRests&) = delete;
+};
+
+void SwitchDialog(bool on) {
+  DeviceView& view = frmDevice3;
+  for (Control* control : std::initializer_list<Control*>{
+           &view.cmdDeviceCancel, &view.cmdSyosai, &view.cmdDeviceSet, &view.cmdDeviceBack,
+           &view.cmdPrmCtWrite, &view.comboAxisSelect}) {
+    control->Enabled = on;
+  }
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    view.chkAxisEnable[axis].Enabled = on;
+    view.framAxis[axis].Enabled = on && view.chkAxisEnable[axis].Value;
+  }
+}
+
+/// In the millimetre view the loaded positions will follow the devices.
+bool WarnBeforeWrite() {
+  if (!AppState.DispMmUnit || AppState.PosiFirstNo < 1) return true;
+  return MsgBox(TwoLines(1505, 1506), MsgButtons::OkCancel) == MsgAnswer::Ok;
+}
+
+bool AxesStandStill() {
+  const int rest = ReadAlarmFromCt();
+  if (rest == 0) MsgBox(Text(kMsgMoving));
+  return rest == 1;
+}
+
+/// Shows that a command failed, beside what the exchange has shown; true when it did not.
+bool GoodOrTold(int result) {
+  if (result != 0) MsgBox(Text(kMsgLineFailed));
+  return result == 0;
+}
+
+/// While axes are held, the controller's inputs start no move.
+int HoldAxes() { return CtControlModeSet(1, 0, kAllAxes); }
+int ReleaseAxes() { return CtControlModeSet(0, 0, 0); }
+
+/// The axes that the dialogue asks for, here and in the controller.
+bool WriteAxes() {
+  TakeChosenAxes(frmDevice3);
+  ParaFlags.AxisMaskFixed = True;
+  return GoodOrTold(WriteAxisPatternToCt(ParaFlags.AxisMask));
+}
+
+bool ReadParameters() {
+  return ReadCtAxisFromCt() == 0 && ReadParaFromCt() == 0 && TakeParamTable() == 0;
+}
+
+bool MakeParameters() {
+  TakeShownDevices(frmDevice3);
+  if (IniParaFromStdForWrite() != 0) return false;
+  if (CheckParaFromStd() == 0) return true;
+  MsgBox(TwoLines(1524, 1525));
+  return false;
+}
+
+WriteResult WriteHeld() {
+  if (!WriteAxes() || !ReadParameters() || !MakeParameters()) return WriteResult::NotBegun;
+  return WriteParaToCt() == 0 ? WriteResult::Done : WriteResult::Failed;
+}
+
+/// After a failure that left the line healthy the axes must not stay held; after a refusal nothing
+/// more is sent.
+void Release(WriteResult result) {
+  if (result != WriteResult::Done && (AppState.Offline || AppState.AlarmOn)) return;
+  GoodOrTold(ReleaseAxes());
+}
+
+void TakeWritten() {
+  doors.forms->BringToFront(frmPosi);
+  TakeDevicesOfParam();  // the standard rows just written name a device for every axis
+  MsgBox(Text(1527), MsgButtons::Ok, MsgIcon::Information);
+}
+
+void Write() {
+  if (!AxesStandStill() || !GoodOrTold(HoldAxes())) return;
+  AxesOnTrial axes;
+  const ParamSetRecord parameters = ParamSet;
+  const WriteResult result = WriteHeld();
+  Release(result);
+  if (result == WriteResult::Done) {
+    axes.Keep();
+    TakeWritten();
+    return;
+  }
+  ParamSet = parameters;
+  if (result == WriteResult::Failed) MsgBox(Text(1528));
+}
+
+}  // namespace
+
+void Device3CMDBTN_Muko() {
+  DeviceDialog.DevWriting = True;
+  SwitchDialog(false);
+}
+
+void Device3CMDBTN_Yuko() {
+  DeviceDialog.DevWriting = False;
+  SwitchDialog(true);
+}
+
+void PrmCtWrite() {
+  const DialogRests dialog_rests;
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  if (!WarnBeforeWrite() || OpenPortOrTell() != 0) return;
+  const bool was_offline = AppState.Offline;
+  LiftOffline();
+  Write();
+  TusinPortClose();
+  if (was_offline) SetOffline();
+}
+
+void InstallDeviceWrite() { frmDevice3.cmdPrmCtWrite.Click = PrmCtWrite; }
+
+}  // namespace tr7
