@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 #include <algorithm>
 
@@ -20,6 +21,13 @@ CommandButton* CancelButton(const View& view) {
     if (button && button->Cancel && button->Enabled && button->Visible) return button;
   }
   return nullptr;
+}
+
+bool HasDefaultButton(const View& view) {
+  return std::any_of(view.Controls.begin(), view.Controls.end(), [](const Control* control) {
+    const auto* button = dynamic_cast<const CommandButton*>(control);
+    return button && button->Default;
+  });
 }
 
 /// The user asks to close a view. The window stays until the record's close takes it away.
@@ -80,6 +88,16 @@ DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+
+/// A key that the control with the focus has left alone.
+void DialogWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && !HasDefaultButton(view_)) {
+    event->ignore();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
 
 /// Escape.
 void DialogWindow::reject() {

@@ -46,7 +46,8 @@ class ChildWindow : public QMdiSubWindow {
   View& view_;
 };
 
-/// A dialogue. Escape presses its cancel button, Enter its default one.
+/// A dialogue. Escape presses its cancel button, Enter its default one: without one, Enter presses
+/// nothing but the button that has the focus.
 class DialogWindow : public QDialog {
   Q_OBJECT
 
@@ -55,6 +56,7 @@ class DialogWindow : public QDialog {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void reject() override;
   /// The record hides the window; Qt must not.
   void accept() override {}
