@@ -8,13 +8,14 @@ namespace {
 
 std::string last_move_direct_text;
 
-/// Hexadecimal text without a fixed width.
+/// Hexadecimal text without a fixed width; numbers are 16 bits wide, so -1 is "FFFF".
 std::string Hex(int value) {
+  auto rest = static_cast<std::uint16_t>(value);
   std::string text;
   do {
-    text.insert(text.begin(), "0123456789ABCDEF"[value % 16]);
-    value /= 16;
-  } while (value > 0);
+    text.insert(text.begin(), "0123456789ABCDEF"[rest % 16]);
+    rest /= 16;
+  } while (rest > 0);
   return text;
 }
 
@@ -46,7 +47,7 @@ int MoveAxesToCt(int position_no, int kind) {
 }
 
 int StartProgToCt(int program_no) {
-  std::string number = std::to_string(program_no);
+  std::string number = Hex(program_no);
   if (number.size() == 1) number.insert(0, "0");
   std::string reply;
   return TusinCommand("0MG" + number, 7, 0, reply);
