@@ -1,5 +1,9 @@
+#include <functional>
+#include <utility>
+
 #include "core/text_helpers.h"
 #include "link/motion_commands.h"
+#include "link/para_commands.h"
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "tests/support/state_test.h"
@@ -69,6 +73,9 @@ TEST_F(CommandsTest, MotionTexts) {
   EXPECT_EQ(line(JogStartToCt(90, 7)), "0JR90002");
   EXPECT_EQ(line(JogStartToCt(5, 1)), "0JR02000");
   EXPECT_EQ(line(JogStartToCt(100, 0)), "0JR01000");
+  for (const auto& [program, text] : {std::pair{7, "0MG07"}, {10, "0MG0A"}, {100, "0MG64"}}) {
+    EXPECT_EQ(line(StartProgToCt(program)), text);
+  }
   std::array<DirectMoveAxis, kAxes> axes;
   axes[1] = {true, 20, 3, 10000};
   EXPECT_EQ(line(MoveDirectToCt(axes, "00")),
@@ -111,6 +118,30 @@ TEST_F(CommandsTest, Versions) {
   EXPECT_EQ(GetVersionNoAxis(), 4);
   port.Ct().SetSilent(true);
   EXPECT_EQ(GetVersionNoAxis(), -1);
+}
+
+/// A line that comes twice is there, right in length and prefix, when the next reply is waited for.
+TEST_F(CommandsTest, ALateReplyOfAnotherBoardOrBlockIsRefused) {
+  const auto read_blocks = [] {
+    std::string reply;
+    return ReadParaBlock('3', 1000, reply) != 0 ? 1 : ReadParaBlock('4', 1000, reply);
+  };
+  const struct {
+    const char* doubled;
+    std::function<int()> read;
+    std::string last;
+  } rows[] = {{"0RV2", [] { return GetAxisVersionNo(4); }, "0RV3"}, {"0RD3", read_blocks, "0RD4"}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(row.read(), 0);
+    qvr7sim::Fault fault;
+    fault.kind = qvr7sim::FaultKind::kDoubled;
+    fault.prefix = row.doubled;
+    fault.at_request = 1;
+    port.Ct().AddFault(fault);
+    EXPECT_EQ(row.read(), 1);
+    EXPECT_EQ(LastLine(), row.last);
+    pump.RunFor(1'000'000);  // what is left on the line goes by
+  }
 }
 
 TEST_F(CommandsTest, AlarmResetClearsTheAlarm) {

@@ -92,7 +92,8 @@ int WriteBlock0(const std::string& data) {
 char AxisBlock(int axis, int which) { return ParaBlockChar(ParaBlockOfAxis(axis, which)); }
 
 int ReadParaBlock(char block, int timeout_ms, std::string& reply) {
-  return TusinCommand(std::string("0RD") + block, kBlockReplyLength, timeout_ms, reply);
+  // All blocks have one length and one prefix: another block's late reply must not pass for this.
+  return ReadNamed(std::string("0RD") + block, kBlockReplyLength, timeout_ms, reply) ? 0 : 1;
 }
 
 int ReadCtAxisFromCt() {

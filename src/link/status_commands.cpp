@@ -101,9 +101,10 @@ int GetVersionNoAxis() {
 
 int GetAxisVersionNo(int axis_count) {
   for (int axis = 1; axis <= axis_count && axis <= kAxes; ++axis) {
+    const std::string command = "0RV" + std::to_string(axis);
     std::string reply;
-    if (TusinCommand("0RV" + std::to_string(axis), 12, 1000, reply) != 0) return 1;
-    if (reply.substr(7, 3) != "R7R") {
+    if (TusinCommand(command, 12, 1000, reply) != 0) return 1;
+    if (!reply.starts_with(command) || reply.substr(7, 3) != "R7R") {
       TusinAbort();
       return 1;
     }
