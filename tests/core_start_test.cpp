@@ -95,9 +95,13 @@ TEST_F(StartTest, ClosingDuringAReadFromTheWindowDoesNothing) {
 TEST_F(StartTest, ExitFromTheMenuDuringAReadEndsTheProcess) {
   StartOnline();
   frmMain.mnuFile.Enabled = true;
+  const std::int64_t start = pump.NowUs();
   pump.After(500'000, [&] { frmMain.mnuFileExit.Press(); });
   ReadRange(1, 40);
   EXPECT_TRUE(forms.ended);
+  EXPECT_LT(pump.NowUs() - start, 1'000'000) << "what ran beneath ends with it";
+  EXPECT_TRUE(forms.LastBox().starts_with(Text(370))) << "and says nothing more";
+  EXPECT_FALSE(port.IsOpen());
   EXPECT_EQ(virt.settings.Get("Settings", "PortNo", ""), "1");
 }
 
@@ -147,7 +151,6 @@ TEST_F(StartTest, AMinimisedFrameKeepsTheOldRectangle) {
   frmMain.Minimised = true;
   CloseView(frmMain, CloseReason::Code);
   EXPECT_EQ(virt.settings.Get("Settings", "MainLeft", ""), "1234.5");
-  StartOffline();
 }
 
 TEST_F(StartTest, OptionsTakeThePortAndItsDevice) {

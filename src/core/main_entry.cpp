@@ -134,6 +134,9 @@ void UnloadFrame() {
   for (View* view : views) {
     if (view != &frmMain) UnloadView(*view);
   }
+  // A flow beneath this close, if there is one, comes to its end: no reply will come any more.
+  AppState.CancelRequested = True;
+  AppState.TusinTimedOut = True;
   TusinPortCloseForce();
   SaveSettingsAtExit();
   doors.forms->EndProcess();

@@ -10,6 +10,7 @@ namespace tr7 {
 void VirtualFormHost::Show(View& view) { view.Visible = true; }
 
 void VirtualFormHost::ShowModal(View& view) {
+  if (ended) return;
   view.Visible = true;
   modals.emplace_back(view.Name);
   if (const auto script = on_modal.find(view.Name); script != on_modal.end()) {
@@ -30,6 +31,7 @@ void VirtualFormHost::BringToFront(View& view) {
 }
 
 MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
+  if (ended) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
   boxes.push_back(call);
   if (call.Buttons == MsgButtons::Ok) return MsgAnswer::Ok;
   if (on_message_box) {
@@ -45,6 +47,7 @@ MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
 }
 
 std::optional<std::string> VirtualFormHost::FileDialog(const FileDialogCall& call) {
+  if (ended) return std::nullopt;
   file_dialogs.push_back(call);
   if (file_answers.empty()) {
     unanswered.push_back(call.Title);

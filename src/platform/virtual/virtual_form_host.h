@@ -49,7 +49,7 @@ class VirtualFormHost : public FormHost {
   int beeps = 0;
   int wait_cursors = 0;  ///< 0 when every wait cursor was taken back
   Control* focus = nullptr;
-  bool ended = false;
+  bool ended = false;  ///< nothing is shown any more, and every question is cancelled
 
   /// Text of the last box, or empty.
   std::string LastBox() const { return boxes.empty() ? std::string() : boxes.back().Text; }
