@@ -85,6 +85,26 @@ TEST_F(ConnectTest, ASilentPortChangesNothing) {
   ExpectCommandsOn();
 }
 
+TEST_F(ConnectTest, GoingOfflineIsAskedFirst) {
+  AppState.PortOccupy = True;
+  virt.settings.Set("Settings", "PortOccupy", "1");
+  StartOnline();
+  Forget();
+  forms.answers = {MsgAnswer::Cancel};
+  frmMain.mnuSettingOffline.Press();
+  EXPECT_EQ(forms.LastBox(), Text(432));
+  ExpectOnline();
+  ExpectCommandsOn();
+  frmPosi.tabCmd.Selected = 1;
+  forms.answers = {MsgAnswer::Ok};
+  frmMain.mnuSettingOffline.Press();
+  ExpectOffline();
+  ExpectCommandsOn();
+  EXPECT_FALSE(port.IsOpen()) << "whatever the setting says";
+  EXPECT_EQ(frmPosi.tabCmd.Selected, 0) << "the tab that went off is left";
+  EXPECT_EQ(Lines(), "") << "nothing is said to the controller";
+}
+
 struct DifferenceRow {
   const char* name;
   std::function<void()> change;  ///< of the PC, before it goes online

@@ -203,15 +203,47 @@ TEST_F(ExchangeTest, AnAlarmWhilePollingIsShownAtOnce) {
   EXPECT_TRUE(frmMain.imgAlarm.Visible);
   EXPECT_EQ(AppState.LastCtErrorText, "0%%001\r\n");
   EXPECT_FALSE(AppState.Offline);  // no request was answered with it
+  EXPECT_EQ(port.sent, "0RP001\r\n");
+  // The next good reply says that all is well again.
+  port.Ct().PowerCycle(pump.NowUs());
+  EXPECT_EQ(Read(), TusinOutcome::Good);
+  EXPECT_FALSE(AppState.AlarmOn || frmMain.imgAlarm.Visible);
+}
+
+TEST_F(ExchangeTest, AnAlarmUnaskedEndsTheRequestThatWaits) {
+  pump.After(20'000, [this] { port.Ct().RaiseAlarm({'3', '0', '9'}, pump.NowUs(), true); });
+  Spoil(FaultKind::kSilence, 1);
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_EQ(port.sent, "0RP001\r\n");
+  EXPECT_EQ(forms.LastBox(), Text(104) + "\nError No.9\n[" + AppState.CtErrorName + "]");
+  ExpectOffline(false);
 }
 
 TEST_F(ExchangeTest, APortThatDoesNotOpenIsTriedFourTimesAndTold) {
-  port.open_fault = PortFault::NoSuchPort;
-  EXPECT_EQ(Read(), TusinOutcome::Failed);
-  EXPECT_EQ(port.sent, "");
-  ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_EQ(forms.LastBox(), Text(109) + "\n\n" + Text(110) + "\n\n" + Text(5900, "sim"));
-  ExpectOffline(false);
+  const struct {
+    PortFault fault;
+    std::string reason;
+  } rows[] = {
+      {PortFault::NoSuchPort, Text(5900, "sim")},
+      {PortFault::InUse, Text(5901, "sim")},
+      {PortFault::NotPermitted, Text(5902, "sim")},
+      {PortFault::DeviceError, Text(5903, "sim", "simulated fault")},
+      {PortFault::None, Text(5904, "2")},  // a number with no device behind it
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.reason);
+    AppState.Offline = False;
+    AppState.PortNo = row.fault == PortFault::None ? 2 : 1;
+    forms.boxes.clear();
+    port.open_fault = row.fault;
+    const std::int64_t start = pump.NowUs();
+    EXPECT_EQ(Read(), TusinOutcome::Failed);
+    EXPECT_NEAR(static_cast<double>(pump.NowUs() - start), 3 * 100e3 + 110e3, 10e3);
+    EXPECT_EQ(port.sent, "");
+    ASSERT_EQ(forms.boxes.size(), 1u);
+    EXPECT_EQ(forms.LastBox(), Text(109) + "\n\n" + Text(110) + "\n\n" + row.reason);
+    ExpectOffline(false);
+  }
 }
 
 TEST_F(ExchangeTest, APortThatVanishesIsAPortFailure) {

@@ -63,7 +63,13 @@ TEST_F(ReadTest, AFailedReadKeepsTheTable) {
   StartOnline();
   ReadRange(1, 5);
   port.Ct().SetSilent(true);
+  port.sent.clear();
+  forms.boxes.clear();
   ReadRange(1, 10);
+  EXPECT_EQ(port.sent, "0CM1\r\n0CM1\r\n0CM1\r\n0CM1\r\n");
+  ASSERT_EQ(forms.boxes.size(), 2u) << "one box more than the confirmation";
+  EXPECT_TRUE(forms.LastBox().starts_with(Text(100)));
+  EXPECT_FALSE(port.IsOpen());
   EXPECT_EQ(AppState.PosiLastNo, 5);
   EXPECT_EQ(AppState.PosiToNo, 5) << "the next operation means the table that is there";
   EXPECT_EQ(frmPosi.flgdData.Rows(), 7);
