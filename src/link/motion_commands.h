@@ -13,7 +13,8 @@ namespace tr7 {
 /// "0MP" (or "0MS" for kind 1): moves the axes in use to a position number.
 int MoveAxesToCt(int position_no, int kind);
 
-/// "0MG": starts a program, number in two hexadecimal digits. The time-out is 0: the wait has no bound.
+/// "0MG": starts a program, number in two hexadecimal digits. The time-out is 0: the wait has no
+/// bound.
 int StartProgToCt(int program_no);
 
 /// "0SP": stops. `timeout_ms` 1000 or 5000.
