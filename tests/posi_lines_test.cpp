@@ -216,6 +216,39 @@ TEST_F(PosiClipboard, HasItsPlaces) {
   EXPECT_TRUE(BoxShown(Text(580)));
 }
 
+TEST_F(PosiClipboard, ALineOfProgramModeIsItsPositionsAndComment) {
+  ShowTable(1, 4, true);
+  AppState.AxisMuko[0] = True;
+  SizeInit_PosFlexGridAtPrgMode3();
+  Type(1, kAxisTwoPosi, "+250");
+  Type(1, kComment, "up");
+  Put(3, kAxisTwoPosi + 1, "7");  // hidden: no paste reaches it
+  Select(1, kAxisTwoPosi, 1, kComment);
+  const std::string line = Copied();
+  EXPECT_TRUE(frmPosi.CopiedIsLine);
+  for (const int col : {1, int{kPosi}, kAxisTwoPosi}) {
+    Select(3, col, 4, col);
+    Paste(line);
+    EXPECT_TRUE(forms.boxes.empty()) << col;
+    EXPECT_EQ(Cell(4, kAxisTwoPosi) + Cell(4, kComment), "    +250up") << "one line into each";
+    EXPECT_EQ(Cell(3, kAxisTwoPosi + 1), "7");
+    Put(4, kAxisTwoPosi, "");
+  }
+}
+
+TEST_F(PosiClipboard, TheStatusPanelTellsWhatWasNotPasted) {
+  Numbered(1, 3);
+  Select(2, kVel, 2, kVel);
+  Paste("50\r76\r1");
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError],
+            "Cells not pasted: 1, the first at No. 3 VEL1. Input Range : 1 to 75(mm/sec) "
+            "Lines beyond the last one not pasted: 1. ");
+  Select(1, kComment, 1, kComment);
+  Paste("\"to\tthe\"\r\n\"left, then up\"\r\n");
+  EXPECT_EQ(Cell(1, kComment), "") << "a comment is one line of plain characters";
+  EXPECT_EQ(Cell(2, kComment), "left, then up") << "a spreadsheet's quotes are not the text's";
+}
+
 TEST_F(PosiClipboard, APositionOfAnotherUnitIsNotTakenForThisOne) {
   ShowTable(1, 3);
   Type(1, kPosi, "50");

@@ -319,7 +319,8 @@ TEST_F(OpenTest, WithTheDevicesOfTheFile) {
   EXPECT_EQ(AppState.MaxPulse[0], 13334);
   EXPECT_EQ(AppState.StrokePulse[0], ParamSet.AxisStroke[0]);
   EXPECT_EQ(frmPosi.lblDeviceType1.Caption, "QV- 28H-200E");
-  EXPECT_EQ(frmPosi.lblDeviceType4.Caption, "");
+  EXPECT_EQ(frmPosi.lblAge1.Caption, "(New)");
+  EXPECT_EQ(frmPosi.lblDeviceType4.Caption + frmPosi.lblAge4.Caption, "");
   EXPECT_EQ(frmPosi.flgdData.ColWidth(AxisBase(2) + kPosi), 0);
   EXPECT_NE(frmMain.sbStatusBar.Panels[kPanelScale1].find("66.667"), std::string::npos);
   EXPECT_EQ(virt.settings.Get("Settings", "DevSpeed1", "-"), "H");

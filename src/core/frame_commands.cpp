@@ -1,5 +1,6 @@
 #include "core/frame_commands.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -66,12 +67,19 @@ void InstallFileMenu() {
   f.mnuFileExit.Click = [] { CloseView(frmMain, CloseReason::Code); };
 }
 
+/// An edit command never reaches a view behind the one that the user works in, nor a table that is
+/// being taught.
+void CallForPosi(const std::function<void()>& hook) {
+  const bool active = !ActiveView() || ActiveView() == &frmPosi;
+  if (active && !AppState.TeachingNow) Call(hook);
+}
+
 void InstallEditAndViewMenus() {
   FrmMain& f = frmMain;
-  f.mnuEditCopy.Click = [] { Call(Hooks.PosiCopy); };
-  f.mnuEditPaste.Click = [] { Call(Hooks.PosiPaste); };
-  f.mnuEditInsert.Click = [] { Call(Hooks.PosiInsertLine); };
-  f.mnuEditLineDelete.Click = [] { Call(Hooks.PosiDeleteLine); };
+  f.mnuEditCopy.Click = [] { CallForPosi(Hooks.PosiCopy); };
+  f.mnuEditPaste.Click = [] { CallForPosi(Hooks.PosiPaste); };
+  f.mnuEditInsert.Click = [] { CallForPosi(Hooks.PosiInsertLine); };
+  f.mnuEditLineDelete.Click = [] { CallForPosi(Hooks.PosiDeleteLine); };
   f.mnuViewPosi.Click = [] { doors.forms->BringToFront(frmPosi); };
   f.mnuViewPara.Click = [] { Call(Hooks.ShowParameters); };
 }
@@ -125,6 +133,7 @@ void InstallFrame() {
   f.Timer1.Tick = PortLampHyoji;
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
+  Hooks.ActiveViewChanged = FollowActiveView;
 }
 
 }  // namespace tr7

@@ -24,6 +24,11 @@ void EnableTools(std::initializer_list<int> places, bool on) {
   for (int place : places) frmMain.tbToolBar.At(place).Enabled = on;
 }
 
+void SwitchSaveByActiveView() {
+  frmMain.mnuFileSave.Enabled = ActiveViewIs("frmPosi");
+  frmMain.mnuFileSaveAs.Enabled = ActiveViewIs("frmPosi") || ActiveViewIs("frmProg");
+}
+
 constexpr int kToolPrint = 5, kToolCut = 7, kToolPrgEdit = 11, kToolPrgExe = 12;
 
 }  // namespace
@@ -56,11 +61,18 @@ void Menyu_Yuko() {
   Enable({&f.mnuFile, &f.mnuFileNew, &f.mnuFileOpen, &f.mnuFileClose, &f.mnuFilePrint, &f.mnuView,
           &f.mnuSetting, &f.mnuWindow, &f.mnuHelp},
          true);
-  f.mnuFileSave.Enabled = ActiveViewIs("frmPosi");
-  f.mnuFileSaveAs.Enabled = ActiveViewIs("frmPosi") || ActiveViewIs("frmProg");
+  SwitchSaveByActiveView();
   f.mnuCont.Enabled = !AppState.Offline;
   f.mnuMonitor.Enabled = !AppState.Offline;
   SwitchOffUnbuiltCommands();
+}
+
+void FollowActiveView() {
+  FrmMain& f = frmMain;
+  if (!f.mnuFile.Enabled) return;  // a flow holds the commands off
+  SwitchSaveByActiveView();
+  Enable({&f.mnuEdit, &f.mnuEditCopy, &f.mnuEditPaste, &f.mnuEditInsert, &f.mnuEditLineDelete},
+         false);
 }
 
 void CTM_MukoSyori() {

@@ -16,6 +16,10 @@ void Menyu_Yuko();
 void CTM_MukoSyori();
 void CTM_YukoSyori();
 
+/// Another view is the active one: the file commands follow it, and the Edit commands rest until
+/// the view switches its own on.
+void FollowActiveView();
+
 /// Shows or hides and switches the commands that depend on the mode and on `Offline`.
 void ChangeMenuDisp(Bool16 mode);
 

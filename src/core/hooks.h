@@ -29,7 +29,9 @@ struct HookTable {
   std::function<void()> PosidataFileOpen, PosidataSaveToFile, PosiDataSaveAs, SinkiSakusei,
       PosiPrint;
   std::function<void()> PosidataGetfromCt, PosidataLoadtoCt, PosiDataCtShogo, PosiDataFileShogo2;
-  /// Edit commands of the active view, by view name.
+  /// Another view has become the one that the user works in: the frame's commands follow.
+  std::function<void()> ActiveViewChanged;
+  /// Edit commands of the position view.
   std::function<void()> PosiCopy, PosiPaste, PosiInsertLine, PosiDeleteLine;
   /// Offline device and parameter choice: 0 done, 1 failed.
   std::function<int()> Change_Device;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "core/hooks.h"
 #include "core/text.h"
 #include "forms/control.h"
 #include "platform/doors.h"
@@ -34,6 +35,7 @@ View* ActiveView() { return active_view; }
 void SetActiveView(View* view) {
   if (active_view == view) return;
   active_view = view;
+  Call(Hooks.ActiveViewChanged);
   if (view && view->Activate) view->Activate();
 }
 

@@ -114,7 +114,7 @@ void Tell(const Outcome& outcome) {
     const std::string number = std::to_string(PositionOfRow(outcome.first_row));
     text = Text(kMsgCellsRefused, std::to_string(outcome.refused),
                 Text(kMsgPlace, number, PosiColumnName(outcome.first_col))) +
-           RefusalText(outcome.first_col);
+           RefusalText(outcome.first_col) + " ";
   }
   if (outcome.lines_beyond > 0) text += Text(kMsgLinesBeyond, std::to_string(outcome.lines_beyond));
   if (!text.empty()) TellInStatusPanel(text);

@@ -261,7 +261,9 @@ int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble) {
 
 void ShowFileAges() {
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    frmPosi.lblAge[axis]->Caption = Text(DevSettei[axis].NewTypeWord == kNew ? 126 : 127);
+    const bool is_new = DevSettei[axis].NewTypeWord == kNew;
+    frmPosi.lblAge[axis]->Caption =
+        AppState.AxisMuko[axis] ? std::string() : Text(is_new ? 126 : 127);
   }
 }
 

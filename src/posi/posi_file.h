@@ -24,7 +24,7 @@ int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble);
 /// The same for the oldest layout: no mode, no words, 20 columns behind each number.
 int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble);
 
-/// Shows "(New)" or "(Old)" for each axis as the file read last says.
+/// Shows "(New)" or "(Old)" for each axis in use as the file read last says.
 void ShowFileAges();
 
 /// Saves positions `PosiFromNo` to `PosiToNo` but the bad lines, and on success names the table

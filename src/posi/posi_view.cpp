@@ -7,6 +7,7 @@
 #include "core/message_box.h"
 #include "core/settings.h"
 #include "core/text.h"
+#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
@@ -65,15 +66,17 @@ struct EditState {
 void SetEditCommands(const EditState& state) {
   FrmPosi& f = frmPosi;
   FrmMain& m = frmMain;
-  const auto set = [](Menu& menu, Menu& popup, CommandButton& button, bool on) {
-    button.Enabled = on && button.Click;
-    menu.Enabled = popup.Enabled = button.Enabled;
+  // The frame's own commands are those of the active view.
+  const bool active = !ActiveView() || ActiveView() == &frmPosi;
+  const auto set = [active](Menu& menu, Menu& popup, CommandButton& button, bool on) {
+    popup.Enabled = button.Enabled = on && button.Click;
+    if (active) menu.Enabled = button.Enabled;
   };
   set(m.mnuEditCopy, f.mnuPopupCopy, f.cmdPosiCopy, state.copy);
   set(m.mnuEditPaste, f.mnuPopupPaste, f.cmdPosiPaste, state.paste);
   set(m.mnuEditInsert, f.mnuPopupInsert, f.cmdInsertLine, state.insert);
   set(m.mnuEditLineDelete, f.mnuPopupLineDelete, f.cmdDeleteLine, state.erase);
-  m.mnuEdit.Enabled = state.copy || state.paste || state.insert || state.erase;
+  if (active) m.mnuEdit.Enabled = state.copy || state.paste || state.insert || state.erase;
 }
 
 /// What was copied here, or anywhere: a text that does not fit is told when it is pasted.
@@ -192,6 +195,7 @@ void InstallPosiView() {
     EditCMD_Muko();
   };
   f.CmdYuko = PosCMDBTN_Yuko;
+  f.Activate = EditCommandsBySelection;
   f.tabCmd.Click = f.tabCmdPrg.Click = ShowTab;
   f.flgdData.SelChange = SelectionChanged;
   InstallPosiEdit();
