@@ -6,8 +6,10 @@
 #include "tests/fuzz/device_list_target.h"
 #include "tests/fuzz/error_list_target.h"
 #include "tests/fuzz/para_file_target.h"
+#include "tests/fuzz/posi_file_target.h"
 #include "tests/fuzz/seq_file_target.h"
 #include "tests/fuzz/std_lists_target.h"
+#include "tests/fuzz/wire_target.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -19,10 +21,15 @@ TEST_F(FuzzCorpus, EveryFileRuns) {
   const struct {
     const char* folder;
     void (*run)(std::string_view);
-  } targets[] = {{"code_page", FuzzCodePage},     {"common_list", FuzzCommonList},
-                 {"device_list", FuzzDeviceList}, {"error_list", FuzzErrorList},
-                 {"para_file", FuzzParaFile},     {"seq_file", FuzzSeqFile},
-                 {"std_list", FuzzStdList}};
+  } targets[] = {{"code_page", FuzzCodePage},
+                 {"common_list", FuzzCommonList},
+                 {"device_list", FuzzDeviceList},
+                 {"error_list", FuzzErrorList},
+                 {"para_file", FuzzParaFile},
+                 {"posi_file", FuzzPosiFile},
+                 {"seq_file", FuzzSeqFile},
+                 {"std_list", FuzzStdList},
+                 {"wire", FuzzWire}};
   for (const auto& target : targets) {
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(

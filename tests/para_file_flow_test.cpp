@@ -141,7 +141,7 @@ TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
       {"\r\n5\r", "\r\n6\r", {failed + "\n\n" + Text(6451)}},
       {"\"ETC\",9", "\"ETC\",99", {failed + "\n\n" + Text(6150, "ETC")}},
       {" 28L100\"", " 28L100", {failed + "\n\n" + Text(6150, "AXIS")}},
-      {"\"HOME\",6,4\r\n400,", "\"HOME\",6,4\r\n1e,", {failed + "\n\n" + Text(6151, Text(6011))}}};
+      {"\"HOME\",6,4\r\n400,", "\"HOME\",6,4\r\n1e,", {failed + "\n\n" + Text(6151, "OFFSET")}}};
   f.txtHomeOffset[0].Text = "77";
   const ParamSetRecord before = ParamSet;
   for (const auto& row : rows) {

@@ -362,7 +362,7 @@ TEST_F(ParaForDevice, AnImpossibleValueChangesNothing) {
   const ParamSetRecord before = ParamSet;
   virt.files.Put(kPath, With(kLines, "\r\n134", "\r\n40000"));
   EXPECT_EQ(Open(1), 0) << "another attempt would read the same";
-  EXPECT_EQ(forms.LastBox(), Text(681) + "\n\n" + Text(6151, Text(6044)));
+  EXPECT_EQ(forms.LastBox(), Text(681) + "\n\n" + Text(6151, "PPUT Write"));
   EXPECT_TRUE(ParaFlags.ParaFileBad);
   EXPECT_EQ(ParamSet, before);
 }

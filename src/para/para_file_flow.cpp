@@ -7,6 +7,7 @@
 #include "core/message_box.h"
 #include "core/text.h"
 #include "core/wait.h"
+#include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_content.h"
 #include "para/para_file.h"
@@ -22,7 +23,6 @@ constexpr int kPauseMs = 100;
 
 constexpr int kMsgOpenFailed = 681;
 constexpr int kMsgBadValue = 6151;
-constexpr int kMsgRow1Name = 6011;  ///< then row by row, as in the parameter view
 
 std::optional<std::string> AskOpenPath() {
   FileDialogCall call;
@@ -62,7 +62,7 @@ int ReadFourTimes(const std::string& path) {
 int TakeOver() {
   if (TakeParamTable() == 0) return 0;
   ParaFlags.ParaFileBad = True;
-  ParaFlags.FileFaultText = Text(kMsgBadValue, Text(kMsgRow1Name + RefusedParaRow() - 1));
+  ParaFlags.FileFaultText = Text(kMsgBadValue, ParaRowName(RefusedParaRow()));
   return 1;
 }
 
