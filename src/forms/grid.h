@@ -62,6 +62,8 @@ struct Grid : Control {
   int TopRow = 0;              ///< first body row on show
   bool Redraw = true;          ///< false: painting waits
   std::uint64_t Revision = 0;
+  /// Columns share the width that the view has, each at least as wide as its longest text.
+  bool FitsView = false;
 
   // Rules that logic sets.
   std::function<bool(int row, int col)> CanEdit;

@@ -145,6 +145,7 @@ void ShowSyogoKekka(bool verify, const OtherSide& other) {
 void InstallResultView() {
   FrmSyogoKekka& f = frmSyogoKekka;
   f.Load = LoadResultView;
+  f.flgdKekka.FitsView = true;
   f.flgdKekka.CanEdit = [](int, int) { return false; };
   f.flgdKekka.IsMarked = IsFlaggedCell;
   f.cmdClose.Click = [] { frmSyogoKekka.Visible = false; };

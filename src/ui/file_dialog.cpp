@@ -1,6 +1,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include "core/text.h"
 #include "ui/binding.h"
@@ -35,6 +37,14 @@ void SetTexts(QFileDialog& dialog, const FileDialogCall& call) {
   dialog.setLabelText(QFileDialog::Reject, Q(Text(kCancelText)));
 }
 
+/// Names take the width that the other columns leave.
+void ShareColumns(QFileDialog& dialog) {
+  auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (!list) return;
+  list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 QString& LastFolder() {
   static QString folder = QDir::homePath();
   return folder;
@@ -67,6 +77,7 @@ std::optional<std::string> AskFile(const FileDialogCall& call, QWidget* parent,
   const QFileInfo proposed(Q(call.ProposedName));
   dialog.setDirectory(proposed.isAbsolute() ? proposed.absolutePath() : LastFolder());
   if (call.Save) dialog.selectFile(proposed.fileName());
+  ShareColumns(dialog);
   dialog.resize(kDialogSize);
   for (;;) {
     dialog.show();

@@ -111,6 +111,7 @@ void GridTable::PushWidths() {
 /// Widths follow the screen's scale and the size of the font, so that no text is cut.
 void GridTable::FillWidth() {
   if (!grid_ || shown_widths_.empty()) return;
+  if (grid_->FitsView) return ShareWidth();
   const double scale = std::max(fontMetrics().horizontalAdvance('0') / kDesignDigit, 1.0);
   const auto scaled = [scale](int twips) { return qRound(Pixels(twips) * scale); };
   int used = 0, rest_col = -1;
@@ -129,6 +130,33 @@ void GridTable::FillWidth() {
   if (rest_col >= 0) {
     header_->resizeSection(rest_col,
                            std::max(viewport()->width() - used, scaled(kRestWidthAtLeast)));
+  }
+}
+
+int GridTable::TextWidth(int col) const {
+  constexpr int kBeside = 10;
+  int widest = 0;
+  for (int row = 0; row < grid_->Rows(); ++row) {
+    // The titles above stand over several columns.
+    if (row + 1 < grid_->FixedRows) continue;
+    widest = std::max(widest, fontMetrics().horizontalAdvance(Q(grid_->Text(row, col))));
+  }
+  return widest + kBeside;
+}
+
+void GridTable::ShareWidth() {
+  int total = 0;
+  for (int col = 0; col < grid_->Cols(); ++col) total += std::max(grid_->ColWidth(col), 0);
+  if (total == 0) return;
+  const int field =
+      viewport()->width() + (verticalHeader()->isVisible() ? verticalHeader()->width() : 0);
+  const auto share = [&](int col) {
+    return std::max(field * grid_->ColWidth(col) / total, TextWidth(col));
+  };
+  if (grid_->FixedCols > 0) verticalHeader()->setFixedWidth(share(0));
+  for (int col = grid_->FixedCols; col < grid_->Cols(); ++col) {
+    header_->setSectionHidden(col - grid_->FixedCols, grid_->ColWidth(col) == 0);
+    if (grid_->ColWidth(col) > 0) header_->resizeSection(col - grid_->FixedCols, share(col));
   }
 }
 

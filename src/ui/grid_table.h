@@ -75,6 +75,8 @@ class GridTable : public QTableView {
   void PaintCorner();
   void PushWidths();
   void FillWidth();
+  void ShareWidth();
+  int TextWidth(int col) const;
   void PushScroll();
   int BodyRow(int section) const { return section + grid_->FixedRows; }
   QModelIndex IndexOf(int row, int col) const;

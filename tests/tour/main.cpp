@@ -6,10 +6,12 @@
 #include <QDir>
 #include <QProcess>
 #include <QThread>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <memory>
+#include <semaphore>
 
 #include "core/install_views.h"
 #include "core/main_entry.h"
@@ -20,6 +22,8 @@
 
 namespace tr7::tour {
 namespace {
+
+constexpr std::chrono::seconds kUntilEnded(20);
 
 struct Arguments {
   QString sim;
@@ -103,9 +107,11 @@ int RunSession(const Session& session, const Arguments& arguments) {
   User user(desktop.forms, arguments.folder, session.name, first);
   Tour tour{user, sim, arguments.folder};
   bool finished = false;
+  std::binary_semaphore ended(0);
   const std::unique_ptr<QThread> script(QThread::create([&] {
     try {
       session.script(tour);
+      if (!ended.try_acquire_for(kUntilEnded)) throw TourFailure("the tool does not end");
       finished = true;
     } catch (const TourFailure& failure) {
       Fail(user, failure.what());
@@ -114,6 +120,7 @@ int RunSession(const Session& session, const Arguments& arguments) {
   script->start();
   Main();
   if (!desktop.forms.Ended()) QApplication::exec();
+  ended.release();
   script->wait();
   return finished ? EXIT_SUCCESS : EXIT_FAILURE;
 }

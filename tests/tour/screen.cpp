@@ -24,6 +24,11 @@ QString Described(const QWidget& widget) {
   return QString("%1 \"%2\"").arg(widget.metaObject()->className(), widget.objectName());
 }
 
+/// A click brings its window to the front; where there is no window manager, nobody else does it.
+void Activate(const QWidget& widget) {
+  if (QGuiApplication::focusWindow() != &WindowOf(widget)) widget.window()->activateWindow();
+}
+
 template <typename Kind>
 Kind* OpenDialogOf() {
   return qobject_cast<Kind*>(FrontDialog());
@@ -44,10 +49,12 @@ QString WhyNotReachable(const QWidget& widget, const QPoint& at) {
 }
 
 void ClickAt(QWidget& widget, const QPoint& at) {
+  Activate(widget);
   QTest::mouseClick(&WindowOf(widget), Qt::LeftButton, Qt::NoModifier, InWindow(widget, at));
 }
 
 void DoubleClickAt(QWidget& widget, const QPoint& at) {
+  Activate(widget);
   QTest::mouseDClick(&WindowOf(widget), Qt::LeftButton, Qt::NoModifier, InWindow(widget, at));
 }
 

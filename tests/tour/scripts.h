@@ -11,4 +11,9 @@ void FirstLook(Tour& tour);
 /// The same windows in Japanese.
 void JapaneseLook(Tour& tour);
 
+/// The day of a position table: read, edit, check, save, write, verify, open again.
+void MainJob(Tour& tour);
+/// The same in short with a controller in program mode.
+void ProgramModeJob(Tour& tour);
+
 }  // namespace tr7::tour

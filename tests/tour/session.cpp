@@ -13,6 +13,8 @@ const char* const kEnglish = "Language=2";
 const std::vector<Session>& Sessions() {
   static const std::vector<Session> kSessions{
       {"en", {kEnglish}, {}, FirstLook},
+      {"job", {kEnglish}, {}, MainJob},
+      {"prg", {kEnglish}, {"--mode", "prg"}, ProgramModeJob},
       {"ja", {kJapanese}, {}, JapaneseLook},
   };
   return kSessions;

@@ -164,11 +164,21 @@ void User::DoubleClickCell(Grid& grid, int row, int col) {
   PressCell(grid, row, col, DoubleClickAt);
 }
 
+/// Keys go to the window that has the focus, or to a popup.
+void User::SeeFocus() {
+  See("the focus", [] {
+    return QGuiApplication::focusWindow() != nullptr ||
+           QApplication::activePopupWidget() != nullptr;
+  });
+}
+
 void User::Keys(const std::string& text) {
+  SeeFocus();
   Act([typed = QString::fromStdString(text)] { TypeText(typed); });
 }
 
 void User::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  SeeFocus();
   Act([key, modifiers] { PressKey(key, modifiers); });
 }
 
@@ -247,6 +257,20 @@ void User::SeeCell(Grid& grid, int row, int col, const std::string& text) {
     if (!table || !table->isVisible()) return false;
     const auto at = table->model()->index(row - grid.FixedRows, col - grid.FixedCols);
     return table->model()->data(at).toString() == QString::fromStdString(text);
+  });
+}
+
+void User::SeeCellEditor(Grid& grid, const std::string& text) {
+  See("the editor of " + NameOf(grid) + " with \"" + text + "\"", [this, &grid, text] {
+    const auto* table = qobject_cast<const GridTable*>(WidgetOf(grid));
+    return table && table->IsEditing() && table->Editor()->text() == QString::fromStdString(text);
+  });
+}
+
+void User::SeeTitle(View& view, const std::string& title) {
+  See("the title \"" + title + "\"", [this, &view, title] {
+    const BoundView* bound = forms_.Find(view);
+    return bound && bound->Window().windowTitle() == QString::fromStdString(title);
   });
 }
 

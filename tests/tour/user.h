@@ -53,6 +53,9 @@ class User {
   /// A label, button, field or list says this somewhere in its text.
   void SeeText(Control& control, const std::string& part);
   void SeeCell(Grid& grid, int row, int col, const std::string& text);
+  /// The grid's cell editor is open and holds this.
+  void SeeCellEditor(Grid& grid, const std::string& text);
+  void SeeTitle(View& view, const std::string& title);
   /// The status bar's panel says this.
   void SeePanel(int panel, const std::string& part, int within_ms = kSoonMs);
   /// A box with this text is in front.
@@ -72,6 +75,7 @@ class User {
   using Press = void (*)(QWidget&, const QPoint&);
 
   void ClickPlace(const std::string& what, const Place& place, Press press = nullptr);
+  void SeeFocus();
   QWidget* WidgetOf(const Control& control) const;
   void PressCell(Grid& grid, int row, int col, Press press);
 
