@@ -208,7 +208,12 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
   no_number.replace(no_number.find("\r\n2,") + 2, 1, "1000");
   file.mode = AppState.CtMode ? "POS MODE" : "PRG MODE";
   const std::string otherwise = other("QV- 28H-200_");
-  const auto break_list = [&] { virt.files.Put("/program/tr7nqvstpr.lst", "\"QV-R8\""); };
+  // The list lacks the device, which shows only after the common values have been taken.
+  const auto short_list = [&] {
+    virt.files.Put("/program/tr7nqvstpr.lst",
+                   "\"QV-R7\",\"QV-STDPRM\"\r\n1,13\r\n"
+                   "\" 20L-010\",192,40,10,5,5,1,960,2,192,15,0,\" 20L010\"\r\n");
+  };
   const auto no_para = [&] { forms.file_answers = {std::nullopt}; };
   const auto bad_para = [&] {
     virt.files.Put(kParaPath, "\"QV-R7\",\"PRM\"\r\n1\r\n\"ETC\"\r\n");
@@ -229,7 +234,7 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
       {"no device name", other("ROBOT"), Text(4) + "\n" + Text(5)},
       {"unknown device", other("QV- 28L-333_"), Text(4) + "\n" + Text(5)},
       {"choice cancelled", otherwise, Text(367), -1},
-      {"no standard list", otherwise, Text(36), 1, break_list},
+      {"no standard parameters", otherwise, Text(36), 1, short_list},
       {"no parameter file chosen", otherwise, Text(367), 2, no_para},
       {"parameter file damaged", otherwise, Text(681), 2, bad_para},
   };
