@@ -65,6 +65,7 @@ struct TextBox : Control {
   std::string AllowedChars;    ///< keys that are taken beside Backspace and Tab; empty: all
   bool InputMethodOff = true;  ///< number fields switch the input method off
   std::function<void()> Change;
+  std::function<void()> GotFocus;
   std::function<void()> LostFocus;
   std::function<void()> Enter;  ///< the Enter key
   /// Types a text as a user does: replaces the content by what the field takes of it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFocusEvent>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -31,6 +32,15 @@ class Binding {
     return true;
   }
 };
+
+/// True for a focus event of this type that the user has caused inside the window: a menu, a list
+/// that drops down and another window take the focus only for a while.
+inline bool FocusMoves(const QEvent& event, QEvent::Type type) {
+  if (event.type() != type) return false;
+  const auto reason = static_cast<const QFocusEvent&>(event).reason();
+  return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
+         reason != Qt::MenuBarFocusReason;
+}
 
 inline QString Q(const std::string& text) { return QString::fromStdString(text); }
 

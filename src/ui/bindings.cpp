@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -15,6 +14,7 @@
 #include <QTabBar>
 #include <vector>
 
+#include "ui/combo_box_binding.h"
 #include "ui/command_bindings.h"
 #include "ui/grid_table.h"
 #include "ui/label_binding.h"
@@ -123,28 +123,6 @@ class OptionButtonBinding : public ButtonBinding {
  private:
   OptionButton& record_;
   QButtonGroup& group_;
-};
-
-class ComboBoxBinding : public WidgetBinding {
- public:
-  ComboBoxBinding(ComboBox& record, QComboBox& combo)
-      : WidgetBinding(record, combo), record_(record), combo_(combo) {
-    QObject::connect(&combo, &QComboBox::activated, &combo,
-                     [&record](int index) { record.Pick(index); });
-  }
-  void Push() override {
-    WidgetBinding::Push();
-    if (Changed(list_, record_.List)) {
-      combo_.clear();
-      for (const std::string& entry : record_.List) combo_.addItem(Q(entry));
-    }
-    if (combo_.currentIndex() != record_.ListIndex) combo_.setCurrentIndex(record_.ListIndex);
-  }
-
- private:
-  ComboBox& record_;
-  QComboBox& combo_;
-  std::optional<std::vector<std::string>> list_;
 };
 
 class ListBoxBinding : public QObject, public WidgetBinding {

@@ -3,19 +3,21 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QValidator>
+#include <algorithm>
 #include <limits>
 
 namespace tr7 {
 namespace {
 
-/// Drops the characters that the field does not take.
+/// Drops the characters that the field does not take when they are typed or pasted. What logic sets
+/// is shown as it is.
 class AllowedCharsValidator : public QValidator {
  public:
-  AllowedCharsValidator(const TextBox& record, QObject* parent)
-      : QValidator(parent), record_(record) {}
+  AllowedCharsValidator(const TextBox& record, const bool& pushing, QObject* parent)
+      : QValidator(parent), record_(record), pushing_(pushing) {}
 
   State validate(QString& text, int& cursor) const override {
-    if (record_.AllowedChars.empty()) return Acceptable;
+    if (pushing_ || record_.AllowedChars.empty()) return Acceptable;
     const QString allowed = Q(record_.AllowedChars);
     for (int i = text.size() - 1; i >= 0; --i) {
       if (allowed.contains(text[i])) continue;
@@ -27,7 +29,16 @@ class AllowedCharsValidator : public QValidator {
 
  private:
   const TextBox& record_;
+  const bool& pushing_;
 };
+
+/// Blanks that pad a number to its width are not drawn: they would take the room of its digits.
+QString Shown(const TextBox& record) {
+  const QString text = Q(record.Text);
+  const bool takes_blanks =
+      record.AllowedChars.empty() || record.AllowedChars.find(' ') != std::string::npos;
+  return takes_blanks ? text : text.trimmed();
+}
 
 constexpr int kNoLimit = 32767;
 
@@ -35,7 +46,7 @@ constexpr int kNoLimit = 32767;
 
 TextBoxBinding::TextBoxBinding(TextBox& record, QLineEdit& edit)
     : WidgetBinding(record, edit), record_(record), edit_(edit) {
-  edit.setValidator(new AllowedCharsValidator(record, &edit));
+  edit.setValidator(new AllowedCharsValidator(record, pushing_, &edit));
   edit.installEventFilter(this);
   QObject::connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
     text_ = text.toStdString();
@@ -47,10 +58,13 @@ TextBoxBinding::TextBoxBinding(TextBox& record, QLineEdit& edit)
 void TextBoxBinding::Push() {
   pushing_ = true;
   WidgetBinding::Push();
-  if (Changed(max_length_, record_.MaxLength)) {
-    edit_.setMaxLength(record_.MaxLength > 0 ? record_.MaxLength : kNoLimit);
+  // A text that logic has set is shown whole, also where it is longer than what can be typed.
+  const QString text = Shown(record_);
+  const int limit = record_.MaxLength > 0 ? record_.MaxLength : kNoLimit;
+  if (Changed(max_length_, std::max(limit, static_cast<int>(text.size())))) {
+    edit_.setMaxLength(*max_length_);
   }
-  if (Changed(text_, record_.Text)) edit_.setText(Q(record_.Text));
+  if (Changed(text_, record_.Text)) edit_.setText(text);
   if (Changed(input_method_off_, record_.InputMethodOff)) {
     edit_.setAttribute(Qt::WA_InputMethodEnabled, !record_.InputMethodOff);
   }
@@ -79,10 +93,8 @@ void TextBoxBinding::OnFocusOut() {
 bool TextBoxBinding::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && OnKey(*event)) return true;
   const bool done = QObject::eventFilter(watched, event);
-  if (event->type() == QEvent::FocusOut) {
-    const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) OnFocusOut();
-  }
+  if (FocusMoves(*event, QEvent::FocusIn) && record_.GotFocus) record_.GotFocus();
+  if (FocusMoves(*event, QEvent::FocusOut)) OnFocusOut();
   return done;
 }
 

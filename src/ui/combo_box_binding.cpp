@@ -1,0 +1,38 @@
+#include "ui/combo_box_binding.h"
+
+#include <QTimer>
+
+namespace tr7 {
+
+ComboBoxBinding::ComboBoxBinding(ComboBox& record, QComboBox& combo)
+    : WidgetBinding(record, combo), record_(record), combo_(combo) {
+  combo.installEventFilter(this);
+  QObject::connect(&combo, &QComboBox::activated, this, [this](int index) { record_.Pick(index); });
+}
+
+void ComboBoxBinding::Push() {
+  pushing_ = true;
+  WidgetBinding::Push();
+  if (Changed(list_, record_.List)) {
+    combo_.clear();
+    for (const std::string& entry : record_.List) combo_.addItem(Q(entry));
+  }
+  if (combo_.currentIndex() != record_.ListIndex) combo_.setCurrentIndex(record_.ListIndex);
+  pushing_ = false;
+}
+
+bool ComboBoxBinding::eventFilter(QObject* watched, QEvent* event) {
+  const bool done = QObject::eventFilter(watched, event);
+  if (!FocusMoves(*event, QEvent::FocusOut) || !record_.LostFocus) return done;
+  if (!pushing_) {
+    record_.LostFocus();
+  } else {
+    // The focus went because of what is being drawn: the handler waits until that is done.
+    QTimer::singleShot(0, this, [this] {
+      if (record_.LostFocus) record_.LostFocus();
+    });
+  }
+  return done;
+}
+
+}  // namespace tr7
