@@ -122,9 +122,10 @@ TEST_F(ParaShow, PulsesFinerThanAMicrometreKeepTheirCount) {
 TEST_F(ParaShow, WithoutLeadAndPulseThereIsNoMm) {
   ParamSet.AxisLead[0] = ParamSet.AxisPulse[1] = 0;
   ParametaHyoji();
-  for (std::size_t axis : {0u, 1u}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, axis ? "" : "  0.000");
+  for (std::size_t axis : {0u, 1u}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, "");
   f.txtAxisMmStroke[1].Text = "55";
   TorikomiParametaValue();
+  EXPECT_EQ(ParamSet.AxisStroke[0], 20000);
   EXPECT_EQ(ParamSet.AxisStroke[1], 20000);  // nothing can be converted: both stay
   EXPECT_EQ(f.txtAxisMmStroke[1].Text, "55");
 }

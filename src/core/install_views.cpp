@@ -12,6 +12,8 @@
 #include "para/device_texts.h"
 #include "para/device_write.h"
 #include "para/para_after_device.h"
+#include "para/para_view.h"
+#include "para/stroke_calc.h"
 #include "para/take_ct_device.h"
 #include "posi/device_change.h"
 #include "posi/posi_flows.h"
@@ -45,6 +47,8 @@ void InstallViews() {
   InstallDeviceChoice();
   InstallDeviceWrite();
   InstallChangeDevice();
+  InstallParaView();
+  InstallStrokeCalc();
   Hooks.TakeDevFromCt = TakeDevFromCt;
   Hooks.RebuildPosiView = RebuildPosiViewKeepingEdits;
   Hooks.PositionsFollowDevices = [] { PositionsFollowDevices(); };

@@ -135,6 +135,7 @@ struct FrmParameta2 : View {
   /// What the fields held when they last agreed with a file or the controller.
   std::string SavedContent;
   bool CommandsAreOff = false;        ///< a flow runs: fields and buttons are off
+  bool RefusalShown = false;          ///< the status bar tells why a field was emptied
   std::array<bool, 4> LiveColumns{};  ///< columns that show an axis
 };
 

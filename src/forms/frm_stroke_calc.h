@@ -30,6 +30,8 @@ struct FrmStrokeCalc : View {
   OptionGroup<4> optInputSaki{*this, "optInputSaki", 2, {220, 221, 222, 223}};
   CommandButton cmdInputStroke{*this, "cmdInputStroke", 6091};
   CommandButton cmdClose{*this, "cmdClose", 2202};
+
+  Control* NextFocus = nullptr;  ///< where the focus goes once a result was entered
 };
 
 extern FrmStrokeCalc frmStrokeCalc;

@@ -62,9 +62,12 @@ const std::vector<ParaOptionField>& ParaOptionFields() {
 
 const std::vector<ParaMmField>& ParaMmFields() {
   static const std::vector<ParaMmField> fields = {
-      {kRowStroke, &F::txtAxisMmStroke, &F::txtAxisStroke, &Set::MmStroke, &Set::MmStrokeText},
-      {kRowZone1, &F::txtMmZone1, &F::txtZoneSet1, &Set::MmZone1, &Set::MmZone1Text},
-      {kRowZone2, &F::txtMmZone2, &F::txtZoneSet2, &Set::MmZone2, &Set::MmZone2Text},
+      {kRowStroke, &F::lblAxisMmStroke, &F::txtAxisMmStroke, &F::txtAxisStroke, &Set::MmStroke,
+       &Set::MmStrokeText},
+      {kRowZone1, &F::lblMmZone1, &F::txtMmZone1, &F::txtZoneSet1, &Set::MmZone1,
+       &Set::MmZone1Text},
+      {kRowZone2, &F::lblMmZone2, &F::txtMmZone2, &F::txtZoneSet2, &Set::MmZone2,
+       &Set::MmZone2Text},
   };
   return fields;
 }

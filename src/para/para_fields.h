@@ -55,6 +55,7 @@ const std::vector<ParaOptionField>& ParaOptionFields();
 /// A length in mm beside its field in pulses.
 struct ParaMmField {
   int Row;
+  Label FrmParameta2::*Name;
   PerAxis<TextBox> FrmParameta2::*Mm;
   PerAxis<TextBox> FrmParameta2::*Pulses;
   ParamSetRecord::PerAxis<double> ParamSetRecord::*Value;

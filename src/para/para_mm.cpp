@@ -11,8 +11,10 @@ namespace {
 double Lead(std::size_t axis) { return Val(frmParameta2.txtAxisLead[axis].Text); }
 double Ppr(std::size_t axis) { return Val(frmParameta2.txtAxisPulse[axis].Text); }
 
-/// What the mm field shows for this many pulses; empty without a conversion.
+/// What the mm field shows for this many pulses; empty without a conversion. A lead of 0 would make
+/// every length 0.
 std::string MmTextOfPulses(std::size_t axis, double pulses) {
+  if (Lead(axis) == 0) return {};
   const auto mm = PulseToMm(Lead(axis), Ppr(axis), pulses);
   return mm ? ParaMmText(*mm) : std::string();
 }

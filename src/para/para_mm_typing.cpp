@@ -1,0 +1,110 @@
+#include "para/para_mm_typing.h"
+
+#include <cmath>
+#include <string>
+
+#include "core/message_box.h"
+#include "core/text_helpers.h"
+#include "para/para_hint.h"
+#include "para/para_mm.h"
+#include "posi/unit_conversion.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kMmChars = "0123456789.";
+constexpr double kMaxPulses = 262143;
+
+bool IsEmpty(const TextBox& box) { return Trim(box.Text).empty(); }
+
+bool IsZone(const ParaMmField& field) { return field.Row != kRowStroke; }
+
+const TextBox& StrokeBox(std::size_t axis) { return frmParameta2.txtAxisMmStroke[axis]; }
+
+double WholeStroke(std::size_t axis) { return std::trunc(Val(StrokeBox(axis).Text)); }
+
+/// Nothing while the length has no bound yet.
+std::string RangeOf(const ParaMmField& field, std::size_t axis) {
+  if (IsZone(field)) {
+    return IsEmpty(StrokeBox(axis)) ? "" : ParaRangeText("0", PlainDecimal(WholeStroke(axis)));
+  }
+  if (!HasLeadAndPulse(axis)) return {};
+  const auto longest = PulseToMm(Val(frmParameta2.txtAxisLead[axis].Text),
+                                 Val(frmParameta2.txtAxisPulse[axis].Text), kMaxPulses);
+  return longest ? ParaRangeText("0", FormatMm(*longest)) : std::string();
+}
+
+std::string NameOf(const ParaMmField& field, std::size_t axis) {
+  return frmParameta2.lblAxis[axis].Caption + " " + (frmParameta2.*field.Name).Caption;
+}
+
+/// What the length needs before it can be taken; a message and an empty field without it.
+bool HasInputs(const ParaMmField& field, std::size_t axis) {
+  if (!HasLeadAndPulse(axis)) {
+    MsgBox(TwoLines(694, 695));
+  } else if (IsZone(field) && IsEmpty(StrokeBox(axis))) {
+    MsgBox(TwoLines(696, 697));
+  } else {
+    return true;
+  }
+  field.MmBox(axis).Text.clear();
+  return false;
+}
+
+bool IsInRange(const ParaMmField& field, std::size_t axis) {
+  if (!IsZone(field)) return true;
+  const double mm = CutMmText(field.MmBox(axis).Text);
+  return mm >= 0 && mm <= WholeStroke(axis);
+}
+
+void MmLeft(const ParaMmField& field, std::size_t axis) {
+  if (!IsLiveAxis(axis)) return;
+  TextBox& box = field.MmBox(axis);
+  if (!IsEmpty(box) && HasInputs(field, axis) &&
+      !(IsInRange(field, axis) && RoundParaMm(field, axis, MmTie::AsUserChose))) {
+    field.PulseBox(axis).Text.clear();
+    RefuseParaField(box, NameOf(field, axis), RangeOf(field, axis));
+    return;
+  }
+  ParaFieldLeft();
+}
+
+/// A length that is deleted leaves no pulses behind.
+void MmTyped(const ParaMmField& field, std::size_t axis) {
+  if (IsEmpty(field.MmBox(axis))) field.PulseBox(axis).Text.clear();
+}
+
+void InstallField(const ParaMmField& field, std::size_t axis) {
+  TextBox& box = field.MmBox(axis);
+  box.MaxLength = kParaMmChars;
+  box.AllowedChars = kMmChars;
+  box.Change = [&field, axis] { MmTyped(field, axis); };
+  box.GotFocus = [&field, axis] { ParaFieldEntered(RangeOf(field, axis)); };
+  box.LostFocus = [&field, axis] { MmLeft(field, axis); };
+}
+
+}  // namespace
+
+void LengthsFollowScale(std::size_t axis) {
+  if (!HasLeadAndPulse(axis)) return;
+  for (const ParaMmField& field : ParaMmFields()) {
+    if (IsEmpty(field.MmBox(axis))) {
+      ShowMmOfPulses(field, axis);
+    } else {
+      ShowPulsesOfMm(field, axis);
+    }
+  }
+}
+
+void InstallParaMmTyping() {
+  for (const ParaMmField& field : ParaMmFields()) {
+    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+      InstallField(field, axis);
+      if (!IsZone(field)) {
+        field.PulseBox(axis).Change = [&field, axis] { ShowMmOfPulses(field, axis); };
+      }
+    }
+  }
+}
+
+}  // namespace tr7

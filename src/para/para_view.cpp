@@ -1,0 +1,131 @@
+#include "para/para_view.h"
+
+#include "core/app_state.h"
+#include "core/hooks.h"
+#include "core/message_box.h"
+#include "core/text.h"
+#include "core/views.h"
+#include "para/dev_setting.h"
+#include "para/device_list.h"
+#include "para/para_actuator.h"
+#include "para/para_axis_show.h"
+#include "para/para_columns.h"
+#include "para/para_content.h"
+#include "para/para_file_flow.h"
+#include "para/para_hint.h"
+#include "para/para_show.h"
+#include "para/para_sp.h"
+#include "para/para_typing.h"
+#include "para/stroke_calc.h"
+#include "platform/doors.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgSaveBeforeClose = 6067;
+constexpr int kMsgSaveBeforeOpen = 6450;
+
+/// The lists of the axes in use, as far as they are not in memory yet. A missing file is told once.
+void ReadDeviceLists() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (!IsLiveAxis(axis) || DeviceList[axis].RowCount > 0) continue;
+    const bool is_new = DevSetting[axis].NotChosen || DevSetting[axis].NewType;
+    const int number = static_cast<int>(axis);
+    if ((is_new ? ReadDeviceListNewAxis(number) : ReadDeviceListOldAxis(number)) != 0) return;
+  }
+}
+
+void ClearFields() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) ClearParaAxis(axis);
+  for (const ParaTextField& field : ParaTextFields()) {
+    if (!IsAxisRow(field.Row)) ParaControl(field.Place, 0).Text.clear();
+  }
+  for (const ParaOptionField& field : ParaOptionFields()) (frmParameta2.*field.Place).Clear();
+}
+
+/// Before any parameters are known the fields are empty, not full of zeros.
+bool ParametersAreKnown() { return ParamSet != ParamSetRecord{}; }
+
+void LoadView() {
+  FrmParameta2& f = frmParameta2;
+  f.CommandsAreOff = AppState.CommandsOffDepth > 0;
+  f.chkTokuParaChange.Value = false;
+  f.RefusalShown = false;
+  f.LiveColumns.fill(false);
+  ParaFlags.ShownAxisCount = 0;
+  ReadDeviceLists();
+  ClearFields();
+  FillParaLists();
+  if (ParametersAreKnown()) {
+    ParametaHyoji();
+  } else {
+    SettleParaColumns();
+  }
+  MarkParaSaved();
+}
+
+void UnloadParaView() {
+  ParaFlags.ShownAxisCount = 0;
+  ParaFieldLeft();
+}
+
+/// Offers to save what has been changed. True when nothing stands in the way of losing it.
+bool MayDropChanges(int message_id) {
+  if (!frmParameta2.Loaded || !ParaIsChanged()) return true;
+  switch (MsgBox(Text(message_id), MsgButtons::YesNoCancel, MsgIcon::Question)) {
+    case MsgAnswer::Yes:
+      return SaveParaToFile() == 0;
+    case MsgAnswer::No:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool QueryUnloadView(CloseReason) {
+  return frmParameta2.CommandsAreOff || !MayDropChanges(kMsgSaveBeforeClose);
+}
+
+void OpenParameters() {
+  if (MayDropChanges(kMsgSaveBeforeOpen)) OpenParaFile();
+}
+
+void ShowParameters() {
+  if (frmParameta2.Visible) {
+    doors.forms->BringToFront(frmParameta2);
+  } else {
+    ShowView(frmParameta2);
+  }
+}
+
+void CommandsGoOff() {
+  frmParameta2.CommandsAreOff = true;
+  EnableParaControls();
+}
+
+void CommandsComeOn() {
+  frmParameta2.CommandsAreOff = false;
+  SettleParaColumns();  // the flow may have brought other axes
+}
+
+}  // namespace
+
+void InstallParaView() {
+  FrmParameta2& f = frmParameta2;
+  f.Load = LoadView;
+  f.Unload = UnloadParaView;
+  f.QueryUnload = QueryUnloadView;
+  f.CmdMuko = CommandsGoOff;
+  f.CmdYuko = CommandsComeOn;
+  f.cmdIniPrm.Click = [] { Call(Hooks.IniPrm); };
+  f.cmdCalculate.Click = ShowStrokeCalc;
+  f.cmdReadParaFile.Click = OpenParameters;
+  f.cmdSaveParaFile.Click = [] { SaveParaToFile(); };
+  f.cmdClose.Click = [] { CloseView(frmParameta2, CloseReason::Code); };
+  InstallParaTyping();
+  InstallParaSp();
+  InstallActuatorLists();
+  Hooks.ShowParameters = ShowParameters;
+}
+
+}  // namespace tr7
