@@ -207,6 +207,9 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
   std::string no_number = Bytes(own);
   no_number.replace(no_number.find("\r\n2,") + 2, 1, "1000");
   file.mode = AppState.CtMode ? "POS MODE" : "PRG MODE";
+  FileText none = own;
+  none.devices.fill("");
+  const std::string no_device = Bytes(none);
   const std::string otherwise = other("QV- 28H-200_");
   // The list lacks the device, which shows only after the common values have been taken.
   const auto short_list = [&] {
@@ -233,6 +236,7 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
       {"other mode", Bytes(file), Text(330) + "\n" + Text(331)},
       {"no device name", other("ROBOT"), Text(4) + "\n" + Text(5)},
       {"unknown device", other("QV- 28L-333_"), Text(4) + "\n" + Text(5)},
+      {"no device on any axis", no_device, Text(4) + "\n" + Text(5), 1},
       {"choice cancelled", otherwise, Text(367), -1},
       {"no standard parameters", otherwise, Text(36), 1, short_list},
       {"no parameter file chosen", otherwise, Text(367), 2, no_para},

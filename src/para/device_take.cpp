@@ -23,20 +23,25 @@ void TakeNewType() {
 
 }  // namespace
 
-int TakeDevicesOfParam() {
-  const auto devices = DevSetting;
-  const auto strokes = AppState.StrokePulse;
+int TakeDeviceFieldsOfParam() {
   // What a controller reported earlier says nothing of devices chosen here, so type and PG come
   // from the choice.
   CtDev.fill(CtDeviceRecord{});
   TakeDevFromParam2();
   ParaFlags.ShownAxisCount = 0;
-  if (!EveryAxisHasADevice()) {
+  if (!EveryAxisHasADevice()) return 1;
+  TakeNewType();
+  return 0;
+}
+
+int TakeDevicesOfParam() {
+  const auto devices = DevSetting;
+  const auto strokes = AppState.StrokePulse;
+  if (TakeDeviceFieldsOfParam() != 0) {
     DevSetting = devices;
     AppState.StrokePulse = strokes;
     return 1;
   }
-  TakeNewType();
   SaveDevSetting();
   Call(Hooks.RecalcLimits);
   Call(Hooks.PositionsFollowDevices);

@@ -7,4 +7,9 @@ namespace tr7 {
 /// stay as they were then, and the caller puts the axes back.
 int TakeDevicesOfParam();
 
+/// The first half of it: axes, devices and strokes alone, with nothing stored or shown. What a
+/// controller reported earlier counts no more. 0; 1 when an axis has no device text, and then they
+/// are half taken: the caller puts them back.
+int TakeDeviceFieldsOfParam();
+
 }  // namespace tr7

@@ -7,11 +7,13 @@
 #include "core/message_box.h"
 #include "core/selection.h"
 #include "core/text.h"
+#include "forms/frm_parameta2.h"
 #include "para/dev_setting_store.h"
 #include "para/device_names.h"
+#include "para/device_take.h"
 #include "para/para_file_flow.h"
+#include "para/para_show.h"
 #include "para/std_lists.h"
-#include "para/take_param_device.h"
 #include "posi/posi_check.h"
 
 namespace tr7 {
@@ -32,6 +34,11 @@ bool TakeAxesOfFile() {
   return AppState.AxisMukoOfFile != AppState.AxisMuko;
 }
 
+std::int16_t AxesInUse() {
+  const auto& muko = AppState.AxisMuko;
+  return static_cast<std::int16_t>(std::count(muko.begin(), muko.end(), False));
+}
+
 bool TellNotSelected() {
   MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
   return false;
@@ -42,28 +49,17 @@ bool TellStopped() {
   return false;
 }
 
-/// Axes, lead, pulses per turn and stroke as the parameters have them. What a controller reported
-/// earlier says nothing of these devices.
-bool TakeDevicesOfParam() {
-  CtDev.fill(CtDeviceRecord{});
-  TakeDevFromParam2();
-  ParaFlags.ShownAxisCount = 0;
-  return EveryAxisHasADevice() || TellNotSelected();
-}
-
 /// The file's devices come into use with their standard parameters.
 bool TakeDevicesOfFile() {
   AppState.AxisMuko = AppState.AxisMukoOfFile;
-  const auto absent = [](Bool16 muko) { return static_cast<bool>(muko); };
-  if (std::all_of(AppState.AxisMuko.begin(), AppState.AxisMuko.end(), absent)) {
-    return TellNotSelected();
-  }
+  if (AxesInUse() == 0) return TellNotSelected();
   // Once more: the names of axes that were not in use had been passed over.
   if (ParseDeviceNames() != 0) return false;
   ReflectFileDevice2PcDevice();
   ParaFlags.AxisMaskFixed = False;
   const auto of_file = DevSettei;
-  if (IniParaFromStd() != 0 || !TakeDevicesOfParam()) return false;
+  if (IniParaFromStd() != 0) return false;
+  if (TakeDeviceFieldsOfParam() != 0) return TellNotSelected();
   // Type, PG and vertical are the file's, whatever the standard parameters say.
   DevSettei = of_file;
   ReflectFileDevice2PcDevice();
@@ -74,21 +70,15 @@ bool TakeDevicesOfFile() {
 bool TakeDevicesOfParaFile() {
   ParaFlags.ParaFileBad = False;
   if (OpenParaForDevice() != 0) return ParaFlags.ParaFileBad ? false : TellStopped();
-  const auto of_file = DevSettei;
-  if (!TakeDevicesOfParam()) return false;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
-    DevSetting[axis].NewType = of_file[axis].NewType;
-    DevSetting[axis].NewTypeWord = DevSetting[axis].NewType ? "NEW" : "OLD";
-  }
+  if (TakeDeviceFieldsOfParam() != 0 || AxesInUse() == 0) return TellNotSelected();
   LetDevSettingToDevSettei();
   return true;
 }
 
 void DevicesHaveChanged() {
-  const auto in_use = std::count(AppState.AxisMuko.begin(), AppState.AxisMuko.end(), False);
-  AppState.AxisCount = static_cast<std::int16_t>(in_use);
+  AppState.AxisCount = AxesInUse();
   SaveDevSetting();
+  if (frmParameta2.Loaded) ParametaHyoji();
 }
 
 /// Asks by whose devices the positions are shown; those are in use then.
