@@ -4,6 +4,7 @@
 #include "core/hooks.h"
 #include "core/text.h"
 #include "core/views.h"
+#include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "para/dev_setting.h"
 #include "para/device_list.h"
@@ -426,11 +427,20 @@ TEST_F(ParaView, TheDeviceDialogueOpensItASecondLater) {
   EXPECT_EQ(forms.modals.size(), 1u);
 }
 
-TEST_F(ParaView, InitialValuesAreTheDeviceDialoguesJob) {
-  int calls = 0;
-  Hooks.IniPrm = [&calls] { ++calls; };
+TEST_F(ParaView, InitialValuesComeForTheAxesOfTheDeviceDialogue) {
+  DevSetting = DevSettei;  // which the dialogue begins with
+  YukoJikuHyojiSettei2(2);
+  f.txtHomePush[0].Type("77");
+  forms.on_modal["frmDevice2"] = [](View&) { frmDevice2.cmdDeviceSet.Press(); };
+  forms.on_message_box = [](const MessageBoxCall& call) {
+    return call.Buttons == MsgButtons::OkCancel ? MsgAnswer::Ok : MsgAnswer::Yes;
+  };
   f.cmdIniPrm.Press();
-  EXPECT_EQ(calls, 1);
+  EXPECT_EQ(forms.modals, std::vector<std::string>{"frmDevice2"});
+  EXPECT_EQ(f.txtHomePush[0].Text, "60");
+  EXPECT_EQ(LiveAxisMask(), 15);
+  EXPECT_EQ(f.txtHomePush[3].Text, "60");
+  EXPECT_TRUE(f.txtHomePush[3].Enabled);
 }
 
 }  // namespace

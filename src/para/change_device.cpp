@@ -11,6 +11,7 @@
 #include "link/port.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
+#include "para/para_columns.h"
 #include "para/para_file_flow.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
@@ -79,6 +80,7 @@ void IniPrm() {
     Call(Hooks.RecalcLimits);
     Call(Hooks.RebuildPosiView);
   }
+  YukoJikuHyojiSettei();  // the dialogue's axes, whatever the view has been set to
   ParametaHyoji();
 }
 
