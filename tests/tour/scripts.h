@@ -15,5 +15,7 @@ void JapaneseLook(Tour& tour);
 void MainJob(Tour& tour);
 /// The same in short with a controller in program mode.
 void ProgramModeJob(Tour& tour);
+/// A start offline, with its mode and its devices, and other devices later on.
+void OfflineDevices(Tour& tour);
 
 }  // namespace tr7::tour

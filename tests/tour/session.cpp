@@ -16,6 +16,8 @@ const std::vector<Session>& Sessions() {
       {"job", {kEnglish}, {}, MainJob},
       {"prg", {kEnglish}, {"--mode", "prg"}, ProgramModeJob},
       {"ja", {kJapanese}, {}, JapaneseLook},
+      {"devices-en", {kEnglish}, {}, OfflineDevices},
+      {"devices-ja", {kJapanese}, {}, OfflineDevices},
   };
   return kSessions;
 }

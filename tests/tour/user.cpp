@@ -1,5 +1,6 @@
 #include "tests/tour/user.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
@@ -132,8 +133,17 @@ void User::Pick(ComboBox& list, int index) {
   Click(list);
   See("the open list of " + NameOf(list),
       [] { return QApplication::activePopupWidget() != nullptr; });
-  Key(Qt::Key_Home);
-  for (int step = 0; step < index; ++step) Key(Qt::Key_Down);
+  // As a user does: looks where the mark stands, and goes on from there.
+  const auto marked = [this, &list] {
+    const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
+    return combo ? combo->view()->currentIndex().row() : -1;
+  };
+  constexpr int kMostKeys = 100;
+  for (int keys = 0; keys < kMostKeys; ++keys) {
+    const int row = InTool(marked);
+    if (row == index) break;
+    Key(row < index ? Qt::Key_Down : Qt::Key_Up);
+  }
   Key(Qt::Key_Return);
   See(NameOf(list) + " at entry " + std::to_string(index), [this, &list, index] {
     const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
