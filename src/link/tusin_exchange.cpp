@@ -74,11 +74,13 @@ Step OpenPort() {
   return Step::Good;
 }
 
-/// Sends one line and arms the time-out; false when the port has died.
-bool SendLine(const std::string& line, int timeout_ms) {
+/// Sends one line and arms the time-out; false when the port has died. The reply's length is 0
+/// where nobody knows it.
+bool SendLine(const std::string& line, int timeout_ms, int reply_length) {
   AppState.TusinTimedOut = False;
   frmMain.timerTimeout.Start(timeout_ms);
   AppState.TusinReplyReady = False;
+  doors.serial->ExpectReply(static_cast<std::size_t>(reply_length));
   return doors.serial->Write(line + "\r\n");
 }
 
@@ -100,7 +102,7 @@ Step JudgeReply(const Request& request) {
 Step SendAndWait(const Request& request) {
   for (;;) {
     AppState.TusinFailed = False;
-    if (!SendLine(request.message, AppState.TusinTimeoutMs)) {
+    if (!SendLine(request.message, AppState.TusinTimeoutMs, request.reply_length)) {
       frmMain.timerTimeout.Stop();
       AppState.PortFaultText = Text(5905, doors.serial->FaultText());
       return Step::PortFailed;
@@ -116,7 +118,7 @@ Step SendAndWait(const Request& request) {
 /// Asks the controller for a sign of sense after a bad reply. The wait is bounded: a tool that
 /// hangs beside a machine is worse than one that gives up.
 Step Resynchronise() {
-  if (!SendLine(kResyncCommand, kResyncTimeoutMs)) {
+  if (!SendLine(kResyncCommand, kResyncTimeoutMs, 0)) {
     frmMain.timerTimeout.Stop();
     return Step::Bad;
   }

@@ -33,6 +33,9 @@ class SerialPort {
   virtual bool IsOpen() const = 0;
   /// Hands over all bytes; false when the port is shut or has died.
   virtual bool Write(std::string_view bytes) = 0;
+  /// A hint: what is written next is answered by a line of this many bytes, 0: nobody knows. A port
+  /// may let a part of it gather before it wakes anyone; a shorter line arrives all the same.
+  virtual void ExpectReply(std::size_t /*bytes*/) {}
   /// Number of received bytes that wait.
   virtual std::size_t InBufferCount() = 0;
   /// Takes all received bytes.

@@ -3,11 +3,17 @@
 #include <QFileInfo>
 #include <QSerialPortInfo>
 #include <QStringList>
+#include <algorithm>
 
 namespace tr7 {
 namespace {
 
 constexpr const char* kSimDevice = "sim";
+/// Bytes that may gather before the tool looks at them, as in a line chip's own store; no later
+/// than this is a line noticed that ends before it was expected to.
+constexpr qint64 kGather = 16;
+/// The end of a line is worth being woken for by each byte.
+constexpr qint64 kLastBytes = 3;
 
 std::optional<QSerialPort::Parity> ParityOf(const QString& letter) {
   if (letter == "N") return QSerialPort::NoParity;
@@ -15,6 +21,9 @@ std::optional<QSerialPort::Parity> ParityOf(const QString& letter) {
   if (letter == "O") return QSerialPort::OddParity;
   return std::nullopt;
 }
+
+/// 10 bits at the port's rate.
+qint64 ByteUs(const QSerialPort& port) { return 10'000'000 / std::max(port.baudRate(), 1); }
 
 /// "9600,N,8,1" on the open port.
 bool Apply(QSerialPort& port, const std::string& settings) {
@@ -39,6 +48,44 @@ QtSerialPort::QtSerialPort() {
                      dead_ = true;
                      fault_text_ = port_.errorString().toStdString();
                    });
+  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { OnBytes(); });
+  rest_.setSingleShot(true);
+  rest_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&rest_, &QTimer::timeout, &port_,
+                   [this] { port_.setReadBufferSize(NextLook()); });
+}
+
+void QtSerialPort::ExpectReply(std::size_t bytes) {
+  LetAllIn();
+  if (!port_.isOpen() || port_.bytesAvailable() > 0) return;
+  expected_ = static_cast<qint64>(bytes);
+  // A full buffer wakes nobody: the first byte says that the reply is under way.
+  if (expected_ > kLastBytes + 1) port_.setReadBufferSize(1);
+}
+
+/// Every byte on its own would wake the tool a thousand times a second, for a reply that can do
+/// nothing before its end. So the next ones gather while the line takes its time for them.
+void QtSerialPort::OnBytes() {
+  const qint64 gathered = port_.bytesAvailable();
+  if (expected_ - gathered <= kLastBytes || port_.canReadLine()) return LetAllIn();
+  if (gathered == 1) since_first_.start();
+  gathering_ = true;
+  if (gathered < port_.readBufferSize()) return;  // late ones: each of them says when it comes
+  const qint64 due_us = (NextLook() - 1) * byte_us_ - since_first_.nsecsElapsed() / 1000;
+  rest_.start(static_cast<int>(std::max<qint64>(due_us + 999, 0) / 1000));
+}
+
+/// How many bytes of the reply to let gather next.
+qint64 QtSerialPort::NextLook() const {
+  return std::min(port_.bytesAvailable() + kGather, expected_ - kLastBytes);
+}
+
+/// From now on every byte is there as soon as it has arrived.
+void QtSerialPort::LetAllIn() {
+  rest_.stop();
+  gathering_ = false;
+  expected_ = 0;
+  if (port_.readBufferSize() != 0) port_.setReadBufferSize(0);
 }
 
 PortFault QtSerialPort::FaultOfOpening(const QString& path) const {
@@ -85,11 +132,13 @@ bool QtSerialPort::Configure(const std::string& settings, int carrier_detect_tim
   port_.setRequestToSend(true);
   port_.clearError();
   port_.clear();
+  byte_us_ = ByteUs(port_);
   return true;
 }
 
 void QtSerialPort::Close() {
   sim_.Close();
+  LetAllIn();
   if (port_.isOpen()) port_.close();
   dead_ = false;
 }
@@ -105,11 +154,12 @@ bool QtSerialPort::Write(std::string_view bytes) {
 
 std::size_t QtSerialPort::InBufferCount() {
   if (sim_.IsOpen()) return sim_.InBufferCount();
-  return port_.isOpen() ? static_cast<std::size_t>(port_.bytesAvailable()) : 0;
+  return port_.isOpen() && !gathering_ ? static_cast<std::size_t>(port_.bytesAvailable()) : 0;
 }
 
 std::string QtSerialPort::ReadAll() {
   if (sim_.IsOpen()) return sim_.ReadAll();
+  LetAllIn();
   return port_.isOpen() ? port_.readAll().toStdString() : std::string();
 }
 

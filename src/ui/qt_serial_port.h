@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QSerialPort>
+#include <QTimer>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +23,7 @@ class QtSerialPort : public SerialPort {
   void Close() override;
   bool IsOpen() const override { return sim_.IsOpen() || port_.isOpen(); }
   bool Write(std::string_view bytes) override;
+  void ExpectReply(std::size_t bytes) override;
   std::size_t InBufferCount() override;
   std::string ReadAll() override;
   std::string FaultText() const override { return fault_text_; }
@@ -33,8 +36,16 @@ class QtSerialPort : public SerialPort {
 
  private:
   PortFault FaultOfOpening(const QString& path) const;
+  void OnBytes();
+  qint64 NextLook() const;
+  void LetAllIn();
 
   QSerialPort port_;
+  QTimer rest_;                ///< while it runs, nobody is woken by what comes in
+  bool gathering_ = false;     ///< a part of the expected reply is there and shown to nobody yet
+  QElapsedTimer since_first_;  ///< since the reply's first byte
+  qint64 expected_ = 0;        ///< bytes of the reply on its way; 0: nobody knows
+  qint64 byte_us_ = 0;         ///< time of a byte on the line
   SimPort sim_;
   bool dead_ = false;  ///< the device went away while open
   std::string fault_text_;
