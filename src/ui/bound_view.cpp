@@ -162,8 +162,11 @@ void BoundView::PushAreas() {
 }
 
 void BoundView::Push() {
-  const QString caption = Q(view_.Caption);
-  if (window_.windowTitle() != caption) window_.setWindowTitle(caption);
+  // Not against the window's own title: a child that fills the frame adds its name to that one.
+  if (shown_caption_ != view_.Caption) {
+    shown_caption_ = view_.Caption;
+    window_.setWindowTitle(Q(view_.Caption));
+  }
   for (const auto& binding : bindings_) binding->Push();
   PushAreas();
   PushTabTitles();

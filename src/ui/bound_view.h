@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -68,6 +69,7 @@ class BoundView {
   std::vector<Area> areas_;
   std::vector<TabPage> tab_pages_;
   std::vector<bool> shown_visibility_;
+  std::optional<std::string> shown_caption_;
   std::vector<std::string> problems_;
 };
 
