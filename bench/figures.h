@@ -1,0 +1,38 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace tr7bench {
+
+/// Prints one figure, "name=value".
+inline void Report(const char* name, double value, int decimals) {
+  std::printf("%s=%.*f\n", name, decimals, value);
+  std::fflush(stdout);
+}
+
+/// Milliseconds that `work` takes.
+inline double MsOf(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
+inline double Median(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+/// The middle one of `runs` times of `work`, ms.
+inline double MedianMsOf(int runs, const std::function<void()>& work) {
+  std::vector<double> times;
+  for (int i = 0; i < runs; ++i) times.push_back(MsOf(work));
+  return Median(times);
+}
+
+}  // namespace tr7bench

@@ -1,0 +1,170 @@
+// The whole desktop, driven as a user drives it, against qv-r7-sim on a real pseudo-terminal.
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <string>
+
+#include "bench/counting_port.h"
+#include "bench/figures.h"
+#include "bench/process_figures.h"
+#include "bench/splash_bench.h"
+#include "core/app_state.h"
+#include "core/install_views.h"
+#include "core/main_entry.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_selection.h"
+#include "platform/doors.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_table.h"
+#include "tests/ui/screen_user.h"
+#include "tests/ui/sim_process.h"
+#include "ui/desktop.h"
+#include "ui/look.h"
+
+namespace tr7bench {
+namespace {
+
+using namespace tr7;
+
+constexpr int kIdleMs = 10'000;
+constexpr int kHeaderRows = 2;
+
+struct Options {
+  QString sim, tool;
+};
+
+Options OptionsOf(const QApplication& application) {
+  const QCommandLineOption sim("sim", "The simulated controller.", "program");
+  const QCommandLineOption tool("tool", "The tool.", "program");
+  QCommandLineParser parser;
+  parser.addHelpOption();
+  parser.addOptions({sim, tool});
+  parser.process(application);
+  if (!parser.isSet(sim) || !parser.isSet(tool)) parser.showHelp(2);
+  return {parser.value(sim), parser.value(tool)};
+}
+
+/// The tool on this screen, and its user.
+class Bench {
+ public:
+  Bench(const Options& options, const QString& settings_file)
+      : paced_(options.sim), quick_(options.sim, {"--no-pace"}), desktop_({settings_file, false}) {
+    doors.serial = &port_;
+    doors.settings->Set("Settings", "Language", "1");  // its fonts are the larger ones
+    doors.settings->Set("Settings", "PortDevice1", paced_.Path());
+    for (const char* choice : {"frmSelection", "frmSelection2"}) {
+      user_.on_modal[choice] = [this](View& view) {
+        auto& selection = static_cast<SelectionView&>(view);
+        if (first_choice_) selection.optChoice2.Press();  // offline
+        first_choice_ = false;
+        selection.cmdOk.Press();
+      };
+    }
+    user_.on_modal["frmSelectPosiNo2"] = [this](View& view) {
+      auto& range = static_cast<SelectPosiNoView&>(view);
+      range.optRange.Press();
+      range.txtFromNo.Type("1");
+      range.txtToNo.Type(std::to_string(last_no_));
+      range.cmdOk.Press();
+    };
+  }
+
+  int Run() {
+    InstallViews();
+    Main();
+    if (!AppState.Offline) return Failed("the start");
+    Report("idle_cpu_percent", IdlePercent(), 2);
+    frmMain.mnuSettingOnline.Press();
+    if (AppState.Offline) return Failed("going online");
+    Report("idle_online_cpu_percent", IdlePercent(), 2);
+    return ReadPaced() || ReadFull() ? 1 : 0;
+  }
+
+ private:
+  int Failed(const char* what) const {
+    std::fprintf(stderr, "tr7_ui_bench: %s failed; last box: %s\n", what,
+                 user_.boxes.empty() ? "none" : user_.boxes.back().c_str());
+    return 1;
+  }
+
+  void WaitMs(int ms) {
+    bool over = false;
+    QTimer::singleShot(ms, &user_, [&over] { over = true; });
+    while (!over) Pump();
+  }
+
+  double IdlePercent() {
+    WaitMs(500);  // what the last step left to paint is not idling
+    const CpuMeter meter;
+    WaitMs(kIdleMs);
+    return meter.Percent();
+  }
+
+  /// 0 when lines 1 to `last` stand in the grid.
+  int Read(int last) {
+    last_no_ = last;
+    frmPosi.cmdPosiRead.Press();
+    return frmPosi.flgdData.Rows() == last + kHeaderRows ? 0 : Failed("the read");
+  }
+
+  int ReadPaced() {
+    constexpr int kLines = 99;
+    port_.TakeLineUs();
+    const CpuMeter meter;
+    if (Read(kLines) != 0) return 1;
+    const double seconds = meter.Seconds(), percent = meter.Percent();
+    Report("read99_pty_ratio", seconds * 1e6 / static_cast<double>(port_.TakeLineUs()), 4);
+    Report("transfer_cpu_percent", percent, 2);
+    return 0;
+  }
+
+  int ReadFull() {
+    frmMain.mnuSettingOffline.Press();
+    doors.settings->Set("Settings", "PortDevice1", quick_.Path());
+    if (Read(kPosiMaxNo) != 0) return 1;
+    doors.forms->Refresh();
+    constexpr int kFills = 15;
+    Report("grid_fill_999_ms",
+           MedianMsOf(kFills,
+                      [] {
+                        FG_ShowTable();
+                        doors.forms->Refresh();
+                      }),
+           2);
+    WaitMs(500);
+    Report("rss_full_table_kb", static_cast<double>(ResidentKb()), 0);
+    return 0;
+  }
+
+  SimProcess paced_, quick_;
+  Desktop desktop_;
+  CountingPort port_{desktop_.serial};
+  ScreenUser user_{desktop_.forms};
+  bool first_choice_ = true;
+  int last_no_ = kPosiMaxNo;
+};
+
+int Run(const Options& options) {
+  const QTemporaryDir folder;
+  const double splash = SplashMs(options.tool, folder.filePath("splash.ini"));
+  if (splash < 0) {
+    std::fprintf(stderr, "tr7_ui_bench: no splash to be seen on this screen\n");
+  } else {
+    Report("splash_ms", splash, 1);
+  }
+  return Bench(options, folder.filePath("settings.ini")).Run();
+}
+
+}  // namespace
+}  // namespace tr7bench
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  tr7::look::Apply(application);
+  return tr7bench::Run(tr7bench::OptionsOf(application));
+}

@@ -1,0 +1,146 @@
+// The tool on the virtual doors: how much time the line is left unused, and how fast the logic is.
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "bench/counting_port.h"
+#include "bench/figures.h"
+#include "core/install_views.h"
+#include "core/main_entry.h"
+#include "core/reset_state.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_selection.h"
+#include "platform/doors.h"
+#include "platform/sim_port.h"
+#include "platform/virtual/memory_files.h"
+#include "platform/virtual/virtual_clipboard.h"
+#include "platform/virtual/virtual_form_host.h"
+#include "platform/virtual/virtual_help_viewer.h"
+#include "platform/virtual/virtual_pump.h"
+#include "platform/virtual/virtual_settings.h"
+#include "posi/posi_check.h"
+#include "posi/posi_table.h"
+
+namespace tr7bench {
+namespace {
+
+using namespace tr7;
+
+/// The tool on virtual doors, online with the simulated controller, and a user who says yes.
+struct Desk {
+  Desk();
+  ~Desk() { doors = Doors{}; }
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+
+  /// Presses the button; the virtual time that its flow took, us.
+  std::int64_t Press(CommandButton& button) {
+    const std::int64_t start = pump.NowUs();
+    button.Press();
+    return pump.NowUs() - start;
+  }
+  /// The virtual time of the button's flow over the time of its bytes on the line.
+  double LineRatio(CommandButton& button) {
+    port.TakeLineUs();
+    const auto took = static_cast<double>(Press(button));
+    return took / static_cast<double>(port.TakeLineUs());
+  }
+
+  VirtualPump pump;
+  SimPort sim;
+  CountingPort port{sim};
+  VirtualFormHost forms;
+  VirtualSettings settings;
+  VirtualClipboard clipboard;
+  VirtualHelpViewer help;
+  MemoryFiles files;
+};
+
+void PressDefault(View& view) {
+  for (Control* control : view.Controls) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button && button->Default) button->Press();
+  }
+}
+
+void ChooseAll(View& view) {
+  auto& range = static_cast<SelectPosiNoView&>(view);
+  range.optRange.Press();
+  range.txtFromNo.Type("1");
+  range.txtToNo.Type(std::to_string(kPosiMaxNo));
+  range.cmdOk.Press();
+}
+
+Desk::Desk() {
+  doors = {&pump, &port, &settings, &forms, &clipboard, &files, &help};
+  for (const auto& entry : std::filesystem::directory_iterator(TR7_SOURCE_LISTS)) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    files.Put(files.program_folder + "/" + entry.path().filename().string(),
+              {std::istreambuf_iterator<char>(file), {}});
+  }
+  settings.Set("Settings", "PortDevice1", "sim");
+  settings.Set("Settings", "Language", "2");
+  forms.on_any_modal = PressDefault;
+  for (const char* range : {"frmSelectPosiNo2", "frmSelectPosiNo3"}) {
+    forms.on_modal[range] = ChooseAll;
+  }
+  forms.on_message_box = [](const MessageBoxCall& call) {
+    const bool ok = call.Buttons == MsgButtons::OkCancel;
+    return ok ? MsgAnswer::Ok : MsgAnswer::Yes;
+  };
+  ResetState();
+  InstallViews();
+  Main();
+}
+
+void Fail(const char* what, const VirtualFormHost& forms) {
+  std::fprintf(stderr, "tr7_bench: %s; last box: %s\n", what, forms.LastBox().c_str());
+  std::exit(1);
+}
+
+/// The full table, with a failure told instead of a figure that nothing stands behind.
+void ExpectWholeRead(const Desk& desk, std::int64_t took_us) {
+  constexpr std::int64_t kReplyBytes = 68, kByteUs = 1041;
+  const bool whole = frmPosi.flgdData.Rows() == kPosiMaxNo + 2 && !frmPosi.PosiChanged;
+  if (!whole || took_us < kPosiMaxNo * kReplyBytes * kByteUs) {
+    Fail("the table did not arrive", desk.forms);
+  }
+}
+
+void Read(Desk& desk) {
+  Report("read999_virtual_ratio", desk.LineRatio(frmPosi.cmdPosiRead), 4);
+  constexpr int kReads = 40;
+  const double ms = MsOf([&desk] {
+    for (int i = 0; i < kReads; ++i) ExpectWholeRead(desk, desk.Press(frmPosi.cmdPosiRead));
+  });
+  Report("virtual_reads_per_s", kReads * 1000.0 / ms, 1);
+}
+
+void Check(const Desk& desk) {
+  constexpr int kChecks = 21;
+  bool good = true;
+  Report("posidatacheck3_999_ms", MedianMsOf(kChecks, [&good] { good &= PosiDataCheck3() == 0; }),
+         2);
+  if (!good) Fail("the check refused the table", desk.forms);
+}
+
+void Write(Desk& desk) {
+  desk.sim.sent.clear();
+  Report("write999_virtual_ratio", desk.LineRatio(frmPosi.cmdPosiWrite), 4);
+  const std::string commit = "0WA0013E7";  // the controller was told to keep all of them
+  if (desk.sim.sent.find(commit) == std::string::npos) Fail("nothing was written", desk.forms);
+}
+
+}  // namespace
+}  // namespace tr7bench
+
+int main() {
+  tr7bench::Desk desk;
+  tr7bench::Read(desk);
+  tr7bench::Check(desk);
+  tr7bench::Write(desk);
+}

@@ -1,0 +1,57 @@
+#include "tests/ui/screen_user.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+
+#include "core/views.h"
+#include "forms/control.h"
+
+namespace tr7 {
+
+ScreenUser::ScreenUser(const QtFormHost& forms) : forms_(forms) { qApp->installEventFilter(this); }
+
+ScreenUser::~ScreenUser() { qApp->removeEventFilter(this); }
+
+bool ScreenUser::eventFilter(QObject* watched, QEvent* event) {
+  auto* dialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
+  if (dialog && dialog->isModal()) {
+    QTimer::singleShot(0, this, [this, shown = QPointer<QDialog>(dialog)] {
+      if (shown && shown->isVisible()) Answer(*shown);
+    });
+  }
+  return false;
+}
+
+void ScreenUser::Answer(QWidget& dialog) {
+  if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+    boxes.push_back(box->text().toStdString());
+    const int index = on_box ? on_box(boxes.back()) : -1;
+    QAbstractButton* button = index < 0 ? box->defaultButton() : box->buttons().value(index);
+    if (button) button->click();
+    return;
+  }
+  for (View* view : OpenViews()) {
+    const QWidget* widget =
+        view->Controls.empty() ? nullptr : forms_.WidgetOf(*view->Controls.front());
+    if (widget && widget->window() == &dialog) return AnswerView(*view);
+  }
+}
+
+void ScreenUser::AnswerView(View& view) {
+  modals.emplace_back(view.Name);
+  if (const auto handler = on_modal.find(view.Name); handler != on_modal.end()) {
+    handler->second(view);
+    return;
+  }
+  for (Control* control : view.Controls) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button && button->Default) return button->Press();
+  }
+}
+
+}  // namespace tr7

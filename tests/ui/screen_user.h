@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "forms/view.h"
+#include "ui/qt_form_host.h"
+
+namespace tr7 {
+
+/// Who sits before the real screen: answers each dialogue and message box as soon as it shows. A
+/// view without a handler has its default button pressed, and so has a box.
+class ScreenUser : public QObject {
+ public:
+  explicit ScreenUser(const QtFormHost& forms);
+  ~ScreenUser() override;
+
+  /// What to do in a modal view, by view name.
+  std::map<std::string, std::function<void(View&)>> on_modal;
+  /// Index of the button to press in a box of this text, -1 for the default one.
+  std::function<int(const std::string& text)> on_box;
+  std::vector<std::string> boxes;   ///< texts of the boxes that came
+  std::vector<std::string> modals;  ///< names of the modal views that came
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Answer(QWidget& dialog);
+  void AnswerView(View& view);
+
+  const QtFormHost& forms_;
+};
+
+}  // namespace tr7
