@@ -1,0 +1,230 @@
+// The serial door over real pseudo-terminals.
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QSerialPort>
+#include <cstdlib>
+#include <string>
+
+#include "core/main_entry.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_selection.h"
+#include "forms/frm_splash.h"
+#include "link/port.h"
+#include "tests/support/as_ordinary_user.h"
+#include "tests/ui/sim_process.h"
+#include "tests/ui/ui_test.h"
+
+namespace tr7 {
+namespace {
+
+/// Both ends of a pseudo-terminal: the tool opens `Path`, the test is the controller.
+class Line {
+ public:
+  Line() : master_(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK)) {
+    EXPECT_EQ(grantpt(master_), 0);
+    EXPECT_EQ(unlockpt(master_), 0);
+    path_ = ptsname(master_);
+  }
+  ~Line() { HangUp(); }
+  Line(const Line&) = delete;
+  Line& operator=(const Line&) = delete;
+
+  const std::string& Path() const { return path_; }
+  void Send(const std::string& bytes) const {
+    EXPECT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+  }
+  std::string Received() const {
+    char buffer[256];
+    const ssize_t count = read(master_, buffer, sizeof buffer);
+    return count > 0 ? std::string(buffer, static_cast<std::size_t>(count)) : std::string();
+  }
+  void HangUp() {
+    if (master_ >= 0) close(master_);
+    master_ = -1;
+  }
+
+ private:
+  int master_;
+  std::string path_;
+};
+
+class SerialPortTest : public UiTest {
+ protected:
+  void Open() {
+    ASSERT_EQ(port.Open(line.Path()), PortFault::None);
+    ASSERT_TRUE(port.Configure("9600,N,8,1", 3000));
+  }
+  bool Arrives(std::size_t bytes, int ms = 1000) {
+    return Until([this, bytes] { return port.InBufferCount() >= bytes; }, ms);
+  }
+  std::int64_t NowMs() const { return desktop.pump.NowUs() / 1000; }
+
+  QtSerialPort& port = desktop.serial;
+  Line line;
+};
+
+TEST_F(SerialPortTest, BytesPassUnchangedBothWays) {
+  Open();
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+  line.Send(all.substr(0, 128));
+  line.Send(all.substr(128));
+  ASSERT_TRUE(Arrives(all.size()));
+  EXPECT_EQ(port.ReadAll(), all);
+  ASSERT_TRUE(port.Write(all));
+  std::string received;
+  EXPECT_TRUE(Until([&] { return (received += line.Received()).size() >= all.size(); }));
+  EXPECT_EQ(received, all);
+}
+
+TEST_F(SerialPortTest, SettingsThatMakeNoSenseAreRefused) {
+  ASSERT_EQ(port.Open(line.Path()), PortFault::None);
+  EXPECT_TRUE(port.Configure("38400,N,8,1", 3000));
+  for (const char* wrong : {"", "9600", "9600,X,8,1", "9600,N,9,1", "9600,N,8,3", "x,N,8,1"}) {
+    EXPECT_FALSE(port.Configure(wrong, 3000)) << wrong;
+  }
+}
+
+TEST_F(SerialPortTest, AVanishedDeviceMakesTheNextWriteFail) {
+  Open();
+  line.HangUp();
+  WaitMs(50);
+  EXPECT_FALSE(port.Write("0CM0\r\n"));
+  EXPECT_FALSE(port.FaultText().empty());
+  port.Close();
+  EXPECT_FALSE(port.IsOpen());
+}
+
+// An expected reply gathers; whatever else comes is there at once.
+
+TEST_F(SerialPortTest, AnExpectedReplyWakesSeldomAndIsThereWithItsLastByte) {
+  Open();
+  const std::string reply = "0RP001" + std::string(60, '7') + "\r\n";
+  port.ExpectReply(reply.size());
+  const std::uint64_t sleeps = desktop.pump.sleeps;
+  std::size_t sent = 0;
+  QTimer pace;  // a byte about every millisecond, as at 9600 baud
+  QObject::connect(&pace, &QTimer::timeout, &pace, [&] {
+    if (sent < reply.size()) line.Send(reply.substr(sent++, 1));
+  });
+  pace.setTimerType(Qt::PreciseTimer);
+  pace.start(1);
+  ASSERT_TRUE(Until([&] { return sent == reply.size(); }));
+  const std::int64_t whole = NowMs();
+  ASSERT_TRUE(Arrives(1));
+  EXPECT_LE(NowMs() - whole, 200);
+  std::string got;
+  ASSERT_TRUE(Until([&] { return (got += port.ReadAll()).size() >= reply.size(); }));
+  EXPECT_EQ(got, reply);
+  // The pace itself wakes the loop once a byte; being told of every byte would double that.
+  EXPECT_LE(desktop.pump.sleeps - sleeps, reply.size() + reply.size() / 2);
+}
+
+TEST_F(SerialPortTest, ALineThatIsShorterThanExpectedArrives) {
+  for (const std::string reply : {"\n", "0%%101\r\n", "0RP0010123456789\r\n"}) {
+    Open();
+    port.ExpectReply(68);
+    line.Send(reply);
+    const std::int64_t start = NowMs();
+    ASSERT_TRUE(Arrives(reply.size())) << reply;
+    EXPECT_LE(NowMs() - start, 500);
+    EXPECT_EQ(port.ReadAll(), reply);
+    port.Close();
+  }
+}
+
+TEST_F(SerialPortTest, ALineThatIsLongerThanExpectedArrivesWhole) {
+  Open();
+  const std::string reply(200, '5');
+  port.ExpectReply(20);
+  line.Send(reply);
+  std::string got;
+  EXPECT_TRUE(Until([&] { return (got += port.ReadAll()).size() >= reply.size(); }));
+  EXPECT_EQ(got, reply);
+}
+
+TEST_F(SerialPortTest, APartIsKeptForWhoeverAsksNext) {
+  Open();
+  port.ExpectReply(68);
+  line.Send("0RP0");
+  WaitMs(100);
+  port.ExpectReply(0);  // the exchange has given up and asks for something else
+  ASSERT_TRUE(Arrives(4));
+  EXPECT_EQ(port.ReadAll(), "0RP0");
+}
+
+// Openings that fail tell which way, to the user as well.
+
+class OpeningTest : public SerialPortTest {
+ protected:
+  /// The user's words for the failure to open this device, through the tool's own online command.
+  std::string ToldOf(const std::string& device) {
+    desktop.settings.Set("Settings", "PortDevice1", device);
+    desktop.settings.Set("Settings", "PortNo", "1");
+    AppState.PortNo = 1;
+    user.boxes.clear();
+    frmMain.mnuSettingOnline.Press();
+    EXPECT_TRUE(AppState.Offline);
+    return user.boxes.empty() ? "" : user.boxes.back();
+  }
+  std::string Words(int reason, const std::string& device) const {
+    return Text(109) + "\n\n" + Text(110) + "\n\n" + Text(reason, device);
+  }
+};
+
+TEST_F(OpeningTest, APortThatDoesNotExist) {
+  EXPECT_EQ(port.Open("/dev/tr7-none"), PortFault::NoSuchPort);
+  EXPECT_EQ(port.Open("tr7-none"), PortFault::NoSuchPort);
+  EXPECT_EQ(ToldOf("/dev/tr7-none"), Words(5900, "/dev/tr7-none"));
+}
+
+TEST_F(OpeningTest, APortThatAnotherProgramHolds) {
+  QSerialPort other;
+  other.setPortName(QString::fromStdString(line.Path()));
+  ASSERT_TRUE(other.open(QIODevice::ReadWrite));
+  EXPECT_EQ(port.Open(line.Path()), PortFault::InUse);
+  EXPECT_EQ(ToldOf(line.Path()), Words(5901, line.Path()));
+  other.close();
+  EXPECT_EQ(port.Open(line.Path()), PortFault::None);
+}
+
+TEST_F(OpeningTest, APortThatThisUserMayNotOpen) {
+  ASSERT_EQ(chmod(line.Path().c_str(), 0600), 0);
+  const AsOrdinaryUser ordinary;
+  if (access(line.Path().c_str(), R_OK) == 0) GTEST_SKIP() << "the terminal is this user's own";
+  EXPECT_EQ(port.Open(line.Path()), PortFault::NotPermitted);
+  EXPECT_EQ(ToldOf(line.Path()), Words(5902, line.Path()));
+}
+
+// The whole tool on a real line.
+
+TEST_F(SerialPortTest, TheToolReadsPositionsFromTheSimulatedController) {
+  const SimProcess sim(TR7_SIM_PROGRAM);
+  ASSERT_FALSE(sim.Path().empty());
+  desktop.settings.Set("Settings", "Language", "2");
+  desktop.settings.Set("Settings", "PortDevice1", sim.Path());
+  user.on_modal["frmSelectPosiNo2"] = [](View& view) {
+    auto& range = static_cast<SelectPosiNoView&>(view);
+    range.optRange.Press();
+    range.txtFromNo.Type("3");
+    range.txtToNo.Type("7");
+    range.cmdOk.Press();
+  };
+  frmSplash.timerSplash.Interval = 10;
+  Main();  // the choice box's default is online
+  ASSERT_FALSE(AppState.Offline) << (user.boxes.empty() ? "" : user.boxes.back());
+  frmPosi.cmdPosiRead.Press();
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
+  ASSERT_EQ(frmPosi.flgdData.Rows(), 7);
+  EXPECT_EQ(frmPosi.flgdData.Text(2, 0), "3");
+  EXPECT_EQ(frmPosi.flgdData.Text(6, 0), "7");
+  EXPECT_EQ(user.modals.back(), "frmSelectPosiNo2");
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <functional>
+
+#include "core/app_state.h"
+#include "core/text.h"
+#include "platform/doors.h"
+#include "tests/ui/screen_user.h"
+#include "ui/desktop.h"
+
+namespace tr7 {
+
+/// The desktop's doors on a screen that nobody sees: start values, English, settings of its own.
+class UiTest : public ::testing::Test {
+ protected:
+  UiTest();
+
+  /// Texts of the language from here on; views that are shown keep theirs.
+  static void UseJapanese(bool japanese);
+  /// Serves events and ticks until it holds; false when that takes longer than `ms`.
+  bool Until(const std::function<bool()>& holds, int ms = 5000);
+  /// Serves events and ticks for so long.
+  void WaitMs(int ms);
+  /// Draws what the records hold and serves the events that this makes.
+  void Settle();
+
+ private:
+  struct FreshState {
+    FreshState();
+  };
+  FreshState fresh_;
+
+ protected:
+  QTemporaryDir folder;
+  Desktop desktop;
+  ScreenUser user;
+};
+
+}  // namespace tr7
