@@ -109,6 +109,21 @@ class OpenTest : public FlowTest {
   std::string Cell(int number, int col) const {
     return frmPosi.flgdData.Text(RowOfPosition(number), col);
   }
+  /// What is on show, saved, opened and saved again.
+  void ExpectTheSameBytesAgain() {
+    frmPosi.flgdData.TypeInto(RowOfPosition(4), kComment, "受取り, 表示 ﾎｰﾑ");
+    SetPosiTableFile(kPath);
+    frmPosi.cmdPosiSave.Press();
+    const std::string saved = virt.files.Content(kPath).value_or("");
+    EXPECT_NE(saved.find("\x8e\xf3\x8e\xe6\x82\xe8, "), std::string::npos) << "code page 932";
+    AnswerRange("frmSelectPosiNo3", 1, 2);
+    frmPosi.cmdPosiNew.Press();
+    Open(saved);
+    EXPECT_EQ(Cell(4, kComment), "受取り, 表示 ﾎｰﾑ");
+    virt.files.Put(kPath, "");
+    frmPosi.cmdPosiSave.Press();
+    EXPECT_EQ(virt.files.Content(kPath), saved);
+  }
   FileText own;  ///< a file of the devices in use
 };
 
@@ -141,6 +156,11 @@ TEST_F(OpenTest, AFileReplacesTheTable) {
     EXPECT_EQ(virt.files.Content(kPath), bytes);
   }
   EXPECT_TRUE(forms.boxes.size() == 1) << "the question about unsaved data";
+}
+
+TEST_F(OpenTest, SavedOpenedAndSavedAgain) {
+  Start();
+  ExpectTheSameBytesAgain();
 }
 
 TEST_F(OpenTest, AnyNumbersGiveTheRangeFromFirstToLast) {
@@ -388,6 +408,11 @@ class ProgramOpenTest : public OpenTest {
  protected:
   ProgramOpenTest() : OpenTest(ProgramMode()) {}
 };
+
+TEST_F(ProgramOpenTest, SavedOpenedAndSavedAgain) {
+  Start();
+  ExpectTheSameBytesAgain();
+}
 
 TEST_F(ProgramOpenTest, TheWayStandsInThePosition) {
   Start();
