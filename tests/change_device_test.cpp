@@ -292,7 +292,7 @@ TEST_F(IniPrmTest, StandardValuesOfTheChosenDeviceAreShown) {
   }});
   ParaFlags.AxisMaskFixed = True;
   ParaFlags.AxisMask = 1;
-  Call(Hooks.IniPrm);
+  frmParameta2.cmdIniPrm.Press();
   EXPECT_EQ(frmParameta2.txtAxisStroke[0].Text, "10000");
   EXPECT_EQ(frmParameta2.txtAxisLead[0].Text, "8");
   EXPECT_EQ(frmParameta2.txtOneAxis.Text, "15") << "the mask is that of the axes in use";
@@ -318,7 +318,7 @@ TEST_F(IniPrmTest, EveryRefusalLeavesTheParameters) {
       if (row.mm_table) frmDevice2.comboAxisSelect.Pick(0);
       row.visit();
     }});
-    Call(Hooks.IniPrm);
+    frmParameta2.cmdIniPrm.Press();
     EXPECT_EQ(ParamSet, ParamSetRecord{});
     EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
     ExpectCommandsOn();
@@ -333,7 +333,7 @@ TEST_F(IniPrmTest, OtherAxesChangeTheColumnsOfBothViews) {
     frmDevice2.comboAxisSelect.Pick(1);
     frmDevice2.cmdDeviceSet.Press();
   }});
-  Call(Hooks.IniPrm);
+  frmParameta2.cmdIniPrm.Press();
   EXPECT_EQ(frmParameta2.txtOneAxis.Text, "3");
   EXPECT_FALSE(frmParameta2.txtAxisStroke[2].Enabled);
   EXPECT_EQ(frmParameta2.txtAxisStroke[2].Text, "");

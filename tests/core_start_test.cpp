@@ -4,6 +4,7 @@
 #include "core/text_file.h"
 #include "forms/frm_device.h"
 #include "forms/frm_options2.h"
+#include "forms/frm_parameta2.h"
 #include "forms/frm_splash.h"
 #include "para/dev_setting.h"
 #include "para/param_set.h"
@@ -287,6 +288,7 @@ TEST_F(OfflineStartTest, DetailsOpenTheParametersOnceTheDialogueHasGone) {
   std::int64_t shown_at = 0, left_at = 0;
   forms.on_modal["frmParameta2"] = [&](View& view) {
     shown_at = pump.NowUs();
+    EXPECT_EQ(frmParameta2.txtAxisStroke[0].Text, "20000");
     view.Visible = false;
   };
   Start({[&] {

@@ -43,7 +43,9 @@ bool ParametersStand() {
   return false;
 }
 
-void OfferCancelAndBack() { DeviceDialog.ShowDevCancel = DeviceDialog.ShowDevBack = True; }
+void OfferEverything() {
+  DeviceDialog.ShowDevOptions = DeviceDialog.ShowDevCancel = DeviceDialog.ShowDevBack = True;
+}
 
 }  // namespace
 
@@ -56,7 +58,7 @@ int Change_Device() {
   });
   if (!WarnOfDeviceChange(true)) return 1;
   AxesOnTrial axes;
-  OfferCancelAndBack();
+  OfferEverything();
   if (!ParametersStand()) return 1;
   if (TakeDevicesOfParam() != 0) {
     MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
@@ -69,7 +71,7 @@ int Change_Device() {
 void IniPrm() {
   const CommandsOff commands_off;
   const BusyScope busy;
-  OfferCancelAndBack();
+  OfferEverything();
   AxesOnTrial axes;
   if (AskDevices(frmDevice2) != DeviceAnswer::Taken) return;
   // The position table may follow later on: the user may rather not.
