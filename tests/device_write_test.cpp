@@ -24,7 +24,10 @@ using Texts = std::vector<std::string>;
 
 class DeviceWriteTest : public FlowTest {
  protected:
-  DeviceWriteTest() { virt.settings.Set("Settings", "PortOccupy", "0"); }
+  explicit DeviceWriteTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful())
+      : FlowTest(setup) {
+    virt.settings.Set("Settings", "PortOccupy", "0");
+  }
 
   static void Pick(ComboBox& combo, const std::string& text) {
     for (std::size_t i = 0; i < combo.List.size(); ++i) {
@@ -302,6 +305,52 @@ TEST_F(DeviceWriteTest, AWriteBegunOfflineEndsOffline) {
   EXPECT_TRUE(BoxShown(Text(1527)));
   EXPECT_EQ(DevSetting[0].Size, " 42");
   EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  ExpectOffline();
+  ExpectCommandsOn();
+}
+
+/// A controller with three axes, which answers with their mask.
+class ThreeAxesWriteTest : public DeviceWriteTest {
+ protected:
+  ThreeAxesWriteTest() : DeviceWriteTest(ThreeAxes()) {}
+
+ private:
+  static qvr7sim::Setup ThreeAxes() {
+    qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+    setup.mask = 0x7;
+    return setup;
+  }
+};
+
+TEST_F(ThreeAxesWriteTest, AWriteBegunOfflineAsksForTheControllersAxesFirst) {
+  forms.on_modal["frmDevice3"] = [](View&) {
+    ChooseTwoAxes();
+    frmDevice3.cmdPrmCtWrite.Press();
+    frmDevice3.cmdDeviceSet.Press();
+  };
+  Choose({1, 0});
+  Main();
+  EXPECT_EQ(Commands().substr(0, 19), "0CM1 0RD0 " + kHeld);
+  EXPECT_TRUE(BoxShown(Text(1527))) << "its axes stand still";
+  EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
+  ExpectOffline();
+}
+
+TEST_F(ThreeAxesWriteTest, WithoutTheControllersAxesNothingIsWritten) {
+  qvr7sim::Fault fault;
+  fault.kind = FaultKind::kErrorReply;
+  fault.prefix = "0RD0";
+  fault.at_request = 1;
+  fault.error = {'0', '0', '1'};
+  port.Ct().AddFault(fault);
+  forms.on_modal["frmDevice3"] = [](View&) {
+    frmDevice3.cmdPrmCtWrite.Press();
+    frmDevice3.cmdDeviceSet.Press();
+  };
+  Choose({1, 0});
+  Main();
+  EXPECT_EQ(Commands(), "0CM1 0RD0 ");
+  EXPECT_FALSE(BoxShown(Text(424)));
   ExpectOffline();
   ExpectCommandsOn();
 }

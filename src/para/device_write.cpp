@@ -58,6 +58,15 @@ bool WarnBeforeWrite() {
   return MsgBox(TwoLines(1505, 1506), MsgButtons::OkCancel) == MsgAnswer::Ok;
 }
 
+/// What the controller says of its axes at rest is held against its own axes. Offline, those of the
+/// controller at the other end may never have been asked for.
+bool AxesOfCtAreKnown(bool was_offline) {
+  if (!was_offline) return true;
+  if (ReadCtModeAndAxis() != 0) return false;
+  AppState.AxisPattern = AppState.AxisPatternOfCt;
+  return true;
+}
+
 bool AxesStandStill() {
   const int rest = ReadAlarmFromCt();
   if (rest == 0) MsgBox(Text(kMsgMoving));
@@ -111,8 +120,8 @@ void TakeWritten() {
   MsgBox(Text(1527), MsgButtons::Ok, MsgIcon::Information);
 }
 
-void Write() {
-  if (!AxesStandStill() || !GoodOrTold(HoldAxes())) return;
+void Write(bool was_offline) {
+  if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill() || !GoodOrTold(HoldAxes())) return;
   AxesOnTrial axes;
   const ParamSetRecord parameters = ParamSet;
   const WriteResult result = WriteHeld();
@@ -145,7 +154,7 @@ void PrmCtWrite() {
   if (!WarnBeforeWrite() || OpenPortOrTell() != 0) return;
   const bool was_offline = AppState.Offline;
   LiftOffline();
-  Write();
+  Write(was_offline);
   TusinPortClose();
   if (was_offline) SetOffline();
 }
