@@ -107,7 +107,7 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   EXPECT_EQ(Commands(), kHeld + kMask + kReadBack + kReadTwoAxes + kWriteTwoAxes + "0CM0 ");
   EXPECT_EQ(Commands(8).substr(0, 13), "0RA 0CM01111 ");
   EXPECT_TRUE(port.sent.ends_with("0CM00000\r\n"));
-  EXPECT_EQ(Boxes(), Texts{Text(1527)});
+  EXPECT_EQ(Boxes(), Texts{Text(1527) + "\n\n" + Text(496)}) << "it is to start anew with two axes";
   // The controller has stored the mask, and the device of AXIS1: lead 8, 400 pulses.
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
   EXPECT_EQ(port.Ct().CommittedBlock(4).substr(2, 6), "080190");
@@ -160,7 +160,7 @@ TEST_F(DeviceWriteTest, AfterAWriteOkLeavesTheParametersAlone) {
     frmDevice3.cmdDeviceSet.Press();
   });
   EXPECT_EQ(ParamSet, written);
-  EXPECT_EQ(Boxes(), Texts{Text(1527)});
+  EXPECT_EQ(forms.boxes.size(), 1u) << "OK asks and tells nothing more";
 }
 
 TEST_F(DeviceWriteTest, OkAloneTakesTheDevicesHereOnly) {
@@ -353,6 +353,19 @@ TEST_F(ThreeAxesWriteTest, WithoutTheControllersAxesNothingIsWritten) {
   EXPECT_FALSE(BoxShown(Text(424)));
   ExpectOffline();
   ExpectCommandsOn();
+}
+
+TEST_F(ThreeAxesWriteTest, OtherAxesAskForAPowerCycle) {
+  StartOnline();
+  Write([] {});
+  EXPECT_EQ(Boxes(), Texts{Text(1527)});
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(1527) + "\n\n" + Text(496)});
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(424)});
+  port.Ct().PowerCycle(pump.NowUs());
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(1527)});
 }
 
 TEST_F(DeviceWriteTest, TheDialogueRestsWhileItWrites) {

@@ -1,5 +1,8 @@
 #include "para/device_write.h"
 
+#include <cstdint>
+#include <string>
+
 #include "core/app_state.h"
 #include "core/busy_scope.h"
 #include "core/message_box.h"
@@ -23,6 +26,7 @@ namespace {
 
 constexpr int kMsgLineFailed = 377;
 constexpr int kMsgMoving = 424;
+constexpr int kMsgPowerCycle = 496;
 constexpr int kAllAxes = 0xF;
 
 enum class WriteResult {
@@ -114,21 +118,29 @@ void Release(WriteResult result) {
   GoodOrTold(ReleaseAxes());
 }
 
+/// The controller drives other axes from its next start on; until then its word about axes at rest
+/// speaks of those it started with.
+void TellWritten(bool other_axes) {
+  const std::string power_cycle = other_axes ? "\n\n" + Text(kMsgPowerCycle) : std::string();
+  MsgBox(Text(1527) + power_cycle, MsgButtons::Ok, MsgIcon::Information);
+}
+
 void TakeWritten() {
   doors.forms->BringToFront(frmPosi);
   TakeDevicesOfParam();  // the standard rows just written name a device for every axis
-  MsgBox(Text(1527), MsgButtons::Ok, MsgIcon::Information);
 }
 
 void Write(bool was_offline) {
   if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill() || !GoodOrTold(HoldAxes())) return;
   AxesOnTrial axes;
   const ParamSetRecord parameters = ParamSet;
+  const std::int16_t axes_before = AppState.AxisPattern;
   const WriteResult result = WriteHeld();
   Release(result);
   if (result == WriteResult::Done) {
     axes.Keep();
     TakeWritten();
+    TellWritten(AppState.AxisPattern != axes_before);
     return;
   }
   ParamSet = parameters;
