@@ -67,7 +67,7 @@ struct Grid : Control {
 
   // Rules that logic sets.
   std::function<bool(int row, int col)> CanEdit;
-  /// Asked when an edit ends: 0 accepts, with the text to show in `text`; 1 refuses.
+  /// Asked when an edit ends: 0 accepts, with the text to show in `text`; 1 refuses, with a beep.
   std::function<int(int row, int col, std::string& text)> AcceptEdit;
   std::function<int(int col)> MaxLength;           ///< characters; 0: no limit
   std::function<bool(int col)> InputMethodOn;      ///< true: the column takes composed text

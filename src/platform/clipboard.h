@@ -4,7 +4,8 @@
 
 namespace tr7 {
 
-/// The door to the system's text clipboard; UTF-8.
+/// The door to the system's text clipboard; UTF-8. Texts that are set have CR alone between lines;
+/// texts of other programs may have LF.
 class Clipboard {
  public:
   virtual ~Clipboard() = default;

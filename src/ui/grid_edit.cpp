@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include "platform/doors.h"
 #include "ui/grid_table.h"
 
 namespace tr7 {
@@ -83,7 +82,6 @@ bool GridTable::FinishEdit() {
   finishing_ = false;
   if (!editor_) return true;
   if (result != 0) {
-    doors.forms->Beep();
     editor_->setText(Q(grid_->Text(edit_row_, edit_col_)).trimmed());
     editor_->selectAll();
     return false;
@@ -91,6 +89,13 @@ bool GridTable::FinishEdit() {
   CloseEditor();
   Push();
   return true;
+}
+
+/// The Delete key, where the cell's rule takes an empty text.
+void GridTable::EmptyCell() {
+  if (!grid_->MayEdit(grid_->Row, grid_->Col)) return;
+  grid_->TypeInto(grid_->Row, grid_->Col, "");
+  Push();
 }
 
 /// Enter or Tab: the record's own way, else to the next shown column and line.
@@ -193,6 +198,7 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
   if (!grid_) return;
   if (grid_->Copy && event->matches(QKeySequence::Copy)) return grid_->Copy();
   if (grid_->Paste && event->matches(QKeySequence::Paste)) return grid_->Paste();
+  if (event->matches(QKeySequence::SelectAll)) return SelectAll();
   if (event->key() == Qt::Key_F6) {
     // Tab belongs to the cells, so this is the way to the other controls.
     focusNextPrevChild(!GoesBack(*event));
@@ -202,6 +208,8 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     MoveOn(GoesBack(*event));
   } else if (event->key() == Qt::Key_Backspace) {
     StartEdit(EditStart::Typed);
+  } else if (event->key() == Qt::Key_Delete) {
+    EmptyCell();
   } else if (MoveByKey(*event)) {
     return;
   } else if (Types(*event)) {

@@ -51,6 +51,12 @@ void GridTable::ShowCurrent() {
   if (InBody(grid_->Row, grid_->Col)) scrollTo(IndexOf(grid_->Row, grid_->Col));
 }
 
+void GridTable::SelectAll() {
+  if (grid_->Rows() <= grid_->FixedRows) return;
+  grid_->Select(grid_->FixedRows, grid_->FixedCols, grid_->Rows() - 1, grid_->Cols() - 1);
+  Push();
+}
+
 void GridTable::SelectRows(int section, bool extend) {
   if (!FinishEdit() || !grid_->Enabled) return;
   setFocus(Qt::MouseFocusReason);

@@ -28,8 +28,8 @@ class GridTable : public QTableView {
   /// Draws what the record holds; nothing while its `Redraw` is off.
   void Push();
 
-  /// Ends the open edit through `AcceptEdit`. True when none is open any more; a refused one beeps
-  /// and stays open with the old text.
+  /// Ends the open edit through `AcceptEdit`. True when none is open any more; a refused one stays
+  /// open with the old text, and the rule has told why.
   bool FinishEdit();
   bool IsEditing() const { return editor_ != nullptr; }
   QLineEdit* Editor() const { return editor_; }
@@ -55,6 +55,7 @@ class GridTable : public QTableView {
   // Edits: grid_edit.cpp.
   void StartEdit(EditStart start, const QString& typed = {});
   void CloseEditor();
+  void EmptyCell();
   void PlaceEditor();
   bool OnEditorKey(const QKeyEvent& key);
   bool LeavesSideways(int key) const;
@@ -67,6 +68,7 @@ class GridTable : public QTableView {
   int PageRows() const;
   void GoTo(int row, int col, bool extend);
   void ShowCurrent();
+  void SelectAll();
   void SelectRows(int section, bool extend);
   void SelectCols(int section, bool extend);
   bool CellAt(const QPoint& at, int& row, int& col) const;

@@ -1,12 +1,29 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <cstdio>
 
 #include "core/install_views.h"
 #include "ui/look.h"
 
+namespace {
+
+/// Without what the plugin for screens that nobody sees has to say of itself.
+void Note(QtMsgType, const QMessageLogContext&, const QString& text) {
+  if (!text.startsWith("This plugin does not support")) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+  }
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  qInstallMessageHandler(Note);
   ::testing::InitGoogleTest(&argc, argv);
+  // A screen that nobody sees, of the size that the tool is made for.
+  if (qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen") {
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TR7_SOURCE_DIR "/tests/ui/screen.json");
+  }
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   tr7::look::Apply(*qApp);

@@ -1,0 +1,354 @@
+// The position grid under real keys and a real mouse.
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "core/main_entry.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_selection.h"
+#include "forms/frm_splash.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+#include "tests/ui/ui_test.h"
+#include "ui/grid_table.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kFirst = kPosiHeaderRows;
+
+class GridTest : public UiTest {
+ protected:
+  void SetUp() override { Start(false); }
+
+  /// The tool offline, with the new table of 15 lines that it proposes.
+  void Start(bool program_mode) {
+    desktop.settings.Set("Settings", "Language", "2");
+    user.on_modal["frmSelection"] = user.on_modal["frmSelection2"] = [program_mode](View& view) {
+      auto& selection = static_cast<SelectionView&>(view);
+      selection.options[selection.lblPrompt.Caption == Text(74) ? program_mode : 1]->Press();
+      selection.cmdOk.Press();
+    };
+    frmSplash.timerSplash.Interval = 10;
+    Main();
+    frmPosi.cmdPosiNew.Press();
+    ASSERT_EQ(grid.Rows(), kFirst + 15);
+    Settle();
+    table = qobject_cast<GridTable*>(desktop.forms.WidgetOf(grid));
+    ASSERT_NE(table, nullptr);
+    GoTo(kFirst, FirstShownColumn());
+  }
+  void GoTo(int row, int col) {
+    grid.SelectCell(row, col);
+    Settle();
+  }
+  /// To whatever has the keys: the open editor, else the grid.
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* target = table->Editor();
+    QTest::keyClick(target ? target : table, key, modifiers);
+    Settle();
+  }
+  void Keys(const char* text) {
+    for (; *text; ++text) {
+      QWidget* target = table->Editor();
+      QTest::keyClick(target ? target : table, *text);
+    }
+  }
+  std::string Cell(int row, int col) const { return grid.Text(row, col); }
+  std::pair<int, int> Current() const { return {grid.Row, grid.Col}; }
+  std::pair<int, int> Corner() const { return {grid.RowSel, grid.ColSel}; }
+  std::string Edited() const { return table->Editor() ? Of(table->Editor()->text()) : "none"; }
+  static std::string Of(const QString& text) { return text.toStdString(); }
+  QPoint Middle(int row, int col) const { return table->CellRect(row, col).center(); }
+  static QString SystemText() { return QGuiApplication::clipboard()->text(); }
+  std::string Hint() const { return frmMain.sbStatusBar.Panels[kPanelError]; }
+
+  Grid& grid = frmPosi.flgdData;
+  GridTable* table = nullptr;
+};
+
+using At = std::pair<int, int>;
+
+TEST_F(GridTest, TypingReplacesTheCellAndEnterTakesItAndMovesOn) {
+  Keys("3");
+  EXPECT_EQ(Edited(), "3");
+  Keys("7");
+  EXPECT_EQ(Edited(), "37");
+  EXPECT_NE(Cell(kFirst, kVel), "37") << "not before the edit ends";
+  Key(Qt::Key_Return);
+  EXPECT_FALSE(table->IsEditing());
+  EXPECT_EQ(Cell(kFirst, kVel), "37");
+  EXPECT_EQ(Current(), At(kFirst, kAcc));
+  EXPECT_TRUE(frmPosi.PosiChanged);
+}
+
+TEST_F(GridTest, F2AndADoubleClickEditInPlace) {
+  const std::string old = Cell(kFirst, kVel);
+  Key(Qt::Key_F2);
+  EXPECT_EQ(Edited(), old);
+  Key(Qt::Key_End);
+  Keys("5");
+  EXPECT_EQ(Edited(), old + "5");
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Edited(), "none");
+  EXPECT_EQ(Cell(kFirst, kVel), old);
+  QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, Middle(kFirst + 2, kAcc));
+  EXPECT_EQ(Edited(), Cell(kFirst + 2, kAcc));
+  EXPECT_EQ(Current(), At(kFirst + 2, kAcc));
+}
+
+TEST_F(GridTest, BackspaceEmptiesAndDeleteAsksTheRule) {
+  Key(Qt::Key_Backspace);
+  EXPECT_EQ(Edited(), "");
+  Key(Qt::Key_Escape);
+  const std::string old = Cell(kFirst, kVel);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(Cell(kFirst, kVel), old) << "a number cell is never empty";
+  EXPECT_FALSE(Hint().empty());
+  grid.SetText(kFirst, kComment, "away");
+  GoTo(kFirst, kComment);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(Cell(kFirst, kComment), "");
+}
+
+TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
+  const std::string old = Cell(kFirst, kVel);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_Down}) {
+    Keys("99999");
+    Key(key);
+    EXPECT_EQ(Edited(), old);
+    EXPECT_EQ(Of(table->Editor()->selectedText()), old) << "the next key replaces it";
+    EXPECT_EQ(Current(), At(kFirst, kVel));
+    EXPECT_EQ(Cell(kFirst, kVel), old);
+    EXPECT_FALSE(Hint().empty());
+  }
+  // Neither the mouse nor a command gets past it.
+  Keys("99999");
+  QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, Middle(kFirst + 3, kAcc));
+  EXPECT_EQ(Current(), At(kFirst, kVel));
+  Keys("99999");
+  auto* insert = qobject_cast<QPushButton*>(desktop.forms.WidgetOf(frmPosi.cmdInsertLine));
+  insert->click();
+  EXPECT_EQ(grid.Rows(), kFirst + 15);
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  Keys("31");
+  insert->click();
+  EXPECT_EQ(grid.Rows(), kFirst + 16) << "a good edit is taken first, then the command runs";
+  EXPECT_EQ(Cell(kFirst + 1, kVel), "31");
+}
+
+struct Move {
+  Qt::Key key;
+  Qt::KeyboardModifiers modifiers;
+  At from, to;
+};
+
+TEST_F(GridTest, KeysMoveTheCurrentCell) {
+  const int last = kFirst + 14;
+  const Qt::KeyboardModifiers none = Qt::NoModifier, shift = Qt::ShiftModifier,
+                              control = Qt::ControlModifier;
+  const Move moves[] = {
+      {Qt::Key_Right, none, {kFirst, 1}, {kFirst, 2}},
+      {Qt::Key_Left, none, {kFirst, 1}, {kFirst, 1}},
+      {Qt::Key_Right, none, {kFirst, kComment}, {kFirst, kComment}},
+      {Qt::Key_Down, none, {kFirst, 3}, {kFirst + 1, 3}},
+      {Qt::Key_Up, none, {kFirst, 3}, {kFirst, 3}},
+      {Qt::Key_Down, none, {last, 3}, {last, 3}},
+      {Qt::Key_Home, none, {5, 9}, {5, 1}},
+      {Qt::Key_End, none, {5, 9}, {5, kComment}},
+      {Qt::Key_Home, control, {5, 9}, {kFirst, 1}},
+      {Qt::Key_End, control, {5, 9}, {last, kComment}},
+      {Qt::Key_Up, control, {9, 9}, {kFirst, 9}},
+      {Qt::Key_Down, control, {9, 9}, {last, 9}},
+      {Qt::Key_PageDown, none, {kFirst, 4}, {last, 4}},
+      {Qt::Key_PageUp, none, {last, 4}, {kFirst, 4}},
+      {Qt::Key_Return, none, {kFirst, 1}, {kFirst, 2}},
+      {Qt::Key_Enter, none, {kFirst, kComment}, {kFirst + 1, 1}},
+      {Qt::Key_Return, shift, {kFirst, 2}, {kFirst, 1}},
+      {Qt::Key_Tab, none, {kFirst, kSm}, {kFirst, kComment}},
+      {Qt::Key_Tab, none, {kFirst, kComment}, {kFirst + 1, 1}},
+      {Qt::Key_Backtab, shift, {kFirst + 1, 1}, {kFirst, kComment}},
+      {Qt::Key_Backtab, shift, {kFirst, 1}, {kFirst, 1}},
+      {Qt::Key_Tab, none, {last, kComment}, {last, kComment}},
+  };
+  for (const Move& move : moves) {
+    GoTo(move.from.first, move.from.second);
+    Key(move.key, move.modifiers);
+    EXPECT_EQ(Current(), move.to) << "key " << std::hex << move.key << " from " << std::dec
+                                  << move.from.first << "," << move.from.second;
+    EXPECT_EQ(Corner(), Current());
+  }
+}
+
+TEST_F(GridTest, ArrowsEndATypedEditAndMoveInsideOneInPlace) {
+  Keys("41");
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Cell(kFirst, kVel), "41");
+  EXPECT_EQ(Current(), At(kFirst, kAcc));
+  grid.SetText(kFirst, kAcc, "100");
+  Key(Qt::Key_F2);
+  Key(Qt::Key_F2);  // the cursor behind the text
+  Key(Qt::Key_Left);
+  EXPECT_TRUE(table->IsEditing());
+  EXPECT_EQ(table->Editor()->cursorPosition(), 2);
+  Keys("5");
+  Key(Qt::Key_Down);
+  EXPECT_EQ(Cell(kFirst, kAcc), "1050");
+  EXPECT_EQ(Current(), At(kFirst + 1, kAcc));
+}
+
+TEST_F(GridTest, ShiftMovesTheOtherCornerOfTheSelection) {
+  GoTo(5, 3);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(Current(), At(5, 3));
+  EXPECT_EQ(Corner(), At(7, 4));
+  Key(Qt::Key_End, Qt::ShiftModifier);
+  EXPECT_EQ(Corner(), At(7, kComment));
+  Keys("2");
+  EXPECT_EQ(Corner(), Current()) << "an edit is of one cell";
+  Key(Qt::Key_Escape);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(Current(), At(kFirst, 1));
+  EXPECT_EQ(Corner(), At(kFirst + 14, kComment));
+}
+
+TEST_F(GridTest, TheMouseSelectsCellsLinesAndColumns) {
+  QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, Middle(4, 2));
+  EXPECT_EQ(Current(), At(4, 2));
+  QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ShiftModifier, Middle(6, 3));
+  EXPECT_EQ(Current(), At(4, 2));
+  EXPECT_EQ(Corner(), At(6, 3));
+  QTest::mousePress(table->viewport(), Qt::LeftButton, {}, Middle(7, 1));
+  QTest::mouseMove(table->viewport(), Middle(9, 2));
+  QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, Middle(9, 2));
+  EXPECT_EQ(Current(), At(7, 1));
+  EXPECT_EQ(Corner(), At(9, 2));
+  QHeaderView& lines = *table->verticalHeader();
+  const QPoint third(5, lines.sectionViewportPosition(2) + 5);
+  QTest::mouseClick(lines.viewport(), Qt::LeftButton, {}, third);
+  EXPECT_EQ(Current(), At(kFirst + 2, 1));
+  EXPECT_EQ(Corner(), At(kFirst + 2, kComment));
+  QHeaderView& columns = *table->horizontalHeader();
+  const QPoint speed(columns.sectionViewportPosition(kVel - 1) + 5, columns.height() - 5);
+  QTest::mouseClick(columns.viewport(), Qt::LeftButton, {}, speed);
+  EXPECT_EQ(Current(), At(kFirst, kVel));
+  EXPECT_EQ(Corner(), At(kFirst + 14, kVel));
+}
+
+TEST_F(GridTest, TheFixedRowsAreTheHeaderAndNeverCells) {
+  EXPECT_EQ(table->model()->rowCount(), grid.Rows() - kPosiHeaderRows);
+  EXPECT_EQ(table->model()->columnCount(), grid.Cols() - grid.FixedCols);
+  GoTo(0, 0);  // where a check leaves the cursor
+  Keys("5");
+  Key(Qt::Key_F2);
+  EXPECT_FALSE(table->IsEditing());
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Current(), At(kFirst, 1));
+}
+
+TEST_F(GridTest, TheInputMethodIsOffInNumberCells) {
+  for (const int col : {int{kVel}, int{kPosi}, int{kSm}}) {
+    GoTo(kFirst, col);
+    EXPECT_FALSE(table->testAttribute(Qt::WA_InputMethodEnabled)) << col;
+    Key(Qt::Key_F2);
+    EXPECT_FALSE(table->Editor()->testAttribute(Qt::WA_InputMethodEnabled)) << col;
+    Key(Qt::Key_Escape);
+  }
+  GoTo(kFirst, kComment);
+  EXPECT_TRUE(table->testAttribute(Qt::WA_InputMethodEnabled));
+  QInputMethodEvent composed(QString(), {});
+  composed.setCommitString(QString::fromUtf8("原点"));
+  QCoreApplication::sendEvent(table, &composed);
+  EXPECT_EQ(Edited(), "原点");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Cell(kFirst, kComment), "原点");
+}
+
+TEST_F(GridTest, ACommentStopsAt20Characters) {
+  GoTo(kFirst, kComment);
+  Keys("123456789012345678901234");
+  EXPECT_EQ(Edited(), "12345678901234567890");
+}
+
+TEST_F(GridTest, CopiesGoToTheSystemsClipboardAsASpreadsheetTakesThem) {
+  grid.SetText(kFirst, kVel, "11");
+  grid.SetText(kFirst + 1, kVel, "12");
+  GoTo(kFirst, kVel);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(Of(SystemText()), "11\r\n12");
+  GoTo(kFirst + 5, kVel);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Cell(kFirst + 5, kVel), "11");
+  EXPECT_EQ(Cell(kFirst + 6, kVel), "12");
+  GoTo(kFirst, 1);
+  Key(Qt::Key_End, Qt::ShiftModifier);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(SystemText().count('\t'), 27);
+  EXPECT_TRUE(Of(SystemText()).starts_with("11\t"));
+}
+
+TEST_F(GridTest, WhatASpreadsheetCopiedIsPasted) {
+  for (const char* text : {"21\n22\n23\n", "21\r\n22\r\n23\r\n", "21\r22\r23"}) {
+    for (int row = kFirst; row < kFirst + 4; ++row) grid.SetText(row, kVel, "30");
+    QGuiApplication::clipboard()->setText(text);
+    GoTo(kFirst, kVel);
+    Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Cell(kFirst, kVel), "21");
+    EXPECT_EQ(Cell(kFirst + 1, kVel), "22");
+    EXPECT_EQ(Cell(kFirst + 2, kVel), "23");
+    EXPECT_EQ(Cell(kFirst + 3, kVel), "30");
+  }
+}
+
+TEST_F(GridTest, CopyAndPasteInAnOpenEditAreTheEditsOwn) {
+  QGuiApplication::clipboard()->setText("45");
+  Key(Qt::Key_F2);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Edited(), "45");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Cell(kFirst, kVel), "45");
+}
+
+TEST_F(GridTest, NothingIsEditedWhileTheGridIsOff) {
+  grid.Enabled = false;
+  Settle();
+  Keys("5");
+  QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, Middle(kFirst, kVel));
+  EXPECT_FALSE(table->IsEditing());
+}
+
+TEST_F(GridTest, F6LeavesTheGridForTheOtherControls) {
+  table->setFocus();
+  ASSERT_TRUE(table->hasFocus() || !table->window()->isActiveWindow());
+  Key(Qt::Key_F6);
+  EXPECT_FALSE(table->hasFocus());
+}
+
+class ProgramGridTest : public GridTest {
+ protected:
+  void SetUp() override { Start(true); }
+};
+
+TEST_F(ProgramGridTest, EnterSkipsHiddenColumnsAndGrowsTheTableAtItsEnd) {
+  EXPECT_EQ(Current(), At(kFirst, kPosi));
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Current(), At(kFirst, AxisBase(1) + kPosi));
+  GoTo(kFirst + 14, kComment);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(grid.Rows(), kFirst + 16);
+  EXPECT_EQ(Current(), At(kFirst + 15, kPosi));
+  GoTo(kFirst, AxisBase(3) + kPosi);
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Current(), At(kFirst, kComment));
+}
+
+}  // namespace
+}  // namespace tr7
