@@ -1,7 +1,9 @@
 #include <algorithm>
 
+#include "core/hooks.h"
 #include "core/reset_state.h"
 #include "forms/frm_syogo_kekka.h"
+#include "para/dev_setting.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
@@ -124,6 +126,27 @@ TEST_F(WriteTest, OfflineTheToolConnectsFirst) {
   EXPECT_EQ(StoredVel(2), 47);
   EXPECT_EQ(forms.LastBox(), Text(376));
   ExpectOnline();
+}
+
+TEST_F(WriteTest, ATableThatIsBadOnceOnlineGoesNowhere) {
+  virt.settings.Set("Settings", "PortOccupy", "0");
+  ReadAndEdit();
+  AppState.DispMmUnit = False;
+  Call(Hooks.PosiUnitChanged);
+  forms.answers = {MsgAnswer::Ok};
+  frmMain.mnuSettingOffline.Press();
+  DevSetting[0].Stroke = 200;  // the PC allows more than the controller's axis has
+  Call(Hooks.RecalcLimits);
+  Cell(2, kPosi, "30000");
+  port.sent.clear();
+  Choose({0});
+  forms.on_modal["frmSyogoKekka"] = [](View& view) { view.Visible = false; };
+  Write(1, 5);
+  EXPECT_EQ(forms.modals.back(), "frmSyogoKekka");
+  EXPECT_EQ(port.sent.find("0WP"), std::string::npos);
+  EXPECT_FALSE(port.IsOpen()) << "the connect before the check has opened it";
+  ExpectOnline();
+  ExpectCommandsOn();
 }
 
 TEST_F(WriteTest, AFailedStepTellsAndEnds) {

@@ -40,12 +40,12 @@ int ResetAndConnect() {
 void AlarmReset() {
   const CommandsOff commands_off;
   const BusyScope busy;
+  const PortClosedAfter port_closed;
   LiftOffline();
   const int result = ResetAndConnect();
   // Where no good reply has confirmed it, the line is not online.
   if (result != 0 && AppState.OfflineTemporarilyLifted) SetOffline();
   AppState.OfflineTemporarilyLifted = False;
-  TusinPortClose();
 }
 
 }  // namespace tr7

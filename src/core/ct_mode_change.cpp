@@ -12,6 +12,7 @@ namespace tr7 {
 void ChangeCtModeMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
+  const PortClosedAfter port_closed;
   if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
   const int choice =
       SelectionDialog2(Text(471), Text(476), {Text(477), Text(478)}, AppState.CtMode ? 1 : 0);
@@ -22,7 +23,6 @@ void ChangeCtModeMenu() {
     // controller. Until then the online tabs stay off.
     AppState.CtModePending = True;
   }
-  TusinPortClose();
 }
 
 }  // namespace tr7

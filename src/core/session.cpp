@@ -95,8 +95,8 @@ int ChangeToOnlineFromCommand() { return OpenPortOrTell() == 0 ? fChangeToOnline
 void ChangeToOnlineMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
+  const PortClosedAfter port_closed;
   ChangeToOnlineFromCommand();  // the step that failed has told the user
-  TusinPortClose();
 }
 
 void ChangeToOfflineMenu() {

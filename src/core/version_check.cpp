@@ -52,6 +52,7 @@ bool CheckModelMarker() {
 void ContVersionMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
+  const PortClosedAfter port_closed;
   if (AppState.Offline ? ChangeToOnlineFromCommand() != 0 : OpenPortOrTell() != 0) return;
   if (GetVersionNo2() == 0) {
     std::string text = Text(426) + "\n\n" + VersionLine(427, AppState.CtVersionText);
@@ -62,7 +63,6 @@ void ContVersionMenu() {
     }
     MsgBox(text, MsgButtons::Ok, MsgIcon::Information);
   }
-  TusinPortClose();
 }
 
 }  // namespace tr7

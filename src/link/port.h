@@ -15,6 +15,16 @@ void TusinPortClose();
 /// Closes the line always.
 void TusinPortCloseForce();
 
+/// A flow that may open the line closes it at its end, on whichever way, unless `PortOccupy` keeps
+/// it.
+class PortClosedAfter {
+ public:
+  PortClosedAfter() = default;
+  ~PortClosedAfter() { TusinPortClose(); }
+  PortClosedAfter(const PortClosedAfter&) = delete;
+  PortClosedAfter& operator=(const PortClosedAfter&) = delete;
+};
+
 /// The device behind a port number 1 to 9: the setting `PortDevice`n, else the n-th port that the
 /// system lists; empty when there is none.
 std::string PortDevice(int port_no);

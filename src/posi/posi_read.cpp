@@ -104,12 +104,12 @@ void PosidataGetfromCt() {
   const BusyScope busy;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
+  const PortClosedAfter port_closed;
   AppState.CancelRequested = False;
   if (!AskWhatToRead()) return;
   if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
   AppState.CancelRequested = False;
   if (ReconcileDevices(DeviceReconcile::Read) == 0) ReadAndShow();
-  TusinPortClose();
 }
 
 }  // namespace tr7

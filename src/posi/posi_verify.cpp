@@ -109,10 +109,10 @@ void PosiDataCtShogo() {
   const BusyScope busy;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
+  const PortClosedAfter port_closed;
   AppState.CancelRequested = False;
   if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0 || !AskRange()) return;
   VerifyWithCt();
-  TusinPortClose();
 }
 
 }  // namespace tr7

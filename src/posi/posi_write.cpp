@@ -215,11 +215,11 @@ void PosidataLoadtoCt() {
   const BusyScope busy;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
+  const PortClosedAfter port_closed;
   AppState.CancelRequested = False;
   if (!AskWhatToWrite() || GoOnlineAndRecheck() != 0) return;
   AppState.CancelRequested = False;
   Write();
-  TusinPortClose();
 }
 
 }  // namespace tr7
