@@ -33,10 +33,9 @@ void VirtualFormHost::BringToFront(View& view) {
 MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
   if (ended) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
   boxes.push_back(call);
+  const auto answer_now = on_message_box ? on_message_box(call) : std::nullopt;
   if (call.Buttons == MsgButtons::Ok) return MsgAnswer::Ok;
-  if (on_message_box) {
-    if (const auto answer = on_message_box(call)) return *answer;
-  }
+  if (answer_now) return *answer_now;
   if (answers.empty()) {
     unanswered.push_back(call.Text);
     return call.Buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
@@ -49,6 +48,7 @@ MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
 std::optional<std::string> VirtualFormHost::FileDialog(const FileDialogCall& call) {
   if (ended) return std::nullopt;
   file_dialogs.push_back(call);
+  if (on_file_dialog) return on_file_dialog(call);
   if (file_answers.empty()) {
     unanswered.push_back(call.Title);
     return std::nullopt;

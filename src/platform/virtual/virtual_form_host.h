@@ -31,10 +31,12 @@ class VirtualFormHost : public FormHost {
 
   /// Next answers to message boxes; a box with OK alone needs none.
   std::deque<MsgAnswer> answers;
-  /// When set, asked for every box that needs an answer, before `answers`.
+  /// When set, sees every box, and is asked before `answers` where one needs an answer.
   std::function<std::optional<MsgAnswer>(const MessageBoxCall&)> on_message_box;
   /// Next answers of file dialogues.
   std::deque<std::optional<std::string>> file_answers;
+  /// When set, asked instead of them.
+  std::function<std::optional<std::string>(const FileDialogCall&)> on_file_dialog;
   /// What the user does in a modal view, by view name; the handler is called once it is shown and
   /// must end by closing it, or have arranged for that on the clock (then set `may_wait`).
   std::map<std::string, std::function<void(View&)>> on_modal;

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <span>
+
+#include "tests/fleet/voyage.h"
+
+namespace tr7 {
+
+/// One thing that the user does, with its own invariants.
+struct Flow {
+  const char* name;
+  int weight;
+  void (*run)(Voyage& voyage);
+};
+
+// The flows by subject.
+std::span<const Flow> SessionFlows();
+std::span<const Flow> TransferFlows();  ///< reading first
+std::span<const Flow> FileFlows();      ///< new data first
+std::span<const Flow> EditFlows();
+
+/// The start of the tool, with its choice between online and offline.
+void StartTool(Voyage& voyage);
+
+}  // namespace tr7

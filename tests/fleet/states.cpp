@@ -1,0 +1,97 @@
+#include "tests/fleet/states.h"
+
+#include "core/text_helpers.h"
+#include "forms/frm_posi.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+
+namespace tr7 {
+namespace {
+
+int Field(const std::string& block, std::size_t at, std::size_t width) {
+  return static_cast<int>(HexValue(std::string_view(block).substr(at, width)));
+}
+
+}  // namespace
+
+MachineState MachineOfPc() {
+  MachineState machine;
+  machine.program_mode = AppState.CtMode;
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    const DevSettingRecord& device = DevSetting[axis];
+    machine.in_use[axis] = !AppState.AxisMuko[axis];
+    if (!machine.in_use[axis]) continue;
+    machine.devices[axis] = {device.Lead, device.Ppr, device.Stroke,
+                             static_cast<int>(AppState.StrokePulse[axis]), device.WithPG};
+  }
+  return machine;
+}
+
+MachineState MachineOfCt(const qvr7sim::Controller& controller) {
+  MachineState machine;
+  const std::string& common = controller.WrittenBlock(0);
+  const int mask = Field(common, 2, 2);
+  machine.program_mode = Field(common, 18, 2) == 1;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const auto index = static_cast<std::size_t>(axis);
+    machine.in_use[index] = (mask & (1 << axis)) != 0;
+    if (!machine.in_use[index]) continue;
+    const std::string& device = controller.WrittenBlock(4 + 3 * axis);
+    const int pg = Field(controller.WrittenBlock(3 + 3 * axis), 16, 2);
+    machine.devices[index] = {Field(device, 2, 2), Field(device, 4, 4),
+                              Field(device, 22, 2) * 256 + Field(device, 20, 2),
+                              Field(device, 8, 6), pg == 1 || pg == 2};
+  }
+  return machine;
+}
+
+bool TableState::IsKeptIn(const TableState& later) const {
+  if (first != later.first || last != later.last) return false;
+  if (file_calls == later.file_calls && name != later.name) return false;
+  if (machine == later.machine && in_mm == later.in_mm) {
+    const bool same_state = file_calls != later.file_calls || changed == later.changed;
+    return same_state && texts == later.texts && (changed || pulses == later.pulses);
+  }
+  if (texts.size() != later.texts.size()) return false;
+  for (std::size_t i = kComment; i < texts.size(); i += kPosiColumns) {
+    if (texts[i] != later.texts[i]) return false;
+  }
+  return true;
+}
+
+TableState TableNow(int file_calls) {
+  TableState table;
+  table.first = AppState.PosiFirstNo;
+  table.last = AppState.PosiLastNo;
+  table.name = PosiTable.Name;
+  table.changed = frmPosi.PosiChanged;
+  table.machine = MachineOfPc();
+  table.in_mm = AppState.DispMmUnit;
+  table.file_calls = file_calls;
+  const Grid& grid = frmPosi.flgdData;
+  for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
+    for (int col = 0; col < kPosiColumns; ++col) table.texts.push_back(grid.Text(row, col));
+  }
+  for (int n = table.first; n <= table.last && n > 0; ++n) {
+    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+      if (AppState.AxisMuko[axis]) continue;
+      table.pulses.push_back(PosiTable.PosiPulse[axis][static_cast<std::size_t>(n)]);
+    }
+  }
+  return table;
+}
+
+CtMemory MemoryOf(const qvr7sim::Controller& controller) {
+  CtMemory memory;
+  for (int n = 1; n <= qvr7sim::kPositions; ++n) {
+    memory.committed.push_back(controller.CommittedPosition(n));
+    memory.written.push_back(controller.WrittenPosition(n));
+  }
+  for (int block = 0; block < qvr7sim::kParameterBlocks; ++block) {
+    memory.committed_blocks.push_back(controller.CommittedBlock(block));
+    memory.written_blocks.push_back(controller.WrittenBlock(block));
+  }
+  return memory;
+}
+
+}  // namespace tr7

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/app_state.h"
+#include "para/dev_setting.h"
+#include "sim/controller.h"
+
+namespace tr7 {
+
+/// A device by what the controller is compared by.
+struct DeviceState {
+  int lead = 0, ppr = 0, stroke = 0, max_pulses = 0;
+  bool with_pg = false;
+  bool operator==(const DeviceState&) const = default;
+};
+
+/// Axes, mode and devices: what the PC believes of the machine, or what the controller reports.
+/// Devices of axes not in use count as none.
+struct MachineState {
+  std::array<bool, kAxes> in_use{};
+  bool program_mode = false;
+  std::array<DeviceState, kAxes> devices{};
+  bool operator==(const MachineState&) const = default;
+};
+
+MachineState MachineOfPc();
+MachineState MachineOfCt(const qvr7sim::Controller& controller);
+
+/// The position table as the user sees it, and the pulses behind it.
+struct TableState {
+  int first = 0, last = 0;
+  std::string name;
+  bool changed = false;
+  std::vector<std::string> texts;    ///< of the body, line by line
+  std::vector<std::int32_t> pulses;  ///< of the axes in use
+  MachineState machine;              ///< which the table is shown for
+  bool in_mm = false;
+  int file_calls = 0;  ///< of the file door so far: a save is one way to change a name
+  /// True when nothing of this table is lost in `later`: the same in every cell, or, where the
+  /// machine or the unit changed in between, in every line and comment.
+  bool IsKeptIn(const TableState& later) const;
+};
+
+TableState TableNow(int file_calls);
+
+/// The controller's positions and parameter blocks.
+struct CtMemory {
+  std::vector<std::string> committed, written;  ///< [number - 1]
+  std::vector<std::string> committed_blocks, written_blocks;
+  bool operator==(const CtMemory&) const = default;
+};
+
+CtMemory MemoryOf(const qvr7sim::Controller& controller);
+
+}  // namespace tr7

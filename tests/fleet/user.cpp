@@ -1,0 +1,132 @@
+#include "tests/fleet/user.h"
+
+#include "core/text.h"
+#include "forms/frm_device.h"
+#include "forms/frm_options2.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_selection.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+void Pick(Random& random, ComboBox& combo) {
+  if (!combo.List.empty()) combo.Pick(random.Below(static_cast<int>(combo.List.size())));
+}
+
+void ChangeADevice(Random& random, DeviceView& view) {
+  const auto axis = static_cast<std::size_t>(random.Below(kAxes));
+  switch (random.Below(6)) {
+    case 0:
+      return Pick(random, view.comboAxisSelect);
+    case 1:
+      return view.chkAxisEnable[axis].Set(!view.chkAxisEnable[axis].Value);
+    case 2:
+      return view.chkNewOrOld[axis].Set(!view.chkNewOrOld[axis].Value);
+    case 3:
+      return view.chkDevPgUse[axis].Set(!view.chkDevPgUse[axis].Value);
+    default:
+      Pick(random, view.comboDeviceSize[axis]);
+      Pick(random, view.comboDeviceSpeed[axis]);
+      Pick(random, view.comboDeviceStroke[axis]);
+  }
+}
+
+/// Changes this and that, perhaps writes, and leaves by one of the buttons.
+void AnswerDevices(Voyage& voyage, DeviceView& view) {
+  Random& random = voyage.random;
+  for (int changes = random.Below(4); changes > 0; --changes) ChangeADevice(random, view);
+  if (random.Chance(40)) {
+    voyage.sent_at_refusal.reset();  // a command of its own
+    view.cmdPrmCtWrite.Press();
+  }
+  for (CommandButton* button : {&view.cmdDeviceSet, &view.cmdDeviceBack, &view.cmdDeviceCancel}) {
+    if (view.Visible && random.Chance(60)) button->Press();
+  }
+  if (view.Visible) view.cmdDeviceCancel.Press();
+}
+
+void AnswerChoice(Voyage& voyage, SelectionView& view) {
+  Random& random = voyage.random;
+  if (random.Chance(10)) view.cmdBack.Press();
+  if (view.Visible && random.Chance(10)) view.cmdCancel.Press();
+  if (!view.Visible) return;
+  const int choice = random.Chance(70) ? 0 : 1;
+  voyage.choices[view.lblPrompt.Caption] = choice;
+  AnswerSelection(view, choice);
+}
+
+void AnswerRange(Random& random, SelectPosiNoView& view) {
+  if (random.Chance(50)) {
+    view.cmdOk.Press();  // as proposed
+  } else {
+    const int first = random.Between(1, 40);
+    FillRange(view, first, first + random.Below(15));
+  }
+  if (view.Visible) view.cmdCancel.Press();
+}
+
+void AnswerOptions(Random& random) {
+  FrmOptions2& f = frmOptions2;
+  for (int tab = 0; tab < 4; ++tab) {
+    f.tabOptions.Selected = tab;
+    f.tabOptions.Click();
+    if (random.Chance(50)) continue;
+    f.chkPortOccupy.Set(!f.chkPortOccupy.Value);
+    (random.Chance(50) ? f.optRoundUp : f.optRoundDown).Press();
+    (random.Chance(50) ? f.optUnitMm : f.optUnitPulse).Press();
+    (random.Chance(50) ? f.optJapanese : f.optEnglish).Press();
+  }
+  (random.Chance(80) ? f.cmdOk : f.cmdCancel).Press();
+}
+
+MsgAnswer AnswerBox(Voyage& voyage, const MessageBoxCall& call) {
+  Random& random = voyage.random;
+  if (call.Buttons == MsgButtons::Ok) {
+    // The controller's own refusal.
+    const bool refused = call.Text.starts_with(Text(104) + "\n") && call.Text.ends_with("]");
+    if (refused) voyage.sent_at_refusal = voyage.virt.port.sent.size();
+    return MsgAnswer::Ok;
+  }
+  if (call.Buttons != MsgButtons::OkCancel) {
+    return random.OneOf({MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::No, MsgAnswer::Cancel});
+  }
+  if (random.Chance(85)) return MsgAnswer::Ok;
+  voyage.sent_at_refusal = voyage.virt.port.sent.size();
+  return MsgAnswer::Cancel;
+}
+
+}  // namespace
+
+std::string AnyPath(Random& random) {
+  return std::string("/work/") + random.OneOf({"a", "b", "c"}) + ".qvd";
+}
+
+void SeatUser(Voyage& voyage) {
+  VirtualFormHost& forms = voyage.virt.forms;
+  forms.on_message_box = [&voyage](const MessageBoxCall& call) -> std::optional<MsgAnswer> {
+    return AnswerBox(voyage, call);
+  };
+  forms.on_file_dialog = [&voyage](const FileDialogCall& call) -> std::optional<std::string> {
+    if (voyage.random.Chance(15)) return std::nullopt;
+    std::string path = AnyPath(voyage.random);
+    for (int look = 3; !call.Save && look > 0 && !voyage.virt.files.Exists(path); --look) {
+      path = AnyPath(voyage.random);
+    }
+    return path;
+  };
+  forms.on_any_modal = [&voyage](View& view) {
+    Random& random = voyage.random;
+    if (auto* choice = dynamic_cast<SelectionView*>(&view)) {
+      AnswerChoice(voyage, *choice);
+    } else if (auto* range = dynamic_cast<SelectPosiNoView*>(&view)) {
+      AnswerRange(random, *range);
+    } else if (auto* devices = dynamic_cast<DeviceView*>(&view)) {
+      AnswerDevices(voyage, *devices);
+    } else if (&view == &frmOptions2) {
+      AnswerOptions(random);
+    }
+  };
+}
+
+}  // namespace tr7
