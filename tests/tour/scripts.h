@@ -17,5 +17,8 @@ void MainJob(Tour& tour);
 void ProgramModeJob(Tour& tour);
 /// A start offline, with its mode and its devices, and other devices later on.
 void OfflineDevices(Tour& tour);
+/// Offline with devices chosen by hand, the parameters that follow from them, and a controller that
+/// differs in mode and devices.
+void OfflineStart(Tour& tour);
 
 }  // namespace tr7::tour

@@ -15,6 +15,8 @@ const std::vector<Session>& Sessions() {
       {"en", {kEnglish}, {}, FirstLook},
       {"job", {kEnglish}, {}, MainJob},
       {"prg", {kEnglish}, {"--mode", "prg"}, ProgramModeJob},
+      {"offline", {kEnglish}, {"--mode", "prg"}, OfflineStart},
+      {"offline-ja", {kJapanese}, {"--mode", "prg"}, OfflineStart},
       {"ja", {kJapanese}, {}, JapaneseLook},
       {"devices-en", {kEnglish}, {}, OfflineDevices},
       {"devices-ja", {kJapanese}, {}, OfflineDevices},

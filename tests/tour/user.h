@@ -10,6 +10,7 @@
 #include "forms/grid.h"
 #include "platform/form_host.h"
 
+class QTabWidget;
 class QWidget;
 
 namespace tr7 {
@@ -32,6 +33,10 @@ class User {
   void Choose(Menu& menu, Menu& command);
   void OpenMenu(Menu& menu);
   void Pick(ComboBox& list, int index);
+  void PickText(ComboBox& list, const std::string& entry);
+  /// Pages of the view's own tabs, and turning to one, from 0.
+  int Pages(View& view);
+  void TurnToPage(View& view, int page);
   /// Replaces what the field holds.
   void Type(TextBox& field, const std::string& text);
   void ClickCell(Grid& grid, int row, int col);
@@ -52,10 +57,13 @@ class User {
   void SeeLamp(Image& lamp, bool lit);
   /// A label, button, field or list says this somewhere in its text.
   void SeeText(Control& control, const std::string& part);
+  void SeeEmpty(TextBox& field);
   void SeeCell(Grid& grid, int row, int col, const std::string& text);
   /// The grid's cell editor is open and holds this.
   void SeeCellEditor(Grid& grid, const std::string& text);
   void SeeTitle(View& view, const std::string& title);
+  /// The list offers no such entry.
+  void SeeLacks(ComboBox& list, const std::string& entry);
   /// The status bar's panel says this.
   void SeePanel(int panel, const std::string& part, int within_ms = kSoonMs);
   /// A box with this text is in front.
@@ -76,6 +84,9 @@ class User {
 
   void ClickPlace(const std::string& what, const Place& place, Press press = nullptr);
   void SeeFocus();
+  /// The list's entry of that text, or -1.
+  int EntryOf(ComboBox& list, const std::string& entry);
+  QTabWidget* TabsOf(View& view) const;
   QWidget* WidgetOf(const Control& control) const;
   void PressCell(Grid& grid, int row, int col, Press press);
 

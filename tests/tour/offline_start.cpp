@@ -1,0 +1,124 @@
+#include "core/text.h"
+#include "forms/frm_device.h"
+#include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_selection.h"
+#include "forms/frm_stroke_calc.h"
+#include "tests/tour/common_steps.h"
+#include "tests/tour/scripts.h"
+
+namespace tr7::tour {
+namespace {
+
+constexpr int kModeQuestion = 74, kPositionerMode = 128, kProgramMode = 129;
+constexpr int kOfflineText = 5117, kOnlineText = 5116;
+constexpr int kReconcileMode = 490, kReconcileDevices = 371;
+constexpr int kSaveBeforeClose = 6067;
+constexpr int kAxis2 = 221;
+constexpr std::size_t kFirst = 0, kSecond = 1;
+
+/// Offline is chosen, then the mode; the device dialogue is up at the end.
+void ChooseOffline(Tour& tour) {
+  User& user = tour.user;
+  PassSplashUnseen(tour);
+  user.Click(frmSelection.optChoice2);
+  user.Click(frmSelection.cmdOk);
+  user.SeeText(frmSelection.lblPrompt, Text(kModeQuestion));
+  user.Picture("mode-choice");
+  user.Click(frmSelection.cmdOk);
+  user.SeeOn(frmDevice3.cmdDeviceSet);
+}
+
+/// A size offers its speeds, and both their strokes.
+void ChooseDevices(Tour& tour) {
+  User& user = tour.user;
+  DeviceView& dialog = frmDevice3;
+  user.Picture("devices");
+  user.PickText(dialog.comboDeviceSize[kFirst], " 50");
+  user.PickText(dialog.comboDeviceSpeed[kFirst], "H");
+  user.SeeLacks(dialog.comboDeviceStroke[kFirst], "100");
+  user.PickText(dialog.comboDeviceStroke[kFirst], "400");
+  user.Pick(dialog.comboAxisSelect, 1);
+  user.SeeOff(dialog.framAxis[2]);
+  user.Picture("devices-cascade");
+  user.Pick(dialog.comboAxisSelect, 3);
+  user.SeeOn(dialog.framAxis[2]);
+  user.Click(dialog.cmdDeviceSet);
+  user.SeeGone(dialog);
+  user.SeeReady();
+  user.SeeText(frmMain.lblOnline, Text(kOfflineText));
+  user.SeeText(frmMain.lblCtMode, Text(kPositionerMode));
+  user.Picture("offline");
+}
+
+void RefuseValue(Tour& tour) {
+  User& user = tour.user;
+  TextBox& field = frmParameta2.txtHomeOffset[kSecond];
+  user.Type(field, "99999");
+  user.Key(Qt::Key_Tab);
+  user.SeePanel(kPanelError, Text(kAxis2));
+  user.SeeEmpty(field);
+  user.Picture("parameter-refused");
+}
+
+void CalculateStroke(Tour& tour) {
+  User& user = tour.user;
+  user.Click(frmParameta2.cmdCalculate);
+  user.SeeOn(frmStrokeCalc.cmdCulStrokePulse);
+  user.Picture("stroke-empty");
+  user.Type(frmStrokeCalc.txtCulStroke, "150");
+  user.Type(frmStrokeCalc.txtCulLead, "6");
+  user.Click(frmStrokeCalc.cmdCulStrokePulse);
+  // 150 mm at 6 mm and 400 pulses a turn.
+  user.SeeText(frmStrokeCalc.lblStrokePulse, "10000");
+  user.Picture("stroke-result");
+  user.Click(frmStrokeCalc.cmdClose);
+  user.SeeGone(frmStrokeCalc);
+}
+
+void ShowParameters(Tour& tour) {
+  User& user = tour.user;
+  user.Choose(frmMain.mnuView, frmMain.mnuViewPara);
+  user.SeeOn(frmParameta2.cmdIniPrm);
+  user.SeeText(frmParameta2.txtAxisMmStroke[kFirst], "400");
+  for (int page = 0; page < user.Pages(frmParameta2); ++page) {
+    user.TurnToPage(frmParameta2, page);
+    user.Picture("parameters-" + std::to_string(page + 1));
+  }
+  user.TurnToPage(frmParameta2, 0);
+  RefuseValue(tour);
+  CalculateStroke(tour);
+  user.Click(frmParameta2.cmdClose);
+  user.SeeBox(Text(kSaveBeforeClose));
+  user.Answer(MsgAnswer::No);
+  user.SeeGone(frmParameta2);
+}
+
+/// The controller runs in the other mode and has other devices.
+void GoOnline(Tour& tour) {
+  User& user = tour.user;
+  user.SeeReady();
+  user.Choose(frmMain.mnuSetting, frmMain.mnuSettingOnline);
+  user.SeeText(frmSelection.lblPrompt, Text(kReconcileMode));
+  user.Picture("reconcile-mode");
+  user.Click(frmSelection.cmdOk);
+  user.SeeText(frmSelection.lblPrompt, Text(kReconcileDevices));
+  user.Picture("reconcile-devices");
+  user.Click(frmSelection.cmdOk);
+  user.SeeText(frmMain.lblOnline, Text(kOnlineText));
+  user.SeeText(frmMain.lblCtMode, Text(kProgramMode));
+  user.SeeReady();
+  user.Picture("reconciled");
+}
+
+}  // namespace
+
+void OfflineStart(Tour& tour) {
+  ChooseOffline(tour);
+  ChooseDevices(tour);
+  ShowParameters(tour);
+  GoOnline(tour);
+  LeaveByMenu(tour);
+}
+
+}  // namespace tr7::tour
