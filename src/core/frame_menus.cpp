@@ -100,7 +100,9 @@ void ChangeMenuDisp(Bool16 mode) {
   f.mnuSettingOnline.Enabled = AppState.Offline;
   f.mnuSettingOffline.Enabled = !AppState.Offline;
   f.mnuSettingDeviceOnline.Enabled = !AppState.Offline;
-  if (mode) Enable({&f.mnuMonitor, &f.mnuCont}, !AppState.Offline);
+  // A flow that learns the mode on its way keeps the commands off.
+  if (mode)
+    Enable({&f.mnuMonitor, &f.mnuCont}, !AppState.Offline && AppState.CommandsOffDepth == 0);
   SwitchOffUnbuiltCommands();
 }
 

@@ -69,6 +69,7 @@ void ApplyWindowRectangle() {
 void LoadFrame() {
   ApplyWindowRectangle();
   PumpUntilSplashDone();
+  frmMain.Caption = Text(201) + " Ver" + VersionText();
   // The splash goes before the first dialogue comes, or it would stand over it.
   doors.forms->Show(frmMain);
   frmMain.Visible = true;
@@ -76,7 +77,6 @@ void LoadFrame() {
   ShowView(frmPosi);
   Hide_ProgressBar();
   StartOnlineOfflineChoice();
-  frmMain.Caption = Text(201) + " Ver" + VersionText();
 }
 
 bool QueryUnloadFrame(CloseReason reason) {

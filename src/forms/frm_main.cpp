@@ -2,7 +2,7 @@
 
 namespace tr7 {
 
-FrmMain::FrmMain() : View("frmMain", 201) {
+FrmMain::FrmMain() : View("frmMain") {
   imgAlarm.Visible = false;
   imgComPort.Visible = false;
   imgOnline.Visible = false;

@@ -13,6 +13,8 @@ namespace tr7::look {
 namespace {
 
 constexpr qreal kFontPoints = 9.5;
+/// Japanese letters fill their field, and their lines are high.
+constexpr qreal kJapanesePoints = 9;
 
 QPalette LightPalette() {
   QPalette palette;
@@ -86,7 +88,10 @@ void UseLanguage(bool japanese) {
   in_use = japanese;
   QFont font = plain;
   const QString family = japanese ? JapaneseFamily() : QString();
-  if (!family.isEmpty()) font.setFamilies({family, plain.family()});
+  if (!family.isEmpty()) {
+    font.setFamilies({family, plain.family()});
+    font.setPointSizeF(kJapanesePoints);
+  }
   QApplication::setFont(font);
 }
 

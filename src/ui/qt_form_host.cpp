@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 #include <string_view>
 
 #include "core/app_state.h"
@@ -27,6 +28,17 @@ constexpr std::int64_t kPushEveryUs = 16'000;
 constexpr std::int64_t kExposeUs = 200'000;
 
 bool Is(const View& view, std::string_view name) { return name == view.Name; }
+
+/// Over the middle of the window that it belongs to, within the screen.
+void PlaceDialog(QWidget& window) {
+  const QRect field = window.screen()->availableGeometry();
+  const QWidget* over = window.parentWidget() ? window.parentWidget()->window() : nullptr;
+  QRect place(QPoint(), window.size());
+  place.moveCenter(over && over->isVisible() ? over->geometry().center() : field.center());
+  place.moveRight(std::min(place.right(), field.right()));
+  place.moveLeft(std::max(place.left(), field.left()));
+  window.move(place.topLeft());
+}
 
 }  // namespace
 
@@ -138,6 +150,9 @@ void QtFormHost::ShowDialog(View& view, QWidget& window, bool modal) {
     window.resize(wanted.boundedTo(window.screen()->availableSize() - QSize(20, 60)));
   }
   window.show();
+  // Only now have lists and fonts given it its size.
+  window.layout()->activate();
+  PlaceDialog(window);
   window.raise();
   window.activateWindow();
 }
@@ -175,12 +190,25 @@ void QtFormHost::Hide(View& view) {
   if (found == shown_.end()) return;
   QWidget* window = found->second.window;
   shown_.erase(found);
+  const bool filled_frame = view.MdiChild && mdi_ && window->isMaximized();
   window->hide();
+  if (filled_frame) FillFrame(*window);
   // The window may stand further up in the calls, in the click that closes it.
   window->deleteLater();
   if (window == frame_) {
     frame_ = nullptr;
     mdi_ = nullptr;
+  }
+}
+
+/// The view that comes up where `gone` was fills the frame as that did.
+void QtFormHost::FillFrame(const QWidget& gone) {
+  const QList<QMdiSubWindow*> windows = mdi_->subWindowList(QMdiArea::ActivationHistoryOrder);
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+    if (*window == &gone || (*window)->isHidden()) continue;
+    (*window)->showMaximized();
+    mdi_->setActiveSubWindow(*window);
+    return;
   }
 }
 

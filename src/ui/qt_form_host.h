@@ -58,6 +58,7 @@ class QtFormHost : public FormHost {
   QWidget* ParentForDialogs() const;
   void ShowFrame();
   void ShowChild(View& view, QMdiSubWindow& child);
+  void FillFrame(const QWidget& gone);
   void ShowDialog(View& view, QWidget& window, bool modal);
   bool MayCommand();
   std::optional<std::int64_t> PushWhenDue();
