@@ -22,18 +22,12 @@ bool IsOurs(const QString& name) {
          !name.startsWith("_q_");
 }
 
-/// A property that layout files give to a widget whose neighbours must not move when it goes.
-constexpr const char* kKeepsPlace = "keepsPlace";
-
-void KeepPlace(QWidget& widget) {
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget.setSizePolicy(policy);
-}
-
+/// Widgets on `area` keep their places while they are hidden.
 void KeepPlaces(const QWidget& area) {
   for (QWidget* widget : area.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-    KeepPlace(*widget);
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
   }
 }
 
@@ -67,7 +61,6 @@ void BoundView::Tie(Control& control, const CommandGate& gate) {
   auto* widget = qobject_cast<QWidget*>(target);
   if (!widget || qobject_cast<QMenu*>(target)) return;
   widgets_.emplace_back(&control, widget);
-  if (widget->property(kKeepsPlace).toBool()) KeepPlace(*widget);
   if (auto* grid = qobject_cast<GridTable*>(widget)) grids_.push_back(grid);
 }
 

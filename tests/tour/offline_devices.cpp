@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "core/app_state.h"
 #include "core/text.h"
 #include "forms/frm_device.h"
@@ -7,21 +5,10 @@
 #include "forms/frm_posi.h"
 #include "forms/frm_selection.h"
 #include "tests/tour/common_steps.h"
-#include "tests/tour/in_tool.h"
 #include "tests/tour/scripts.h"
 
 namespace tr7::tour {
 namespace {
-
-void PickText(User& user, ComboBox& combo, const std::string& text) {
-  user.SeeOn(combo);
-  const int index = InTool([&] {
-    const auto found = std::find(combo.List.begin(), combo.List.end(), text);
-    return static_cast<int>(found - combo.List.begin());
-  });
-  user.Pick(combo, index);
-  user.SeeText(combo, text);
-}
 
 void ChooseOfflineAndMode(User& user) {
   user.SeeText(frmSelection.lblPrompt, Text(71));
@@ -36,10 +23,10 @@ void ChooseOfflineAndMode(User& user) {
 void ChooseDevices(User& user) {
   user.SeeOn(frmDevice3.comboDeviceSize[0]);
   user.Picture("offline-devices");
-  PickText(user, frmDevice3.comboDeviceSize[0], " 42");
-  PickText(user, frmDevice3.comboDeviceSpeed[0], "H");
-  PickText(user, frmDevice3.comboDeviceStroke[0], "300");
-  PickText(user, frmDevice3.comboDeviceSize[1], "E35");
+  user.PickText(frmDevice3.comboDeviceSize[0], " 42");
+  user.PickText(frmDevice3.comboDeviceSpeed[0], "H");
+  user.PickText(frmDevice3.comboDeviceStroke[0], "300");
+  user.PickText(frmDevice3.comboDeviceSize[1], "E35");
   user.Click(frmDevice3.chkNewOrOld[2]);
   user.SeeText(frmDevice3.comboDeviceSize[2], "28");
   user.Click(frmDevice3.chkAxisEnable[3]);

@@ -17,8 +17,8 @@ void MainJob(Tour& tour);
 void ProgramModeJob(Tour& tour);
 /// A start offline, with its mode and its devices, and other devices later on.
 void OfflineDevices(Tour& tour);
-/// Offline with devices chosen by hand, the parameters that follow from them, and a controller that
-/// differs in mode and devices.
-void OfflineStart(Tour& tour);
+/// The parameters that follow from devices chosen offline, and a controller that differs in mode
+/// and devices.
+void ParametersAndReconcile(Tour& tour);
 
 }  // namespace tr7::tour

@@ -13,13 +13,13 @@ const char* const kEnglish = "Language=2";
 const std::vector<Session>& Sessions() {
   static const std::vector<Session> kSessions{
       {"en", {kEnglish}, {}, FirstLook},
+      {"ja", {kJapanese}, {}, JapaneseLook},
       {"job", {kEnglish}, {}, MainJob},
       {"prg", {kEnglish}, {"--mode", "prg"}, ProgramModeJob},
-      {"offline", {kEnglish}, {"--mode", "prg"}, OfflineStart},
-      {"offline-ja", {kJapanese}, {"--mode", "prg"}, OfflineStart},
-      {"ja", {kJapanese}, {}, JapaneseLook},
       {"devices-en", {kEnglish}, {}, OfflineDevices},
       {"devices-ja", {kJapanese}, {}, OfflineDevices},
+      {"para-en", {kEnglish}, {"--mode", "prg"}, ParametersAndReconcile},
+      {"para-ja", {kJapanese}, {"--mode", "prg"}, ParametersAndReconcile},
   };
   return kSessions;
 }

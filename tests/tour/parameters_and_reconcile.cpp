@@ -17,38 +17,24 @@ constexpr int kSaveBeforeClose = 6067;
 constexpr int kAxis2 = 221;
 constexpr std::size_t kFirst = 0, kSecond = 1;
 
-/// Offline is chosen, then the mode; the device dialogue is up at the end.
-void ChooseOffline(Tour& tour) {
+/// With the devices of the settings, but for the first axis.
+void StartOffline(Tour& tour) {
   User& user = tour.user;
   PassSplashUnseen(tour);
   user.Click(frmSelection.optChoice2);
   user.Click(frmSelection.cmdOk);
   user.SeeText(frmSelection.lblPrompt, Text(kModeQuestion));
-  user.Picture("mode-choice");
   user.Click(frmSelection.cmdOk);
   user.SeeOn(frmDevice3.cmdDeviceSet);
-}
-
-/// A size offers its speeds, and both their strokes.
-void ChooseDevices(Tour& tour) {
-  User& user = tour.user;
-  DeviceView& dialog = frmDevice3;
-  user.Picture("devices");
-  user.PickText(dialog.comboDeviceSize[kFirst], " 50");
-  user.PickText(dialog.comboDeviceSpeed[kFirst], "H");
-  user.SeeLacks(dialog.comboDeviceStroke[kFirst], "100");
-  user.PickText(dialog.comboDeviceStroke[kFirst], "400");
-  user.Pick(dialog.comboAxisSelect, 1);
-  user.SeeOff(dialog.framAxis[2]);
-  user.Picture("devices-cascade");
-  user.Pick(dialog.comboAxisSelect, 3);
-  user.SeeOn(dialog.framAxis[2]);
-  user.Click(dialog.cmdDeviceSet);
-  user.SeeGone(dialog);
+  user.PickText(frmDevice3.comboDeviceSize[kFirst], " 50");
+  user.PickText(frmDevice3.comboDeviceSpeed[kFirst], "H");
+  user.SeeLacks(frmDevice3.comboDeviceStroke[kFirst], "100");
+  user.PickText(frmDevice3.comboDeviceStroke[kFirst], "400");
+  user.Click(frmDevice3.cmdDeviceSet);
+  user.SeeGone(frmDevice3);
   user.SeeReady();
   user.SeeText(frmMain.lblOnline, Text(kOfflineText));
   user.SeeText(frmMain.lblCtMode, Text(kPositionerMode));
-  user.Picture("offline");
 }
 
 void RefuseValue(Tour& tour) {
@@ -113,9 +99,8 @@ void GoOnline(Tour& tour) {
 
 }  // namespace
 
-void OfflineStart(Tour& tour) {
-  ChooseOffline(tour);
-  ChooseDevices(tour);
+void ParametersAndReconcile(Tour& tour) {
+  StartOffline(tour);
   ShowParameters(tour);
   GoOnline(tour);
   LeaveByMenu(tour);
