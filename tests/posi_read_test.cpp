@@ -1,4 +1,5 @@
 #include "core/session.h"
+#include "para/dev_setting.h"
 #include "posi/posi_table.h"
 #include "posi/posi_wire.h"
 #include "tests/support/flow_test.h"
@@ -99,6 +100,20 @@ TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
   EXPECT_EQ(AppState.PosiLastNo, 2) << "the old table stays";
   EXPECT_TRUE(BoxShown(Text(385)));
   ExpectCommandsOn();
+}
+
+TEST_F(ReadTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
+  StartOnline();
+  ReadRange(1, 5);
+  forms.answers = {MsgAnswer::Ok};
+  frmMain.mnuSettingOffline.Press();
+  DevSetting[0].Lead = 7;
+  port.sent.clear();
+  Choose({0});
+  ReadRange(8, 9);
+  EXPECT_EQ(asked.back(), Text(371));
+  EXPECT_EQ(port.sent.find("0RP001"), std::string::npos);
+  EXPECT_EQ(Cell(2, 0) + " to " + Cell(frmPosi.flgdData.Rows() - 1, 0), "8 to 9");
 }
 
 TEST_F(ReadTest, PromptsMayStopTheFlow) {

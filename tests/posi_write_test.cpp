@@ -149,6 +149,21 @@ TEST_F(WriteTest, ATableThatIsBadOnceOnlineGoesNowhere) {
   ExpectCommandsOn();
 }
 
+TEST_F(WriteTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
+  ReadAndEdit();
+  forms.answers = {MsgAnswer::Ok};
+  frmMain.mnuSettingOffline.Press();
+  DevSetting[0].Lead = 7;
+  Choose({0});
+  const int before = StoredVel(1);
+  Write(2, 3);
+  EXPECT_EQ(asked.back(), Text(371));
+  EXPECT_NE(port.sent.find("0WA002003\r\n"), std::string::npos) << port.sent;
+  EXPECT_EQ(port.sent.find("0WP001"), std::string::npos);
+  EXPECT_EQ(StoredVel(3), 47);
+  EXPECT_EQ(StoredVel(1), before) << "the user did not send it";
+}
+
 TEST_F(WriteTest, AFailedStepTellsAndEnds) {
   const struct {
     const char* what;

@@ -45,8 +45,10 @@ void RebuildPosiViewKeepingEdits() {
 bool PositionsFollowDevices() {
   RebuildPosiViewKeepingEdits();
   if (AppState.PosiFirstNo < 1) return true;
+  // A transfer that connects on its way has its own range, which it goes on with.
+  const LoadedRange range;
   const auto pulses = PosiTable.PosiPulse;
-  if (PosiDataCheckAll() != 0 || !Recalc()) {
+  if (PosiDataCheck3() != 0 || !Recalc()) {
     MsgBox(Text(1526));
     return false;
   }
