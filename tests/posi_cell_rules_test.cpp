@@ -165,6 +165,21 @@ TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
   EXPECT_EQ(frmPosi.flgdData.RowSel, frmPosi.flgdData.Row);
 }
 
+TEST_F(CellRules, AnEditorLeftAsItOpenedIsNoEdit) {
+  ShowTable(1, 3, false, true);
+  Put(2, kPosi, " 999.000");  // as an old file may have it
+  frmPosi.PosiChanged = False;
+  for (const int number : {1, 2}) {
+    const std::string shown = Cell(number, kPosi);
+    ASSERT_EQ(shown.front(), ' ');
+    // The editor opens with the text alone, without the blanks that align it.
+    EXPECT_EQ(Type(number, kPosi, shown.substr(shown.find_first_not_of(' '))), 0);
+    EXPECT_EQ(Cell(number, kPosi), shown);
+  }
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  EXPECT_EQ(forms.beeps, 0);
+}
+
 TEST_F(CellRules, TheLiveMirrorStandsAtTheRowNotAtTheNumber) {
   ShowTable(5, 7);
   Type(5, kPosi, "1234");

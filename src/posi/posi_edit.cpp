@@ -6,6 +6,7 @@
 #include "core/hooks.h"
 #include "core/message_box.h"
 #include "core/text.h"
+#include "core/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "posi/cell_rules.h"
@@ -26,7 +27,11 @@ constexpr int kMsgAllGood = 6358;
 int AcceptEdit(int row, int col, std::string& text) {
   Grid& grid = frmPosi.flgdData;
   frmPosi.OldCellText = grid.Text(row, col);
-  if (text == frmPosi.OldCellText) return 0;
+  // The editor shows a cell without the blanks that align it.
+  if (Trim(text) == Trim(frmPosi.OldCellText)) {
+    text = frmPosi.OldCellText;
+    return 0;
+  }
   if (grid.RowSel != row || grid.ColSel != col) grid.SelectCell(row, col);
   if (SetCellData(row, col, text) != 0) {
     text = frmPosi.OldCellText;
