@@ -157,6 +157,15 @@ TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
   EXPECT_EQ(lines, "1: 1;");
 }
 
+TEST_F(PosiCheck, ARangeThatIsNotLoadedStandsForTheWholeTable) {
+  ShowTable(1, 3);
+  Put(2, kVel, "0");
+  AppState.PosiFromNo = 500;
+  AppState.PosiToNo = 600;
+  EXPECT_EQ(PosiDataCheck3(), 1);
+  EXPECT_EQ(lines, "2: 1;") << "what is refused is also shown";
+}
+
 TEST_F(PosiCheck, AnEmptyGridIsGoodAndMeansNoTable) {
   ShowTable(1, 2);
   frmPosi.flgdData.SetRows(2);

@@ -157,6 +157,8 @@ TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
       EXPECT_EQ(Hint(row.col), expected) << "column " << row.col << ", case " << i;
     }
   }
+  FG_InitPos();
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], "") << "no cell is the current one";
   AppState.AlarmOn = True;
   frmMain.sbStatusBar.Panels[kPanelError] = "an alarm";
   EXPECT_EQ(Hint(kComment), "an alarm") << "it stays readable";

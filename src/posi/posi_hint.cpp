@@ -84,8 +84,8 @@ void TellInStatusPanel(const std::string& text) {
 
 void PosiHintHyoji() {
   const Grid& grid = frmPosi.flgdData;
-  if (grid.Row < kPosiHeaderRows || grid.Row >= grid.Rows()) return;
-  TellInStatusPanel(PosiHint(grid.Col));
+  const bool body = grid.Row >= kPosiHeaderRows && grid.Row < grid.Rows();
+  TellInStatusPanel(body ? PosiHint(grid.Col) : std::string());
 }
 
 }  // namespace tr7

@@ -107,7 +107,7 @@ void FillGrid() {
   WriteHeaders();
   SetWidths();
   grid.SetRows(kPosiHeaderRows);
-  for (int n = std::max<int>(AppState.PosiFromNo, 1); n <= kPosiMaxNo; ++n) {
+  for (int n = std::max<int>(AppState.PosiFirstNo, 1); n <= kPosiMaxNo; ++n) {
     if (LineIsFlagged(n)) AddLine(n);
   }
 }
