@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "ui/icons.h"
+#include "ui/qt_texts.h"
 
 namespace tr7::look {
 namespace {
@@ -75,6 +76,7 @@ void Apply(QApplication& application) {
   application.setStyle(new Style);
   application.setPalette(LightPalette());
   QApplication::setPalette(FieldPalette(), "QLineEdit");
+  QCoreApplication::installTranslator(new QtTexts(&application));
   application.setWindowIcon(ProgramIcon());
   QFont font = application.font();
   font.setPointSizeF(kFontPoints);

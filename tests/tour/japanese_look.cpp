@@ -1,6 +1,8 @@
 #include "core/text.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_select_posi_no.h"
 #include "tests/tour/common_steps.h"
 #include "tests/tour/scripts.h"
 
@@ -14,6 +16,15 @@ void JapaneseLook(Tour& tour) {
   user.SeeOn(frmMain.cmdComCancel);
   user.SeeReady();
   user.Picture("table-mm");
+  user.Click(frmPosi.cmdPosiSaveAs);
+  user.SeeOn(frmSelectPosiNo3.txtToNo);
+  user.Click(frmSelectPosiNo3.cmdOk);
+  user.SeeBox(Text(405));
+  user.Answer(MsgAnswer::Ok);
+  user.SeeFileDialog();
+  user.Picture("save-dialogue");
+  user.Key(Qt::Key_Escape);
+  user.SeeReady();
   user.Choose(frmMain.mnuSetting, frmMain.mnuSettingOptions);
   user.SeeOn(frmOptions2.txtPortNo);
   user.Picture("options");
