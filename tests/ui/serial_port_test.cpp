@@ -111,9 +111,11 @@ TEST_F(SerialPortTest, AnExpectedReplyWakesSeldomAndIsThereWithItsLastByte) {
   port.ExpectReply(reply.size());
   const std::uint64_t sleeps = desktop.pump.sleeps;
   std::atomic<std::int64_t> whole_ms = 0;
-  std::thread controller([&] {  // at about 9600 baud
+  std::thread controller([&] {
+    // At 9600 baud by the clock: a busy machine may hold a byte up, but not slow the line down.
+    auto due = std::chrono::steady_clock::now();
     for (const char byte : reply) {
-      std::this_thread::sleep_for(std::chrono::microseconds(1000));
+      std::this_thread::sleep_until(due += std::chrono::microseconds(1041));
       line.Send(std::string(1, byte));
     }
     whole_ms = NowMs();
