@@ -80,11 +80,11 @@ void Damage(Voyage& voyage, const std::string& path) {
   voyage.virt.files.Put(path, bytes);
 }
 
-/// What is opened and saved at once is the same file.
-void CheckSavedAgain(Voyage& voyage, const MachineState& machine) {
+/// What is opened and saved at once is the same file, where nobody was asked about its devices.
+void CheckSavedAgain(Voyage& voyage) {
   const std::string path = PosiTablePath();
   const auto before = voyage.virt.files.Content(path);
-  if (voyage.damaged.contains(path) || !(machine == MachineOfPc())) return;
+  if (voyage.damaged.contains(path) || !voyage.choices.empty()) return;
   frmPosi.cmdPosiSave.Press();
   if (voyage.WasTold(kMsgNotSaved) || frmPosi.PosiChanged) return;
   voyage.Require(voyage.virt.files.Content(path) == before, "opened and saved is another file");
@@ -105,7 +105,7 @@ void Open(Voyage& voyage) {
                    "an open that failed changed the table");
     return;
   }
-  if (before.texts != after.texts) CheckSavedAgain(voyage, before.machine);
+  if (before.texts != after.texts) CheckSavedAgain(voyage);
 }
 
 void NewData(Voyage& voyage) {

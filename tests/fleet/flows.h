@@ -22,4 +22,11 @@ std::span<const Flow> EditFlows();
 /// The start of the tool, with its choice between online and offline.
 void StartTool(Voyage& voyage);
 
+/// Going online by the menu.
+void GoOnline(Voyage& voyage);
+
+/// Going online to a controller that differs in one thing or two, with one fault at one line: which
+/// ones, the seed counts out.
+void SweepConnect(Voyage& voyage);
+
 }  // namespace tr7

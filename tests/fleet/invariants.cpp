@@ -29,6 +29,7 @@ void CheckOnlineState(Voyage& voyage) {
   const bool online = !AppState.Offline;
   const bool program = AppState.CtMode;
   voyage.Require(!AppState.OfflineTemporarilyLifted, "between online and offline");
+  voyage.Require(frmMain.imgAlarm.Visible == AppState.AlarmOn, "alarm lamp lies");
   voyage.Require(frmMain.imgOnline.Visible == online &&
                      frmMain.lblOnline.Caption == Text(online ? 5116 : 5117),
                  "online lamp lies");
@@ -69,6 +70,9 @@ void CheckLink(Voyage& voyage) {
   voyage.Require(AppState.PortOccupy || !port.IsOpen(), "port open though not occupied");
   voyage.Require(!AppState.TusinExchanging && frmMain.TimerTusin.Enabled, "request timer off");
   voyage.Require(!frmMain.timerTimeout.Enabled, "time-out armed");
+  voyage.Require(!voyage.HasSent({"0MP", "0MS", "0MV", "0MG", "0JR"}), "a motion nobody asked for");
+  voyage.Require(voyage.flow == "write" || !voyage.HasSent({"0WP", "0WA"}),
+                 "positions are written unasked");
   const std::size_t sent = port.sent.size();
   voyage.Require(voyage.sent_at_refusal.value_or(sent) == sent, "sent after a refusal");
   voyage.virt.pump.RunFor(3'000'000);

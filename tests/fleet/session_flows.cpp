@@ -1,3 +1,5 @@
+#include <functional>
+
 #include "core/hooks.h"
 #include "core/main_entry.h"
 #include "core/text.h"
@@ -38,20 +40,24 @@ void CheckConnect(Voyage& voyage, const MachineState& before, const MachineState
   }
 }
 
-void GoOnline(Voyage& voyage) {
-  const bool was_offline = AppState.Offline;
+/// Runs what may connect, and holds what it leaves to that. `always`: it connects also when online.
+void Connecting(Voyage& voyage, bool always, const std::function<void()>& flow) {
+  const bool connects = always || AppState.Offline;
   const MachineState before = MachineOfPc();
   const MachineState of_ct = MachineOfCt(voyage.virt.port.Ct());
-  frmMain.mnuSettingOnline.Press();
-  if (was_offline) CheckConnect(voyage, before, of_ct);
+  flow();
+  if (connects) CheckConnect(voyage, before, of_ct);
 }
 
 void GoOffline(Voyage&) { frmMain.mnuSettingOffline.Press(); }
 
-void ResetAlarm(Voyage&) { frmMain.cmdReset.Press(); }
+void ResetAlarm(Voyage& voyage) {
+  // A reset that the controller refuses does not get as far as connecting.
+  Connecting(voyage, AppState.Offline, [] { frmMain.cmdReset.Press(); });
+}
 
 void ShowVersion(Voyage& voyage) {
-  frmMain.mnuContVersion.Press();
+  Connecting(voyage, false, [] { frmMain.mnuContVersion.Press(); });
   voyage.Require(!voyage.WasTold(426) || !AppState.Offline, "a version of nobody's");
 }
 
@@ -116,6 +122,10 @@ constexpr Flow kFlows[] = {
 }  // namespace
 
 std::span<const Flow> SessionFlows() { return kFlows; }
+
+void GoOnline(Voyage& voyage) {
+  Connecting(voyage, false, [] { frmMain.mnuSettingOnline.Press(); });
+}
 
 void StartTool(Voyage& voyage) {
   const MachineState of_ct = MachineOfCt(voyage.virt.port.Ct());

@@ -8,7 +8,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kFlows = 7;
+constexpr int kFlows = 6;
 
 const std::vector<Flow>& AllFlows() {
   static const std::vector<Flow> flows = [] {
@@ -51,6 +51,8 @@ std::vector<std::string> Ship::Sail() {
   PlanFaults(voyage_);
   try {
     Run("start", StartTool);
+    if (!voyage_.virt.forms.ended) Run("sweep", SweepConnect);
+    PlanFaults(voyage_);
     for (int i = 0; i < kFlows && !voyage_.virt.forms.ended; ++i) {
       if (voyage_.random.Chance(30)) ChangeWeather(voyage_);
       RunAnyFlow();

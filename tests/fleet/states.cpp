@@ -21,8 +21,10 @@ MachineState MachineOfPc() {
     const DevSettingRecord& device = DevSetting[axis];
     machine.in_use[axis] = !AppState.AxisMuko[axis];
     if (!machine.in_use[axis]) continue;
-    machine.devices[axis] = {device.Lead, device.Ppr, device.Stroke,
-                             static_cast<int>(AppState.StrokePulse[axis]), device.WithPG};
+    machine.devices[axis] = {device.Size,   device.Speed,
+                             device.Lead,   device.Ppr,
+                             device.Stroke, static_cast<int>(AppState.StrokePulse[axis]),
+                             device.WithPG};
   }
   return machine;
 }
@@ -37,10 +39,15 @@ MachineState MachineOfCt(const qvr7sim::Controller& controller) {
     machine.in_use[index] = (mask & (1 << axis)) != 0;
     if (!machine.in_use[index]) continue;
     const std::string& device = controller.WrittenBlock(4 + 3 * axis);
+    const bool marked = device[18] == 'E';
     const int pg = Field(controller.WrittenBlock(3 + 3 * axis), 16, 2);
-    machine.devices[index] = {Field(device, 2, 2), Field(device, 4, 4),
+    machine.devices[index] = {marked ? "E35" : " " + device.substr(16, 2),
+                              marked ? "L" : device.substr(18, 1),
+                              Field(device, 2, 2),
+                              Field(device, 4, 4),
                               Field(device, 22, 2) * 256 + Field(device, 20, 2),
-                              Field(device, 8, 6), pg == 1 || pg == 2};
+                              Field(device, 8, 6),
+                              pg == 1 || pg == 2};
   }
   return machine;
 }

@@ -13,6 +13,7 @@ namespace tr7 {
 
 /// A device by what the controller is compared by.
 struct DeviceState {
+  std::string size, speed;
   int lead = 0, ppr = 0, stroke = 0, max_pulses = 0;
   bool with_pg = false;
   bool operator==(const DeviceState&) const = default;

@@ -49,10 +49,11 @@ void Read(Voyage& voyage) {
   }
 }
 
-/// The range of the last commit frame behind `from` in what was sent; false when there is none.
-bool SentCommit(const std::string& sent, std::size_t from, int& first, int& last) {
+/// The range of the last commit frame that this flow sent; false when there is none.
+bool SentCommit(const Voyage& voyage, int& first, int& last) {
+  if (!voyage.HasSent({"0WA"})) return false;
+  const std::string& sent = voyage.virt.port.sent;
   const std::size_t at = sent.rfind("0WA");
-  if (at == std::string::npos || at < from) return false;
   first = static_cast<int>(HexValue(std::string_view(sent).substr(at + 3, 3)));
   last = static_cast<int>(HexValue(std::string_view(sent).substr(at + 6, 3)));
   return true;
@@ -76,13 +77,15 @@ void CheckWritten(Voyage& voyage, const CtMemory& after, int first, int last) {
   }
 }
 
-void CheckMemory(Voyage& voyage, const CtMemory& before, std::size_t sent_before) {
+void CheckMemory(Voyage& voyage, const CtMemory& before) {
   const CtMemory after = MemoryOf(voyage.virt.port.Ct());
   int first = 0, last = 0;
-  const bool commit_sent = SentCommit(voyage.virt.port.sent, sent_before, first, last);
+  const bool commit_sent = SentCommit(voyage, first, last);
   const bool done = voyage.WasTold(kMsgWritten);
   const bool stopped = voyage.WasTold(kMsgWriteStopped);
   const bool as_before = after.committed == before.committed;
+  voyage.Require(after.committed_blocks == before.committed_blocks,
+                 "a write of positions changed parameters");
   if (!commit_sent) {
     voyage.Require(as_before, "stored without being told to");
     voyage.Require(!done && !stopped, "a write that was told ended without its commit");
@@ -96,10 +99,9 @@ void CheckMemory(Voyage& voyage, const CtMemory& before, std::size_t sent_before
 void Write(Voyage& voyage) {
   const TableState table = Table(voyage);
   const CtMemory before = MemoryOf(voyage.virt.port.Ct());
-  const std::size_t sent = voyage.virt.port.sent.size();
   PerhapsCancel(voyage);
   frmPosi.cmdPosiWrite.Press();
-  CheckMemory(voyage, before, sent);
+  CheckMemory(voyage, before);
   voyage.Require(table.IsKeptIn(Table(voyage)), "a write changed the table");
 }
 

@@ -1,5 +1,7 @@
 #include "tests/fleet/voyage.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 #include "tests/fleet/weather.h"
 
@@ -35,9 +37,17 @@ void Voyage::Fail(const std::string& what) {
 
 void Voyage::BeginFlow(const std::string& name) {
   Note(name);
+  flow = name;
+  sent_at_begin = virt.port.sent.size();
   boxes_seen = virt.forms.boxes.size();
   choices.clear();
   sent_at_refusal.reset();
+}
+
+bool Voyage::HasSent(std::initializer_list<const char*> commands) const {
+  return std::any_of(commands.begin(), commands.end(), [this](const char* command) {
+    return virt.port.sent.find(command, sent_at_begin) != std::string::npos;
+  });
 }
 
 std::optional<int> Voyage::Chosen(int prompt_id) const {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <set>
@@ -27,6 +28,8 @@ struct Voyage {
   void BeginFlow(const std::string& name);
   /// True when a box with this message, up to what is filled in, came up since the flow began.
   bool WasTold(int message_id) const;
+  /// True when one of these commands went out since the flow began.
+  bool HasSent(std::initializer_list<const char*> commands) const;
   /// The answer to the choice box with this prompt in this flow; nothing: none was given.
   std::optional<int> Chosen(int prompt_id) const;
 
@@ -38,6 +41,8 @@ struct Voyage {
 
   bool line_lies = false;              ///< a byte may be another one, and nothing on the line tells
   std::set<std::string> damaged;       ///< paths of files that something has damaged
+  std::string flow;                    ///< the one that runs
+  std::size_t sent_at_begin = 0;       ///< bytes sent before this flow
   std::size_t boxes_seen = 0;          ///< message boxes before this flow
   std::map<std::string, int> choices;  ///< of this flow: prompt of a choice box and the answer
   /// Bytes sent when the user, or the controller, refused something in this flow.
