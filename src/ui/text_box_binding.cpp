@@ -45,8 +45,11 @@ constexpr int kNoLimit = 32767;
 }  // namespace
 
 TextBoxBinding::TextBoxBinding(TextBox& record, QLineEdit& edit)
-    : WidgetBinding(record, edit), record_(record), edit_(edit) {
-  edit.setValidator(new AllowedCharsValidator(record, pushing_, &edit));
+    : WidgetBinding(record, edit),
+      record_(record),
+      edit_(edit),
+      validator_(new AllowedCharsValidator(record, pushing_, &edit)) {
+  edit.setValidator(validator_);
   edit.installEventFilter(this);
   QObject::connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
     text_ = text.toStdString();
@@ -54,6 +57,9 @@ TextBoxBinding::TextBoxBinding(TextBox& record, QLineEdit& edit)
     if (record_.Change) record_.Change();
   });
 }
+
+// A window that goes away loses its focus after its bindings are gone, and asks the validator then.
+TextBoxBinding::~TextBoxBinding() { delete validator_; }
 
 void TextBoxBinding::Push() {
   pushing_ = true;

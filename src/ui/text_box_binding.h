@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 #include <QObject>
+#include <QPointer>
+#include <QValidator>
 
 #include "ui/binding.h"
 
@@ -11,6 +13,7 @@ namespace tr7 {
 class TextBoxBinding : public QObject, public WidgetBinding {
  public:
   TextBoxBinding(TextBox& record, QLineEdit& edit);
+  ~TextBoxBinding() override;
   void Push() override;
 
  protected:
@@ -22,6 +25,7 @@ class TextBoxBinding : public QObject, public WidgetBinding {
 
   TextBox& record_;
   QLineEdit& edit_;
+  QPointer<QValidator> validator_;  ///< owned; the edit may die first and takes it along then
   std::optional<std::string> text_;
   std::optional<int> max_length_;
   std::optional<bool> input_method_off_;
