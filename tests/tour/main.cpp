@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCursor>
 #include <QDir>
 #include <QProcess>
+#include <QScreen>
 #include <QThread>
 #include <chrono>
 #include <cstdio>
@@ -117,6 +119,8 @@ int RunSession(const Session& session, const Arguments& arguments) {
       Fail(user, failure.what());
     }
   }));
+  // The mouse of the machine must not point at what the script works on.
+  QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
   script->start();
   Main();
   if (!desktop.forms.Ended()) QApplication::exec();

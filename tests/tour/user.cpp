@@ -139,6 +139,7 @@ void User::Pick(ComboBox& list, int index) {
 
 int User::EntryOf(ComboBox& list, const std::string& entry) {
   return InTool([this, &list, entry] {
+    forms_.Push();  // what was chosen just now may have changed the list
     const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
     return combo ? combo->findText(QString::fromStdString(entry)) : -1;
   });
@@ -150,6 +151,7 @@ void User::PickText(ComboBox& list, const std::string& entry) {
     return combo && combo->findText(QString::fromStdString(entry)) >= 0;
   });
   Pick(list, EntryOf(list, entry));
+  SeeText(list, entry);
 }
 
 QTabWidget* User::TabsOf(View& view) const {
