@@ -5,8 +5,10 @@
 #include "core/text.h"
 #include "core/views.h"
 #include "forms/frm_main.h"
+#include "para/para_file.h"
 #include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
+#include "tests/fleet/user.h"
 
 namespace tr7 {
 namespace {
@@ -32,7 +34,12 @@ void CheckConnect(Voyage& voyage, const MachineState& before, const MachineState
         of_either([&](const MachineState& m) { return m.devices[axis] == now.devices[axis]; }),
         "a device of nobody's");
   }
-  if (AppState.Offline) return;
+  if (AppState.Offline) {
+    // The mode and its axes come first; devices come with all axes or not at all.
+    voyage.Require(voyage.Chosen(kAskMode) == 0 || now == before || now == of_ct,
+                   "offline with half of the controller's state");
+    return;
+  }
   voyage.Require(now.program_mode == of_ct.program_mode, "online in another mode");
   voyage.Require(voyage.Chosen(kAskMode).value_or(0) == 0, "online though the PC's was written");
   if (voyage.Chosen(kAskDevices).value_or(0) == 0) {
@@ -130,6 +137,7 @@ void GoOnline(Voyage& voyage) {
 void StartTool(Voyage& voyage) {
   const MachineState of_ct = MachineOfCt(voyage.virt.port.Ct());
   Main();
+  WriteParaFile(kParaPath);  // the user's one, with whatever the start has brought
   if (AppState.Offline || voyage.line_lies) return;
   voyage.Require(MachineOfPc() == of_ct, "the first connection takes something else");
 }

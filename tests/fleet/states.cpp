@@ -82,7 +82,11 @@ TableState TableNow(int file_calls) {
   for (int n = table.first; n <= table.last && n > 0; ++n) {
     for (std::size_t axis = 0; axis < kAxes; ++axis) {
       if (AppState.AxisMuko[axis]) continue;
-      table.pulses.push_back(PosiTable.PosiPulse[axis][static_cast<std::size_t>(n)]);
+      const auto slot = static_cast<std::size_t>(n);
+      // In program mode a line that does not move an axis shows no position, and keeps none.
+      const std::size_t way = AxisBase(static_cast<int>(axis)) + kWay;
+      const bool moves = !AppState.CtMode || ValueOf(PosiTable.PosiRec[way][slot]) != 0;
+      table.pulses.push_back(moves ? PosiTable.PosiPulse[axis][slot] : 0);
     }
   }
   return table;

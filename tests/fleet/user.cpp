@@ -1,5 +1,7 @@
 #include "tests/fleet/user.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 #include "forms/frm_device.h"
 #include "forms/frm_options2.h"
@@ -51,7 +53,9 @@ void AnswerChoice(Voyage& voyage, SelectionView& view) {
   if (random.Chance(10)) view.cmdBack.Press();
   if (view.Visible && random.Chance(10)) view.cmdCancel.Press();
   if (!view.Visible) return;
-  const int choice = random.Chance(70) ? 0 : 1;
+  const auto choices = static_cast<int>(std::count_if(
+      view.options.begin(), view.options.end(), [](const OptionButton* o) { return o->Visible; }));
+  const int choice = random.Chance(60) ? 0 : random.Below(choices);
   voyage.choices[view.lblPrompt.Caption] = choice;
   AnswerSelection(view, choice);
 }
@@ -109,6 +113,7 @@ void SeatUser(Voyage& voyage) {
   };
   forms.on_file_dialog = [&voyage](const FileDialogCall& call) -> std::optional<std::string> {
     if (voyage.random.Chance(15)) return std::nullopt;
+    if (call.DefaultExtension == "pmt") return kParaPath;
     std::string path = AnyPath(voyage.random);
     for (int look = 3; !call.Save && look > 0 && !voyage.virt.files.Exists(path); --look) {
       path = AnyPath(voyage.random);

@@ -10,6 +10,8 @@ namespace tr7 {
 /// every dialogue.
 void SeatUser(Voyage& voyage);
 
+inline constexpr const char* kParaPath = "/work/p.pmt";
+
 /// One of the few position files that the user works with.
 std::string AnyPath(Random& random);
 
