@@ -54,9 +54,16 @@ QStringList Pictures(const QString& folder) {
 
 // All sessions.
 
+/// What a tour before left here.
+void RemoveOldTour(const QString& folder) {
+  const QStringList files =
+      QDir(folder).entryList({"tour*.qvd", "tour-*.ini"}, QDir::Files) + Pictures(folder);
+  for (const QString& file : files) QDir(folder).remove(file);
+}
+
 int RunAll(const Arguments& arguments) {
   QDir().mkpath(arguments.folder);
-  for (const QString& old : Pictures(arguments.folder)) QDir(arguments.folder).remove(old);
+  RemoveOldTour(arguments.folder);
   for (const Session& session : Sessions()) {
     if (!arguments.only.isEmpty() && !arguments.only.contains(session.name)) continue;
     std::printf("session %s\n", session.name);
