@@ -14,12 +14,16 @@ inline void Report(const char* name, double value, int decimals) {
   std::fflush(stdout);
 }
 
+inline double MsSince(std::chrono::steady_clock::time_point start) {
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
 /// Milliseconds that `work` takes.
 inline double MsOf(const std::function<void()>& work) {
   const auto start = std::chrono::steady_clock::now();
   work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
+  return MsSince(start);
 }
 
 inline double Median(std::vector<double> values) {

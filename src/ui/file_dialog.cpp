@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QTreeView>
+#include <memory>
 
 #include "core/text.h"
 #include "ui/binding.h"
@@ -58,11 +59,18 @@ bool MayOverwrite(const FileDialogCall& call, const QString& path, QWidget* pare
   return AskMessage(question, parent, wait) == MsgAnswer::Yes;
 }
 
+/// A dialogue that has been answered lets go of the folder that it watched, which takes longer than
+/// reading the file: that waits until the command is through.
+struct DeleteLater {
+  void operator()(QObject* object) const { object->deleteLater(); }
+};
+
 }  // namespace
 
 std::optional<std::string> AskFile(const FileDialogCall& call, QWidget* parent,
                                    const WaitFor& wait) {
-  QFileDialog dialog(parent);
+  const std::unique_ptr<QFileDialog, DeleteLater> owner(new QFileDialog(parent));
+  QFileDialog& dialog = *owner;
 #ifndef _WIN32
   // The platform's own dialogue speaks the desktop's language, this one the user's.
   dialog.setOption(QFileDialog::DontUseNativeDialog);

@@ -2,7 +2,10 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QEvent>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -35,10 +38,22 @@ void ScreenUser::Answer(QWidget& dialog) {
     if (button) button->click();
     return;
   }
+  if (auto* file = qobject_cast<QFileDialog*>(&dialog)) return AnswerFile(*file);
   for (View* view : OpenViews()) {
     const QWidget* widget =
         view->Controls.empty() ? nullptr : forms_.WidgetOf(*view->Controls.front());
     if (widget && widget->window() == &dialog) return AnswerView(*view);
+  }
+}
+
+void ScreenUser::AnswerFile(QFileDialog& dialog) const {
+  if (!on_file) return dialog.reject();
+  auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+  const auto* buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
+  if (!name || !buttons) return dialog.reject();
+  name->setText(on_file());
+  for (QAbstractButton* button : buttons->buttons()) {
+    if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole) return button->click();
   }
 }
 

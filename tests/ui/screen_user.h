@@ -9,10 +9,13 @@
 #include "forms/view.h"
 #include "ui/qt_form_host.h"
 
+class QFileDialog;
+
 namespace tr7 {
 
 /// Who sits before the real screen: answers each dialogue and message box as soon as it shows. A
-/// view without a handler has its default button pressed, and so has a box.
+/// view without a handler has its default button pressed, and so has a box; a file dialogue is
+/// cancelled.
 class ScreenUser : public QObject {
  public:
   explicit ScreenUser(const QtFormHost& forms);
@@ -22,6 +25,8 @@ class ScreenUser : public QObject {
   std::map<std::string, std::function<void(View&)>> on_modal;
   /// Index of the button to press in a box of this text, -1 for the default one.
   std::function<int(const std::string& text)> on_box;
+  /// The path to choose in a file dialogue, asked for right before it is confirmed.
+  std::function<QString()> on_file;
   std::vector<std::string> boxes;   ///< texts of the boxes that came
   std::vector<std::string> modals;  ///< names of the modal views that came
 
@@ -30,6 +35,7 @@ class ScreenUser : public QObject {
 
  private:
   void Answer(QWidget& dialog);
+  void AnswerFile(QFileDialog& dialog) const;
   void AnswerView(View& view);
 
   const QtFormHost& forms_;
