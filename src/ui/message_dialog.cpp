@@ -24,7 +24,10 @@ std::vector<AnswerButton> ButtonsOf(MsgButtons buttons) {
   const AnswerButton ok{MsgAnswer::Ok, kOkText, QMessageBox::AcceptRole};
   const AnswerButton cancel{MsgAnswer::Cancel, kCancelText, QMessageBox::RejectRole};
   const AnswerButton yes{MsgAnswer::Yes, kYesText, QMessageBox::YesRole};
-  const AnswerButton no{MsgAnswer::No, kNoText, QMessageBox::NoRole};
+  // Without a Cancel, Escape is no answer: of a button with the role of a No it would be one.
+  const bool escapes = buttons == MsgButtons::YesNoCancel;
+  const AnswerButton no{MsgAnswer::No, kNoText,
+                        escapes ? QMessageBox::NoRole : QMessageBox::DestructiveRole};
   switch (buttons) {
     case MsgButtons::OkCancel:
       return {ok, cancel};

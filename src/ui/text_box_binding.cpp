@@ -52,6 +52,7 @@ TextBoxBinding::TextBoxBinding(TextBox& record, QLineEdit& edit)
   edit.setValidator(validator_);
   edit.installEventFilter(this);
   QObject::connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+    if (text == Shown(record_)) return;  // a key that the field did not take
     text_ = text.toStdString();
     record_.Text = *text_;
     if (record_.Change) record_.Change();

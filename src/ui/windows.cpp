@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 
 #include "core/views.h"
@@ -46,7 +47,9 @@ void FrameWindow::PlaceByRecord() {
   QRect wanted(Pixels(view_.Left), Pixels(view_.Top), Pixels(view_.Width), Pixels(view_.Height));
   const QScreen* screen = QGuiApplication::screenAt(wanted.center());
   if (!screen) screen = QGuiApplication::primaryScreen();
-  const QRect field = screen->availableGeometry();
+  // The window's own bar stands above the rectangle.
+  const int bar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QRect field = screen->availableGeometry().adjusted(0, bar, 0, 0);
   wanted.setSize(wanted.size().boundedTo(field.size()));
   wanted.moveTo(std::clamp(wanted.left(), field.left(), field.right() - wanted.width() + 1),
                 std::clamp(wanted.top(), field.top(), field.bottom() - wanted.height() + 1));

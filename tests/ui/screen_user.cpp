@@ -11,10 +11,25 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "core/text.h"
 #include "core/views.h"
 #include "forms/control.h"
 
 namespace tr7 {
+namespace {
+
+QAbstractButton* ButtonOf(const QMessageBox& box, MsgAnswer answer) {
+  const std::map<MsgAnswer, int> texts{{MsgAnswer::Yes, 5150},
+                                       {MsgAnswer::No, 5151},
+                                       {MsgAnswer::Ok, 5152},
+                                       {MsgAnswer::Cancel, 5153}};
+  for (QAbstractButton* button : box.buttons()) {
+    if (button->text().toStdString() == Text(texts.at(answer))) return button;
+  }
+  return nullptr;
+}
+
+}  // namespace
 
 ScreenUser::ScreenUser(const QtFormHost& forms) : forms_(forms) { qApp->installEventFilter(this); }
 
@@ -33,8 +48,9 @@ bool ScreenUser::eventFilter(QObject* watched, QEvent* event) {
 void ScreenUser::Answer(QWidget& dialog) {
   if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
     boxes.push_back(box->text().toStdString());
-    const int index = on_box ? on_box(boxes.back()) : -1;
-    QAbstractButton* button = index < 0 ? box->defaultButton() : box->buttons().value(index);
+    const auto answer = on_box ? on_box(boxes.back()) : std::nullopt;
+    if (!box->isVisible()) return;  // answered by keys already
+    QAbstractButton* button = answer ? ButtonOf(*box, *answer) : box->defaultButton();
     if (button) button->click();
     return;
   }

@@ -3,10 +3,12 @@
 #include <QObject>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "forms/view.h"
+#include "platform/form_host.h"
 #include "ui/qt_form_host.h"
 
 class QFileDialog;
@@ -23,8 +25,8 @@ class ScreenUser : public QObject {
 
   /// What to do in a modal view, by view name.
   std::map<std::string, std::function<void(View&)>> on_modal;
-  /// Index of the button to press in a box of this text, -1 for the default one.
-  std::function<int(const std::string& text)> on_box;
+  /// The answer to a box of this text; without one the default button is pressed.
+  std::function<std::optional<MsgAnswer>(const std::string& text)> on_box;
   /// The path to choose in a file dialogue, asked for right before it is confirmed.
   std::function<QString()> on_file;
   std::vector<std::string> boxes;   ///< texts of the boxes that came
