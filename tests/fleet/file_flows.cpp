@@ -15,7 +15,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kMsgNotSaved = 422;
+constexpr int kMsgNotSaved = 422, kMsgNotRead = 484, kMsgOtherMode = 330;
 
 using Disk = std::map<std::string, std::string>;
 
@@ -93,19 +93,15 @@ void CheckSavedAgain(Voyage& voyage) {
 void Open(Voyage& voyage) {
   if (voyage.random.Chance(20)) Damage(voyage, AnyPath(voyage.random));
   const TableState before = Table(voyage);
-  const std::size_t dialogues = voyage.virt.forms.file_dialogs.size();
   if (voyage.random.Chance(20)) SpoilFiles(voyage);
   frmPosi.cmdPosiOpen.Press();
   voyage.virt.files.PowerOn();
-  const bool asked = voyage.virt.forms.file_dialogs.size() > dialogues;
   const TableState after = Table(voyage);
-  if (!asked || after.changed || !PosiTableHasFile()) {
-    voyage.Require(before.texts == after.texts && before.pulses.size() == after.pulses.size() &&
-                       before.machine == after.machine,
-                   "an open that failed changed the table");
-    return;
-  }
-  if (before.texts != after.texts) CheckSavedAgain(voyage);
+  if (before.texts == after.texts && before.machine == after.machine) return;
+  const bool told = voyage.WasTold(kMsgNotRead) || voyage.WasTold(kMsgOtherMode);
+  voyage.Require(!told && !after.changed && PosiTablePath() == voyage.last_path,
+                 "an open that failed changed the table");
+  CheckSavedAgain(voyage);
 }
 
 void NewData(Voyage& voyage) {

@@ -4,6 +4,7 @@
 #include "tests/fleet/invariants.h"
 #include "tests/fleet/user.h"
 #include "tests/fleet/weather.h"
+#include "tests/fleet/work_files.h"
 
 namespace tr7 {
 namespace {
@@ -48,6 +49,7 @@ void Ship::RunAnyFlow() {
 
 std::vector<std::string> Ship::Sail() {
   SeatUser(voyage_);
+  PutWorkFiles(voyage_);
   PlanFaults(voyage_);
   try {
     Run("start", StartTool);

@@ -118,6 +118,7 @@ void SeatUser(Voyage& voyage) {
     for (int look = 3; !call.Save && look > 0 && !voyage.virt.files.Exists(path); --look) {
       path = AnyPath(voyage.random);
     }
+    voyage.last_path = path;
     return path;
   };
   forms.on_any_modal = [&voyage](View& view) {

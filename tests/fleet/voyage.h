@@ -40,7 +40,8 @@ struct Voyage {
   std::vector<std::string> failures;
 
   bool line_lies = false;              ///< a byte may be another one, and nothing on the line tells
-  std::set<std::string> damaged;       ///< paths of files that something has damaged
+  std::string last_path;               ///< that the user chose in a file dialogue for positions
+  std::set<std::string> damaged;       ///< paths of files that this tool did not write so
   std::string flow;                    ///< the one that runs
   std::size_t sent_at_begin = 0;       ///< bytes sent before this flow
   std::size_t boxes_seen = 0;          ///< message boxes before this flow
