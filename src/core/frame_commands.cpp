@@ -131,6 +131,7 @@ void InstallFrame() {
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
   f.lblCtMode.DblClick = ModeLabelDblClick;
   f.Timer1.Tick = PortLampHyoji;
+  f.Timer1.HasWork = PortLampLies;  // an idle tool is not woken for a lamp that tells the truth
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
   Hooks.ActiveViewChanged = FollowActiveView;

@@ -105,6 +105,8 @@ void SetOnline() {
   frmMain.lblOnline.Caption = Text(5116);
 }
 
+bool PortLampLies() { return frmMain.imgComPort.Visible != doors.serial->IsOpen(); }
+
 void PortLampHyoji() {
   frmMain.imgComPort.Visible = doors.serial->IsOpen();
   // The setting alone: the system lists no port of that name, and listing costs at every tick.

@@ -35,5 +35,7 @@ void SetOnline();
 
 /// Shows the port lamp and whether the controller is a simulated one.
 void PortLampHyoji();
+/// True when the port lamp does not show what the port is: a port may vanish by itself.
+bool PortLampLies();
 
 }  // namespace tr7
