@@ -51,7 +51,7 @@ TEST(ProtocolPage, TellsEveryCommand) {
   const std::string page = ReadText(kRoot / "docs/protocol.md");
   const std::regex command(R"re("(0[A-Z][A-Z][0-9]?)["0-9])re");
   std::set<std::string> commands;
-  for (const auto& entry : std::filesystem::directory_iterator(kRoot / "src/link")) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(kRoot / "src")) {
     const std::string source = ReadText(entry.path());
     for (std::sregex_iterator it(source.begin(), source.end(), command), end; it != end; ++it) {
       commands.insert(it->str(1));

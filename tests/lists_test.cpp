@@ -6,18 +6,18 @@
 #include <string>
 #include <vector>
 
-#include "core/seq_file.h"
-#include "core/text_file.h"
-#include "para/dev_setting.h"
-#include "para/dev_setting_store.h"
-#include "para/device_list.h"
-#include "para/device_names.h"
+#include "base/seq_file.h"
+#include "device/dev_setting.h"
+#include "device/dev_setting_store.h"
+#include "device/device_list.h"
+#include "device/device_names.h"
+#include "device/unit_conversion.h"
 #include "para/para_check.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
 #include "para/std_table.h"
-#include "posi/unit_conversion.h"
 #include "sim/setup.h"
+#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

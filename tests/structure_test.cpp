@@ -4,14 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iostream>
 #include <map>
 #include <regex>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "core/text.h"
 #include "forms/control.h"
+#include "state/text.h"
 #include "tests/support/source_tree.h"
 #include "tests/support/state_test.h"
 
@@ -77,8 +78,53 @@ TEST(Structure, ACircleIsFound) {
   EXPECT_EQ(Circles({{"a", {"b", "c"}}, {"b", {"c"}}}).size(), 0u);
 }
 
+// The folders of src/ stand in one line, from the ground up; a file includes its own folder and
+// those before it. Of the data kinds, a position file brings devices, so positions stand on
+// parameters; groups and macros name positions.
+const std::vector<std::string>& Line() {
+  static const std::vector<std::string> line{"base", "forms",  "platform", "state",
+                                             "link", "device", "session",  "para",
+                                             "posi", "data",   "core",     "ui"};
+  return line;
+}
+
+/// The folder's place in the line; -1: it has none.
+int FloorOf(const std::string& path) {
+  const std::string folder = path.substr(0, path.find('/'));
+  const auto at = std::find(Line().begin(), Line().end(), folder);
+  return at == Line().end() ? -1 : static_cast<int>(at - Line().begin());
+}
+
+TEST(Structure, FoldersStandInOneLine) {
+  std::string line;
+  for (const std::string& folder : Line()) line += (line.empty() ? "" : " < ") + folder;
+  std::cout << "folders: " << line << "\n";
+  for (const SourceFile& file : Tree()) {
+    if (!InFolder(file.path, "src/")) continue;
+    const std::string from = file.path.substr(4);
+    EXPECT_GE(FloorOf(from), 0) << from << " stands in no folder of the line";
+    for (const std::string& quoted : file.quoted) {
+      EXPECT_LE(FloorOf(quoted), FloorOf(from)) << "an arrow runs up: " << from << " -> " << quoted;
+    }
+  }
+}
+
+/// A header and its source are one unit: two units that include one another are a circle too.
+Graph UnitsOf(const Graph& files) {
+  const auto unit = [](const std::string& path) { return path.substr(0, path.rfind('.')); };
+  Graph units;
+  for (const auto& [path, included] : files) {
+    for (const std::string& other : included) {
+      if (unit(other) != unit(path)) units[unit(path)].push_back(unit(other));
+    }
+  }
+  return units;
+}
+
 TEST(Structure, IncludesFormNoCircle) {
   for (const std::string& circle : Circles(IncludeGraph(Tree()))) ADD_FAILURE() << circle;
+  const Graph units = UnitsOf(IncludeGraph(ReadSources({"src", "sim"})));
+  for (const std::string& circle : Circles(units)) ADD_FAILURE() << circle;
 }
 
 bool IsQtHeader(const std::string& name) {

@@ -2,43 +2,56 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 
-#include "core/alarm_reset.h"
-#include "core/app_state.h"
-#include "core/frame_menus.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
 #include "core/options_view.h"
-#include "core/session.h"
-#include "core/text.h"
-#include "core/version_check.h"
-#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "link/port.h"
 #include "platform/doors.h"
+#include "session/session_menus.h"
+#include "state/app_state.h"
+#include "state/frame_menus.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
 
-void CloseActiveView() {
+using ViewCommand = std::function<void()> ViewCommands::*;
+
+void Run(const std::function<void()>& command) {
+  if (command) command();
+}
+
+/// A command that goes to the view in front.
+std::function<void()> OfFront(ViewCommand command) {
+  return [command] { Run(FrontView().Commands.*command); };
+}
+
+/// A command that goes to the position table whichever view is in front: the user sees it come.
+std::function<void()> OfPositions(ViewCommand command) {
+  return [command] {
+    doors.forms->BringToFront(frmPosi);
+    Run(frmPosi.Commands.*command);
+  };
+}
+
+void CloseFrontView() {
   View* view = ActiveView();
-  if (!view) return;
-  // The position view stays open for the whole process: closing it finishes the tool.
-  CloseView(view == &frmPosi ? static_cast<View&>(frmMain) : *view, CloseReason::Code);
+  if (view && !view->StaysOpen) CloseView(*view, CloseReason::Code);
 }
 
 void ToolBarClick(const std::string& key) {
-  if (key == "New") Call(frmMain.mnuFileNew.Click);
-  if (key == "Open") Call(Hooks.PosidataFileOpen);
-  if (key == "Save") Call(Hooks.PosidataSaveToFile);
-  if (key == "Print") Call(Hooks.PosiPrint);
-  if (key == "Copy") Call(frmMain.mnuEditCopy.Click);
-  if (key == "Paste") Call(frmMain.mnuEditPaste.Click);
+  if (key == "New") Run(frmMain.mnuFileNew.Click);
+  if (key == "Open") OfPositions (&ViewCommands::Open)();
+  if (key == "Save") OfPositions (&ViewCommands::Save)();
+  if (key == "Print") OfPositions (&ViewCommands::Print)();
+  if (key == "Copy") Run(frmMain.mnuEditCopy.Click);
+  if (key == "Paste") Run(frmMain.mnuEditPaste.Click);
   if (key == "PrgEdit")
-    Call(AppState.Offline ? frmMain.mnuFileOpenProg.Click : frmMain.mnuContProgRead.Click);
-  if (key == "PrgExe") Call(frmMain.mnuContProgTask.Click);
+    Run(AppState.Offline ? frmMain.mnuFileOpenProg.Click : frmMain.mnuContProgRead.Click);
+  if (key == "PrgExe") Run(frmMain.mnuContProgTask.Click);
 }
 
 void ShowHelp() {
@@ -52,57 +65,18 @@ void ShowAbout() {
   MsgBox(frmMain.Caption + "\n\n" + Text(5160), MsgButtons::Ok, MsgIcon::Information);
 }
 
-void ModeLabelDblClick() {
-  // The label is no command that the flows switch off.
-  if (!AppState.Offline && frmMain.mnuSetting.Enabled) ChangeCtModeMenu();
-}
-
-void InstallFileMenu() {
+void InstallFileAndEditMenus() {
   FrmMain& f = frmMain;
-  f.mnuFileNew.Click = [] { Call(Hooks.SinkiSakusei); };
-  f.mnuFileOpen.Click = [] { Call(Hooks.PosidataFileOpen); };
-  f.mnuFileSave.Click = [] { Call(Hooks.PosidataSaveToFile); };
-  f.mnuFileSaveAs.Click = [] { Call(Hooks.PosiDataSaveAs); };
-  f.mnuFileClose.Click = CloseActiveView;
+  f.mnuFileNew.Click = OfFront(&ViewCommands::New);
+  f.mnuFileOpen.Click = OfFront(&ViewCommands::Open);
+  f.mnuFileSave.Click = OfFront(&ViewCommands::Save);
+  f.mnuFileSaveAs.Click = OfFront(&ViewCommands::SaveAs);
+  f.mnuFileClose.Click = CloseFrontView;
   f.mnuFileExit.Click = [] { CloseView(frmMain, CloseReason::Code); };
-}
-
-/// An edit command never reaches a view behind the one that the user works in, nor a table that is
-/// being taught.
-void CallForPosi(const std::function<void()>& hook) {
-  const bool active = !ActiveView() || ActiveView() == &frmPosi;
-  if (active && !AppState.TeachingNow) Call(hook);
-}
-
-void InstallEditAndViewMenus() {
-  FrmMain& f = frmMain;
-  f.mnuEditCopy.Click = [] { CallForPosi(Hooks.PosiCopy); };
-  f.mnuEditPaste.Click = [] { CallForPosi(Hooks.PosiPaste); };
-  f.mnuEditInsert.Click = [] { CallForPosi(Hooks.PosiInsertLine); };
-  f.mnuEditLineDelete.Click = [] { CallForPosi(Hooks.PosiDeleteLine); };
-  f.mnuViewPosi.Click = [] { doors.forms->BringToFront(frmPosi); };
-  f.mnuViewPara.Click = [] { Call(Hooks.ShowParameters); };
-}
-
-void InstallControllerMenu() {
-  FrmMain& f = frmMain;
-  f.mnuContPosiRead.Click = [] { Call(Hooks.PosidataGetfromCt); };
-  f.mnuContPosiWrite.Click = [] { Call(Hooks.PosidataLoadtoCt); };
-  f.mnuContPosiVerify.Click = [] { Call(Hooks.PosiDataCtShogo); };
-  f.mnuContAlarmReset.Click = AlarmReset;
-  f.mnuContVersion.Click = ContVersionMenu;
-}
-
-void InstallSettingMenu() {
-  FrmMain& f = frmMain;
-  f.mnuSettingOnline.Click = ChangeToOnlineMenu;
-  f.mnuSettingOffline.Click = ChangeToOfflineMenu;
-  f.mnuSettingDevice.Click = [] {
-    if (Hooks.Change_Device) Hooks.Change_Device();
-  };
-  f.mnuSettingDeviceOnline.Click = [] { Call(Hooks.DeviceOnline); };
-  f.mnuSettingCtMode.Click = ChangeCtModeMenu;
-  f.mnuSettingOptions.Click = ShowOptions;
+  f.mnuEditCopy.Click = OfFront(&ViewCommands::Copy);
+  f.mnuEditPaste.Click = OfFront(&ViewCommands::Paste);
+  f.mnuEditInsert.Click = OfFront(&ViewCommands::InsertLine);
+  f.mnuEditLineDelete.Click = OfFront(&ViewCommands::DeleteLine);
 }
 
 void InstallWindowAndHelpMenus() {
@@ -121,20 +95,17 @@ void InstallWindowAndHelpMenus() {
 
 void InstallFrame() {
   FrmMain& f = frmMain;
-  InstallFileMenu();
-  InstallEditAndViewMenus();
-  InstallControllerMenu();
-  InstallSettingMenu();
+  InstallFileAndEditMenus();
   InstallWindowAndHelpMenus();
+  InstallSessionMenus();
+  f.mnuSettingOptions.Click = ShowOptions;
   f.tbToolBar.ButtonClick = ToolBarClick;
-  f.cmdReset.Click = AlarmReset;
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
-  f.lblCtMode.DblClick = ModeLabelDblClick;
   f.Timer1.Tick = PortLampHyoji;
   f.Timer1.HasWork = PortLampLies;  // an idle tool is not woken for a lamp that tells the truth
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
-  Hooks.ActiveViewChanged = FollowActiveView;
+  f.FrontChanged = FollowActiveView;
 }
 
 }  // namespace tr7

@@ -1,24 +1,19 @@
 #include "core/install_views.h"
 
 #include "core/frame_commands.h"
-#include "core/hooks.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
-#include "core/wait.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
 #include "para/change_device.h"
 #include "para/device_choice.h"
-#include "para/device_texts.h"
 #include "para/device_write.h"
 #include "para/para_after_device.h"
 #include "para/para_view.h"
 #include "para/stroke_calc.h"
-#include "para/take_ct_device.h"
-#include "posi/device_change.h"
-#include "posi/posi_flows.h"
 #include "posi/posi_view.h"
 #include "posi/result_view.h"
+#include "state/wait.h"
 
 namespace tr7 {
 namespace {
@@ -40,19 +35,13 @@ void InstallViews() {
   InstallEntry();
   InstallOptionsView();
   InstallPosiView();
-  InstallPosiFlows();
   InstallResultView();
-  InstallDeviceTexts();
   InstallParaAfterDevice();
   InstallDeviceChoice();
   InstallDeviceWrite();
   InstallChangeDevice();
   InstallParaView();
   InstallStrokeCalc();
-  Hooks.TakeDevFromCt = TakeDevFromCt;
-  Hooks.RebuildPosiView = RebuildPosiViewKeepingEdits;
-  Hooks.PositionsFollowDevices = [] { PositionsFollowDevices(); };
-  Hooks.MmFollowsPulses = MmFollowsPulses;
 }
 
 }  // namespace tr7

@@ -3,26 +3,28 @@
 #include <string>
 #include <vector>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/frame_menus.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/progress.h"
-#include "core/selection.h"
-#include "core/session.h"
-#include "core/settings.h"
-#include "core/text.h"
-#include "core/text_file.h"
-#include "core/views.h"
+#include "device/dev_setting.h"
+#include "device/limits.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_splash.h"
+#include "link/error_list.h"
 #include "link/port.h"
 #include "link/request_queue.h"
-#include "para/dev_setting.h"
-#include "para/error_list.h"
+#include "para/device_choice.h"
 #include "platform/doors.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/frame_menus.h"
+#include "state/message_box.h"
+#include "state/online.h"
+#include "state/progress.h"
+#include "state/selection.h"
+#include "state/settings.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
@@ -110,7 +112,7 @@ void StartOnlineOfflineChoice() {
   CTM_MukoSyori();
   SetOffline();
   PortLampHyoji();
-  Call(Hooks.RebuildPosiView);
+  AllViewsLayoutChanged();
   bool online = false;
   if (ChooseOnline()) {
     const BusyScope busy;
@@ -118,12 +120,12 @@ void StartOnlineOfflineChoice() {
   }
   if (!online) {
     ChooseModeOffline();
-    Call(Hooks.SelectDevicesAtStart);
+    SelectDevicesAtStart();
     AppState.AxisCount = kAxes;
   }
-  Call(Hooks.RecalcLimits);
-  Call(Hooks.RebuildPosiView);
-  SetOnlineTabs();
+  RecalcLimits();
+  AllViewsLayoutChanged();
+  AllViewsOnlineChanged();
   ChangeMenuDisp(AppState.CtMode);
   AppState.ComBusy = False;
   AllViewsCmdYuko();

@@ -2,16 +2,16 @@
 
 #include <string>
 
-#include "core/app_state.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/settings.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
-#include "core/views.h"
+#include "base/text_helpers.h"
 #include "forms/frm_options2.h"
 #include "link/port.h"
 #include "platform/doors.h"
+#include "posi/unit_change.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/settings.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
@@ -106,13 +106,13 @@ void TakeUnit() {
   const bool mm = frmOptions2.optUnitMm.Value;
   if (mm == AppState.DispMmUnit) return;
   // The grid still holds the old unit's texts: they are taken into the table before it changes.
-  if (Hooks.PosiDataCheck && Hooks.PosiDataCheck() != 0) {
+  if (CheckInPlace() != 0) {
     MsgBox(TwoLines(2541, 2542));
     return;
   }
   PutSetting("DispMmUnit", mm ? 1 : 0);
   AppState.DispMmUnit = mm;
-  Call(Hooks.PosiUnitChanged);
+  ShowInNewUnit();
 }
 
 void TakeOptions() {

@@ -2,12 +2,13 @@
 
 #include <memory>
 
-#include "core/app_state.h"
-#include "core/hooks.h"
 #include "core/install_views.h"
-#include "core/views.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
+#include "device/ct_device.h"
+#include "device/dev_setting.h"
+#include "device/device_cascade.h"
+#include "device/device_list.h"
 #include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
@@ -18,18 +19,17 @@
 #include "forms/frm_splash.h"
 #include "forms/frm_stroke_calc.h"
 #include "forms/frm_syogo_kekka.h"
+#include "link/error_list.h"
 #include "link/motion_commands.h"
-#include "link/para_commands.h"
-#include "link/para_transfer_commands.h"
 #include "link/request_queue.h"
-#include "para/dev_setting.h"
-#include "para/device_cascade.h"
-#include "para/device_list.h"
-#include "para/error_list.h"
+#include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
 #include "para/sys_para.h"
 #include "posi/posi_table.h"
+#include "session/followers.h"
+#include "state/app_state.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
@@ -45,7 +45,7 @@ void Renew(View& view, Args... args) {
 
 void ResetState() {
   ResetViews();
-  Hooks = HookTable{};
+  Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueues = RequestQueues{};
   ResetMotionCommands();

@@ -9,6 +9,13 @@ bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 
 }  // namespace
 
+Control* View::Find(std::string_view name) const {
+  for (Control* control : Controls) {
+    if (name == control->Name) return control;
+  }
+  return nullptr;
+}
+
 void TextBox::Type(const std::string& typed) {
   if (!Enabled || !Visible) return;
   std::string taken;

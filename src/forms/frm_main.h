@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
-#include "platform/timer.h"
+#include "forms/timer.h"
 
 namespace tr7 {
 
@@ -95,7 +95,8 @@ struct FrmMain : View {
   Timer timerTerminate{100, false};
   Timer TimerTest{1000, false};
 
-  bool MsecElapsed = false;  ///< set by mmsecTimer
+  std::function<void()> FrontChanged;  ///< another view has come to the front
+  bool MsecElapsed = false;            ///< set by mmsecTimer
 };
 
 extern FrmMain frmMain;

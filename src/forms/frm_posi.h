@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/bool16.h"
+#include "base/bool16.h"
 #include "forms/grid.h"
 
 namespace tr7 {

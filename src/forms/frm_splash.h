@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
-#include "platform/timer.h"
+#include "forms/timer.h"
 
 namespace tr7 {
 

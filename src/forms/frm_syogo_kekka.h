@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/bool16.h"
+#include "base/bool16.h"
 #include "forms/grid.h"
 
 namespace tr7 {

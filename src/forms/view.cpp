@@ -1,7 +1,5 @@
 #include "forms/view.h"
 
-#include "forms/control.h"
-
 namespace tr7 {
 namespace {
 
@@ -17,12 +15,5 @@ View::View(const char* name, int tag) : Name(name), Tag(tag) { Table().push_back
 View::~View() { std::erase(Table(), this); }
 
 const std::vector<View*>& AllViews() { return Table(); }
-
-Control* View::Find(std::string_view name) const {
-  for (Control* control : Controls) {
-    if (name == control->Name) return control;
-  }
-  return nullptr;
-}
 
 }  // namespace tr7

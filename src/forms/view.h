@@ -9,6 +9,18 @@ namespace tr7 {
 
 struct Control;
 
+/// What the frame may ask of the view in front. A command that a view leaves empty is shown
+/// switched off while that view is in front.
+struct ViewCommands {
+  std::function<void()> New, Open, Save, SaveAs, Print;
+  std::function<void()> Copy, Paste, InsertLine, DeleteLine;
+};
+
+/// Which edit commands the selection of a view allows; the frame's menus follow it.
+struct EditStates {
+  bool Copy = false, Paste = false, Insert = false, Delete = false;
+};
+
 /// Who asks a view to close.
 enum class CloseReason { ControlMenu, Code };
 
@@ -28,6 +40,7 @@ struct View {
   bool Minimised = false;
   bool RefuseClose = false;  ///< the window's own close button and Escape do nothing
   bool MdiChild = false;     ///< lives inside the frame
+  bool StaysOpen = false;    ///< open for the whole process: the frame does not offer to close it
   double Left = 0, Top = 0, Width = 0, Height = 0;
 
   std::vector<Control*> Controls;  ///< in order of construction, which is the tab order
@@ -36,9 +49,14 @@ struct View {
   /// Asked before the view closes; true refuses.
   std::function<bool(CloseReason)> QueryUnload;
   std::function<void()> Unload;
-  std::function<void()> Activate;  ///< the view became the active one
-  std::function<void()> CmdMuko;   ///< commands off while a long sequence runs
-  std::function<void()> CmdYuko;   ///< commands on again
+  std::function<void()> Activate;       ///< the view became the active one
+  std::function<void()> CmdMuko;        ///< commands off while a long sequence runs
+  std::function<void()> CmdYuko;        ///< commands on again
+  std::function<void()> OnlineChanged;  ///< the line went online or offline
+  std::function<void()> LayoutChanged;  ///< the controller's mode, axes or devices are others now
+
+  ViewCommands Commands;
+  EditStates Edit;
 
   Control* Find(std::string_view name) const;
 };

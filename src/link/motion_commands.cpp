@@ -1,6 +1,6 @@
 #include "link/motion_commands.h"
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "link/tusin_wait.h"
 
 namespace tr7 {

@@ -2,11 +2,11 @@
 
 #include <cstdlib>
 
-#include "core/app_state.h"
-#include "core/settings.h"
-#include "core/text.h"
 #include "forms/frm_main.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/settings.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
@@ -91,18 +91,6 @@ void TusinPortClose() {
 void TusinPortCloseForce() {
   doors.serial->Close();
   PortLampHyoji();
-}
-
-void SetOffline() {
-  AppState.Offline = True;
-  frmMain.imgOnline.Visible = false;
-  frmMain.lblOnline.Caption = Text(5117);
-}
-
-void SetOnline() {
-  AppState.Offline = False;
-  frmMain.imgOnline.Visible = true;
-  frmMain.lblOnline.Caption = Text(5116);
 }
 
 bool PortLampLies() { return frmMain.imgComPort.Visible != doors.serial->IsOpen(); }

@@ -29,10 +29,6 @@ class PortClosedAfter {
 /// system lists; empty when there is none.
 std::string PortDevice(int port_no);
 
-/// Offline on with the lamp off, and the reverse.
-void SetOffline();
-void SetOnline();
-
 /// Shows the port lamp and whether the controller is a simulated one.
 void PortLampHyoji();
 /// True when the port lamp does not show what the port is: a port may vanish by itself.

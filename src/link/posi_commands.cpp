@@ -1,6 +1,6 @@
 #include "link/posi_commands.h"
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 
 namespace tr7 {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 
 namespace tr7 {
 

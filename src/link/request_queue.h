@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/bool16.h"
+#include "base/bool16.h"
 
 namespace tr7 {
 

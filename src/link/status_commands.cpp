@@ -2,11 +2,12 @@
 
 #include <string>
 
-#include "core/app_state.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "link/port.h"
 #include "link/request_queue.h"
 #include "link/tusin_wait.h"
+#include "state/app_state.h"
+#include "state/online.h"
 
 namespace tr7 {
 namespace {

@@ -1,9 +1,9 @@
 #include "link/transfer.h"
 
-#include "core/app_state.h"
-#include "core/message_box.h"
 #include "link/port.h"
 #include "link/tusin_wait.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
 
 namespace tr7 {
 

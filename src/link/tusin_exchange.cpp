@@ -1,12 +1,13 @@
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/wait.h"
 #include "forms/frm_main.h"
+#include "link/error_list.h"
 #include "link/port.h"
 #include "link/tusin.h"
-#include "para/error_list.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/online.h"
+#include "state/text.h"
+#include "state/wait.h"
 
 namespace tr7 {
 namespace {

@@ -1,9 +1,9 @@
-#include "core/app_state.h"
 #include "forms/frm_main.h"
+#include "link/error_list.h"
 #include "link/request_queue.h"
 #include "link/tusin.h"
-#include "para/error_list.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

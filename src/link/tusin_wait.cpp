@@ -1,9 +1,9 @@
 #include "link/tusin_wait.h"
 
-#include "core/app_state.h"
-#include "core/wait.h"
 #include "link/request_queue.h"
-#include "platform/event_pump.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/wait.h"
 
 namespace tr7 {
 namespace {

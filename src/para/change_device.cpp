@@ -1,13 +1,9 @@
 #include "para/change_device.h"
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/reconcile.h"
-#include "core/scope.h"
-#include "core/selection.h"
-#include "core/text.h"
+#include "base/scope.h"
+#include "device/limits.h"
+#include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
 #include "link/port.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
@@ -15,6 +11,14 @@
 #include "para/para_file_flow.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
+#include "session/reconcile.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/online.h"
+#include "state/selection.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
@@ -79,16 +83,16 @@ void IniPrm() {
   if (IniParaFromStd() != 0) return;
   axes.Keep();
   if (axes.Changed()) {
-    Call(Hooks.RecalcLimits);
-    Call(Hooks.RebuildPosiView);
+    RecalcLimits();
+    AllViewsLayoutChanged();
   }
   YukoJikuHyojiSettei();  // the dialogue's axes, whatever the view has been set to
   ParametaHyoji();
 }
 
 void InstallChangeDevice() {
-  Hooks.Change_Device = Change_Device;
-  Hooks.IniPrm = IniPrm;
+  frmMain.mnuSettingDevice.Click = [] { Change_Device(); };
+  frmParameta2.cmdIniPrm.Click = IniPrm;
 }
 
 }  // namespace tr7

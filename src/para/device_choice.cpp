@@ -2,18 +2,18 @@
 
 #include <algorithm>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/reconcile.h"
-#include "para/dev_setting.h"
-#include "para/dev_setting_store.h"
+#include "device/dev_setting.h"
+#include "device/dev_setting_store.h"
+#include "device/device_list.h"
+#include "forms/frm_main.h"
 #include "para/device_dialog.h"
-#include "para/device_list.h"
 #include "para/device_take.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
+#include "session/reconcile.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
 
 namespace tr7 {
 namespace {
@@ -97,8 +97,7 @@ void SelectDevicesAtStart() {
 
 void InstallDeviceChoice() {
   InstallDeviceDialogs();
-  Hooks.SelectDevicesAtStart = SelectDevicesAtStart;
-  Hooks.DeviceOnline = DeviceOnline;
+  frmMain.mnuSettingDeviceOnline.Click = DeviceOnline;
 }
 
 }  // namespace tr7

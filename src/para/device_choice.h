@@ -12,7 +12,7 @@ int SelectDevice3();
 /// it back, until it has been left twice or there is no catalogue to choose from.
 void SelectDevicesAtStart();
 
-/// Hooks of the two.
+/// Wires the device dialogues and the menu that opens the one which writes.
 void InstallDeviceChoice();
 
 }  // namespace tr7

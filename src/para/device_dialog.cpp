@@ -1,13 +1,13 @@
 #include "para/device_dialog.h"
 
-#include "core/message_box.h"
-#include "core/scope.h"
-#include "core/text.h"
-#include "core/views.h"
-#include "para/dev_setting_store.h"
+#include "base/scope.h"
+#include "device/dev_setting_store.h"
 #include "para/para_after_device.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {

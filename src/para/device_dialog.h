@@ -3,9 +3,9 @@
 #include <array>
 #include <cstdint>
 
-#include "core/app_state.h"
-#include "para/dev_setting.h"
-#include "para/device_cascade.h"
+#include "device/dev_setting.h"
+#include "device/device_cascade.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

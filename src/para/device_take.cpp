@@ -1,14 +1,15 @@
 #include "para/device_take.h"
 
-#include "core/app_state.h"
-#include "core/hooks.h"
+#include "device/ct_device.h"
+#include "device/dev_setting.h"
+#include "device/dev_setting_store.h"
+#include "device/limits.h"
 #include "forms/frm_parameta2.h"
-#include "link/para_commands.h"
-#include "para/dev_setting.h"
-#include "para/dev_setting_store.h"
 #include "para/para_show.h"
 #include "para/param_set.h"
 #include "para/take_param_device.h"
+#include "session/followers.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {
@@ -43,8 +44,8 @@ int TakeDevicesOfParam() {
     return 1;
   }
   SaveDevSetting();
-  Call(Hooks.RecalcLimits);
-  Call(Hooks.PositionsFollowDevices);
+  RecalcLimits();
+  Followers.PositionsFollowDevices();
   if (frmParameta2.Loaded) ParametaHyoji();
   return 0;
 }

@@ -3,23 +3,24 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/message_box.h"
-#include "core/scope.h"
-#include "core/session.h"
-#include "core/text.h"
+#include "base/scope.h"
+#include "device/ct_device.h"
 #include "forms/frm_device.h"
 #include "forms/frm_posi.h"
-#include "link/para_commands.h"
-#include "link/para_transfer_commands.h"
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
+#include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
 #include "platform/doors.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/online.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
+#include "device/dev_setting.h"
+#include "device/device_list.h"
 #include "forms/frm_parameta2.h"
-#include "para/dev_setting.h"
-#include "para/device_list.h"
 #include "para/param_set.h"
 
 namespace tr7 {

@@ -1,11 +1,11 @@
 #include "para/para_after_device.h"
 
-#include "core/app_state.h"
-#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <string>
 
-#include "core/text.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "para/para_actuator.h"
 #include "para/para_mm.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -3,13 +3,12 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kCommon = 0, kOrder = 1;            // blocks of the controller
-constexpr int kFirstOfAxis = 2;                   // axis 1's first block; three for each axis
 constexpr int kHome = 0, kZone = 1, kDevice = 2;  // blocks of an axis
 
 struct RowPlace {
@@ -70,29 +69,10 @@ const RowPlace& RowAt(int row) { return kPlaces.at(static_cast<std::size_t>(row)
 
 // The parts of ACTUATOR, from the start of its place.
 constexpr std::size_t kSizeAt = 0, kSpeedAt = 2, kStrokeAt = 4, kStrokeHighAt = 6, kPart = 2;
-// The one size with a letter: the speed's place carries a mark instead of the speed.
-const char* const kMarkedSize = "E35";
-const char* const kMarkedSpeed = "L";
-const char* const kMark = "E";
 constexpr int kByte = 256;
 constexpr int kMaxStroke = 999;  ///< mm: three digits in the text of ACTUATOR
 
 std::string Part(const std::string& field, std::size_t at) { return field.substr(at, kPart); }
-
-bool IsPlain(const std::string& text) {
-  for (const char c : text) {
-    if (c < ' ' || c > '~') return false;
-  }
-  return true;
-}
-
-/// Size and speed in their 4 characters; empty when they have no form there.
-std::string DeviceTextField(const std::string& size, const std::string& speed) {
-  if (size == kMarkedSize) return speed == kMarkedSpeed ? size.substr(1) + kMark + " " : "";
-  if (size.size() != 3 || size[0] != ' ' || speed.size() != 1) return "";
-  if (speed == kMark || !IsPlain(size + speed)) return "";
-  return size.substr(1) + speed + " ";
-}
 
 std::string ActuatorField(const ParamSetRecord& set, std::size_t axis) {
   const std::string texts = DeviceTextField(set.ActSize[axis], set.ActSpeed[axis]);
@@ -142,10 +122,6 @@ ParaTableRecord ZeroTable() { return ParaTableOf(ParamSetRecord{}); }
 
 }  // namespace
 
-char ParaBlockChar(int block) { return "0123456789ABCD"[static_cast<std::size_t>(block)]; }
-
-int ParaBlockOfAxis(int axis, int which) { return kFirstOfAxis + 3 * axis + which; }
-
 std::vector<int> ParaBlocksFor(const ParaAxes& axes) {
   std::vector<int> blocks{kCommon, kOrder};
   for (int axis = 0; axis < kAxes; ++axis) {
@@ -191,17 +167,6 @@ bool DecodePara(const ParaBlocks& blocks, const ParaAxes& axes, ParaTableRecord&
   });
   if (good) table = read;
   return good;
-}
-
-void TakeDeviceTexts(const std::string& size_field, const std::string& speed_field,
-                     std::string& size, std::string& speed) {
-  speed = Trim(speed_field);
-  if (speed == kMark) {
-    speed = kMarkedSpeed;
-    size = kMarkedSize;
-  } else {
-    size = " " + size_field;
-  }
 }
 
 const char* ParaRowName(int row) { return RowAt(row).Name; }

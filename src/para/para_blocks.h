@@ -6,28 +6,20 @@
 #include <string>
 #include <vector>
 
-#include "core/app_state.h"
+#include "device/ct_blocks.h"
 #include "para/param_set.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 
 // The controller keeps its parameters in 14 blocks of 32 characters: two common ones, then three
 // for each axis. docs/protocol.md shows the same table.
 
-inline constexpr int kParaBlocks = 14;
-inline constexpr std::size_t kParaBlockLength = 32;
-/// Where a block's data begins in its reply, counted from 1: behind "0RD" and the block character.
-inline constexpr std::size_t kParaDataAt = 5;
-
 /// The data of all blocks, by block index; empty: not read.
 using ParaBlocks = std::array<std::string, kParaBlocks>;
 /// By axis: its block fields count.
 using ParaAxes = std::array<bool, kAxes>;
 
-/// Character of a block on the line, "0" to "9" and "A" to "D".
-char ParaBlockChar(int block);
-/// Index of an axis' (0 to 3) first, second or third block (0 to 2); the third is the device block.
-int ParaBlockOfAxis(int axis, int which);
 /// The blocks that hold something for these axes, in rising order.
 std::vector<int> ParaBlocksFor(const ParaAxes& axes);
 
@@ -56,10 +48,6 @@ std::optional<ParaCell> EncodePara(const ParamSetRecord& set, const ParaAxes& ax
 /// The blocks as a table, zeros for axes that do not count. False, and the table as it was, when a
 /// field is no number or a value does not fit its row.
 bool DecodePara(const ParaBlocks& blocks, const ParaAxes& axes, ParaTableRecord& table);
-
-/// Size and speed as the device block carries them, its positions 21 and 23.
-void TakeDeviceTexts(const std::string& size_field, const std::string& speed_field,
-                     std::string& size, std::string& speed);
 
 /// The controller's name of a row: "LS SERCH TIMER".
 const char* ParaRowName(int row);

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 
 namespace tr7 {
 namespace {

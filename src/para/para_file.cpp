@@ -5,11 +5,11 @@
 #include <limits>
 #include <utility>
 
-#include "core/message_box.h"
-#include "core/seq_file.h"
-#include "core/text.h"
-#include "core/text_file.h"
+#include "base/seq_file.h"
 #include "para/param_set.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/text_file.h"
 
 namespace tr7 {
 namespace {

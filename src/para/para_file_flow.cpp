@@ -3,10 +3,6 @@
 #include <optional>
 #include <string>
 
-#include "core/busy_scope.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/wait.h"
 #include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_content.h"
@@ -14,6 +10,10 @@
 #include "para/para_show.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/wait.h"
 
 namespace tr7 {
 namespace {

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "para/para_fields.h"
 #include "para/para_show.h"
 

@@ -1,9 +1,9 @@
 #include "para/para_hint.h"
 
-#include "core/text.h"
 #include "forms/frm_parameta2.h"
 #include "platform/doors.h"
-#include "posi/posi_hint.h"
+#include "state/status_panel.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

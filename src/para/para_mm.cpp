@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "core/text_helpers.h"
-#include "posi/unit_conversion.h"
+#include "base/text_helpers.h"
+#include "device/unit_conversion.h"
 
 namespace tr7 {
 namespace {

@@ -3,11 +3,11 @@
 #include <cmath>
 #include <string>
 
-#include "core/message_box.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
+#include "device/unit_conversion.h"
 #include "para/para_hint.h"
 #include "para/para_mm.h"
-#include "posi/unit_conversion.h"
+#include "state/message_box.h"
 
 namespace tr7 {
 namespace {

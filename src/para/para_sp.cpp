@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "para/para_columns.h"
 #include "para/para_fields.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

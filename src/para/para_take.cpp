@@ -1,4 +1,4 @@
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "para/para_actuator.h"
 #include "para/para_fields.h"
 #include "para/para_mm.h"

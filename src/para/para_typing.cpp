@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "para/para_fields.h"
 #include "para/para_hint.h"
 #include "para/para_mm.h"

@@ -1,12 +1,8 @@
 #include "para/para_view.h"
 
-#include "core/app_state.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/views.h"
-#include "para/dev_setting.h"
-#include "para/device_list.h"
+#include "device/dev_setting.h"
+#include "device/device_list.h"
+#include "forms/frm_main.h"
 #include "para/para_actuator.h"
 #include "para/para_axis_show.h"
 #include "para/para_columns.h"
@@ -18,6 +14,10 @@
 #include "para/para_typing.h"
 #include "para/stroke_calc.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
@@ -117,7 +117,6 @@ void InstallParaView() {
   f.QueryUnload = QueryUnloadView;
   f.CmdMuko = CommandsGoOff;
   f.CmdYuko = CommandsComeOn;
-  f.cmdIniPrm.Click = [] { Call(Hooks.IniPrm); };
   f.cmdCalculate.Click = ShowStrokeCalc;
   f.cmdReadParaFile.Click = OpenParameters;
   f.cmdSaveParaFile.Click = [] { SaveParaToFile(); };
@@ -125,7 +124,8 @@ void InstallParaView() {
   InstallParaTyping();
   InstallParaSp();
   InstallActuatorLists();
-  Hooks.ShowParameters = ShowParameters;
+  f.Commands.Open = OpenParameters;
+  frmMain.mnuViewPara.Click = ShowParameters;
 }
 
 }  // namespace tr7

@@ -4,8 +4,8 @@
 #include <limits>
 #include <variant>
 
-#include "core/seq_file.h"
-#include "core/text_helpers.h"
+#include "base/seq_file.h"
+#include "base/text_helpers.h"
 
 namespace tr7 {
 

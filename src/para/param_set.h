@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/bool16.h"
-#include "core/variant.h"
+#include "base/bool16.h"
+#include "base/variant.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

@@ -4,13 +4,13 @@
 #include <cmath>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "para/dev_setting.h"
+#include "device/dev_setting.h"
 #include "para/para_check.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -3,8 +3,8 @@
 #include <limits>
 #include <utility>
 
-#include "core/seq_file.h"
-#include "core/text_file.h"
+#include "base/seq_file.h"
+#include "state/text_file.h"
 
 namespace tr7 {
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "core/app_state.h"
-#include "para/device_model.h"
+#include "device/device_model.h"
 #include "para/param_set.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

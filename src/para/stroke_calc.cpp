@@ -3,14 +3,14 @@
 #include <array>
 #include <string>
 
-#include "core/text.h"
-#include "core/text_helpers.h"
-#include "core/views.h"
+#include "base/text_helpers.h"
+#include "device/unit_conversion.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_stroke_calc.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
-#include "posi/unit_conversion.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {

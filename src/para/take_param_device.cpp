@@ -1,9 +1,9 @@
 #include "para/take_param_device.h"
 
-#include "link/para_commands.h"
-#include "para/dev_setting.h"
+#include "device/ct_device.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "para/param_set.h"
-#include "posi/unit_conversion.h"
 
 namespace tr7 {
 namespace {

@@ -4,4 +4,6 @@ namespace tr7 {
 
 Doors doors;
 
+void Pump() { doors.pump->Run(); }
+
 }  // namespace tr7

@@ -24,4 +24,7 @@ struct Doors {
 
 extern Doors doors;
 
+/// Serves what is due through the installed pump, or sleeps until something is.
+void Pump();
+
 }  // namespace tr7

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 namespace tr7 {
 
@@ -17,15 +16,6 @@ class EventPump {
 
   /// Serves what is due. When nothing is, sleeps until something is, and serves that.
   virtual void Run() = 0;
-
- protected:
-  /// Serves each timer that is due once, in table order. True when one ticked.
-  bool ServeDueTimers();
-  /// When the next timer is due or the serial port next has something to say; nothing when never.
-  std::optional<std::int64_t> NextDueUs() const;
 };
-
-/// Serves what is due through the installed pump, or sleeps until something is.
-void Pump();
 
 }  // namespace tr7

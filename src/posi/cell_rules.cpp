@@ -4,13 +4,13 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/app_state.h"
-#include "core/text_helpers.h"
-#include "para/dev_setting.h"
+#include "base/text_helpers.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "posi/field_range.h"
 #include "posi/posi_format.h"
 #include "posi/posi_table.h"
-#include "posi/unit_conversion.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

@@ -1,15 +1,15 @@
 #include "posi/device_change.h"
 
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/text.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_check.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_keep.h"
+#include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
-#include "posi/posi_view.h"
 #include "posi/recalc.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <cmath>
 
-#include "core/app_state.h"
-#include "core/text_helpers.h"
-#include "para/dev_setting.h"
+#include "base/text_helpers.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "posi/posi_table.h"
-#include "posi/unit_conversion.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

@@ -4,17 +4,17 @@
 #include <cstdint>
 #include <string>
 
-#include "core/message_box.h"
-#include "core/selection.h"
-#include "core/text.h"
+#include "device/dev_setting_store.h"
+#include "device/device_names.h"
 #include "forms/frm_parameta2.h"
-#include "para/dev_setting_store.h"
-#include "para/device_names.h"
 #include "para/device_take.h"
 #include "para/para_file_flow.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
 #include "posi/posi_check.h"
+#include "state/message_box.h"
+#include "state/selection.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -3,10 +3,10 @@
 #include <array>
 #include <cstdint>
 
-#include "core/app_state.h"
-#include "link/para_commands.h"
-#include "para/dev_setting.h"
+#include "device/ct_device.h"
+#include "device/dev_setting.h"
 #include "para/param_set.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

@@ -1,9 +1,9 @@
 #include "posi/posi_caption.h"
 
-#include "core/text.h"
-#include "core/text_file.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_table.h"
+#include "state/text.h"
+#include "state/text_file.h"
 
 namespace tr7 {
 

@@ -4,13 +4,11 @@
 #include <cmath>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/scope.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
+#include "base/scope.h"
+#include "base/text_helpers.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
-#include "para/dev_setting.h"
 #include "posi/field_range.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_fill.h"
@@ -18,7 +16,9 @@
 #include "posi/posi_table.h"
 #include "posi/result_view.h"
 #include "posi/syogo_flags.h"
-#include "posi/unit_conversion.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

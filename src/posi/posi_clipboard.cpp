@@ -4,9 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/text.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "posi/cell_rules.h"
@@ -16,6 +13,10 @@
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/status_panel.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

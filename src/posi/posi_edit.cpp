@@ -1,12 +1,9 @@
 #include "posi/posi_edit.h"
 
+#include <functional>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "posi/cell_rules.h"
@@ -17,6 +14,10 @@
 #include "posi/posi_hint.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/status_panel.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
@@ -89,6 +90,13 @@ void MoveOn(bool backwards) {
   }
 }
 
+/// A table that is being taught is not edited meanwhile.
+std::function<void()> NotWhileTeaching(void (*command)()) {
+  return [command] {
+    if (!AppState.TeachingNow) command();
+  };
+}
+
 }  // namespace
 
 void cmdPosiCheck_Click() {
@@ -126,10 +134,10 @@ void InstallPosiEdit() {
   f.cmdPosiCopy.Click = cmdPosiCopy_Click;
   f.cmdPosiPaste.Click = cmdPosiPaste_Click;
   f.cmdPosiCheck.Click = cmdPosiCheck_Click;
-  Hooks.PosiInsertLine = cmdInsertLine_Click;
-  Hooks.PosiDeleteLine = cmdDeleteLine_Click;
-  Hooks.PosiCopy = cmdPosiCopy_Click;
-  Hooks.PosiPaste = cmdPosiPaste_Click;
+  f.Commands.InsertLine = NotWhileTeaching(cmdInsertLine_Click);
+  f.Commands.DeleteLine = NotWhileTeaching(cmdDeleteLine_Click);
+  f.Commands.Copy = NotWhileTeaching(cmdPosiCopy_Click);
+  f.Commands.Paste = NotWhileTeaching(cmdPosiPaste_Click);
 }
 
 }  // namespace tr7

@@ -6,16 +6,16 @@
 #include <utility>
 #include <vector>
 
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/seq_file.h"
-#include "core/text.h"
-#include "core/text_file.h"
-#include "core/text_helpers.h"
+#include "base/seq_file.h"
+#include "base/text_helpers.h"
+#include "device/dev_setting.h"
 #include "forms/frm_posi.h"
-#include "para/dev_setting.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/text_file.h"
 
 namespace tr7 {
 namespace {

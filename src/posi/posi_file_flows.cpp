@@ -2,19 +2,19 @@
 
 #include <optional>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/wait.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_check.h"
+#include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_range.h"
-#include "posi/posi_view.h"
 #include "posi/range_dialogs.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/wait.h"
 
 namespace tr7 {
 namespace {

@@ -1,8 +1,9 @@
 #include "posi/posi_flows.h"
 
-#include "core/hooks.h"
+#include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_file_flows.h"
+#include "posi/posi_new.h"
 #include "posi/posi_open.h"
 #include "posi/posi_transfer.h"
 #include "posi/posi_verify.h"
@@ -11,12 +12,14 @@ namespace tr7 {
 
 void InstallPosiFlows() {
   FrmPosi& f = frmPosi;
-  f.cmdPosiOpen.Click = Hooks.PosidataFileOpen = PosidataFileOpen;
-  f.cmdPosiSave.Click = Hooks.PosidataSaveToFile = PosidataSaveToFile;
-  f.cmdPosiSaveAs.Click = Hooks.PosiDataSaveAs = PosiDataSaveAs;
-  f.cmdPosiWrite.Click = Hooks.PosidataLoadtoCt = PosidataLoadtoCt;
-  f.cmdPosiCtVerify.Click = Hooks.PosiDataCtShogo = PosiDataCtShogo;
-  f.cmdPosiFileVerify.Click = Hooks.PosiDataFileShogo2 = PosiDataFileShogo2;
+  f.cmdPosiNew.Click = f.Commands.New = SinkiSakusei;
+  f.cmdPosiOpen.Click = f.Commands.Open = PosidataFileOpen;
+  f.cmdPosiSave.Click = f.Commands.Save = PosidataSaveToFile;
+  f.cmdPosiSaveAs.Click = f.Commands.SaveAs = PosiDataSaveAs;
+  f.cmdPosiFileVerify.Click = PosiDataFileShogo2;
+  f.cmdPosiRead.Click = frmMain.mnuContPosiRead.Click = PosidataGetfromCt;
+  f.cmdPosiWrite.Click = frmMain.mnuContPosiWrite.Click = PosidataLoadtoCt;
+  f.cmdPosiCtVerify.Click = frmMain.mnuContPosiVerify.Click = PosiDataCtShogo;
 }
 
 }  // namespace tr7

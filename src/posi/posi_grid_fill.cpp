@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <string>
 
-#include "core/app_state.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

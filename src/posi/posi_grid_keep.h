@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "core/app_state.h"
-#include "core/bool16.h"
+#include "base/bool16.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

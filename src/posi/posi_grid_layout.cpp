@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/text.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -1,14 +1,15 @@
 #include "posi/posi_hint.h"
 
-#include "core/app_state.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "para/dev_setting.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
-#include "posi/unit_conversion.h"
+#include "state/app_state.h"
+#include "state/status_panel.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
@@ -75,11 +76,6 @@ std::string PosiHint(int col) {
 
 std::string RefusalText(int col) {
   return col == kComment ? Text(kMsgCommentRefuses) : PosiRangeText(col);
-}
-
-void TellInStatusPanel(const std::string& text) {
-  // An alarm stays readable until it is cleared.
-  if (!AppState.AlarmOn) frmMain.sbStatusBar.Panels[kPanelError] = text;
 }
 
 void PosiHintHyoji() {

@@ -13,9 +13,6 @@ std::string PosiRangeText(int col);
 /// Why a cell of the column refused a text: its range, or what a comment cannot hold.
 std::string RefusalText(int col);
 
-/// Writes to the frame's first status panel; an alarm that stands there stays.
-void TellInStatusPanel(const std::string& text);
-
 /// Writes the hint of the grid's current cell to the frame's first status panel.
 void PosiHintHyoji();
 

@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/message_box.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_check.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
 
 namespace tr7 {
 namespace {

@@ -2,21 +2,21 @@
 
 #include <cstdint>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/text.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_table.h"
-#include "posi/posi_view.h"
 #include "posi/range_dialogs.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
 
+constexpr int kMsgSaveBeforeNew = 5243;
 constexpr std::int16_t kProposedFirst = 1;
 constexpr std::int16_t kProposedLast = 15;
 
@@ -42,7 +42,7 @@ bool MayReplaceTable(int question_id) {
   const MsgAnswer answer = MsgBox(Text(question_id), MsgButtons::YesNoCancel, MsgIcon::Question);
   if (answer == MsgAnswer::No) return true;
   if (answer != MsgAnswer::Yes) return false;
-  Call(Hooks.PosidataSaveToFile);
+  frmPosi.Commands.Save();
   return !frmPosi.PosiChanged;
 }
 

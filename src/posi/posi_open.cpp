@@ -3,22 +3,23 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/hooks.h"
-#include "core/message_box.h"
-#include "core/text.h"
+#include "device/dev_setting.h"
+#include "device/limits.h"
 #include "forms/frm_posi.h"
-#include "para/dev_setting.h"
 #include "posi/file_devices.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_commands.h"
 #include "posi/posi_file.h"
 #include "posi/posi_file_flows.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_new.h"
+#include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
-#include "posi/posi_view.h"
 #include "posi/recalc.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
@@ -64,7 +65,7 @@ void ShowStage() {
   AppState.PosiToNo = AppState.PosiLastNo = AppState.FileLastNo;
   AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
   NameSeries();
-  Call(Hooks.RecalcLimits);
+  RecalcLimits();
   PosiStageCommit();
   RecalcMmFromPulse();
   FG_HighSyoriStart();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/app_state.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "core/app_state.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "posi/posi_format.h"
 #include "posi/posi_table.h"
 #include "posi/syogo_flags.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

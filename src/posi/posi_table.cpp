@@ -4,8 +4,8 @@
 #include <cmath>
 #include <limits>
 
-#include "para/dev_setting.h"
-#include "posi/unit_conversion.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 
 namespace tr7 {
 

@@ -5,24 +5,24 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/text_file.h"
+#include "device/dev_setting.h"
 #include "link/port.h"
-#include "para/dev_setting.h"
 #include "posi/posi_check.h"
+#include "posi/posi_commands.h"
 #include "posi/posi_file.h"
 #include "posi/posi_file_flows.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_range.h"
 #include "posi/posi_syogo.h"
 #include "posi/posi_transfer.h"
-#include "posi/posi_view.h"
 #include "posi/range_dialogs.h"
 #include "posi/result_view.h"
 #include "posi/syogo_flags.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/text_file.h"
 
 namespace tr7 {
 namespace {

@@ -2,30 +2,7 @@
 
 namespace tr7 {
 
-inline constexpr int kMsgSaveBeforeNew = 5243;
-
-/// Wires the position view and the hooks that it serves.
+/// Wires the position view: its own handlers, what the frame may ask of it, its menus.
 void InstallPosiView();
-
-/// Rebuilds the view in the layout of `CtMode`: strip, columns, colours, titles, table.
-void RebuildPosiView();
-
-// The view's buttons and edit commands, off (Muko) and on (Yuko).
-void PosCMDBTN_Muko();
-void PosCMDBTN_Yuko();
-/// Edit commands of menu, popup and view off; the grid's selection brings them back.
-void EditCMD_Muko();
-
-/// Switches the edit commands by what is selected; paste also by whether something was copied.
-void EditCommandsBySelection();
-
-/// The grid rests for the length of a flow; on every way out it is on, repainted and focused.
-class PosiGridOff {
- public:
-  PosiGridOff();
-  ~PosiGridOff();
-  PosiGridOff(const PosiGridOff&) = delete;
-  PosiGridOff& operator=(const PosiGridOff&) = delete;
-};
 
 }  // namespace tr7

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "posi/posi_table.h"
 
 namespace tr7 {

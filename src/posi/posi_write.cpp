@@ -3,28 +3,28 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/busy_scope.h"
-#include "core/message_box.h"
-#include "core/progress.h"
-#include "core/session.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
-#include "link/para_commands.h"
+#include "base/text_helpers.h"
+#include "device/ct_device.h"
 #include "link/port.h"
 #include "link/posi_commands.h"
 #include "link/status_commands.h"
 #include "platform/doors.h"
 #include "posi/posi_check.h"
+#include "posi/posi_commands.h"
 #include "posi/posi_format.h"
 #include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
-#include "posi/posi_view.h"
 #include "posi/posi_wire.h"
 #include "posi/range_dialogs.h"
 #include "posi/result_view.h"
 #include "posi/syogo_flags.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/progress.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

@@ -3,14 +3,14 @@
 #include <cstdint>
 #include <string>
 
-#include "core/app_state.h"
-#include "core/message_box.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
-#include "core/views.h"
+#include "base/text_helpers.h"
 #include "forms/frm_select_posi_no.h"
 #include "platform/doors.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <limits>
 
-#include "core/app_state.h"
-#include "para/dev_setting.h"
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "posi/posi_table.h"
-#include "posi/unit_conversion.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

@@ -2,16 +2,16 @@
 
 #include <algorithm>
 
-#include "core/app_state.h"
-#include "core/text.h"
-#include "core/text_helpers.h"
-#include "core/views.h"
+#include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_syogo_kekka.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
 #include "posi/posi_table.h"
 #include "posi/syogo_flags.h"
+#include "state/app_state.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {

@@ -5,7 +5,7 @@
 #include <QTreeView>
 #include <memory>
 
-#include "core/text.h"
+#include "state/text.h"
 #include "ui/binding.h"
 #include "ui/message_dialog.h"
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/text.h"
+#include "state/text.h"
 #include "ui/binding.h"
 #include "ui/icons.h"
 

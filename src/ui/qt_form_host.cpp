@@ -11,9 +11,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "core/app_state.h"
-#include "core/views.h"
 #include "forms/control.h"
+#include "state/app_state.h"
+#include "state/views.h"
 #include "ui/grid_table.h"
 #include "ui/look.h"
 #include "ui/twips.h"

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <chrono>
 
+#include "platform/due_timers.h"
+
 namespace tr7 {
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "core/text.h"
+#include "state/text.h"
 #include "ui/binding.h"
 
 namespace tr7 {

@@ -7,9 +7,9 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "core/views.h"
 #include "forms/control.h"
 #include "platform/doors.h"
+#include "state/views.h"
 #include "ui/twips.h"
 
 namespace tr7 {

@@ -2,8 +2,8 @@
 #include <functional>
 #include <iterator>
 
+#include "device/dev_setting.h"
 #include "forms/frm_main.h"
-#include "para/dev_setting.h"
 #include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
 

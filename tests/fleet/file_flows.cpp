@@ -2,11 +2,11 @@
 #include <optional>
 #include <string>
 
-#include "core/text.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_table.h"
+#include "state/text.h"
 #include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
 #include "tests/fleet/user.h"

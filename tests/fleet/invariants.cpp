@@ -1,10 +1,10 @@
 #include "tests/fleet/invariants.h"
 
-#include "core/text.h"
+#include "device/device_cascade.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "para/device_cascade.h"
 #include "posi/posi_grid_layout.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {

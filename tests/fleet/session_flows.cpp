@@ -1,11 +1,11 @@
 #include <functional>
 
-#include "core/hooks.h"
 #include "core/main_entry.h"
-#include "core/text.h"
-#include "core/views.h"
 #include "forms/frm_main.h"
+#include "para/change_device.h"
 #include "para/para_file.h"
+#include "state/text.h"
+#include "state/views.h"
 #include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
 #include "tests/fleet/user.h"
@@ -87,7 +87,7 @@ void ChangeOptions(Voyage&) { frmMain.mnuSettingOptions.Press(); }
 
 void ChangeDevices(Voyage& voyage) {
   const auto muko = AppState.AxisMuko;
-  const bool failed = Hooks.Change_Device() != 0;
+  const bool failed = Change_Device() != 0;
   voyage.Require(!failed || muko == AppState.AxisMuko, "a failed device change changed the axes");
 }
 
@@ -111,7 +111,7 @@ void Exit(Voyage& voyage) {
     CloseView(frmMain, CloseReason::Code);
     closed_at = voyage.virt.pump.NowUs();
   });
-  Call(Hooks.PosidataGetfromCt);
+  frmMain.mnuContPosiRead.Click();
   voyage.virt.pump.RunFor(1'000'000);
   if (!voyage.virt.forms.ended) return;
   voyage.Require(!voyage.virt.port.IsOpen(), "port open after the end");

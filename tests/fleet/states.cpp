@@ -1,6 +1,6 @@
 #include "tests/fleet/states.h"
 
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "core/app_state.h"
-#include "para/dev_setting.h"
+#include "device/dev_setting.h"
 #include "sim/controller.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 

@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <string>
 
-#include "core/text.h"
-#include "core/text_helpers.h"
+#include "base/text_helpers.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_table.h"
 #include "posi/posi_wire.h"
+#include "state/text.h"
 #include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
 

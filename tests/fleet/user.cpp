@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "core/text.h"
 #include "forms/frm_device.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "state/text.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {

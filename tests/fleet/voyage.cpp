@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/text.h"
+#include "state/text.h"
 #include "tests/fleet/weather.h"
 
 namespace tr7 {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/app_state.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 namespace {

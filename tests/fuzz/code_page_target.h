@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/code_page.h"
+#include "base/code_page.h"
 #include "tests/fuzz/check.h"
 
 namespace tr7 {

@@ -3,15 +3,15 @@
 #include <string>
 #include <string_view>
 
-#include "core/app_state.h"
-#include "core/text.h"
-#include "core/text_file.h"
-#include "para/error_list.h"
+#include "link/error_list.h"
 #include "platform/doors.h"
-#include "platform/virtual/memory_files.h"
-#include "platform/virtual/virtual_form_host.h"
-#include "platform/virtual/virtual_settings.h"
+#include "state/app_state.h"
+#include "state/text.h"
+#include "state/text_file.h"
 #include "tests/fuzz/check.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/virtual_form_host.h"
+#include "tests/support/virtual_settings.h"
 
 namespace tr7 {
 

@@ -8,10 +8,10 @@
 #include "para/para_file.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
-#include "platform/virtual/memory_files.h"
-#include "platform/virtual/virtual_form_host.h"
-#include "platform/virtual/virtual_settings.h"
 #include "tests/fuzz/check.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/virtual_form_host.h"
+#include "tests/support/virtual_settings.h"
 
 namespace tr7 {
 

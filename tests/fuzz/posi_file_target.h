@@ -8,17 +8,17 @@
 #include <string_view>
 #include <variant>
 
-#include "core/app_state.h"
-#include "core/bool16.h"
+#include "base/bool16.h"
+#include "device/dev_setting.h"
 #include "forms/frm_posi.h"
-#include "para/dev_setting.h"
 #include "platform/doors.h"
-#include "platform/virtual/memory_files.h"
-#include "platform/virtual/virtual_form_host.h"
-#include "platform/virtual/virtual_settings.h"
 #include "posi/posi_file.h"
 #include "posi/posi_table.h"
+#include "state/app_state.h"
 #include "tests/fuzz/check.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/virtual_form_host.h"
+#include "tests/support/virtual_settings.h"
 
 namespace tr7 {
 

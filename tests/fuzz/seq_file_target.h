@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/seq_file.h"
+#include "base/seq_file.h"
 #include "tests/fuzz/check.h"
 
 namespace tr7 {

@@ -3,12 +3,12 @@
 #include <string>
 
 #include "core/main_entry.h"
-#include "core/text.h"
-#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "state/text.h"
+#include "state/views.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

@@ -1,8 +1,9 @@
 #include "tests/support/link_test.h"
 
+#include "link/error_list.h"
 #include "link/port.h"
 #include "link/tusin_wait.h"
-#include "para/error_list.h"
+#include "state/online.h"
 
 namespace tr7 {
 

@@ -1,9 +1,11 @@
 #include "tests/support/posi_table_test.h"
 
-#include "core/hooks.h"
-#include "para/dev_setting.h"
+#include "device/dev_setting.h"
+#include "device/limits.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "posi/posi_commands.h"
+#include "posi/posi_rebuild.h"
 #include "posi/posi_view.h"
 
 namespace tr7 {
@@ -25,7 +27,7 @@ void PosiTableTest::ShowTable(int first, int last, bool program_mode, bool mm) {
   AppState.PosiFirstNo = AppState.PosiFromNo = static_cast<std::int16_t>(first);
   AppState.PosiLastNo = AppState.PosiToNo = static_cast<std::int16_t>(last);
   AppState.PosiCount = static_cast<std::int16_t>(last - first + 1);
-  Call(Hooks.RecalcLimits);
+  RecalcLimits();
   PosiTableInit();
   RebuildPosiView();
   frmPosi.PosiChanged = False;

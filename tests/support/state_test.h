@@ -4,16 +4,16 @@
 
 #include <string>
 
-#include "core/app_state.h"
 #include "core/reset_state.h"
 #include "platform/doors.h"
 #include "platform/sim_port.h"
-#include "platform/virtual/memory_files.h"
-#include "platform/virtual/virtual_clipboard.h"
-#include "platform/virtual/virtual_form_host.h"
-#include "platform/virtual/virtual_help_viewer.h"
-#include "platform/virtual/virtual_pump.h"
-#include "platform/virtual/virtual_settings.h"
+#include "state/app_state.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/virtual_clipboard.h"
+#include "tests/support/virtual_form_host.h"
+#include "tests/support/virtual_help_viewer.h"
+#include "tests/support/virtual_pump.h"
+#include "tests/support/virtual_settings.h"
 
 namespace tr7 {
 

@@ -1,12 +1,12 @@
 #include "tests/tour/common_steps.h"
 
-#include "core/text.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "forms/frm_splash.h"
 #include "posi/posi_grid_layout.h"
+#include "state/text.h"
 
 namespace tr7::tour {
 namespace {

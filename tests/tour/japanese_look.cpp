@@ -1,8 +1,8 @@
-#include "core/text.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
+#include "state/text.h"
 #include "tests/tour/common_steps.h"
 #include "tests/tour/scripts.h"
 

@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 
-#include "core/text.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
@@ -10,6 +9,7 @@
 #include "forms/frm_syogo_kekka.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "state/text.h"
 
 namespace tr7::tour {
 namespace {

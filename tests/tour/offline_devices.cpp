@@ -1,9 +1,9 @@
-#include "core/app_state.h"
-#include "core/text.h"
 #include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_selection.h"
+#include "state/app_state.h"
+#include "state/text.h"
 #include "tests/tour/common_steps.h"
 #include "tests/tour/scripts.h"
 

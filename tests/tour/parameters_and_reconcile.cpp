@@ -1,9 +1,9 @@
-#include "core/text.h"
 #include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_selection.h"
 #include "forms/frm_stroke_calc.h"
+#include "state/text.h"
 #include "tests/tour/common_steps.h"
 #include "tests/tour/scripts.h"
 

@@ -1,7 +1,7 @@
-#include "core/text.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_table.h"
+#include "state/text.h"
 #include "tests/tour/common_steps.h"
 #include "tests/tour/job_steps.h"
 #include "tests/tour/scripts.h"

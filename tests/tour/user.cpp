@@ -13,7 +13,7 @@
 #include <QTabWidget>
 #include <QThread>
 
-#include "core/text.h"
+#include "state/text.h"
 #include "tests/tour/in_tool.h"
 #include "tests/tour/screen.h"
 #include "tests/tour/spoken_names.h"

@@ -12,11 +12,11 @@
 #include <QTest>
 #include <QToolBar>
 
-#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
+#include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/lamp.h"
 

@@ -9,12 +9,12 @@
 #include <map>
 
 #include "core/main_entry.h"
-#include "core/views.h"
 #include "forms/control.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_selection.h"
 #include "forms/frm_splash.h"
+#include "state/views.h"
 #include "tests/ui/clipping.h"
 #include "tests/ui/ui_test.h"
 

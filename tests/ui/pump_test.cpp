@@ -4,8 +4,8 @@
 #include <QTimer>
 #include <vector>
 
-#include "core/wait.h"
-#include "platform/timer.h"
+#include "forms/timer.h"
+#include "state/wait.h"
 #include "tests/ui/ui_test.h"
 
 namespace tr7 {

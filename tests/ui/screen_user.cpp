@@ -11,9 +11,9 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "core/text.h"
-#include "core/views.h"
 #include "forms/control.h"
+#include "state/text.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {

@@ -5,9 +5,9 @@
 #include <QTemporaryDir>
 #include <functional>
 
-#include "core/app_state.h"
-#include "core/text.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/text.h"
 #include "tests/ui/screen_user.h"
 #include "ui/desktop.h"
 

@@ -5,14 +5,14 @@
 #include <QTest>
 
 #include "core/main_entry.h"
-#include "core/message_box.h"
-#include "core/selection.h"
-#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "forms/frm_splash.h"
+#include "state/message_box.h"
+#include "state/selection.h"
+#include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/twips.h"
 

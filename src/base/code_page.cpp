@@ -1,0 +1,119 @@
+#include "base/code_page.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <vector>
+
+#include "base/utf8.h"
+
+extern const char tr7_res_cp932[];
+extern const unsigned tr7_res_cp932_size;
+
+namespace tr7 {
+namespace {
+
+// Half-width katakana stand in one byte.
+constexpr unsigned kKanaFirst = 0xA1, kKanaLast = 0xDF;
+constexpr char32_t kKanaCharacter = 0xFF61;
+
+bool IsLead(unsigned byte) {
+  return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+}
+
+/// The characters of two bytes. 0 marks a code or a character that does not exist.
+struct ShiftJisTable {
+  std::vector<char16_t> character_of = std::vector<char16_t>(0x10000);  ///< [lead * 256 + trail]
+  std::vector<std::uint16_t> code_of = std::vector<std::uint16_t>(0x10000);
+
+  ShiftJisTable() {
+    std::string_view rest(tr7_res_cp932, tr7_res_cp932_size);
+    while (!rest.empty()) {
+      const std::size_t end = std::min(rest.find('\n'), rest.size());
+      AddRow(rest.substr(0, end));
+      rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+  }
+
+  /// "+" or "-", tab, first code in four hexadecimal digits, tab, characters of codes in a row.
+  void AddRow(std::string_view row) {
+    if (row.size() < 8) return;
+    const bool encodes = row[0] == '+';
+    unsigned code = 0;
+    std::from_chars(row.data() + 2, row.data() + 6, code, 16);
+    const std::string_view characters = row.substr(7);
+    bool good = true;
+    for (std::size_t at = 0; at < characters.size() && code < 0x10000; ++code) {
+      const char32_t character = TakeUtf8(characters, at, good);
+      character_of[code] = static_cast<char16_t>(character);
+      if (encodes) code_of[character & 0xFFFF] = static_cast<std::uint16_t>(code);
+    }
+  }
+};
+
+const ShiftJisTable& Table() {
+  static const ShiftJisTable table;
+  return table;
+}
+
+char32_t TakeShiftJis(std::string_view bytes, std::size_t& at) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  const unsigned first = byte(at++);
+  if (first < 0x80) return first;
+  if (first >= kKanaFirst && first <= kKanaLast) return kKanaCharacter + (first - kKanaFirst);
+  if (!IsLead(first) || at == bytes.size()) return kBadCharacter;
+  const unsigned second = byte(at);
+  const char16_t character = Table().character_of[first << 8 | second];
+  // An ASCII byte behind a stray lead byte stays itself, so that damage never eats a separator.
+  if (character != 0 || second >= 0x80) ++at;
+  return character != 0 ? character : kBadCharacter;
+}
+
+bool AppendShiftJis(std::string& bytes, char32_t character) {
+  if (character < 0x80) {
+    bytes += static_cast<char>(character);
+    return true;
+  }
+  if (character >= kKanaCharacter && character <= kKanaCharacter + (kKanaLast - kKanaFirst)) {
+    bytes += static_cast<char>(character - kKanaCharacter + kKanaFirst);
+    return true;
+  }
+  const std::uint16_t code = character < 0x10000 ? Table().code_of[character] : std::uint16_t{0};
+  if (code == 0) return false;
+  bytes += static_cast<char>(code >> 8);
+  bytes += static_cast<char>(code & 0xFF);
+  return true;
+}
+
+}  // namespace
+
+std::string DecodeCodePage(int page, std::string_view bytes) {
+  std::string utf8;
+  utf8.reserve(bytes.size());
+  bool good = true;
+  for (std::size_t at = 0; at < bytes.size();) {
+    AppendUtf8(utf8, page == kCodePageUtf8 ? TakeUtf8(bytes, at, good) : TakeShiftJis(bytes, at));
+  }
+  return utf8;
+}
+
+EncodedText EncodeCodePage(int page, std::string_view utf8) {
+  EncodedText result;
+  result.bytes.reserve(utf8.size());
+  for (std::size_t at = 0; at < utf8.size();) {
+    const std::size_t begin = at;
+    bool good = true;
+    const char32_t character = TakeUtf8(utf8, at, good);
+    if (good && page == kCodePageUtf8) {
+      AppendUtf8(result.bytes, character);
+    } else if (!good || !AppendShiftJis(result.bytes, character)) {
+      result.ok = false;
+      result.bad_at = begin;
+      AppendUtf8(result.bad_character, character);
+      return result;
+    }
+  }
+  return result;
+}
+
+}  // namespace tr7

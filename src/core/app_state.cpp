@@ -1,7 +1,0 @@
-#include "core/app_state.h"
-
-namespace tr7 {
-
-AppStateRecord AppState;
-
-}  // namespace tr7

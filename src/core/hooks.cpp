@@ -1,7 +1,0 @@
-#include "core/hooks.h"
-
-namespace tr7 {
-
-HookTable Hooks;
-
-}  // namespace tr7

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "base/bool16.h"
+#include "state/app_state.h"
+
+namespace tr7 {
+
+// Parameter memory travels in 14 blocks "0" to "9" and "A" to "D" of 32 characters. 0 success,
+// 1 failure, unless told otherwise; the exchange has told the user of a failure.
+
+/// What the controller reports of the actuator on one axis.
+struct CtDeviceRecord {
+  std::string Size;   ///< 3 characters
+  std::string Speed;  ///< 1 character
+  int Stroke = 0;     ///< mm
+  int Lead = 0;       ///< mm per motor turn
+  int Ppr = 0;        ///< pulses per motor turn
+  int MaxPulse = 0;   ///< stroke in pulses
+  int Type = 0;
+  int PgCode = 0;  ///< 0 none, 1 or 2 fitted
+};
+
+extern std::array<CtDeviceRecord, kAxes> CtDev;
+
+/// "0RD": one block; `reply` is the whole line.
+int ReadParaBlock(char block, int timeout_ms, std::string& reply);
+
+/// Opens the port (up to 4 attempts), takes command and reads block 0 into `AxisPattern` and
+/// `AxisMuko`. Also known as ReadAxisSettingFromCt.
+int ReadCtAxisFromCt();
+/// The same into `AxisPatternOfCt`, `AxisMukoOfCt`, `CtModeOfCt`. Also known as ReadCtModeFromCt.
+int ReadCtModeAndAxis();
+/// 0 equal, 1 axes differ, 2 mode differs, 3 both, -1 failure.
+int CompareCtModeAndAxis();
+
+/// PG code and device block of each axis in use into `CtDev`; zeros for others. Also known as
+/// ReadDevSettingFromCt.
+int ReadCtDeviceFromCt();
+/// The controller's axes and devices against the PC's: 0 equal, 1 different, -1 failure.
+int CompareCtDevice();
+
+/// The four values of block 1, one for each axis: the order in which they home.
+int ReadCtBlock1(std::array<std::int32_t, kAxes>& values);
+
+/// Stroke in pulses of one axis (0 to 3), from its device block.
+int ReadAxisMaxPulse(int axis, std::int32_t& pulses);
+/// The same for each axis in use; 0 for others. A failure leaves `pulses` as they were.
+int ReadAxisMaxPulseFromCt(std::array<std::int32_t, kAxes>& pulses);
+
+/// Writes the mask of axes in use (axis i: 1 << i) into block 0; on success `AxisPattern` is it.
+/// Also known as WriteAxisMaskToCt.
+int WriteAxisPatternToCt(int mask);
+
+/// Writes the controller mode (0 position, 1 program) into block 0 and commits it. A mode other
+/// than the one read tells the user to switch the controller off and on.
+int ChangeCtModeToCt(int mode);
+
+}  // namespace tr7

@@ -1,0 +1,20 @@
+#include "device/dev_setting.h"
+
+namespace tr7 {
+
+std::array<DevSettingRecord, kAxes> DevSetting;
+std::array<DevSettingRecord, kAxes> DevSettei;
+std::array<std::string, kAxes> FileDevice;
+
+void CalcMmPerPulse(DevSettingRecord& device) {
+  device.MmPerPulse = device.Ppr == 0 ? 0 : static_cast<double>(device.Lead) / device.Ppr;
+}
+
+bool EveryAxisHasADevice() {
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if (!AppState.AxisMuko[axis] && DevSetting[axis].NotChosen) return false;
+  }
+  return true;
+}
+
+}  // namespace tr7

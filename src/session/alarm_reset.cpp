@@ -1,0 +1,52 @@
+#include "session/alarm_reset.h"
+
+#include "forms/frm_main.h"
+#include "link/port.h"
+#include "link/status_commands.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/online.h"
+
+namespace tr7 {
+namespace {
+
+/// True when the controller took the reset.
+bool ResetAlarm() {
+  if (AlarmResetToCt() == 0) return true;
+  if (AppState.AlarmNotResettable) MsgBox(TwoLines(324, 325));
+  return false;
+}
+
+void ClearAlarmDisplay() {
+  frmMain.imgAlarm.Visible = false;
+  AppState.AlarmOn = False;
+  frmMain.sbStatusBar.Panels[kPanelError].clear();
+}
+
+/// 0 when the line is online at the end; the step that fails has told the user.
+int ResetAndConnect() {
+  if (OpenPortOrTell() != 0 || !ResetAlarm()) return 1;
+  ClearAlarmDisplay();
+  if (CtComStart() != 0) {
+    AppState.TusinFailed = False;
+    return 1;
+  }
+  return fChangeToOnline();
+}
+
+}  // namespace
+
+void AlarmReset() {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  const PortClosedAfter port_closed;
+  LiftOffline();
+  const int result = ResetAndConnect();
+  // Where no good reply has confirmed it, the line is not online.
+  if (result != 0 && AppState.OfflineTemporarilyLifted) SetOffline();
+  AppState.OfflineTemporarilyLifted = False;
+}
+
+}  // namespace tr7

@@ -1,0 +1,7 @@
+#include "session/followers.h"
+
+namespace tr7 {
+
+FollowersRecord Followers;
+
+}  // namespace tr7

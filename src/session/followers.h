@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+namespace tr7 {
+
+/// What follows when devices are taken from the controller or from parameters. The session cannot
+/// reach the tables of higher floors; the position view registers here.
+struct FollowersRecord {
+  /// Limits of the loaded table, its check, and pulses from millimetres or millimetres from pulses
+  /// by the display unit; then the view is rebuilt.
+  std::function<void()> PositionsFollowDevices;
+  /// The same where the pulses stay whatever the unit: the millimetres follow them.
+  std::function<void()> MmFollowsPulses;
+};
+
+extern FollowersRecord Followers;
+
+}  // namespace tr7

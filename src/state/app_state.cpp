@@ -1,0 +1,7 @@
+#include "state/app_state.h"
+
+namespace tr7 {
+
+AppStateRecord AppState;
+
+}  // namespace tr7

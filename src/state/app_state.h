@@ -1,0 +1,122 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "base/bool16.h"
+
+namespace tr7 {
+
+inline constexpr int kAxes = 4;
+
+/// The outcome of the last exchange with the controller. `id` is written last: that wakes the
+/// caller.
+struct TusinResultRecord {
+  std::int16_t status = 0;  ///< 0 success, 1 failure
+  std::string reply;        ///< received text with CR LF
+  std::string prefix;       ///< the three characters that were expected
+  std::int16_t id = 0;      ///< request id
+};
+
+/// The single shared record of the system. Axis arrays: index 0 to 3 for AXIS1 to AXIS4.
+struct AppStateRecord {
+  // Language
+  std::int16_t LangOffset = 0;  ///< 0 Japanese, 10000 English
+  std::int16_t LanguageNo = 1;  ///< 1 Japanese, 2 English
+  Bool16 LanguageChanged;       ///< the user picked the other language; applied at exit only
+
+  // Session
+  Bool16 Offline = True;  ///< True: no traffic may flow
+  Bool16 OfflineTemporarilyLifted;
+  Bool16 CtMode;         ///< False position mode, True program mode
+  Bool16 CtModeOfCt;     ///< the mode that the controller reported last
+  Bool16 CtModePending;  ///< a mode was written that the controller takes at its next power cycle
+  /// Axis not in use on the PC side; the same fact is called AxisAbsent where devices are meant.
+  std::array<Bool16, kAxes> AxisMuko;
+  std::array<Bool16, kAxes> AxisMukoOfCt;
+  /// Axis without a device in the opened position file; also called FileAxisAbsent.
+  std::array<Bool16, kAxes> AxisMukoOfFile;
+  std::int16_t AxisPattern = 0;  ///< bit i: axis i+1 is in use on the controller
+  std::int16_t AxisPatternOfCt = 0;
+  std::int16_t AxisCount = 0;  ///< axes of the controller, 1 to 4
+  std::string CtVersionText;   ///< main board version, 3 characters
+  std::string CtModelMarker;   ///< "R1M" to "R4M"
+  std::int16_t CtAxisDigit = 0;
+  std::array<std::string, kAxes> AxisVersionText;
+  Bool16 AllHomed;
+
+  // Settings
+  std::int16_t PortNo = 1;     ///< 1 to 9
+  std::int16_t BaudIndex = 0;  ///< 0: 9600, 1: 19200, 2: 38400; always 0
+  Bool16 PortOccupy;           ///< the port stays open between sequences
+  Bool16 DispMmUnit;           ///< positions are shown in millimetres
+  Bool16 MmRoundUp;            ///< a tie of the conversion goes up
+
+  // What runs
+  Bool16 TeachingNow;
+  Bool16 ComBusy;                     ///< a long sequence runs; blocks exit
+  std::int16_t CommandsOffDepth = 0;  ///< flows, one within the other, that hold the commands off
+  Bool16 CancelRequested;             ///< the cancel button beside the progress bar was pressed
+  Bool16 ProgressWriting;             ///< the running bulk sequence may be cancelled
+  Bool16 SplashDone;
+  Bool16 GroupMoveStop;  ///< the stop button of a group move was pressed
+  std::int16_t NextProgViewNo = 1;
+
+  // Link
+  int TusinTimeoutMs = 0;  ///< of the next send
+  Bool16 TusinFailed;
+  Bool16 TusinTimedOut;
+  Bool16 TusinReplyReady;
+  std::string TusinReplyText;  ///< last complete line, with CR LF
+  std::string TusinRxBuffer;   ///< partial line so far
+  std::int16_t TusinRetryCount = 0;
+  std::int16_t TusinBadReplyKind = 0;  ///< 1 wrong prefix, 2 wrong length
+  Bool16 TusinExchanging;
+  TusinResultRecord TusinResult;
+  std::string PortFaultText;  ///< the reason behind the last port failure, in the user's language
+
+  // Alarm
+  Bool16 AlarmOn;
+  std::string LastCtErrorText;  ///< raw error reply
+  std::string CtErrorNo;        ///< one character
+  std::string CtErrorName;
+  Bool16 CtErrorKnown;
+  Bool16 AlarmNotResettable;  ///< never set; the branches that test it stay
+
+  // Position range
+  std::int16_t PosiFirstNo = 0;  ///< both 0: no table
+  std::int16_t PosiLastNo = 0;
+  std::int16_t PosiCount = 0;
+  std::int16_t PosiFromNo = 0;  ///< range of the running operation
+  std::int16_t PosiToNo = 0;
+  std::int16_t FileFirstNo = 0;
+  std::int16_t FileLastNo = 0;
+  std::int16_t SyogoFromNo = 0;
+  std::int16_t SyogoToNo = 0;
+  Bool16 RangeCancelled;
+  Bool16 RangeIsForNew;
+  Bool16 FileIsPrgMode;
+  Bool16 PosiFileNotOurs;
+
+  // Limits
+  std::array<std::int32_t, kAxes> MaxPulse{};
+  std::array<double, kAxes> MaxMm{};  ///< whole multiples of 0.0001
+  std::array<std::int16_t, kAxes> MaxVel{};
+  std::array<double, kAxes> StrokePulse{};
+  std::array<double, kAxes> StrokeMm{};
+
+  // Motion settings, one value each for its three fields
+  std::int16_t VelOf100Pls = 20;
+  std::int16_t AccOf100Pls = 3;
+  std::int16_t AccOf100Pls2 = 3;
+  std::int16_t AccOfJog = 3;
+  std::int16_t AccOfJog2 = 2;
+
+  // Paths
+  std::string HelpFilePath;
+};
+
+extern AppStateRecord AppState;
+
+}  // namespace tr7

@@ -1,0 +1,31 @@
+#include "state/busy_scope.h"
+
+#include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/frame_menus.h"
+#include "state/online.h"
+#include "state/views.h"
+
+namespace tr7 {
+
+CommandsOff::CommandsOff() {
+  ++AppState.CommandsOffDepth;
+  AllViewsCmdMuko();
+}
+
+CommandsOff::~CommandsOff() {
+  if (--AppState.CommandsOffDepth > 0) return;
+  SettleOnlineState();
+  AllViewsCmdYuko();
+  // The line may have gone offline or online on the way: menus and tabs tell the truth again.
+  AllViewsOnlineChanged();
+  ChangeMenuDisp(AppState.CtMode);
+}
+
+BusyScope::BusyScope() : was_busy_(AppState.ComBusy) { AppState.ComBusy = True; }
+BusyScope::~BusyScope() { AppState.ComBusy = was_busy_; }
+
+WaitCursorScope::WaitCursorScope() { doors.forms->WaitCursor(true); }
+WaitCursorScope::~WaitCursorScope() { doors.forms->WaitCursor(false); }
+
+}  // namespace tr7

@@ -1,0 +1,81 @@
+#include "state/text_file.h"
+
+#include <algorithm>
+
+#include "base/code_page.h"
+#include "platform/atomic_save.h"
+#include "platform/doors.h"
+#include "state/settings.h"
+#include "state/text.h"
+
+namespace tr7 {
+namespace {
+
+// Reasons in the user's words, with the file's title.
+constexpr int kMsgNotFound = 5910;
+constexpr int kMsgNotPermitted = 5911;
+constexpr int kMsgDiskFull = 5912;
+constexpr int kMsgTooLarge = 5913;
+constexpr int kMsgOther = 5914;
+constexpr int kMsgBadCharacter = 5915;
+
+int MessageOf(FileFault fault) {
+  switch (fault) {
+    case FileFault::NotFound:
+      return kMsgNotFound;
+    case FileFault::NotPermitted:
+      return kMsgNotPermitted;
+    case FileFault::DiskFull:
+      return kMsgDiskFull;
+    case FileFault::TooLarge:
+      return kMsgTooLarge;
+    default:
+      return kMsgOther;
+  }
+}
+
+TextFileResult ResultOf(FileFault fault, const std::string& path) {
+  TextFileResult result;
+  if (fault == FileFault::None) return result;
+  result.ok = false;
+  result.fault = fault;
+  result.words = Text(MessageOf(fault), FileTitle(path));
+  return result;
+}
+
+}  // namespace
+
+int FileCodePage() {
+  return GetSettingNumber("CodePage", kCodePageShiftJis) == kCodePageUtf8 ? kCodePageUtf8
+                                                                          : kCodePageShiftJis;
+}
+
+TextFileResult ReadTextFile(const std::string& path, std::string& utf8, std::size_t limit) {
+  std::string bytes;
+  const TextFileResult result = ResultOf(doors.files->Read(path, limit, bytes), path);
+  if (result.ok) utf8 = DecodeCodePage(FileCodePage(), bytes);
+  return result;
+}
+
+TextFileResult SaveTextFile(const std::string& path, const std::string& utf8) {
+  const EncodedText encoded = EncodeCodePage(FileCodePage(), utf8);
+  if (encoded.ok) return ResultOf(SaveAtomically(*doors.files, path, encoded.bytes), path);
+  TextFileResult result;
+  result.ok = false;
+  const auto bad = utf8.begin() + static_cast<std::ptrdiff_t>(encoded.bad_at);
+  result.bad_line = 1 + static_cast<int>(std::count(utf8.begin(), bad, '\n'));
+  result.bad_character = encoded.bad_character;
+  result.words = Text(kMsgBadCharacter, std::to_string(result.bad_line), result.bad_character);
+  return result;
+}
+
+std::string FileTitle(const std::string& path) {
+  const std::size_t separator = path.find_last_of("/\\");
+  return separator == std::string::npos ? path : path.substr(separator + 1);
+}
+
+std::string ProgramFile(const std::string& name) {
+  return doors.files->ProgramFolder() + "/" + name;
+}
+
+}  // namespace tr7

@@ -1,0 +1,120 @@
+#include "state/views.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "forms/control.h"
+#include "forms/frm_main.h"
+#include "platform/doors.h"
+#include "state/text.h"
+
+namespace tr7 {
+namespace {
+
+std::vector<View*> open_views;
+View* active_view = nullptr;
+
+void ApplyControlCaption(Control& control) {
+  if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    for (Tab& tab : tabs->Tabs) {
+      if (tab.Tag > 0) tab.Caption = Text(tab.Tag);
+    }
+  } else if (auto* bar = dynamic_cast<Toolbar*>(&control)) {
+    for (ToolButton& button : bar->Buttons) {
+      if (button.Tag > 0) button.ToolTipText = Text(button.Tag);
+    }
+  } else if (control.Tag > 0) {
+    control.Caption = Text(control.Tag);
+  }
+}
+
+}  // namespace
+
+const std::vector<View*>& OpenViews() { return open_views; }
+View* ActiveView() { return active_view; }
+void SetActiveView(View* view) {
+  if (active_view == view) return;
+  active_view = view;
+  if (frmMain.FrontChanged) frmMain.FrontChanged();
+  if (view && view->Activate) view->Activate();
+}
+
+void ApplyViewCaptions(View& view) {
+  // The frame sets its own caption: it carries the version.
+  if (view.Tag != 0 && std::string_view(view.Name) != "frmMain") view.Caption = Text(view.Tag);
+  for (Control* control : view.Controls) ApplyControlCaption(*control);
+}
+
+namespace {
+
+void LoadView(View& view) {
+  // The view counts as open while it loads: the frame's load runs the whole start.
+  if (std::find(open_views.begin(), open_views.end(), &view) == open_views.end()) {
+    open_views.push_back(&view);
+  }
+  if (view.Loaded) return;
+  view.Loaded = true;
+  ApplyViewCaptions(view);
+  if (view.Load) view.Load();
+}
+
+}  // namespace
+
+void ShowView(View& view) {
+  LoadView(view);
+  view.Visible = true;
+  doors.forms->Show(view);
+  if (view.MdiChild) SetActiveView(&view);
+}
+
+void ShowViewModal(View& view) {
+  LoadView(view);
+  view.Visible = true;
+  doors.forms->ShowModal(view);
+  UnloadView(view);
+}
+
+void UnloadView(View& view) {
+  view.Visible = false;
+  std::erase(open_views, &view);
+  doors.forms->Hide(view);
+  if (view.Loaded) {
+    view.Loaded = false;
+    if (view.Unload) view.Unload();
+  }
+  if (active_view == &view) {
+    active_view = nullptr;
+    for (View* other : open_views) {
+      if (other->MdiChild) SetActiveView(other);
+    }
+  }
+}
+
+bool CloseView(View& view, CloseReason reason) {
+  if (view.QueryUnload && view.QueryUnload(reason)) return false;
+  UnloadView(view);
+  return true;
+}
+
+void ResetViews() {
+  open_views.clear();
+  active_view = nullptr;
+}
+
+namespace {
+
+/// By index: a handler may open or close views.
+void ForOpenViews(std::function<void()> View::*handler) {
+  for (std::size_t i = 0; i < open_views.size(); ++i) {
+    if (const auto& run = open_views[i]->*handler) run();
+  }
+}
+
+}  // namespace
+
+void AllViewsCmdMuko() { ForOpenViews(&View::CmdMuko); }
+void AllViewsCmdYuko() { ForOpenViews(&View::CmdYuko); }
+void AllViewsOnlineChanged() { ForOpenViews(&View::OnlineChanged); }
+void AllViewsLayoutChanged() { ForOpenViews(&View::LayoutChanged); }
+
+}  // namespace tr7

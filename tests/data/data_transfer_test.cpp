@@ -1,0 +1,230 @@
+// Groups, sequence macros and tuning values: the bytes that carry them both ways.
+
+#include <numeric>
+
+#include "data/grp_commands.h"
+#include "data/grp_table.h"
+#include "data/sm_commands.h"
+#include "data/sm_table.h"
+#include "forms/frm_main.h"
+#include "link/port.h"
+#include "link/transfer.h"
+#include "para/sys_para.h"
+#include "para/sys_para_commands.h"
+#include "state/online.h"
+#include "state/text.h"
+#include "tests/support/link_test.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+class DataTest : public LinkTest {
+ protected:
+  /// Looks at the progress bar every 5 ms.
+  void WatchBar() {
+    for (int i = 1; i < 2000; ++i) {
+      pump.After(i * 5'000, [this] {
+        if (!frmMain.ProgressBar1.Visible) return;
+        bar_max = frmMain.ProgressBar1.Max;
+        may_cancel = frmMain.cmdComCancel.Visible;
+      });
+    }
+  }
+  int bar_max = 0;
+  bool may_cancel = false;
+};
+
+// Both ways.
+
+TEST_F(DataTest, GroupsGoOutAndComeBack) {
+  GrpTable.GrpStart[1] = 1;
+  GrpTable.GrpEnd[1] = 999;
+  GrpTable.GrpStart[99] = 500;
+  GrpTable.GrpEnd[99] = 501;
+  WatchBar();
+  ASSERT_EQ(WriteGrpToCt(), 0);
+  EXPECT_EQ(bar_max, 100);
+  EXPECT_FALSE(may_cancel);
+  const std::vector<std::string> lines = Sent();
+  ASSERT_EQ(lines.size(), 100u);
+  EXPECT_EQ(lines[0], "0WG010013E7");
+  EXPECT_EQ(lines[9], "0WG0A001001");
+  EXPECT_EQ(lines[98], "0WG631F41F5");
+  EXPECT_EQ(lines[99], "0WE3");
+  EXPECT_EQ(port.Ct().CommittedGroup(1), std::pair(1, 999));
+  EXPECT_EQ(port.Ct().CommittedGroup(99), std::pair(500, 501));
+  ASSERT_EQ(ReadGrpFromCt(), 0);
+  EXPECT_EQ(GrpStage, GrpTable);
+  EXPECT_EQ(Commands(5).substr(0, 17), "0RG01 0RG02 0RG03");
+  EXPECT_EQ(bar_max, 98);
+  EXPECT_TRUE(may_cancel);
+  EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
+}
+
+TEST_F(DataTest, MacrosGoOutAndComeBack) {
+  SmTable[0][0] = {1, 4};
+  SmTable[0][15] = {6, 9};
+  SmTable[19][1] = {15, 3};
+  SmTable[19][2] = {0, 7};  // goes out as it stands, comes back without its value
+  WatchBar();
+  ASSERT_EQ(WriteSmToCt(), 0);
+  EXPECT_EQ(bar_max, 21);
+  const std::vector<std::string> lines = Sent();
+  ASSERT_EQ(lines.size(), 21u);
+  EXPECT_EQ(lines[0], "0WS0114" + std::string(28, '0') + "69");
+  EXPECT_EQ(lines[19], "0WS1400F307" + std::string(26, '0'));
+  EXPECT_EQ(lines[20], "0WE1");
+  EXPECT_EQ(port.Ct().CommittedMacro(1), lines[0].substr(5));
+  ASSERT_EQ(ReadSmFromCt(), 0);
+  EXPECT_EQ(bar_max, 20);
+  SmTableRecord expected = SmTable;
+  expected[19][2].Value = 0;
+  EXPECT_EQ(SmStage, expected);
+  EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
+}
+
+TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
+  for (std::size_t slot = 1; slot <= kSysParaSlots; ++slot) {
+    const bool narrow = slot >= 17 && slot <= 48;
+    SysPara[slot] = static_cast<double>(slot) + (narrow ? 100 : 60000);
+  }
+  SysPara[1] = SysPara[17] = SysPara[72] = 0;
+  SysPara[16] = 65535;
+  SysPara[48] = 255;
+  WatchBar();
+  ASSERT_EQ(WriteSysParaToCt(), 0);
+  EXPECT_EQ(bar_max, 8);
+  const std::vector<std::string> lines = Sent();
+  ASSERT_EQ(lines.size(), 8u);
+  EXPECT_EQ(lines[0], "0WK00000EA62EA63EA64EA65EA66EA67EA68");
+  EXPECT_EQ(lines[1].substr(32), "FFFF");
+  EXPECT_EQ(lines[2], "0WK200767778797A7B7C7D7E7F8081828384");
+  EXPECT_EQ(lines[3].substr(34), "FF");
+  EXPECT_EQ(lines[6].substr(32), "0000");
+  EXPECT_EQ(lines[7], "0WF");
+  EXPECT_EQ(port.Ct().CommittedSystemBlock(3), lines[3].substr(4));
+  ASSERT_EQ(ReadSysParaFromCt(), 0);
+  EXPECT_EQ(bar_max, 7);
+  EXPECT_EQ(SysParaRead, SysPara);
+  EXPECT_EQ(Commands(), "0RK0 0RK1 0RK2 0RK3 0RK4 0RK5 0RK6");
+}
+
+TEST_F(DataTest, TheCancelButtonStopsAReadOfGroups) {
+  pump.After(1'000'000, [] {
+    EXPECT_TRUE(frmMain.cmdComCancel.Visible);
+    AppState.CancelRequested = True;
+  });
+  const GrpTableRecord before = GrpStage;
+  EXPECT_EQ(ReadGrpFromCt(), kTransferStopped);
+  EXPECT_EQ(GrpStage, before) << "only a whole table is taken";
+  const std::size_t read = Sent().size();
+  EXPECT_TRUE(read > 5 && read < 90) << read;
+  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+  EXPECT_EQ(ReadGrpFromCt(), 0) << "the next read starts afresh";
+  EXPECT_NE(GrpStage, before);
+}
+
+// Failures.
+
+struct Stages {
+  GrpTableRecord Grp = GrpStage;
+  SmTableRecord Sm = SmStage;
+  SysParaRecord Sys = SysParaRead;
+  bool operator==(const Stages&) const = default;
+};
+
+TEST_F(DataTest, AFailedTransferChangesNothing) {
+  const struct {
+    const char* what;
+    int (*run)();
+    FaultKind kind;
+    const char* prefix;
+    int at_byte;
+    int box;
+  } rows[] = {
+      {"group refused", ReadGrpFromCt, FaultKind::kErrorReply, "0RG05", -1, 104},
+      {"another group", ReadGrpFromCt, FaultKind::kChangedByte, "0RG05", 4, 384},
+      {"macro refused", ReadSmFromCt, FaultKind::kErrorReply, "0RS14", -1, 104},
+      {"another macro", ReadSmFromCt, FaultKind::kChangedByte, "0RS14", 3, 384},
+      {"tuning block refused", ReadSysParaFromCt, FaultKind::kErrorReply, "0RK6", -1, 104},
+      {"another tuning block", ReadSysParaFromCt, FaultKind::kChangedByte, "0RK6", 3, 384},
+      {"group not taken", WriteGrpToCt, FaultKind::kErrorReply, "0WG05", -1, 104},
+      {"group's echo", WriteGrpToCt, FaultKind::kChangedByte, "0WG05", 3, 384},
+      {"groups not stored", WriteGrpToCt, FaultKind::kErrorReply, "0WE3", -1, 104},
+      {"macro not taken", WriteSmToCt, FaultKind::kErrorReply, "0WS14", -1, 104},
+      {"macro's echo", WriteSmToCt, FaultKind::kChangedByte, "0WS14", 4, 384},
+      {"macros not stored", WriteSmToCt, FaultKind::kErrorReply, "0WE1", -1, 104},
+      {"tuning block not taken", WriteSysParaToCt, FaultKind::kErrorReply, "0WK6", -1, 104},
+      {"tuning block's echo", WriteSysParaToCt, FaultKind::kChangedByte, "0WK2", 3, 384},
+      {"tuning values not stored", WriteSysParaToCt, FaultKind::kErrorReply, "0WF", -1, 104},
+  };
+  SmTable[0][0] = {3, 3};
+  SysPara[1] = 777;
+  GrpTable.GrpEnd[1] = 77;
+  const Stages before;
+  const auto committed = [this] {
+    return std::tuple(port.Ct().CommittedGroup(1), port.Ct().CommittedMacro(1),
+                      port.Ct().CommittedSystemBlock(0));
+  };
+  const auto stored = committed();
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    SetOnline();
+    forms.boxes.clear();
+    Spoil(row.kind, row.prefix, row.at_byte);
+    EXPECT_EQ(row.run(), 1);
+    ASSERT_EQ(forms.boxes.size(), 1u);
+    EXPECT_EQ(forms.LastBox().substr(0, Text(row.box).size()), Text(row.box));
+    EXPECT_EQ(bool(AppState.Offline), row.kind == FaultKind::kErrorReply);
+    EXPECT_EQ(Stages(), before);
+    EXPECT_EQ(committed(), stored);
+    EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+    const std::string last = Sent().back();
+    EXPECT_TRUE(last.starts_with(row.prefix)) << "nothing more is sent: " << last;
+  }
+}
+
+/// A group's number is compared by its first digit alone, and of the tuning blocks the first three.
+TEST_F(DataTest, EchoesThatAreNotLookedAt) {
+  const struct {
+    int (*run)();
+    const char* prefix;
+    int at_byte;
+  } rows[] = {{WriteGrpToCt, "0WG05", 4}, {WriteSysParaToCt, "0WK3", 3}};
+  for (const auto& row : rows) {
+    Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
+    EXPECT_EQ(row.run(), 0) << row.prefix;
+  }
+}
+
+/// A cell that was never written may hold anything of the right length.
+TEST_F(DataTest, DigitsThatAreNoneAreTold) {
+  const struct {
+    int (*run)();
+    const char* prefix;
+    int at_byte;
+  } rows[] = {
+      {ReadGrpFromCt, "0RG02", 8}, {ReadSmFromCt, "0RS01", 9}, {ReadSysParaFromCt, "0RK2", 8}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.prefix);
+    const Stages before;
+    // The byte that a fault puts there is drawn: often another digit, in the end none.
+    for (int attempt = 0; attempt < 50 && forms.boxes.empty(); ++attempt) {
+      GrpStage = before.Grp;
+      SmStage = before.Sm;
+      SysParaRead = before.Sys;
+      Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
+      const int result = row.run();
+      EXPECT_EQ(result, forms.boxes.empty() ? 0 : 1);
+    }
+    ASSERT_EQ(forms.boxes.size(), 1u);
+    EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+    EXPECT_EQ(Stages(), before);
+    forms.boxes.clear();
+  }
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,130 @@
+#include "device/device_texts.h"
+
+#include <string>
+
+#include "device/dev_setting.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+class DeviceTexts : public StateTest {
+ protected:
+  DeviceTexts() {
+    virt.files.Put(ProgramFile("nqvdevice.lst"),
+                   "4\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",2,400,2,0\r\n"
+                   "\" 42H-600\",8,400,0,0\r\n\" 50L-100\",4,400,1,0\r\n");
+    Set(0, " 28", "L", 100, 2, 400);
+    Set(1, "E35", "L", 50, 2, 192);
+    Set(2, " 42", "H", 600, 8, 400);
+    Set(3, " 50", "L", 100, 12, 400);
+  }
+  static void Set(std::size_t axis, const char* size, const char* speed, std::int16_t stroke,
+                  std::int16_t lead, std::int16_t ppr) {
+    DevSettingRecord& device = DevSetting[axis];
+    device.Size = size;
+    device.Speed = speed;
+    device.Stroke = stroke;
+    device.Lead = lead;
+    device.Ppr = ppr;
+    device.SeriesOk = True;
+    device.NewType = axis != 1;
+  }
+  static std::string Caption(std::size_t axis) { return frmPosi.lblDeviceType[axis]->Caption; }
+  static std::string Age(std::size_t axis) { return frmPosi.lblAge[axis]->Caption; }
+  static std::string Panels() {
+    const auto& panels = frmMain.sbStatusBar.Panels;
+    return panels[kPanelScale1] + "|" + panels[kPanelScale2];
+  }
+};
+
+TEST_F(DeviceTexts, EveryAxisHasItsRows) {
+  DevSettei[0].WithPG = DevSettei[1].WithPG = DevSettei[2].WithPG = True;
+  DeviceTextHyoji();
+  const char* rows[] = {"AXIS1:QV- 28L-100E", "AXIS2:QV-E35L- 50 ", "AXIS3:QV- 42H-600 ",
+                        "AXIS4:QV- 50L-100_"};
+  for (std::size_t row = 0; row < frmPosi.DeviceRows.size(); ++row) {
+    EXPECT_EQ(frmPosi.DeviceRows[row], rows[row / 6]) << row;
+  }
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    EXPECT_EQ("AXIS" + std::to_string(axis + 1) + ":" + Caption(axis), rows[axis]);
+    EXPECT_EQ(Age(axis), axis == 1 ? "(Old)" : "(New)");
+  }
+}
+
+TEST_F(DeviceTexts, AxesWithoutADevice) {
+  DeviceTextHyoji();
+  AppState.AxisMuko[1] = True;
+  DevSetting[2].SeriesOk = False;
+  DeviceTextHyoji();
+  EXPECT_EQ(frmPosi.DeviceRows[5], "AXIS1:QV- 28L-100_");
+  EXPECT_EQ(frmPosi.DeviceRows[6], "AXIS2:**********");
+  EXPECT_EQ(Caption(1) + Age(1), "");
+  // An unknown series ends the pass: what stood there before must not stand for a device.
+  for (std::size_t axis : {2u, 3u}) {
+    EXPECT_EQ(frmPosi.DeviceRows[axis * 6], "");
+    EXPECT_EQ(Caption(axis) + Age(axis), "");
+  }
+}
+
+TEST_F(DeviceTexts, WithoutAListOneBoxIsEnough) {
+  virt.files.Remove(ProgramFile("nqvdevice.lst"));
+  DeviceTextHyoji();
+  ASSERT_EQ(forms.boxes.size(), 1u);
+  EXPECT_EQ(forms.LastBox(), Text(15));
+  EXPECT_EQ(Caption(0), "QV- 28L-100 ");
+  EXPECT_EQ(Caption(3), "QV- 50L-100 ");
+  DeviceTextHyoji();
+  EXPECT_EQ(forms.boxes.size(), 2u);
+}
+
+TEST_F(DeviceTexts, ScaleOfTheFirstAxisInUse) {
+  PulseScaleHyoji();
+  EXPECT_EQ(Panels(), "<1>1mm = 200.000Pulse|<1>1Pulse= 0.005mm");
+  AppState.AxisMuko[0] = AppState.AxisMuko[1] = True;
+  PulseScaleHyoji();
+  EXPECT_EQ(Panels(), "<3>1mm = 50.000Pulse|<3>1Pulse= 0.020mm");
+  PulseScaleHyojiAxis(3);
+  EXPECT_EQ(Panels(), "<4>1mm = 33.333Pulse|<4>1Pulse= 0.030mm");
+  PulseScaleHyojiAxis(1);
+  EXPECT_EQ(Panels(), "|");
+  (DeviceTextHyoji(), PulseScaleHyoji());
+  EXPECT_EQ(Panels(), "<3>1mm = 50.000Pulse|<3>1Pulse= 0.020mm");
+  AppState.AxisMuko[2] = AppState.AxisMuko[3] = True;
+  PulseScaleHyoji();
+  EXPECT_EQ(Panels(), "|");
+}
+
+TEST_F(DeviceTexts, ScaleOfOddGears) {
+  const struct {
+    std::int16_t lead, ppr;
+    const char* panels;
+  } rows[] = {{2, 192, "<1>1mm = 96.000Pulse|<1>1Pulse= 0.010mm"},
+              {9, 2000, "<1>1mm = 222.222Pulse|<1>1Pulse= 0.005mm"},  // 0.0045: the half goes up
+              {1, 32767, "<1>1mm = 32767.000Pulse|<1>1Pulse= 0.000mm"},
+              {255, 1, "<1>1mm = 0.004Pulse|<1>1Pulse= 255.000mm"},
+              {0, 400, "|"},
+              {2, 0, "|"}};
+  for (const auto& row : rows) {
+    Set(0, " 28", "L", 100, row.lead, row.ppr);
+    PulseScaleHyoji();
+    EXPECT_EQ(Panels(), row.panels);
+  }
+}
+
+TEST_F(FlowTest, GoingOnlineShowsTheControllersDevices) {
+  StartOnline();
+  const char* captions[] = {"QV- 28L-100_", "QV- 35H-200_", "QV- 42H-300_", "QV- 50L-150_"};
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    EXPECT_EQ(frmPosi.lblDeviceType[axis]->Caption, captions[axis]);
+    EXPECT_EQ(frmPosi.lblAge[axis]->Caption, "(New)");
+  }
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelScale1], "<1>1mm = 200.000Pulse");
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,423 @@
+// Devices written to the controller from the device dialogue, with the bytes on the line.
+
+#include "para/device_write.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "device/dev_setting.h"
+#include "device/device_cascade.h"
+#include "forms/frm_device.h"
+#include "forms/frm_parameta2.h"
+#include "link/port.h"
+#include "para/param_set.h"
+#include "posi/posi_table.h"
+#include "state/text_file.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+using Texts = std::vector<std::string>;
+
+class DeviceWriteTest : public FlowTest {
+ protected:
+  explicit DeviceWriteTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful())
+      : FlowTest(setup) {
+    virt.settings.Set("Settings", "PortOccupy", "0");
+  }
+
+  static void Pick(ComboBox& combo, const std::string& text) {
+    for (std::size_t i = 0; i < combo.List.size(); ++i) {
+      if (combo.List[i] == text) return combo.Pick(static_cast<int>(i));
+    }
+    ADD_FAILURE() << combo.Name << " does not offer " << text;
+  }
+  /// Two axes, the first with another device.
+  static void ChooseTwoAxes() {
+    Pick(frmDevice3.comboDeviceSize[0], " 42");
+    Pick(frmDevice3.comboDeviceSpeed[0], "H");
+    Pick(frmDevice3.comboDeviceStroke[0], "200");
+    frmDevice3.comboAxisSelect.Pick(1);
+  }
+  /// Opens the dialogue from the menu, chooses, writes and leaves it.
+  void Write(
+      const std::function<void()>& choose = ChooseTwoAxes,
+      const std::function<void()>& leave = [] { frmDevice3.cmdDeviceCancel.Press(); }) {
+    port.sent.clear();
+    forms.boxes.clear();
+    forms.on_modal["frmDevice3"] = [choose, leave](View&) {
+      choose();
+      frmDevice3.cmdPrmCtWrite.Press();
+      leave();
+    };
+    frmMain.mnuSettingDeviceOnline.Press();
+  }
+  /// The first `characters` of every line sent.
+  std::string Commands(std::size_t characters = 4) const {
+    std::string commands;
+    for (std::size_t at = 0; at < port.sent.size();) {
+      const std::size_t end = port.sent.find("\r\n", at);
+      commands += port.sent.substr(at, std::min(characters, end - at)) + " ";
+      at = end + 2;
+    }
+    return commands;
+  }
+  Texts Boxes() const {
+    Texts texts;
+    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
+    return texts;
+  }
+  void Put(const char* name, const std::string& content) {
+    virt.files.Put(ProgramFile(name), content);
+  }
+};
+
+/// All that a write may change here.
+struct PcState {
+  std::array<Bool16, kAxes> muko = AppState.AxisMuko;
+  std::int16_t count = AppState.AxisCount;
+  ParamSetRecord parameters = ParamSet;
+  std::array<std::string, kAxes> devices = Devices();
+
+  static std::array<std::string, kAxes> Devices() {
+    std::array<std::string, kAxes> names;
+    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+      for (const DevSettingRecord* device : {&DevSetting[axis], &DevSettei[axis]}) {
+        names[axis] += device->Size + device->Speed + std::to_string(device->Stroke) + " " +
+                       std::to_string(device->Ppr) + (device->WithPG ? "E" : "_");
+      }
+    }
+    return names;
+  }
+  bool operator==(const PcState&) const = default;
+};
+
+const std::string kHeld = "0RA 0CM0 ";
+const std::string kMask = "0RD0 0WD0 ";
+const std::string kReadBack = "0CM1 0RD0 ";
+const std::string kReadTwoAxes = "0RD0 0RD1 0RD2 0RD3 0RD4 0RD5 0RD6 0RD7 ";
+const std::string kWriteTwoAxes = kReadTwoAxes + "0WD0 0WD1 0WD2 0WD3 0WD4 0WD5 0WD6 0WD7 0WE2 ";
+
+TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
+  StartOnline();
+  Write();
+  EXPECT_EQ(Commands(), kHeld + kMask + kReadBack + kReadTwoAxes + kWriteTwoAxes + "0CM0 ");
+  EXPECT_EQ(Commands(8).substr(0, 13), "0RA 0CM01111 ");
+  EXPECT_TRUE(port.sent.ends_with("0CM00000\r\n"));
+  EXPECT_EQ(Boxes(), Texts{Text(1527) + "\n\n" + Text(496)}) << "it is to start anew with two axes";
+  // The controller has stored the mask, and the device of AXIS1: lead 8, 400 pulses.
+  EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
+  EXPECT_EQ(port.Ct().CommittedBlock(4).substr(2, 6), "080190");
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisCount, 2);
+  EXPECT_EQ(ParamSet.OneAxis, 3);
+  EXPECT_EQ(ParamSet.Actuator[0], " 42H200");
+  EXPECT_EQ(DevSetting[0].Size + DevSetting[0].Speed, " 42H");
+  EXPECT_EQ(DevSetting[0].Lead, 8);
+  EXPECT_TRUE(DevSetting[0].NewType);
+  EXPECT_EQ(AppState.MaxPulse[0], 10000);
+  EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 42H-200_");
+  EXPECT_EQ(virt.settings.Get("Settings", "DevSize1", ""), " 42");
+  EXPECT_FALSE(port.IsOpen());
+  ExpectOnline();
+  ExpectCommandsOn();
+}
+
+TEST_F(DeviceWriteTest, TheControllerKeepsWhatNoDeviceTells) {
+  StartOnline();
+  const std::string before = port.Ct().CommittedBlock(0);
+  Write([] {});
+  const std::string after = port.Ct().CommittedBlock(0);
+  EXPECT_EQ(after, before);
+  // SOFT LIMIT comes from the common row of AUTO START PRG No., which is 0.
+  EXPECT_EQ(ParamSet.SoftLimit[0], 0);
+}
+
+TEST_F(DeviceWriteTest, WhatIsWrittenIsWhatTheControllerSaysNext) {
+  StartOnline();
+  Write([] {
+    ChooseTwoAxes();
+    frmDevice3.chkDevPgUse[0].Set(true);
+  });
+  EXPECT_TRUE(DevSetting[0].WithPG);
+  forms.answers = {MsgAnswer::Ok};
+  frmMain.mnuSettingOffline.Press();
+  port.Ct().PowerCycle(pump.NowUs());
+  asked.clear();
+  frmMain.mnuSettingOnline.Press();
+  EXPECT_EQ(asked, Texts{}) << "axes and devices agree";
+  ExpectOnline();
+}
+
+TEST_F(DeviceWriteTest, AfterAWriteOkLeavesTheParametersAlone) {
+  StartOnline();
+  ParamSetRecord written;
+  Write(ChooseTwoAxes, [&] {
+    written = ParamSet;
+    frmDevice3.cmdDeviceSet.Press();
+  });
+  EXPECT_EQ(ParamSet, written);
+  EXPECT_EQ(forms.boxes.size(), 1u) << "OK asks and tells nothing more";
+}
+
+TEST_F(DeviceWriteTest, OkAloneTakesTheDevicesHereOnly) {
+  StartOnline();
+  port.sent.clear();
+  forms.on_modal["frmDevice3"] = [](View&) {
+    ChooseTwoAxes();
+    frmDevice3.cmdDeviceSet.Press();
+  };
+  frmMain.mnuSettingDeviceOnline.Press();
+  EXPECT_EQ(port.sent, "");
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(DevSetting[0].Size, " 42");
+  EXPECT_EQ(ParamSet.OneAxis, 3);
+  ExpectCommandsOn();
+}
+
+TEST_F(DeviceWriteTest, EveryFailureEndsTheWriteAndChangesNothingHere) {
+  const struct {
+    const char* what;
+    FaultKind kind;
+    const char* prefix;
+    int at_request;
+    std::vector<int> boxes;  ///< messages that the boxes begin with
+    const char* last_sent;   ///< the last line begins with this
+    bool online;
+  } rows[] = {
+      {"standstill refused", FaultKind::kErrorReply, "0RA", 1, {104}, "0RA", false},
+      {"standstill unheard", FaultKind::kDeaf, "0RA", 0, {100}, "0RA", false},
+      {"hold refused", FaultKind::kErrorReply, "0CM01111", 1, {104, 377}, "0CM01111", false},
+      {"mask refused", FaultKind::kErrorReply, "0WD0", 1, {104, 377}, "0WD0", false},
+      {"axes refused", FaultKind::kErrorReply, "0RD0", 2, {104}, "0RD0", false},
+      {"read refused", FaultKind::kErrorReply, "0RD7", 1, {104}, "0RD7", false},
+      {"block refused", FaultKind::kErrorReply, "0WD4", 1, {104, 1528}, "0WD4", false},
+      {"block unheard", FaultKind::kDeaf, "0WD7", 0, {100, 1528}, "0WD7", false},
+      {"store refused", FaultKind::kErrorReply, "0WE2", 1, {104, 1528}, "0WE2", false},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    port.Ct().ClearFaults();
+    port.Ct().PowerCycle(pump.NowUs());
+    if (!frmMain.Loaded) {
+      StartOnline();
+    } else {
+      forms.answers = {MsgAnswer::Ok};
+      frmMain.cmdReset.Press();  // clears the alarm of the row before
+      ExpectOnline();
+    }
+    const PcState before;
+    qvr7sim::Fault fault;
+    fault.kind = row.kind;
+    fault.prefix = row.prefix;
+    fault.at_request = row.at_request;
+    fault.error = {'0', '0', '1'};
+    if (row.at_request == 0) fault.probability = 1;
+    port.Ct().AddFault(fault);
+    Write();
+    ASSERT_EQ(forms.boxes.size(), row.boxes.size());
+    for (std::size_t i = 0; i < row.boxes.size(); ++i) {
+      EXPECT_TRUE(forms.boxes[i].Text.starts_with(Text(row.boxes[i]))) << forms.boxes[i].Text;
+    }
+    const std::size_t last = port.sent.rfind("\r\n", port.sent.size() - 3);
+    EXPECT_TRUE(
+        port.sent.substr(last == std::string::npos ? 0 : last + 2).starts_with(row.last_sent))
+        << port.sent;
+    EXPECT_EQ(PcState(), before);
+    EXPECT_EQ(!AppState.Offline, row.online);
+    EXPECT_FALSE(port.IsOpen());
+    EXPECT_TRUE(frmDevice3.cmdDeviceCancel.Enabled && frmDevice3.cmdSyosai.Enabled);
+    ExpectCommandsOn();
+  }
+}
+
+TEST_F(DeviceWriteTest, AMovingAxisTakesNothing) {
+  StartOnline();
+  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
+  port.Ct().Receive("0MP000F\r\n", pump.NowUs());
+  pump.RunFor(100'000);
+  port.ReadAll();
+  const PcState before;
+  Write();
+  EXPECT_EQ(port.sent, "0RA\r\n");
+  EXPECT_EQ(Boxes(), Texts{Text(424)});
+  EXPECT_EQ(PcState(), before);
+}
+
+TEST_F(DeviceWriteTest, WithoutAPortNothingBegins) {
+  StartOnline();
+  port.open_fault = PortFault::InUse;
+  Write();
+  EXPECT_EQ(port.sent, "");
+  ASSERT_EQ(forms.boxes.size(), 1u);
+  EXPECT_TRUE(forms.LastBox().starts_with(Text(109)));
+  ExpectCommandsOn();
+}
+
+TEST_F(DeviceWriteTest, ParametersThatCannotBeMadeReleaseTheAxes) {
+  const std::string header = "\"QV-R7\",\"QV-STDPRM\"\r\n";
+  const struct {
+    const char* what;
+    std::string list;  ///< of standard rows; empty: there is none
+    Texts boxes;
+  } rows[] = {
+      {"no list", "", {Text(28) + "\n" + Text(29), Text(36)}},
+      {"no row for the device", header + "0,13\r\n", {Text(36)}},
+      {"a value out of range",
+       header + "2,13\r\n\" 28L-100\",0,60,10,5,5,1,20000,2,400,15,0,\" 28L100\"\r\n"
+                "\" 42H-200\",100,100,20,5,5,1,10000,8,400,30,0,\" 42H200\"\r\n",
+       {Text(1524) + "\n" + Text(1525)}},
+  };
+  StartOnline();
+  const PcState before;
+  const std::string stored = port.Ct().CommittedBlock(4);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    virt.files.Remove(ProgramFile("tr7nqvstpr.lst"));
+    if (!row.list.empty()) Put("tr7nqvstpr.lst", row.list);
+    Write([] {
+      ChooseTwoAxes();
+      Pick(frmDevice3.comboDeviceSize[1], " 28");
+      Pick(frmDevice3.comboDeviceSpeed[1], "L");
+      Pick(frmDevice3.comboDeviceStroke[1], "100");
+    });
+    EXPECT_EQ(Boxes(), row.boxes);
+    EXPECT_EQ(Commands(), kHeld + kMask + kReadBack + kReadTwoAxes + "0CM0 ");
+    EXPECT_TRUE(port.sent.ends_with("0CM00000\r\n")) << "the axes are not left held";
+    EXPECT_EQ(PcState(), before);
+    EXPECT_EQ(port.Ct().CommittedBlock(4), stored);
+    ExpectOnline();
+  }
+}
+
+TEST_F(DeviceWriteTest, AWriteBegunOfflineEndsOffline) {
+  forms.on_modal["frmDevice3"] = [](View&) {
+    ChooseTwoAxes();
+    frmDevice3.cmdPrmCtWrite.Press();
+    frmDevice3.cmdDeviceSet.Press();
+  };
+  Choose({1, 0});
+  Main();
+  EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
+  EXPECT_TRUE(BoxShown(Text(1527)));
+  EXPECT_EQ(DevSetting[0].Size, " 42");
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  ExpectOffline();
+  ExpectCommandsOn();
+}
+
+/// A controller with three axes, which answers with their mask.
+class ThreeAxesWriteTest : public DeviceWriteTest {
+ protected:
+  ThreeAxesWriteTest() : DeviceWriteTest(ThreeAxes()) {}
+
+ private:
+  static qvr7sim::Setup ThreeAxes() {
+    qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+    setup.mask = 0x7;
+    return setup;
+  }
+};
+
+TEST_F(ThreeAxesWriteTest, AWriteBegunOfflineAsksForTheControllersAxesFirst) {
+  forms.on_modal["frmDevice3"] = [](View&) {
+    ChooseTwoAxes();
+    frmDevice3.cmdPrmCtWrite.Press();
+    frmDevice3.cmdDeviceSet.Press();
+  };
+  Choose({1, 0});
+  Main();
+  EXPECT_EQ(Commands().substr(0, 19), "0CM1 0RD0 " + kHeld);
+  EXPECT_TRUE(BoxShown(Text(1527))) << "its axes stand still";
+  EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
+  ExpectOffline();
+}
+
+TEST_F(ThreeAxesWriteTest, WithoutTheControllersAxesNothingIsWritten) {
+  qvr7sim::Fault fault;
+  fault.kind = FaultKind::kErrorReply;
+  fault.prefix = "0RD0";
+  fault.at_request = 1;
+  fault.error = {'0', '0', '1'};
+  port.Ct().AddFault(fault);
+  forms.on_modal["frmDevice3"] = [](View&) {
+    frmDevice3.cmdPrmCtWrite.Press();
+    frmDevice3.cmdDeviceSet.Press();
+  };
+  Choose({1, 0});
+  Main();
+  EXPECT_EQ(Commands(), "0CM1 0RD0 ");
+  EXPECT_FALSE(BoxShown(Text(424)));
+  ExpectOffline();
+  ExpectCommandsOn();
+}
+
+TEST_F(ThreeAxesWriteTest, OtherAxesAskForAPowerCycle) {
+  StartOnline();
+  Write([] {});
+  EXPECT_EQ(Boxes(), Texts{Text(1527)});
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(1527) + "\n\n" + Text(496)});
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(424)});
+  port.Ct().PowerCycle(pump.NowUs());
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(1527)});
+}
+
+TEST_F(DeviceWriteTest, TheDialogueRestsWhileItWrites) {
+  StartOnline();
+  int looks = 0;
+  pump.After(300'000, [&] {
+    ++looks;
+    EXPECT_TRUE(AppState.ComBusy);
+    for (const Control* control : std::initializer_list<Control*>{
+             &frmDevice3.cmdDeviceCancel, &frmDevice3.cmdSyosai, &frmDevice3.cmdDeviceSet,
+             &frmDevice3.cmdPrmCtWrite, &frmDevice3.framAxis[0], &frmDevice3.framAxis[3]}) {
+      EXPECT_FALSE(control->Enabled) << control->Name;
+    }
+    EXPECT_FALSE(CloseView(frmDevice3, CloseReason::ControlMenu));
+  });
+  Write(ChooseTwoAxes, [] {
+    EXPECT_TRUE(frmDevice3.framAxis[1].Enabled);
+    EXPECT_FALSE(frmDevice3.framAxis[2].Enabled) << "an axis not in use stays off";
+    frmDevice3.cmdDeviceCancel.Press();
+  });
+  EXPECT_EQ(looks, 1);
+}
+
+TEST_F(DeviceWriteTest, InTheMillimetreViewTheUserIsWarned) {
+  virt.settings.Set("Settings", "DispMmUnit", "1");
+  StartOnline();
+  ReadRange(1, 3);
+  ASSERT_TRUE(AppState.DispMmUnit);
+  forms.answers = {MsgAnswer::Cancel};
+  Write();
+  EXPECT_EQ(port.sent, "");
+  EXPECT_EQ(Boxes(), Texts{Text(1505) + "\n" + Text(1506)});
+  const auto mm = PosiTable.PosiMm[0];
+  const std::int32_t pulses = PosiTable.PosiPulse[0][2];
+  forms.answers = {MsgAnswer::Ok};
+  Write();
+  EXPECT_EQ(PosiTable.PosiMm[0], mm);
+  EXPECT_NE(PosiTable.PosiPulse[0][2], pulses);
+}
+
+TEST_F(DeviceWriteTest, PositionsThatNoLongerFitAreTold) {
+  StartOnline();
+  ReadRange(1, 40);
+  forms.answers = {MsgAnswer::Ok};
+  forms.on_modal["frmSyogoKekka"] = [](View& view) { view.Visible = false; };
+  Write([] {
+    Pick(frmDevice3.comboDeviceSize[0], " 20");
+    Pick(frmDevice3.comboDeviceStroke[0], "10");
+  });
+  EXPECT_TRUE(BoxShown(Text(1526)));
+  EXPECT_EQ(forms.LastBox(), Text(1527));
+}
+
+}  // namespace
+}  // namespace tr7

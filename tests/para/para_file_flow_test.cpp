@@ -1,0 +1,180 @@
+#include "para/para_file_flow.h"
+
+#include "device/dev_setting.h"
+#include "device/device_list.h"
+#include "forms/frm_parameta2.h"
+#include "para/para_actuator.h"
+#include "para/para_axis_show.h"
+#include "para/para_content.h"
+#include "para/para_show.h"
+#include "para/param_set.h"
+#include "para/std_lists.h"
+#include "state/text.h"
+#include "tests/support/state_test.h"
+
+namespace tr7 {
+namespace {
+
+const std::string kPath = "/data/job.pmt";
+
+/// The parameter view over a set from the standard lists.
+class ParaFileFlow : public StateTest {
+ protected:
+  ParaFileFlow() {
+    for (DevSettingRecord& device : DevSettei) {
+      device.Size = " 28";
+      device.Speed = "L";
+      device.Stroke = 100;
+      device.NewType = True;
+    }
+    EXPECT_EQ(ReadDeviceListNew(), 0);
+    EXPECT_EQ(IniParaFromStd(), 0);
+    FillParaLists();
+    InstallActuatorLists();
+    ParametaHyoji();
+    MarkParaSaved();
+  }
+  void TearDown() override {
+    EXPECT_FALSE(AppState.ComBusy);
+    EXPECT_EQ(AppState.CommandsOffDepth, 0);
+    StateTest::TearDown();
+  }
+  int Save(const std::optional<std::string>& answer = kPath) {
+    forms.boxes.clear();
+    forms.file_answers = {answer};
+    return SaveParaToFile();
+  }
+  void Open(const std::optional<std::string>& answer = kPath) {
+    forms.boxes.clear();
+    forms.file_answers = {answer};
+    OpenParaFile();
+  }
+  std::vector<std::string> Boxes() const {
+    std::vector<std::string> texts;
+    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
+    return texts;
+  }
+  std::string Saved() const { return virt.files.Content(kPath).value_or("(none)"); }
+  /// Replaces in the saved file.
+  void Change(const std::string& part, const std::string& other) {
+    std::string bytes = Saved();
+    virt.files.Put(kPath, bytes.replace(bytes.find(part), part.size(), other));
+  }
+
+  using Texts = std::vector<std::string>;
+  FrmParameta2& f = frmParameta2;
+};
+
+TEST_F(ParaFileFlow, SavedOpenedAndSavedAgainIsTheSame) {
+  f.txtHomeOffset[2].Text = "1234";
+  f.txtAxisMmStroke[1].Text = "99.5";
+  EXPECT_TRUE(ParaIsChanged());
+  ASSERT_EQ(Save(), 0);
+  EXPECT_FALSE(ParaIsChanged());
+  EXPECT_EQ(Boxes(), Texts{"Completed save parameters into the file."});
+  const FileDialogCall call = forms.file_dialogs.at(0);
+  EXPECT_TRUE(call.Save);
+  EXPECT_TRUE(call.OverwritePrompt);
+  EXPECT_EQ(call.Title, "Save Parameters as ...");
+  EXPECT_EQ(call.Filter, "Parameter(*.pmt)|*.pmt|All files(*.*)|*.*");
+  EXPECT_EQ(call.ProposedName, "qvtr7prm1.pmt");
+  EXPECT_EQ(call.DefaultExtension, "pmt");
+
+  const std::string bytes = Saved();
+  const ParamSetRecord set = ParamSet;
+  EXPECT_NE(bytes.find(",1234,"), std::string::npos);
+  ParamSet = ParamSetRecord{};
+  ParametaHyoji();
+  EXPECT_EQ(f.txtHomeOffset[2].Text, "0");
+  Open();
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(f.txtHomeOffset[2].Text, "1234");
+  EXPECT_EQ(f.txtAxisMmStroke[1].Text, " 99.500");
+  EXPECT_EQ(f.comboActSize[0].Text(), " 28");
+  EXPECT_FALSE(ParaIsChanged());
+  EXPECT_FALSE(forms.file_dialogs.back().Save);
+  EXPECT_EQ(forms.file_dialogs.back().Title, "Open Parameter file");
+  EXPECT_EQ(forms.file_dialogs.back().Filter, call.Filter);
+  ASSERT_EQ(Save(), 0);
+  EXPECT_EQ(Saved(), bytes);
+  EXPECT_EQ(ParamSet, set);
+}
+
+TEST_F(ParaFileFlow, OnlyAWholeAndGoodViewIsSaved) {
+  f.txtHomePush[3].Text.clear();
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8)});
+  f.txtHomePush[3].Text = "256";
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(9) + "\n" + Text(10)});
+  EXPECT_TRUE(forms.file_dialogs.empty());
+  f.txtHomePush[3].Text = "255";
+  EXPECT_EQ(Save(std::nullopt), 1);
+  EXPECT_EQ(Save(""), 1);
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(Saved(), "(none)");
+  EXPECT_TRUE(ParaIsChanged());
+}
+
+TEST_F(ParaFileFlow, AFailedSaveIsTold) {
+  virt.files.Put(kPath, "old");
+  f.txtHomePush[3].Text = "255";
+  virt.files.FailAt(2, FileFault::DiskFull);
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{"Fail to  Save parameters into the file.\n\n" + Text(5912, "job.pmt")});
+  EXPECT_TRUE(ParaFlags.ParaFileWriteFailed);
+  EXPECT_TRUE(ParaIsChanged());
+  EXPECT_EQ(Saved(), "old");
+  EXPECT_EQ(Save(), 0);
+  EXPECT_FALSE(ParaFlags.ParaFileWriteFailed);
+}
+
+TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
+  ASSERT_EQ(Save(), 0);
+  const std::string good = Saved(), failed = "Fail to open parameter file.";
+  const struct {
+    std::string part, other;
+    Texts boxes;
+  } rows[] = {
+      {"PRM", "GRP", {Text(22) + "\n" + Text(20), failed}},
+      {"\"PG\"", "\"ETC\"", {failed}},
+      {"\r\n5\r", "\r\n6\r", {failed + "\n\n" + Text(6451)}},
+      {"\"ETC\",9", "\"ETC\",99", {failed + "\n\n" + Text(6150, "ETC")}},
+      {" 28L100\"", " 28L100", {failed + "\n\n" + Text(6150, "AXIS")}},
+      {"\"HOME\",6,4\r\n400,", "\"HOME\",6,4\r\n1e,", {failed + "\n\n" + Text(6151, "OFFSET")}}};
+  f.txtHomeOffset[0].Text = "77";
+  const ParamSetRecord before = ParamSet;
+  for (const auto& row : rows) {
+    virt.files.Put(kPath, good);
+    Change(row.part, row.other);
+    Open();
+    EXPECT_EQ(Boxes(), row.boxes) << row.other;
+    EXPECT_TRUE(ParaFlags.ParaFileBad) << row.other;
+    EXPECT_EQ(ParamSet, before) << row.other;
+    EXPECT_EQ(f.txtHomeOffset[0].Text, "77") << row.other;
+  }
+  Open("/data/none.pmt");
+  EXPECT_EQ(Boxes(), Texts{failed + "\n\n" + Text(5910, "none.pmt")});
+  Open(std::nullopt);
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_TRUE(ParaIsChanged());
+  virt.files.Put(kPath, good);
+  Open();
+  EXPECT_FALSE(ParaFlags.ParaFileBad);
+  EXPECT_NE(f.txtHomeOffset[0].Text, "77");
+}
+
+TEST_F(ParaFileFlow, AnAbsentAxisIsSavedAsItIsKept) {
+  AppState.AxisMuko[3] = True;
+  ParamSet.HomeOffset[3] = 4321;
+  ParametaHyoji();
+  EXPECT_EQ(f.txtHomeOffset[3].Text, "");
+  ASSERT_EQ(Save(), 0) << forms.LastBox();
+  EXPECT_NE(Saved().find(",4321\r\n"), std::string::npos);
+  ParamSet.HomeOffset[3] = 0;
+  Open();
+  EXPECT_EQ(ParamSet.HomeOffset[3], 4321);
+}
+
+}  // namespace
+}  // namespace tr7

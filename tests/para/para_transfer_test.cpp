@@ -1,0 +1,347 @@
+// The parameter memory in blocks: the place of every row, and the bytes that carry it both ways.
+
+#include <cmath>
+#include <set>
+
+#include "device/ct_device.h"
+#include "forms/frm_main.h"
+#include "link/port.h"
+#include "link/transfer.h"
+#include "para/para_blocks.h"
+#include "para/para_check.h"
+#include "para/para_transfer_commands.h"
+#include "state/online.h"
+#include "state/text.h"
+#include "tests/support/link_test.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+class BlocksTest : public LinkTest {
+ protected:
+  /// The controller holds this in a block.
+  void PlantBlock(int block, const std::string& data) {
+    Plant(std::string("0WD") + ParaBlockChar(block) + data);
+    ASSERT_EQ(port.Ct().WrittenBlock(block), data);
+  }
+  /// Reads the controller's parameters into `ParamSet`.
+  void Take() {
+    ASSERT_EQ(ReadParaFromCt(), 0);
+    ASSERT_EQ(TakeParamTable(), 0);
+    Sent();
+  }
+};
+
+// The table.
+
+TEST(ParaBlocks, EveryRowHasAPlaceOfItsOwn) {
+  std::set<std::pair<int, std::size_t>> taken;
+  for (int row = 1; row <= kParaRows; ++row) {
+    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+      const ParaPlace place = PlaceOfPara(row, axis);
+      EXPECT_GE(place.At, kParaDataAt);
+      EXPECT_LE(place.At + place.Width, kParaDataAt + kParaBlockLength) << ParaRowName(row);
+      for (std::size_t i = 0; i < place.Width; ++i) {
+        EXPECT_TRUE(taken.insert({place.Block, place.At + i}).second) << ParaRowName(row);
+      }
+    }
+  }
+}
+
+TEST(ParaBlocks, KnownFieldsStandWhereTheControllerHasThem) {
+  const struct {
+    int row;
+    std::size_t axis;
+    ParaPlace place;
+  } rows[] = {{kRowOneAxis, 0, {0, 7, 2}},
+              {33, 0, {0, 23, 2}},
+              {12, 0, {4, 5, 2}},
+              {kRowLead, 1, {7, 7, 2}},
+              {kRowPulse, 2, {10, 9, 4}},
+              {kRowStroke, 3, {13, 13, 6}},
+              {kRowActuator, 0, {4, 21, 8}},
+              {14, 3, {12, 21, 2}},
+              {6, 0, {1, 13, 2}},
+              {6, 3, {1, 19, 2}}};
+  for (const auto& row : rows) EXPECT_EQ(PlaceOfPara(row.row, row.axis), row.place) << row.row;
+}
+
+/// Both ends of every row's range as the check has them, found by asking it.
+std::pair<double, double> RangeOf(ParamSetRecord set, int row) {
+  const auto holds = [&](double value) {
+    return SetParaValue(set, row, 0, value) && ParaRowInRange(set, row, 0);
+  };
+  double low = 0, high = 262143;
+  while (!holds(low)) ++low;
+  while (!holds(high) && high > low) --high;
+  return {low, high};
+}
+
+TEST_F(BlocksTest, EveryRowHoldsBothEndsOfItsRange) {
+  Take();
+  for (int row = 1; row <= kParaRows; ++row) {
+    if (row == kRowActuator) continue;
+    SCOPED_TRACE(ParaRowName(row));
+    ParamSetRecord wide = ParamSet;
+    // Beyond a lead of 8 the jog speed is not checked: as much as its row holds.
+    if (row == kRowJogVel) wide.AxisLead[0] = 9;
+    if (row == 3) wide.AxisLead[0] = 8;
+    const auto [low, high] = RangeOf(wide, row);
+    ASSERT_LT(low, high);
+    for (const double value : {low, high}) {
+      for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+        ParamSetRecord before = wide;
+        SetParaValue(before, row, axis, value);
+        ParaBlocks blocks;
+        blocks.fill(std::string(kParaBlockLength, '7'));
+        ASSERT_FALSE(EncodePara(before, {true, true, true, true}, blocks));
+        ParaTableRecord table;
+        ASSERT_TRUE(DecodePara(blocks, {true, true, true, true}, table));
+        EXPECT_EQ(table, ParaTableOf(before)) << value;
+      }
+    }
+  }
+}
+
+TEST_F(BlocksTest, DeviceTexts) {
+  const struct {
+    const char *size, *speed;
+    int stroke;
+    const char* field;  ///< empty: refused
+  } rows[] = {
+      {" 28", "L", 100, "28L 6400"}, {" 42", "D", 600, "42D 5802"}, {"E35", "L", 255, "35E FF00"},
+      {" 20", "H", 0, "20H 0000"},   {"E35", "H", 100, ""},         {" 28", "E", 100, ""},
+      {"A28", "L", 100, ""},         {"28", "L", 100, ""},          {" 28", "", 100, ""},
+      {" 28", "LL", 100, ""},        {" 28", "L", -1, ""},          {" 28", "L", 1000, ""}};
+  Take();
+  for (const auto& row : rows) {
+    SCOPED_TRACE(std::string(row.size) + row.speed);
+    ParamSetRecord set = ParamSet;
+    set.ActSize[1] = row.size;
+    set.ActSpeed[1] = row.speed;
+    set.ActStroke[1] = static_cast<std::int16_t>(row.stroke);
+    set.Actuator[1] = JoinActuator(row.size, row.speed, row.stroke);
+    ParaBlocks blocks;
+    blocks.fill(std::string(kParaBlockLength, '0'));
+    const auto misfit = EncodePara(set, {true, true, true, true}, blocks);
+    ASSERT_EQ(misfit.has_value(), *row.field == '\0');
+    if (misfit) {
+      EXPECT_EQ(ParaCellName(*misfit), "ACTUATOR(2)");
+      continue;
+    }
+    EXPECT_EQ(blocks[7].substr(16, 8), row.field);
+    ParaTableRecord table;
+    ASSERT_TRUE(DecodePara(blocks, {true, true, true, true}, table));
+    EXPECT_EQ(table[1][kRowActuator], Variant(set.Actuator[1]));
+  }
+}
+
+// Reading.
+
+TEST_F(BlocksTest, ReadsAllBlocks) {
+  ASSERT_EQ(ReadParaFromCt(), 0);
+  EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD5 0RD6 0RD7 0RD8 0RD9 0RDA 0RDB 0RDC 0RDD");
+  ASSERT_EQ(TakeParamTable(), 0);
+  EXPECT_EQ(ParametaValueCheck(), 0) << "what the controller starts with is good";
+  EXPECT_EQ(ParamSet.OneAxis, 15);
+  EXPECT_EQ(ParamSet.SmTimer, 30);
+  EXPECT_EQ(ParamSet.HomeSeq, (std::array<std::int16_t, kAxes>{1, 2, 3, 4}));
+  EXPECT_EQ(ParamSet.AxisLead, (std::array<std::int16_t, kAxes>{2, 6, 8, 4}));
+  EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
+  EXPECT_EQ(ParamSet.AxisStroke[1], 13334);
+  EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
+}
+
+TEST_F(BlocksTest, AxesNotInUseAreSkippedAndZeroed) {
+  Axes(true, false, true, false);
+  ASSERT_EQ(ReadParaFromCt(), 0);
+  EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD8 0RD9 0RDA");
+  EXPECT_EQ(ParaTable[0][kRowLead], Variant(2.0));
+  EXPECT_EQ(ParaTable[1][kRowLead], Variant(0.0));
+  EXPECT_EQ(ParaTable[1][kRowActuator], Variant(std::string()));
+  EXPECT_EQ(ParaTable[1][6], Variant(0.0)) << "its place is in a block that was read";
+  EXPECT_EQ(ParaTable[2][6], Variant(3.0));
+}
+
+TEST_F(BlocksTest, TheCancelButtonStopsARead) {
+  const ParaTableRecord before = ParaTable;
+  pump.After(200'000, [] {
+    EXPECT_TRUE(frmMain.cmdComCancel.Visible);
+    EXPECT_EQ(frmMain.ProgressBar1.Max, 14);
+    EXPECT_EQ(frmMain.lblStatus.Caption, Text(368));
+    AppState.CancelRequested = True;
+  });
+  EXPECT_EQ(ReadParaFromCt(), kTransferStopped);
+  EXPECT_EQ(ParaTable, before);
+  EXPECT_LT(Sent().size(), 8u);
+  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+  EXPECT_EQ(ReadParaFromCt(), 0) << "the next read starts afresh";
+}
+
+TEST_F(BlocksTest, AFailedReadLeavesTheTableWhole) {
+  ASSERT_EQ(ReadParaFromCt(), 0);
+  const ParaTableRecord before = ParaTable;
+  const auto fails_with = [&](int box) {
+    forms.boxes.clear();
+    EXPECT_EQ(ReadParaFromCt(), kTransferFailed);
+    EXPECT_EQ(ParaTable, before);
+    ASSERT_EQ(forms.boxes.size(), 1u);
+    EXPECT_TRUE(BoxShown(Text(box)));
+    EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+    EXPECT_FALSE(port.IsOpen() && !AppState.PortOccupy);
+  };
+  Spoil(FaultKind::kErrorReply, "0RD7");
+  fails_with(104);
+  EXPECT_TRUE(AppState.Offline);
+  SetOnline();
+  Spoil(FaultKind::kChangedByte, "0RD7", 3);  // the name of another block
+  fails_with(384);
+  // A lead that is no number, and a home speed beyond its row.
+  const std::string device = port.Ct().WrittenBlock(7), home = port.Ct().WrittenBlock(2);
+  PlantBlock(7, std::string(device).replace(2, 2, "0G"));
+  fails_with(384);
+  PlantBlock(7, device);
+  PlantBlock(2, std::string(home).replace(8, 4, "8000"));
+  fails_with(384);
+  EXPECT_FALSE(AppState.Offline);
+}
+
+// Writing.
+
+TEST_F(BlocksTest, WritesWhatChangedAndNothingElse) {
+  // What no row holds is not the tool's to change.
+  const std::string spare = "0123456789ABCDEF";
+  PlantBlock(1, spare.substr(0, 8) + "04030201" + spare);
+  std::string device = port.Ct().WrittenBlock(4);
+  device.replace(14, 2, "A5");
+  device.replace(24, 8, "CAFE1234");
+  PlantBlock(4, device);
+  Take();
+  ParamSet.HomeVel[0] = 33;
+  ParamSet.HomeSeq[2] = 4;
+  ParamSet.SmTimer = 255;
+  std::vector<std::string> expected;
+  for (int block = 0; block < kParaBlocks; ++block) {
+    expected.push_back(port.Ct().WrittenBlock(block));
+  }
+  expected[0].replace(8, 2, "FF");
+  expected[1].replace(12, 2, "04");
+  expected[2].replace(8, 4, "0021");
+  EXPECT_EQ(WriteParaToCt(), 0);
+  std::vector<std::string> lines;
+  for (const char* c = "0123456789ABCD"; *c; ++c) lines.push_back(std::string("0RD") + *c);
+  for (int block = 0; block < kParaBlocks; ++block) {
+    lines.push_back(std::string("0WD") + ParaBlockChar(block) +
+                    expected[static_cast<std::size_t>(block)]);
+  }
+  lines.push_back("0WE2");
+  EXPECT_EQ(Sent(), lines);
+  for (int block = 0; block < kParaBlocks; ++block) {
+    EXPECT_EQ(port.Ct().CommittedBlock(block), expected[static_cast<std::size_t>(block)]) << block;
+  }
+  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+}
+
+TEST_F(BlocksTest, AxesThatAreNotLiveKeepTheirBlocks) {
+  Take();
+  Axes(true, false, false, true);
+  ParamSet.AxisLead.fill(7);
+  ParamSet.HomeSeq.fill(0);
+  const std::string before = port.Ct().WrittenBlock(7);
+  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_EQ(Commands(),
+            "0RD0 0RD1 0RD2 0RD3 0RD4 0RDB 0RDC 0RDD "
+            "0WD0 0WD1 0WD2 0WD3 0WD4 0WDB 0WDC 0WDD 0WE2");
+  EXPECT_EQ(port.Ct().CommittedBlock(7), before);
+  EXPECT_EQ(port.Ct().CommittedBlock(4).substr(2, 2), "07");
+  EXPECT_EQ(port.Ct().CommittedBlock(1).substr(8, 8), "00020300");
+  // Axes that the parameter view adds are live though they are not in use yet.
+  ParaFlags.ShownAxisCount = 2;
+  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_NE(Commands().find("0WD7"), std::string::npos);
+}
+
+TEST_F(BlocksTest, AValueThatDoesNotFitIsNamedAndNothingGoesOut) {
+  Take();
+  ParamSet.JogVel[2] = -1;
+  EXPECT_EQ(WriteParaToCt(), 1);
+  EXPECT_EQ(forms.LastBox(), Text(6180, "JOGVEL(3)"));
+  EXPECT_EQ(Commands().find("0WD"), std::string::npos);
+  EXPECT_FALSE(AppState.Offline);
+}
+
+TEST_F(BlocksTest, AFailedWriteStoresNothing) {
+  const struct {
+    FaultKind kind;
+    const char* prefix;
+    int at_byte;
+    int box;
+    const char* last;
+  } rows[] = {{FaultKind::kErrorReply, "0RD3", -1, 104, "0RD3"},
+              {FaultKind::kErrorReply, "0WD5", -1, 104, "0WD5"},
+              {FaultKind::kChangedByte, "0WD5", 3, 384, "0WD5"},  // another block's name
+              {FaultKind::kErrorReply, "0WE2", -1, 104, "0WE2"}};
+  Take();
+  const std::string before = port.Ct().CommittedBlock(2);
+  ParamSet.HomeVel[0] = 33;
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.prefix);
+    SetOnline();
+    forms.boxes.clear();
+    Sent();
+    Spoil(row.kind, row.prefix, row.at_byte);
+    EXPECT_EQ(WriteParaToCt(), 1);
+    ASSERT_EQ(forms.boxes.size(), 1u);
+    EXPECT_TRUE(BoxShown(Text(row.box)));
+    EXPECT_TRUE(Commands().ends_with(row.last));
+    EXPECT_EQ(port.Ct().CommittedBlock(2), before);
+    EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+  }
+  EXPECT_EQ(Text(384) + "\n" + Text(385), "Communication error occurs!\ntransmit data is wrong");
+}
+
+TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
+  Take();
+  const std::string block0 = port.Ct().WrittenBlock(0);
+  ASSERT_EQ(block0, "010F01001E0000000000000000000000");
+  Axes(true, true, false, false);
+  EXPECT_EQ(WriteAxisSettingToCt(), 0);
+  EXPECT_EQ(Sent(), (std::vector<std::string>{"0RD0", "0WD00010F01001E003000000000000000000"}));
+  // Twice in a row, and then the parameters: the block is whole again, with what no row holds.
+  EXPECT_EQ(WriteAxisSettingToCt(), 0);
+  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_EQ(port.Ct().CommittedBlock(0), block0);
+  EXPECT_TRUE(AxisSettingSent.Block0Sent.empty());
+}
+
+// Single fields of blocks.
+
+TEST_F(BlocksTest, HomingOrderAndStrokes) {
+  std::array<std::int32_t, kAxes> values{9, 9, 9, 9};
+  ASSERT_EQ(ReadCtBlock1(values), 0);
+  EXPECT_EQ(values, (std::array<std::int32_t, kAxes>{1, 2, 3, 4}));
+  Axes(true, false, true, true);
+  ASSERT_EQ(ReadAxisMaxPulseFromCt(values), 0);
+  EXPECT_EQ(values, (std::array<std::int32_t, kAxes>{20000, 0, 15000, 15000}));
+  EXPECT_EQ(Commands(), "0RD1 0RD4 0RDA 0RDD");
+  const auto before = values;
+  PlantBlock(1, "00000000010 0304" + std::string(16, '0'));
+  EXPECT_EQ(ReadCtBlock1(values), 1);
+  EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+  Spoil(FaultKind::kErrorReply, "0RDD");
+  EXPECT_EQ(ReadAxisMaxPulseFromCt(values), 1);
+  EXPECT_EQ(values, before);
+}
+
+TEST_F(BlocksTest, AWrongEchoOfBlock0IsTold) {
+  Spoil(FaultKind::kChangedByte, "0WD0", 3);
+  AppState.AxisPattern = 15;
+  EXPECT_EQ(WriteAxisPatternToCt(7), 1);
+  EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+  EXPECT_EQ(AppState.AxisPattern, 15);
+}
+
+}  // namespace
+}  // namespace tr7

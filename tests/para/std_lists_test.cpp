@@ -1,0 +1,346 @@
+#include "para/std_lists.h"
+
+#include <string>
+#include <vector>
+
+#include "device/dev_setting.h"
+#include "para/para_check.h"
+#include "para/param_set.h"
+#include "para/std_table.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "tests/support/state_test.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kOldFile = "tr7qvstpr.lst";
+constexpr const char* kNewFile = "tr7nqvstpr.lst";
+constexpr const char* kCommonFile = "tr7cmstpr.lst";
+
+constexpr const char* kHeader = "\"QV-R7\",\"QV-STDPRM\"\r\n";
+constexpr const char* kRow28 = "\" 28L-100\",101,11,12,13,14,1,20000,2,400,15,1,\" 28L100\"\r\n";
+constexpr const char* kRow35 = "\" 35H-200\",201,21,22,23,24,2,13334,6,401,25,0,\" 35H200\"\r\n";
+constexpr const char* kRow42 = "\" 42H-300\",301,31,32,33,34,3,15000,8,402,35,1,\" 42H300\"\r\n";
+
+/// Row i holds 10 i in column 1, and 10 i + 5 in column 2.
+std::string CommonFile() {
+  const int rows[] = {2, 9, 10};
+  const char* tags[] = {"PG", "ETC", "SPECIAL"};
+  std::string file = "\"QV-R7\",\"QV-CMNPRM\"\r\n3\r\n";
+  int row = 0;
+  for (int section = 0; section < 3; ++section) {
+    file += std::string("\"") + tags[section] + "\"," + std::to_string(rows[section]) + ",3\r\n";
+    for (int i = 0; i < rows[section]; ++i, ++row) {
+      file += "\"x\"," + std::to_string(row * 10) + "," + std::to_string(row * 10 + 5) + "\r\n";
+    }
+  }
+  return file;
+}
+
+class StdListsTest : public StateTest {
+ protected:
+  StdListsTest() {
+    Put(kNewFile, std::string(kHeader) + "3,13\r\n" + kRow28 + kRow35 + kRow42);
+    Put(kOldFile, std::string(kHeader) + "1,13\r\n" +
+                      "\" 28L-100\",901,91,92,93,94,4,20000,2,900,95,0,\" 28L100\"\r\n");
+    Put(kCommonFile, CommonFile());
+    SetDevice(0, " 28", "L", 100);
+    SetDevice(1, " 35", "H", 200);
+    SetDevice(2, " 42", "H", 300);
+    SetDevice(3, " 28", "L", 100);
+  }
+  void Put(const char* name, const std::string& content) {
+    virt.files.Put(ProgramFile(name), content);
+  }
+  static void SetDevice(std::size_t axis, const char* size, const char* speed,
+                        std::int16_t stroke) {
+    DevSettei[axis].Size = size;
+    DevSettei[axis].Speed = speed;
+    DevSettei[axis].Stroke = stroke;
+    DevSettei[axis].NewType = True;
+  }
+  std::vector<std::string> Boxes() {
+    std::vector<std::string> texts;
+    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
+    forms.boxes.clear();
+    return texts;
+  }
+  using Texts = std::vector<std::string>;
+  Texts NoListThenFailed() { return {Text(28) + "\n" + Text(29), Text(36)}; }
+};
+
+/// The values of one axis over rows of the parameter set.
+std::vector<double> Values(std::size_t axis, int first, int last) {
+  std::vector<double> values;
+  for (int row = first; row <= last; ++row) values.push_back(ParaValue(ParamSet, row, axis));
+  return values;
+}
+
+using Numbers = std::vector<double>;
+
+TEST_F(StdListsTest, EveryRowFindsItsParameter) {
+  DevSettei[1].WithPG = True;
+  ASSERT_EQ(IniParaFromStd(), 0);
+  EXPECT_TRUE(Boxes().empty());
+  EXPECT_EQ(Values(0, 1, 5), (Numbers{101, 11, 12, 13, 14}));
+  EXPECT_EQ(Values(0, 7, 12), (Numbers{20000, 2, 400, 15, 1, 0}));
+  EXPECT_EQ(Values(1, 1, 5), (Numbers{201, 21, 22, 23, 24}));
+  EXPECT_EQ(Values(1, 7, 12), (Numbers{13334, 6, 401, 25, 0, 0}));
+  EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
+  EXPECT_EQ(ParamSet.ActSize[2] + ParamSet.ActSpeed[2], " 42H");
+  EXPECT_EQ(ParamSet.ActStroke[2], 300);
+  EXPECT_EQ(Values(0, 14, 15), (Numbers{0, 10}));
+  EXPECT_EQ(Values(1, 14, 15), (Numbers{5, 15}));  // with PG: column 2
+  EXPECT_EQ(Values(1, 16, 19), (Numbers{20, 30, 40, 50}));
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    EXPECT_EQ(Values(axis, 20, 24), (Numbers{60, 70, 80, 90, 100}));
+    EXPECT_EQ(Values(axis, 28, 30), (Numbers{140, 150, 160}));
+  }
+  EXPECT_EQ(Values(0, 25, 27), (Numbers{110, 15, 130}));  // AXIS is the mask, not the list's
+  EXPECT_EQ(Values(0, 31, 34), (Numbers{170, 180, 190, 200}));
+}
+
+TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
+  const struct {
+    const char *size, *speed;
+    std::int16_t stroke;
+    bool last_absent;
+    int seq;
+  } rows[] = {{" 28", "L", 100, false, 1},
+              {" 35", "H", 200, false, 2},
+              {" 42", "H", 300, false, 3},
+              {" 42", "H", 301, false, 0},  // behind the last row
+              {" 28", "L", 100, true, 3}};  // then axis 3 is scanned last
+  for (const auto& row : rows) {
+    ParamSet.HomeSeq.fill(9);
+    SetDevice(3, row.size, row.speed, row.stroke);
+    AppState.AxisMuko[3] = row.last_absent;
+    EXPECT_EQ(IniParaFromStd(), row.seq == 0 ? 1 : 0);
+    for (const std::int16_t seq : ParamSet.HomeSeq) EXPECT_EQ(seq, row.seq) << row.size;
+  }
+  Boxes();
+
+  // An axis of the other list takes the row of that number there; there is only one.
+  AppState.AxisMuko[3] = False;
+  DevSettei[0].NewType = False;
+  EXPECT_EQ(IniParaFromStd(), 0);
+  EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{4, 1, 1, 1}));
+  SetDevice(3, " 35", "H", 200);
+  EXPECT_EQ(IniParaFromStd(), 0);
+  EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{0, 2, 2, 2}));
+  Boxes();
+}
+
+TEST_F(StdListsTest, TypeFollowsTheDevice) {
+  const struct {
+    bool new_type, vertical;
+    int type, offset;
+  } rows[] = {
+      {true, false, 0, 101}, {true, true, 0, 101}, {false, false, 1, 901}, {false, true, 2, 901}};
+  for (const auto& row : rows) {
+    for (auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
+      ParamSet = ParamSetRecord{};
+      DevSettei[0].NewType = row.new_type;
+      DevSettei[0].Vertical = row.vertical;
+      EXPECT_EQ(ini(), 0);
+      EXPECT_EQ(ParamSet.AxisType[0], row.type);
+      EXPECT_EQ(ParamSet.HomeOffset[0], row.offset);  // of the list of that type
+      EXPECT_EQ(ParamSet.AxisType[1], 0);
+    }
+  }
+}
+
+TEST_F(StdListsTest, TheAxisMask) {
+  const struct {
+    std::array<Bool16, kAxes> muko;
+    bool fixed;
+    int mask;
+  } rows[] = {{{}, false, 15},
+              {{False, True, False, True}, false, 5},  // refused by the check of the view
+              {{False, True, True, True}, false, 1},
+              {{}, true, 3}};
+  for (const auto& row : rows) {
+    AppState.AxisMuko = row.muko;
+    ParaFlags.AxisMaskFixed = row.fixed;
+    ParaFlags.AxisMask = 3;
+    EXPECT_EQ(IniParaFromStd(), 0);
+    EXPECT_EQ(ParamSet.OneAxis, row.mask);
+    EXPECT_EQ(ParaFlags.AxisMask, row.mask);
+    EXPECT_EQ(ParaRowInRange(ParamSet, kRowOneAxis, 0), row.mask != 5);
+  }
+}
+
+TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
+  for (int row = 1; row <= kParaRows; ++row) {
+    for (std::size_t axis = 0; axis < kAxes; ++axis) SetParaValue(ParamSet, row, axis, 7);
+  }
+  DevSettei[0].WithPG = True;
+  ASSERT_EQ(IniParaFromStdForWrite(), 0);
+  EXPECT_EQ(Values(0, 1, 6), (Numbers{101, 11, 12, 13, 14, 7}));
+  EXPECT_EQ(Values(0, 7, 12), (Numbers{20000, 2, 400, 15, 7, 0}));
+  EXPECT_EQ(ParamSet.Actuator[1], " 35H200");
+  EXPECT_EQ(Values(0, 14, 15), (Numbers{5, 15}));
+  EXPECT_EQ(Values(1, 14, 15), (Numbers{0, 10}));
+  EXPECT_EQ(Values(0, 16, 29), Numbers(14, 7));
+  EXPECT_EQ(Values(0, 31, 34), Numbers(4, 7));
+  // From the row of AUTO START PRG No., not from its own (160).
+  for (std::size_t axis = 0; axis < kAxes; ++axis) EXPECT_EQ(ParamSet.SoftLimit[axis], 110);
+}
+
+TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
+  SetDevice(1, "28", "L", 100);  // sizes compare as text
+  ParamSet.HomeOffset[1] = 77;
+  EXPECT_EQ(IniParaFromStd(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(ParamSet.HomeOffset[0], 101);
+  EXPECT_EQ(ParamSet.HomeOffset[1], 77);
+  EXPECT_EQ(ParamSet.PgAlarm[1], 10);
+  EXPECT_EQ(ParamSet.SmTimer, 50);
+  EXPECT_EQ(IniParaFromStdForWrite(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(36)});
+
+  AppState.AxisMuko[1] = True;  // an absent axis needs no device
+  EXPECT_EQ(IniParaFromStd(), 0);
+  AppState.AxisMuko[1] = False;
+  SetDevice(1, " 28", "L", 100);
+  DevSettei[1].Series = "NB";  // its list is not read
+  EXPECT_EQ(ReadStdLists(), 0);
+  EXPECT_TRUE(StdTable[1].empty());
+  EXPECT_EQ(IniParaFromStd(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(36)});
+}
+
+TEST_F(StdListsTest, DamagedStandardLists) {
+  const std::string row = kRow28;
+  const std::string wrong = Text(26) + "(1AXIS)", none = Text(28) + "\n" + Text(29);
+  std::string many = std::string(kHeader) + "1000,13\r\n";
+  for (int i = 0; i < 1000; ++i) many += row;
+  const struct {
+    std::string content, box;
+  } files[] = {{kHeader + std::string("1,13\r\n") + row, ""},
+               {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
+               {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong},
+               {"\"QV-R7\",\"QV-CMNPRM\"\r\n1,13\r\n" + row, wrong},
+               {"\"QV-R7\"", none},
+               {"", none},
+               {kHeader, none},
+               {kHeader + std::string("2,13\r\n") + row, none},
+               {kHeader + std::string("-1,13\r\n") + row, none},
+               {kHeader + std::string("x,13\r\n") + row, none},
+               {kHeader + std::string("1\r\n"), none},
+               {kHeader + std::string("1,13\r\n\" 28L-100,1,1,1,1,1,1,1,1,1,1,1,1\r\n"), none},
+               {kHeader + std::string("1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n"), none},
+               {kHeader + std::string("1,13\r\n\"a\",1,1,1,1,1,1,1,1,1,1,L,\"a\"\r\n"), none},
+               {kHeader + std::string("1,13\r\n\"a\",1,1,1,1,1,1,1,1,1,1,1\r\n"), none},
+               {many, none},
+               {std::string(100 << 20, ' '), none}};
+  for (const auto& file : files) {
+    SCOPED_TRACE(file.content.substr(0, 80));
+    Put(kNewFile, file.content);
+    EXPECT_EQ(ReadStdLists(), file.box.empty() ? 0 : 1);
+    EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
+  }
+  EXPECT_EQ(IniParaFromStd(), 1);
+  EXPECT_EQ(Boxes(), NoListThenFailed());
+  EXPECT_EQ(IniParaFromStdForWrite(), 1);
+  EXPECT_EQ(Boxes(), NoListThenFailed());
+  EXPECT_EQ(ParamSet, ParamSetRecord{});
+
+  DevSettei[0].NewType = DevSettei[1].NewType = False;  // the old list is good
+  Put(kNewFile, "\"QV-R7\",\"PRM\"");
+  EXPECT_EQ(ReadStdLists(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(26) + "(3AXIS)"});
+}
+
+std::string Without(std::string text, const std::string& part) {
+  text.erase(text.find(part), part.size());
+  return text;
+}
+
+std::string With(std::string text, const std::string& part, const std::string& other) {
+  return text.replace(text.find(part), part.size(), other);
+}
+
+TEST_F(StdListsTest, DamagedCommonLists) {
+  const std::string good = CommonFile(), none = Text(28) + "\n" + Text(29);
+  const struct {
+    std::string content;
+    int result;
+    std::string box;
+    bool bad_flag;
+  } files[] = {{good, 0, "", false},
+               {With(good, "\r\n3\r\n", "\r\n4\r\n") + "passed over", 0, "", false},
+               {With(good, "\r\n3\r\n", "\r\n4\r\n"), 1, none, false},
+               {With(good, "QV-R7", "QV-R8"), 1, Text(27), true},
+               {With(good, "QV-CMNPRM", "QV-STDPRM"), 1, Text(27), true},
+               {With(good, "\"ETC\"", "\"SPECIAL\""), 1, "", false},
+               {With(good, "\"PG\"", "\"pg\""), 1, "", false},
+               {With(good, "\r\n3\r\n", "\r\n2\r\n"), 1, none, false},  // rows would be missing
+               {With(good, "\r\n3\r\n", "\r\n-1\r\n"), 1, none, false},
+               {With(good, "\r\n3\r\n", "\r\n2147483647\r\n"), 1, none, false},
+               {With(good, "\"SPECIAL\",10", "\"SPECIAL\",9"), 1, none, false},
+               {With(good, "\"SPECIAL\",10", "\"SPECIAL\",16"), 1, none, false},  // 27 rows
+               {With(good, "\"PG\",2,3", "\"PG\",2,2"), 1, none, false},  // no column for the PG
+               {With(good, "\"PG\",2,3", "\"PG\",2,6"), 1, none, false},
+               {With(good, "\"ETC\",9", "\"ETC\",-1"), 1, none, false},
+               {With(good, ",200,", ",20000000000,"), 1, none, false},
+               {With(good, ",200,", ",L,"), 1, none, false},
+               {Without(good, "\"x\",200,205\r\n"), 1, none, false},
+               {With(good, "\"x\",200", "\"x,200"), 1, none, false},
+               {"", 1, none, false}};
+  for (const auto& file : files) {
+    SCOPED_TRACE(file.content);
+    Put(kCommonFile, file.content);
+    ParaFlags.ParaFileBad = False;
+    EXPECT_EQ(ReadStdLists(), file.result);
+    EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
+    EXPECT_EQ(ParaFlags.ParaFileBad, file.bad_flag);
+    const ParamSetRecord before = ParamSet;
+    EXPECT_EQ(IniParaFromStd(), file.result);
+    EXPECT_TRUE(file.result == 0 || ParamSet == before);
+    EXPECT_EQ(forms.LastBox(), file.result == 0 ? "" : Text(36));
+    Boxes();
+  }
+}
+
+TEST_F(StdListsTest, RangesOfTheDirectWrite) {
+  const auto fill = [] {
+    ParamSet = ParamSetRecord{};
+    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+      for (int row = 1; row <= kParaRows; ++row) SetParaValue(ParamSet, row, axis, 1);
+      ParamSet.Actuator[axis] = " 28L100";
+      CutActuator(ParamSet, axis);
+      ParamSet.PgAlarm[axis] = ParamSet.Zone1[axis] = ParamSet.Zone2[axis] = 5;
+    }
+  };
+  const struct {
+    int row;
+    double value;
+    int result;
+  } rows[] = {{1, 0, 1},       {1, 65535, 0}, {2, 256, 1},  {3, 50, 0},     {3, 51, 1},
+              {4, 61, 1},      {5, 61, 1},    {6, 5, 0},    {7, 262143, 0}, {7, 262144, 1},
+              {8, 256, 1},     {9, 65536, 1}, {10, 51, 1},  {11, 9, 0},     {12, 4, 0},
+              {12, 5, 1},      {12, -1, 1},   {14, 3, 1},   {15, 4, 1},     {16, 16, 1},
+              {17, 2, 1},      {18, 2, 1},    {19, 0, 1},   {20, 3, 1},     {21, 4, 1},
+              {22, 262144, 1}, {23, 999, 0},  {24, 999, 0}, {25, 999, 0},   {26, 5, 0},
+              {27, 9, 0},      {28, 999, 0},  {29, 999, 0}, {30, 9, 0},     {31, 9, 0},
+              {32, 9, 0},      {33, 9, 0},    {34, 9, 0}};
+  fill();
+  ASSERT_EQ(CheckParaFromStd(), 0);
+  for (const auto& row : rows) {
+    const std::size_t axis = IsAxisRow(row.row) ? 3 : 0;
+    AppState.AxisMuko[3] = False;
+    fill();
+    SetParaValue(ParamSet, row.row, axis, row.value);
+    EXPECT_EQ(CheckParaFromStd(), row.result) << row.row << " " << row.value;
+    AppState.AxisMuko[3] = True;
+    EXPECT_EQ(CheckParaFromStd(), axis == 3 ? 0 : row.result) << row.row << " of an absent axis";
+  }
+  fill();
+  ParamSet.Actuator[0].clear();
+  EXPECT_EQ(CheckParaFromStd(), 1);
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,131 @@
+#include <string>
+
+#include "forms/frm_parameta2.h"
+#include "forms/frm_stroke_calc.h"
+#include "para/para_columns.h"
+#include "state/text.h"
+#include "state/views.h"
+#include "tests/support/state_test.h"
+
+namespace tr7 {
+namespace {
+
+class StrokeCalc : public StateTest {
+ protected:
+  StrokeCalc() {
+    ShowView(frmParameta2);
+    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+      p.txtAxisLead[axis].Type("2");
+      p.txtAxisPulse[axis].Type("400");
+    }
+  }
+  /// Opens the dialogue; `use` is what the user does in it.
+  template <typename Use>
+  void Open(Use use) {
+    forms.on_modal["frmStrokeCalc"] = [use](View&) {
+      use();
+      frmStrokeCalc.cmdClose.Press();
+    };
+    p.cmdCalculate.Press();
+  }
+  static std::string Calculate(const std::string& stroke, const std::string& lead) {
+    c.txtCulStroke.Type(stroke);
+    c.txtCulLead.Type(lead);
+    c.cmdCulStrokePulse.Press();
+    return c.lblStrokePulse.Caption;
+  }
+  static inline FrmStrokeCalc& c = frmStrokeCalc;
+  FrmParameta2& p = frmParameta2;
+};
+
+TEST_F(StrokeCalc, PulsesOfAStroke) {
+  const struct {
+    const char* stroke;
+    const char* lead;
+    const char* first;   ///< 400 pulses a turn
+    const char* second;  ///< 192 pulses a turn
+  } rows[] = {
+      {"100", "2", "20000", "9600"},
+      {"100", "6", "6667", "3200"},  // 6666.67: up
+      {"50", "12", "1667", "800"},
+      {"25", "8", "1250", "600"},
+      {"7", "12", "234", "112"},         // 233.33: up
+      {"100", "9", "4445", "2134"},      // 4444.44, 2133.33: any lead is computed with
+      {"9999", "2", "199800", "95904"},  // the field takes three digits
+      {"0", "2", "0", "0"},
+      {"", "2", "Invalidity", "Invalidity"},
+      {"100", "", "Invalidity", "Invalidity"},
+      {"", "", "Invalidity", "Invalidity"},
+      {"100", "0", "Invalidity", "Invalidity"},
+  };
+  Open([&] {
+    for (const auto& row : rows) {
+      c.optActType[0].Press();
+      EXPECT_EQ(Calculate(row.stroke, row.lead), row.first) << row.stroke << "/" << row.lead;
+      c.optActType[1].Press();
+      EXPECT_EQ(Calculate(row.stroke, row.lead), row.second) << row.stroke << "/" << row.lead;
+    }
+  });
+}
+
+TEST_F(StrokeCalc, ItOpensWithPromptsThatGiveWay) {
+  Open([&] {
+    EXPECT_EQ(c.txtCulStroke.Text, "integer:25 to 600");
+    EXPECT_EQ(c.txtCulLead.Text, "integer:2 or 4 or 6 or 8 or 12");
+    EXPECT_EQ(c.lblStrokePulse.Caption, "");
+    EXPECT_TRUE(c.optActType[0].Value);
+    EXPECT_TRUE(c.optInputSaki[0].Value);
+    c.cmdCulStrokePulse.Press();
+    EXPECT_EQ(c.lblStrokePulse.Caption, "Invalidity");
+    c.txtCulStroke.GotFocus();
+    EXPECT_EQ(c.txtCulStroke.Text, "");
+    c.txtCulStroke.Type("50");
+    c.txtCulStroke.GotFocus();
+    EXPECT_EQ(c.txtCulStroke.Text, "50");
+  });
+}
+
+TEST_F(StrokeCalc, TheResultGoesIntoTheChosenAxisAndTheFocusOn) {
+  const Control* next[] = {&p.txtAxisStroke[1], &p.txtAxisLead[2], &p.txtAxisStroke[3],
+                           &p.txtAxisLead[0]};
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    forms.focus = nullptr;
+    Open([&] {
+      Calculate("100", "2");
+      c.optInputSaki[axis].Press();
+      c.cmdInputStroke.Press();
+      EXPECT_FALSE(c.Visible);
+    });
+    EXPECT_EQ(p.txtAxisStroke[axis].Text, "20000") << axis;
+    EXPECT_EQ(p.txtAxisMmStroke[axis].Text, "100.000") << axis;  // which is what counts
+    EXPECT_EQ(forms.focus, next[axis]) << axis;
+  }
+}
+
+TEST_F(StrokeCalc, WhatIsNoResultIsNotEntered) {
+  p.txtAxisStroke[0].Type("123");
+  for (const std::string& result : {std::string(), Text(6092), Text(6093)}) {
+    forms.beeps = 0;
+    forms.focus = nullptr;
+    Open([&] {
+      c.lblStrokePulse.Caption = result;
+      c.cmdInputStroke.Press();
+      EXPECT_TRUE(c.Visible);
+      EXPECT_EQ(forms.beeps, 1);
+    });
+    EXPECT_EQ(p.txtAxisStroke[0].Text, "123");
+    EXPECT_EQ(forms.focus, nullptr);
+  }
+}
+
+TEST_F(StrokeCalc, OnlyAxesInUseTakeAResult) {
+  AppState.AxisMuko[0] = True;
+  YukoJikuHyojiSettei();
+  Open([&] {
+    EXPECT_FALSE(c.optInputSaki[0].Enabled);
+    EXPECT_EQ(c.optInputSaki.Chosen(), 1);
+  });
+}
+
+}  // namespace
+}  // namespace tr7

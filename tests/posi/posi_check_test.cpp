@@ -1,0 +1,197 @@
+// The one check of the grid and the one commit of its texts to the table.
+
+#include "posi/posi_check.h"
+
+#include "device/dev_setting.h"
+#include "forms/frm_syogo_kekka.h"
+#include "posi/posi_table.h"
+#include "state/text.h"
+#include "tests/support/posi_table_test.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kAxis4 = 18;
+
+class PosiCheck : public PosiTableTest {
+ protected:
+  PosiCheck() {
+    forms.on_modal["frmSyogoKekka"] = [this](View&) {
+      const Grid& grid = frmSyogoKekka.flgdKekka;
+      caption = frmSyogoKekka.Caption;
+      lines.clear();
+      for (int row = grid.FixedRows; row < grid.Rows(); ++row) {
+        lines += grid.Text(row, 0) + ":";
+        for (int col = 1; col < grid.Cols(); ++col) {
+          if (grid.IsMarked && grid.IsMarked(row, col)) lines += " " + std::to_string(col);
+        }
+        lines += ";";
+      }
+      frmSyogoKekka.cmdClose.Press();
+    };
+  }
+  std::string lines;  ///< of the result view: number, flagged columns
+  std::string caption;
+};
+
+TEST_F(PosiCheck, EveryRangeOfEveryColumn) {
+  const struct {
+    int col;
+    const char* text;
+    bool good;
+  } rows[] = {{kVel, "1", true},           {kVel, "75", true},
+              {kVel, "0", false},          {kVel, "76", false},
+              {kAcc, "10", true},          {kAcc, "2000", true},
+              {kAcc, "4", false},          {kAcc, "2010", false},
+              {kWay, "3", true},           {kWay, "4", false},
+              {kPosi, "13334", true},      {kPosi, "13335", false},
+              {kPosi, "-1", false},        {kPf, "0", true},
+              {kPf, "20", true},           {kPf, "19", false},
+              {kPf, "71", false},          {kPs, "99", true},
+              {kPs, "100", false},         {kItpl, "2", false},
+              {kOut, "15", true},          {kOut, "16", false},
+              {kSm, "20", true},           {kSm, "21", false},
+              {kVel, "", false},           {kPosi, " ", false},
+              {kItpl, "", false},          {kComment, "", true},
+              {kAxis4 + kPs, "100", false}};
+  for (const auto& row : rows) {
+    ShowTable(1, 3);
+    Put(2, row.col, row.text);
+    lines.clear();
+    EXPECT_EQ(PosiDataCheck3(), row.good ? 0 : 1) << row.col << " \"" << row.text << "\"";
+    EXPECT_EQ(bool(PosiTable.PosiLineBad[2]), !row.good) << row.col << " \"" << row.text << "\"";
+    EXPECT_EQ(lines, row.good ? "" : "2: " + std::to_string(row.col) + ";") << row.col;
+    EXPECT_TRUE(frmPosi.flgdData.Enabled);
+    EXPECT_TRUE(frmPosi.flgdData.Redraw);
+  }
+  EXPECT_EQ(caption, Text(2302));
+}
+
+TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
+  ShowTable(1, 3);
+  Put(1, kVel, "71");
+  Put(3, kPf, "10");
+  Put(3, kPs, "");
+  EXPECT_EQ(PosiDataCheck3(), 1);
+  EXPECT_EQ(Stored(kVel, 1), 30);
+  EXPECT_EQ(lines, "3: 5 6;");
+  EXPECT_EQ(PosiTable.PosiBadLineCount, 1);
+  EXPECT_EQ(PosiTable.PosiBadLineList, "3,");
+  EXPECT_EQ(Cell(1, kVel), "71") << "the grid keeps what was typed";
+  EXPECT_EQ(PosiTable.SyogoCount, 0) << "the flags are gone with the result view";
+
+  Put(3, kPf, "20");
+  Put(3, kPs, "5");
+  EXPECT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(Stored(kVel, 1), 71);
+  EXPECT_EQ(Stored(kPf, 3), 20);
+}
+
+TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
+  ShowTable(5, 7);
+  Type(5, kPosi, "1234");
+  Type(5, kAcc, "250");
+  Type(5, kWay, "2");
+  Type(5, kOut, "9");
+  Type(5, kComment, "pick");
+  ASSERT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(PosiTable.PosiPulse[0][5], 1234) << "the slot of the number, not of the row";
+  EXPECT_DOUBLE_EQ(PosiTable.PosiMm[0][5], 1234 * (6.0 / 800));
+  EXPECT_EQ(Stored(kPosi, 5), 1234);
+  EXPECT_EQ(Stored(kAcc, 5), 25);
+  EXPECT_EQ(Stored(kWay, 5), 2);
+  EXPECT_EQ(Stored(kOut, 5), 9);
+  EXPECT_EQ(TextOf(PosiTable.PosiRec[kComment][5]), "pick");
+}
+
+TEST_F(PosiCheck, InTheMillimetreViewTheMillimetresAreTheMaster) {
+  ShowTable(1, 2, false, true);
+  Type(1, kPosi, "12.345");
+  ASSERT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(PosiTable.PosiPulse[0][1], 1646);
+  EXPECT_EQ(Stored(kPosi, 1), 1646);
+  Put(1, kPosi, " 100.006");
+  EXPECT_EQ(PosiDataCheck3(), 1);
+}
+
+TEST_F(PosiCheck, ProgramModeTakesTheWayFromTheSignAndFillsTheRest) {
+  ShowTable(1, 3, true);
+  Type(1, kPosi, "+250");
+  Type(2, kPosi, "-250");
+  Type(3, kPosi, "250");
+  Put(3, kVel, "");
+  ASSERT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(Stored(kWay, 1), 2);
+  EXPECT_EQ(Stored(kWay, 2), 3);
+  EXPECT_EQ(Stored(kWay, 3), 1);
+  EXPECT_EQ(Stored(kAxis4 + kWay, 3), 0) << "N";
+  for (int number = 1; number <= 3; ++number) {
+    EXPECT_EQ(PosiTable.PosiPulse[0][static_cast<std::size_t>(number)], 250);
+    EXPECT_EQ(Stored(kVel, number), 30);
+    EXPECT_EQ(Stored(kAcc, number), 1);
+    EXPECT_EQ(Stored(kPf, number), 0);
+  }
+  Put(2, kPosi, "   13335");
+  EXPECT_EQ(PosiDataCheck3(), 1);
+  EXPECT_EQ(lines, "2: 4;");
+}
+
+TEST_F(PosiCheck, AnAxisNotInUseIsFilledAndNotJudged) {
+  AppState.AxisMuko[3] = True;
+  ShowTable(1, 2);
+  Put(1, kAxis4 + kVel, "9999");
+  Put(1, kAxis4 + kPosi, "");
+  ASSERT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(Stored(kAxis4 + kVel, 1), 30);
+  EXPECT_EQ(Stored(kAxis4 + kAcc, 1), 1);
+  EXPECT_EQ(PosiTable.PosiPulse[3][1], 0);
+}
+
+TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
+  ShowTable(1, 5);
+  Put(1, kVel, "9999");
+  AppState.PosiFromNo = 2;
+  AppState.PosiToNo = 4;
+  EXPECT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(PosiDataCheckAll(), 1);
+  EXPECT_EQ(lines, "1: 1;");
+}
+
+TEST_F(PosiCheck, ARangeThatIsNotLoadedStandsForTheWholeTable) {
+  ShowTable(1, 3);
+  Put(2, kVel, "0");
+  AppState.PosiFromNo = 500;
+  AppState.PosiToNo = 600;
+  EXPECT_EQ(PosiDataCheck3(), 1);
+  EXPECT_EQ(lines, "2: 1;") << "what is refused is also shown";
+}
+
+TEST_F(PosiCheck, AnEmptyGridIsGoodAndMeansNoTable) {
+  ShowTable(1, 2);
+  frmPosi.flgdData.SetRows(2);
+  EXPECT_EQ(PosiDataCheck3(), 0);
+  EXPECT_EQ(AppState.PosiFirstNo, 0);
+  EXPECT_EQ(AppState.PosiLastNo, 0);
+  EXPECT_EQ(Check_flgdLineNo(), 1);
+  EXPECT_TRUE(BoxShown(Text(433)));
+}
+
+TEST_F(PosiCheck, WithoutADeviceNothingCanBeConverted) {
+  ShowTable(1, 2);
+  DevSetting[1].Ppr = 0;
+  EXPECT_EQ(PosiDataCheck3(), 1);
+  EXPECT_TRUE(BoxShown("AXIS2"));
+}
+
+TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLine) {
+  ShowTable(1, 5);
+  frmPosi.cmdPosiCheck.Press();
+  EXPECT_TRUE(BoxShown(Text(6358)));
+  Put(4, kOut, "99");
+  frmPosi.cmdPosiCheck.Press();
+  EXPECT_EQ(lines, "4: 26;");
+  EXPECT_EQ(frmPosi.flgdData.Row, 5);
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,405 @@
+// How the position grid is laid out, filled and told about; new data, the unit, and leaving.
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "core/options_view.h"
+#include "device/dev_setting.h"
+#include "forms/frm_main.h"
+#include "forms/frm_options2.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_select_posi_no.h"
+#include "forms/frm_syogo_kekka.h"
+#include "posi/posi_caption.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_hint.h"
+#include "posi/posi_table.h"
+#include "posi/posi_commands.h"
+#include "posi/posi_rebuild.h"
+#include "posi/posi_view.h"
+#include "state/text.h"
+#include "state/views.h"
+#include "tests/support/posi_table_test.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kAxis2 = 6, kAxis3 = 12;
+
+class PosiGrid : public PosiTableTest {
+ protected:
+  /// Number `n` holds way 2 and 1000 pulses on AXIS1, as if read from a file.
+  static void Store(int n) {
+    const auto slot = static_cast<std::size_t>(n);
+    PosiTable.PosiRec[kVel][slot] = std::string(" 45");
+    PosiTable.PosiRec[kAcc][slot] = 25.0;
+    PosiTable.PosiRec[kWay][slot] = 2.0;
+    PosiTable.PosiPulse[0][slot] = 1000;
+    PosiTable.PosiMm[0][slot] = 7.5;
+    PosiTable.PosiRec[kPosi][slot] = 1000.0;
+    PosiTable.PosiRec[kSm][slot] = std::string(" 20");
+    PosiTable.PosiRec[kComment][slot] = std::string(" as it is ");
+  }
+  std::string Hint(int col) {
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, col);
+    return frmMain.sbStatusBar.Panels[kPanelError];
+  }
+};
+
+TEST_F(PosiGrid, WidthsTitlesAndColoursByModeAndAxes) {
+  const std::array<int, 6> axis{500, 500, 500, 1000, 600, 700};
+  const Grid& grid = frmPosi.flgdData;
+  for (const bool program_mode : {false, true}) {
+    for (const bool mm : {false, true}) {
+      AppState.AxisMuko[2] = True;
+      ShowTable(1, 2, program_mode, mm);
+      const std::string unit = mm ? "(mm)" : "(pls)";
+      EXPECT_EQ(grid.ColWidth(0), 400);
+      EXPECT_EQ(grid.RowHeight(0), 300);
+      EXPECT_EQ(grid.RowHeight(1), 500);
+      for (int col = 1; col <= 24; ++col) {
+        const int field = FieldOfColumn(col);
+        const bool shown = AxisOfColumn(col) != 2 && (!program_mode || field == kPosi);
+        EXPECT_EQ(grid.ColWidth(col), shown ? axis[static_cast<std::size_t>(field - 1)] : 0) << col;
+        EXPECT_EQ(grid.ColColour(col), AxisOfColumn(col) == 2       ? 0xe0e0e0
+                                       : AxisOfColumn(col) % 2 == 1 ? 0xffffc0
+                                                                    : kWindowColour)
+            << col;
+        EXPECT_EQ(grid.Text(0, col), "AXIS" + std::to_string(AxisOfColumn(col) + 1));
+      }
+      for (int col = kItpl; col <= kSm; ++col)
+        EXPECT_EQ(grid.ColWidth(col), program_mode ? 0 : 500);
+      EXPECT_EQ(grid.ColWidth(kComment), -1) << "the width that is left";
+      EXPECT_EQ(grid.Text(1, 0) + grid.Text(1, kVel) + grid.Text(1, kAxis2 + kPs), "No.VELPS");
+      EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), "Posi2" + unit);
+      EXPECT_EQ(grid.Text(0, kComment) + grid.Text(1, kComment), "CommonCOMMENT");
+    }
+  }
+}
+
+TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
+  const struct {
+    bool program_mode, mm;
+    int way;
+    const char* posi;
+  } rows[] = {{false, false, 2, "1000"},    {false, true, 2, "   7.500"},
+              {true, false, 0, "       N"}, {true, false, 1, "    1000"},
+              {true, false, 2, "   +1000"}, {true, false, 3, "   -1000"},
+              {true, true, 0, "       N"},  {true, true, 1, "   7.500"},
+              {true, true, 2, "  +7.500"},  {true, true, 3, "  -7.500"}};
+  for (const auto& row : rows) {
+    AppState.AxisMuko[2] = True;
+    ShowTable(7, 7, row.program_mode, row.mm);
+    Store(7);
+    PosiTable.PosiRec[kWay][7] = static_cast<double>(row.way);
+    PosiTable.PosiRec[kAxis3 + kVel][7] = 77.0;
+    FG_ShowTable();
+    EXPECT_EQ(frmPosi.flgdData.Rows(), 3) << "a table of one position";
+    EXPECT_EQ(Cell(7, 0), "7");
+    EXPECT_EQ(Cell(7, kPosi), row.posi);
+    EXPECT_EQ(Cell(7, kVel), "45");
+    EXPECT_EQ(Cell(7, kAcc), "250");
+    EXPECT_EQ(Cell(7, kWay), std::to_string(row.way));
+    EXPECT_EQ(Cell(7, kAxis2 + kVel) + Cell(7, kAxis2 + kAcc), "30100");
+    EXPECT_EQ(Cell(7, kAxis3 + kVel) + Cell(7, kAxis3 + kAcc), "30100") << "an axis not in use";
+    EXPECT_EQ(Cell(7, kSm), "20");
+    EXPECT_EQ(Cell(7, kComment), " as it is ") << "unchanged";
+    EXPECT_EQ(frmPosi.flgdData.Row, 2);
+    EXPECT_EQ(frmPosi.flgdData.Col, row.program_mode ? kPosi : kVel);
+  }
+}
+
+TEST_F(PosiGrid, WhatAFileHoldsBeyondAllRangesIsShownAndHarmsNothing) {
+  ShowTable(1, 1, true);
+  Store(1);
+  PosiTable.PosiRec[kWay][1] = std::string(400, '9');
+  PosiTable.PosiMm[0][1] = 1e300;
+  FG_ShowTable();
+  EXPECT_EQ(Cell(1, kPosi), "    1000") << "a way that is none counts as absolute";
+  AppState.DispMmUnit = True;
+  FG_ShowTable();
+  EXPECT_GT(Cell(1, kPosi).size(), 8u);
+}
+
+TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
+  const struct {
+    int col;
+    const char *pos_pulses, *pos_mm, *prg_pulses, *prg_mm;  ///< null: as the one before
+  } rows[] = {
+      {0, "", nullptr, nullptr, nullptr},
+      {kVel, "Input Range : 1 to 75(mm/sec)", nullptr, "", nullptr},
+      {kAcc, "Input Range : 10 to 2000(msec)", nullptr, "", nullptr},
+      {kWay, "Input Range : 0 to 3(0:No Move / 1:ABS Move / 2:+INC Move / 3:-INC Move)", nullptr,
+       "", nullptr},
+      {kPosi, "Input Range : 0 to 13334(pls)", "Input Range : 0.000 to  100.005(mm)",
+       "Input Range : 0 to 13334(PLS) / N:No Move / ±:INC Move / other:ABS Move",
+       "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
+      {kPf, "Input Range : 0 , 20 to 70(%)", nullptr, "", nullptr},
+      {kPs, "Input Range : 0 to 99(%)", nullptr, "", nullptr},
+      {kAxis2 + kVel, "Input Range : 1 to 400(mm/sec)", nullptr, "", nullptr},
+      {kAxis3 + kVel, "", nullptr, nullptr, nullptr},  // not in use
+      {kItpl, "Input Range : 0 to 1(0:Interpolation Disable / 1:Interpolation Enable)", nullptr, "",
+       nullptr},
+      {kOut, "Input Range : 0 to 15(Output to OUT1 - OUT4 with 4bit)", nullptr, "", nullptr},
+      {kSm, "Input Range : 0 , 1 to 200:No SM / 1to20:Executed SM No.", nullptr, "", nullptr},
+      {kComment, "It is possible to input it up to 20 characters.", nullptr, nullptr, nullptr},
+  };
+  DevSetting[1].Speed = "D";
+  DevSetting[1].Size = " 42";
+  AppState.AxisMuko[2] = True;
+  for (const auto& row : rows) {
+    const char* expected = "";
+    const std::array<const char*, 4> columns{row.pos_pulses, row.pos_mm, row.prg_pulses,
+                                             row.prg_mm};
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      if (columns[i]) expected = columns[i];
+      ShowTable(1, 2, i >= 2, i % 2 == 1);
+      EXPECT_EQ(Hint(row.col), expected) << "column " << row.col << ", case " << i;
+    }
+  }
+  FG_InitPos();
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], "") << "no cell is the current one";
+  AppState.AlarmOn = True;
+  frmMain.sbStatusBar.Panels[kPanelError] = "an alarm";
+  EXPECT_EQ(Hint(kComment), "an alarm") << "it stays readable";
+}
+
+TEST_F(PosiGrid, TheInputMethodComesOnForTheCommentAlone) {
+  for (int col = 0; col < kPosiColumns; ++col) {
+    EXPECT_EQ(frmPosi.flgdData.InputMethodOn(col), col == kComment);
+    EXPECT_EQ(frmPosi.flgdData.MaxLength(col), col == kComment ? 20 : 0);
+  }
+}
+
+TEST_F(PosiGrid, CaptionsNameTheTable) {
+  const struct {
+    std::string name, caption;
+  } rows[] = {{Text(213), "Position Data-[New Data]"},
+              {Text(374), "Position Data-[Inside of C/T]"},
+              {"/home/me/job.v2", "Position Data-[job.v2]"}};
+  for (const auto& row : rows) {
+    SetPosiTableName(row.name);
+    EXPECT_EQ(frmPosi.Caption, row.caption);
+  }
+  SetPosiTableFile("/home/me/job.QVD");
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[job]");
+  EXPECT_EQ(PosiTablePath(), "/home/me/job.QVD") << "it is saved where it came from";
+}
+
+// New data.
+
+class PosiNew : public PosiGrid {
+ protected:
+  void New(const std::string& from, const std::string& to, const std::string& after_from = "") {
+    proposed.clear();
+    forms.boxes.clear();
+    forms.on_modal["frmSelectPosiNo3"] = [=, this](View& view) {
+      auto& range = static_cast<SelectPosiNoView&>(view);
+      proposed = range.txtFromNo.Text + "-" + range.txtToNo.Text;
+      range.txtFromNo.Type(from);
+      range.txtToNo.Type(to);
+      range.cmdOk.Press();
+      if (!range.Visible) return;
+      if (!after_from.empty()) {
+        range.txtFromNo.Type(after_from);
+        range.cmdOk.Press();
+      } else {
+        range.cmdCancel.Press();
+      }
+    };
+    frmMain.mnuFileNew.Click();
+    EXPECT_FALSE(AppState.RangeIsForNew);
+  }
+  std::string Range() const {
+    return std::to_string(AppState.PosiFirstNo) + "-" + std::to_string(AppState.PosiLastNo) + "/" +
+           std::to_string(AppState.PosiCount) + "/" +
+           std::to_string(frmPosi.flgdData.Rows() - kPosiHeaderRows);
+  }
+  std::string proposed;
+};
+
+TEST_F(PosiNew, ARangeOfDefaultsReplacesTheTable) {
+  DevSetting[0].Speed = "D";
+  DevSetting[0].Size = " 42";
+  ShowTable(3, 4);
+  Store(4);
+  New("1", "999");
+  EXPECT_EQ(proposed, "1-15");
+  EXPECT_EQ(Range(), "1-999/999/999");
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
+  EXPECT_EQ(Cell(4, kVel) + " " + Cell(4, kAcc) + " " + Cell(4, kAxis2 + kAcc), "30 200 100");
+  EXPECT_EQ(Cell(999, kComment) + Cell(999, kWay) + Cell(999, kPosi), "00");
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  New("7", "7");
+  EXPECT_EQ(Range(), "7-7/1/1");
+}
+
+TEST_F(PosiNew, ARangeThatIsNoneKeepsTheDialogueOpen) {
+  ShowTable(3, 4);
+  const struct { const char *from, *to; } rows[] = {{"5", "4"}, {"0", "9"}, {"", "9"}, {"", ""}};
+  for (const auto& row : rows) {
+    New(row.from, row.to);
+    EXPECT_EQ(forms.LastBox(), Text(1610)) << row.from << "-" << row.to;
+    EXPECT_EQ(Range(), "3-4/2/2") << "cancelled then: the earlier table stays";
+  }
+  New("5", "4", "2");
+  EXPECT_EQ(Range(), "2-4/3/3");
+  forms.on_modal["frmSelectPosiNo3"] = [](View& view) {
+    auto& range = static_cast<SelectPosiNoView&>(view);
+    range.txtFromNo.Type("1a2");
+    EXPECT_EQ(range.txtFromNo.Text, "12") << "digits alone";
+    EXPECT_EQ(range.txtFromNo.MaxLength, 3);
+    range.txtFromNo.Enter();
+    range.cmdCancel.Press();
+  };
+  frmMain.mnuFileNew.Click();
+  EXPECT_EQ(Range(), "2-4/3/3");
+}
+
+TEST_F(PosiNew, UnsavedDataIsAskedAbout) {
+  ShowTable(3, 4);
+  Type(3, kVel, "31");
+  forms.answers = {MsgAnswer::Cancel, MsgAnswer::No};
+  New("1", "2");
+  EXPECT_EQ(Range(), "3-4/2/2");
+  EXPECT_EQ(forms.LastBox(), Text(5243));
+  New("1", "2");
+  EXPECT_EQ(Range(), "1-2/2/2");
+}
+
+// The unit.
+
+class PosiUnit : public PosiGrid {
+ protected:
+  void Take(bool mm) {
+    forms.on_modal["frmOptions2"] = [mm](View&) {
+      frmOptions2.tabOptions.Selected = 2;
+      frmOptions2.tabOptions.Click();
+      (mm ? frmOptions2.optUnitMm : frmOptions2.optUnitPulse).Press();
+      frmOptions2.cmdOk.Press();
+    };
+    ShowOptions();
+  }
+  std::string Setting() const { return virt.settings.Get("Settings", "DispMmUnit", "-"); }
+};
+
+TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
+  for (const bool program_mode : {false, true}) {
+    ShowTable(5, 7, program_mode);
+    Type(6, kPosi, program_mode ? "+1000" : "1000");
+    Select(6, kPosi, 6, kPosi);
+    Take(true);
+    EXPECT_EQ(Setting(), "1");
+    EXPECT_EQ(Cell(6, kPosi), program_mode ? "  +7.500" : "   7.500");
+    EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(mm)");
+    EXPECT_EQ(PosiTable.PosiPulse[0][6], 1000);
+    EXPECT_TRUE(frmPosi.PosiChanged) << "it is in no file yet";
+    EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(6)) << "the user stays where he was";
+    Take(false);
+    EXPECT_EQ(Setting(), "0");
+    EXPECT_EQ(Cell(6, kPosi), program_mode ? "   +1000" : "1000");
+    EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(pls)");
+  }
+  const auto revision = frmPosi.flgdData.Revision;
+  Take(false);
+  EXPECT_EQ(frmPosi.flgdData.Revision, revision) << "the same unit changes nothing";
+}
+
+TEST_F(PosiUnit, ABadTableKeepsTheUnit) {
+  ShowTable(5, 7);
+  virt.settings.Set("Settings", "DispMmUnit", "0");
+  Put(6, kVel, "999");
+  forms.on_modal["frmSyogoKekka"] = [](View&) { frmSyogoKekka.cmdClose.Press(); };
+  Take(true);
+  EXPECT_EQ(forms.LastBox(), Text(2541) + "\n" + Text(2542));
+  EXPECT_FALSE(AppState.DispMmUnit);
+  EXPECT_EQ(Setting(), "0");
+  EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(pls)");
+  EXPECT_EQ(Cell(6, kVel), "999");
+}
+
+TEST_F(PosiUnit, WithoutATableTheTitlesChange) {
+  RebuildPosiView();
+  Take(true);
+  EXPECT_TRUE(AppState.DispMmUnit);
+  EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(mm)");
+  EXPECT_TRUE(forms.boxes.empty());
+}
+
+// Commands and leaving.
+
+TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
+  ShowTable(998, 998);
+  const struct {
+    int row, row_sel;
+    bool copied;
+    const char* on;  ///< of copy, paste, insert, delete
+  } rows[] = {{0, 0, false, ""},
+              {0, 0, true, ""},
+              {2, 2, false, "cid"},
+              {2, 2, true, "cpid"},
+              {2, 0, true, "pi"}};
+  const auto on = [] {
+    const FrmMain& m = frmMain;
+    const FrmPosi& f = frmPosi;
+    std::string text;
+    const auto add = [&text](const Menu& menu, const Menu& popup, const CommandButton& button,
+                             const char* letter) {
+      EXPECT_EQ(menu.Enabled, popup.Enabled) << letter;
+      EXPECT_EQ(menu.Enabled, button.Enabled) << letter;
+      if (menu.Enabled) text += letter;
+    };
+    add(m.mnuEditCopy, f.mnuPopupCopy, f.cmdPosiCopy, "c");
+    add(m.mnuEditPaste, f.mnuPopupPaste, f.cmdPosiPaste, "p");
+    add(m.mnuEditInsert, f.mnuPopupInsert, f.cmdInsertLine, "i");
+    add(m.mnuEditLineDelete, f.mnuPopupLineDelete, f.cmdDeleteLine, "d");
+    EXPECT_EQ(m.mnuEdit.Enabled, !text.empty());
+    return text;
+  };
+  for (const auto& row : rows) {
+    frmPosi.CopiedIsLine = row.copied;
+    frmPosi.flgdData.Select(row.row, 1, row.row_sel, 1);
+    EXPECT_EQ(on(), row.on) << row.row << " " << row.copied;
+  }
+  frmPosi.flgdData.SelectCell(2, 1);
+  frmMain.mnuEditInsert.Press();
+  EXPECT_EQ(AppState.PosiLastNo, 999);
+  EXPECT_EQ(on(), "cpd") << "there is no room for another line";
+  frmPosi.mnuPopupLineDelete.Press();
+  EXPECT_EQ(AppState.PosiLastNo, 998);
+
+  EditCMD_Muko();
+  EXPECT_EQ(on(), "");
+  frmPosi.flgdData.Paste();
+  EXPECT_TRUE(forms.boxes.empty()) << "Ctrl+V rests with the commands";
+  EditCommandsBySelection();
+  SetActiveView(&frmParameta2);
+  EXPECT_FALSE(frmMain.mnuEdit.Enabled || frmMain.mnuFileSave.Enabled);
+  EditCommandsBySelection();
+  EXPECT_FALSE(frmMain.mnuEdit.Enabled) << "a flow's end does not bring them to another view";
+  frmMain.mnuEditLineDelete.Click();
+  EXPECT_EQ(AppState.PosiLastNo, 998) << "nothing happens behind the active view";
+  SetActiveView(&frmPosi);
+  EXPECT_EQ(on(), "cpid");
+  EXPECT_TRUE(frmMain.mnuFileSave.Enabled && frmMain.mnuFileSaveAs.Enabled);
+}
+
+TEST_F(PosiGrid, LeavingAsksAboutUnsavedDataAndTeaching) {
+  ShowTable(1, 2);
+  EXPECT_FALSE(frmPosi.QueryUnload(CloseReason::Code));
+  frmPosi.PosiChanged = True;
+  forms.answers = {MsgAnswer::No, MsgAnswer::Cancel};
+  EXPECT_FALSE(frmPosi.QueryUnload(CloseReason::Code));
+  EXPECT_EQ(forms.boxes.back().Title, Text(390));
+  EXPECT_EQ(forms.LastBox(), Text(391));
+  EXPECT_TRUE(frmPosi.QueryUnload(CloseReason::Code));
+  frmPosi.PosiChanged = False;
+  AppState.TeachingNow = True;
+  EXPECT_TRUE(frmPosi.QueryUnload(CloseReason::Code));
+  EXPECT_EQ(forms.LastBox(), Text(60) + "\n" + Text(61));
+}
+
+}  // namespace
+}  // namespace tr7
