@@ -32,7 +32,7 @@ int ReadParaBlock(char block, int timeout_ms, std::string& reply);
 /// Opens the port (up to 4 attempts), takes command and reads block 0 into `AxisPattern` and
 /// `AxisMuko`. Also known as ReadAxisSettingFromCt.
 int ReadCtAxisFromCt();
-/// The same into `AxisPatternOfCt`, `AxisMukoOfCt`, `CtModeOfCt`. Also known as ReadCtModeFromCt.
+/// The same into `AxisPatternOfCt`, `AxisMukoOfCt`, `CtModeOfCt`.
 int ReadCtModeAndAxis();
 /// 0 equal, 1 axes differ, 2 mode differs, 3 both, -1 failure.
 int CompareCtModeAndAxis();
