@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-namespace tr7 {
+#include "forms/field_table.h"
 
-struct Control;
+namespace tr7 {
 
 /// What the frame may ask of the view in front. A command that a view leaves empty is shown
 /// switched off while that view is in front.
@@ -44,6 +44,7 @@ struct View {
   double Left = 0, Top = 0, Width = 0, Height = 0;
 
   std::vector<Control*> Controls;  ///< in order of construction, which is the tab order
+  std::vector<FieldTable> Tables;  ///< the regular parts of the layout
 
   std::function<void()> Load;  ///< once, before the view is first shown
   /// Asked before the view closes; true refuses.

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "forms/control.h"
+#include "ui/field_table.h"
 #include "ui/grid_table.h"
 
 namespace tr7 {
@@ -36,6 +37,7 @@ void KeepPlaces(const QWidget& area) {
 BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const CommandGate& gate)
     : view_(view), window_(window) {
   form.set_up(window);
+  BuildFieldTables(view, window);
   FindStrangers();
   for (Control* control : view.Controls) Tie(*control, gate);
   FindAreas();

@@ -18,6 +18,7 @@ class Ship {
   void Run(const char* name, void (*flow)(Voyage& voyage));
   void RunAnyFlow();
   void GetTable();
+  void SailHastily();
 
   Voyage voyage_;
 };

@@ -2,10 +2,10 @@
 
 #include "device/dev_setting.h"
 #include "device/limits.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_table.h"
 #include "posi/posi_commands.h"
+#include "posi/posi_grid_layout.h"
 #include "posi/posi_rebuild.h"
+#include "posi/posi_table.h"
 #include "posi/posi_view.h"
 
 namespace tr7 {

@@ -13,12 +13,14 @@ void VirtualFormHost::ShowModal(View& view) {
   if (ended) return;
   view.Visible = true;
   modals.emplace_back(view.Name);
+  open_modals.push_back(&view);
   if (const auto script = on_modal.find(view.Name); script != on_modal.end()) {
     script->second(view);
   } else if (on_any_modal) {
     on_any_modal(view);
   }
   while (view.Visible && may_wait) Pump();
+  open_modals.pop_back();
   if (!view.Visible) return;
   unanswered.emplace_back(view.Name);
   view.Visible = false;
@@ -33,6 +35,11 @@ void VirtualFormHost::BringToFront(View& view) {
 MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
   if (ended) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
   boxes.push_back(call);
+  if (while_box) {
+    box_stands = true;
+    while_box();
+    box_stands = false;
+  }
   const auto answer_now = on_message_box ? on_message_box(call) : std::nullopt;
   if (call.Buttons == MsgButtons::Ok) return MsgAnswer::Ok;
   if (answer_now) return *answer_now;

@@ -43,6 +43,13 @@ class VirtualFormHost : public FormHost {
   std::function<void(View&)> on_any_modal;
   bool may_wait = false;
 
+  /// What happens while a box stands, before it is answered: nothing of the user's but the answer.
+  std::function<void()> while_box;
+  bool box_stands = false;
+  /// The dialogue before all others, or null.
+  View* ModalInFront() const { return open_modals.empty() ? nullptr : open_modals.back(); }
+  std::vector<View*> open_modals;
+
   std::vector<MessageBoxCall> boxes;
   std::vector<FileDialogCall> file_dialogs;
   std::vector<std::string> modals;  ///< names of modal views shown

@@ -1,0 +1,107 @@
+#include "ui/field_table.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <algorithm>
+#include <string_view>
+
+#include "forms/control.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kNameWidth = 230;
+constexpr int kFieldWidth = 136;
+constexpr int kFieldHeight = 22;
+constexpr int kLettersOfList = 11;  ///< a list's width follows the table, not its longest entry
+
+QComboBox* MakeList(QWidget& parent) {
+  auto* list = new QComboBox(&parent);
+  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list->setMinimumContentsLength(kLettersOfList);
+  return list;
+}
+
+QWidget* MakeField(const Control& control, QWidget& parent) {
+  const std::string_view type = control.TypeName;
+  if (type == "TextBox") return new QLineEdit(&parent);
+  if (type == "ComboBox") return MakeList(parent);
+  if (type == "OptionButton") return new QRadioButton(&parent);
+  if (type == "CheckBox") return new QCheckBox(&parent);
+  return new QLabel(&parent);
+}
+
+QWidget* Make(const Control& control, QWidget& parent) {
+  QWidget* widget = MakeField(control, parent);
+  widget->setObjectName(QString::fromStdString(control.Name));
+  return widget;
+}
+
+QWidget* MakeHead(const Control& control, QWidget& parent) {
+  auto* head = static_cast<QLabel*>(Make(control, parent));
+  head->setAlignment(Qt::AlignCenter);
+  QFont font = head->font();
+  font.setBold(true);
+  head->setFont(font);
+  return head;
+}
+
+void SetFieldSize(QWidget& field) {
+  field.setFixedWidth(kFieldWidth);
+  field.setMinimumHeight(kFieldHeight);
+}
+
+/// Fields that share one place stand side by side, as wide as they are.
+QLayout* InOnePlace(const FieldRow& row, QWidget& parent) {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(14);
+  for (const Control* field : row.Fields) line->addWidget(Make(*field, parent));
+  line->addStretch();
+  return line;
+}
+
+void AddRow(const FieldRow& row, int at, int columns, QGridLayout& grid, QWidget& parent) {
+  grid.addWidget(Make(*row.Name, parent), at, 0);
+  if (row.InOnePlace) {
+    grid.addLayout(InOnePlace(row, parent), at, 1, 1, columns + 1);
+    return;
+  }
+  int column = 1;
+  for (const Control* control : row.Fields) {
+    QWidget* field = Make(*control, parent);
+    SetFieldSize(*field);
+    grid.addWidget(field, at, column++);
+  }
+}
+
+void Build(const FieldTable& table, QWidget& place) {
+  auto* grid = new QGridLayout(&place);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(2);
+  grid->setColumnMinimumWidth(0, kNameWidth);
+  int columns = 0, at = 0;
+  for (const Control* head : table.Heads) grid->addWidget(MakeHead(*head, place), 0, ++columns);
+  if (columns > 0) ++at;
+  for (const FieldRow& row : table.Rows) {
+    if (!row.InOnePlace) columns = std::max(columns, static_cast<int>(row.Fields.size()));
+  }
+  for (const FieldRow& row : table.Rows) AddRow(row, at++, columns, *grid, place);
+  grid->setColumnStretch(columns + 1, 1);
+}
+
+}  // namespace
+
+void BuildFieldTables(const View& view, QWidget& window) {
+  for (const FieldTable& table : view.Tables) {
+    if (auto* place = window.findChild<QWidget*>(QString::fromStdString(table.Place))) {
+      Build(table, *place);
+    }
+  }
+}
+
+}  // namespace tr7
