@@ -136,11 +136,10 @@ TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
     std::string part, other;
     Texts boxes;
   } rows[] = {
-      {"PRM", "GRP", {Text(22) + "\n" + Text(20), failed}},
-      {"\"PG\"", "\"ETC\"", {failed}},
-      {"\r\n5\r", "\r\n6\r", {failed + "\n\n" + Text(6451)}},
-      {"\"ETC\",9", "\"ETC\",99", {failed + "\n\n" + Text(6150, "ETC")}},
-      {" 28L100\"", " 28L100", {failed + "\n\n" + Text(6150, "AXIS")}},
+      {"PRM",
+       "GRP",
+       {Text(22) + "\n" + Text(20) + "\n\n" + Text(6322, "job.pmt", Text(6326)), failed}},
+      {"\"PG\"", "\"ETC\"", {failed + "\n\n" + Text(6321, "18", Text(6334, "ETC", "PG"))}},
       {"\"HOME\",6,4\r\n400,", "\"HOME\",6,4\r\n1e,", {failed + "\n\n" + Text(6151, "OFFSET")}}};
   f.txtHomeOffset[0].Text = "77";
   const ParamSetRecord before = ParamSet;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/app_state.h"
+#include "core/file_kind.h"
 #include "core/message_box.h"
 #include "core/text.h"
 #include "para/dev_setting.h"
@@ -32,45 +33,49 @@ int TypeOf(const DevSettingRecord& device) {
   return device.Vertical ? kTypeOldVertical : kTypeOld;
 }
 
-int TellWrongHeader(const std::string& text) {
-  MsgBox(text);
+int TellWrongHeader(const std::string& text, const std::string& reason) {
+  MsgBox(WithReason(text, reason));
   return 1;
 }
 
-int TellNoList() {
-  MsgBox(TwoLines(kMsgNoList, kMsgPutList));
+int TellNoList(const std::string& reason) {
+  MsgBox(WithReason(TwoLines(kMsgNoList, kMsgPutList), reason));
   return 1;
 }
 
 int ReadStdListOfAxis(std::size_t axis) {
   const DevSettingRecord& device = DevSettei[axis];
   if (device.Series != "QV") return 0;
-  switch (ReadStdFile(device.NewType, TypeOf(device), StdTable[axis])) {
+  std::string reason;
+  switch (ReadStdFile(device.NewType, TypeOf(device), StdTable[axis], reason)) {
     case StdFileResult::Good:
       return 0;
     case StdFileResult::WrongHeader:
-      return TellWrongHeader(Text(kMsgWrongList) + "(" + std::to_string(axis + 1) + "AXIS)");
+      return TellWrongHeader(Text(kMsgWrongList) + "(" + std::to_string(axis + 1) + "AXIS)",
+                             reason);
     default:
-      return TellNoList();
+      return TellNoList(reason);
   }
 }
 
 int ReadCommonList() {
-  switch (ReadCommonFile(CommonTable)) {
+  std::string reason;
+  switch (ReadCommonFile(CommonTable, reason)) {
     case StdFileResult::Good:
       return 0;
     case StdFileResult::WrongHeader:
       ParaFlags.ParaFileBad = True;
-      return TellWrongHeader(Text(kMsgWrongCommon));
+      return TellWrongHeader(Text(kMsgWrongCommon), reason);
     case StdFileResult::WrongTag:
+      ParaFlags.FileFaultText = reason;
       return 1;
     default:
-      return TellNoList();
+      return TellNoList(reason);
   }
 }
 
 int TellFailed() {
-  MsgBox(Text(kMsgFailed));
+  MsgBox(WithReason(Text(kMsgFailed), ParaFlags.FileFaultText));
   return 1;
 }
 
@@ -151,6 +156,7 @@ bool FillPresentAxes(int& last_scan, Fill fill) {
 int ReadStdLists() {
   for (StdList& list : StdTable) list.clear();
   CommonTable = CommonTableRecord{};
+  ParaFlags.FileFaultText.clear();
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     if (ReadStdListOfAxis(axis) != 0) return 1;
   }
