@@ -157,6 +157,30 @@ TEST_F(ChangeDeviceTest, AFileThatCannotBeReadLeadsBackToTheQuestion) {
   EXPECT_EQ(Device(0), " 28L100");
 }
 
+TEST_F(ChangeDeviceTest, AParameterFileWhoseDevicesCannotServeIsRefusedWithItsReason) {
+  StartOffline();
+  const ParamSetRecord good = ParamSet;
+  const struct {
+    std::function<void()> spoil;
+    std::string reason;
+  } rows[] = {{[] { ParamSet.OneAxis = 16; }, Text(6336)},
+              {[] { ParamSet.AxisLead[1] = 0; }, Text(6337, "AXIS2")},
+              {[] { ParamSet.AxisPulse[3] = 0; }, Text(6337, "AXIS4")}};
+  for (const auto& row : rows) {
+    row.spoil();
+    ASSERT_EQ(WriteParaFile("/bad.pmt"), 0);
+    ParamSet = good;
+    Forget();
+    Choose({1, -1});
+    forms.file_answers = {"/bad.pmt"};
+    EXPECT_EQ(Hooks.Change_Device(), 1);
+    EXPECT_EQ(Boxes(), Texts{Text(681) + "\n\n" + row.reason});
+    EXPECT_EQ(ParamSet, good);
+    EXPECT_EQ(DevSetting[1].Lead, 2);
+    EXPECT_EQ(virt.settings.Get("Settings", "DevLead2", "2"), "2");
+  }
+}
+
 TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
   StartOffline();
   // The file is what the tool saves: two axes, the first with a PG.

@@ -23,6 +23,9 @@ constexpr int kPauseMs = 100;
 
 constexpr int kMsgOpenFailed = 681;
 constexpr int kMsgBadValue = 6151;
+constexpr int kMsgNoAxis = 6336;
+constexpr int kMsgNoScale = 6337;
+constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 
 std::optional<std::string> AskOpenPath() {
   FileDialogCall call;
@@ -63,6 +66,29 @@ int TakeOver() {
   if (TakeParamTable() == 0) return 0;
   ParaFlags.ParaFileBad = True;
   ParaFlags.FileFaultText = Text(kMsgBadValue, ParaRowName(RefusedParaRow()));
+  return 1;
+}
+
+/// Why the devices of `ParamSet` cannot serve: no position could be converted. Empty: they can.
+std::string DeviceTrouble() {
+  bool any = false;
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    if ((ParamSet.OneAxis >> axis & 1) == 0) continue;
+    any = true;
+    if (ParamSet.AxisLead[axis] > 0 && ParamSet.AxisPulse[axis] > 0) continue;
+    return Text(kMsgNoScale, Text(kMsgAxis1 + static_cast<int>(axis)));
+  }
+  return any ? std::string() : Text(kMsgNoAxis);
+}
+
+/// The same for a file whose devices come into use.
+int TakeOverForDevice() {
+  const ParamSetRecord before = ParamSet;
+  if (TakeOver() != 0) return 1;
+  ParaFlags.FileFaultText = DeviceTrouble();
+  if (ParaFlags.FileFaultText.empty()) return 0;
+  ParaFlags.ParaFileBad = True;
+  ParamSet = before;
   return 1;
 }
 
@@ -116,7 +142,7 @@ int OpenParaForDevice() {
   const BusyScope busy;
   const auto path = AskOpenPath();
   if (!path) return 1;
-  if (ReadFourTimes(*path) == 0 && TakeOver() == 0) return 0;
+  if (ReadFourTimes(*path) == 0 && TakeOverForDevice() == 0) return 0;
   Tell(kMsgOpenFailed);
   return 1;
 }
