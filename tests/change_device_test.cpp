@@ -350,6 +350,22 @@ TEST_F(IniPrmTest, EveryRefusalLeavesTheParameters) {
   EXPECT_EQ(forms.LastBox(), Text(408) + "\n" + Text(409));
 }
 
+TEST_F(IniPrmTest, ValuesThatFailGoBackWithTheAxes) {
+  Open();
+  virt.files.Put(ProgramFile("tr7nqvstpr.lst"), "\"QV-R7\",\"QV-STDPRM\"\r\n0,13\r\n");
+  ParamSet.SmTimer = 77;
+  const ParamSetRecord before = ParamSet;
+  forms.answers = {MsgAnswer::Yes};
+  InDialog({[] {
+    frmDevice2.comboAxisSelect.Pick(1);
+    frmDevice2.cmdDeviceSet.Press();
+  }});
+  frmParameta2.cmdIniPrm.Press();
+  EXPECT_EQ(forms.LastBox(), Text(36));
+  EXPECT_EQ(ParamSet, before);
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
+}
+
 TEST_F(IniPrmTest, OtherAxesChangeTheColumnsOfBothViews) {
   Open();
   forms.answers = {MsgAnswer::Yes};

@@ -132,18 +132,16 @@ void TakeWritten() {
 
 void Write(bool was_offline) {
   if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill() || !GoodOrTold(HoldAxes())) return;
-  AxesOnTrial axes;
-  const ParamSetRecord parameters = ParamSet;
+  ChoiceOnTrial choice;
   const std::int16_t axes_before = AppState.AxisPattern;
   const WriteResult result = WriteHeld();
   Release(result);
   if (result == WriteResult::Done) {
-    axes.Keep();
+    choice.Keep();
     TakeWritten();
     TellWritten(AppState.AxisPattern != axes_before);
     return;
   }
-  ParamSet = parameters;
   if (result == WriteResult::Failed) MsgBox(Text(1528));
 }
 
