@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <string>
 
 #include "core/app_state.h"
@@ -151,6 +152,21 @@ bool FillPresentAxes(int& last_scan, Fill fill) {
   return all_found;
 }
 
+bool Holds(int row, std::size_t axis) {
+  if (row != kRowType) return ParaRowInRange(ParamSet, row, axis);
+  return ParamSet.AxisType[axis] >= 0 && ParamSet.AxisType[axis] <= kHighestType;
+}
+
+bool AllHold(std::initializer_list<int> rows) {
+  for (const int row : rows) {
+    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+      const bool counts = !IsAxisRow(row) || !AppState.AxisMuko[axis];
+      if (counts && !Holds(row, axis)) return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 int ReadStdLists() {
@@ -195,17 +211,10 @@ int IniParaFromStdForWrite() {
   return all_found ? 0 : TellFailed();
 }
 
+int CheckStdRows() { return AllHold({1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 14, 15}) ? 0 : 1; }
+
 int CheckParaFromStd() {
-  for (const int row : {1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 14, 15, 20, 21, 22, 16, 17, 18, 19}) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
-      if (IsAxisRow(row) && AppState.AxisMuko[axis]) continue;
-      const bool holds =
-          row == kRowType ? ParamSet.AxisType[axis] >= 0 && ParamSet.AxisType[axis] <= kHighestType
-                          : ParaRowInRange(ParamSet, row, axis);
-      if (!holds) return 1;
-    }
-  }
-  return 0;
+  return CheckStdRows() == 0 && AllHold({20, 21, 22, 16, 17, 18, 19}) ? 0 : 1;
 }
 
 }  // namespace tr7

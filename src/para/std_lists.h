@@ -17,6 +17,8 @@ int IniParaFromStd();
 int IniParaFromStdForWrite();
 
 /// Range check of what `IniParaFromStdForWrite` sets: 0 good, 1 some value is out of range.
+int CheckStdRows();
+/// The same, with the controller's own zone, output, group and macro rows.
 int CheckParaFromStd();
 
 }  // namespace tr7
