@@ -101,9 +101,29 @@ TEST_F(ParaFileFlow, SavedOpenedAndSavedAgainIsTheSame) {
 }
 
 TEST_F(ParaFileFlow, OnlyAWholeAndGoodViewIsSaved) {
+  f.lblAxis[3].Caption = "AXIS4";
+  f.lblHomePush.Caption = "PUSH";
   f.txtHomePush[3].Text.clear();
   EXPECT_EQ(Save(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8)});
+  EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8) + "\n\nAXIS4 PUSH"});
+  EXPECT_EQ(forms.focus, &f.txtHomePush[3]);
+  const struct {
+    std::function<void()> empty;
+    const Control* field;  ///< what stands before the empty AXIS4 PUSH, or that itself
+  } rows[] = {{[this] { f.txtHomeOffset[3].Text.clear(); }, &f.txtHomeOffset[3]},
+              {[this] { f.comboActSize[0].ListIndex = -1; }, &f.txtHomeOffset[3]}};
+  for (const auto& row : rows) {
+    row.empty();
+    EXPECT_EQ(Save(), 1);
+    EXPECT_EQ(forms.focus, row.field);
+  }
+  f.comboActSize[0].ListIndex = 0;
+  f.txtHomeOffset[3].Text = "1";
+  f.txtHomePush[3].Text = "1";
+  f.txtZoneSet1[1].Text.clear();  // follows the field in mm
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(forms.focus, &f.txtMmZone1[1]);
+  f.txtZoneSet1[1].Text = "100";
   f.txtHomePush[3].Text = "256";
   EXPECT_EQ(Save(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(9) + "\n" + Text(10)});

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/busy_scope.h"
+#include "core/file_kind.h"
 #include "core/message_box.h"
 #include "core/text.h"
 #include "core/wait.h"
@@ -11,6 +12,7 @@
 #include "para/para_check.h"
 #include "para/para_content.h"
 #include "para/para_file.h"
+#include "para/para_filled.h"
 #include "para/para_show.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
@@ -93,9 +95,12 @@ int TakeOverForDevice() {
 }
 
 /// Takes the view into `ParamSet`. False after the user has been told what is missing or wrong.
-bool TakeFromView() {
-  if (ParametaumuKakunin() != 0) {
-    MsgBox(TwoLines(7, 8));
+/// `missing` is then the field that holds nothing.
+bool TakeFromView(Control*& missing) {
+  const MissingParaField empty = FirstMissingParaField();
+  missing = empty.Field;
+  if (missing) {
+    MsgBox(WithReason(TwoLines(7, 8), empty.Name));
     return false;
   }
   TorikomiParametaValue();
@@ -106,12 +111,10 @@ bool TakeFromView() {
   return true;
 }
 
-}  // namespace
-
-int SaveParaToFile() {
+int Save(Control*& missing) {
   const CommandsOff commands_off;
   const BusyScope busy;
-  if (!TakeFromView()) return 1;
+  if (!TakeFromView(missing)) return 1;
   const auto path = AskSavePath();
   if (!path) return 1;
   if (WriteParaFile(*path) != 0) {
@@ -121,6 +124,16 @@ int SaveParaToFile() {
   MarkParaSaved();
   MsgBox(Text(14), MsgButtons::Ok, MsgIcon::Information);
   return 0;
+}
+
+}  // namespace
+
+int SaveParaToFile() {
+  Control* missing = nullptr;
+  const int result = Save(missing);
+  // Only now, with the commands on again, can a field take the focus.
+  if (missing) doors.forms->SetFocus(*missing);
+  return result;
 }
 
 void OpenParaFile() {
