@@ -220,7 +220,7 @@ TEST_F(ChangeDeviceTest, ADeviceWithoutStandardRowLeadsBackToTheQuestion) {
   Choose({0, -1});
   InDialog({[] { frmDevice2.cmdDeviceSet.Press(); }});
   EXPECT_EQ(Hooks.Change_Device(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(Boxes(), Texts{Text(36) + "\n\n" + Text(6340, "AXIS1", " 99L-123")});
   EXPECT_EQ(asked.size(), 2u);
   EXPECT_EQ(Device(0), " 28L100");
 }
@@ -361,7 +361,7 @@ TEST_F(IniPrmTest, ValuesThatFailGoBackWithTheAxes) {
     frmDevice2.cmdDeviceSet.Press();
   }});
   frmParameta2.cmdIniPrm.Press();
-  EXPECT_EQ(forms.LastBox(), Text(36));
+  EXPECT_EQ(forms.LastBox(), Text(36) + "\n\n" + Text(6340, "AXIS1", " 28L-100"));
   EXPECT_EQ(ParamSet, before);
   EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
 }

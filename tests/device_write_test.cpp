@@ -296,7 +296,9 @@ TEST_F(DeviceWriteTest, ParametersThatCannotBeMadeEndItBeforeTheLine) {
     std::array<Bool16, kAxes> muko{};
   } rows[] = {
       {"no list", "", {Text(28) + "\n" + Text(29), Text(36)}},
-      {"no row for the device", header + "0,13\r\n", {Text(36)}},
+      {"no row for the device",
+       header + "0,13\r\n",
+       {Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200")}},
       {"a value out of range",
        header + "2,13\r\n\" 28L-100\",0,60,10,5,5,1,20000,2,400,15,0,\" 28L100\"\r\n"
                 "\" 42H-200\",100,100,20,5,5,1,10000,8,400,30,0,\" 42H200\"\r\n",

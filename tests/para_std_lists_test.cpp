@@ -190,13 +190,14 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   SetDevice(1, "28", "L", 100);  // sizes compare as text
   ParamSet.HomeOffset[1] = 77;
   EXPECT_EQ(IniParaFromStd(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  const std::string reason = "\n\n" + Text(6340, "AXIS2", "28L-100");
+  EXPECT_EQ(Boxes(), Texts{Text(36) + reason});
   EXPECT_EQ(ParamSet.HomeOffset[0], 101);
   EXPECT_EQ(ParamSet.HomeOffset[1], 77);
   EXPECT_EQ(ParamSet.PgAlarm[1], 10);
   EXPECT_EQ(ParamSet.SmTimer, 50);
   EXPECT_EQ(IniParaFromStdForWrite(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(Boxes(), Texts{Text(36) + reason});
 
   AppState.AxisMuko[1] = True;  // an absent axis needs no device
   EXPECT_EQ(IniParaFromStd(), 0);
@@ -206,7 +207,7 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   EXPECT_EQ(ReadStdLists(), 0);
   EXPECT_TRUE(StdTable[1].empty());
   EXPECT_EQ(IniParaFromStd(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(Boxes(), Texts{Text(36) + "\n\n" + Text(6340, "AXIS2", " 28L-100")});
 }
 
 TEST_F(StdListsTest, DamagedStandardListsSayWhatIsWrong) {

@@ -9,6 +9,7 @@
 #include "core/file_kind.h"
 #include "core/message_box.h"
 #include "core/text.h"
+#include "core/text_helpers.h"
 #include "para/dev_setting.h"
 #include "para/para_check.h"
 #include "para/param_set.h"
@@ -22,6 +23,8 @@ constexpr int kMsgWrongCommon = 27;
 constexpr int kMsgNoList = 28;
 constexpr int kMsgPutList = 29;
 constexpr int kMsgFailed = 36;
+constexpr int kMsgNoRow = 6340;
+constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 
 constexpr int kTypeNew = 0, kTypeOld = 1, kTypeOldVertical = 2;
 constexpr int kHighestType = 4;  ///< that the direct write lets pass
@@ -135,6 +138,14 @@ void SetAxisMask() {
   ParamSet.OneAxis = ParaFlags.AxisMask;
 }
 
+/// The device may be offered all the same: whoever has it from the old catalogue finds it counted
+/// as of the new type, whose list may lack it.
+void NameMissing(std::size_t axis) {
+  const DevSettingRecord& device = DevSettei[axis];
+  ParaFlags.FileFaultText = Text(kMsgNoRow, Text(kMsgAxis1 + static_cast<int>(axis)),
+                                 device.Size + device.Speed + "-" + SpacePad(device.Stroke, 3));
+}
+
 /// Fills the present axes. `last_scan` is where the scan of the last of them ended. False when a
 /// device has no row.
 template <typename Fill>
@@ -145,7 +156,8 @@ bool FillPresentAxes(int& last_scan, Fill fill) {
     last_scan = ScanFor(DevSettei[axis], StdTable[axis]);
     const StdRow* row = RowAt(StdTable[axis], last_scan);
     if (row) SetFromRow(*row, axis);
-    if (!row) all_found = false;
+    if (!row && all_found) NameMissing(axis);
+    all_found = all_found && row;
     SetPg(axis);
     fill(axis, row);
   }
