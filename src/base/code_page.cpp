@@ -87,14 +87,20 @@ bool AppendShiftJis(std::string& bytes, char32_t character) {
 
 }  // namespace
 
-std::string DecodeCodePage(int page, std::string_view bytes) {
-  std::string utf8;
-  utf8.reserve(bytes.size());
-  bool good = true;
+DecodedText DecodeCodePage(int page, std::string_view bytes) {
+  DecodedText result;
+  result.utf8.reserve(bytes.size());
   for (std::size_t at = 0; at < bytes.size();) {
-    AppendUtf8(utf8, page == kCodePageUtf8 ? TakeUtf8(bytes, at, good) : TakeShiftJis(bytes, at));
+    const std::size_t begin = at;
+    bool good = true;
+    const char32_t character =
+        page == kCodePageUtf8 ? TakeUtf8(bytes, at, good) : TakeShiftJis(bytes, at);
+    // UTF-8 may hold U+FFFD itself; no code of 932 stands for it.
+    if (page != kCodePageUtf8) good = character != kBadCharacter;
+    if (!good && result.ok()) result.bad_at = begin;
+    AppendUtf8(result.utf8, character);
   }
-  return utf8;
+  return result;
 }
 
 EncodedText EncodeCodePage(int page, std::string_view utf8) {

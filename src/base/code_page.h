@@ -18,9 +18,16 @@ struct EncodedText {
   std::string bad_character;  ///< that character; a byte that is no UTF-8 counts as U+FFFD
 };
 
+/// Outcome of reading bytes of a code page.
+struct DecodedText {
+  std::string utf8;
+  std::size_t bad_at = std::string::npos;  ///< the first byte that is no character of the page
+  bool ok() const { return bad_at == std::string::npos; }
+};
+
 /// Bytes of a code page as UTF-8. Bytes that are no character of the page become U+FFFD; what
 /// follows them is read as if they were not there. Any page but UTF-8 is read as 932.
-std::string DecodeCodePage(int page, std::string_view bytes);
+DecodedText DecodeCodePage(int page, std::string_view bytes);
 
 /// UTF-8 as bytes of a code page, up to the first character that the page lacks.
 EncodedText EncodeCodePage(int page, std::string_view utf8);

@@ -38,7 +38,17 @@ SeqReader::SeqReader(std::string utf8) : text_(std::move(utf8)) {
 
 bool SeqReader::AtEnd() const { return at_ >= text_.size() && !after_comma_; }
 
+int SeqReader::Line() const {
+  int line = 1;
+  for (std::size_t i = 0; i < item_at_; ++i) {
+    const bool pair = text_[i] == '\r' && i + 1 < text_.size() && text_[i + 1] == '\n';
+    if (IsLineEnd(text_[i]) && !pair) ++line;
+  }
+  return line;
+}
+
 bool SeqReader::Next(std::string& text, bool& quoted) {
+  item_at_ = at_;
   if (AtEnd()) return false;
   while (at_ < text_.size() && IsBlank(text_[at_])) ++at_;
   text.clear();

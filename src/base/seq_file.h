@@ -19,6 +19,8 @@ class SeqReader {
   explicit SeqReader(std::string utf8);
   /// True when no item is left.
   bool AtEnd() const;
+  /// The line (from 1) on which the item read or tried last begins.
+  int Line() const;
   /// The next item as text, with or without quotes; false at the end or at a damaged item.
   bool ReadText(std::string& text);
   /// The next item as a number: an empty item is 0; false at the end or when it is no number.
@@ -36,6 +38,7 @@ class SeqReader {
 
   std::string text_;
   std::size_t at_ = 0;
+  std::size_t item_at_ = 0;   ///< where the item read last begins
   bool after_comma_ = false;  ///< an item is due even at the end of the text
 };
 

@@ -189,6 +189,14 @@ int CharCount(std::string_view utf8) {
   return count;
 }
 
+std::string OneLine(std::string_view utf8) {
+  std::string line(utf8);
+  for (char& c : line) {
+    if ((c >= 0 && c < ' ') || c == '\x7f') c = ' ';
+  }
+  return line;
+}
+
 std::string LeftChars(std::string_view utf8, int count) {
   std::size_t end = 0;
   for (int taken = 0; end < utf8.size(); ++end) {

@@ -48,6 +48,8 @@ std::int64_t HexValue(std::string_view field);
 /// Number of characters of a UTF-8 text, and its first `count` characters.
 int CharCount(std::string_view utf8);
 std::string LeftChars(std::string_view utf8, int count);
+/// Control characters, line ends among them, become blanks.
+std::string OneLine(std::string_view utf8);
 /// At most `count` characters from the `first`-th on (from 1); what is not there is left out.
 std::string MidChars(std::string_view utf8, int first, int count);
 

@@ -135,11 +135,11 @@ void EnableAxis(DeviceView& view, std::size_t axis) {
   }
 }
 
-/// The last axis in use, 1 to 4; 1 without any.
-int LastAxisInUse() {
-  int last = 1;
+/// The last axis whose box is ticked, 1 to 4; 0 without any.
+int LastAxisShown(const DeviceView& view) {
+  int last = 0;
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (!AppState.AxisMuko[static_cast<std::size_t>(axis)]) last = axis + 1;
+    if (view.chkAxisEnable[static_cast<std::size_t>(axis)].Value) last = axis + 1;
   }
   return last;
 }
@@ -149,7 +149,7 @@ int LastAxisInUse() {
 void AxisEnableClicked(DeviceView& view, int axis) {
   CheckBox& box = view.chkAxisEnable[static_cast<std::size_t>(axis)];
   if (box.Value) {
-    ShowAxesInUse(view, std::max(axis + 1, AxesChosen(view)));
+    ShowAxesInUse(view, LastAxisShown(view));
   } else if (axis > 0) {
     ShowAxesInUse(view, axis);
   } else {
@@ -205,10 +205,14 @@ void ReadLists(DeviceView& view) {
   }
 }
 
+/// The number of axes in use, by the name of the last one where they have no gap.
 void FillAxisChoice(DeviceView& view) {
   std::vector<std::string> names;
   for (int axis = 0; axis < kAxes; ++axis) names.push_back(Text(kMsgAxis1 + axis));
-  Refill(view.comboAxisSelect, names, names[static_cast<std::size_t>(LastAxisInUse() - 1)]);
+  const auto& muko = AppState.AxisMuko;
+  const auto count = std::count(muko.begin(), muko.end(), False);
+  Refill(view.comboAxisSelect, names, {});
+  view.comboAxisSelect.ListIndex = std::max(static_cast<int>(count), 1) - 1;
 }
 
 }  // namespace
@@ -221,7 +225,11 @@ ShownDevice DeviceShown(const DeviceView& view, std::size_t axis) {
           static_cast<std::int16_t>(Val(view.comboDeviceStroke[axis].Text()))};
 }
 
-int AxesChosen(const DeviceView& view) { return std::max(view.comboAxisSelect.ListIndex, 0) + 1; }
+std::array<Bool16, kAxes> MukoShown(const DeviceView& view) {
+  std::array<Bool16, kAxes> muko;
+  for (std::size_t axis = 0; axis < kAxes; ++axis) muko[axis] = !view.chkAxisEnable[axis].Value;
+  return muko;
+}
 
 void ShowAxesInUse(DeviceView& view, int count) {
   view.comboAxisSelect.ListIndex = count - 1;
@@ -247,7 +255,7 @@ void LoadDeviceLists(DeviceView& view) {
 
 void InstallDeviceCascade(DeviceView& view) {
   DeviceView* const v = &view;
-  view.comboAxisSelect.Click = [v] { ShowAxesInUse(*v, AxesChosen(*v)); };
+  view.comboAxisSelect.Click = [v] { ShowAxesInUse(*v, v->comboAxisSelect.ListIndex + 1); };
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     const auto set = [](ComboBox& combo, auto handler) { combo.Click = combo.LostFocus = handler; };
     set(view.comboDeviceSize[axis], [v, axis] { SizeChanged(*v, axis); });

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include "base/bool16.h"
 #include "forms/frm_device.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 
@@ -36,8 +38,9 @@ ShownDevice DeviceShown(const DeviceView& view, std::size_t axis);
 /// of once, and the lists stay empty.
 void LoadDeviceLists(DeviceView& view);
 
-/// Number of axes that the dialogue asks for, 1 to 4: AXIS1 up to that one.
-int AxesChosen(const DeviceView& view);
+/// The axes whose boxes are ticked are wanted: AXIS1 up to the chosen number, unless the user has
+/// left axes in use that have a gap as they were.
+std::array<Bool16, kAxes> MukoShown(const DeviceView& view);
 /// Axes below `count` (1 to 4) are in use in the dialogue, the others not.
 void ShowAxesInUse(DeviceView& view, int count);
 

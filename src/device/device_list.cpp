@@ -1,10 +1,13 @@
 #include "device/device_list.h"
 
+#include <optional>
+
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/device_list_file.h"
 #include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
+#include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
 
@@ -20,31 +23,57 @@ constexpr int kMsgNoList = 15;
 constexpr int kMsgPutList = 16;
 constexpr int kMsgNoDevice = 17;
 
-int TellNoList() {
-  MsgBox(TwoLines(kMsgNoList, kMsgPutList));
+int TellNoList(const std::string& reason = {}) {
+  MsgBox(WithReason(TwoLines(kMsgNoList, kMsgPutList), reason));
   return 1;
+}
+
+/// The list is read again and again; what is wrong with it is told again only when it has changed.
+void TellLeftOut(DeviceListKind kind, const std::string& rows) {
+  std::string& told = DeviceLookup.LeftOutTold[kind == DeviceListKind::Old ? 0 : 1];
+  if (rows == told) return;
+  told = rows;
+  if (!rows.empty()) MsgBox(rows);
 }
 
 int ReadList(int axis, DeviceListKind kind) {
   const auto a = static_cast<std::size_t>(axis);
-  const bool read = ReadDeviceListFile(kind, DeviceList[a]);
-  DevListMissing[a] = !read;
-  return read ? 0 : TellNoList();
+  const DeviceListReport report = ReadDeviceListFile(kind, DeviceList[a]);
+  DevListMissing[a] = !report.Read;
+  if (!report.Read) return TellNoList(report.Fault);
+  TellLeftOut(kind, report.LeftOut);
+  return 0;
 }
 
-/// Reads the new list into `table`; the slot of the device, 0 when it has none, -1 without a list.
-int LookUpNew(DeviceListRecord& table, const std::string& size, const std::string& speed,
-              int stroke) {
-  DeviceLookup.ListMissing = !ReadDeviceListFile(DeviceListKind::New, table);
-  return DeviceLookup.ListMissing ? -1 : table.Find(size, speed, stroke);
+/// The device's row of the new list, read afresh; none where that holds no such device or cannot be
+/// read, which `trouble` tells to the user.
+template <typename Tell>
+std::optional<DeviceRecord> LookUpNew(const std::string& size, const std::string& speed, int stroke,
+                                      Tell trouble) {
+  DeviceListRecord table;
+  const DeviceListReport report = ReadDeviceListFile(DeviceListKind::New, table);
+  DeviceLookup.ListMissing = !report.Read;
+  if (!report.Read) {
+    trouble(report.Fault);
+    return std::nullopt;
+  }
+  TellLeftOut(DeviceListKind::New, report.LeftOut);
+  const int slot = table.Find(size, speed, stroke);
+  if (slot == 0) return std::nullopt;
+  return table.Rows[static_cast<std::size_t>(slot)];
+}
+
+/// The same, with a missing list told in short.
+std::optional<DeviceRecord> LookUpInShort(const std::string& size, const std::string& speed,
+                                          int stroke) {
+  return LookUpNew(size, speed, stroke,
+                   [](const std::string& reason) { MsgBox(WithReason(Text(kMsgNoList), reason)); });
 }
 
 int KindOf(std::int16_t DeviceRecord::*kind, const std::string& size, const std::string& speed,
            int stroke) {
-  DeviceListRecord table;
-  const int slot = LookUpNew(table, size, speed, stroke);
-  if (slot < 0) MsgBox(Text(kMsgNoList));
-  return slot > 0 ? table.Rows[static_cast<std::size_t>(slot)].*kind : kKindUnknown;
+  const auto row = LookUpInShort(size, speed, stroke);
+  return row ? (*row).*kind : kKindUnknown;
 }
 
 /// False when the axis's list lacks its device.
@@ -110,19 +139,14 @@ void SetLeadFromOldList() {
 }
 
 int FindDeviceNew(const std::string& size, const std::string& speed, int stroke) {
-  DeviceListRecord table;
-  const int slot = LookUpNew(table, size, speed, stroke);
-  if (slot < 0) MsgBox(Text(kMsgNoList));
-  return slot > 0 ? 0 : 1;
+  return LookUpInShort(size, speed, stroke) ? 0 : 1;
 }
 
 int GetLeadAndPprNew(const std::string& size, const std::string& speed, int stroke) {
-  DeviceListRecord table;
-  const int slot = LookUpNew(table, size, speed, stroke);
-  if (slot < 0) return TellNoList();
-  if (slot == 0) return 1;
-  DeviceLookup.Lead = table.Rows[static_cast<std::size_t>(slot)].Lead;
-  DeviceLookup.Ppr = table.Rows[static_cast<std::size_t>(slot)].Ppr;
+  const auto row = LookUpNew(size, speed, stroke, [](const auto& reason) { TellNoList(reason); });
+  if (!row) return 1;
+  DeviceLookup.Lead = row->Lead;
+  DeviceLookup.Ppr = row->Ppr;
   return 0;
 }
 

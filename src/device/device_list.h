@@ -17,8 +17,9 @@ extern std::array<DeviceListRecord, kAxes> DeviceList;
 extern std::array<Bool16, kAxes> DevListMissing;
 
 // Readers of the catalogues "qvdevice.lst" (old type) and "nqvdevice.lst" (new type). 0, or 1 when
-// a file is missing or damaged: then messages 15 and 16 have been shown, `DevListMissing` of that
-// axis is True, its sizes and speeds are empty and the rows read so far stand.
+// a file is missing or damaged: then messages 15 and 16 have been shown with the reason,
+// `DevListMissing` of that axis is True, its sizes and speeds are empty and the rows read so far
+// stand. Rows left out for a number out of its range are named once.
 
 /// The old list for every axis whose `Series` is "QV". An axis of another series ends it with 1.
 int ReadDeviceListOld();
@@ -38,7 +39,8 @@ void SetLeadFromOldList();
 struct DeviceLookupRecord {
   std::int16_t Lead = 0;  ///< of `GetLeadAndPprNew`
   std::int16_t Ppr = 0;
-  Bool16 ListMissing;  ///< the last lookup could not read the list
+  Bool16 ListMissing;                      ///< the last lookup could not read the list
+  std::array<std::string, 2> LeftOutTold;  ///< old, new: rows left out as the user knows them
 };
 extern DeviceLookupRecord DeviceLookup;
 

@@ -1,11 +1,16 @@
 #include "device/device_list_file.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
 #include "base/seq_file.h"
+#include "base/text_helpers.h"
 #include "device/device_model.h"
+#include "state/file_kind.h"
+#include "state/text.h"
 #include "state/text_file.h"
 
 namespace tr7 {
@@ -14,57 +19,90 @@ namespace {
 constexpr const char* kOldFile = "qvdevice.lst";
 constexpr const char* kNewFile = "nqvdevice.lst";
 constexpr int kLastKind = 2;
+constexpr int kMsgLeftOut = 6333;
+constexpr int kMsgTooManyNames = 6335;
 
-/// A number that every device needs and that others are divided by: at least 1.
-bool ReadPositive(SeqReader& reader, std::int16_t& value) {
-  int number = 0;
-  if (!reader.ReadInteger(1, std::numeric_limits<std::int16_t>::max(), number)) return false;
-  value = static_cast<std::int16_t>(number);
+/// Reads the rows of a catalogue.
+class Reading {
+ public:
+  Reading(const std::string& text, DeviceListKind kind, DeviceListRecord& list)
+      : items_(text), kind_(kind), list_(list) {}
+
+  /// The count, then that many rows; more behind them are left alone.
+  bool Run();
+  int Line() const { return items_.Line(); }
+  /// The rows left out, each with its line.
+  const std::string& LeftOut() const { return left_out_; }
+
+ private:
+  bool ReadRow();
+  bool ReadNumber(int low, int high, std::int16_t& value);
+  bool SkipItems(int count);
+  void TakeModel(DeviceRecord& row) const;
+
+  SeqReader items_;
+  DeviceListKind kind_;
+  DeviceListRecord& list_;
+  bool fits_ = true;  ///< every number of the row is within its range
+  std::string left_out_;
+};
+
+bool Reading::Run() {
+  int count = 0;
+  if (!items_.ReadInteger(0, kDeviceSlots - 1, count)) return false;
+  list_.Rows[0].Raw = std::to_string(count);
+  for (int i = 0; i < count; ++i) {
+    if (!ReadRow()) return false;
+  }
   return true;
 }
 
-bool ReadKind(SeqReader& reader, std::int16_t& kind) {
-  int number = 0;
-  if (!reader.ReadInteger(0, kLastKind, number)) return false;
-  kind = static_cast<std::int16_t>(number);
+bool Reading::ReadRow() {
+  DeviceRecord row;
+  fits_ = true;
+  if (!items_.ReadText(row.Raw)) return false;
+  const int line = items_.Line();
+  // Others are divided by lead and PPR.
+  constexpr int kMost = std::numeric_limits<std::int16_t>::max();
+  if (!ReadNumber(1, kMost, row.Lead)) return false;
+  const bool read = kind_ == DeviceListKind::Old
+                        ? SkipItems(2)
+                        : ReadNumber(1, kMost, row.Ppr) && ReadNumber(0, kLastKind, row.PgKind) &&
+                              ReadNumber(0, kLastKind, row.VKind);
+  if (!read) return false;
+  if (!fits_) {
+    left_out_ += "\n" + AtLine(line, OneLine(row.Raw));
+    return true;
+  }
+  TakeModel(row);
+  list_.Rows[static_cast<std::size_t>(++list_.RowCount)] = std::move(row);
+  return true;
+}
+
+/// False when the item is no number; one out of its range stays out of `value`.
+bool Reading::ReadNumber(int low, int high, std::int16_t& value) {
+  double number = 0;
+  if (!items_.ReadNumber(number)) return false;
+  const bool fits = number >= low && number <= high && number == std::trunc(number);
+  if (fits) value = static_cast<std::int16_t>(number);
+  fits_ = fits_ && fits;
   return true;
 }
 
 /// Items that nothing uses; they may be anything.
-bool SkipItems(SeqReader& reader, int count) {
+bool Reading::SkipItems(int count) {
   Variant item;
   for (int i = 0; i < count; ++i) {
-    if (!reader.ReadItem(item)) return false;
+    if (!items_.ReadItem(item)) return false;
   }
   return true;
 }
 
-bool ReadRow(SeqReader& reader, DeviceListKind kind, DeviceRecord& row) {
-  if (!reader.ReadText(row.Raw) || !ReadPositive(reader, row.Lead)) return false;
-  const bool read = kind == DeviceListKind::Old
-                        ? SkipItems(reader, 2)
-                        : ReadPositive(reader, row.Ppr) && ReadKind(reader, row.PgKind) &&
-                              ReadKind(reader, row.VKind);
-  if (!read) return false;
-  DeviceModel model = kind == DeviceListKind::Old ? CutOldModel(row.Raw) : CutNewModel(row.Raw);
+void Reading::TakeModel(DeviceRecord& row) const {
+  DeviceModel model = kind_ == DeviceListKind::Old ? CutOldModel(row.Raw) : CutNewModel(row.Raw);
   row.Size = std::move(model.Size);
   row.Speed = std::move(model.Speed);
   row.Stroke = model.Stroke;
-  return true;
-}
-
-/// The count, then that many rows; more behind them are left alone.
-bool ReadRows(SeqReader& reader, DeviceListKind kind, DeviceListRecord& list) {
-  int count = 0;
-  if (!reader.ReadInteger(0, kDeviceSlots - 1, count)) return false;
-  list.Rows[0].Raw = std::to_string(count);
-  for (int i = 1; i <= count; ++i) {
-    DeviceRecord row;
-    if (!ReadRow(reader, kind, row)) return false;
-    list.Rows[static_cast<std::size_t>(i)] = std::move(row);
-    list.RowCount = i;
-  }
-  return true;
 }
 
 /// False when a further name has no place.
@@ -107,14 +145,24 @@ bool SpeedsOfSize(const DeviceListRecord& list, const std::string& size,
   return true;
 }
 
-bool ReadDeviceListFile(DeviceListKind kind, DeviceListRecord& list) {
+DeviceListReport ReadDeviceListFile(DeviceListKind kind, DeviceListRecord& list) {
   list = DeviceListRecord{};
   list.SizeIsNumber = kind == DeviceListKind::Old;
+  DeviceListReport report;
   std::string text;
-  const char* name = kind == DeviceListKind::Old ? kOldFile : kNewFile;
-  if (!ReadTextFile(ProgramFile(name), text).ok) return false;
-  SeqReader reader(std::move(text));
-  return ReadRows(reader, kind, list) && CollectNames(list);
+  const std::string name = kind == DeviceListKind::Old ? kOldFile : kNewFile;
+  if (!ReadListFile(name, text, report.Fault)) return report;
+  Reading reading(text, kind, list);
+  const bool whole = reading.Run();
+  report.Read = whole && CollectNames(list);
+  if (!whole) {
+    report.Fault = ListFault(name, text, FileKind::DeviceList, reading.Line());
+  } else if (!report.Read) {
+    report.Fault = Text(kMsgTooManyNames, name, std::to_string(kDeviceListNames));
+  } else if (!reading.LeftOut().empty()) {
+    report.LeftOut = Text(kMsgLeftOut, name) + "\n" + reading.LeftOut();
+  }
+  return report;
 }
 
 }  // namespace tr7

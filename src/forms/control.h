@@ -68,6 +68,8 @@ struct TextBox : Control {
   std::function<void()> GotFocus;
   std::function<void()> LostFocus;
   std::function<void()> Enter;  ///< the Enter key
+  /// The Undo key. False: there is nothing to bring back, and the field's own undo serves.
+  std::function<bool()> Undo;
   /// Types a text as a user does: replaces the content by what the field takes of it.
   void Type(const std::string& typed);
 };

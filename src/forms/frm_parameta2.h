@@ -1,5 +1,8 @@
 #pragma once
 
+#include <map>
+#include <string>
+
 #include "forms/control.h"
 #include "forms/option_group.h"
 
@@ -134,8 +137,11 @@ struct FrmParameta2 : View {
 
   /// What the fields held when they last agreed with a file or the controller.
   std::string SavedContent;
-  bool CommandsAreOff = false;        ///< a flow runs: fields and buttons are off
-  bool RefusalShown = false;          ///< the status bar tells why a field was emptied
+  bool CommandsAreOff = false;  ///< a flow runs: fields and buttons are off
+  bool RefusalShown = false;    ///< the status bar tells why a field was emptied
+  std::string EnteredText;      ///< what the field held when the focus came to it
+  /// What the fields that were emptied held before, by the field's name.
+  std::map<std::string, std::string> FormerTexts;
   std::array<bool, 4> LiveColumns{};  ///< columns that show an axis
 };
 

@@ -61,14 +61,14 @@ int Change_Device() {
     if (was_offline) SetOffline();
   });
   if (!WarnOfDeviceChange(true)) return 1;
-  AxesOnTrial axes;
+  ChoiceOnTrial choice;
   OfferEverything();
   if (!ParametersStand()) return 1;
   if (TakeDevicesOfParam() != 0) {
     MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
     return 1;
   }
-  axes.Keep();
+  choice.Keep();
   return 0;
 }
 
@@ -76,13 +76,13 @@ void IniPrm() {
   const CommandsOff commands_off;
   const BusyScope busy;
   OfferEverything();
-  AxesOnTrial axes;
+  ChoiceOnTrial choice;
   if (AskDevices(frmDevice2) != DeviceAnswer::Taken) return;
   // The position table may follow later on: the user may rather not.
   if (!WarnOfDeviceChange(true)) return;
   if (IniParaFromStd() != 0) return;
-  axes.Keep();
-  if (axes.Changed()) {
+  choice.Keep();
+  if (choice.AxesChanged()) {
     RecalcLimits();
     AllViewsLayoutChanged();
   }

@@ -3,7 +3,7 @@
 namespace tr7 {
 
 /// Devices by choice or from a parameter file; they come into use at once. 0 done; 1 left or
-/// failed: devices and axes are as before.
+/// failed: devices, axes and parameters are as before.
 int Change_Device();
 
 /// `cmdIniPrm`: devices are chosen and their standard parameters shown in the parameter view.

@@ -31,8 +31,8 @@ bool SameDevice(std::size_t axis) {
 
 /// What the dialogue shows is in use and in the parameters already, as after a write: nothing is
 /// set to standard values again.
-bool NothingToTake(const AxesOnTrial& axes) {
-  if (axes.Changed()) return false;
+bool NothingToTake(const ChoiceOnTrial& choice) {
+  if (choice.AxesChanged()) return false;
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     if (!AppState.AxisMuko[axis] && !SameDevice(axis)) return false;
   }
@@ -40,14 +40,14 @@ bool NothingToTake(const AxesOnTrial& axes) {
 }
 
 int TakeChoice() {
-  AxesOnTrial axes;
+  ChoiceOnTrial choice;
   TakeChosenAxes(frmDevice3);
   TakeShownDevices(frmDevice3);
-  if (!NothingToTake(axes)) {
+  if (!NothingToTake(choice)) {
     if (!WarnOfDeviceChange(true)) return -1;
     if (IniParaFromStd() != 0 || TakeDevicesOfParam() != 0) return 1;
   }
-  axes.Keep();
+  choice.Keep();
   return 0;
 }
 

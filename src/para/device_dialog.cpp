@@ -1,9 +1,10 @@
 #include "para/device_dialog.h"
 
+#include <algorithm>
+
 #include "base/scope.h"
 #include "device/dev_setting_store.h"
 #include "para/para_after_device.h"
-#include "para/param_set.h"
 #include "para/std_lists.h"
 #include "state/message_box.h"
 #include "state/text.h"
@@ -26,11 +27,17 @@ void LeaveWithChoice(DeviceView& view) {
   Leave(view);
 }
 
+std::int16_t MaskOf(const std::array<Bool16, kAxes>& muko) {
+  int mask = 0;
+  for (std::size_t axis = 0; axis < kAxes; ++axis) mask |= muko[axis] ? 0 : 1 << axis;
+  return static_cast<std::int16_t>(mask);
+}
+
 /// The wanted axes, after a question when they are others than those in use.
-void AskAxes(DeviceView& view) {
-  const int count = AxesChosen(view);
-  ParaFlags.AxisMask = MaskOfCount(count);
-  if (MukoOfCount(count) == AppState.AxisMuko) return;
+void AskAxes(const DeviceView& view) {
+  const auto wanted = MukoShown(view);
+  ParaFlags.AxisMask = MaskOf(wanted);
+  if (wanted == AppState.AxisMuko) return;
   if (MsgBox(TwoLines(1151, 1152), MsgButtons::YesNo, MsgIcon::Question, Text(1150)) ==
       MsgAnswer::Yes) {
     TakeChosenAxes(view);
@@ -81,7 +88,7 @@ DeviceAnswer AskDevices(DeviceView& view) {
 
 int SelectDeviceForPara() {
   DeviceDialog.ShowDevOptions = True;
-  AxesOnTrial axes;
+  ChoiceOnTrial choice;
   switch (AskDevices(frmDevice2)) {
     case DeviceAnswer::Cancelled:
       return -1;
@@ -91,26 +98,17 @@ int SelectDeviceForPara() {
       break;
   }
   if (IniParaFromStd() != 0) return 1;
-  axes.Keep();
+  choice.Keep();
   return 0;
 }
 
-void TakeChosenAxes(DeviceView& view) {
-  const int count = AxesChosen(view);
-  ShowAxesInUse(view, count);  // an axis that was not ticked among others has a device by now
-  AppState.AxisMuko = MukoOfCount(count);
-  AppState.AxisCount = static_cast<std::int16_t>(count);
-  ParaFlags.AxisMask = MaskOfCount(count);
+void TakeChosenAxes(const DeviceView& view) {
+  AppState.AxisMuko = MukoShown(view);
+  AppState.AxisCount = static_cast<std::int16_t>(
+      std::count(AppState.AxisMuko.begin(), AppState.AxisMuko.end(), False));
+  ParaFlags.AxisMask = MaskOf(AppState.AxisMuko);
   ParaFlags.ShownAxisCount = 0;  // the parameter view shows the axes in use again
 }
-
-std::array<Bool16, kAxes> MukoOfCount(int count) {
-  std::array<Bool16, kAxes> muko;
-  for (int axis = 0; axis < kAxes; ++axis) muko[static_cast<std::size_t>(axis)] = axis >= count;
-  return muko;
-}
-
-std::int16_t MaskOfCount(int count) { return static_cast<std::int16_t>((1 << count) - 1); }
 
 void TakeShownDevices(const DeviceView& view) {
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
@@ -129,18 +127,17 @@ void TakeShownDevices(const DeviceView& view) {
   }
 }
 
-AxesOnTrial::AxesOnTrial()
-    : muko_(AppState.AxisMuko), count_(AppState.AxisCount), pattern_(AppState.AxisPattern) {}
-
-AxesOnTrial::~AxesOnTrial() {
+ChoiceOnTrial::~ChoiceOnTrial() {
   if (kept_) return;
   AppState.AxisMuko = muko_;
   AppState.AxisCount = count_;
   AppState.AxisPattern = pattern_;
+  ParaFlags.ShownAxisCount = shown_count_;
+  ParamSet = parameters_;
   LetDevSettingToDevSettei();
 }
 
-bool AxesOnTrial::Changed() const { return AppState.AxisMuko != muko_; }
+bool ChoiceOnTrial::AxesChanged() const { return AppState.AxisMuko != muko_; }
 
 void InstallDeviceDialogs() {
   InstallDialog(frmDevice2);

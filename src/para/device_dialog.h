@@ -5,6 +5,7 @@
 
 #include "device/dev_setting.h"
 #include "device/device_cascade.h"
+#include "para/param_set.h"
 #include "state/app_state.h"
 
 namespace tr7 {
@@ -23,31 +24,29 @@ DeviceAnswer AskDevices(DeviceView& view);
 /// message; -1 cancelled; -2 back, where `DeviceDialog.ShowDevBack` offers that.
 int SelectDeviceForPara();
 
-/// Axes of which AXIS1 to the `count`-th (1 to 4) are in use, as flags and as a mask.
-std::array<Bool16, kAxes> MukoOfCount(int count);
-std::int16_t MaskOfCount(int count);
-
 /// The axes that the dialogue asks for become those in use.
-void TakeChosenAxes(DeviceView& view);
+void TakeChosenAxes(const DeviceView& view);
 
 /// The devices that the dialogue shows for the axes in use become those under consideration.
 void TakeShownDevices(const DeviceView& view);
 
-/// Puts the axes back as they were, and the devices under consideration to those in use, unless
-/// the flow has come to its end.
-class AxesOnTrial {
+/// Puts axes and parameters back as they were, and the devices under consideration to those in use,
+/// unless the flow has come to its end.
+class ChoiceOnTrial {
  public:
-  AxesOnTrial();
-  ~AxesOnTrial();
-  AxesOnTrial(const AxesOnTrial&) = delete;
-  AxesOnTrial& operator=(const AxesOnTrial&) = delete;
+  ChoiceOnTrial() = default;
+  ~ChoiceOnTrial();
+  ChoiceOnTrial(const ChoiceOnTrial&) = delete;
+  ChoiceOnTrial& operator=(const ChoiceOnTrial&) = delete;
   void Keep() { kept_ = true; }
-  /// True when the flow has changed them so far.
-  bool Changed() const;
+  /// True when the flow has changed the axes so far.
+  bool AxesChanged() const;
 
  private:
-  std::array<Bool16, kAxes> muko_;
-  std::int16_t count_, pattern_;
+  std::array<Bool16, kAxes> muko_ = AppState.AxisMuko;
+  std::int16_t count_ = AppState.AxisCount, pattern_ = AppState.AxisPattern;
+  std::int16_t shown_count_ = ParaFlags.ShownAxisCount;
+  ParamSetRecord parameters_ = ParamSet;
   bool kept_ = false;
 };
 

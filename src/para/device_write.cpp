@@ -11,6 +11,7 @@
 #include "link/status_commands.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
+#include "para/para_check.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
@@ -18,6 +19,7 @@
 #include "session/session.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
+#include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/online.h"
 #include "state/text.h"
@@ -28,12 +30,14 @@ namespace {
 constexpr int kMsgLineFailed = 377;
 constexpr int kMsgMoving = 424;
 constexpr int kMsgPowerCycle = 496;
+constexpr int kMsgLeftInMemory = 6338;
 constexpr int kAllAxes = 0xF;
 
 enum class WriteResult {
   Done,
-  Failed,   ///< while the parameters were written
-  NotBegun  ///< ended before that, and the user knows why
+  Failed,   ///< the line, while the parameters were written
+  Cut,      ///< the line, when the axes may have been there and no parameter was
+  Refused,  ///< the controller has nothing new but, where a value does not fit, the axes
 };
 
 class DialogRests {
@@ -88,6 +92,22 @@ bool GoodOrTold(int result) {
 int HoldAxes() { return CtControlModeSet(1, 0, kAllAxes); }
 int ReleaseAxes() { return CtControlModeSet(0, 0, 0); }
 
+bool FitOrTold(bool fit) {
+  if (!fit) MsgBox(TwoLines(1524, 1525));
+  return fit;
+}
+
+/// The axes and devices that the dialogue asks for, with all that can be known without the line:
+/// the lists are there, they hold the devices, and their values fit. Changes nothing.
+bool ParametersCanBeMade() {
+  const ChoiceOnTrial choice;
+  TakeChosenAxes(frmDevice3);
+  TakeShownDevices(frmDevice3);
+  if (IniParaFromStdForWrite() != 0) return false;
+  ParamSet.OneAxis = ParaFlags.AxisMask;
+  return FitOrTold(CheckStdRows() == 0 && ParaRowInRange(ParamSet, kRowOneAxis, 0));
+}
+
 /// The axes that the dialogue asks for, here and in the controller.
 bool WriteAxes() {
   TakeChosenAxes(frmDevice3);
@@ -95,21 +115,32 @@ bool WriteAxes() {
   return GoodOrTold(WriteAxisPatternToCt(ParaFlags.AxisMask));
 }
 
-bool ReadParameters() {
-  return ReadCtAxisFromCt() == 0 && ReadParaFromCt() == 0 && TakeParamTable() == 0;
-}
-
+/// The controller's own parameters with the standard ones over them.
 bool MakeParameters() {
+  if (!FitOrTold(TakeParamTable() == 0)) return false;
   TakeShownDevices(frmDevice3);
-  if (IniParaFromStdForWrite() != 0) return false;
-  if (CheckParaFromStd() == 0) return true;
-  MsgBox(TwoLines(1524, 1525));
-  return false;
+  return IniParaFromStdForWrite() == 0 && FitOrTold(CheckParaFromStd() == 0);
 }
 
 WriteResult WriteHeld() {
-  if (!WriteAxes() || !ReadParameters() || !MakeParameters()) return WriteResult::NotBegun;
+  if (!WriteAxes()) return AppState.AlarmOn ? WriteResult::Refused : WriteResult::Cut;
+  if (ReadCtAxisFromCt() != 0 || ReadParaFromCt() != 0) return WriteResult::Cut;
+  if (!MakeParameters()) return WriteResult::Refused;
   return WriteParaToCt() == 0 ? WriteResult::Done : WriteResult::Failed;
+}
+
+/// Axes that no parameters have followed must not wait in the controller's memory for the next flow
+/// that stores it.
+WriteResult PutAxesBack(WriteResult result, std::int16_t axes_before) {
+  if (result != WriteResult::Refused || AppState.AxisPattern == axes_before) return result;
+  return GoodOrTold(WriteAxisPatternToCt(axes_before)) ? result : WriteResult::Cut;
+}
+
+/// What the controller may hold after the line has failed.
+void TellWhatIsLeft(WriteResult result, bool other_axes) {
+  const std::string left = Text(kMsgLeftInMemory, std::to_string(ParaFlags.AxisMask));
+  if (result == WriteResult::Failed) MsgBox(WithReason(Text(1528), left));
+  if (result == WriteResult::Cut && other_axes) MsgBox(left);
 }
 
 /// After a failure that left the line healthy the axes must not stay held; after a refusal nothing
@@ -133,19 +164,17 @@ void TakeWritten() {
 
 void Write(bool was_offline) {
   if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill() || !GoodOrTold(HoldAxes())) return;
-  AxesOnTrial axes;
-  const ParamSetRecord parameters = ParamSet;
+  ChoiceOnTrial choice;
   const std::int16_t axes_before = AppState.AxisPattern;
-  const WriteResult result = WriteHeld();
+  const WriteResult result = PutAxesBack(WriteHeld(), axes_before);
   Release(result);
   if (result == WriteResult::Done) {
-    axes.Keep();
+    choice.Keep();
     TakeWritten();
     TellWritten(AppState.AxisPattern != axes_before);
     return;
   }
-  ParamSet = parameters;
-  if (result == WriteResult::Failed) MsgBox(Text(1528));
+  TellWhatIsLeft(result, ParaFlags.AxisMask != axes_before);
 }
 
 }  // namespace
@@ -164,7 +193,7 @@ void PrmCtWrite() {
   const DialogRests dialog_rests;
   const CommandsOff commands_off;
   const BusyScope busy;
-  if (!WarnBeforeWrite() || OpenPortOrTell() != 0) return;
+  if (!WarnBeforeWrite() || !ParametersCanBeMade() || OpenPortOrTell() != 0) return;
   const bool was_offline = AppState.Offline;
   LiftOffline();
   Write(was_offline);

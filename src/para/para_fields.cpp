@@ -15,27 +15,27 @@ constexpr int kNeverTyped = 0;
 // the whole set lets pass.
 const std::vector<ParaTextField>& ParaTextFields() {
   static const std::vector<ParaTextField> fields = {
-      {1, &F::txtHomeOffset, &F::lblHomeOffset, 5, 1, 65535},
-      {2, &F::txtHomePush, &F::lblHomePush, 3, 1, 255},
-      {3, &F::txtHomeVel, &F::lblHomeVel, 3, 1, 60},
-      {4, &F::txtHomeOfsVel, &F::lblHomeOfsVel, 3, 1, 60},
-      {5, &F::txtHomePushVel, &F::lblHomePushVel, 3, 1, 60},
-      {6, &F::txtHomeOrder, &F::lblHomeOrder, 1, 0, 255},
-      {7, &F::txtAxisStroke, &F::lblAxisStroke, 6, 0, 262143},
-      {8, &F::txtAxisLead, &F::lblAxisLead, 3, 0, 255},
-      {9, &F::txtAxisPulse, &F::lblAxisPulse, 5, 0, 65535},
-      {10, &F::txtJogHighVel, &F::lblJogHighVel, 2, 1, 30},
-      {15, &F::txtPgAlarm, &F::lblPgAlarm, 5, 5, 65535},
-      {16, &F::txtHomeOut, &F::lblHomeOut, 2, kAnything, kNoLimit},
-      {19, &F::txtSmTimeoutTimer, &F::lblSmTimeoutTimer, 3, 1, 255},
-      {21, &F::txtZoneSet1, &F::lblZoneSet1, kNeverTyped, kAnything, kNoLimit},
-      {22, &F::txtZoneSet2, &F::lblZoneSet2, kNeverTyped, kAnything, kNoLimit},
-      {23, &F::txtInpLimit, &F::lblInpLimit, 3, 0, 255},
-      {24, &F::txtPushHoldTime, &F::lblPushHoldTime, 3, 0, 255},
-      {25, &F::txtAutoStartPrgNo, &F::lblAutoStartPrgNo, 3, 0, 255},
-      {26, &F::txtOneAxis, &F::lblOneAxis, 2, kAnything, kNoLimit},
-      {28, &F::txtPgCheckTimer, &F::lblPgCheckTimer, 3, 0, 255},
-      {29, &F::txtLsSerchTimer, &F::lblLsSerchTimer, 3, 0, 255},
+      {1, &F::txtHomeOffset, 5, 1, 65535},
+      {2, &F::txtHomePush, 3, 1, 255},
+      {3, &F::txtHomeVel, 3, 1, 60},
+      {4, &F::txtHomeOfsVel, 3, 1, 60},
+      {5, &F::txtHomePushVel, 3, 1, 60},
+      {6, &F::txtHomeOrder, 1, 0, 255},
+      {7, &F::txtAxisStroke, 6, 0, 262143},
+      {8, &F::txtAxisLead, 3, 0, 255},
+      {9, &F::txtAxisPulse, 5, 0, 65535},
+      {10, &F::txtJogHighVel, 2, 1, 30},
+      {15, &F::txtPgAlarm, 5, 5, 65535},
+      {16, &F::txtHomeOut, 2, kAnything, kNoLimit},
+      {19, &F::txtSmTimeoutTimer, 3, 1, 255},
+      {21, &F::txtZoneSet1, kNeverTyped, kAnything, kNoLimit},
+      {22, &F::txtZoneSet2, kNeverTyped, kAnything, kNoLimit},
+      {23, &F::txtInpLimit, 3, 0, 255},
+      {24, &F::txtPushHoldTime, 3, 0, 255},
+      {25, &F::txtAutoStartPrgNo, 3, 0, 255},
+      {26, &F::txtOneAxis, 2, kAnything, kNoLimit},
+      {28, &F::txtPgCheckTimer, 3, 0, 255},
+      {29, &F::txtLsSerchTimer, 3, 0, 255},
   };
   return fields;
 }
@@ -62,12 +62,9 @@ const std::vector<ParaOptionField>& ParaOptionFields() {
 
 const std::vector<ParaMmField>& ParaMmFields() {
   static const std::vector<ParaMmField> fields = {
-      {kRowStroke, &F::lblAxisMmStroke, &F::txtAxisMmStroke, &F::txtAxisStroke, &Set::MmStroke,
-       &Set::MmStrokeText},
-      {kRowZone1, &F::lblMmZone1, &F::txtMmZone1, &F::txtZoneSet1, &Set::MmZone1,
-       &Set::MmZone1Text},
-      {kRowZone2, &F::lblMmZone2, &F::txtMmZone2, &F::txtZoneSet2, &Set::MmZone2,
-       &Set::MmZone2Text},
+      {kRowStroke, &F::txtAxisMmStroke, &F::txtAxisStroke, &Set::MmStroke, &Set::MmStrokeText},
+      {kRowZone1, &F::txtMmZone1, &F::txtZoneSet1, &Set::MmZone1, &Set::MmZone1Text},
+      {kRowZone2, &F::txtMmZone2, &F::txtZoneSet2, &Set::MmZone2, &Set::MmZone2Text},
   };
   return fields;
 }

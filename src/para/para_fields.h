@@ -28,7 +28,6 @@ Kind& ParaControl(const ParaPlace<Kind>& place, std::size_t axis) {
 struct ParaTextField {
   int Row;
   ParaPlace<TextBox> Place;
-  Label FrmParameta2::*Name;
   int MaxLength;     ///< characters; 0: never typed into
   double Low, High;  ///< what may be left in the field; `Low` above `High`: anything
   bool HasRange() const { return Low <= High; }
@@ -55,7 +54,6 @@ const std::vector<ParaOptionField>& ParaOptionFields();
 /// A length in mm beside its field in pulses.
 struct ParaMmField {
   int Row;
-  Label FrmParameta2::*Name;
   PerAxis<TextBox> FrmParameta2::*Mm;
   PerAxis<TextBox> FrmParameta2::*Pulses;
   ParamSetRecord::PerAxis<double> ParamSetRecord::*Value;

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "base/seq_file.h"
+#include "base/text_helpers.h"
 #include "para/param_set.h"
+#include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
 #include "state/text_file.h"
@@ -19,6 +21,8 @@ constexpr const char* kKind = "PRM";
 
 constexpr int kMsgHeadDamaged = 6451;
 constexpr int kMsgSectionDamaged = 6150;
+constexpr int kMsgWrongTag = 6334;
+constexpr int kTagChars = 20;  ///< of a wrong one that are told
 
 struct Section {
   const char* tag;
@@ -41,10 +45,10 @@ bool TakeCount(const std::string& text, int& count) {
 
 class Reading {
  public:
-  Reading(std::string text, ParaTableRecord& table) : items_(std::move(text)), table_(table) {}
+  Reading(const std::string& text, ParaTableRecord& table) : items_(text), table_(table) {}
   /// `path` is put into the table once the file is known to be one of ours.
   Outcome Run(const std::string& path);
-  /// Why it is bad; empty where it is a file of some other order.
+  /// Why it is bad, and on which line; empty for a file of another kind.
   const std::string& Words() const { return words_; }
 
  private:
@@ -52,11 +56,11 @@ class Reading {
   bool ReadSection(const Section& section);
   bool ReadRows();
   Outcome HeadDamaged() {
-    words_ = Text(kMsgHeadDamaged);
+    Fail(Text(kMsgHeadDamaged));
     return Outcome::Bad;
   }
   bool Fail(const std::string& words) {
-    words_ = words;
+    words_ = AtLine(items_.Line(), words);
     return false;
   }
 
@@ -95,7 +99,8 @@ bool Reading::ReadSections(int count) {
 bool Reading::ReadSection(const Section& section) {
   std::string tag;
   const bool read = items_.ReadText(tag);
-  if (read && tag != section.tag) return false;
+  if (read && tag != section.tag)
+    return Fail(Text(kMsgWrongTag, LeftChars(OneLine(tag), kTagChars), section.tag));
   return (read && ReadRows()) || Fail(Text(kMsgSectionDamaged, section.tag));
 }
 
@@ -145,10 +150,10 @@ int ReadParaTable(const std::string& path) {
   std::string text;
   const TextFileResult file = ReadTextFile(path, text);
   if (!file.ok) return Bad(file.words);
-  Reading reading(std::move(text), ParaTable);
+  Reading reading(text, ParaTable);
   const Outcome outcome = reading.Run(path);
   if (outcome == Outcome::Done) return 0;
-  if (outcome == Outcome::NotOurs) MsgBox(TwoLines(22, 20));
+  if (outcome == Outcome::NotOurs) MsgBox(WithReason(TwoLines(22, 20), WhatFileIs(path, text)));
   return Bad(reading.Words());
 }
 

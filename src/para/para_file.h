@@ -6,8 +6,8 @@ namespace tr7 {
 
 /// Reads a parameter file into `ParaTable`, which is emptied first; slot 0 of column 0 takes the
 /// path. Rows that the file does not hold stay empty. 0; 1 with `ParaFileBad` (which a good read
-/// does not clear) and, where the reason can be told, `FileFaultText`: a file of another kind is
-/// told to the user here, all else is the caller's to tell.
+/// does not clear): a file of another kind is told to the user here, of any other `FileFaultText`
+/// says what is wrong and on which line, and the caller tells.
 int ReadParaTable(const std::string& path);
 
 /// Saves `ParamSet`. 0; 1 with `ParaFileWriteFailed` and `FileFaultText`, the old file being whole.

@@ -1,8 +1,11 @@
+#include "para/para_filled.h"
+
 #include <algorithm>
-#include <array>
+#include <utility>
 
 #include "base/text_helpers.h"
 #include "para/para_fields.h"
+#include "para/para_hint.h"
 #include "para/para_show.h"
 
 namespace tr7 {
@@ -11,30 +14,67 @@ namespace {
 bool IsEmpty(const TextBox& box) { return Trim(box.Text).empty(); }
 bool IsEmpty(const ComboBox& list) { return list.ListIndex < 0; }
 
-template <typename Fields>
-bool AllFilled(const Fields& fields, bool axis_rows, std::size_t axis) {
-  return std::none_of(fields.begin(), fields.end(), [&](const auto& field) {
-    return IsAxisRow(field.Row) == axis_rows && IsEmpty(ParaControl(field.Place, axis));
-  });
+/// Gathers the empty fields and keeps the first in the order of the Tab key.
+class FirstEmpty {
+ public:
+  void Add(Control& control, bool per_axis, std::size_t axis) {
+    const auto& controls = frmParameta2.Controls;
+    const auto place = std::find(controls.begin(), controls.end(), &control) - controls.begin();
+    if (first_.Field && place >= place_) return;
+    place_ = place;
+    first_ = {&control, ParaFieldName(control, per_axis, axis)};
+  }
+  template <typename Kind>
+  void AddIfEmpty(Kind& control, bool per_axis, std::size_t axis = 0) {
+    if (IsEmpty(control)) Add(control, per_axis, axis);
+  }
+  const MissingParaField& First() const { return first_; }
+
+ private:
+  MissingParaField first_;
+  std::ptrdiff_t place_ = 0;
+};
+
+/// The field that is typed into: pulses that are never typed follow the field in mm.
+TextBox& TypedBox(const ParaTextField& field, std::size_t axis) {
+  if (field.MaxLength == 0) {
+    for (const ParaMmField& mm : ParaMmFields()) {
+      if (mm.Row == field.Row) return mm.MmBox(axis);
+    }
+  }
+  return ParaControl(field.Place, axis);
 }
 
-bool DeviceIsChosen(std::size_t axis) {
-  const FrmParameta2& f = frmParameta2;
-  return !IsEmpty(f.comboActSize[axis]) && !IsEmpty(f.comboActSpeed[axis]) &&
-         !IsEmpty(f.comboActStroke[axis]);
+void AddTexts(FirstEmpty& empty, bool per_axis, std::size_t axis) {
+  for (const ParaTextField& field : ParaTextFields()) {
+    if (IsAxisRow(field.Row) != per_axis || !IsEmpty(ParaControl(field.Place, axis))) continue;
+    empty.Add(TypedBox(field, axis), per_axis, axis);
+  }
 }
 
-bool AxisIsFilled(std::size_t axis) {
-  return AllFilled(ParaTextFields(), true, axis) && AllFilled(ParaListFields(), true, axis) &&
-         DeviceIsChosen(axis);
+void AddLists(FirstEmpty& empty, bool per_axis, std::size_t axis) {
+  for (const ParaListField& field : ParaListFields()) {
+    if (IsAxisRow(field.Row) != per_axis) continue;
+    empty.AddIfEmpty(ParaControl(field.Place, axis), per_axis, axis);
+  }
 }
 
-bool ControllerIsFilled() {
-  const auto& options = ParaOptionFields();
-  return AllFilled(ParaTextFields(), false, 0) && AllFilled(ParaListFields(), false, 0) &&
-         std::all_of(options.begin(), options.end(), [](const ParaOptionField& field) {
-           return (frmParameta2.*field.Place).Chosen() >= 0;
-         });
+void AddAxis(FirstEmpty& empty, std::size_t axis) {
+  FrmParameta2& f = frmParameta2;
+  AddTexts(empty, true, axis);
+  AddLists(empty, true, axis);
+  for (ComboBox* list : {&f.comboActSize[axis], &f.comboActSpeed[axis], &f.comboActStroke[axis]}) {
+    empty.AddIfEmpty(*list, true, axis);
+  }
+}
+
+void AddController(FirstEmpty& empty) {
+  AddTexts(empty, false, 0);
+  AddLists(empty, false, 0);
+  for (const ParaOptionField& field : ParaOptionFields()) {
+    OptionGroup<2>& group = frmParameta2.*field.Place;
+    if (group.Chosen() < 0) empty.Add(group[0], false, 0);
+  }
 }
 
 /// An AXIS that no entry stands for leaves it to the columns.
@@ -45,11 +85,15 @@ bool Counts(std::size_t axis) {
 
 }  // namespace
 
-int ParametaumuKakunin() {
+MissingParaField FirstMissingParaField() {
+  FirstEmpty empty;
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (Counts(axis) && !AxisIsFilled(axis)) return 1;
+    if (Counts(axis)) AddAxis(empty, axis);
   }
-  return ControllerIsFilled() ? 0 : 1;
+  AddController(empty);
+  return empty.First();
 }
+
+int ParametaumuKakunin() { return FirstMissingParaField().Field ? 1 : 0; }
 
 }  // namespace tr7

@@ -34,10 +34,6 @@ std::string RangeOf(const ParaMmField& field, std::size_t axis) {
   return longest ? ParaRangeText("0", FormatMm(*longest)) : std::string();
 }
 
-std::string NameOf(const ParaMmField& field, std::size_t axis) {
-  return frmParameta2.lblAxis[axis].Caption + " " + (frmParameta2.*field.Name).Caption;
-}
-
 /// What the length needs before it can be taken; a message and an empty field without it.
 bool HasInputs(const ParaMmField& field, std::size_t axis) {
   if (!HasLeadAndPulse(axis)) {
@@ -47,7 +43,7 @@ bool HasInputs(const ParaMmField& field, std::size_t axis) {
   } else {
     return true;
   }
-  field.MmBox(axis).Text.clear();
+  EmptyParaField(field.MmBox(axis));
   return false;
 }
 
@@ -63,7 +59,7 @@ void MmLeft(const ParaMmField& field, std::size_t axis) {
   if (!IsEmpty(box) && HasInputs(field, axis) &&
       !(IsInRange(field, axis) && RoundParaMm(field, axis, MmTie::AsUserChose))) {
     field.PulseBox(axis).Text.clear();
-    RefuseParaField(box, NameOf(field, axis), RangeOf(field, axis));
+    RefuseParaField(box, ParaFieldName(box, true, axis), RangeOf(field, axis));
     return;
   }
   ParaFieldLeft();
@@ -79,7 +75,7 @@ void InstallField(const ParaMmField& field, std::size_t axis) {
   box.MaxLength = kParaMmChars;
   box.AllowedChars = kMmChars;
   box.Change = [&field, axis] { MmTyped(field, axis); };
-  box.GotFocus = [&field, axis] { ParaFieldEntered(RangeOf(field, axis)); };
+  box.GotFocus = [&box, &field, axis] { ParaFieldEntered(box, RangeOf(field, axis)); };
   box.LostFocus = [&field, axis] { MmLeft(field, axis); };
 }
 

@@ -6,6 +6,7 @@
 namespace tr7 {
 
 void ParametaHyoji() {
+  frmParameta2.FormerTexts.clear();  // of other parameters
   SettleParaColumns();
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     if (IsLiveAxis(axis)) ShowParaAxis(axis);

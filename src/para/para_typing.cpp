@@ -22,17 +22,11 @@ std::string RangeOf(const ParaTextField& field) {
   return ParaRangeText(PlainDecimal(field.Low), PlainDecimal(field.High));
 }
 
-/// "AXIS2 PUSH  Home push", or the row's name alone where the controller has one field.
-std::string NameOf(const ParaTextField& field, std::size_t axis) {
-  const std::string& row = (frmParameta2.*field.Name).Caption;
-  return IsAxisRow(field.Row) ? frmParameta2.lblAxis[axis].Caption + " " + row : row;
-}
-
 void FieldLeft(const ParaTextField& field, std::size_t axis) {
   TextBox& box = ParaControl(field.Place, axis);
   const double value = Val(box.Text);
   if (!box.Text.empty() && field.HasRange() && (value < field.Low || value > field.High)) {
-    RefuseParaField(box, NameOf(field, axis), RangeOf(field));
+    RefuseParaField(box, ParaFieldName(box, IsAxisRow(field.Row), axis), RangeOf(field));
     if (box.Change) box.Change();
   } else {
     ParaFieldLeft();
@@ -44,7 +38,7 @@ void InstallField(const ParaTextField& field, std::size_t axis) {
   TextBox& box = ParaControl(field.Place, axis);
   box.MaxLength = field.MaxLength;
   box.AllowedChars = field.Row == kRowSeq ? kOrderDigits : kDigits;
-  box.GotFocus = [&field] { ParaFieldEntered(RangeOf(field)); };
+  box.GotFocus = [&box, &field] { ParaFieldEntered(box, RangeOf(field)); };
   box.LostFocus = [&field, axis] { FieldLeft(field, axis); };
 }
 
@@ -76,7 +70,10 @@ void InstallParaTyping() {
   }
   InstallParaMmTyping();
   for (Control* control : frmParameta2.Controls) {
-    if (auto* box = dynamic_cast<TextBox*>(control)) box->Enter = [box] { GoToNextField(*box); };
+    if (auto* box = dynamic_cast<TextBox*>(control)) {
+      box->Enter = [box] { GoToNextField(*box); };
+      box->Undo = [box] { return RestoreParaField(*box); };
+    }
   }
 }
 

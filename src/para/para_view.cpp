@@ -51,6 +51,7 @@ void LoadView() {
   f.CommandsAreOff = AppState.CommandsOffDepth > 0;
   f.chkTokuParaChange.Value = false;
   f.RefusalShown = false;
+  f.FormerTexts.clear();
   f.LiveColumns.fill(false);
   ParaFlags.ShownAxisCount = 0;
   ReadDeviceLists();

@@ -2,13 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <string>
 
+#include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "para/para_check.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
 #include "state/app_state.h"
+#include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
 
@@ -20,6 +23,8 @@ constexpr int kMsgWrongCommon = 27;
 constexpr int kMsgNoList = 28;
 constexpr int kMsgPutList = 29;
 constexpr int kMsgFailed = 36;
+constexpr int kMsgNoRow = 6340;
+constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 
 constexpr int kTypeNew = 0, kTypeOld = 1, kTypeOldVertical = 2;
 constexpr int kHighestType = 4;  ///< that the direct write lets pass
@@ -32,45 +37,49 @@ int TypeOf(const DevSettingRecord& device) {
   return device.Vertical ? kTypeOldVertical : kTypeOld;
 }
 
-int TellWrongHeader(const std::string& text) {
-  MsgBox(text);
+int TellWrongHeader(const std::string& text, const std::string& reason) {
+  MsgBox(WithReason(text, reason));
   return 1;
 }
 
-int TellNoList() {
-  MsgBox(TwoLines(kMsgNoList, kMsgPutList));
+int TellNoList(const std::string& reason) {
+  MsgBox(WithReason(TwoLines(kMsgNoList, kMsgPutList), reason));
   return 1;
 }
 
 int ReadStdListOfAxis(std::size_t axis) {
   const DevSettingRecord& device = DevSettei[axis];
   if (device.Series != "QV") return 0;
-  switch (ReadStdFile(device.NewType, TypeOf(device), StdTable[axis])) {
+  std::string reason;
+  switch (ReadStdFile(device.NewType, TypeOf(device), StdTable[axis], reason)) {
     case StdFileResult::Good:
       return 0;
     case StdFileResult::WrongHeader:
-      return TellWrongHeader(Text(kMsgWrongList) + "(" + std::to_string(axis + 1) + "AXIS)");
+      return TellWrongHeader(Text(kMsgWrongList) + "(" + std::to_string(axis + 1) + "AXIS)",
+                             reason);
     default:
-      return TellNoList();
+      return TellNoList(reason);
   }
 }
 
 int ReadCommonList() {
-  switch (ReadCommonFile(CommonTable)) {
+  std::string reason;
+  switch (ReadCommonFile(CommonTable, reason)) {
     case StdFileResult::Good:
       return 0;
     case StdFileResult::WrongHeader:
       ParaFlags.ParaFileBad = True;
-      return TellWrongHeader(Text(kMsgWrongCommon));
+      return TellWrongHeader(Text(kMsgWrongCommon), reason);
     case StdFileResult::WrongTag:
+      ParaFlags.FileFaultText = reason;
       return 1;
     default:
-      return TellNoList();
+      return TellNoList(reason);
   }
 }
 
 int TellFailed() {
-  MsgBox(Text(kMsgFailed));
+  MsgBox(WithReason(Text(kMsgFailed), ParaFlags.FileFaultText));
   return 1;
 }
 
@@ -129,6 +138,14 @@ void SetAxisMask() {
   ParamSet.OneAxis = ParaFlags.AxisMask;
 }
 
+/// The device may be offered all the same: whoever has it from the old catalogue finds it counted
+/// as of the new type, whose list may lack it.
+void NameMissing(std::size_t axis) {
+  const DevSettingRecord& device = DevSettei[axis];
+  ParaFlags.FileFaultText = Text(kMsgNoRow, Text(kMsgAxis1 + static_cast<int>(axis)),
+                                 device.Size + device.Speed + "-" + SpacePad(device.Stroke, 3));
+}
+
 /// Fills the present axes. `last_scan` is where the scan of the last of them ended. False when a
 /// device has no row.
 template <typename Fill>
@@ -139,11 +156,27 @@ bool FillPresentAxes(int& last_scan, Fill fill) {
     last_scan = ScanFor(DevSettei[axis], StdTable[axis]);
     const StdRow* row = RowAt(StdTable[axis], last_scan);
     if (row) SetFromRow(*row, axis);
-    if (!row) all_found = false;
+    if (!row && all_found) NameMissing(axis);
+    all_found = all_found && row;
     SetPg(axis);
     fill(axis, row);
   }
   return all_found;
+}
+
+bool Holds(int row, std::size_t axis) {
+  if (row != kRowType) return ParaRowInRange(ParamSet, row, axis);
+  return ParamSet.AxisType[axis] >= 0 && ParamSet.AxisType[axis] <= kHighestType;
+}
+
+bool AllHold(std::initializer_list<int> rows) {
+  for (const int row : rows) {
+    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+      const bool counts = !IsAxisRow(row) || !AppState.AxisMuko[axis];
+      if (counts && !Holds(row, axis)) return false;
+    }
+  }
+  return true;
 }
 
 }  // namespace
@@ -151,6 +184,7 @@ bool FillPresentAxes(int& last_scan, Fill fill) {
 int ReadStdLists() {
   for (StdList& list : StdTable) list.clear();
   CommonTable = CommonTableRecord{};
+  ParaFlags.FileFaultText.clear();
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     if (ReadStdListOfAxis(axis) != 0) return 1;
   }
@@ -189,17 +223,10 @@ int IniParaFromStdForWrite() {
   return all_found ? 0 : TellFailed();
 }
 
+int CheckStdRows() { return AllHold({1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 14, 15}) ? 0 : 1; }
+
 int CheckParaFromStd() {
-  for (const int row : {1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 14, 15, 20, 21, 22, 16, 17, 18, 19}) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
-      if (IsAxisRow(row) && AppState.AxisMuko[axis]) continue;
-      const bool holds =
-          row == kRowType ? ParamSet.AxisType[axis] >= 0 && ParamSet.AxisType[axis] <= kHighestType
-                          : ParaRowInRange(ParamSet, row, axis);
-      if (!holds) return 1;
-    }
-  }
-  return 0;
+  return CheckStdRows() == 0 && AllHold({20, 21, 22, 16, 17, 18, 19}) ? 0 : 1;
 }
 
 }  // namespace tr7

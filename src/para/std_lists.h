@@ -4,7 +4,8 @@ namespace tr7 {
 
 /// Reads the standard list of each axis whose pending series is "QV" into `StdTable` (which of the
 /// two follows its pending type) and the common list into `CommonTable`. 0; 1 after a message, or
-/// silently when the common list has another section than the one due.
+/// silently, with `ParaFlags.FileFaultText`, when the common list has another section than the one
+/// due.
 int ReadStdLists();
 
 /// Fills the whole of `ParamSet` for the devices in `DevSettei`. 0; 1 after a message: an axis
@@ -16,6 +17,8 @@ int IniParaFromStd();
 int IniParaFromStdForWrite();
 
 /// Range check of what `IniParaFromStdForWrite` sets: 0 good, 1 some value is out of range.
+int CheckStdRows();
+/// The same, with the controller's own zone, output, group and macro rows.
 int CheckParaFromStd();
 
 }  // namespace tr7

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/seq_file.h"
+#include "state/file_kind.h"
 #include "state/text_file.h"
 
 namespace tr7 {
@@ -13,12 +14,14 @@ CommonTableRecord CommonTable{};
 
 namespace {
 
+constexpr const char* kProduct = "QV-R7";
 constexpr const char* kNewFile = "tr7nqvstpr.lst";
 constexpr const char* kOldFile = "tr7qvstpr.lst";
 constexpr const char* kCommonFile = "tr7cmstpr.lst";
 constexpr std::array<const char*, 3> kTags = {"PG", "ETC", "SPECIAL"};
 constexpr int kLastListRow = 11;  ///< of the parameter rows that a standard row holds as numbers
 constexpr int kValueColumn = 1, kPgColumn = 2;
+constexpr int kPgRows = 2;  ///< FUNCTION and ALM
 
 /// Reads numbers that are to become parameters.
 class ParaReader : public SeqReader {
@@ -64,9 +67,12 @@ bool ReadStdRows(ParaReader& reader, int type, StdList& list) {
   return true;
 }
 
-/// Only the columns in use of the rows in use must hold numbers that fit; others may hold anything.
+/// Columns (from the first) that a row must have.
+int ColumnsDue(int row) { return row < kPgRows ? kPgColumn + 1 : kValueColumn + 1; }
+
+/// Only what is in use must hold numbers that fit; the rest may hold anything.
 bool ReadCommonItem(ParaReader& reader, int row, int column, double& slot) {
-  const bool in_use = row < kCommonRowsInUse && (column == kValueColumn || column == kPgColumn);
+  const bool in_use = row < kCommonRowsInUse && column >= kValueColumn && column < ColumnsDue(row);
   return in_use ? reader.ReadFor(kCommonFirstPara + row, slot) : reader.SkipItem();
 }
 
@@ -99,7 +105,7 @@ class CommonReader {
   bool ReadSectionRows() {
     int rows = 0, columns = 0;
     if (!reader_.ReadInteger(0, kCommonRows - row_, rows) ||
-        !reader_.ReadInteger(kPgColumn + 1, kCommonColumns, columns)) {
+        !reader_.ReadInteger(ColumnsDue(row_), kCommonColumns, columns)) {
       return false;
     }
     for (const int end = row_ + rows; row_ < end; ++row_) {
@@ -118,28 +124,35 @@ class CommonReader {
 
 }  // namespace
 
-StdFileResult ReadStdFile(bool new_type, int type, StdList& list) {
+StdFileResult ReadStdFile(bool new_type, int type, StdList& list, std::string& reason) {
   list.clear();
+  const std::string name = new_type ? kNewFile : kOldFile;
   std::string text, product, kind;
-  if (!ReadTextFile(ProgramFile(new_type ? kNewFile : kOldFile), text).ok) {
-    return StdFileResult::Unreadable;
+  if (!ReadListFile(name, text, reason)) return StdFileResult::Unreadable;
+  ParaReader reader(text);
+  StdFileResult result = StdFileResult::Unreadable;
+  if (ReadHeader(reader, product, kind)) {
+    const bool ours = product == kProduct && (kind == "QV-STDPRM" || kind == "NB-STDPRM");
+    if (!ours) result = StdFileResult::WrongHeader;
+    if (ours && ReadStdRows(reader, type, list)) return StdFileResult::Good;
   }
-  ParaReader reader(std::move(text));
-  if (!ReadHeader(reader, product, kind)) return StdFileResult::Unreadable;
-  if (product != "QV-R7" || (kind != "QV-STDPRM" && kind != "NB-STDPRM")) {
-    return StdFileResult::WrongHeader;
-  }
-  return ReadStdRows(reader, type, list) ? StdFileResult::Good : StdFileResult::Unreadable;
+  reason = ListFault(name, text, FileKind::StandardList, reader.Line());
+  return result;
 }
 
-StdFileResult ReadCommonFile(CommonTableRecord& table) {
+StdFileResult ReadCommonFile(CommonTableRecord& table, std::string& reason) {
   table = CommonTableRecord{};
   std::string text, product, kind;
-  if (!ReadTextFile(ProgramFile(kCommonFile), text).ok) return StdFileResult::Unreadable;
-  ParaReader reader(std::move(text));
-  if (!ReadHeader(reader, product, kind)) return StdFileResult::Unreadable;
-  if (product != "QV-R7" || kind != "QV-CMNPRM") return StdFileResult::WrongHeader;
-  return CommonReader(reader, table).Read();
+  if (!ReadListFile(kCommonFile, text, reason)) return StdFileResult::Unreadable;
+  ParaReader reader(text);
+  StdFileResult result = StdFileResult::Unreadable;
+  if (ReadHeader(reader, product, kind)) {
+    const bool ours = product == kProduct && kind == "QV-CMNPRM";
+    result = ours ? CommonReader(reader, table).Read() : StdFileResult::WrongHeader;
+  }
+  if (result == StdFileResult::Good) return result;
+  reason = ListFault(kCommonFile, text, FileKind::CommonList, reader.Line());
+  return result;
 }
 
 }  // namespace tr7

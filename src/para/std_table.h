@@ -30,8 +30,8 @@ inline constexpr int kCommonColumns = 5;
 inline constexpr int kCommonFirstPara = 14;
 inline constexpr int kCommonRowsInUse = 21;
 
-/// Common values by row and column. Column 1 holds what is in use; in the rows of FUNCTION and ALM
-/// column 2 holds the values of an actuator with PG.
+/// Common values by row and column. Column 1 holds what is in use; in the first two rows, FUNCTION
+/// and ALM, column 2 holds the values of an actuator with PG.
 using CommonTableRecord = std::array<std::array<double, kCommonColumns>, kCommonRows>;
 extern CommonTableRecord CommonTable;
 
@@ -42,9 +42,10 @@ enum class StdFileResult {
   WrongTag,     ///< a section of the common list is not the one that is due
 };
 
-/// "tr7nqvstpr.lst" or "tr7qvstpr.lst" into `list`; `type` becomes the TYPE of each row.
-StdFileResult ReadStdFile(bool new_type, int type, StdList& list);
+/// "tr7nqvstpr.lst" or "tr7qvstpr.lst" into `list`; `type` becomes the TYPE of each row. Where it
+/// is not good, `reason` says what is wrong and on which line, of a file that is there.
+StdFileResult ReadStdFile(bool new_type, int type, StdList& list, std::string& reason);
 /// "tr7cmstpr.lst" into `table`.
-StdFileResult ReadCommonFile(CommonTableRecord& table);
+StdFileResult ReadCommonFile(CommonTableRecord& table, std::string& reason);
 
 }  // namespace tr7

@@ -13,6 +13,7 @@
 #include "posi/posi_caption.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
+#include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
 #include "state/text_file.h"
@@ -45,14 +46,6 @@ const Variant& Field(int col, int number) {
   return PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
 }
 
-/// A comment is one line of a grid and of a file, whatever a file written elsewhere holds.
-std::string OneLine(std::string text) {
-  for (char& c : text) {
-    if ((c >= 0 && c < ' ') || c == '\x7f') c = ' ';
-  }
-  return text;
-}
-
 // Reading.
 
 enum class Layout { Present, WithoutWords, Oldest };
@@ -63,7 +56,8 @@ class Reading {
  public:
   Reading(const std::string& text, Layout layout) : items_(text), layout_(layout) {}
   Outcome Run();
-  const std::string& Words() const { return words_; }
+  /// What is wrong, and on which line.
+  std::string Words() const { return AtLine(items_.Line(), words_); }
 
  private:
   Outcome ReadHeader();
@@ -143,7 +137,7 @@ bool Reading::ReadColumn(int col, int number) {
   if (col != kComment) return items_.ReadItem(Stage(col, number));
   std::string comment;
   if (!items_.ReadText(comment)) return false;
-  Stage(col, number) = OneLine(comment);
+  Stage(col, number) = OneLine(comment);  // as the grid and the file have it
   return true;
 }
 
@@ -169,11 +163,13 @@ int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
   const TextFileResult file = ReadTextFile(path, text, kPosiFileLimit);
   if (!file.ok) {
     AppState.PosiFileNotOurs = True;
-    trouble = {file.fault != FileFault::TooLarge, file.words};
+    trouble = {file.fault != FileFault::None && file.fault != FileFault::TooLarge, file.words};
     return 1;
   }
+  const FileKind kind = KindOfFile(text);
+  const bool other_kind = kind != FileKind::Position && kind != FileKind::Unknown;
   Reading reading(text, layout);
-  Outcome outcome = reading.Run();
+  Outcome outcome = other_kind ? Outcome::NotOurs : reading.Run();
   if (outcome == Outcome::OtherLayout) {
     reading = Reading(text, Layout::WithoutWords);
     outcome = reading.Run();
@@ -181,7 +177,7 @@ int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
   if (outcome == Outcome::Done) return 0;
   AppState.PosiFileNotOurs = True;
   if (outcome == Outcome::NotOurs) {
-    MsgBox(TwoLines(21, 20));
+    MsgBox(WithReason(TwoLines(21, 20), WhatFileIs(path, text)));
     return 0;
   }
   trouble.words = reading.Words();

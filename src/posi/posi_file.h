@@ -17,8 +17,8 @@ struct PosiFileTrouble {
 /// Reads a file into `PosiStage`, `FileFirstNo` and `FileLastNo` (the first and the last number in
 /// the file's order), `FileIsPrgMode`, `FileDevice` and the words of `DevSettei`. Numbers that the
 /// file leaves out keep what the stage held. 0 done; 1 not, with `PosiFileNotOurs`, and the
-/// stage holds what was read so far. A file of another kind is told to the user, and the result is
-/// 0 with `PosiFileNotOurs`.
+/// stage holds what was read so far. A file of another kind is told to the user, with what it is
+/// where its head says so, and the result is 0 with `PosiFileNotOurs`.
 int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble);
 
 /// The same for the oldest layout: no mode, no words, 20 columns behind each number.

@@ -1,6 +1,8 @@
 #include "state/text_file.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "base/code_page.h"
 #include "platform/atomic_save.h"
@@ -18,6 +20,7 @@ constexpr int kMsgDiskFull = 5912;
 constexpr int kMsgTooLarge = 5913;
 constexpr int kMsgOther = 5914;
 constexpr int kMsgBadCharacter = 5915;
+constexpr int kMsgNotOfCodePage = 6320;
 
 int MessageOf(FileFault fault) {
   switch (fault) {
@@ -43,6 +46,11 @@ TextFileResult ResultOf(FileFault fault, const std::string& path) {
   return result;
 }
 
+int LineAt(std::string_view text, std::size_t at) {
+  return 1 + static_cast<int>(
+                 std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n'));
+}
+
 }  // namespace
 
 int FileCodePage() {
@@ -52,8 +60,16 @@ int FileCodePage() {
 
 TextFileResult ReadTextFile(const std::string& path, std::string& utf8, std::size_t limit) {
   std::string bytes;
-  const TextFileResult result = ResultOf(doors.files->Read(path, limit, bytes), path);
-  if (result.ok) utf8 = DecodeCodePage(FileCodePage(), bytes);
+  TextFileResult result = ResultOf(doors.files->Read(path, limit, bytes), path);
+  if (!result.ok) return result;
+  DecodedText decoded = DecodeCodePage(FileCodePage(), bytes);
+  if (decoded.ok()) {
+    utf8 = std::move(decoded.utf8);
+    return result;
+  }
+  result.ok = false;
+  result.bad_line = LineAt(bytes, decoded.bad_at);
+  result.words = Text(kMsgNotOfCodePage, FileTitle(path), std::to_string(result.bad_line));
   return result;
 }
 
@@ -62,8 +78,7 @@ TextFileResult SaveTextFile(const std::string& path, const std::string& utf8) {
   if (encoded.ok) return ResultOf(SaveAtomically(*doors.files, path, encoded.bytes), path);
   TextFileResult result;
   result.ok = false;
-  const auto bad = utf8.begin() + static_cast<std::ptrdiff_t>(encoded.bad_at);
-  result.bad_line = 1 + static_cast<int>(std::count(utf8.begin(), bad, '\n'));
+  result.bad_line = LineAt(utf8, encoded.bad_at);
   result.bad_character = encoded.bad_character;
   result.words = Text(kMsgBadCharacter, std::to_string(result.bad_line), result.bad_character);
   return result;
@@ -76,6 +91,12 @@ std::string FileTitle(const std::string& path) {
 
 std::string ProgramFile(const std::string& name) {
   return doors.files->ProgramFolder() + "/" + name;
+}
+
+bool ReadListFile(const std::string& name, std::string& utf8, std::string& words) {
+  const TextFileResult file = ReadTextFile(ProgramFile(name), utf8);
+  words = file.fault == FileFault::NotFound ? std::string() : file.words;
+  return file.ok;
 }
 
 }  // namespace tr7

@@ -10,9 +10,9 @@ namespace tr7 {
 /// Outcome of reading or saving a text file. `words` tells the reason in the user's language.
 struct TextFileResult {
   bool ok = true;
-  FileFault fault = FileFault::None;  ///< stays `None` on a character the code page lacks
-  int bad_line = 0;           ///< save: first line (from 1) with a character the code page lacks
-  std::string bad_character;  ///< that character
+  FileFault fault = FileFault::None;  ///< stays `None` on what the code page lacks
+  int bad_line = 0;           ///< first line (from 1) with what is no character of the code page
+  std::string bad_character;  ///< save: that character
   std::string words;          ///< empty when ok
 };
 
@@ -21,8 +21,8 @@ int FileCodePage();
 
 inline constexpr std::size_t kListFileLimit = 4u << 20;  ///< bytes; longer files count as damaged
 
-/// Reads a whole text file of the code page as UTF-8; on failure `utf8` stays as it was. Bytes that
-/// the page lacks become U+FFFD.
+/// Reads a whole text file of the code page as UTF-8; on failure `utf8` stays as it was. A file
+/// with bytes that are no character of the page is refused: a save would lose what they stand for.
 TextFileResult ReadTextFile(const std::string& path, std::string& utf8,
                             std::size_t limit = kListFileLimit);
 
@@ -36,5 +36,8 @@ TextFileResult SaveTextFile(const std::string& path, const std::string& utf8);
 std::string FileTitle(const std::string& path);
 /// Path of a list file in the program's own folder.
 std::string ProgramFile(const std::string& name);
+/// Reads a list file of that folder; on failure `words` tells the reason, and nothing of a file
+/// that is not there: the messages of the lists say that themselves.
+bool ReadListFile(const std::string& name, std::string& utf8, std::string& words);
 
 }  // namespace tr7

@@ -79,7 +79,9 @@ void TextBoxBinding::Push() {
 }
 
 bool TextBoxBinding::OnKey(const QEvent& event) {
-  const int key = static_cast<const QKeyEvent&>(event).key();
+  const auto& key_event = static_cast<const QKeyEvent&>(event);
+  if (key_event.matches(QKeySequence::Undo)) return record_.Undo && record_.Undo();
+  const int key = key_event.key();
   if ((key != Qt::Key_Return && key != Qt::Key_Enter) || !record_.Enter) return false;
   record_.Enter();
   return true;

@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string FromShiftJis(std::string_view bytes) { return DecodeCodePage(932, bytes); }
+std::string FromShiftJis(std::string_view bytes) { return DecodeCodePage(932, bytes).utf8; }
 
 TEST(CodePage, KnownCharacters) {
   const struct {
@@ -96,7 +96,7 @@ TEST(CodePage, WritingStopsAtTheFirstMissingCharacter) {
 }
 
 TEST(CodePage, Utf8PassesAndIsMended) {
-  EXPECT_EQ(DecodeCodePage(65001, "軸😀\r\n"), "軸😀\r\n");
+  EXPECT_EQ(DecodeCodePage(65001, "軸😀\r\n").utf8, "軸😀\r\n");
   EXPECT_EQ(EncodeCodePage(65001, "軸😀").bytes, "軸😀");
   EXPECT_FALSE(EncodeCodePage(65001, "a\xC0\x80").ok);
   const struct {
@@ -114,7 +114,7 @@ TEST(CodePage, Utf8PassesAndIsMended) {
   for (const auto& row : rows) {
     std::string expected = "<";
     for (int i = 0; i < row.bad; ++i) expected += "\uFFFD";
-    EXPECT_EQ(DecodeCodePage(65001, "<" + row.bytes + ">"), expected + ">");
+    EXPECT_EQ(DecodeCodePage(65001, "<" + row.bytes + ">").utf8, expected + ">");
   }
 }
 

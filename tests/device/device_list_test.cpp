@@ -125,39 +125,25 @@ std::string NewRows(int count, const std::function<std::string(int)>& model) {
 
 std::string Letter(int i) { return std::string(1, static_cast<char>('A' + i)); }
 
-TEST_F(DeviceListTest, DamagedListsTakeTheFailurePath) {
-  const auto same = [](int) { return std::string(" 28L-100"); };
+TEST_F(DeviceListTest, DamagedListsTakeTheFailurePathAndSayWhere) {
   const auto sizes = [](int i) { return "S" + Letter(i) + "0L-100"; };
   const auto speeds = [](int i) { return " 28" + Letter(i) + "-100"; };
-  const std::string row = "\" 28L-100\",2,400,0,0\r\n";
+  const auto line = [](const char* number) { return Text(6332, number, kNew); };
+  const std::string row = "\" 28L-100\",2,400,0,0\r\n", too_many = Text(6335, kNew, "11");
   const struct {
     std::string content;
     int rows;  ///< that stand afterwards; -1: a good file
-  } files[] = {{NewRows(99, same), -1},
-               {NewRows(11, sizes), -1},
-               {NewRows(11, speeds), -1},
-               {"0", -1},
-               {NewRows(100, same), 0},
-               {NewRows(12, sizes), 12},
-               {NewRows(12, speeds), 12},
-               {"", 0},
-               {"x", 0},
-               {"-1", 0},
-               {"1.5\r\n" + row + row, 0},
-               {"2147483648", 0},
-               {"1e300", 0},
-               {"3\r\n" + row + row, 2},                     // the count lies
-               {"2\r\n" + row + "\" 28L-100\",2,400,0", 1},  // the last row is cut short
-               {"2\r\n" + row + "\" 28L-100\",2", 1},
-               {"1\r\n\" 28L-100,2,400,0,0\r\n", 0},  // a quote left open
-               {"1\r\n\" 28L-100\",0,400,0,0\r\n", 0},
-               {"1\r\n\" 28L-100\",-2,400,0,0\r\n", 0},
-               {"1\r\n\" 28L-100\",32768,400,0,0\r\n", 0},
-               {"1\r\n\" 28L-100\",L,400,0,0\r\n", 0},
-               {"1\r\n\" 28L-100\",2,0,0,0\r\n", 0},
-               {"1\r\n\" 28L-100\",2,400,3,0\r\n", 0},
-               {"1\r\n\" 28L-100\",2,400,0,-1\r\n", 0},
-               {std::string(100 << 20, '1'), 0}};
+    std::string fault;
+  } files[] = {{NewRows(99, [](int) { return " 28L-100"; }), -1, ""},
+               {NewRows(11, sizes), -1, ""},
+               {NewRows(100, [](int) { return " 28L-100"; }), 0, line("1")},
+               {NewRows(12, sizes), 12, too_many},
+               {NewRows(12, speeds), 12, too_many},
+               {"3\r\n" + row + row, 2, line("3")},                     // the count lies
+               {"2\r\n" + row + "\" 28L-100\",2,400,0", 1, line("3")},  // cut short
+               {"1\r\n\" 28L-100\",L,400,0,0\r\n", 0, line("2")},
+               {"\"QV-R7\",\"PRM\"", 0, Text(6322, kNew, Text(6324))},
+               {std::string(100 << 20, '1'), 0, Text(5913, kNew)}};
   for (const auto& file : files) {
     SCOPED_TRACE(file.content.substr(0, 60));
     ASSERT_EQ(ReadDeviceListOldAxis(0), 0);
@@ -165,12 +151,24 @@ TEST_F(DeviceListTest, DamagedListsTakeTheFailurePath) {
     const bool good = file.rows < 0;
     EXPECT_EQ(ReadDeviceListNewAxis(0), good ? 0 : 1);
     EXPECT_EQ(DevListMissing[0], !good);
-    EXPECT_EQ(Boxes(), good ? Names{} : NoListBox());
+    EXPECT_EQ(Boxes(), good ? Names{} : Names{NoListBox()[0] + "\n\n" + file.fault});
     if (good) continue;
     EXPECT_EQ(DeviceList[0].RowCount, file.rows);
     EXPECT_TRUE(DeviceList[0].Sizes.empty() && DeviceList[0].Speeds.empty());
-    MakeSpeedListNew(0, " 28");
-    EXPECT_LE(DeviceList[0].Speeds.size(), std::size_t{kDeviceListNames});
+  }
+}
+
+TEST_F(DeviceListTest, ARowWithANumberOutOfItsRangeIsLeftOutAndNamedOnce) {
+  const std::string good = "\" 28L-100\",2,400,0,0\r\n";
+  for (const char* numbers : {"2,400,3,0", "2,400,0,-1", "0,400,0,0", "2,32768,0,0", "1.5,1,0,0"}) {
+    Put(kNew, "3\r\n" + good + "\" 28H-050\"," + numbers + "\r\n" + good);
+    const std::string words = Text(6333, kNew) + "\n\n" + Text(6321, "3", " 28H-050");
+    DeviceLookup = DeviceLookupRecord{};
+    EXPECT_EQ(FindDeviceNew(" 28", "H", 50), 1);
+    EXPECT_EQ(ReadDeviceListNew(), 0);
+    EXPECT_EQ(Boxes(), Names{words}) << numbers;
+    EXPECT_EQ(DeviceList[0].RowCount, 2);
+    EXPECT_EQ(DeviceList[0].Speeds.size() + DeviceList[0].Sizes.size(), 1u);
   }
 }
 
@@ -223,9 +221,10 @@ TEST_F(DeviceListTest, LookupsReadTheFileAfresh) {
   EXPECT_EQ(FindDeviceNew(" 28", "L", 100), 1);
   EXPECT_EQ(GetPgKindNew(" 28", "L", 100), 99);
   EXPECT_EQ(GetVKindNew(" 28", "L", 100), 99);
-  EXPECT_EQ(Boxes(), (Names{Text(15), Text(15), Text(15)}));
+  const std::string reason = "\n\n" + Text(6332, "2", kNew), in_short = Text(15) + reason;
+  EXPECT_EQ(Boxes(), (Names{in_short, in_short, in_short}));
   EXPECT_EQ(GetLeadAndPprNew(" 28", "L", 100), 1);
-  EXPECT_EQ(Boxes(), NoListBox());
+  EXPECT_EQ(Boxes(), Names{NoListBox()[0] + reason});
 }
 
 TEST_F(DeviceListTest, LeadsComeFromTheList) {

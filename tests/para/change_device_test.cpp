@@ -158,6 +158,30 @@ TEST_F(ChangeDeviceTest, AFileThatCannotBeReadLeadsBackToTheQuestion) {
   EXPECT_EQ(Device(0), " 28L100");
 }
 
+TEST_F(ChangeDeviceTest, AParameterFileWhoseDevicesCannotServeIsRefusedWithItsReason) {
+  StartOffline();
+  const ParamSetRecord good = ParamSet;
+  const struct {
+    std::function<void()> spoil;
+    std::string reason;
+  } rows[] = {{[] { ParamSet.OneAxis = 16; }, Text(6336)},
+              {[] { ParamSet.AxisLead[1] = 0; }, Text(6337, "AXIS2")},
+              {[] { ParamSet.AxisPulse[3] = 0; }, Text(6337, "AXIS4")}};
+  for (const auto& row : rows) {
+    row.spoil();
+    ASSERT_EQ(WriteParaFile("/bad.pmt"), 0);
+    ParamSet = good;
+    Forget();
+    Choose({1, -1});
+    forms.file_answers = {"/bad.pmt"};
+    EXPECT_EQ(Change_Device(), 1);
+    EXPECT_EQ(Boxes(), Texts{Text(681) + "\n\n" + row.reason});
+    EXPECT_EQ(ParamSet, good);
+    EXPECT_EQ(DevSetting[1].Lead, 2);
+    EXPECT_EQ(virt.settings.Get("Settings", "DevLead2", "2"), "2");
+  }
+}
+
 TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
   StartOffline();
   // The file is what the tool saves: two axes, the first with a PG.
@@ -197,7 +221,7 @@ TEST_F(ChangeDeviceTest, ADeviceWithoutStandardRowLeadsBackToTheQuestion) {
   Choose({0, -1});
   InDialog({[] { frmDevice2.cmdDeviceSet.Press(); }});
   EXPECT_EQ(Change_Device(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(Boxes(), Texts{Text(36) + "\n\n" + Text(6340, "AXIS1", " 99L-123")});
   EXPECT_EQ(asked.size(), 2u);
   EXPECT_EQ(Device(0), " 28L100");
 }
@@ -325,6 +349,22 @@ TEST_F(IniPrmTest, EveryRefusalLeavesTheParameters) {
     ExpectCommandsOn();
   }
   EXPECT_EQ(forms.LastBox(), Text(408) + "\n" + Text(409));
+}
+
+TEST_F(IniPrmTest, ValuesThatFailGoBackWithTheAxes) {
+  Open();
+  virt.files.Put(ProgramFile("tr7nqvstpr.lst"), "\"QV-R7\",\"QV-STDPRM\"\r\n0,13\r\n");
+  ParamSet.SmTimer = 77;
+  const ParamSetRecord before = ParamSet;
+  forms.answers = {MsgAnswer::Yes};
+  InDialog({[] {
+    frmDevice2.comboAxisSelect.Pick(1);
+    frmDevice2.cmdDeviceSet.Press();
+  }});
+  frmParameta2.cmdIniPrm.Press();
+  EXPECT_EQ(forms.LastBox(), Text(36) + "\n\n" + Text(6340, "AXIS1", " 28L-100"));
+  EXPECT_EQ(ParamSet, before);
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
 }
 
 TEST_F(IniPrmTest, OtherAxesChangeTheColumnsOfBothViews) {

@@ -2,6 +2,7 @@
 
 #include "para/device_dialog.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -201,7 +202,7 @@ TEST_F(DeviceDialogTest, TicksAndTheNumberOfAxesKeepStep) {
     for (const auto& row : rows) {
       SCOPED_TRACE(row.what);
       row.click(frmDevice2);
-      EXPECT_EQ(AxesChosen(frmDevice2), row.axes);
+      EXPECT_EQ(frmDevice2.comboAxisSelect.ListIndex + 1, row.axes);
       EXPECT_EQ(forms.beeps, row.beeps);
       for (std::size_t axis = 0; axis < kAxes; ++axis) {
         const bool live = axis < static_cast<std::size_t>(row.axes);
@@ -285,7 +286,7 @@ TEST_F(DeviceDialogTest, AMissingListIsToldOfOnceAndFailsAtTheParameters) {
     frmDevice2.cmdDeviceSet.Press();
   };
   EXPECT_EQ(SelectDeviceForPara(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_TRUE(Boxes().at(0).starts_with(Text(36)));
   EXPECT_EQ(DevSettei[0].Size, " 28") << "the device in use is the one under consideration again";
 }
 
@@ -335,17 +336,17 @@ TEST_F(DeviceDialogTest, OtherAxesAreAskedAbout) {
        {False, False, False, True},
        3,
        7},
-      {"axes with a gap, no",
+      {"axes with a gap, as they are",
        {False, True, False, True},
        0,
        MsgAnswer::No,
-       true,
+       false,
        {False, True, False, True},
        4,
-       7},
-      {"axes with a gap, yes",
+       5},
+      {"axes with a gap, another number",
        {False, True, False, True},
-       0,
+       3,
        MsgAnswer::Yes,
        true,
        {False, False, False, True},
@@ -361,6 +362,8 @@ TEST_F(DeviceDialogTest, OtherAxesAreAskedAbout) {
     forms.answers = {row.answer};
     Ask(frmDevice2, [&] {
       EXPECT_FALSE(ParaFlags.AxisMaskFixed);
+      const auto in_use = std::count(row.before.begin(), row.before.end(), False);
+      EXPECT_EQ(frmDevice2.comboAxisSelect.ListIndex + 1, in_use);
       if (row.number > 0) frmDevice2.comboAxisSelect.Pick(row.number - 1);
       PickSize(0, " 50");
       frmDevice2.cmdDeviceSet.Press();
@@ -390,7 +393,7 @@ TEST_F(DeviceDialogTest, TheWritingDialogueAsksNothingAboutAxes) {
   });
   TakeChosenAxes(frmDevice3);
   EXPECT_TRUE(Boxes().empty());
-  EXPECT_EQ(AppState.AxisMuko, MukoOfCount(2));
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
   EXPECT_EQ(AppState.AxisCount, 2);
 }
 
@@ -417,7 +420,7 @@ TEST_F(DeviceDialogTest, EveryWayOut) {
     EXPECT_FALSE(DeviceDialog.DevDialogActive);
     EXPECT_EQ(ParamSet.Actuator[0], row.actuator);
     EXPECT_EQ(DevSettei[0].Size, row.result == 0 ? " 42" : " 28");
-    EXPECT_EQ(AppState.AxisMuko, MukoOfCount(4));
+    EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
   }
 }
 
@@ -448,10 +451,11 @@ TEST_F(DeviceDialogTest, ADeviceWithoutStandardRowLeavesAxesAndDevices) {
     frmDevice2.cmdDeviceSet.Press();
   };
   EXPECT_EQ(SelectDeviceForPara(), 1);
-  EXPECT_EQ(forms.LastBox(), Text(36));
-  EXPECT_EQ(AppState.AxisMuko, MukoOfCount(4));
+  EXPECT_TRUE(forms.LastBox().starts_with(Text(36)));
+  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
   EXPECT_EQ(AppState.AxisCount, 4);
   EXPECT_EQ(DevSettei[0].Size, " 28");
+  EXPECT_EQ(ParamSet, ParamSetRecord{}) << "the common values do not stay behind";
 }
 
 }  // namespace

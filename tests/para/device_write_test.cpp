@@ -192,8 +192,8 @@ TEST_F(DeviceWriteTest, EveryFailureEndsTheWriteAndChangesNothingHere) {
       {"standstill unheard", FaultKind::kDeaf, "0RA", 0, {100}, "0RA", false},
       {"hold refused", FaultKind::kErrorReply, "0CM01111", 1, {104, 377}, "0CM01111", false},
       {"mask refused", FaultKind::kErrorReply, "0WD0", 1, {104, 377}, "0WD0", false},
-      {"axes refused", FaultKind::kErrorReply, "0RD0", 2, {104}, "0RD0", false},
-      {"read refused", FaultKind::kErrorReply, "0RD7", 1, {104}, "0RD7", false},
+      {"axes refused", FaultKind::kErrorReply, "0RD0", 2, {104, 6338}, "0RD0", false},
+      {"read refused", FaultKind::kErrorReply, "0RD7", 1, {104, 6338}, "0RD7", false},
       {"block refused", FaultKind::kErrorReply, "0WD4", 1, {104, 1528}, "0WD4", false},
       {"block unheard", FaultKind::kDeaf, "0WD7", 0, {100, 1528}, "0WD7", false},
       {"store refused", FaultKind::kErrorReply, "0WE2", 1, {104, 1528}, "0WE2", false},
@@ -220,7 +220,7 @@ TEST_F(DeviceWriteTest, EveryFailureEndsTheWriteAndChangesNothingHere) {
     Write();
     ASSERT_EQ(forms.boxes.size(), row.boxes.size());
     for (std::size_t i = 0; i < row.boxes.size(); ++i) {
-      EXPECT_TRUE(forms.boxes[i].Text.starts_with(Text(row.boxes[i]))) << forms.boxes[i].Text;
+      EXPECT_TRUE(forms.boxes[i].Text.starts_with(Text(row.boxes[i], "3"))) << forms.boxes[i].Text;
     }
     const std::size_t last = port.sent.rfind("\r\n", port.sent.size() - 3);
     EXPECT_TRUE(
@@ -232,6 +232,35 @@ TEST_F(DeviceWriteTest, EveryFailureEndsTheWriteAndChangesNothingHere) {
     EXPECT_TRUE(frmDevice3.cmdDeviceCancel.Enabled && frmDevice3.cmdSyosai.Enabled);
     ExpectCommandsOn();
   }
+}
+
+TEST_F(DeviceWriteTest, AxesLeftInTheControllerAreAskedAboutAtTheNextConnect) {
+  StartOnline();
+  qvr7sim::Fault fault;
+  fault.kind = FaultKind::kErrorReply;
+  fault.prefix = "0RD7";
+  fault.at_request = 1;
+  fault.error = {'0', '0', '1'};
+  port.Ct().AddFault(fault);
+  Write();
+  EXPECT_EQ(forms.LastBox(), Text(6338, "3"));
+  asked.clear();
+  Choose({1});
+  frmMain.cmdReset.Press();
+  EXPECT_EQ(asked, Texts{Text(371)});
+}
+
+TEST_F(DeviceWriteTest, AValueOfTheControllersOwnThatDoesNotFitPutsTheAxesBack) {
+  StartOnline();
+  // ZONE1 of AXIS1 becomes 0.
+  const std::string block = port.Ct().WrittenBlock(3);
+  port.Ct().Receive("0WD3000000" + block.substr(6) + "\r\n", pump.NowUs());
+  pump.RunFor(200'000);
+  port.ReadAll();
+  Write();
+  EXPECT_EQ(Boxes(), Texts{Text(1524) + "\n" + Text(1525)});
+  EXPECT_EQ(Commands(), kHeld + kMask + kReadBack + kReadTwoAxes + kMask + "0CM0 ");
+  EXPECT_EQ(port.Ct().WrittenBlock(0), port.Ct().CommittedBlock(0));
 }
 
 TEST_F(DeviceWriteTest, AMovingAxisTakesNothing) {
@@ -257,38 +286,42 @@ TEST_F(DeviceWriteTest, WithoutAPortNothingBegins) {
   ExpectCommandsOn();
 }
 
-TEST_F(DeviceWriteTest, ParametersThatCannotBeMadeReleaseTheAxes) {
+TEST_F(DeviceWriteTest, ParametersThatCannotBeMadeEndItBeforeTheLine) {
   const std::string header = "\"QV-R7\",\"QV-STDPRM\"\r\n";
+  const std::string good = *virt.files.Content(ProgramFile("tr7nqvstpr.lst"));
   const struct {
     const char* what;
     std::string list;  ///< of standard rows; empty: there is none
     Texts boxes;
+    std::array<Bool16, kAxes> muko{};
   } rows[] = {
       {"no list", "", {Text(28) + "\n" + Text(29), Text(36)}},
-      {"no row for the device", header + "0,13\r\n", {Text(36)}},
+      {"no row for the device",
+       header + "0,13\r\n",
+       {Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200")}},
       {"a value out of range",
        header + "2,13\r\n\" 28L-100\",0,60,10,5,5,1,20000,2,400,15,0,\" 28L100\"\r\n"
                 "\" 42H-200\",100,100,20,5,5,1,10000,8,400,30,0,\" 42H200\"\r\n",
        {Text(1524) + "\n" + Text(1525)}},
+      {"axes with a gap", good, {Text(1524) + "\n" + Text(1525)}, {False, True, False, True}},
   };
   StartOnline();
-  const PcState before;
-  const std::string stored = port.Ct().CommittedBlock(4);
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
+    AppState.AxisMuko = row.muko;
+    const PcState before;
     virt.files.Remove(ProgramFile("tr7nqvstpr.lst"));
     if (!row.list.empty()) Put("tr7nqvstpr.lst", row.list);
-    Write([] {
+    Write([&] {
+      if (row.muko[1]) return;
       ChooseTwoAxes();
       Pick(frmDevice3.comboDeviceSize[1], " 28");
       Pick(frmDevice3.comboDeviceSpeed[1], "L");
       Pick(frmDevice3.comboDeviceStroke[1], "100");
     });
     EXPECT_EQ(Boxes(), row.boxes);
-    EXPECT_EQ(Commands(), kHeld + kMask + kReadBack + kReadTwoAxes + "0CM0 ");
-    EXPECT_TRUE(port.sent.ends_with("0CM00000\r\n")) << "the axes are not left held";
+    EXPECT_EQ(port.sent, "");
     EXPECT_EQ(PcState(), before);
-    EXPECT_EQ(port.Ct().CommittedBlock(4), stored);
     ExpectOnline();
   }
 }

@@ -101,9 +101,29 @@ TEST_F(ParaFileFlow, SavedOpenedAndSavedAgainIsTheSame) {
 }
 
 TEST_F(ParaFileFlow, OnlyAWholeAndGoodViewIsSaved) {
+  f.lblAxis[3].Caption = "AXIS4";
+  f.lblHomePush.Caption = "PUSH";
   f.txtHomePush[3].Text.clear();
   EXPECT_EQ(Save(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8)});
+  EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8) + "\n\nAXIS4 PUSH"});
+  EXPECT_EQ(forms.focus, &f.txtHomePush[3]);
+  const struct {
+    std::function<void()> empty;
+    const Control* field;  ///< what stands before the empty AXIS4 PUSH, or that itself
+  } rows[] = {{[this] { f.txtHomeOffset[3].Text.clear(); }, &f.txtHomeOffset[3]},
+              {[this] { f.comboActSize[0].ListIndex = -1; }, &f.txtHomeOffset[3]}};
+  for (const auto& row : rows) {
+    row.empty();
+    EXPECT_EQ(Save(), 1);
+    EXPECT_EQ(forms.focus, row.field);
+  }
+  f.comboActSize[0].ListIndex = 0;
+  f.txtHomeOffset[3].Text = "1";
+  f.txtHomePush[3].Text = "1";
+  f.txtZoneSet1[1].Text.clear();  // follows the field in mm
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(forms.focus, &f.txtMmZone1[1]);
+  f.txtZoneSet1[1].Text = "100";
   f.txtHomePush[3].Text = "256";
   EXPECT_EQ(Save(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(9) + "\n" + Text(10)});
@@ -136,11 +156,10 @@ TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
     std::string part, other;
     Texts boxes;
   } rows[] = {
-      {"PRM", "GRP", {Text(22) + "\n" + Text(20), failed}},
-      {"\"PG\"", "\"ETC\"", {failed}},
-      {"\r\n5\r", "\r\n6\r", {failed + "\n\n" + Text(6451)}},
-      {"\"ETC\",9", "\"ETC\",99", {failed + "\n\n" + Text(6150, "ETC")}},
-      {" 28L100\"", " 28L100", {failed + "\n\n" + Text(6150, "AXIS")}},
+      {"PRM",
+       "GRP",
+       {Text(22) + "\n" + Text(20) + "\n\n" + Text(6322, "job.pmt", Text(6326)), failed}},
+      {"\"PG\"", "\"ETC\"", {failed + "\n\n" + Text(6321, "18", Text(6334, "ETC", "PG"))}},
       {"\"HOME\",6,4\r\n400,", "\"HOME\",6,4\r\n1e,", {failed + "\n\n" + Text(6151, "OFFSET")}}};
   f.txtHomeOffset[0].Text = "77";
   const ParamSetRecord before = ParamSet;

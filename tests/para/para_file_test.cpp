@@ -177,61 +177,53 @@ TEST_F(ParaFile, TheHeadersSayWhatIsRead) {
   EXPECT_TRUE(forms.boxes.empty());
 }
 
-TEST_F(ParaFile, DamagedFiles) {
+TEST_F(ParaFile, ADamagedFileSaysWhere) {
   const std::string head = Text(6451);
   const auto section = [](const char* tag) { return Text(6150, tag); };
   const struct {
     const char* what;
     std::string bytes;
+    int line;
     std::string words;
-  } rows[] = {
-      {"empty", "", head},
-      {"one item", "\"QV-R7\"", head},
-      {"two items", "\"QV-R7\",\"PRM\"", head},
-      {"a count that is none", With(kLines, "\n5\r", "\nfive\r"), head},
-      {"a count below 0", With(kLines, "\n5\r", "\n-1\r"), head},
-      {"a broken count", With(kLines, "\n5\r", "\n4.5\r"), head},
-      {"a count of two items", With(kLines, "\n5\r", "\n\"5,5\"\r"), head},
-      {"a count beyond all bounds", With(kLines, "\n5\r", "\n99999999999\r"), head},
-      {"a huge count", With(kLines, "\n5\r", "\n2147483647\r"), head},
-      {"a section too many", With(kLines, "\n5\r", "\n6\r"), head},
-      {"another tag", With(kLines, "\"PG\"", "\"ETC\""), ""},
-      {"a tag in other letters", With(kLines, "\"PG\"", "\"pg\""), ""},
-      {"no section", UpTo(kLines, "\"HOME\""), section("HOME")},
-      {"cut short in a row", UpTo(kLines, "409"), section("AXIS")},
-      {"cut short in a header", UpTo(kLines, "\"ETC\",9") + "\"ETC\",9", section("ETC")},
-      {"an open quote", With(kLines, "E35H200\"", "E35H200"), section("AXIS")},
-      {"an open quote at the end", UpTo(kLines, "134") + "\"134", section("SPECIAL")},
-      {"a quote inside", With(kLines, "\"E35H200\"", "\"E35\"H200"), section("AXIS")},
-      {"rows that are no number", With(kLines, "\"PG\",2", "\"PG\",two"), section("PG")},
-      {"rows below 0", With(kLines, "\"PG\",2", "\"PG\",-2"), section("PG")},
-      {"a row more than there are", With(kLines, "\"SPECIAL\",10", "\"SPECIAL\",17"),
-       section("SPECIAL")},
-      {"a huge row count", With(kLines, "\"HOME\",6", "\"HOME\",2147483647"), section("HOME")},
-      {"rows beyond all bounds", With(kLines, "\"HOME\",6", "\"HOME\",1e300"), section("HOME")},
-      {"a column more than there are", With(kLines, "\"HOME\",6,4", "\"HOME\",6,6"),
-       section("HOME")},
-      {"a huge column count", With(kLines, "\"HOME\",6,4", "\"HOME\",6,2147483647"),
-       section("HOME")}};
+  } rows[] = {{"empty", "", 1, head},
+              {"a count that is none", With(kLines, "\n5\r", "\nfive\r"), 2, head},
+              {"a section too many", With(kLines, "\n5\r", "\n6\r"), 41, head},
+              {"another tag", With(kLines, "\"PG\"", "\"ETC\""), 18, Text(6334, "ETC", "PG")},
+              {"cut short in a row", UpTo(kLines, "409"), 13, section("AXIS")},
+              {"an open quote", With(kLines, "E35H200\"", "E35H200"), 17, section("AXIS")},
+              {"rows below 0", With(kLines, "\"PG\",2", "\"PG\",-2"), 18, section("PG")},
+              {"a row more than there are", With(kLines, "\"SPECIAL\",10", "\"SPECIAL\",17"), 31,
+               section("SPECIAL")},
+              {"a huge column count", With(kLines, "\"HOME\",6,4", "\"HOME\",6,2147483647"), 3,
+               section("HOME")}};
   for (const auto& row : rows) {
     ParaTable[3][40] = std::string("of before");
     EXPECT_EQ(Read(row.bytes), 1) << row.what;
     EXPECT_TRUE(ParaFlags.ParaFileBad) << row.what;
-    EXPECT_EQ(ParaFlags.FileFaultText, row.words) << row.what;
+    const std::string words = Text(6321, std::to_string(row.line), row.words);
+    EXPECT_EQ(ParaFlags.FileFaultText, words) << row.what;
     EXPECT_EQ(Slot(40, 3), "") << row.what;
   }
   EXPECT_TRUE(forms.boxes.empty()) << "the caller tells";
 }
 
 TEST_F(ParaFile, AFileOfAnotherKindIsTold) {
-  for (const char* bytes : {"\"QV-R8\",\"PRM\",5", "\"QV-R7\",\"GRP\",5", "\"QV-R7\",\"prm\",x",
-                            "one\r\ntwo\r\n\"three\""}) {
+  const struct {
+    const char* bytes;
+    std::string reason;  ///< behind the box's own words
+  } rows[] = {
+      {"\"QV-R8\",\"PRM\",5", ""},
+      {"\"QV-R7\",\"prm\",x", ""},
+      {"\"QV-R7\"\r\n\"POS MODE\"\r\n\"\",\"\"",
+       "\n\nThe file \"job.pmt\" is a position data file."},
+      {"\"QV-R7\"\r\n\"QV- 28L-100\",\"\"", "\n\nThe file \"job.pmt\" is a position data file."}};
+  for (const auto& row : rows) {
     forms.boxes.clear();
-    EXPECT_EQ(Read(bytes), 1);
+    EXPECT_EQ(Read(row.bytes), 1);
     EXPECT_TRUE(ParaFlags.ParaFileBad);
     EXPECT_EQ(ParaFlags.FileFaultText, "");
-    ASSERT_EQ(forms.boxes.size(), 1u) << bytes;
-    EXPECT_EQ(forms.LastBox(), Text(22) + "\n" + Text(20));
+    ASSERT_EQ(forms.boxes.size(), 1u) << row.bytes;
+    EXPECT_EQ(forms.LastBox(), Text(22) + "\n" + Text(20) + row.reason);
     EXPECT_EQ(Slot(0), "") << "no file was read";
   }
 }
@@ -244,7 +236,7 @@ TEST_F(ParaFile, AHundredMegabytesEndInWords) {
   EXPECT_EQ(Read(With(kLines, "101", std::string(4'000'000, '1'))), 0);
   EXPECT_EQ(RefusedParaRow(), 1) << "no number is that large";
   EXPECT_EQ(Read(With(kLines, "\n5\r", "\n2147483647\r") + std::string(4'000'000, ',')), 1);
-  EXPECT_EQ(ParaFlags.FileFaultText, Text(6451));
+  EXPECT_EQ(ParaFlags.FileFaultText, Text(6321, "42", Text(6451)));
 }
 
 TEST_F(ParaFile, AnImpossibleValueIsNamedByItsRow) {
@@ -340,11 +332,11 @@ TEST_F(ParaForDevice, FourAttempts) {
   virt.files.Put(kPath, With(kLines, "\"PG\"", "\"ETC\""));
   EXPECT_EQ(Open(1), 3);
   ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_EQ(forms.LastBox(), Text(681));
+  EXPECT_EQ(forms.LastBox(), Text(681) + "\n\n" + Text(6321, "18", Text(6334, "ETC", "PG")));
 
   virt.files.Put(kPath, "\"QV-R7\"");
   EXPECT_EQ(Open(1), 3);
-  EXPECT_EQ(forms.LastBox(), Text(681) + "\n\n" + Text(6451));
+  EXPECT_EQ(forms.LastBox(), Text(681) + "\n\n" + Text(6321, "1", Text(6451)));
   virt.files.Remove(kPath);
   EXPECT_EQ(Open(1), 3);
   EXPECT_EQ(forms.LastBox(), Text(681) + "\n\n" + Text(5910, "job.pmt"));

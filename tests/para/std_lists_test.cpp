@@ -67,7 +67,6 @@ class StdListsTest : public StateTest {
     return texts;
   }
   using Texts = std::vector<std::string>;
-  Texts NoListThenFailed() { return {Text(28) + "\n" + Text(29), Text(36)}; }
 };
 
 /// The values of one axis over rows of the parameter set.
@@ -192,13 +191,14 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   SetDevice(1, "28", "L", 100);  // sizes compare as text
   ParamSet.HomeOffset[1] = 77;
   EXPECT_EQ(IniParaFromStd(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  const std::string reason = "\n\n" + Text(6340, "AXIS2", "28L-100");
+  EXPECT_EQ(Boxes(), Texts{Text(36) + reason});
   EXPECT_EQ(ParamSet.HomeOffset[0], 101);
   EXPECT_EQ(ParamSet.HomeOffset[1], 77);
   EXPECT_EQ(ParamSet.PgAlarm[1], 10);
   EXPECT_EQ(ParamSet.SmTimer, 50);
   EXPECT_EQ(IniParaFromStdForWrite(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(Boxes(), Texts{Text(36) + reason});
 
   AppState.AxisMuko[1] = True;  // an absent axis needs no device
   EXPECT_EQ(IniParaFromStd(), 0);
@@ -208,98 +208,92 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   EXPECT_EQ(ReadStdLists(), 0);
   EXPECT_TRUE(StdTable[1].empty());
   EXPECT_EQ(IniParaFromStd(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36)});
+  EXPECT_EQ(Boxes(), Texts{Text(36) + "\n\n" + Text(6340, "AXIS2", " 28L-100")});
 }
 
-TEST_F(StdListsTest, DamagedStandardLists) {
-  const std::string row = kRow28;
+TEST_F(StdListsTest, DamagedStandardListsSayWhatIsWrong) {
+  const std::string header = kHeader, row = kRow28;
   const std::string wrong = Text(26) + "(1AXIS)", none = Text(28) + "\n" + Text(29);
-  std::string many = std::string(kHeader) + "1000,13\r\n";
-  for (int i = 0; i < 1000; ++i) many += row;
+  const auto line = [&](const char* number) {
+    return none + "\n\n" + Text(6332, number, kNewFile);
+  };
   const struct {
     std::string content, box;
-  } files[] = {{kHeader + std::string("1,13\r\n") + row, ""},
-               {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
-               {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong},
-               {"\"QV-R7\",\"QV-CMNPRM\"\r\n1,13\r\n" + row, wrong},
-               {"\"QV-R7\"", none},
-               {"", none},
-               {kHeader, none},
-               {kHeader + std::string("2,13\r\n") + row, none},
-               {kHeader + std::string("-1,13\r\n") + row, none},
-               {kHeader + std::string("x,13\r\n") + row, none},
-               {kHeader + std::string("1\r\n"), none},
-               {kHeader + std::string("1,13\r\n\" 28L-100,1,1,1,1,1,1,1,1,1,1,1,1\r\n"), none},
-               {kHeader + std::string("1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n"), none},
-               {kHeader + std::string("1,13\r\n\"a\",1,1,1,1,1,1,1,1,1,1,L,\"a\"\r\n"), none},
-               {kHeader + std::string("1,13\r\n\"a\",1,1,1,1,1,1,1,1,1,1,1\r\n"), none},
-               {many, none},
-               {std::string(100 << 20, ' '), none}};
+  } files[] = {
+      {header + "1,13\r\n" + row, ""},
+      {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
+      {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong + "\n\n" + Text(6332, "1", kNewFile)},
+      {CommonFile(), wrong + "\n\n" + Text(6322, kNewFile, Text(6329))},
+      {"1\r\n\" 28L-100\",2,400,0,0", wrong + "\n\n" + Text(6322, kNewFile, Text(6330))},
+      {"", line("1")},
+      {header + "2,13\r\n" + row, line("3")},
+      {header + "1000,13\r\n" + row, line("2")},
+      {header + "1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n", line("3")},
+      {std::string(100 << 20, ' '), none + "\n\n" + Text(5913, kNewFile)}};
   for (const auto& file : files) {
     SCOPED_TRACE(file.content.substr(0, 80));
     Put(kNewFile, file.content);
     EXPECT_EQ(ReadStdLists(), file.box.empty() ? 0 : 1);
     EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
   }
-  EXPECT_EQ(IniParaFromStd(), 1);
-  EXPECT_EQ(Boxes(), NoListThenFailed());
-  EXPECT_EQ(IniParaFromStdForWrite(), 1);
-  EXPECT_EQ(Boxes(), NoListThenFailed());
+  virt.files.Remove(ProgramFile(kNewFile));
+  for (const auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
+    EXPECT_EQ(ini(), 1);
+    EXPECT_EQ(Boxes(), (Texts{none, Text(36)}));
+  }
   EXPECT_EQ(ParamSet, ParamSetRecord{});
 
   DevSettei[0].NewType = DevSettei[1].NewType = False;  // the old list is good
   Put(kNewFile, "\"QV-R7\",\"PRM\"");
   EXPECT_EQ(ReadStdLists(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(26) + "(3AXIS)"});
-}
-
-std::string Without(std::string text, const std::string& part) {
-  text.erase(text.find(part), part.size());
-  return text;
+  EXPECT_EQ(Boxes(), Texts{Text(26) + "(3AXIS)\n\n" + Text(6322, kNewFile, Text(6324))});
 }
 
 std::string With(std::string text, const std::string& part, const std::string& other) {
   return text.replace(text.find(part), part.size(), other);
 }
 
-TEST_F(StdListsTest, DamagedCommonLists) {
+TEST_F(StdListsTest, DamagedCommonListsSayWhatIsWrong) {
   const std::string good = CommonFile(), none = Text(28) + "\n" + Text(29);
+  const auto at = [&](const char* number) { return Text(6332, number, kCommonFile); };
+  const auto line = [&](const char* number) { return none + "\n\n" + at(number); };
+  const auto sections = [&](const char* count) {
+    return With(good, "\r\n3\r\n", "\r\n" + std::string(count) + "\r\n");
+  };
+  // Only FUNCTION and ALM have a use for the column behind their values.
+  std::string narrow = With(good, "\"ETC\",9,3", "\"ETC\",9,2");
+  for (int row = 2; row < 11; ++row) {
+    narrow = With(narrow, "," + std::to_string(10 * row + 5) + "\r", "\r");
+  }
   const struct {
     std::string content;
-    int result;
-    std::string box;
-    bool bad_flag;
-  } files[] = {{good, 0, "", false},
-               {With(good, "\r\n3\r\n", "\r\n4\r\n") + "passed over", 0, "", false},
-               {With(good, "\r\n3\r\n", "\r\n4\r\n"), 1, none, false},
-               {With(good, "QV-R7", "QV-R8"), 1, Text(27), true},
-               {With(good, "QV-CMNPRM", "QV-STDPRM"), 1, Text(27), true},
-               {With(good, "\"ETC\"", "\"SPECIAL\""), 1, "", false},
-               {With(good, "\"PG\"", "\"pg\""), 1, "", false},
-               {With(good, "\r\n3\r\n", "\r\n2\r\n"), 1, none, false},  // rows would be missing
-               {With(good, "\r\n3\r\n", "\r\n-1\r\n"), 1, none, false},
-               {With(good, "\r\n3\r\n", "\r\n2147483647\r\n"), 1, none, false},
-               {With(good, "\"SPECIAL\",10", "\"SPECIAL\",9"), 1, none, false},
-               {With(good, "\"SPECIAL\",10", "\"SPECIAL\",16"), 1, none, false},  // 27 rows
-               {With(good, "\"PG\",2,3", "\"PG\",2,2"), 1, none, false},  // no column for the PG
-               {With(good, "\"PG\",2,3", "\"PG\",2,6"), 1, none, false},
-               {With(good, "\"ETC\",9", "\"ETC\",-1"), 1, none, false},
-               {With(good, ",200,", ",20000000000,"), 1, none, false},
-               {With(good, ",200,", ",L,"), 1, none, false},
-               {Without(good, "\"x\",200,205\r\n"), 1, none, false},
-               {With(good, "\"x\",200", "\"x,200"), 1, none, false},
-               {"", 1, none, false}};
+    std::string box, reason;  ///< the list's own box, and what stands behind the flow's
+  } files[] = {{good, "", ""},
+               {narrow, "", ""},
+               {With(good, ",205", ",a text"), "", ""},
+               {sections("4") + "passed over", "", ""},
+               {sections("4"), line("26"), ""},
+               {With(good, "QV-R7", "QV-R8"), Text(27) + "\n\n" + at("1"), ""},
+               {With(good, "QV-CMNPRM", "QV-STDPRM"),
+                Text(27) + "\n\n" + Text(6322, kCommonFile, Text(6328)), ""},
+               {With(good, "\"ETC\"", "\"SPECIAL\""), "", "\n\n" + at("6")},
+               {sections("2"), line("15"), ""},                                   // rows missing
+               {With(good, "\"SPECIAL\",10", "\"SPECIAL\",16"), line("16"), ""},  // 27 rows
+               {With(good, "\"PG\",2,3", "\"PG\",2,2"), line("3"), ""},  // no column for the PG
+               {With(good, ",15\r", ",L\r"), line("5"), ""},
+               {With(good, ",200,", ",20000000000,"), line("26"), ""}};
   for (const auto& file : files) {
     SCOPED_TRACE(file.content);
+    const bool bad = !file.box.empty() || !file.reason.empty();
     Put(kCommonFile, file.content);
     ParaFlags.ParaFileBad = False;
-    EXPECT_EQ(ReadStdLists(), file.result);
+    EXPECT_EQ(ReadStdLists(), bad ? 1 : 0);
     EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
-    EXPECT_EQ(ParaFlags.ParaFileBad, file.bad_flag);
+    EXPECT_EQ(ParaFlags.ParaFileBad, file.box.starts_with(Text(27)));
     const ParamSetRecord before = ParamSet;
-    EXPECT_EQ(IniParaFromStd(), file.result);
-    EXPECT_TRUE(file.result == 0 || ParamSet == before);
-    EXPECT_EQ(forms.LastBox(), file.result == 0 ? "" : Text(36));
+    EXPECT_EQ(IniParaFromStd(), bad ? 1 : 0);
+    EXPECT_TRUE(!bad || ParamSet == before);
+    EXPECT_EQ(forms.LastBox(), bad ? Text(36) + file.reason : "");
     Boxes();
   }
 }

@@ -229,33 +229,26 @@ TEST_F(PosiFile, ADamagedFileSaysWhere) {
   const std::string start = kHead + kWords;
   const struct {
     const char* what;
-    std::string bytes, words;
-  } rows[] = {
-      {"empty", "", Text(6451)},
-      {"magic alone", "\"QV-R7\"", Text(6451)},
-      {"cut in the devices", "\"QV-R7\"\r\n\"POS MODE\"\r\n\"a\",\"b\"", Text(6451)},
-      {"cut in the words", kHead + "\"NEW\",\"OLD\"", Text(6451)},
-      {"no records", start, Text(6454)},
-      {"open quote in the head", "\"QV-R7\"\r\n\"POS MODE\r\n", Text(6451)},
-      {"cut line", start + Line("3") + Line("4").substr(0, 50), Text(6452, "4")},
-      {"number alone", start + "8", Text(6452, "8")},
-      {"open quote", start + Line("3", "x\"y"), Text(6452, "3")},
-      {"number 0", start + Line("0"), Text(6453, "0")},
-      {"number 1000", start + Line("1") + Line("1000"), Text(6453, "1000")},
-      {"negative", start + Line("-1"), Text(6453, "-1")},
-      {"fraction", start + Line("1.5"), Text(6453, "1.5")},
-      {"text", start + Line("\"abc\""), Text(6453, "abc")},
-      {"huge", start + Line("99999999999999999999"), Text(6453, "10000000000000000000")},
-      {"a column too few", start + Line("1").substr(0, 20) + "\r\n" + Line("2"), ""},
-  };
+    std::string bytes;
+    int line;
+    std::string words;
+  } rows[] = {{"empty", "", 1, Text(6451)},
+              {"cut in the devices", "\"QV-R7\"\r\n\"POS MODE\"\r\n\"a\",\"b\"", 3, Text(6451)},
+              {"cut in the words", kHead + "\"NEW\",\"OLD\"", 4, Text(6451)},
+              {"no records", start, 4, Text(6454)},
+              {"cut line", start + Line("3") + Line("4").substr(0, 50), 6, Text(6452, "4")},
+              {"number alone", start + "8", 5, Text(6452, "8")},
+              {"open quote", start + Line("3", "x\"y"), 5, Text(6452, "3")},
+              {"number 0", start + Line("0"), 5, Text(6453, "0")},
+              {"number 1000", start + Line("1") + Line("1000"), 6, Text(6453, "1000")},
+              {"fraction", start + Line("1.5"), 5, Text(6453, "1.5")},
+              {"text", start + Line("\"abc\""), 5, Text(6453, "abc")}};
   PosiTableInit();
   for (const auto& row : rows) {
     AppState.PosiFileNotOurs = False;
     EXPECT_EQ(Read(row.bytes), 1) << row.what;
     EXPECT_TRUE(AppState.PosiFileNotOurs) << row.what;
-    if (!row.words.empty()) {
-      EXPECT_EQ(trouble.words, row.words) << row.what;
-    }
+    EXPECT_EQ(trouble.words, Text(6321, std::to_string(row.line), row.words)) << row.what;
     EXPECT_FALSE(trouble.may_pass) << row.what;
   }
   EXPECT_TRUE(forms.boxes.empty());
@@ -263,9 +256,25 @@ TEST_F(PosiFile, ADamagedFileSaysWhere) {
 }
 
 TEST_F(PosiFile, AFileOfAnotherKindIsTold) {
-  EXPECT_EQ(Read("\"QV-R8\"\r\n\"POS MODE\"\r\n"), 0);
-  EXPECT_TRUE(AppState.PosiFileNotOurs);
-  EXPECT_EQ(forms.LastBox(), Text(21) + "\n" + Text(20));
+  const struct {
+    const char* bytes;
+    std::string what;  ///< it is; empty: nobody knows
+  } rows[] = {{"\"QV-R8\"\r\n\"POS MODE\"\r\n", ""},
+              {"\"QV-R7\",\"PRM\"\r\n5\r\n\"HOME\",6,4\r\n", "a parameter file"},
+              {"\"QV-R7\"\r\n\"Program\"\r\n12\r\n", "a program file"},
+              {"\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n", "a group data file"},
+              {"\"QV-R7\",\"SM\"\r\n", "a sequence macro file"},
+              {"\"QV-R7\",\"NB-STDPRM\"\r\n", "a list of standard parameters"},
+              {"\"QV-R7\",\"QV-CMNPRM\"\r\n", "the list of common parameters"},
+              {"1\r\n\"28L-100\",2,0,0", "a device list"},
+              {"58\r\nP\r\nHOME\r\nMVP\r\nMVA\r\n", "the command list"}};
+  for (const auto& row : rows) {
+    AppState.PosiFileNotOurs = False;
+    EXPECT_EQ(Read(row.bytes), 0) << row.what;
+    EXPECT_TRUE(AppState.PosiFileNotOurs) << row.what;
+    const std::string told = "\n\nThe file \"job.qvd\" is " + row.what + ".";
+    EXPECT_EQ(forms.LastBox(), Text(21) + "\n" + Text(20) + (row.what.empty() ? "" : told));
+  }
 }
 
 TEST_F(PosiFile, AHundredMegabytesEndInWords) {
@@ -280,10 +289,8 @@ TEST_F(PosiFile, AHundredMegabytesEndInWords) {
 TEST_F(PosiFile, CommentsFromElsewhereBecomeOneLine) {
   const struct {
     const char *written, *read;
-  } rows[] = {{"a\tb\r\nc", "a b  c"},
-              {"say \"\"x\"\", y", "say \"x\", y"},
-              {"\x95\x5c\x8e\xa6", "表示"},
-              {"a\xfe", "a\uFFFD"}};
+  } rows[] = {
+      {"a\tb\r\nc", "a b  c"}, {"say \"\"x\"\", y", "say \"x\", y"}, {"\x95\x5c\x8e\xa6", "表示"}};
   for (const auto& row : rows) {
     ASSERT_EQ(Read(kHead + kWords + Line("1", row.written)), 0);
     EXPECT_EQ(TextOf(Stage(kComment, 1)), row.read);
@@ -323,6 +330,9 @@ TEST_F(PosiFile, FaultsOfTheDeviceMayPass) {
   EXPECT_TRUE(trouble.may_pass);
   EXPECT_EQ(trouble.words, Text(5914, "job.qvd"));
   EXPECT_TRUE(AppState.PosiFileNotOurs);
+  EXPECT_EQ(Read(kHead + kWords + Line("1", "a\xfe")), 1);
+  EXPECT_EQ(trouble.words, Text(6320, "job.qvd", "5"));
+  EXPECT_FALSE(trouble.may_pass);
   EXPECT_EQ(ReadPosiFile("/data/none.qvd", trouble), 1);
   EXPECT_EQ(trouble.words, Text(5910, "none.qvd"));
 }

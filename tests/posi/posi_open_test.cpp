@@ -249,9 +249,10 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
     std::function<void()> prepare = [] {};
   } rows[] = {
       {"wrong magic", "\"QV-R8\"\r\n", Text(21) + "\n" + Text(20)},
-      {"nothing", "", Text(484) + "\n\n" + Text(6451)},
-      {"cut short", Bytes(own).substr(0, 300), Text(484) + "\n\n" + Text(6452, "2")},
-      {"number 1000", no_number, Text(484) + "\n\n" + Text(6453, "1000")},
+      {"nothing", "", Text(484) + "\n\n" + Text(6321, "1", Text(6451))},
+      {"cut short", Bytes(own).substr(0, 300),
+       Text(484) + "\n\n" + Text(6321, "6", Text(6452, "2"))},
+      {"number 1000", no_number, Text(484) + "\n\n" + Text(6321, "6", Text(6453, "1000"))},
       {"other mode", Bytes(file), Text(330) + "\n" + Text(331)},
       {"no device name", other("ROBOT"), Text(4) + "\n" + Text(5)},
       {"unknown device", other("QV- 28L-333_"), Text(4) + "\n" + Text(5)},

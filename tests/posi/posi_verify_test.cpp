@@ -205,9 +205,10 @@ TEST_F(VerifyTest, AFileThatCannotBeCompared) {
   const struct {
     const char* what;
     std::string bytes, words;
-  } rows[] = {{"other kind", "\"QV-R8\"\r\n", Text(21) + "\n" + Text(20)},
-              {"damaged", good.substr(0, 200), Text(484) + "\n\n" + Text(6452, "2")},
-              {"other mode", program, Text(330) + "\n" + Text(331)}};
+  } rows[] = {
+      {"other kind", "\"QV-R8\"\r\n", Text(21) + "\n" + Text(20)},
+      {"damaged", good.substr(0, 200), Text(484) + "\n\n" + Text(6321, "5", Text(6452, "2"))},
+      {"other mode", program, Text(330) + "\n" + Text(331)}};
   const auto settei = DevSettei[0].NewTypeWord;
   for (const auto& row : rows) {
     virt.files.Put(kPath, row.bytes);

@@ -25,9 +25,6 @@ TEST_F(TextFile, FilesAreInTheSystemsCodePage) {
   std::string text;
   ASSERT_TRUE(ReadTextFile(kPath, text).ok);
   EXPECT_EQ(text, "位置\r\n");
-  files.Put(kPath, "a\x88");
-  ASSERT_TRUE(ReadTextFile(kPath, text).ok);
-  EXPECT_EQ(text, "a\uFFFD");
 }
 
 TEST_F(TextFile, TheSettingChoosesTheCodePage) {
@@ -55,6 +52,26 @@ TEST_F(TextFile, AMissingCharacterRefusesTheSaveBeforeAnythingIsWritten) {
   EXPECT_EQ(result.words, "Line 3 holds the character \"😀\", which the file cannot hold.");
   EXPECT_EQ(files.Calls(), 0);
   EXPECT_EQ(files.Content(kPath), "old");
+}
+
+TEST_F(TextFile, AFileOfAnotherCodePageIsRefusedWithItsLine) {
+  const struct {
+    const char *page, *bytes;
+    int line;  ///< 0: it is read
+  } rows[] = {{"65001", "1\r\n\x88\xCA\r\n\xFF", 2},
+              {"65001", "1\r\n\uFFFD", 0},  // saved so, it is a character as any other
+              {"932", "1\r\n2\r\na\x88", 3}};
+  for (const auto& row : rows) {
+    doors.settings->Set("Settings", "CodePage", row.page);
+    files.Put(kPath, row.bytes);
+    std::string text = "kept";
+    const TextFileResult result = ReadTextFile(kPath, text);
+    EXPECT_EQ(result.bad_line, row.line);
+    EXPECT_EQ(result.ok, row.line == 0);
+    EXPECT_EQ(text == "kept", row.line > 0);
+    EXPECT_EQ(result.words,
+              row.line > 0 ? Text(6320, "位置.qvd", std::to_string(row.line)) : std::string());
+  }
 }
 
 TEST_F(TextFile, ReadingFailsInWords) {

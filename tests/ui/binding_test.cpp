@@ -81,13 +81,15 @@ TEST_F(BindingTest, EnterAndTheFocusReachTheRecord) {
   edit.window()->activateWindow();
   std::string events;
   box.Enter = [&events] { events += "enter "; };
+  box.Undo = [&events] { return events += "undo ", true; };
   box.GotFocus = [&events] { events += "got "; };
   box.LostFocus = [&events] { events += "lost "; };
   Draw<QLineEdit>(frmSelectPosiNo2.txtToNo).setFocus(Qt::TabFocusReason);
   edit.setFocus(Qt::TabFocusReason);
   QTest::keyClick(&edit, Qt::Key_Return);
+  QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier);
   QTest::keyClick(&edit, Qt::Key_Tab);
-  EXPECT_EQ(events, "got enter lost ");
+  EXPECT_EQ(events, "got enter undo lost ");
 }
 
 // Choices.

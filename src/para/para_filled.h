@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "forms/control.h"
+
+namespace tr7 {
+
+/// A field of the parameter view that must hold something and does not.
+struct MissingParaField {
+  Control* Field = nullptr;  ///< none: every field that counts is filled
+  std::string Name;          ///< "AXIS2 PUSH  Home push"
+};
+
+/// The first such field in the order of the Tab key.
+MissingParaField FirstMissingParaField();
+
+}  // namespace tr7
