@@ -130,8 +130,8 @@ void InstallFrame() {
   f.cmdReset.Click = AlarmReset;
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
   f.lblCtMode.DblClick = ModeLabelDblClick;
-  f.Timer1.Tick = PortLampHyoji;
-  f.Timer1.HasWork = PortLampLies;  // an idle tool is not woken for a lamp that tells the truth
+  f.Timer1.Tick = PortWatchTick;
+  f.Timer1.HasWork = PortWatchHasWork;  // an idle tool is not woken for a port in order
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
   Hooks.ActiveViewChanged = FollowActiveView;

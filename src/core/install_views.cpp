@@ -4,7 +4,6 @@
 #include "core/hooks.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
-#include "core/wait.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
 #include "para/change_device.h"
@@ -29,7 +28,6 @@ void InstallLinkTimers() {
   frmMain.TimerTusin.Tick = TimerTusinTick;
   frmMain.TimerTusin.HasWork = TimerTusinHasWork;
   frmMain.timerTimeout.Tick = TimerTimeoutTick;
-  frmMain.mmsecTimer.Tick = MmsecTimerTick;
 }
 
 }  // namespace

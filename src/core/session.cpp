@@ -11,6 +11,7 @@
 #include "core/reconcile.h"
 #include "core/text.h"
 #include "core/version_check.h"
+#include "core/views.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "link/para_commands.h"
@@ -22,10 +23,10 @@ namespace tr7 {
 namespace {
 
 constexpr int kConnectSteps = 4;
+constexpr int kMsgPortLost = 5920;
 
 int ConnectSteps() {
   SetOnline();
-  AppState.TusinFailed = False;
   ProgressScope progress(Text(368), kConnectSteps, false);
   if (CtComStart(1) != 0) return 1;
   if (GetVersionNoDisp() != 0) return 1;
@@ -118,6 +119,17 @@ int FirstConnection() {
   AppState.AxisPattern = 0;
   FailToOffline();
   return 1;
+}
+
+bool PortWatchHasWork() { return PortLampLies() || (PortIsLost() && !LineIsInUse()); }
+
+void PortWatchTick() {
+  PortLampHyoji();
+  if (!PortIsLost() || LineIsInUse()) return;
+  const std::string lost = LostPortText();
+  FailToOffline();
+  AllViewsCmdYuko();
+  MsgBox(lost + "\n\n" + Text(kMsgPortLost));
 }
 
 void LiftOffline() {

@@ -1,19 +1,14 @@
 #include "core/wait.h"
 
-#include "forms/frm_main.h"
 #include "platform/event_pump.h"
+#include "platform/timer.h"
 
 namespace tr7 {
 
-void MmsecTimerTick() {
-  frmMain.mmsecTimer.Stop();
-  frmMain.MsecElapsed = true;
-}
-
 void TusinWaitMs(int ms) {
-  frmMain.MsecElapsed = false;
-  frmMain.mmsecTimer.Start(ms);
-  while (!frmMain.MsecElapsed) Pump();
+  Timer timer(ms, true);
+  timer.Tick = [&timer] { timer.Stop(); };
+  while (timer.Enabled) Pump();
 }
 
 }  // namespace tr7

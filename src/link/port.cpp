@@ -6,6 +6,7 @@
 #include "core/settings.h"
 #include "core/text.h"
 #include "forms/frm_main.h"
+#include "link/request_queue.h"
 #include "platform/doors.h"
 
 namespace tr7 {
@@ -62,6 +63,7 @@ int OpenShutPort() {
     doors.serial->Close();
     return 1;
   }
+  AppState.OpenPortName = device;
   return 0;
 }
 
@@ -85,12 +87,22 @@ int TusinPortOpen() {
 }
 
 void TusinPortClose() {
-  if (!AppState.PortOccupy) TusinPortCloseForce();
+  if (!AppState.PortOccupy && TusinQueue.IsEmpty()) TusinPortCloseForce();
 }
 
 void TusinPortCloseForce() {
   doors.serial->Close();
+  AppState.OpenPortName.clear();
   PortLampHyoji();
+}
+
+bool PortIsLost() { return !AppState.OpenPortName.empty() && !doors.serial->IsOpen(); }
+
+std::string LostPortText() { return Text(5905, AppState.OpenPortName, doors.serial->FaultText()); }
+
+bool LineIsInUse() {
+  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || !TusinQueue.IsEmpty() ||
+         TusinQueue.untold;
 }
 
 void SetOffline() {
