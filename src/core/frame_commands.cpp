@@ -8,6 +8,7 @@
 #include "forms/frm_posi.h"
 #include "link/port.h"
 #include "platform/doors.h"
+#include "session/session.h"
 #include "session/session_menus.h"
 #include "state/app_state.h"
 #include "state/frame_menus.h"
@@ -101,8 +102,8 @@ void InstallFrame() {
   f.mnuSettingOptions.Click = ShowOptions;
   f.tbToolBar.ButtonClick = ToolBarClick;
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
-  f.Timer1.Tick = PortLampHyoji;
-  f.Timer1.HasWork = PortLampLies;  // an idle tool is not woken for a lamp that tells the truth
+  f.Timer1.Tick = PortWatchTick;
+  f.Timer1.HasWork = PortWatchHasWork;  // an idle tool is not woken for a port in order
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
   f.FrontChanged = FollowActiveView;

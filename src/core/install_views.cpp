@@ -24,7 +24,6 @@ void InstallLinkTimers() {
   frmMain.TimerTusin.Tick = TimerTusinTick;
   frmMain.TimerTusin.HasWork = TimerTusinHasWork;
   frmMain.timerTimeout.Tick = TimerTimeoutTick;
-  frmMain.mmsecTimer.Tick = MmsecTimerTick;
 }
 
 }  // namespace

@@ -138,7 +138,7 @@ void UnloadFrame() {
   }
   // A flow beneath this close, if there is one, comes to its end: no reply will come any more.
   AppState.CancelRequested = True;
-  AppState.TusinTimedOut = True;
+  AppState.Closing = True;
   TusinPortCloseForce();
   SaveSettingsAtExit();
   doors.forms->EndProcess();
@@ -155,7 +155,6 @@ void Main() {
   AppState.AxisPattern = 0;
   AppState.LanguageChanged = False;
   TusinQueueClear();
-  TusinQueueInit();
   AppState.NextProgViewNo = 1;
   AppState.BaudIndex = 0;
   AppState.Offline = True;

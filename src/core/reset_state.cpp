@@ -47,7 +47,7 @@ void ResetState() {
   ResetViews();
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
-  TusinQueues = RequestQueues{};
+  TusinQueue = RequestQueue{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};
   CtDev.fill(CtDeviceRecord{});

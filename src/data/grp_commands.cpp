@@ -43,7 +43,7 @@ int ReadGroups(GrpTableRecord& read) {
   ProgressScope progress(Text(368), kReadBarMax, true);
   for (int number = 1; number <= kGroups; ++number) {
     if (AppState.CancelRequested) return kTransferStopped;
-    if (!ReadGroup(number, read)) return kTransferFailed;
+    if (!ReadGroup(number, read)) return FailedOrStopped();
     progress.Advance();
   }
   return kTransferDone;

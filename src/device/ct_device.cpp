@@ -25,9 +25,8 @@ constexpr int kBlockTimeoutMs = 2000;
 constexpr int kOpenAttempts = 4;
 
 int OpenWithRetries() {
-  AppState.TusinRetryCount = 0;
-  while (TusinPortOpen() != 0) {
-    if (++AppState.TusinRetryCount >= kOpenAttempts) return 1;
+  for (int attempt = 1; TusinPortOpen() != 0; ++attempt) {
+    if (attempt >= kOpenAttempts) return 1;
     TusinWaitMs(100);
   }
   return 0;

@@ -89,14 +89,12 @@ struct FrmMain : View {
   Timer TimerJusin{1, true};
   Timer TimerTusin{2, true};
   Timer timerTimeout{15000, false};
-  Timer mmsecTimer{0, false};
   Timer Timer1{500, true};
   Timer Timer2{0, true};
   Timer timerTerminate{100, false};
   Timer TimerTest{1000, false};
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
-  bool MsecElapsed = false;            ///< set by mmsecTimer
 };
 
 extern FrmMain frmMain;

@@ -22,6 +22,7 @@ constexpr int kMsgUnknownError = 32;
 constexpr int kMsgFileName = 120;
 constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 constexpr int kMsgMain = 1036;
+constexpr int kMsgNumberAlone = 5921;
 
 constexpr std::size_t kUnitAt = 3;
 constexpr std::size_t kCodeAt = 5;
@@ -68,6 +69,18 @@ const ErrListPair* FindError(const ErrorSource& source, const std::string& code)
   return found == source.list->end() ? nullptr : &*found;
 }
 
+/// The words for an error that no list explains.
+std::string UnknownErrorText(const std::string& code) {
+  return ErrorList.ErrListMissing && !code.empty() ? Text(kMsgNumberAlone, code)
+                                                   : Text(kMsgUnknownError);
+}
+
+void HintAtMissingList() {
+  if (!ErrorList.ErrListMissing || ErrorList.MissingHintShown) return;
+  ErrorList.MissingHintShown = True;
+  MsgBox(TwoLines(kMsgNoList, kMsgPutList));
+}
+
 }  // namespace
 
 int ReadErrorList() {
@@ -86,21 +99,18 @@ int ReadErrorList() {
 }
 
 void DecodeCtError(const std::string& reply) {
-  if (ErrorList.ErrListMissing) {
-    MsgBox(TwoLines(kMsgNoList, kMsgPutList));
-    return;
-  }
   ErrorList.LastErrCode = CharacterAt(reply, kCodeAt);
   const ErrorSource source = SourceOf(CharacterAt(reply, kUnitAt));
   const ErrListPair* error = FindError(source, ErrorList.LastErrCode);
   ErrorList.LastErrShown = error != nullptr;
-  ErrorList.LastErrText = error ? error->Name : Text(kMsgUnknownError);
+  ErrorList.LastErrText = error ? error->Name : UnknownErrorText(ErrorList.LastErrCode);
 
   AppState.CtErrorNo = ErrorList.LastErrCode;
   AppState.CtErrorName = ErrorList.LastErrText;
   AppState.CtErrorKnown = ErrorList.LastErrShown;
   frmMain.imgAlarm.Visible = true;
   frmMain.sbStatusBar.Panels[kPanelError] = source.label + ":" + ErrorList.LastErrText;
+  HintAtMissingList();
 }
 
 void ErrorHyoji() { DecodeCtError(AppState.LastCtErrorText); }

@@ -20,6 +20,7 @@ struct ErrorListRecord {
   std::vector<ErrListPair> ErrListMain;  ///< the main board's, at most `kErrListPairs`
   std::vector<ErrListPair> ErrListAxis;  ///< every axis's
   Bool16 ErrListMissing = True;          ///< until a read has succeeded
+  Bool16 MissingHintShown;               ///< the user knows that the list is missing
   Bool16 LastErrShown;                   ///< the list held a text
   std::string LastErrText;
   std::string LastErrCode;  ///< one character
@@ -33,8 +34,9 @@ int ReadErrorList();
 
 /// Decodes an error reply "0%%", unit, middle, code: sets `CtErrorNo`, `CtErrorName` and
 /// `CtErrorKnown` of `AppState`, lights the alarm lamp and tells the error in the status bar.
-/// Without an error list it says so in a message box and does nothing else. A reply that is short
-/// or holds a code that cannot be printed counts as an unknown error.
+/// A reply that is short or holds a code that cannot be printed counts as an unknown error. Without
+/// an error list the number stands for the text, and the first time a box says where the list
+/// belongs.
 void DecodeCtError(const std::string& reply);
 
 /// Decodes `LastCtErrorText`.

@@ -43,19 +43,20 @@ int AxesInUseMask() {
 int MoveAxesToCt(int position_no, int kind) {
   std::string reply;
   const std::string command = kind == 1 ? "0MS" : "0MP";
-  return TusinCommand(command + PositionField(position_no) + Hex(AxesInUseMask()), 5, 1000, reply);
+  return TusinCommand(command + PositionField(position_no) + Hex(AxesInUseMask()), 5, 1000, reply,
+                      TusinPriority::Start);
 }
 
 int StartProgToCt(int program_no) {
   std::string number = Hex(program_no);
   if (number.size() == 1) number.insert(0, "0");
   std::string reply;
-  return TusinCommand("0MG" + number, 7, 0, reply);
+  return TusinCommand("0MG" + number, 7, 0, reply, TusinPriority::Start);
 }
 
 int StopToCt(int timeout_ms) {
   std::string reply;
-  return TusinCommand("0SP", 5, timeout_ms, reply);
+  return TusinCommand("0SP", 5, timeout_ms, reply, TusinPriority::Next);
 }
 
 int JogStartToCt(int speed_percent, int direction_code) {
@@ -65,7 +66,7 @@ int JogStartToCt(int speed_percent, int direction_code) {
     command += axis == direction_code / 2 ? std::to_string(direction_code % 2 + 1) : "0";
   }
   std::string reply;
-  return TusinCommand(command, 5, 1000, reply);
+  return TusinCommand(command, 5, 1000, reply, TusinPriority::Start);
 }
 
 int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::string& tail) {
@@ -73,7 +74,7 @@ int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::str
   for (const DirectMoveAxis& axis : axes) command += DirectMoveField(axis);
   last_move_direct_text = command + tail;
   std::string reply;
-  return TusinCommand(last_move_direct_text, 5, 1000, reply);
+  return TusinCommand(last_move_direct_text, 5, 1000, reply, TusinPriority::Start);
 }
 
 const std::string& LastMoveDirectText() { return last_move_direct_text; }

@@ -8,7 +8,8 @@
 
 namespace tr7 {
 
-// Commands that move axes. 0 success, 1 failure; the exchange has told the user of a failure.
+// Commands that move axes. 0 success, 1 failure; the user has been told of a failure. A start that
+// a stop overtakes before it is sent, or sent again, goes out no more: it fails and nobody is told.
 
 /// "0MP" (or "0MS" for kind 1): moves the axes in use to a position number.
 int MoveAxesToCt(int position_no, int kind);
@@ -17,7 +18,7 @@ int MoveAxesToCt(int position_no, int kind);
 /// bound.
 int StartProgToCt(int program_no);
 
-/// "0SP": stops. `timeout_ms` 1000 or 5000.
+/// "0SP": stops. `timeout_ms` 1000 or 5000. It goes out as the next frame, whatever else waits.
 int StopToCt(int timeout_ms);
 
 /// "0JR": jogs. `speed_percent` 10 to 90 goes out divided by 10, anything else as 0;

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "forms/frm_main.h"
+#include "link/request_queue.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/settings.h"
@@ -62,6 +63,7 @@ int OpenShutPort() {
     doors.serial->Close();
     return 1;
   }
+  AppState.OpenPortName = device;
   return 0;
 }
 
@@ -85,12 +87,22 @@ int TusinPortOpen() {
 }
 
 void TusinPortClose() {
-  if (!AppState.PortOccupy) TusinPortCloseForce();
+  if (!AppState.PortOccupy && TusinQueue.IsEmpty()) TusinPortCloseForce();
 }
 
 void TusinPortCloseForce() {
   doors.serial->Close();
+  AppState.OpenPortName.clear();
   PortLampHyoji();
+}
+
+bool PortIsLost() { return !AppState.OpenPortName.empty() && !doors.serial->IsOpen(); }
+
+std::string LostPortText() { return Text(5905, AppState.OpenPortName, doors.serial->FaultText()); }
+
+bool LineIsInUse() {
+  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || !TusinQueue.IsEmpty() ||
+         TusinQueue.untold;
 }
 
 bool PortLampLies() { return frmMain.imgComPort.Visible != doors.serial->IsOpen(); }

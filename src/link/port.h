@@ -10,7 +10,8 @@ int TusinPortOpen();
 /// The same routine under the name that the device comparison uses.
 inline int TusinPortOpen2() { return TusinPortOpen(); }
 
-/// Closes the line unless `PortOccupy` keeps it.
+/// Closes the line unless `PortOccupy` keeps it, or a request that waits: a sequence inside another
+/// one's wait leaves the line to the outer one.
 void TusinPortClose();
 /// Closes the line always.
 void TusinPortCloseForce();
@@ -28,6 +29,13 @@ class PortClosedAfter {
 /// The device behind a port number 1 to 9: the setting `PortDevice`n, else the n-th port that the
 /// system lists; empty when there is none.
 std::string PortDevice(int port_no);
+
+/// True when the line that was opened is gone by itself, until it is closed or opened anew.
+bool PortIsLost();
+/// The user's words for that, with the device's name.
+std::string LostPortText();
+/// A long flow or a request has the line.
+bool LineIsInUse();
 
 /// Shows the port lamp and whether the controller is a simulated one.
 void PortLampHyoji();

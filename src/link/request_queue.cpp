@@ -1,72 +1,78 @@
 #include "link/request_queue.h"
 
-#include <utility>
+#include <algorithm>
+#include <cstddef>
+
+#include "forms/frm_main.h"
+#include "state/app_state.h"
 
 namespace tr7 {
 
-RequestQueues TusinQueues;
-
-void RequestQueue::Shift() {
-  for (std::size_t i = 0; i + 1 < rows.size(); ++i) rows[i] = std::move(rows[i + 1]);
-  rows.back() = RequestRow{};
-  if (last >= 0) --last;
-  if (last == -1) has_work = False;
-}
-
-void RequestQueue::FoundEmpty() {
-  last = -1;
-  has_work = False;
-}
+RequestQueue TusinQueue;
 
 namespace {
 
-std::int16_t TakeOrdinaryId() {
-  const std::int16_t id = TusinQueues.next_id;
-  TusinQueues.next_id = id + 1 >= 2000 ? std::int16_t{1000} : static_cast<std::int16_t>(id + 1);
-  return id;
-}
-
-std::int16_t TakePriorityId() {
-  std::int16_t& last = TusinQueues.last_priority_id;
-  last = last + 1 > 10000 ? std::int16_t{1000} : static_cast<std::int16_t>(last + 1);
-  return last;
-}
+bool IsOrdinary(const TusinRequest& request) { return request.priority != TusinPriority::Next; }
+bool IsStart(const TusinRequest& request) { return request.priority == TusinPriority::Start; }
 
 }  // namespace
 
-std::int16_t TusinRequestPut(const std::string& command, int reply_length, int timeout_ms,
-                             int value1, int value2, Bool16 show_message) {
-  const std::int16_t id = TakeOrdinaryId();
-  RequestQueue& queue = TusinQueues.ordinary;
-  if (queue.last >= kQueueRows - 1) return -1;
-  ++queue.last;
-  queue.rows[static_cast<std::size_t>(queue.last)] = {command, reply_length, timeout_ms,  value1,
-                                                      value2,  id,           show_message};
-  queue.has_work = True;
-  return id;
+bool RequestQueue::Put(TusinRequest& request) {
+  if (request.priority == TusinPriority::Next) {
+    EndWaiting(TusinEnd::Withdrawn, IsStart);
+    waiting.insert(std::find_if(waiting.begin(), waiting.end(),
+                                [](const TusinRequest* row) { return IsOrdinary(*row); }),
+                   &request);
+    return true;
+  }
+  const std::size_t rows = waiting.size() + (on_line ? 1 : 0);
+  if (rows >= kQueueRows) return false;
+  waiting.push_back(&request);
+  return true;
 }
 
-std::int16_t TusinRequestPutHigh(const std::string& command, int reply_length, int timeout_ms,
-                                 int value1, int value2, Bool16 show_message) {
-  const std::int16_t id = TakePriorityId();
-  RequestQueue& queue = TusinQueues.priority;
-  const int row = TusinQueues.ordinary.last + 1;
-  if (row >= kQueueRows) return id;  // no row is left to put it in
-  queue.rows[static_cast<std::size_t>(row)] = {command, reply_length, timeout_ms,  value1,
-                                               value2,  id,           show_message};
-  queue.last = row;
-  queue.has_work = True;
-  return id;
+void RequestQueue::TakeOut(const TusinRequest& request) {
+  std::erase(waiting, &request);
+  if (untold == &request) untold = nullptr;
+  if (on_line != &request) return;
+  on_line = nullptr;
+  exchange = Exchange();
+  frmMain.timerTimeout.Stop();
 }
 
-void TusinQueueClear() {
-  for (RequestRow& row : TusinQueues.ordinary.rows) row = RequestRow{};
+TusinRequest& RequestQueue::TakeNext() {
+  on_line = waiting.front();
+  waiting.erase(waiting.begin());
+  return *on_line;
 }
 
-void TusinQueueInit() {
-  TusinQueues.next_id = 1000;
-  TusinQueues.ordinary.last = -1;
-  TusinQueues.priority.last = -1;
+void RequestQueue::FinishOnLine(TusinEnd end) {
+  TusinRequest& request = *on_line;
+  TakeOut(request);
+  request.end = end;
+  request.done = true;
 }
+
+void RequestQueue::EndWaiting(TusinEnd end, bool (*picks)(const TusinRequest& request)) {
+  std::erase_if(waiting, [&](TusinRequest* row) {
+    if (!picks(*row)) return false;
+    row->end = end;
+    row->done = true;
+    return true;
+  });
+}
+
+bool RequestQueue::StopWaits() const {
+  return !waiting.empty() && waiting.front()->priority == TusinPriority::Next;
+}
+
+void TusinQueueClear() { TusinQueue.EndWaiting(TusinEnd::GivenUp, IsOrdinary); }
+
+bool IsCancelled(const TusinRequest& request) {
+  return request.may_cancel && AppState.CancelRequested && AppState.ProgressWriting &&
+         frmMain.cmdComCancel.Visible;
+}
+
+bool LineIsBarred() { return AppState.Offline || AppState.Closing || TusinQueue.untold != nullptr; }
 
 }  // namespace tr7

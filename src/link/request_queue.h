@@ -1,60 +1,68 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "base/bool16.h"
+#include "link/exchange.h"
 
 namespace tr7 {
 
+/// Requests that the queue holds at most, the one on the line included.
 inline constexpr int kQueueRows = 11;
 
-/// One request as it waits for its turn.
-struct RequestRow {
-  std::string command;   ///< without CR LF; empty: no request
+enum class TusinPriority {
+  Ordinary,
+  Start,  ///< starts a movement: a stop that overtakes it withdraws it, it never follows the stop
+  Next,   ///< a stop: goes out as the next frame, whatever waits, also where the queue is full
+};
+
+/// One request and what became of it. It belongs to the one who waits for it, on the stack, and is
+/// known to the queue until it is done or taken out.
+struct TusinRequest {
+  std::string message;   ///< command and data, without CR LF
   int reply_length = 0;  ///< with CR LF
-  int timeout_ms = 0;    ///< a copy for the record; the exchange reads `TusinTimeoutMs`
-  int value1 = 0;        ///< the caller's own, carried along
-  int value2 = 0;
-  std::int16_t id = 0;
-  Bool16 show_message;  ///< the exchange tells the user of a failure
+  int timeout_ms = 0;    ///< of each send; 0: none
+  TusinPriority priority = TusinPriority::Ordinary;
+  bool may_cancel = false;  ///< the cancel button, when it is pressed from now on, ends it
+
+  bool done = false;
+  TusinEnd end = TusinEnd::GivenUp;
+  std::string reply;  ///< with CR LF; of `TusinEnd::Good`
 };
 
-/// Requests in order; row 0 is next.
+/// The requests that wait for the line, and the one that has it.
 struct RequestQueue {
-  std::array<RequestRow, kQueueRows> rows;
-  int last = -1;  ///< last row, -1 when empty
-  Bool16 has_work;
+  std::vector<TusinRequest*> waiting;  ///< in the order of service
+  TusinRequest* on_line = nullptr;
+  Exchange exchange;  ///< of the request on the line
+  /// A failed request whose waiter has not told the user and gone offline yet: the line is shut.
+  const TusinRequest* untold = nullptr;
+  /// A request was withdrawn while its reply may be on the way.
+  bool late_reply_possible = false;
 
-  /// Takes row 0 out; the others move up.
-  void Shift();
-  /// Row 0 turned out to be empty: the queue holds no work.
-  void FoundEmpty();
+  bool IsEmpty() const { return waiting.empty() && !on_line; }
+  /// False when no row is free: nothing has been queued.
+  [[nodiscard]] bool Put(TusinRequest& request);
+  /// The request's waiter goes; what has been queued of it is forgotten.
+  void TakeOut(const TusinRequest& request);
+  /// Brings the next of the waiting requests, of which there is one, to the line.
+  TusinRequest& TakeNext();
+  /// The request on the line is done; its exchange is forgotten.
+  void FinishOnLine(TusinEnd end);
+  /// Ends the waiting requests that the condition picks; they are done.
+  void EndWaiting(TusinEnd end, bool (*picks)(const TusinRequest& request));
+  bool StopWaits() const;
 };
 
-struct RequestQueues {
-  RequestQueue ordinary;
-  RequestQueue priority;
-  std::int16_t next_id = 1000;        ///< of the ordinary queue: 1000 to 1999
-  std::int16_t last_priority_id = 0;  ///< of the priority queue: 1 to 10000, then 1000 on
-};
+extern RequestQueue TusinQueue;
 
-extern RequestQueues TusinQueues;
-
-/// Adds a request and returns its id, or -1 when the queue is full (the id counter has moved on).
-std::int16_t TusinRequestPut(const std::string& command, int reply_length, int timeout_ms,
-                             int value1, int value2, Bool16 show_message);
-/// The same for the priority queue, with no test for a full queue. Its row index is taken from the
-/// ordinary queue: a priority request behind ordinary ones lands below an empty row 0, which stops
-/// the request timer for good. That is how the controller's other tools behave, and it is kept.
-std::int16_t TusinRequestPutHigh(const std::string& command, int reply_length, int timeout_ms,
-                                 int value1, int value2, Bool16 show_message);
-
-/// Empties the rows of the ordinary queue.
+/// Ends whatever waits for the line as given up, a stop apart.
 void TusinQueueClear();
-/// Ordinary ids start at 1000 again; both queues count as empty. The has-work flags stay: an empty
-/// row 0 clears them at the next tick.
-void TusinQueueInit();
+
+/// The cancel button beside the progress bar has been pressed for this request.
+bool IsCancelled(const TusinRequest& request);
+/// No request may go out: offline, a failure that is being told, or the tool closes.
+bool LineIsBarred();
 
 }  // namespace tr7

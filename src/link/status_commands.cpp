@@ -4,7 +4,6 @@
 
 #include "base/text_helpers.h"
 #include "link/port.h"
-#include "link/request_queue.h"
 #include "link/tusin_wait.h"
 #include "state/app_state.h"
 #include "state/online.h"
@@ -34,9 +33,9 @@ int ReadVersion(Version& version) {
 
 int CtComStart(int show_message) {
   std::string reply;
-  const TusinOutcome outcome =
-      TusinWait("0CM1", 6, 1000, reply, TusinMatch::ThisId, show_message != 0);
-  if (outcome != TusinOutcome::Good) {
+  TusinOptions options;
+  options.show_message = show_message != 0;
+  if (TusinWait("0CM1", 6, 1000, reply, options) != TusinOutcome::Good) {
     SetOffline();
     return 1;
   }
@@ -63,7 +62,7 @@ int CtControlModeSet(int mode, int m, int mask) {
 
 int ReadAlarmFromCt() {
   std::string reply;
-  if (TusinWait("0RA", 6, 2000, reply, TusinMatch::LaterToo) != TusinOutcome::Good) return -1;
+  if (TusinCommand("0RA", 6, 2000, reply) != 0) return -1;
   const std::string digit = reply.substr(3, 1);
   // The digit is read as a decimal one: a mask above 9 never equals it, and only "F" says that all
   // axes of such a controller stand still.
@@ -80,8 +79,7 @@ int ReadHomeStateFromCt() {
 
 int AlarmResetToCt() {
   std::string reply;
-  const TusinOutcome outcome = TusinWait("0AR", 5, 3000, reply);
-  if (outcome == TusinOutcome::Good) return 0;
+  if (TusinCommand("0AR", 5, 3000, reply) == 0) return 0;
   TusinPortClose();
   return 1;
 }

@@ -7,6 +7,8 @@
 
 namespace tr7 {
 
+int FailedOrStopped() { return AppState.CancelRequested ? kTransferStopped : kTransferFailed; }
+
 bool ReadNamed(const std::string& frame, int reply_length, int timeout_ms, std::string& reply) {
   if (TusinCommand(frame, reply_length, timeout_ms, reply) != 0) return false;
   if (reply.starts_with(frame)) return true;
@@ -19,7 +21,6 @@ bool SendEchoed(const std::string& frame, int reply_length, int timeout_ms, std:
   if (TusinCommand(frame, reply_length, timeout_ms, reply) != 0) return false;
   if (reply.substr(0, echo) == frame.substr(0, echo)) return true;
   TusinPortClose();
-  AppState.TusinFailed = True;
   TellBadData();
   return false;
 }

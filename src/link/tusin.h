@@ -4,25 +4,27 @@
 #include <string>
 
 #include "base/bool16.h"
+#include "link/request_queue.h"
 
 namespace tr7 {
 
-/// One request and its reply, with retries, re-synchronisation and the user's message on failure.
-/// Called from the request timer only. `reply_length` counts CR LF. The outcome goes to
-/// `TusinResult`; 0 success, 1 failure.
-int TusinExchange(const std::string& command, int reply_length, const std::string& data,
-                  std::int16_t id, Bool16 show_message);
+/// One request and its reply, with retries and re-synchronisation. It shows no box and leaves port
+/// and state alone, but for opening the port: what follows from its end is the tick's and the
+/// waiter's.
+Exchange TusinExchange(TusinRequest& request);
 
-/// The request timer: the priority queue is drained, then one ordinary request is served.
+/// The request timer: brings the next request to the line, goes on with its exchange, and settles
+/// what holds once it is over.
 void TimerTusinTick();
-/// True when a tick of the request timer would serve something.
+/// True when a tick of the request timer would get anything on.
 bool TimerTusinHasWork();
 
-/// The receive poll: takes what the port has received and completes the line.
+/// The receive poll: takes what the port has received and completes the line. An error reply is
+/// decoded here, once, whoever waits for it.
 void TimerJusinTick();
 bool TimerJusinHasWork();
 
-/// One shot per send: the controller has not answered in time.
+/// One shot of the exchange: the controller has not answered in time, or a pause is over.
 void TimerTimeoutTick();
 
 }  // namespace tr7

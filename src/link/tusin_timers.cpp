@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include "forms/frm_main.h"
 #include "link/error_list.h"
+#include "link/port.h"
 #include "link/request_queue.h"
 #include "link/tusin.h"
 #include "platform/doors.h"
@@ -8,61 +11,74 @@
 namespace tr7 {
 namespace {
 
-constexpr int kTusinIntervalMs = 2;
+bool Every(const TusinRequest&) { return true; }
 
-void RearmTusin() { frmMain.TimerTusin.Start(kTusinIntervalMs); }
-
-int ExchangeRow(const RequestRow& row) {
-  AppState.TusinExchanging = True;
-  const int result = TusinExchange(row.command, row.reply_length, "", row.id, row.show_message);
-  AppState.TusinExchanging = False;
-  return result;
+void GiveUpAll() {
+  if (TusinQueue.on_line) TusinQueue.FinishOnLine(TusinEnd::GivenUp);
+  TusinQueue.EndWaiting(TusinEnd::GivenUp, Every);
 }
 
-enum class Drained { Empty, Failed, Stopped };
-
-Drained DrainPriorityQueue() {
-  RequestQueue& queue = TusinQueues.priority;
-  while (queue.has_work) {
-    const RequestRow row = queue.rows[0];
-    if (row.command.empty()) {
-      queue.FoundEmpty();
-      return Drained::Stopped;
-    }
-    if (ExchangeRow(row) != 0) return Drained::Failed;  // the row stays in place
-    queue.Shift();
-  }
-  return Drained::Empty;
+/// A good reply means that the line is online and that no alarm stands.
+void NoteSuccess() {
+  AppState.AlarmOn = False;
+  frmMain.imgAlarm.Visible = false;
+  frmMain.sbStatusBar.Panels[kPanelError].clear();
+  SetOnline();
 }
 
-void ServeOrdinaryQueue() {
-  RequestQueue& queue = TusinQueues.ordinary;
-  if (!queue.has_work) return;
-  const RequestRow row = queue.rows[0];
-  if (row.command.empty()) {
-    queue.FoundEmpty();
-    return;
+/// What holds from the moment an exchange has failed, however long its waiter takes to tell of it.
+void NoteFailure(const TusinRequest& request) {
+  switch (request.end) {
+    case TusinEnd::TimedOut:
+    case TusinEnd::PortFailed:
+      TusinPortCloseForce();
+      TusinQueue.untold = &request;
+      break;
+    case TusinEnd::ErrorReply:
+    case TusinEnd::BadTwice:
+      TusinQueue.untold = &request;
+      break;
+    case TusinEnd::BadPrefix:
+    case TusinEnd::BadLength:
+      if (!AppState.PortOccupy) TusinPortCloseForce();
+      SetOffline();
+      break;
+    case TusinEnd::ErrorInResync:
+      if (AppState.AlarmNotResettable) TusinPortCloseForce();
+      break;
+    default:
+      SetOffline();
   }
-  const int result = ExchangeRow(row);
-  // The request is done either way: a failed one must not go out again by itself.
-  queue.Shift();
-  if (result != 0) AppState.TusinFailed = True;
+  // The others' requests were meant for a line in order.
+  TusinQueueClear();
+  if (LineIsBarred()) GiveUpAll();
+}
+
+void Settle(TusinRequest& request, TusinEnd end) {
+  TusinQueue.FinishOnLine(end);
+  if (end == TusinEnd::Withdrawn) return;
+  if (end == TusinEnd::Good) return NoteSuccess();
+  NoteFailure(request);
 }
 
 }  // namespace
 
 bool TimerTusinHasWork() {
-  return !AppState.Offline && (TusinQueues.ordinary.has_work || TusinQueues.priority.has_work);
+  const RequestQueue& queue = TusinQueue;
+  if (queue.IsEmpty()) return false;
+  if (LineIsBarred() || !queue.on_line || queue.exchange.IsReady(*queue.on_line)) return true;
+  return std::any_of(queue.waiting.begin(), queue.waiting.end(),
+                     [](const TusinRequest* row) { return IsCancelled(*row); });
 }
 
 void TimerTusinTick() {
-  frmMain.TimerTusin.Stop();
-  if (!AppState.Offline) {
-    const Drained drained = DrainPriorityQueue();
-    if (drained == Drained::Stopped) return;  // the timer stays off
-    if (drained == Drained::Empty) ServeOrdinaryQueue();
-  }
-  RearmTusin();
+  RequestQueue& queue = TusinQueue;
+  if (LineIsBarred()) return GiveUpAll();
+  queue.EndWaiting(TusinEnd::Withdrawn, IsCancelled);
+  if (queue.IsEmpty()) return;
+  if (!queue.on_line) queue.exchange = TusinExchange(queue.TakeNext());
+  if (queue.exchange.IsReady(*queue.on_line)) queue.exchange.Resume();
+  if (queue.exchange.IsOver()) Settle(*queue.on_line, queue.exchange.End());
 }
 
 bool TimerJusinHasWork() {
@@ -83,7 +99,7 @@ void TimerJusinTick() {
   if (AppState.TusinReplyText.starts_with("0%%")) {
     AppState.AlarmOn = True;
     AppState.LastCtErrorText = AppState.TusinReplyText;
-    DecodeCtError(AppState.LastCtErrorText);
+    ErrorHyoji();
   }
 }
 

@@ -1,52 +1,108 @@
 #include "link/tusin_wait.h"
 
+#include "link/port.h"
 #include "link/request_queue.h"
 #include "platform/doors.h"
+#include "platform/event_pump.h"
 #include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
 #include "state/wait.h"
 
 namespace tr7 {
 namespace {
 
-constexpr std::int16_t kFirstId = 1000;
+constexpr int kRestMs = 110;
 
-bool IsAnswered(std::int16_t id, TusinMatch match) {
-  const std::int16_t done = AppState.TusinResult.id;
-  if (match == TusinMatch::ThisId || id == kFirstId) return done == id;
-  if (done > id) AppState.TusinFailed = True;
-  return done >= id;
+/// The request's place in the queue, given back on every way out.
+class Queued {
+ public:
+  explicit Queued(TusinRequest& request) : request_(request), has_row_(TusinQueue.Put(request)) {}
+  ~Queued() { TusinQueue.TakeOut(request_); }
+  Queued(const Queued&) = delete;
+  Queued& operator=(const Queued&) = delete;
+  explicit operator bool() const { return has_row_; }
+
+ private:
+  TusinRequest& request_;
+  bool has_row_;
+};
+
+std::string ErrorBoxText() {
+  std::string text = Text(104) + "\n";
+  if (AppState.CtErrorKnown) text += "Error No." + AppState.CtErrorNo + "\n";
+  return text + "[" + AppState.CtErrorName + "]";
+}
+
+/// The words for a failure; empty where the user is not told.
+std::string FailureText(TusinEnd end) {
+  switch (end) {
+    case TusinEnd::ErrorReply:
+    case TusinEnd::ErrorInResync:
+      return ErrorBoxText();
+    case TusinEnd::TimedOut:
+      return Text(100) + "\n\n" + Text(101) + "\n\n" + Text(102) + "\n\n" + Text(103);
+    case TusinEnd::PortFailed:
+      return Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText;
+    case TusinEnd::BadPrefix:
+      return Text(104);
+    case TusinEnd::BadLength:
+      return TwoLines(105, 106);
+    case TusinEnd::BadTwice:
+      return Text(108);
+    default:
+      return {};
+  }
+}
+
+/// Tells the user; where the line is shut until then, the state goes offline behind the box.
+void TellFailure(const TusinRequest& request, bool show_message) {
+  const std::string text = FailureText(request.end);
+  if (show_message && !text.empty()) MsgBox(text);
+  if (TusinQueue.untold != &request) return;
+  TusinPortCloseForce();
+  SetOffline();
+  TusinQueue.untold = nullptr;
 }
 
 }  // namespace
 
 TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
-                       std::string& reply, TusinMatch match, bool show_message) {
-  AppState.TusinFailed = False;
-  AppState.TusinTimeoutMs = timeout_ms;
-  // After an abort the ids start again, and the last result may still carry this one.
-  AppState.TusinResult.id = 0;
-  const std::int16_t id = TusinRequestPut(command, reply_length, timeout_ms, 0, 0, show_message);
-  if (id == -1) return TusinOutcome::QueueFull;
-  while (!IsAnswered(id, match) && !AppState.TusinFailed) Pump();
-  if (AppState.TusinFailed) {
-    TusinAbort();
-    return TusinOutcome::Failed;
+                       std::string& reply, const TusinOptions& options) {
+  TusinRequest request;
+  request.message = command;
+  request.reply_length = reply_length;
+  request.timeout_ms = timeout_ms;
+  request.priority = options.priority;
+  request.may_cancel = options.priority == TusinPriority::Ordinary && !AppState.CancelRequested;
+  const Queued queued(request);
+  if (!queued) return TusinOutcome::QueueFull;
+  while (!request.done) Pump();
+  switch (request.end) {
+    case TusinEnd::Good:
+      reply = request.reply;
+      return TusinOutcome::Good;
+    case TusinEnd::Withdrawn:
+      return TusinOutcome::Withdrawn;
+    case TusinEnd::GivenUp:
+      return TusinOutcome::Failed;
+    default:
+      TellFailure(request, options.show_message);
+      TusinAbort();
+      return TusinOutcome::Failed;
   }
-  if (AppState.TusinResult.status != 0) return TusinOutcome::BadStatus;
-  reply = AppState.TusinResult.reply;
-  return TusinOutcome::Good;
 }
 
-int TusinCommand(const std::string& command, int reply_length, int timeout_ms, std::string& reply) {
-  return TusinWait(command, reply_length, timeout_ms, reply) == TusinOutcome::Good ? 0 : 1;
+int TusinCommand(const std::string& command, int reply_length, int timeout_ms, std::string& reply,
+                 TusinPriority priority) {
+  const TusinOutcome outcome =
+      TusinWait(command, reply_length, timeout_ms, reply, {priority, true});
+  return outcome == TusinOutcome::Good ? 0 : 1;
 }
 
 void TusinAbort() {
-  constexpr int kRounds = 11;
-  constexpr int kRoundMs = 10;
-  for (int i = 0; i < kRounds; ++i) TusinWaitMs(kRoundMs);
+  TusinWaitMs(kRestMs);
   TusinQueueClear();
-  TusinQueueInit();
 }
 
 }  // namespace tr7

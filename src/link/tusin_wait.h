@@ -2,33 +2,39 @@
 
 #include <string>
 
+#include "link/request_queue.h"
+
 namespace tr7 {
 
 /// How a queued request ended for its caller.
 enum class TusinOutcome {
   Good,
   QueueFull,  ///< nothing was sent
-  Failed,     ///< the exchange failed; what was queued has been discarded
-  BadStatus,  ///< the exchange reported failure without the failure flag
+  Failed,     ///< this or another request's failure has ended it, or the line is offline
+  Withdrawn,  ///< the user cancelled it, or a stop overtook it; nobody has been told
 };
 
-/// Which result counts as the answer to this request.
-enum class TusinMatch {
-  ThisId,    ///< the id of this request
-  LaterToo,  ///< for a wrapped id: this id or above; a result above it means the request is lost
+struct TusinOptions {
+  TusinPriority priority = TusinPriority::Ordinary;
+  bool show_message = true;  ///< the user is told of a failure of this request
 };
 
-/// Queues one request and pumps until it is done. The exchange tells the user of a failure when
-/// `show_message` is on.
+/// Queues one request and pumps until it is done. It may be called from any handler, also inside
+/// another's wait: each ends with its own outcome, the inner one first. Offline it fails at once.
+///
+/// An ordinary request ends as withdrawn within 200 ms when the cancel button beside the progress
+/// bar is pressed while it waits; a reply that is under way is let in before. What is sent after
+/// the press ends as usual.
 /// On `Good`, `reply` is the text with CR LF.
-TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
-                       std::string& reply, TusinMatch match = TusinMatch::ThisId,
-                       bool show_message = true);
+[[nodiscard]] TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
+                                     std::string& reply, const TusinOptions& options = {});
 
 /// The same as 0 success, 1 failure.
-int TusinCommand(const std::string& command, int reply_length, int timeout_ms, std::string& reply);
+[[nodiscard]] int TusinCommand(const std::string& command, int reply_length, int timeout_ms,
+                               std::string& reply,
+                               TusinPriority priority = TusinPriority::Ordinary);
 
-/// Lets what runs come to its end for about 110 ms, then discards everything queued.
+/// Lets the line come to rest for about 110 ms, then gives up everything queued, a stop apart.
 void TusinAbort();
 
 }  // namespace tr7

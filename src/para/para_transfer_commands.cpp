@@ -45,7 +45,7 @@ int ReadBlock(int block, std::string& data) {
   constexpr int kReplyLength = 38;
   std::string reply;
   if (!ReadNamed(std::string("0RD") + ParaBlockChar(block), kReplyLength, kTimeoutMs, reply)) {
-    return kTransferFailed;
+    return FailedOrStopped();
   }
   data = ReplyField(reply, kParaDataAt, kParaBlockLength);
   return kTransferDone;
@@ -54,7 +54,8 @@ int ReadBlock(int block, std::string& data) {
 int ReadBlocks(const std::vector<int>& wanted, ParaBlocks& blocks, ProgressScope& progress) {
   for (const int block : wanted) {
     if (AppState.CancelRequested) return kTransferStopped;
-    if (ReadBlock(block, blocks[static_cast<std::size_t>(block)]) != 0) return 1;
+    const int result = ReadBlock(block, blocks[static_cast<std::size_t>(block)]);
+    if (result != kTransferDone) return result;
     progress.Advance();
   }
   return kTransferDone;

@@ -19,7 +19,9 @@ enum class PortFault {
 };
 
 /// The door to one RS-232C line. Not re-entrant; calls never block for longer than the operating
-/// system takes to accept bytes. A port that vanishes while open makes `Write` fail.
+/// system takes to accept bytes. A port that vanishes while open shuts itself: as soon as the
+/// system says so the pump is woken, `IsOpen` is false, `Write` fails, and `FaultText` tells until
+/// the next `Open`.
 class SerialPort {
  public:
   virtual ~SerialPort() = default;

@@ -24,6 +24,11 @@ bool SimPort::Configure(const std::string& new_settings, int) {
   return true;
 }
 
+void SimPort::Vanish() {
+  Close();
+  fault_text_ = "simulated fault";
+}
+
 void SimPort::Close() {
   if (!open_) return;
   open_ = false;
@@ -35,7 +40,7 @@ bool SimPort::Write(std::string_view bytes) {
   if (!open_) return false;
   if (writes_until_dead > 0) --writes_until_dead;
   if (writes_until_dead == 0) {
-    fault_text_ = "simulated fault";
+    Vanish();
     return false;
   }
   sent += bytes;

@@ -22,6 +22,9 @@ class SimPort : public SerialPort {
   std::optional<std::int64_t> NextEventUs() override;
   std::vector<std::string> PortNames() const override { return {}; }
 
+  /// The line goes, as when an adapter is pulled.
+  void Vanish();
+
   qvr7sim::Controller& Ct() { return controller_; }
 
   // For tests: what the line does wrong, and what went over it.

@@ -80,7 +80,6 @@ void ShowReadData() {
 
 void ReadAndShow() {
   const WaitCursorScope wait_cursor;
-  frmMain.TimerTusin.Start(2);
   const int result = ReadPosidataFromCt();
   if (result == kTransferStopped) MsgBox(Text(425), MsgButtons::Ok, MsgIcon::Information);
   if (result == kTransferDone) ShowReadData();
@@ -91,7 +90,7 @@ void ReadAndShow() {
 int ReadPosidataFromCt() {
   const bool read = ReadLines();
   TusinPortClose();
-  if (!read) return kTransferFailed;
+  if (!read) return FailedOrStopped();
   if (AppState.CancelRequested) return kTransferStopped;
   if (!DecodeLines()) return kTransferFailed;
   frmPosi.ReadDone = True;

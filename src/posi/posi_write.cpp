@@ -49,18 +49,18 @@ void BuildLines() {
   }
 }
 
-/// Sends one line; false after the user has been told of a failure.
-bool SendLine(const std::string& line) {
+/// Sends one line. The user has been told of a failure.
+int SendLine(const std::string& line) {
   std::string reply;
-  if (WritePosiRecordToCt(line, reply) != TusinOutcome::Good) {
+  const TusinOutcome outcome = WritePosiRecordToCt(line, reply);
+  if (outcome == TusinOutcome::Withdrawn) return kTransferStopped;
+  if (outcome != TusinOutcome::Good) {
     MsgBox(Text(384));
-    return false;
+    return kTransferFailed;
   }
-  if (reply.substr(0, kEchoLength) == line.substr(0, kEchoLength)) return true;
+  if (reply.substr(0, kEchoLength) == line.substr(0, kEchoLength)) return kTransferDone;
   TusinPortClose();
-  AppState.TusinFailed = True;
-  MsgBox(TwoLines(384, 385));
-  return false;
+  return TellBadData();
 }
 
 /// Sends the range up to its end or to the cancel button: `next` is the first number that was not
@@ -68,7 +68,9 @@ bool SendLine(const std::string& line) {
 bool SendLines(int& next) {
   ProgressScope progress(Text(383), AppState.PosiToNo - AppState.PosiFromNo + 1, true);
   for (next = AppState.PosiFromNo; next <= AppState.PosiToNo && !AppState.CancelRequested; ++next) {
-    if (!IsBad(next) && !SendLine(LineOf(next))) return false;
+    const int result = IsBad(next) ? kTransferDone : SendLine(LineOf(next));
+    if (result == kTransferFailed) return false;
+    if (result == kTransferStopped) break;
     progress.Advance();
   }
   // The controller keeps lines only when it is told to: also those before a cancel.

@@ -29,10 +29,7 @@ void ClearAlarmDisplay() {
 int ResetAndConnect() {
   if (OpenPortOrTell() != 0 || !ResetAlarm()) return 1;
   ClearAlarmDisplay();
-  if (CtComStart() != 0) {
-    AppState.TusinFailed = False;
-    return 1;
-  }
+  if (CtComStart() != 0) return 1;
   return fChangeToOnline();
 }
 

@@ -24,10 +24,10 @@ namespace tr7 {
 namespace {
 
 constexpr int kConnectSteps = 4;
+constexpr int kMsgPortLost = 5920;
 
 int ConnectSteps() {
   SetOnline();
-  AppState.TusinFailed = False;
   ProgressScope progress(Text(368), kConnectSteps, false);
   if (CtComStart(1) != 0) return 1;
   if (GetVersionNoDisp() != 0) return 1;
@@ -120,6 +120,17 @@ int FirstConnection() {
   AppState.AxisPattern = 0;
   FailToOffline();
   return 1;
+}
+
+bool PortWatchHasWork() { return PortLampLies() || (PortIsLost() && !LineIsInUse()); }
+
+void PortWatchTick() {
+  PortLampHyoji();
+  if (!PortIsLost() || LineIsInUse()) return;
+  const std::string lost = LostPortText();
+  FailToOffline();
+  AllViewsCmdYuko();
+  MsgBox(lost + "\n\n" + Text(kMsgPortLost));
 }
 
 void LiftOffline() {

@@ -23,6 +23,11 @@ int FirstConnection();
 /// first good reply makes the state online; without one `SettleOnlineState` takes it back.
 void LiftOffline();
 
+/// Watches the port: the lamp tells the truth, and a port that is lost while nothing has the line
+/// takes the session offline, with a box. A flow whose port is lost tells by itself.
+void PortWatchTick();
+bool PortWatchHasWork();
+
 /// `mnuSettingCtMode`: asks for the mode and writes it to the controller.
 void ChangeCtModeMenu();
 

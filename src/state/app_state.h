@@ -10,15 +10,6 @@ namespace tr7 {
 
 inline constexpr int kAxes = 4;
 
-/// The outcome of the last exchange with the controller. `id` is written last: that wakes the
-/// caller.
-struct TusinResultRecord {
-  std::int16_t status = 0;  ///< 0 success, 1 failure
-  std::string reply;        ///< received text with CR LF
-  std::string prefix;       ///< the three characters that were expected
-  std::int16_t id = 0;      ///< request id
-};
-
 /// The single shared record of the system. Axis arrays: index 0 to 3 for AXIS1 to AXIS4.
 struct AppStateRecord {
   // Language
@@ -60,21 +51,17 @@ struct AppStateRecord {
   Bool16 CancelRequested;             ///< the cancel button beside the progress bar was pressed
   Bool16 ProgressWriting;             ///< the running bulk sequence may be cancelled
   Bool16 SplashDone;
+  Bool16 Closing;        ///< the tool closes: no request goes out any more
   Bool16 GroupMoveStop;  ///< the stop button of a group move was pressed
   std::int16_t NextProgViewNo = 1;
 
   // Link
-  int TusinTimeoutMs = 0;  ///< of the next send
-  Bool16 TusinFailed;
   Bool16 TusinTimedOut;
   Bool16 TusinReplyReady;
   std::string TusinReplyText;  ///< last complete line, with CR LF
   std::string TusinRxBuffer;   ///< partial line so far
-  std::int16_t TusinRetryCount = 0;
-  std::int16_t TusinBadReplyKind = 0;  ///< 1 wrong prefix, 2 wrong length
-  Bool16 TusinExchanging;
-  TusinResultRecord TusinResult;
-  std::string PortFaultText;  ///< the reason behind the last port failure, in the user's language
+  std::string OpenPortName;    ///< the device that has been opened; empty: the port is shut
+  std::string PortFaultText;   ///< the reason behind the last port failure, in the user's language
 
   // Alarm
   Bool16 AlarmOn;

@@ -1,19 +1,16 @@
 #include "state/wait.h"
 
 #include "forms/frm_main.h"
+#include "forms/timer.h"
 #include "platform/doors.h"
+#include "platform/event_pump.h"
 
 namespace tr7 {
 
-void MmsecTimerTick() {
-  frmMain.mmsecTimer.Stop();
-  frmMain.MsecElapsed = true;
-}
-
 void TusinWaitMs(int ms) {
-  frmMain.MsecElapsed = false;
-  frmMain.mmsecTimer.Start(ms);
-  while (!frmMain.MsecElapsed) Pump();
+  Timer timer(ms, true);
+  timer.Tick = [&timer] { timer.Stop(); };
+  while (timer.Enabled) Pump();
 }
 
 }  // namespace tr7

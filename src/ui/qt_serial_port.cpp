@@ -4,6 +4,10 @@
 #include <QSerialPortInfo>
 #include <QStringList>
 #include <algorithm>
+#include <cerrno>
+#ifndef _WIN32
+#include <poll.h>
+#endif
 
 namespace tr7 {
 namespace {
@@ -20,6 +24,16 @@ std::optional<QSerialPort::Parity> ParityOf(const QString& letter) {
   if (letter == "E") return QSerialPort::EvenParity;
   if (letter == "O") return QSerialPort::OddParity;
   return std::nullopt;
+}
+
+/// The far end of the line, or the device itself, is gone.
+bool HasHungUp([[maybe_unused]] const QSerialPort& port) {
+#ifdef _WIN32
+  return false;  // the port reports it as an error
+#else
+  pollfd state{port.handle(), 0, 0};
+  return poll(&state, 1, 0) > 0;
+#endif
 }
 
 /// 10 bits at the port's rate.
@@ -44,15 +58,31 @@ bool Apply(QSerialPort& port, const std::string& settings) {
 QtSerialPort::QtSerialPort() {
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
                    [this](QSerialPort::SerialPortError error) {
-                     if (error != QSerialPort::ResourceError) return;
-                     dead_ = true;
-                     fault_text_ = port_.errorString().toStdString();
+                     if (error == QSerialPort::ResourceError) Vanish(port_.errorString());
                    });
   QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { OnBytes(); });
   rest_.setSingleShot(true);
   rest_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&rest_, &QTimer::timeout, &port_,
                    [this] { port_.setReadBufferSize(NextLook()); });
+}
+
+/// A device that is gone calls for a read as long as it stays open, so it is shut; not from within
+/// its own call.
+void QtSerialPort::Vanish(const QString& why) {
+  if (dead_) return;
+  dead_ = true;
+  fault_text_ = why.toStdString();
+  QTimer::singleShot(0, &port_, [this] {
+    if (dead_) Close();
+  });
+}
+
+/// A line that hangs up wakes the loop, yet nothing is said of it: it is looked at ahead of the
+/// next sleep.
+std::optional<std::int64_t> QtSerialPort::NextEventUs() {
+  if (port_.isOpen() && HasHungUp(port_)) Vanish(qt_error_string(ENODEV));
+  return sim_.NextEventUs();
 }
 
 void QtSerialPort::ExpectReply(std::size_t bytes) {

@@ -21,14 +21,14 @@ class QtSerialPort : public SerialPort {
   PortFault Open(const std::string& device) override;
   bool Configure(const std::string& settings, int carrier_detect_timeout_ms) override;
   void Close() override;
-  bool IsOpen() const override { return sim_.IsOpen() || port_.isOpen(); }
+  bool IsOpen() const override { return sim_.IsOpen() || (port_.isOpen() && !dead_); }
   bool Write(std::string_view bytes) override;
   void ExpectReply(std::size_t bytes) override;
   std::size_t InBufferCount() override;
   std::string ReadAll() override;
   std::string FaultText() const override { return fault_text_; }
   bool IsSimulated() const override { return sim_.IsOpen(); }
-  std::optional<std::int64_t> NextEventUs() override { return sim_.NextEventUs(); }
+  std::optional<std::int64_t> NextEventUs() override;
   std::vector<std::string> PortNames() const override;
 
   /// The controller behind "sim".
@@ -39,6 +39,7 @@ class QtSerialPort : public SerialPort {
   void OnBytes();
   qint64 NextLook() const;
   void LetAllIn();
+  void Vanish(const QString& why);
 
   QSerialPort port_;
   QTimer rest_;                ///< while it runs, nobody is woken by what comes in

@@ -3,6 +3,7 @@
 #include "device/device_cascade.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
+#include "link/request_queue.h"
 #include "posi/posi_grid_layout.h"
 #include "state/text.h"
 
@@ -68,7 +69,7 @@ void CheckTable(Voyage& voyage) {
 void CheckLink(Voyage& voyage) {
   SimPort& port = voyage.virt.port;
   voyage.Require(AppState.PortOccupy || !port.IsOpen(), "port open though not occupied");
-  voyage.Require(!AppState.TusinExchanging && frmMain.TimerTusin.Enabled, "request timer off");
+  voyage.Require(TusinQueue.IsEmpty() && !TusinQueue.untold, "a request is left");
   voyage.Require(!frmMain.timerTimeout.Enabled, "time-out armed");
   voyage.Require(!voyage.HasSent({"0MP", "0MS", "0MV", "0MG", "0JR"}), "a motion nobody asked for");
   voyage.Require(voyage.flow == "write" || !voyage.HasSent({"0WP", "0WA"}),

@@ -175,8 +175,7 @@ struct ReadStages {
 inline void CheckAfterCommand(int result) {
   FuzzCheck(result >= -1 && result <= 3, "a command ends as told");
   FuzzCheck(!frmMain.timerTimeout.Enabled, "no time-out is left running");
-  FuzzCheck(!AppState.TusinExchanging, "the exchange is over");
-  FuzzCheck(TusinQueues.ordinary.last < 0, "no request waits");
+  FuzzCheck(TusinQueue.IsEmpty(), "no request waits");
   FuzzCheck(!frmMain.ProgressBar1.Visible, "no progress is shown");
   FuzzCheck(AppState.AxisPattern >= 0 && AppState.AxisPattern <= 255, "axes are a mask");
   for (const CtDeviceRecord& device : CtDev) {
@@ -187,14 +186,13 @@ inline void CheckAfterCommand(int result) {
 /// The state of the line as at the start, without the views, which take long.
 inline void ResetLine() {
   AppState = AppStateRecord{};
-  TusinQueues = RequestQueues{};
+  TusinQueue = RequestQueue{};
   ErrorList = ErrorListRecord{};
   ParamSet = ParamSetRecord{};
   ParaTable.Clear();
   CtDev.fill(CtDeviceRecord{});
   AxisSettingSent = AxisSettingSentRecord{};
   for (Timer* timer : TimerTable()) timer->DueUs = Timer::kNotArmed;
-  frmMain.TimerTusin.Start();
 }
 
 /// Any bytes as replies to one command, which the first of them chooses.

@@ -87,17 +87,6 @@ TEST_F(ErrorListTest, ErrorHyojiShowsTheLastReply) {
   EXPECT_EQ(AppState.CtErrorName, "first");
 }
 
-TEST_F(ErrorListTest, WithoutAListTheUserIsTold) {
-  EXPECT_EQ(ReadErrorList(), 1);
-  AppState.CtErrorName = "kept";
-  DecodeCtError("0%%001\r\n");
-  ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_EQ(forms.boxes[0].Text, Text(30) + "\n" + Text(31));
-  EXPECT_EQ(AppState.CtErrorName, "kept");
-  EXPECT_FALSE(frmMain.imgAlarm.Visible);
-  EXPECT_EQ(Panel(), "");
-}
-
 std::string Pairs(int count) {
   std::string pairs;
   for (int i = 0; i < count; ++i) pairs += "\"" + std::to_string(i) + "\",\"text\"\r\n";

@@ -1,14 +1,20 @@
-#include <algorithm>
+#include <functional>
+#include <map>
+#include <optional>
+#include <utility>
 
 #include "base/text_helpers.h"
+#include "core/main_entry.h"
 #include "forms/frm_main.h"
+#include "forms/timer.h"
 #include "link/error_list.h"
+#include "link/motion_commands.h"
 #include "link/port.h"
 #include "link/posi_commands.h"
-#include "link/request_queue.h"
 #include "link/status_commands.h"
 #include "link/tusin_wait.h"
 #include "state/online.h"
+#include "state/progress.h"
 #include "state/text.h"
 #include "tests/support/state_test.h"
 
@@ -18,15 +24,6 @@ namespace {
 using qvr7sim::Fault;
 using qvr7sim::FaultKind;
 
-/// How often a line went out.
-long Sent(const SimPort& port, const std::string& line) {
-  long count = 0;
-  for (std::size_t at = 0; (at = port.sent.find(line + "\r\n", at)) != std::string::npos; ++at) {
-    ++count;
-  }
-  return count;
-}
-
 class ExchangeTest : public StateTest {
  protected:
   explicit ExchangeTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful()) : StateTest(setup) {
@@ -35,6 +32,12 @@ class ExchangeTest : public StateTest {
   }
   /// One read of position 1, the request that the tests spoil.
   TusinOutcome Read() { return ReadPosiRecordFromCt(1, reply); }
+  void Silence(const std::string& prefix) {
+    Fault fault;
+    fault.probability = 1;
+    fault.prefix = prefix;
+    port.Ct().AddFault(fault);
+  }
   void Spoil(FaultKind kind, int at_request, const std::string& prefix = "0RP") {
     Fault fault;
     fault.kind = kind;
@@ -79,27 +82,22 @@ TEST_F(ExchangeTest, ControllerOffFourSendsOneBoxPortShut) {
   ExpectOffline(false);
 }
 
-TEST_F(ExchangeTest, ASilentSendIsRepeatedAndGood) {
-  Spoil(FaultKind::kDeaf, 1);
-  EXPECT_EQ(Read(), TusinOutcome::Good);
-  EXPECT_EQ(port.sent, "0RP001\r\n0RP001\r\n");
-  EXPECT_TRUE(forms.boxes.empty());
-}
-
-TEST_F(ExchangeTest, ASplitReplyIsPutTogether) {
-  Spoil(FaultKind::kSplit, 1);
-  EXPECT_EQ(Read(), TusinOutcome::Good);
-  EXPECT_EQ(port.sent, "0RP001\r\n");
-}
-
-TEST_F(ExchangeTest, OneBadReplyIsResynchronisedAndSentAgain) {
-  for (FaultKind kind : {FaultKind::kWrongPrefix, FaultKind::kWrongLength}) {
+TEST_F(ExchangeTest, AFaultOfTheLineIsMendedByTheExchange) {
+  const struct {
+    FaultKind kind;
+    const char* sent;
+  } rows[] = {{FaultKind::kDeaf, "0RP001\r\n0RP001\r\n"},
+              {FaultKind::kSplit, "0RP001\r\n"},
+              {FaultKind::kWrongPrefix, "0RP001\r\n0CM0\r\n0RP001\r\n"},
+              {FaultKind::kWrongLength, "0RP001\r\n0CM0\r\n0RP001\r\n"}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(qvr7sim::FaultName(row.kind));
     port.sent.clear();
     port.Ct().ClearFaults();
     port.Ct().ClearRequests();
-    Spoil(kind, 1);
-    EXPECT_EQ(Read(), TusinOutcome::Good) << qvr7sim::FaultName(kind);
-    EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n0RP001\r\n") << qvr7sim::FaultName(kind);
+    Spoil(row.kind, 1);
+    EXPECT_EQ(Read(), TusinOutcome::Good);
+    EXPECT_EQ(port.sent, row.sent);
     EXPECT_TRUE(forms.boxes.empty());
   }
 }
@@ -120,7 +118,6 @@ TEST_F(BufferedLineTest, TwoLinesInOneReadAreOneOfTheWrongLength) {
   Spoil(FaultKind::kDoubled, 1);
   EXPECT_EQ(Read(), TusinOutcome::Good);
   EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n0RP001\r\n");
-  EXPECT_EQ(AppState.TusinBadReplyKind, 2);
   EXPECT_TRUE(forms.boxes.empty());
 }
 
@@ -172,7 +169,6 @@ TEST_F(ExchangeTest, AnErrorReplyToTheResynchronisationKeepsTheState) {
   EXPECT_EQ(Read(), TusinOutcome::Failed);
   EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n");
   EXPECT_TRUE(AppState.AlarmOn);
-  EXPECT_EQ(AppState.TusinResult.prefix, "0CM");
   EXPECT_FALSE(AppState.Offline);
 }
 
@@ -247,67 +243,184 @@ TEST_F(ExchangeTest, APortThatDoesNotOpenIsTriedFourTimesAndTold) {
   }
 }
 
-TEST_F(ExchangeTest, APortThatVanishesIsAPortFailure) {
-  EXPECT_EQ(Read(), TusinOutcome::Good);
-  port.writes_until_dead = 1;
-  EXPECT_EQ(Read(), TusinOutcome::Failed);
-  EXPECT_TRUE(BoxShown(Text(109)));
-  ExpectOffline(false);
+TEST_F(ExchangeTest, APortThatVanishesIsToldOnceByWhoeverNeedsIt) {
+  const std::string lost = Text(5905, "sim", "simulated fault");
+  const struct {
+    const char* when;
+    int writes;                ///< the port dies at this write
+    std::int64_t vanishes_us;  ///< or by itself, after so long
+    bool reads;                ///< a request needs it then
+    std::string box;
+  } rows[] = {{"at a write", 1, -1, true, Text(109) + "\n\n" + Text(110) + "\n\n" + lost},
+              {"in a wait", -1, 30'000, true, Text(109) + "\n\n" + Text(110) + "\n\n" + lost},
+              {"while idle", -1, 30'000, false, lost + "\n\n" + Text(5920)}};
+  AppState.PortOccupy = True;
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.when);
+    SetOnline();
+    port.writes_until_dead = -1;
+    forms.boxes.clear();
+    EXPECT_EQ(Read(), TusinOutcome::Good);
+    port.writes_until_dead = row.writes;
+    if (row.vanishes_us > 0) pump.After(row.vanishes_us, [this] { port.Vanish(); });
+    const std::int64_t start = pump.NowUs();
+    EXPECT_EQ(row.reads ? Read() : TusinOutcome::Failed, TusinOutcome::Failed);
+    EXPECT_LT(pump.NowUs() - start, 300'000);
+    pump.RunFor(1'000'000);
+    ASSERT_EQ(forms.boxes.size(), 1u);
+    EXPECT_EQ(forms.LastBox(), row.box);
+    EXPECT_FALSE(frmMain.imgComPort.Visible);
+    ExpectOffline(false);
+  }
 }
 
 TEST_F(ExchangeTest, NothingGoesOutWhileOffline) {
   AppState.Offline = True;
-  const std::int16_t id = TusinRequestPut("0RP001", 68, 5000, 0, 0, True);
-  pump.RunFor(1'000'000);
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
   EXPECT_EQ(port.sent, "");
-  AppState.Offline = False;
-  AppState.TusinTimeoutMs = 5000;
-  pump.RunFor(1'000'000);
-  EXPECT_EQ(AppState.TusinResult.id, id);
+  EXPECT_TRUE(forms.boxes.empty());
 }
 
-TEST_F(ExchangeTest, ACommandWithoutTimeoutWaitsForEver) {
+TEST_F(ExchangeTest, AStopEndsTheWaitOfACommandWithoutTimeout) {
+  Silence("0MG");
+  pump.After(3'600'000'000, [] { EXPECT_EQ(StopToCt(1000), 0); });
+  EXPECT_NE(StartProgToCt(1), 0);
+  EXPECT_EQ(port.sent, "0MG01\r\n0SP\r\n");
+  EXPECT_TRUE(forms.boxes.empty());
+}
+
+TEST_F(ExchangeTest, AnAlarmWithoutAListShowsItsNumberAndHintsOnce) {
+  ErrorList = ErrorListRecord{};
+  const std::string words = Text(5921, "9");
+  for (const std::size_t boxes : {2u, 1u}) {
+    SetOnline();
+    forms.boxes.clear();
+    port.Ct().RaiseAlarm({'2', '0', '9'}, pump.NowUs());
+    EXPECT_EQ(Read(), TusinOutcome::Failed);
+    ASSERT_EQ(forms.boxes.size(), boxes);
+    EXPECT_EQ(BoxShown(Text(30) + "\n" + Text(31)), boxes == 2);
+    EXPECT_EQ(forms.LastBox(), Text(104) + "\n[" + words + "]");
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(221) + ":" + words);
+    EXPECT_TRUE(frmMain.imgAlarm.Visible);
+  }
+}
+
+// A wait inside a wait, and what becomes of those that queue.
+
+/// Ticks once, as soon as it may.
+struct Once : Timer {
+  Once(std::function<bool()> may, std::function<void()> what) : Timer(1, true) {
+    HasWork = std::move(may);
+    Tick = [this, what] {
+      Stop();
+      what();
+    };
+  }
+};
+
+TEST_F(ExchangeTest, AWaitInsideAWaitEndsWithItsOwnOutcome) {
+  const struct {
+    const char* when;
+    bool (*may)(const SimPort& port);
+  } moments[] = {
+      {"before", [](const SimPort& p) { return p.sent.empty() && !TusinQueue.IsEmpty(); }},
+      {"during", [](const SimPort& p) { return !p.sent.empty(); }},
+      {"after", [](const SimPort& p) { return !p.sent.empty() && TusinQueue.IsEmpty(); }}};
+  for (const auto& moment : moments) {
+    for (const std::string silent : {"", "0RP001", "0RP002"}) {
+      SCOPED_TRACE(moment.when + (" " + silent));
+      port.sent.clear();
+      port.Ct().ClearFaults();
+      forms.boxes.clear();
+      SetOnline();
+      if (!silent.empty()) Silence(silent);
+      std::optional<TusinOutcome> inner, outer;
+      std::string inner_reply;
+      const Once nested([&] { return moment.may(port); },
+                        [&] {
+                          inner = ReadPosiRecordFromCt(2, inner_reply);
+                          EXPECT_FALSE(outer);
+                        });
+      if (moment.when == std::string("before")) frmMain.TimerTusin.Stop();
+      const Once lets_go([&] { return inner || TusinQueue.waiting.size() == 2; },
+                         [] { frmMain.TimerTusin.Start(); });
+      outer = Read();
+      EXPECT_EQ(outer == TusinOutcome::Good, silent != "0RP001");
+      EXPECT_EQ(inner == TusinOutcome::Good, silent.empty());
+      EXPECT_TRUE(inner != TusinOutcome::Good || inner_reply.starts_with("0RP002"));
+      EXPECT_TRUE(outer != TusinOutcome::Good || reply.starts_with("0RP001"));
+      EXPECT_EQ(forms.boxes.size(), silent.empty() ? 0u : 1u);
+      EXPECT_EQ(AppState.Offline, !silent.empty());
+    }
+  }
+}
+
+/// Ten requests wait behind the one on the line; the fifth would start a movement.
+class FullQueueTest : public ExchangeTest {
+ protected:
+  FullQueueTest() {
+    for (int i = 2; i <= kQueueRows; ++i) {
+      pump.After(i * 1'000, [this, i] {
+        std::string text;
+        if (i != 6) return Count(ReadPosiRecordFromCt(i, text));
+        Count(JogStartToCt(50, 0) == 0 ? TusinOutcome::Good : TusinOutcome::Withdrawn);
+      });
+    }
+  }
+  void Count(TusinOutcome outcome) { ++ends[outcome]; }
+  std::map<TusinOutcome, int> ends;
+};
+
+TEST_F(FullQueueTest, AStopOvertakesWhatWaitsAndNoStartFollowsIt) {
+  pump.After(20'000, [this] {
+    std::string text;
+    EXPECT_EQ(ReadPosiRecordFromCt(12, text), TusinOutcome::QueueFull);
+    EXPECT_EQ(StopToCt(1000), 0);
+  });
+  EXPECT_EQ(Read(), TusinOutcome::Good);
+  EXPECT_EQ(ends[TusinOutcome::Good], 9);
+  EXPECT_EQ(port.sent.substr(0, 21), "0RP001\r\n0SP\r\n0RP002\r\n");
+  EXPECT_EQ(port.sent.find("0JR"), std::string::npos);
+}
+
+TEST_F(FullQueueTest, AFailureEndsAllThatWait) {
   port.Ct().SetSilent(true);
-  pump.After(3'600'000'000, [this] { port.Ct().SetSilent(false); });
-  pump.SetLimit(pump.NowUs() + 7'200'000'000);
-  std::string text;
-  EXPECT_THROW(TusinWait("0MG01", 7, 0, text), VirtualTimeExceeded);
-  EXPECT_EQ(Sent(port, "0MG01"), 1);
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_EQ(ends[TusinOutcome::Failed], 9);
+  EXPECT_EQ(port.sent, "0RP001\r\n0RP001\r\n0RP001\r\n0RP001\r\n");
+  EXPECT_EQ(forms.boxes.size(), 1u);
 }
 
-TEST(RequestQueue, IdsRowsAndTheirOddities) {
-  TusinQueues = RequestQueues{};
-  for (int i = 0; i < kQueueRows; ++i)
-    EXPECT_EQ(TusinRequestPut("0RA", 6, 1, 0, 0, True), 1000 + i);
-  EXPECT_EQ(TusinRequestPut("0RA", 6, 1, 0, 0, True), -1);
-  TusinQueues.ordinary.Shift();
-  EXPECT_EQ(TusinRequestPut("0RA", 6, 1, 0, 0, True), 1012) << "the refused one took an id";
-  TusinQueues.next_id = 1999;
-  TusinQueues.ordinary.Shift();
-  EXPECT_EQ(TusinRequestPut("0RA", 6, 1, 0, 0, True), 1999);
-  TusinQueues.ordinary.Shift();
-  EXPECT_EQ(TusinRequestPut("0RA", 6, 1, 0, 0, True), 1000);
-
-  TusinQueues = RequestQueues{};
-  EXPECT_EQ(TusinRequestPutHigh("0RA", 6, 1, 0, 0, True), 1);
-  EXPECT_EQ(TusinQueues.priority.rows[0].command, "0RA");
-  TusinRequestPut("0RA", 6, 1, 0, 0, True);
-  EXPECT_EQ(TusinRequestPutHigh("0RB", 6, 1, 0, 0, True), 2);
-  EXPECT_EQ(TusinQueues.priority.rows[1].command, "0RB") << "its row comes from the ordinary queue";
-  TusinQueues.last_priority_id = 10000;
-  EXPECT_EQ(TusinRequestPutHigh("0RC", 6, 1, 0, 0, True), 1000);
-  TusinQueueInit();
-  EXPECT_EQ(TusinQueues.last_priority_id, 1000) << "its counter is never reset";
+TEST_F(FullQueueTest, ClosingTheToolEndsAllThatWait) {
+  port.Ct().SetSilent(true);
+  pump.After(20'000, UnloadFrame);
+  const std::int64_t start = pump.NowUs();
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_EQ(ends[TusinOutcome::Failed], 9);
+  SetOnline();  // as a flow beneath the close may do
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_LT(pump.NowUs() - start, 30'000);
+  EXPECT_EQ(port.sent, "0RP001\r\n");
 }
 
-TEST_F(ExchangeTest, APriorityRequestBelowAnEmptyRowStopsTheTimer) {
-  TusinQueues.priority.rows[1].command = "0RA";
-  TusinQueues.priority.last = 1;
-  TusinQueues.priority.has_work = True;
-  TusinRequestPut("0RP001", 68, 5000, 0, 0, True);
-  pump.RunFor(1'000'000);
-  EXPECT_EQ(port.sent, "");
-  EXPECT_FALSE(frmMain.TimerTusin.Enabled);
+TEST_F(ExchangeTest, CancelEndsAWaitAndItsLateReplyIsNobodys) {
+  Fault late;
+  late.kind = FaultKind::kDelay;
+  late.at_request = 1;
+  late.time_us = 400'000;
+  port.Ct().AddFault(late);
+  const ProgressScope progress("", 1, true);
+  std::int64_t pressed = 0;
+  pump.After(100'000, [&] {
+    pressed = pump.NowUs();
+    frmMain.cmdComCancel.Press();
+  });
+  EXPECT_EQ(Read(), TusinOutcome::Withdrawn);
+  EXPECT_LE(pump.NowUs() - pressed, 200'000);
+  EXPECT_EQ(ReadPosiRecordFromCt(2, reply), TusinOutcome::Good);
+  EXPECT_EQ(reply.substr(0, 6), "0RP002");
+  EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n0RP002\r\n");
+  EXPECT_TRUE(forms.boxes.empty());
 }
 
 }  // namespace

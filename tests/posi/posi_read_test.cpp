@@ -46,12 +46,19 @@ TEST_F(ReadTest, CancelKeepsTheTableWithMessage425) {
   ReadRange(1, 5);
   const std::string before = Cell(3, kVel);
   PosiTable.PosiRec[kVel][2] = std::string("keep");
-  pump.After(1'500'000, [] {
-    EXPECT_TRUE(frmMain.cmdComCancel.Visible);
-    frmMain.cmdComCancel.Press();
-  });
-  ReadRange(1, 999);
-  EXPECT_EQ(forms.LastBox(), Text(425));
+  for (const bool silent : {false, true}) {
+    pump.After(1'400'000, [this, silent] { port.Ct().SetSilent(silent); });
+    pump.After(1'500'000, [this] {
+      EXPECT_TRUE(frmMain.cmdComCancel.Visible);
+      frmMain.cmdComCancel.Press();
+      pump.After(200'000, [] { EXPECT_FALSE(AppState.ComBusy); });
+    });
+    forms.boxes.clear();
+    ReadRange(1, 999);
+    pump.RunFor(300'000);
+    ASSERT_EQ(forms.boxes.size(), 2u) << "the confirmation and this";
+    EXPECT_EQ(forms.LastBox(), Text(425));
+  }
   EXPECT_EQ(TextOf(PosiTable.PosiRec[kVel][2]), "keep");
   EXPECT_EQ(Cell(3, kVel), before);
   EXPECT_EQ(AppState.PosiLastNo, 5);

@@ -94,14 +94,17 @@ TEST_F(SerialPortTest, SettingsThatMakeNoSenseAreRefused) {
   }
 }
 
-TEST_F(SerialPortTest, AVanishedDeviceMakesTheNextWriteFail) {
+TEST_F(SerialPortTest, AVanishedDeviceShutsThePortAndLetsTheToolSleep) {
   Open();
+  AppState.OpenPortName = line.Path();
   line.HangUp();
-  WaitMs(50);
-  EXPECT_FALSE(port.Write("0CM0\r\n"));
+  ASSERT_TRUE(Until([this] { return !user.boxes.empty(); }, 1000));
+  EXPECT_FALSE(port.IsOpen() || port.Write("0CM0\r\n"));
+  EXPECT_TRUE(user.boxes.back().starts_with(Text(5905, line.Path(), port.FaultText())));
   EXPECT_FALSE(port.FaultText().empty());
-  port.Close();
-  EXPECT_FALSE(port.IsOpen());
+  const std::uint64_t sleeps = desktop.pump.sleeps;
+  WaitMs(300);
+  EXPECT_LE(desktop.pump.sleeps - sleeps, 10u);
 }
 
 // An expected reply gathers; whatever else comes is there at once.
