@@ -3,6 +3,7 @@
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
+#include "posi/field_range.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 
@@ -61,10 +62,9 @@ int WayOf(double stored) { return stored >= 0 && stored < 4 ? static_cast<int>(s
 std::string PosiCellText(int col, int number, bool program_mode) {
   if (col == kComment) return TextOf(Field(col, number));
   const int axis = AxisOfColumn(col);
-  if (axis < 0) return PlainDecimal(ValueOf(Field(col, number)));
   const auto index = static_cast<std::size_t>(axis);
-  if (AppState.AxisMuko[index]) return FillerText(col, program_mode);
-  if (FieldOfColumn(col) == kPosi) {
+  if (axis >= 0 && AppState.AxisMuko[index]) return FillerText(col, program_mode);
+  if (axis >= 0 && FieldOfColumn(col) == kPosi) {
     const auto slot = static_cast<std::size_t>(number);
     const int way = WayOf(ValueOf(Field(AxisBase(axis) + kWay, number)));
     return PosiLengthText(
@@ -72,7 +72,13 @@ std::string PosiCellText(int col, int number, bool program_mode) {
         program_mode);
   }
   const double value = ValueOf(Field(col, number));
-  return PlainDecimal(FieldOfColumn(col) == kAcc ? value * 10 : value);
+  const bool acc = axis >= 0 && FieldOfColumn(col) == kAcc;
+  const std::string text = PlainDecimal(acc ? value * 10 : value);
+  return program_mode ? HiddenCellText(col, text) : text;
+}
+
+std::string HiddenCellText(int col, const std::string& text) {
+  return CellInRange(col, text) ? text : std::string();
 }
 
 std::string PosiValueText(int col, double stored, double way, bool program_mode) {
@@ -91,7 +97,9 @@ std::string PosiDefaultText(int col, bool program_mode) {
   if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) {
     return FillerText(col, program_mode);
   }
-  return PosiValueText(col, PosiDefault(col), 0, program_mode);
+  const std::string text = PosiValueText(col, PosiDefault(col), 0, program_mode);
+  const bool hidden = program_mode && (axis < 0 || FieldOfColumn(col) != kPosi);
+  return hidden ? HiddenCellText(col, text) : text;
 }
 
 WayAndNumber SplitPosiText(std::string_view text) {

@@ -38,8 +38,10 @@ const std::string& KeptEdits::Text(int row, int col) const {
 
 std::string KeptEdits::NewText(int row, int col) const {
   const int axis = AxisOfColumn(col);
+  const bool position = axis >= 0 && FieldOfColumn(col) == kPosi;
+  if (AppState.CtMode && !position && col != kComment) return HiddenCellText(col, Text(row, col));
   if (program_mode_ == AppState.CtMode || axis < 0) return Text(row, col);
-  if (FieldOfColumn(col) == kPosi) return PosiText(row, axis);
+  if (position) return PosiText(row, axis);
   if (FieldOfColumn(col) == kWay && program_mode_) {
     return std::to_string(SplitPosiText(Text(row, AxisBase(axis) + kPosi)).way);
   }
