@@ -115,6 +115,7 @@ Outcome Reading::ReadWords() {
 }
 
 bool Reading::ReadRecords() {
+  PosiStageInit();
   if (items_.AtEnd()) return Fail(Text(kMsgNoRecords));
   for (bool first = true; !items_.AtEnd(); first = false) {
     int number = 0;
@@ -123,6 +124,7 @@ bool Reading::ReadRecords() {
     AppState.FileLastNo = static_cast<std::int16_t>(number);
     words_ = Text(kMsgLineDamaged, std::to_string(number));
     if (!ReadColumns(number)) return false;
+    PosiTable.StageHolds.set(static_cast<std::size_t>(number));
   }
   return true;
 }
@@ -149,9 +151,6 @@ bool Reading::ReadColumn(int col, int number) {
 
 bool Reading::ReadColumns(int number) {
   if (layout_ == Layout::Oldest) {
-    for (int axis = 0; axis < kAxes; ++axis) {
-      Stage(AxisBase(axis) + kPf, number) = Stage(AxisBase(axis) + kPs, number) = 0.0;
-    }
     for (const int col : kOldColumns) {
       if (!ReadColumn(col, number)) return false;
     }
@@ -257,6 +256,24 @@ int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble) {
 
 int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble) {
   return ReadFile(path, Layout::Oldest, trouble);
+}
+
+std::string NumbersLeftOut(int first, int last) {
+  constexpr int kMostRuns = 20;
+  const auto left_out = [last](int n) {
+    return n <= last && !PosiTable.StageHolds[static_cast<std::size_t>(n)];
+  };
+  std::string text;
+  int runs = 0;
+  for (int n = first; n <= last; ++n) {
+    if (!left_out(n)) continue;
+    if (++runs > kMostRuns) return text + ", ...";
+    const int start = n;
+    while (left_out(n + 1)) ++n;
+    text += (runs > 1 ? ", " : "") + std::to_string(start);
+    if (n > start) text += "-" + std::to_string(n);
+  }
+  return text;
 }
 
 void ShowFileAges() {

@@ -25,6 +25,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgSaveBeforeOpen = 6450;
+constexpr int kMsgLeftOut = 6458;
 
 /// A path; empty when the flow ends.
 std::string AskPath() {
@@ -59,6 +60,12 @@ void NameSeries() {
   }
 }
 
+/// Whoever takes the shown lines for the file's must know which ones are not.
+void TellNumbersLeftOut() {
+  const std::string numbers = NumbersLeftOut(AppState.FileFirstNo, AppState.FileLastNo);
+  if (!numbers.empty()) MsgBox(Text(kMsgLeftOut, numbers));
+}
+
 /// The stage becomes the table, in the layout of the axes in use.
 void ShowStage() {
   AppState.PosiFromNo = AppState.PosiFirstNo = AppState.FileFirstNo;
@@ -66,6 +73,7 @@ void ShowStage() {
   AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
   NameSeries();
   RecalcLimits();
+  PosiStageFillRest();  // by the devices that are in use now
   PosiStageCommit();
   RecalcMmFromPulse();
   FG_HighSyoriStart();
@@ -80,6 +88,7 @@ void Open() {
   DevicesOnTrial devices;
   if (!ReadIntoStage(path) || !ReconcileFileDevices()) return;
   devices.Keep();
+  TellNumbersLeftOut();
   ShowStage();
   SetPosiTableFile(path);
   frmPosi.PosiChanged = False;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <string>
 
@@ -32,6 +33,7 @@ constexpr int FieldOfColumn(int col) { return (col - 1) % 6 + 1; }
 struct PosiTableRecord {
   std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiRec;    ///< [column][number]
   std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiStage;  ///< data coming in
+  std::bitset<kPosiSlots> StageHolds;  ///< numbers that came in; the others have start values
   std::array<std::array<std::int32_t, kPosiSlots>, kAxes> PosiPulse{};
   std::array<std::array<double, kPosiSlots>, kAxes> PosiMm{};
   std::array<std::string, kPosiSlots> PosiRawReply;  ///< [number - 1]: reply line, or line to send
@@ -49,6 +51,11 @@ extern PosiTableRecord PosiTable;
 /// Clears raw replies, pulses and millimetres, and fills record and stage with the defaults of a
 /// new table for all 999 positions.
 void PosiTableInit();
+
+/// The stage as every load begins: it holds no number. The second fills the numbers that it does
+/// not hold with the defaults of a new table, for the devices in use.
+void PosiStageInit();
+void PosiStageFillRest();
 
 /// Moves the stage into the record for `PosiFirstNo` to `PosiLastNo`; the "Posi" columns go to the
 /// pulses (and to the record, which always equals them). A position out of all bounds stays out of

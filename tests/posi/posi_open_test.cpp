@@ -170,7 +170,9 @@ TEST_F(OpenTest, AnyNumbersGiveTheRangeFromFirstToLast) {
   } rows[] = {{{7}, 7, 1, 3}, {{2, 5}, 2, 4, 6}, {{9, 5}, 9, -3, 2}, {{999}, 999, 1, 3}};
   for (const auto& row : rows) {
     own.numbers = row.numbers;
+    forms.boxes.clear();
     Open(own);
+    EXPECT_EQ(BoxShown(Text(6458, "3-4")), row.rows == 6) << "told which lines are not the file's";
     EXPECT_EQ(AppState.PosiFirstNo, row.first);
     EXPECT_EQ(AppState.PosiCount, row.count);
     EXPECT_EQ(frmPosi.flgdData.Rows(), row.rows);
