@@ -13,7 +13,8 @@ void RebuildPosiViewKeepingEdits();
 /// which positions, and every cell stands as it was. True when the check was good.
 bool PositionsFollowDevices();
 
-/// The pulses stand in either view, and the millimetres follow them.
+/// The pulses stand in either view, and the millimetres follow them; but a cell that the user has
+/// edited in millimetres keeps these.
 void MmFollowsPulses();
 
 }  // namespace tr7

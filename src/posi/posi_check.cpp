@@ -1,6 +1,7 @@
 #include "posi/posi_check.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "base/scope.h"
@@ -139,6 +140,9 @@ void CommitLine(int number) {
   for (int axis = 0; axis < kAxes; ++axis) CommitAxis(number, axis);
   for (int col = kItpl; col <= kSm; ++col) Record(col, number) = Val(Cell(number, col));
   Record(kComment, number) = Cell(number, kComment);
+  const int row = RowOfPosition(number);
+  frmPosi.SourceNo.at(static_cast<std::size_t>(row - kPosiHeaderRows)) =
+      static_cast<std::int16_t>(number);
 }
 
 /// Both phases, the grid at rest. True: all lines were good and are committed.

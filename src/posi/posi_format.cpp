@@ -1,5 +1,7 @@
 #include "posi/posi_format.h"
 
+#include <cmath>
+
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
@@ -13,10 +15,10 @@ namespace {
 constexpr double kFillerVel = 30;
 constexpr double kFillerAcc = 10;
 
-/// A position as a number: millimetres with three decimals, or pulses.
+/// A position as a number: millimetres with three decimals, where there are any, or pulses.
 std::string LengthText(double pulses, double mm) {
   if (!AppState.DispMmUnit) return PlainDecimal(pulses);
-  return FormatMm(mm);
+  return std::isnan(mm) ? std::string() : FormatMm(mm);
 }
 
 std::string WithSign(const std::string& length, int way) {
@@ -87,7 +89,7 @@ std::string PosiValueText(int col, double stored, double way, bool program_mode)
   if (FieldOfColumn(col) == kAcc) return PlainDecimal(stored * 10);
   if (FieldOfColumn(col) != kPosi) return PlainDecimal(stored);
   const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
-  const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(0);
+  const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(kNoMm);
   return PosiLengthText(LengthText(stored, mm), WayOf(way), program_mode);
 }
 
@@ -112,6 +114,7 @@ WayAndNumber SplitPosiText(std::string_view text) {
 }
 
 std::string PosiLengthText(const std::string& length, int way, bool program_mode) {
+  if (length.empty() && way != 0) return {};  // a sign alone would stand for a move of 1
   if (program_mode) return Aligned(WithSign(length, way));
   return AppState.DispMmUnit ? Aligned(length) : length;
 }

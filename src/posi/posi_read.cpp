@@ -5,6 +5,7 @@
 #include "link/port.h"
 #include "link/posi_commands.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_new.h"
@@ -109,7 +110,8 @@ void PosidataGetfromCt() {
   if (!AskWhatToRead()) return;
   if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
   AppState.CancelRequested = False;
-  if (ReconcileDevices(DeviceReconcile::Read) == 0) ReadAndShow();
+  // Positions that cannot be converted are not shown, here as on opening a file.
+  if (ReconcileDevices(DeviceReconcile::Read) == 0 && AllAxesConvert()) ReadAndShow();
 }
 
 }  // namespace tr7

@@ -3,6 +3,7 @@
 #include <array>
 #include <bitset>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "base/bool16.h"
@@ -14,8 +15,11 @@ namespace tr7 {
 inline constexpr int kPosiMaxNo = 999;       ///< position numbers run from 1 to this
 inline constexpr int kPosiSlots = 1000;      ///< indexed by position number; slot 0 stays unused
 inline constexpr int kMostPulses = 0x3FFFF;  ///< what the 18 bits of the line hold
-inline constexpr int kCommentChars = 20;     ///< characters of a comment
-inline constexpr int kPosiColumns = 29;      ///< columns 1 to 28; column 0 unused
+/// `PosiMm` of a position whose axis has no device to convert by; equal to nothing, itself
+/// included.
+inline constexpr double kNoMm = std::numeric_limits<double>::quiet_NaN();
+inline constexpr int kCommentChars = 20;  ///< characters of a comment
+inline constexpr int kPosiColumns = 29;   ///< columns 1 to 28; column 0 unused
 
 // Columns of one axis group, behind AxisBase(axis).
 inline constexpr int kVel = 1, kAcc = 2, kWay = 3, kPosi = 4, kPf = 5, kPs = 6;
