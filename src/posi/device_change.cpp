@@ -5,6 +5,7 @@
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
+#include "posi/posi_caption.h"
 #include "posi/posi_check.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_keep.h"
@@ -50,10 +51,18 @@ void FindMissingMm() {
   }
 }
 
+/// The other mode stores other speeds and accelerations: saving must not replace the file unasked.
+void LeaveFileOfOtherMode() {
+  if (PosiTableHasFile()) SetPosiTableName(Text(213));
+  frmPosi.PosiChanged = True;
+}
+
 void Rebuild(KeptEdits::Unedited keeps) {
+  const bool other_mode = AppState.PosiFirstNo >= 1 && frmPosi.ShownPrgMode != AppState.CtMode;
   const KeptEdits edits;
   RebuildPosiView();
   edits.PutBack(keeps);
+  if (other_mode) LeaveFileOfOtherMode();
 }
 
 bool Recalc() { return (AppState.DispMmUnit ? RecalcPulseFromMm() : RecalcMmFromPulse()) == 0; }

@@ -304,6 +304,19 @@ TEST_F(PosiGrid, InMillimetresOnlyAnEditedCellChangesItsPulses) {
   }
 }
 
+TEST_F(PosiGrid, AModeThatChangesUnderTheTableTakesItsFileAway) {
+  for (const bool program_mode : {true, false}) {
+    ShowTable(1, 2, !program_mode);
+    SetPosiTableFile("/data/job.qvd");
+    RebuildPosiViewKeepingEdits();
+    EXPECT_TRUE(PosiTableHasFile() && !frmPosi.PosiChanged) << "the same mode";
+    AppState.CtMode = program_mode;
+    RebuildPosiViewKeepingEdits();
+    EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
+    EXPECT_TRUE(!PosiTableHasFile() && frmPosi.PosiChanged) << "a save asks for a name";
+  }
+}
+
 // The unit.
 
 class PosiUnit : public PosiGrid {
