@@ -11,6 +11,7 @@
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
@@ -236,10 +237,6 @@ std::vector<int> WrittenNumbers() {
   return numbers;
 }
 
-bool SavesWholeTable() {
-  return AppState.PosiFromNo <= AppState.PosiFirstNo && AppState.PosiToNo >= AppState.PosiLastNo;
-}
-
 /// A line of the file means nothing to the user; its position number does.
 std::string SaveWords(const TextFileResult& saved, const std::vector<int>& numbers) {
   const int record = saved.bad_line - kHeaderLines - 1;
@@ -296,7 +293,7 @@ int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
   }
   SetPosiTableFile(path);
   // What lies outside a narrowed range is in no file yet.
-  if (SavesWholeTable()) frmPosi.PosiChanged = False;
+  if (RangeIsWholeTable()) frmPosi.PosiChanged = False;
   return 0;
 }
 
