@@ -67,7 +67,7 @@ void TellNumbersLeftOut() {
 }
 
 /// The stage becomes the table, in the layout of the axes in use.
-void ShowStage() {
+void ShowStage(FileDevices devices) {
   AppState.PosiFromNo = AppState.PosiFirstNo = AppState.FileFirstNo;
   AppState.PosiToNo = AppState.PosiLastNo = AppState.FileLastNo;
   AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
@@ -78,18 +78,21 @@ void ShowStage() {
   RecalcMmFromPulse();
   FG_HighSyoriStart();
   RebuildPosiView();
-  ShowFileAges();
+  // The file's words tell the age of its own devices, not of those in use instead.
+  if (devices == FileDevices::OfFile) ShowFileAges();
 }
 
 void Open() {
   if (!MayReplaceTable(kMsgSaveBeforeOpen)) return;
   const std::string path = AskPath();
   if (path.empty()) return;
-  DevicesOnTrial devices;
-  if (!ReadIntoStage(path) || !ReconcileFileDevices()) return;
-  devices.Keep();
+  DevicesOnTrial trial;
+  if (!ReadIntoStage(path)) return;
+  const FileDevices devices = ReconcileFileDevices();
+  if (devices == FileDevices::Refused) return;
+  trial.Keep();
   TellNumbersLeftOut();
-  ShowStage();
+  ShowStage(devices);
   SetPosiTableFile(path);
   frmPosi.PosiChanged = False;
 }

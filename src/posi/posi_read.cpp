@@ -1,5 +1,6 @@
 #include <string>
 
+#include "device/device_texts.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "link/port.h"
@@ -75,6 +76,7 @@ void ShowReadData() {
   PosiStageCommit();
   RecalcMmFromPulse();
   FG_ShowTable();
+  DeviceTextHyoji();  // a file's word on the age of its devices goes with the file
   SetPosiTableName(Text(374));
   frmPosi.PosiChanged = False;
 }
