@@ -71,7 +71,7 @@ int Store(Limits& limits, LimitOf limit_of) {
 }  // namespace
 
 std::optional<double> PulseToMm(double lead, double ppr, double pulses) {
-  return IfFinite(pulses * (lead / ppr));
+  return lead == 0 ? std::nullopt : IfFinite(pulses * (lead / ppr));
 }
 
 std::optional<double> MmToPulse(double lead, double ppr, double mm) {

@@ -9,7 +9,7 @@
 namespace tr7 {
 
 // Between millimetres and pulses. Lead is mm per motor turn, ppr pulses per motor turn. A result
-// is empty when the conversion fails (a divisor of 0, an overflow): the caller's operation has
+// is empty when the conversion fails (a lead or ppr of 0, an overflow): the caller's operation has
 // failed then, and stores nothing.
 
 /// Millimetres of a pulse count, not rounded.

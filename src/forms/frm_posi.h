@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
 
 #include "base/bool16.h"
 #include "forms/grid.h"
@@ -64,6 +67,9 @@ struct FrmPosi : View {
   // The layout that the grid was last filled in.
   Bool16 ShownPrgMode;
   std::array<Bool16, 4> ShownMuko;
+  std::array<double, 4> ShownLead{}, ShownPpr{};
+  /// By body line: the position of the table that it shows or was filled from; 0: a new line.
+  std::vector<std::int16_t> SourceNo;
 
   Bool16 PosiChanged;  ///< shown data differ from the last file or controller state
   Bool16 CopiedIsLine;

@@ -1,6 +1,11 @@
 #include "posi/device_change.h"
 
+#include <cmath>
+
+#include "device/dev_setting.h"
+#include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
+#include "posi/posi_caption.h"
 #include "posi/posi_check.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_keep.h"
@@ -32,17 +37,42 @@ class LoadedRange {
   std::int16_t from_, to_;
 };
 
+/// A position without millimetres has its pulses alone to go on with.
+void FindMissingMm() {
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const auto a = static_cast<std::size_t>(axis);
+    const auto& pulses = PosiTable.PosiRec[static_cast<std::size_t>(AxisBase(axis) + kPosi)];
+    for (int no = AppState.PosiFirstNo; no <= AppState.PosiLastNo; ++no) {
+      const auto n = static_cast<std::size_t>(no);
+      double& mm = PosiTable.PosiMm[a][n];
+      if (!std::isnan(mm)) continue;
+      mm = PulseToMm(DevSetting[a].Lead, DevSetting[a].Ppr, ValueOf(pulses[n])).value_or(kNoMm);
+    }
+  }
+}
+
+/// The other mode stores other speeds and accelerations: saving must not replace the file unasked.
+void LeaveFileOfOtherMode() {
+  if (PosiTableHasFile()) SetPosiTableName(Text(213));
+  frmPosi.PosiChanged = True;
+}
+
+void Rebuild(KeptEdits::Unedited keeps) {
+  const bool other_mode = AppState.PosiFirstNo >= 1 && frmPosi.ShownPrgMode != AppState.CtMode;
+  const KeptEdits edits;
+  RebuildPosiView();
+  edits.PutBack(keeps);
+  if (other_mode) LeaveFileOfOtherMode();
+}
+
 bool Recalc() { return (AppState.DispMmUnit ? RecalcPulseFromMm() : RecalcMmFromPulse()) == 0; }
 
 }  // namespace
 
-void RebuildPosiViewKeepingEdits() {
-  const KeptEdits edits;
-  RebuildPosiView();
-  edits.PutBack();
-}
+void RebuildPosiViewKeepingEdits() { Rebuild(KeptEdits::Unedited::Millimetres); }
 
 bool PositionsFollowDevices() {
+  if (AppState.PosiFirstNo >= 1) FindMissingMm();
   RebuildPosiViewKeepingEdits();
   if (AppState.PosiFirstNo < 1) return true;
   // A transfer that connects on its way has its own range, which it goes on with.
@@ -60,9 +90,9 @@ bool PositionsFollowDevices() {
 void MmFollowsPulses() {
   if (AppState.PosiFirstNo >= 1) {
     const LoadedRange range;
-    RecalcMmFromPulse();  // a device that cannot convert leaves the millimetres as they were
+    RecalcMmFromPulse();
   }
-  RebuildPosiViewKeepingEdits();
+  Rebuild(KeptEdits::Unedited::Pulses);
 }
 
 }  // namespace tr7

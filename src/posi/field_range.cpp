@@ -56,4 +56,12 @@ bool FieldInRange(int col, double value) {
   }
 }
 
+double StoredAcc(const std::string& cell) { return std::nearbyint(Val(cell) / 10); }
+
+bool CellInRange(int col, const std::string& text) {
+  if (text.find_first_not_of(' ') == std::string::npos) return false;
+  const bool acc = AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kAcc;
+  return FieldInRange(col, acc ? StoredAcc(text) : Val(text));
+}
+
 }  // namespace tr7

@@ -111,20 +111,20 @@ DevicesOnTrial::~DevicesOnTrial() {
   AppState.AxisCount = axis_count_;
 }
 
-bool ReconcileFileDevices() {
+FileDevices ReconcileFileDevices() {
   const auto pending = DevSettei;
   const bool axes_differ = TakeAxesOfFile();
-  if (ParseDeviceNames() != 0) return false;
+  if (ParseDeviceNames() != 0) return FileDevices::Refused;
   const bool same = !axes_differ && CompareActuatorSettingOfPosifile2PC() == 0;
   Choice choice = Choice::DevicesInUse;
-  if (!same && !AskAndFollow(choice)) return false;
-  if (!TellIfNotConvertible()) return false;
+  if (!same && !AskAndFollow(choice)) return FileDevices::Refused;
+  if (!TellIfNotConvertible()) return FileDevices::Refused;
   if (choice == Choice::DevicesInUse) {
     DevSettei = pending;
   } else {
     DevicesHaveChanged();
   }
-  return true;
+  return same || choice == Choice::DevicesOfFile ? FileDevices::OfFile : FileDevices::Others;
 }
 
 }  // namespace tr7

@@ -32,10 +32,13 @@ class DevicesOnTrial {
   bool kept_ = false;
 };
 
+/// By whose devices the positions of a file are shown. `Refused`: they are not to be shown.
+enum class FileDevices { Refused, OfFile, Others };
+
 /// Holds the axes and devices that the position file read last names against those in use. Where
-/// they differ the user decides by whose its positions are shown, and the devices follow. False
-/// when the file is not to be shown: a name that is not valid, Cancel, a failure, or an axis that
-/// cannot convert, each told; the caller's `DevicesOnTrial` then takes back what has changed.
-bool ReconcileFileDevices();
+/// they differ the user decides by whose its positions are shown, and the devices follow. Refused
+/// are a name that is not valid, Cancel, a failure, or an axis that cannot convert, each told; the
+/// caller's `DevicesOnTrial` then takes back what has changed.
+[[nodiscard]] FileDevices ReconcileFileDevices();
 
 }  // namespace tr7

@@ -1,7 +1,7 @@
 #include "posi/posi_check.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdint>
 #include <string>
 
 #include "base/scope.h"
@@ -37,9 +37,6 @@ const std::string& Cell(int number, int col) {
 
 bool InUse(int axis) { return !AppState.AxisMuko[static_cast<std::size_t>(axis)]; }
 
-/// The stored form of an ACC cell: tens of milliseconds, a whole number.
-double StoredAcc(const std::string& cell) { return std::nearbyint(Val(cell) / 10); }
-
 void ClearResult() {
   ClearSyogo();
   PosiTable.PosiLineBad.fill(False);
@@ -58,18 +55,11 @@ NumberRange RangeToCheck() {
 
 // Phase one: every cell's own test. Nothing but flags is written.
 
-double NumberInCell(int col, const std::string& cell) {
-  const int axis = AxisOfColumn(col);
-  if (axis < 0 || FieldOfColumn(col) < kAcc) return Val(cell);
-  if (FieldOfColumn(col) == kAcc) return StoredAcc(cell);
-  if (FieldOfColumn(col) == kPosi && AppState.CtMode) return Val(SplitPosiText(cell).number);
-  return Val(cell);
-}
-
 void CheckCell(int number, int col) {
   const std::string& cell = Cell(number, col);
-  const bool filled = cell.find_first_not_of(' ') != std::string::npos;
-  if (!filled || !FieldInRange(col, NumberInCell(col, cell))) FlagCell(col, number);
+  const bool signed_position =
+      AppState.CtMode && AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kPosi;
+  if (!CellInRange(col, signed_position ? SplitPosiText(cell).number : cell)) FlagCell(col, number);
 }
 
 void CheckAxis(int number, int axis) {
@@ -150,6 +140,9 @@ void CommitLine(int number) {
   for (int axis = 0; axis < kAxes; ++axis) CommitAxis(number, axis);
   for (int col = kItpl; col <= kSm; ++col) Record(col, number) = Val(Cell(number, col));
   Record(kComment, number) = Cell(number, kComment);
+  const int row = RowOfPosition(number);
+  frmPosi.SourceNo.at(static_cast<std::size_t>(row - kPosiHeaderRows)) =
+      static_cast<std::int16_t>(number);
 }
 
 /// Both phases, the grid at rest. True: all lines were good and are committed.

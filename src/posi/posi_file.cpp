@@ -11,6 +11,7 @@
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/file_kind.h"
@@ -109,6 +110,7 @@ Outcome Reading::ReadWords() {
 }
 
 bool Reading::ReadRecords() {
+  PosiStageInit();
   if (items_.AtEnd()) return Fail(Text(kMsgNoRecords));
   for (bool first = true; !items_.AtEnd(); first = false) {
     int number = 0;
@@ -117,6 +119,7 @@ bool Reading::ReadRecords() {
     AppState.FileLastNo = static_cast<std::int16_t>(number);
     words_ = Text(kMsgLineDamaged, std::to_string(number));
     if (!ReadColumns(number)) return false;
+    PosiTable.StageHolds.set(static_cast<std::size_t>(number));
   }
   return true;
 }
@@ -143,9 +146,6 @@ bool Reading::ReadColumn(int col, int number) {
 
 bool Reading::ReadColumns(int number) {
   if (layout_ == Layout::Oldest) {
-    for (int axis = 0; axis < kAxes; ++axis) {
-      Stage(AxisBase(axis) + kPf, number) = Stage(AxisBase(axis) + kPs, number) = 0.0;
-    }
     for (const int col : kOldColumns) {
       if (!ReadColumn(col, number)) return false;
     }
@@ -233,10 +233,6 @@ std::vector<int> WrittenNumbers() {
   return numbers;
 }
 
-bool SavesWholeTable() {
-  return AppState.PosiFromNo <= AppState.PosiFirstNo && AppState.PosiToNo >= AppState.PosiLastNo;
-}
-
 /// A line of the file means nothing to the user; its position number does.
 std::string SaveWords(const TextFileResult& saved, const std::vector<int>& numbers) {
   const int record = saved.bad_line - kHeaderLines - 1;
@@ -253,6 +249,24 @@ int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble) {
 
 int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble) {
   return ReadFile(path, Layout::Oldest, trouble);
+}
+
+std::string NumbersLeftOut(int first, int last) {
+  constexpr int kMostRuns = 20;
+  const auto left_out = [last](int n) {
+    return n <= last && !PosiTable.StageHolds[static_cast<std::size_t>(n)];
+  };
+  std::string text;
+  int runs = 0;
+  for (int n = first; n <= last; ++n) {
+    if (!left_out(n)) continue;
+    if (++runs > kMostRuns) return text + ", ...";
+    const int start = n;
+    while (left_out(n + 1)) ++n;
+    text += (runs > 1 ? ", " : "") + std::to_string(start);
+    if (n > start) text += "-" + std::to_string(n);
+  }
+  return text;
 }
 
 void ShowFileAges() {
@@ -275,7 +289,7 @@ int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
   }
   SetPosiTableFile(path);
   // What lies outside a narrowed range is in no file yet.
-  if (SavesWholeTable()) frmPosi.PosiChanged = False;
+  if (RangeIsWholeTable()) frmPosi.PosiChanged = False;
   return 0;
 }
 

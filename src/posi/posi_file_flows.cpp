@@ -1,5 +1,6 @@
 #include "posi/posi_file_flows.h"
 
+#include <filesystem>
 #include <optional>
 
 #include "forms/frm_posi.h"
@@ -19,6 +20,7 @@
 namespace tr7 {
 namespace {
 
+constexpr int kMsgPartOverWhole = 6460;
 constexpr int kTries = 4;
 constexpr int kPauseMs = 100;
 
@@ -49,11 +51,23 @@ bool AskWhatToSave() {
   return MsgBox(Text(405), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
+/// The rest of the table would be in no file, and nothing would say so.
+bool IsPartOverOwnFile(const std::string& path) {
+  const auto plain = [](const std::string& p) {
+    return std::filesystem::path(p).lexically_normal();
+  };
+  return !RangeIsWholeTable() && PosiTableHasFile() && plain(path) == plain(PosiTablePath());
+}
+
 void SaveAs() {
   const WholeRangeAfter whole_range;
   if (!AskWhatToSave()) return;
   const auto path = AskSavePath(406);
   if (!path) return;
+  if (IsPartOverOwnFile(*path)) {
+    MsgBox(Text(kMsgPartOverWhole));
+    return;
+  }
   PosiFileTrouble trouble;
   if (SaveFileAs2(*path, trouble) != 0) MsgBox(WithReason(422, trouble));
 }

@@ -1,8 +1,11 @@
 #include "posi/posi_format.h"
 
+#include <cmath>
+
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
+#include "posi/field_range.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 
@@ -12,10 +15,10 @@ namespace {
 constexpr double kFillerVel = 30;
 constexpr double kFillerAcc = 10;
 
-/// A position as a number: millimetres with three decimals, or pulses.
+/// A position as a number: millimetres with three decimals, where there are any, or pulses.
 std::string LengthText(double pulses, double mm) {
   if (!AppState.DispMmUnit) return PlainDecimal(pulses);
-  return FormatMm(mm);
+  return std::isnan(mm) ? std::string() : FormatMm(mm);
 }
 
 std::string WithSign(const std::string& length, int way) {
@@ -61,10 +64,9 @@ int WayOf(double stored) { return stored >= 0 && stored < 4 ? static_cast<int>(s
 std::string PosiCellText(int col, int number, bool program_mode) {
   if (col == kComment) return TextOf(Field(col, number));
   const int axis = AxisOfColumn(col);
-  if (axis < 0) return PlainDecimal(ValueOf(Field(col, number)));
   const auto index = static_cast<std::size_t>(axis);
-  if (AppState.AxisMuko[index]) return FillerText(col, program_mode);
-  if (FieldOfColumn(col) == kPosi) {
+  if (axis >= 0 && AppState.AxisMuko[index]) return FillerText(col, program_mode);
+  if (axis >= 0 && FieldOfColumn(col) == kPosi) {
     const auto slot = static_cast<std::size_t>(number);
     const int way = WayOf(ValueOf(Field(AxisBase(axis) + kWay, number)));
     return PosiLengthText(
@@ -72,7 +74,13 @@ std::string PosiCellText(int col, int number, bool program_mode) {
         program_mode);
   }
   const double value = ValueOf(Field(col, number));
-  return PlainDecimal(FieldOfColumn(col) == kAcc ? value * 10 : value);
+  const bool acc = axis >= 0 && FieldOfColumn(col) == kAcc;
+  const std::string text = PlainDecimal(acc ? value * 10 : value);
+  return program_mode ? HiddenCellText(col, text) : text;
+}
+
+std::string HiddenCellText(int col, const std::string& text) {
+  return CellInRange(col, text) ? text : std::string();
 }
 
 std::string PosiValueText(int col, double stored, double way, bool program_mode) {
@@ -81,7 +89,7 @@ std::string PosiValueText(int col, double stored, double way, bool program_mode)
   if (FieldOfColumn(col) == kAcc) return PlainDecimal(stored * 10);
   if (FieldOfColumn(col) != kPosi) return PlainDecimal(stored);
   const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
-  const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(0);
+  const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(kNoMm);
   return PosiLengthText(LengthText(stored, mm), WayOf(way), program_mode);
 }
 
@@ -91,7 +99,9 @@ std::string PosiDefaultText(int col, bool program_mode) {
   if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) {
     return FillerText(col, program_mode);
   }
-  return PosiValueText(col, PosiDefault(col), 0, program_mode);
+  const std::string text = PosiValueText(col, PosiDefault(col), 0, program_mode);
+  const bool hidden = program_mode && (axis < 0 || FieldOfColumn(col) != kPosi);
+  return hidden ? HiddenCellText(col, text) : text;
 }
 
 WayAndNumber SplitPosiText(std::string_view text) {
@@ -104,6 +114,7 @@ WayAndNumber SplitPosiText(std::string_view text) {
 }
 
 std::string PosiLengthText(const std::string& length, int way, bool program_mode) {
+  if (length.empty() && way != 0) return {};  // a sign alone would stand for a move of 1
   if (program_mode) return Aligned(WithSign(length, way));
   return AppState.DispMmUnit ? Aligned(length) : length;
 }

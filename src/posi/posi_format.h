@@ -16,6 +16,10 @@ int WayOf(double stored);
 /// The same for the value of the other side of a comparison (stored value, "Posi" in pulses).
 std::string PosiValueText(int col, double stored, double way, bool program_mode);
 
+/// What a cell that program mode hides holds of a text: nothing where the check would refuse it,
+/// since the user can neither see nor mend it. The commit stores that mode's own values there.
+std::string HiddenCellText(int col, const std::string& text);
+
 /// Text of the cell of a new line: the defaults of a new table.
 std::string PosiDefaultText(int col, bool program_mode);
 

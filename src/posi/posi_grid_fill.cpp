@@ -1,8 +1,10 @@
 #include "posi/posi_grid_fill.h"
 
 #include <algorithm>
+#include <numeric>
 #include <string>
 
+#include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_layout.h"
@@ -31,6 +33,12 @@ void Show(bool program_mode) {
   grid.SetRows(ShownPositions() + kPosiHeaderRows);
   frmPosi.ShownPrgMode = program_mode;
   frmPosi.ShownMuko = AppState.AxisMuko;
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    frmPosi.ShownLead[axis] = DevSetting[axis].Lead;
+    frmPosi.ShownPpr[axis] = DevSetting[axis].Ppr;
+  }
+  frmPosi.SourceNo.resize(static_cast<std::size_t>(ShownPositions()));
+  std::iota(frmPosi.SourceNo.begin(), frmPosi.SourceNo.end(), AppState.PosiFirstNo);
   for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
     FillRow(row, PositionOfRow(row), program_mode);
   }

@@ -1,6 +1,7 @@
 #include "posi/posi_grid_keep.h"
 
 #include "base/text_helpers.h"
+#include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_layout.h"
@@ -8,7 +9,12 @@
 
 namespace tr7 {
 
-KeptEdits::KeptEdits() : program_mode_(frmPosi.ShownPrgMode), muko_(frmPosi.ShownMuko) {
+KeptEdits::KeptEdits()
+    : program_mode_(frmPosi.ShownPrgMode),
+      muko_(frmPosi.ShownMuko),
+      lead_(frmPosi.ShownLead),
+      ppr_(frmPosi.ShownPpr),
+      source_(frmPosi.SourceNo) {
   const Grid& grid = frmPosi.flgdData;
   if (!frmPosi.PosiChanged || grid.Rows() <= kPosiHeaderRows) return;
   rows_ = grid.Rows();
@@ -18,7 +24,7 @@ KeptEdits::KeptEdits() : program_mode_(frmPosi.ShownPrgMode), muko_(frmPosi.Show
   }
 }
 
-void KeptEdits::PutBack() const {
+void KeptEdits::PutBack(Unedited keeps) const {
   Grid& grid = frmPosi.flgdData;
   if (rows_ != grid.Rows()) return;
   for (int row = kPosiHeaderRows; row < rows_; ++row) {
@@ -26,9 +32,10 @@ void KeptEdits::PutBack() const {
       const int axis = AxisOfColumn(col);
       const auto index = static_cast<std::size_t>(axis);
       if (axis >= 0 && (muko_[index] || AppState.AxisMuko[index])) continue;
-      grid.SetText(row, col, NewText(row, col));
+      grid.SetText(row, col, NewText(row, col, keeps));
     }
   }
+  frmPosi.SourceNo = source_;
   grid.Touch();
 }
 
@@ -36,22 +43,48 @@ const std::string& KeptEdits::Text(int row, int col) const {
   return texts_[static_cast<std::size_t>(row) * kPosiColumns + static_cast<std::size_t>(col)];
 }
 
-std::string KeptEdits::NewText(int row, int col) const {
+std::string KeptEdits::NewText(int row, int col, Unedited keeps) const {
   const int axis = AxisOfColumn(col);
+  const bool position = axis >= 0 && FieldOfColumn(col) == kPosi;
+  if (AppState.CtMode && !position && col != kComment) return HiddenCellText(col, Text(row, col));
+  if (position) return PosiText(row, axis, keeps);
   if (program_mode_ == AppState.CtMode || axis < 0) return Text(row, col);
-  if (FieldOfColumn(col) == kPosi) return PosiText(row, axis);
   if (FieldOfColumn(col) == kWay && program_mode_) {
     return std::to_string(SplitPosiText(Text(row, AxisBase(axis) + kPosi)).way);
   }
   return Text(row, col);
 }
 
-std::string KeptEdits::PosiText(int row, int axis) const {
-  const std::string& text = Text(row, AxisBase(axis) + kPosi);
-  if (Trim(text).empty()) return text;  // an empty cell stays one, for the check to find
-  if (program_mode_) return PosiLengthText(SplitPosiText(text).number, 1, false);
-  const int way = WayOf(Val(Text(row, AxisBase(axis) + kWay)));
-  return PosiLengthText(Trim(text), way, true);
+std::string KeptEdits::PosiText(int row, int axis, Unedited keeps) const {
+  const int col = AxisBase(axis) + kPosi;
+  const std::string& text = Text(row, col);
+  const WayAndNumber cell = SplitPosiText(text);
+  const bool empty = Trim(text).empty();
+  int way = program_mode_ ? cell.way : WayOf(Val(Text(row, AxisBase(axis) + kWay)));
+  if (AppState.DispMmUnit && (empty || keeps == Unedited::Pulses) && IsUnedited(row, axis)) {
+    if (empty && program_mode_) way = WayOf(Held(row, AxisBase(axis) + kWay));
+    return PosiValueText(col, Held(row, col), way, AppState.CtMode);
+  }
+  if (empty || program_mode_ == AppState.CtMode)
+    return text;  // an empty cell is the check's to find
+  return PosiLengthText(program_mode_ ? cell.number : Trim(text), way, AppState.CtMode);
+}
+
+/// The cell shows in millimetres what the table holds in pulses, by the device of that time.
+bool KeptEdits::IsUnedited(int row, int axis) const {
+  if (source_.at(static_cast<std::size_t>(row - kPosiHeaderRows)) == 0) return false;
+  const auto a = static_cast<std::size_t>(axis);
+  const int col = AxisBase(axis) + kPosi;
+  const auto mm = PulseToMm(lead_[a], ppr_[a], Held(row, col));
+  const std::string& text = Text(row, col);
+  return (program_mode_ ? SplitPosiText(text).number : Trim(text)) == (mm ? FormatMm(*mm) : "");
+}
+
+/// What the table holds for the line.
+double KeptEdits::Held(int row, int col) const {
+  const auto number =
+      static_cast<std::size_t>(source_[static_cast<std::size_t>(row - kPosiHeaderRows)]);
+  return ValueOf(PosiTable.PosiRec[static_cast<std::size_t>(col)][number]);
 }
 
 }  // namespace tr7

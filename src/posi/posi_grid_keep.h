@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -14,17 +15,25 @@ namespace tr7 {
 /// or takes it out; an axis that was not in use then or is not now shows what the table holds.
 class KeptEdits {
  public:
+  /// Which of the two a position in millimetres keeps when its device has changed. One that the
+  /// user has edited keeps its millimetres in either case, and one that had none its pulses.
+  enum class Unedited { Millimetres, Pulses };
+
   KeptEdits();
-  void PutBack() const;
+  void PutBack(Unedited keeps) const;
 
  private:
   const std::string& Text(int row, int col) const;
-  std::string NewText(int row, int col) const;
-  std::string PosiText(int row, int axis) const;
+  std::string NewText(int row, int col, Unedited keeps) const;
+  std::string PosiText(int row, int axis, Unedited keeps) const;
+  bool IsUnedited(int row, int axis) const;
+  double Held(int row, int col) const;
 
   int rows_ = 0;  ///< 0: nothing was kept
   Bool16 program_mode_;
   std::array<Bool16, kAxes> muko_;
+  std::array<double, kAxes> lead_, ppr_;
+  std::vector<std::int16_t> source_;
   std::vector<std::string> texts_;
 };
 

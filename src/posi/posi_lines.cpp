@@ -21,6 +21,8 @@ bool IsBodyRow(int row) { return row >= kPosiHeaderRows && row < frmPosi.flgdDat
 /// No position may pass 999, wherever the table starts.
 bool IsFull() { return AppState.PosiLastNo >= kPosiMaxNo; }
 
+auto SourceOf(int row) { return frmPosi.SourceNo.begin() + (row - kPosiHeaderRows); }
+
 /// Numbers, range and change flag after lines have come or gone.
 void LinesChanged() {
   Grid& grid = frmPosi.flgdData;
@@ -47,6 +49,7 @@ bool AppendLine() {
   if (IsFull()) return false;
   Grid& grid = frmPosi.flgdData;
   grid.SetRows(grid.Rows() + 1);
+  frmPosi.SourceNo.push_back(0);
   InsertLineDefaults(grid.Rows() - 1);
   LinesChanged();
   return true;
@@ -63,6 +66,7 @@ void cmdInsertLine_Click() {
   if (IsFull()) return;
   FG_HighSyoriStart();
   grid.InsertRow(row);
+  frmPosi.SourceNo.insert(SourceOf(row), 0);
   InsertLineDefaults(row);
   LinesChanged();
   grid.SelectCell(row, grid.Col);
@@ -78,6 +82,7 @@ void cmdDeleteLine_Click() {
     return;
   }
   FG_HighSyoriStart();
+  frmPosi.SourceNo.erase(SourceOf(first), SourceOf(last + 1));
   for (int count = last - first + 1; count > 0; --count) grid.RemoveRow(first);
   LinesChanged();
   const int row = std::min(first, grid.Rows() - 1);

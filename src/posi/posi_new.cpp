@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "device/device_texts.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_commands.h"
@@ -53,6 +54,7 @@ void SinkiSakusei() {
   AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
   PosiTableInit();
   FG_ShowTable();
+  DeviceTextHyoji();  // a file's word on the age of its devices goes with the file
   frmPosi.PosiChanged = False;
   SetPosiTableName(Text(213));
 }

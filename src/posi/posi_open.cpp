@@ -25,6 +25,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgSaveBeforeOpen = 6450;
+constexpr int kMsgLeftOut = 6458;
 
 /// A path; empty when the flow ends.
 std::string AskPath() {
@@ -59,28 +60,39 @@ void NameSeries() {
   }
 }
 
+/// Whoever takes the shown lines for the file's must know which ones are not.
+void TellNumbersLeftOut() {
+  const std::string numbers = NumbersLeftOut(AppState.FileFirstNo, AppState.FileLastNo);
+  if (!numbers.empty()) MsgBox(Text(kMsgLeftOut, numbers));
+}
+
 /// The stage becomes the table, in the layout of the axes in use.
-void ShowStage() {
+void ShowStage(FileDevices devices) {
   AppState.PosiFromNo = AppState.PosiFirstNo = AppState.FileFirstNo;
   AppState.PosiToNo = AppState.PosiLastNo = AppState.FileLastNo;
   AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
   NameSeries();
   RecalcLimits();
+  PosiStageFillRest();  // by the devices that are in use now
   PosiStageCommit();
   RecalcMmFromPulse();
   FG_HighSyoriStart();
   RebuildPosiView();
-  ShowFileAges();
+  // The file's words tell the age of its own devices, not of those in use instead.
+  if (devices == FileDevices::OfFile) ShowFileAges();
 }
 
 void Open() {
   if (!MayReplaceTable(kMsgSaveBeforeOpen)) return;
   const std::string path = AskPath();
   if (path.empty()) return;
-  DevicesOnTrial devices;
-  if (!ReadIntoStage(path) || !ReconcileFileDevices()) return;
-  devices.Keep();
-  ShowStage();
+  DevicesOnTrial trial;
+  if (!ReadIntoStage(path)) return;
+  const FileDevices devices = ReconcileFileDevices();
+  if (devices == FileDevices::Refused) return;
+  trial.Keep();
+  TellNumbersLeftOut();
+  ShowStage(devices);
   SetPosiTableFile(path);
   frmPosi.PosiChanged = False;
 }

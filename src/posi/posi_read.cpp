@@ -1,10 +1,12 @@
 #include <string>
 
+#include "device/device_texts.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "link/port.h"
 #include "link/posi_commands.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_new.h"
@@ -74,6 +76,7 @@ void ShowReadData() {
   PosiStageCommit();
   RecalcMmFromPulse();
   FG_ShowTable();
+  DeviceTextHyoji();  // a file's word on the age of its devices goes with the file
   SetPosiTableName(Text(374));
   frmPosi.PosiChanged = False;
 }
@@ -108,7 +111,8 @@ void PosidataGetfromCt() {
   if (!AskWhatToRead()) return;
   if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
   AppState.CancelRequested = False;
-  if (ReconcileDevices(DeviceReconcile::Read) == 0) ReadAndShow();
+  // Positions that cannot be converted are not shown, here as on opening a file.
+  if (ReconcileDevices(DeviceReconcile::Read) == 0 && AllAxesConvert()) ReadAndShow();
 }
 
 }  // namespace tr7

@@ -60,6 +60,7 @@ int PosiDataSyogoProc() {
   ClearSyogo();
   const int last = std::min<int>(AppState.PosiToNo, kPosiMaxNo);
   for (int n = std::max<int>(AppState.PosiFromNo, 1); n <= last; ++n) {
+    if (!PosiTable.StageHolds[static_cast<std::size_t>(n)]) continue;
     CompareLine(n);
     if (LineIsFlagged(n)) ++PosiTable.SyogoCount;
   }

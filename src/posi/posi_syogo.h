@@ -5,7 +5,8 @@
 namespace tr7 {
 
 /// Compares `PosiStage` with the table over `PosiFromNo` to `PosiToNo`, without tolerance, and
-/// flags what differs. Comments are not compared. 0 equal, 1 different.
+/// flags what differs. Comments are not compared, nor numbers that
+/// the stage does not hold. 0 equal, 1 different.
 int PosiDataSyogoProc();
 
 /// The part of the loaded range that the file read last covers, as `SyogoFromNo` and `SyogoToNo`:

@@ -35,14 +35,36 @@ double PosiDefault(int col) {
   }
 }
 
+namespace {
+
+Variant StartValue(int col) {
+  return col == kComment ? Variant(std::string()) : Variant(PosiDefault(col));
+}
+
+}  // namespace
+
+void PosiStageInit() {
+  PosiTable.StageHolds.reset();
+  PosiStageFillRest();
+}
+
+void PosiStageFillRest() {
+  for (int col = 1; col < kPosiColumns; ++col) {
+    const Variant value = StartValue(col);
+    auto& column = PosiTable.PosiStage[static_cast<std::size_t>(col)];
+    for (std::size_t n = 1; n < column.size(); ++n) {
+      if (!PosiTable.StageHolds[n]) column[n] = value;
+    }
+  }
+}
+
 void PosiTableInit() {
   for (std::string& reply : PosiTable.PosiRawReply) reply.clear();
   for (auto& pulses : PosiTable.PosiPulse) pulses.fill(0);
   for (auto& lengths : PosiTable.PosiMm) lengths.fill(0);
+  PosiStageInit();
   for (int col = 1; col < kPosiColumns; ++col) {
-    const Variant value = col == kComment ? Variant(std::string()) : Variant(PosiDefault(col));
-    PosiTable.PosiRec[static_cast<std::size_t>(col)].fill(value);
-    PosiTable.PosiStage[static_cast<std::size_t>(col)].fill(value);
+    PosiTable.PosiRec[static_cast<std::size_t>(col)].fill(StartValue(col));
   }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 #include "base/bool16.h"
@@ -13,8 +15,11 @@ namespace tr7 {
 inline constexpr int kPosiMaxNo = 999;       ///< position numbers run from 1 to this
 inline constexpr int kPosiSlots = 1000;      ///< indexed by position number; slot 0 stays unused
 inline constexpr int kMostPulses = 0x3FFFF;  ///< what the 18 bits of the line hold
-inline constexpr int kCommentChars = 20;     ///< characters of a comment
-inline constexpr int kPosiColumns = 29;      ///< columns 1 to 28; column 0 unused
+/// `PosiMm` of a position whose axis has no device to convert by; equal to nothing, itself
+/// included.
+inline constexpr double kNoMm = std::numeric_limits<double>::quiet_NaN();
+inline constexpr int kCommentChars = 20;  ///< characters of a comment
+inline constexpr int kPosiColumns = 29;   ///< columns 1 to 28; column 0 unused
 
 // Columns of one axis group, behind AxisBase(axis).
 inline constexpr int kVel = 1, kAcc = 2, kWay = 3, kPosi = 4, kPf = 5, kPs = 6;
@@ -32,6 +37,7 @@ constexpr int FieldOfColumn(int col) { return (col - 1) % 6 + 1; }
 struct PosiTableRecord {
   std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiRec;    ///< [column][number]
   std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiStage;  ///< data coming in
+  std::bitset<kPosiSlots> StageHolds;  ///< numbers that came in; the others have start values
   std::array<std::array<std::int32_t, kPosiSlots>, kAxes> PosiPulse{};
   std::array<std::array<double, kPosiSlots>, kAxes> PosiMm{};
   std::array<std::string, kPosiSlots> PosiRawReply;  ///< [number - 1]: reply line, or line to send
@@ -49,6 +55,11 @@ extern PosiTableRecord PosiTable;
 /// Clears raw replies, pulses and millimetres, and fills record and stage with the defaults of a
 /// new table for all 999 positions.
 void PosiTableInit();
+
+/// The stage as every load begins: it holds no number. The second fills the numbers that it does
+/// not hold with the defaults of a new table, for the devices in use.
+void PosiStageInit();
+void PosiStageFillRest();
 
 /// Moves the stage into the record for `PosiFirstNo` to `PosiLastNo`; the "Posi" columns go to the
 /// pulses (and to the record, which always equals them). A position out of all bounds stays out of

@@ -14,6 +14,7 @@
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_range.h"
 #include "posi/posi_syogo.h"
+#include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
 #include "posi/range_dialogs.h"
 #include "posi/result_view.h"
@@ -28,6 +29,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgResultGood = 826;
+constexpr int kMsgNotCompared = 6459;
 
 /// The devices under consideration are those of no file once the flow ends.
 class DevSetteiKept {
@@ -76,6 +78,16 @@ bool AskOlderVerifyRange(bool overlaps) {
   return AppState.PosiFromNo <= AppState.PosiToNo;
 }
 
+/// Says which numbers of the range the file does not hold; false when there is no other.
+bool TellNotCompared() {
+  const std::string numbers = NumbersLeftOut(AppState.PosiFromNo, AppState.PosiToNo);
+  if (!numbers.empty()) MsgBox(Text(kMsgNotCompared, numbers));
+  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
+    if (PosiTable.StageHolds[static_cast<std::size_t>(n)]) return true;
+  }
+  return false;
+}
+
 void VerifyWithFile(ReadFile read, bool (*ask_range)(bool overlaps)) {
   EditCMD_Muko();
   const CommandsOff commands_off;
@@ -84,7 +96,7 @@ void VerifyWithFile(ReadFile read, bool (*ask_range)(bool overlaps)) {
   const DevSetteiKept kept;
   if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
   const std::string path = ReadFileToVerify(read);
-  if (path.empty() || !ask_range(SyogoOverlap() == 0)) return;
+  if (path.empty() || !ask_range(SyogoOverlap() == 0) || !TellNotCompared()) return;
   const std::string title = FileTitle(path);
   CompareAndShow(Text(352) + title + Text(353), title);
 }

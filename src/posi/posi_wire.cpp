@@ -72,6 +72,7 @@ bool DecodePosiRecord(const std::string& reply, int number) {
   for (std::size_t col = 1; col <= kSm; ++col) {
     PosiTable.PosiStage[col][static_cast<std::size_t>(number)] = static_cast<double>(fields[col]);
   }
+  PosiTable.StageHolds.set(static_cast<std::size_t>(number));
   return true;
 }
 

@@ -27,16 +27,15 @@ bool ForRange(Convert convert) {
 }  // namespace
 
 int RecalcMmFromPulse() {
-  auto fresh = PosiTable.PosiMm;
-  const bool good = ForRange([&](std::size_t axis, std::size_t no) {
+  bool good = true;
+  ForRange([&good](std::size_t axis, std::size_t no) {
     const DevSettingRecord& device = DevSetting[axis];
     const auto mm = PulseToMm(device.Lead, device.Ppr, PosiTable.PosiPulse[axis][no]);
-    if (mm) fresh[axis][no] = *mm;
-    return mm.has_value();
+    PosiTable.PosiMm[axis][no] = mm.value_or(kNoMm);
+    good = good && mm;
+    return true;
   });
-  if (!good) return 1;
-  PosiTable.PosiMm = fresh;
-  return 0;
+  return good ? 0 : 1;
 }
 
 int RecalcPulseFromMm() {

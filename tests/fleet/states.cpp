@@ -54,7 +54,8 @@ MachineState MachineOfCt(const qvr7sim::Controller& controller) {
 
 bool TableState::IsKeptIn(const TableState& later) const {
   if (first != later.first || last != later.last) return false;
-  if (file_calls == later.file_calls && name != later.name) return false;
+  const bool same_mode = machine.program_mode == later.machine.program_mode;
+  if (same_mode && file_calls == later.file_calls && name != later.name) return false;
   if (machine == later.machine && in_mm == later.in_mm) {
     const bool same_state = file_calls != later.file_calls || changed == later.changed;
     return same_state && texts == later.texts && (changed || pulses == later.pulses);

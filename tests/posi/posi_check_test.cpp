@@ -4,6 +4,9 @@
 
 #include "device/dev_setting.h"
 #include "forms/frm_syogo_kekka.h"
+#include "posi/device_change.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_lines.h"
 #include "posi/posi_table.h"
 #include "state/text.h"
 #include "tests/support/posi_table_test.h"
@@ -134,6 +137,26 @@ TEST_F(PosiCheck, ProgramModeTakesTheWayFromTheSignAndFillsTheRest) {
   Put(2, kPosi, "   13335");
   EXPECT_EQ(PosiDataCheck3(), 1);
   EXPECT_EQ(lines, "2: 4;");
+}
+
+TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
+  for (DevSettingRecord& device : DevSetting) device.Ppr = 20000;  // 3 mm/s: below VEL's default
+  ShowTable(1, 3, true);
+  for (const int col : {kVel, kAcc, kOut, kSm}) {
+    PosiTable.PosiRec[static_cast<std::size_t>(col)].fill(col > kItpl ? 99.0 : 0.0);
+  }
+  FG_ShowTable();
+  EXPECT_TRUE(AppendLine());
+  EXPECT_EQ(PosiDataCheckAll(), 0) << lines;
+  EXPECT_EQ(Stored(kVel, 1), 30);
+  EXPECT_EQ(Stored(kOut, 2) + Stored(kSm, 3), 0);
+  // A position-mode table with edits, whose mode changes under it.
+  ShowTable(1, 3);
+  Put(2, kVel, "0");
+  frmPosi.PosiChanged = True;
+  AppState.CtMode = True;
+  RebuildPosiViewKeepingEdits();
+  EXPECT_EQ(PosiDataCheckAll(), 0) << lines;
 }
 
 TEST_F(PosiCheck, AnAxisNotInUseIsFilledAndNotJudged) {

@@ -199,7 +199,10 @@ TEST_F(PosiFile, AnyOrderOfNumbersReadsAsItStands) {
   }
   EXPECT_EQ(Read(kHead + kWords + Line("4", "a") + Line("4", "b")), 0);
   EXPECT_EQ(TextOf(Stage(kComment, 4)), "b") << "the later line counts";
-  EXPECT_EQ(ValueOf(Stage(kVel, 6)), 30) << "a number left out keeps what the stage held";
+  EXPECT_EQ(ValueOf(Stage(kVel, 9)), 30) << "nothing of an earlier file is left";
+  EXPECT_EQ(Read(kHead + kWords + Line("9") + Line("4") + Line("7")), 0);
+  EXPECT_EQ(NumbersLeftOut(4, 11), "5-6, 8, 10-11");
+  EXPECT_EQ(NumbersLeftOut(999, 999), "999");
 }
 
 TEST_F(PosiFile, ModesAndWords) {
@@ -252,7 +255,6 @@ TEST_F(PosiFile, ADamagedFileSaysWhere) {
     EXPECT_FALSE(trouble.may_pass) << row.what;
   }
   EXPECT_TRUE(forms.boxes.empty());
-  EXPECT_EQ(ValueOf(Stage(kVel, 0)), 30) << "slot 0 takes nothing";
 }
 
 TEST_F(PosiFile, AFileOfAnotherKindIsTold) {

@@ -6,16 +6,20 @@
 
 #include "core/options_view.h"
 #include "device/dev_setting.h"
+#include "device/limits.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_syogo_kekka.h"
+#include "posi/device_change.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
+#include "posi/posi_lines.h"
 #include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
 #include "posi/posi_view.h"
@@ -267,6 +271,50 @@ TEST_F(PosiNew, UnsavedDataIsAskedAbout) {
   EXPECT_EQ(forms.LastBox(), Text(5243));
   New("1", "2");
   EXPECT_EQ(Range(), "1-2/2/2");
+}
+
+// Devices that change under the table.
+
+TEST_F(PosiGrid, InMillimetresOnlyAnEditedCellChangesItsPulses) {
+  for (const bool program_mode : {false, true}) {
+    ShowTable(2, 4, program_mode, true);
+    for (int n = 2; n <= 4; ++n) Store(n);
+    FG_ShowTable();
+    Type(3, kPosi, program_mode ? "+12.345" : "12.345");
+    Select(2, kPosi, 2, kPosi);
+    cmdInsertLine_Click();
+    DevSetting[0].Lead = 12;
+    RecalcLimits();
+    MmFollowsPulses();
+    EXPECT_EQ(Cell(3, kPosi), program_mode ? " +15.000" : "  15.000");
+    EXPECT_EQ(Cell(4, kPosi), program_mode ? " +12.345" : "  12.345") << "as the user typed it";
+    EXPECT_EQ(PosiDataCheckAll(), 0);
+    EXPECT_EQ(PosiTable.PosiPulse[0][3], 1000);
+    EXPECT_EQ(PosiTable.PosiPulse[0][4], 823);
+    EXPECT_EQ(PosiTable.PosiPulse[0][5], 1000);
+    // A device that cannot convert shows no millimetres, and the next one finds the pulses.
+    DevSetting[0].Lead = 0;
+    MmFollowsPulses();
+    EXPECT_EQ(Cell(3, kPosi), "");
+    DevSetting[0].Lead = 6;
+    RecalcLimits();
+    EXPECT_TRUE(PositionsFollowDevices());
+    EXPECT_EQ(Cell(3, kPosi), program_mode ? "  +7.500" : "   7.500");
+    EXPECT_EQ(PosiTable.PosiPulse[0][4], 823);
+  }
+}
+
+TEST_F(PosiGrid, AModeThatChangesUnderTheTableTakesItsFileAway) {
+  for (const bool program_mode : {true, false}) {
+    ShowTable(1, 2, !program_mode);
+    SetPosiTableFile("/data/job.qvd");
+    RebuildPosiViewKeepingEdits();
+    EXPECT_TRUE(PosiTableHasFile() && !frmPosi.PosiChanged) << "the same mode";
+    AppState.CtMode = program_mode;
+    RebuildPosiViewKeepingEdits();
+    EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
+    EXPECT_TRUE(!PosiTableHasFile() && frmPosi.PosiChanged) << "a save asks for a name";
+  }
 }
 
 // The unit.

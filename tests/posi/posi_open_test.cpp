@@ -170,7 +170,9 @@ TEST_F(OpenTest, AnyNumbersGiveTheRangeFromFirstToLast) {
   } rows[] = {{{7}, 7, 1, 3}, {{2, 5}, 2, 4, 6}, {{9, 5}, 9, -3, 2}, {{999}, 999, 1, 3}};
   for (const auto& row : rows) {
     own.numbers = row.numbers;
+    forms.boxes.clear();
     Open(own);
+    EXPECT_EQ(BoxShown(Text(6458, "3-4")), row.rows == 6) << "told which lines are not the file's";
     EXPECT_EQ(AppState.PosiFirstNo, row.first);
     EXPECT_EQ(AppState.PosiCount, row.count);
     EXPECT_EQ(frmPosi.flgdData.Rows(), row.rows);
@@ -193,6 +195,18 @@ TEST_F(OpenTest, WithoutLineFourEveryAxisIsOld) {
   EXPECT_EQ(frmPosi.flgdData.Rows(), 5);
   EXPECT_EQ(Cell(1, kComment), "No 1");
   for (const Label* age : frmPosi.lblAge) EXPECT_EQ(age->Caption, "(Old)");
+  // Nothing of the file stands beside data of another kind, nor beside other devices.
+  AnswerRange("frmSelectPosiNo3", 1, 2);
+  frmPosi.cmdPosiNew.Press();
+  EXPECT_EQ(frmPosi.lblAge1.Caption, "(New)");
+  Open(own);
+  ReadRange(1, 2);
+  EXPECT_EQ(frmPosi.lblAge1.Caption, "(New)");
+  port.sent.clear();
+  own.devices[0] = "QV- 28H-200E";
+  Choose({0});
+  Open(own);
+  EXPECT_EQ(frmPosi.lblAge1.Caption, "(New)") << "the device in use";
 }
 
 TEST_F(OpenTest, UnsavedDataIsAskedAboutFirst) {

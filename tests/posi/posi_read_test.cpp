@@ -86,6 +86,19 @@ TEST_F(ReadTest, AFailedReadKeepsTheTable) {
   ExpectOffline();
 }
 
+TEST_F(ReadTest, AnAxisThatCannotConvertKeepsTheTable) {
+  StartOnline();
+  ReadRange(3, 5);
+  DevSetting[1].Lead = 0;
+  port.sent.clear();
+  Choose({1});
+  ReadRange(1, 2);
+  EXPECT_EQ(forms.LastBox(), Text(6356, "2"));
+  EXPECT_EQ(port.sent.find("0RP"), std::string::npos);
+  EXPECT_EQ(AppState.PosiFirstNo, 3);
+  ExpectCommandsOn();
+}
+
 TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
   StartOnline();
   ReadRange(3, 5);

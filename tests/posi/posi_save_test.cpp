@@ -172,6 +172,13 @@ TEST_F(SaveTest, SaveAsTakesARange) {
   frmPosi.cmdPosiSave.Press();
   EXPECT_EQ(Numbers(), "5-9");
   EXPECT_FALSE(frmPosi.PosiChanged);
+  // A part does not replace the whole, which would then be in no file.
+  AnswerRange("frmSelectPosiNo3", 6, 7);
+  forms.answers = {MsgAnswer::Ok};
+  forms.file_answers = {std::string("/data/../data/job.qvd")};
+  frmPosi.cmdPosiSaveAs.Press();
+  EXPECT_EQ(forms.LastBox(), Text(6460));
+  EXPECT_EQ(Numbers(), "5-9");
 }
 
 TEST_F(SaveTest, ASaveWithinAnotherFlowLeavesTheCommandsOff) {

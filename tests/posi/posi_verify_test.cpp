@@ -16,6 +16,7 @@ class SyogoTest : public StateTest {
  protected:
   void SetUp() override {
     PosiTableInit();
+    PosiTable.StageHolds.set();
     AppState.PosiFirstNo = AppState.PosiFromNo = 5;
     AppState.PosiLastNo = AppState.PosiToNo = 6;
   }
@@ -191,6 +192,16 @@ TEST_F(VerifyTest, WithAFile) {
   Cell(3, kComment, "differs, and does not count");
   VerifyWithFile(2, 4);
   EXPECT_EQ(seen, "3/1 47 (other.qvd: 30) 3/2 500 (other.qvd: 200) ");
+  std::string gap = *virt.files.Content(kPath);
+  gap.erase(gap.find("\r\n3,"), gap.find("\r\n4,") - gap.find("\r\n3,"));
+  virt.files.Put(kPath, gap);
+  for (const int last : {4, 3}) {
+    forms.boxes.clear();
+    VerifyWithFile(3, last);
+    EXPECT_EQ(seen, "") << "the file holds no position 3";
+    EXPECT_EQ(forms.boxes[0].Text, Text(6459, "3"));
+    EXPECT_EQ(forms.boxes.size(), last == 4 ? 2u : 1u) << "nothing compared is no good result";
+  }
   VerifyWithFile(4, 4);
   EXPECT_EQ(seen, "") << "the range was narrowed";
   EXPECT_EQ(forms.LastBox().substr(0, 4), "Data");
