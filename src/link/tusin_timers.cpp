@@ -7,6 +7,7 @@
 #include "link/tusin.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
+#include "state/online.h"
 
 namespace tr7 {
 namespace {

@@ -6,6 +6,7 @@
 #include "platform/event_pump.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
+#include "state/online.h"
 #include "state/text.h"
 #include "state/wait.h"
 
