@@ -13,14 +13,15 @@
 #include "state/frame_menus.h"
 #include "state/message_box.h"
 #include "state/text.h"
+#include "state/view_instances.h"
 #include "state/views.h"
 
 namespace tr7 {
 namespace {
 
-using ViewCommand = std::function<void()> ViewCommands::*;
+using ViewCommand = Handler<void()> ViewCommands::*;
 
-void Run(const std::function<void()>& command) {
+void Run(const Handler<void()>& command) {
   if (command) command();
 }
 
@@ -103,6 +104,8 @@ void InstallFrame() {
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
   f.Timer1.Tick = PortLampHyoji;
   f.Timer1.HasWork = PortLampLies;  // an idle tool is not woken for a lamp that tells the truth
+  f.TimerClosedViews.Tick = DestroyClosedViews;
+  f.TimerClosedViews.HasWork = ClosedViewsMayGo;
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
   f.FrontChanged = FollowActiveView;
