@@ -118,7 +118,7 @@ void ChooseModeOffline() {
 }  // namespace
 
 void StartOnlineOfflineChoice() {
-  CTM_MukoSyori();
+  const CommandsOff commands_off;
   SetOffline();
   PortLampHyoji();
   AllViewsLayoutChanged();
@@ -134,10 +134,6 @@ void StartOnlineOfflineChoice() {
   }
   RecalcLimits();
   AllViewsLayoutChanged();
-  AllViewsOnlineChanged();
-  ChangeMenuDisp(AppState.CtMode);
-  AppState.ComBusy = False;
-  AllViewsCmdYuko();
 }
 
 void UnloadFrame() {

@@ -13,7 +13,7 @@ void ChangeCtModeMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
   const PortClosedAfter port_closed;
-  if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
+  if (ConnectOrOpenPort() != 0) return;
   const Selection choice = SelectionDialog2({.Title = Text(471),
                                              .Prompt = Text(476),
                                              .Choices = {Text(477), Text(478)},

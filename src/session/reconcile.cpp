@@ -6,6 +6,7 @@
 #include "device/take_ct_device.h"
 #include "link/port.h"
 #include "session/followers.h"
+#include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/frame_menus.h"
 #include "state/message_box.h"
@@ -16,6 +17,8 @@
 
 namespace tr7 {
 namespace {
+
+constexpr int kMsgModeNotWritten = 5973;
 
 /// First: the controller's values. Second: the PC's.
 Selection AskReconcile(int prompt_id, int pc_choice_id, bool may_cancel) {
@@ -45,7 +48,9 @@ void WriteAxesOfPc(ProgressScope& progress) {
   if (WriteAxisPatternToCt(mask) != 0) return;
   progress.Set(3);
   AppState.AxisCount = static_cast<std::int16_t>(last_axis);
-  MsgBox(TwoLines(492, 493), MsgButtons::Ok, MsgIcon::Information);
+  // The mode is not written with them: a power cycle alone would bring the same question again.
+  MsgBox(TwoLines(492, 493) + "\n\n" + Text(kMsgModeNotWritten), MsgButtons::Ok,
+         MsgIcon::Information);
 }
 
 int TakeModeOfCt(ProgressScope& progress) {
@@ -111,6 +116,7 @@ int ReconcileMode(ProgressScope& progress) {
 }
 
 int ReconcileDevices(DeviceReconcile flow) {
+  if (OpenPortOrTell() != 0) return 1;
   const int difference = CompareCtDevice();
   if (difference < 0) return 1;
   if (difference == 0) return 0;
