@@ -14,14 +14,15 @@
 #include "state/frame_menus.h"
 #include "state/message_box.h"
 #include "state/text.h"
+#include "state/view_instances.h"
 #include "state/views.h"
 
 namespace tr7 {
 namespace {
 
-using ViewCommand = std::function<void()> ViewCommands::*;
+using ViewCommand = Handler<void()> ViewCommands::*;
 
-void Run(const std::function<void()>& command) {
+void Run(const Handler<void()>& command) {
   if (command) command();
 }
 
@@ -104,6 +105,8 @@ void InstallFrame() {
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
   f.Timer1.Tick = PortWatchTick;
   f.Timer1.HasWork = PortWatchHasWork;  // an idle tool is not woken for a port in order
+  f.TimerClosedViews.Tick = DestroyClosedViews;
+  f.TimerClosedViews.HasWork = ClosedViewsMayGo;
   f.CmdMuko = CTM_MukoSyori;
   f.CmdYuko = CTM_YukoSyori;
   f.FrontChanged = FollowActiveView;

@@ -1,5 +1,6 @@
 #include "core/main_entry.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -89,19 +90,27 @@ bool QueryUnloadFrame(CloseReason reason) {
   if (reason == CloseReason::ControlMenu && AppState.ComBusy) return true;
   // The views inside the frame are asked here too, while all of them can still stay: later on
   // nothing stops the close.
-  for (View* view : OpenViews()) {
-    if (view != &frmMain && view->QueryUnload && view->QueryUnload(CloseReason::Code)) return true;
-  }
-  return false;
+  const std::vector<View*> views = OpenViews();
+  return std::any_of(views.begin(), views.end(), [](View* view) {
+    // A question may have closed another view.
+    return view != &frmMain && view->Loaded && view->QueryUnload &&
+           view->QueryUnload(CloseReason::Code);
+  });
 }
 
 bool ChooseOnline() {
-  return SelectionDialog(Text(471), Text(71), Text(72), Text(73), 1, 0, 0) == 0;
+  return SelectionDialog({.Title = Text(471),
+                          .Prompt = Text(71),
+                          .Choices = {Text(72), Text(73)},
+                          .MayCancel = false}) == Selection::First;
 }
 
 void ChooseModeOffline() {
-  const int choice = SelectionDialog(Text(471), Text(74), Text(128), Text(129), 1, 0, 0);
-  AppState.CtMode = choice == 1;
+  const Selection choice = SelectionDialog({.Title = Text(471),
+                                            .Prompt = Text(74),
+                                            .Choices = {Text(128), Text(129)},
+                                            .MayCancel = false});
+  AppState.CtMode = choice == Selection::Second;
   DispControlerMode();
   ChangeMenuDisp(AppState.CtMode);
 }
@@ -109,7 +118,7 @@ void ChooseModeOffline() {
 }  // namespace
 
 void StartOnlineOfflineChoice() {
-  CTM_MukoSyori();
+  const CommandsOff commands_off;
   SetOffline();
   PortLampHyoji();
   AllViewsLayoutChanged();
@@ -125,10 +134,6 @@ void StartOnlineOfflineChoice() {
   }
   RecalcLimits();
   AllViewsLayoutChanged();
-  AllViewsOnlineChanged();
-  ChangeMenuDisp(AppState.CtMode);
-  AppState.ComBusy = False;
-  AllViewsCmdYuko();
 }
 
 void UnloadFrame() {

@@ -7,7 +7,9 @@
 #include "link/port.h"
 #include "platform/doors.h"
 #include "posi/unit_change.h"
+#include "session/open_port.h"
 #include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/settings.h"
 #include "state/text.h"
@@ -17,6 +19,7 @@ namespace tr7 {
 namespace {
 
 constexpr const char* kSimDevice = "sim";
+constexpr int kMsgPortChanged = 5971;
 constexpr int kPortTab = 0, kPosiTab = 1, kUnitTab = 2, kLanguageTab = 3;
 
 /// Device names in the order of the combo box.
@@ -83,7 +86,17 @@ void LoadOptions() {
   ShowTab();
 }
 
-/// A port that changes takes effect at its next opening, so an open one is shut.
+/// Another port may lead to another machine: nothing that was learned of the former holds there.
+void LeavePort() {
+  if (AppState.Offline) {
+    TusinPortCloseForce();
+    return;
+  }
+  const CommandsOff commands_off;
+  EndSession();
+  MsgBox(Text(kMsgPortChanged), MsgButtons::Ok, MsgIcon::Information);
+}
+
 void TakePort() {
   const int typed = TypedPortNo();
   const std::string before = PortDevice(AppState.PortNo);
@@ -98,7 +111,7 @@ void TakePort() {
                listed_devices[static_cast<std::size_t>(device)]);
   }
   PutSetting("PortNo", AppState.PortNo);
-  if (PortDevice(AppState.PortNo) != before) TusinPortCloseForce();
+  if (PortDevice(AppState.PortNo) != before) LeavePort();
   PortLampHyoji();
 }
 

@@ -1,7 +1,5 @@
 #include "core/reset_state.h"
 
-#include <memory>
-
 #include "core/install_views.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
@@ -9,16 +7,7 @@
 #include "device/dev_setting.h"
 #include "device/device_cascade.h"
 #include "device/device_list.h"
-#include "forms/frm_device.h"
-#include "forms/frm_main.h"
-#include "forms/frm_options2.h"
-#include "forms/frm_parameta2.h"
-#include "forms/frm_posi.h"
-#include "forms/frm_select_posi_no.h"
-#include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
-#include "forms/frm_stroke_calc.h"
-#include "forms/frm_syogo_kekka.h"
+#include "forms/view.h"
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
@@ -32,17 +21,6 @@
 #include "state/views.h"
 
 namespace tr7 {
-namespace {
-
-/// Views hold pointers to their own controls, so they are built anew in place.
-template <typename View, typename... Args>
-void Renew(View& view, Args... args) {
-  std::destroy_at(&view);
-  std::construct_at(&view, args...);
-}
-
-}  // namespace
-
 void ResetState() {
   ResetViews();
   Followers = FollowersRecord{};
@@ -68,20 +46,7 @@ void ResetState() {
   GrpTable = GrpStage = GrpTableRecord{};
   SmTable = SmStage = SmTableRecord{};
   PosiTable = PosiTableRecord{};
-  Renew(frmMain);
-  Renew(frmSplash);
-  Renew(frmPosi);
-  Renew(frmSelection, "frmSelection");
-  Renew(frmSelection2, "frmSelection2");
-  Renew(frmOptions2);
-  Renew(frmParameta2);
-  Renew(frmStrokeCalc);
-  Renew(frmDevice2, "frmDevice2", 6250, false);
-  Renew(frmDevice3, "frmDevice3", 6251, true);
-  Renew(frmSyogoKekka);
-  Renew(frmSelectPosiNo2, "frmSelectPosiNo2", 5350);
-  Renew(frmSelectPosiNo3, "frmSelectPosiNo3", 5355);
-  Renew(frmSelectPosiNo4, "frmSelectPosiNo4", 5356);
+  RenewViews();
   InstallViews();
 }
 

@@ -12,7 +12,6 @@
 #include "link/tusin_wait.h"
 #include "state/message_box.h"
 #include "state/text.h"
-#include "state/wait.h"
 
 namespace tr7 {
 
@@ -22,22 +21,12 @@ namespace {
 
 constexpr int kBlockReplyLength = 38;
 constexpr int kBlockTimeoutMs = 2000;
-constexpr int kOpenAttempts = 4;
-
-int OpenWithRetries() {
-  for (int attempt = 1; TusinPortOpen() != 0; ++attempt) {
-    if (attempt >= kOpenAttempts) return 1;
-    TusinWaitMs(100);
-  }
-  return 0;
-}
 
 /// Axes in use of a block 0; -1 when the field is no number.
 int AxisMask(std::string_view block0) { return ReplyValue(block0, 7, 2); }
 
 /// Also known as ReadCtBlock0.
 int ReadBlock0(std::string& reply) {
-  if (OpenWithRetries() != 0) return 1;
   if (CtComStart() != 0) return 1;
   if (ReadParaBlock('0', kBlockTimeoutMs, reply) != 0) return 1;
   return AxisMask(reply) < 0 ? TellBadData() : 0;

@@ -29,8 +29,8 @@ extern std::array<CtDeviceRecord, kAxes> CtDev;
 /// "0RD": one block; `reply` is the whole line.
 int ReadParaBlock(char block, int timeout_ms, std::string& reply);
 
-/// Opens the port (up to 4 attempts), takes command and reads block 0 into `AxisPattern` and
-/// `AxisMuko`. Also known as ReadAxisSettingFromCt.
+/// Takes command and reads block 0 into `AxisPattern` and `AxisMuko`. Also known as
+/// ReadAxisSettingFromCt.
 int ReadCtAxisFromCt();
 /// The same into `AxisPatternOfCt`, `AxisMukoOfCt`, `CtModeOfCt`.
 int ReadCtModeAndAxis();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,7 +32,7 @@ struct Control {
 struct Label : Control {
   Label(View& owner, const std::string& name, int tag = 0) : Control(owner, "Label", name, tag) {}
   double Width = 0;  ///< twips; 0: as wide as the layout makes it
-  std::function<void()> DblClick;
+  Handler<void()> DblClick;
 };
 
 /// A picture lamp: lit or dark by `Visible`.
@@ -50,7 +49,7 @@ struct CommandButton : Control {
       : Control(owner, "CommandButton", name, tag) {}
   bool Default = false;  ///< Enter presses it
   bool Cancel = false;   ///< Escape presses it
-  std::function<void()> Click;
+  Handler<void()> Click;
   /// Presses the button as a user does: nothing when it is off or hidden.
   void Press() {
     if (Enabled && Visible && Click) Click();
@@ -64,12 +63,12 @@ struct TextBox : Control {
   int MaxLength = 0;           ///< characters; 0: no limit
   std::string AllowedChars;    ///< keys that are taken beside Backspace and Tab; empty: all
   bool InputMethodOff = true;  ///< number fields switch the input method off
-  std::function<void()> Change;
-  std::function<void()> GotFocus;
-  std::function<void()> LostFocus;
-  std::function<void()> Enter;  ///< the Enter key
+  Handler<void()> Change;
+  Handler<void()> GotFocus;
+  Handler<void()> LostFocus;
+  Handler<void()> Enter;  ///< the Enter key
   /// The Undo key. False: there is nothing to bring back, and the field's own undo serves.
-  std::function<bool()> Undo;
+  Handler<bool()> Undo;
   /// Types a text as a user does: replaces the content by what the field takes of it.
   void Type(const std::string& typed);
 };
@@ -78,7 +77,7 @@ struct CheckBox : Control {
   CheckBox(View& owner, const std::string& name, int tag = 0)
       : Control(owner, "CheckBox", name, tag) {}
   bool Value = false;
-  std::function<void()> Click;
+  Handler<void()> Click;
   /// Sets the value as a user's click does, when it differs.
   void Set(bool on) {
     if (!Enabled || !Visible || Value == on) return;
@@ -93,7 +92,7 @@ struct OptionButton : Control {
       : Control(owner, "OptionButton", name, tag), Group(group) {}
   int Group;
   bool Value = false;
-  std::function<void()> Click;
+  Handler<void()> Click;
   /// Chooses this option and clears the others of its group.
   void Choose();
   /// Chooses as a user's click does.
@@ -110,8 +109,8 @@ struct ComboBox : Control {
   std::vector<std::string> List;
   std::vector<int> ItemData;  ///< parallel to List
   int ListIndex = -1;         ///< -1: nothing chosen
-  std::function<void()> Click;
-  std::function<void()> LostFocus;
+  Handler<void()> Click;
+  Handler<void()> LostFocus;
   void Clear();
   void AddItem(const std::string& text, int data);
   /// The chosen text, or empty.
@@ -127,7 +126,7 @@ struct ListBox : Control {
       : Control(owner, "ListBox", name, tag) {}
   std::vector<std::string> List;
   int ListIndex = -1;
-  std::function<void()> Click;
+  Handler<void()> Click;
 };
 
 struct ProgressBar : Control {
@@ -139,7 +138,7 @@ struct ProgressBar : Control {
 /// A menu or a menu command; "-" in the layout makes separators, which have no record.
 struct Menu : Control {
   Menu(View& owner, const std::string& name, int tag = 0) : Control(owner, "Menu", name, tag) {}
-  std::function<void()> Click;
+  Handler<void()> Click;
   void Press() {
     if (Enabled && Visible && Click) Click();
   }
@@ -156,7 +155,7 @@ struct TabStrip : Control {
       : Control(owner, "TabStrip", name), Tabs(std::move(tabs)) {}
   std::vector<Tab> Tabs;
   int Selected = 0;
-  std::function<void()> Click;
+  Handler<void()> Click;
 };
 
 struct ToolButton {
@@ -171,7 +170,7 @@ struct Toolbar : Control {
   Toolbar(View& owner, const std::string& name, std::vector<ToolButton> buttons)
       : Control(owner, "Toolbar", name), Buttons(std::move(buttons)) {}
   std::vector<ToolButton> Buttons;
-  std::function<void(const std::string& key)> ButtonClick;
+  Handler<void(const std::string& key)> ButtonClick;
   ToolButton& At(int index_from_1) {
     return Buttons.at(static_cast<std::size_t>(index_from_1) - 1);
   }

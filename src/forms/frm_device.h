@@ -11,6 +11,7 @@ namespace tr7 {
 /// the parameters: those two buttons are hidden in the first.
 struct DeviceView : View {
   DeviceView(const char* name, int tag, bool writes) : View(name, tag) {
+    Layout = "frmDevice";
     Width = 9600;
     Height = 5700;
     cmdDeviceSet.Default = true;
@@ -41,7 +42,7 @@ struct DeviceView : View {
   CommandButton cmdDeviceCancel{*this, "cmdDeviceCancel", 5153};
 };
 
-extern DeviceView frmDevice2;
-extern DeviceView frmDevice3;
+inline Standing<DeviceView> frmDevice2{"frmDevice2", 6250, false};
+inline Standing<DeviceView> frmDevice3{"frmDevice3", 6251, true};
 
 }  // namespace tr7

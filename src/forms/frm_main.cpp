@@ -12,6 +12,4 @@ FrmMain::FrmMain() : View("frmMain") {
   ProgressBar1.Visible = false;
 }
 
-FrmMain frmMain;
-
 }  // namespace tr7

@@ -93,11 +93,12 @@ struct FrmMain : View {
   Timer Timer2{0, true};
   Timer timerTerminate{100, false};
   Timer TimerTest{1000, false};
+  Timer TimerClosedViews{1, true};  ///< ends the records of views that were closed
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
 };
 
-extern FrmMain frmMain;
+inline Standing<FrmMain> frmMain;
 
 // Panels of sbStatusBar by index.
 inline constexpr int kPanelError = 0;  ///< the last alarm, version, input hint

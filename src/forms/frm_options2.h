@@ -39,6 +39,6 @@ struct FrmOptions2 : View {
   CommandButton cmdCancel{*this, "cmdCancel", 5153};
 };
 
-extern FrmOptions2 frmOptions2;
+inline Standing<FrmOptions2> frmOptions2;
 
 }  // namespace tr7

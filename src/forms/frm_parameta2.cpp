@@ -1,7 +1,5 @@
 #include "forms/frm_parameta2.h"
 
-#include "forms/frm_stroke_calc.h"
-
 namespace tr7 {
 namespace {
 
@@ -94,8 +92,5 @@ FrmParameta2::FrmParameta2() : View("frmParameta2", 6000) {
     button->Enabled = false;
   }
 }
-
-FrmParameta2 frmParameta2;
-FrmStrokeCalc frmStrokeCalc;
 
 }  // namespace tr7

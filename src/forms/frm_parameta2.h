@@ -145,6 +145,6 @@ struct FrmParameta2 : View {
   std::array<bool, 4> LiveColumns{};  ///< columns that show an axis
 };
 
-extern FrmParameta2 frmParameta2;
+inline Standing<FrmParameta2> frmParameta2;
 
 }  // namespace tr7

@@ -18,6 +18,4 @@ FrmPosi::FrmPosi() : View("frmPosi") {
   }
 }
 
-FrmPosi frmPosi;
-
 }  // namespace tr7

@@ -84,6 +84,6 @@ struct FrmPosi : View {
   std::string OldCellText;
 };
 
-extern FrmPosi frmPosi;
+inline Standing<FrmPosi> frmPosi;
 
 }  // namespace tr7

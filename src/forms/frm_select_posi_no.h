@@ -9,6 +9,7 @@ namespace tr7 {
 /// verified and says so when there is none.
 struct SelectPosiNoView : View {
   SelectPosiNoView(const char* name, int tag) : View(name, tag) {
+    Layout = "frmSelectPosiNo";
     Width = 5400;
     Height = 2850;
     cmdOk.Default = true;
@@ -29,8 +30,8 @@ struct SelectPosiNoView : View {
   CommandButton cmdCancel{*this, "cmdCancel", 5153};
 };
 
-extern SelectPosiNoView frmSelectPosiNo2;
-extern SelectPosiNoView frmSelectPosiNo3;
-extern SelectPosiNoView frmSelectPosiNo4;
+inline Standing<SelectPosiNoView> frmSelectPosiNo2{"frmSelectPosiNo2", 5350};
+inline Standing<SelectPosiNoView> frmSelectPosiNo3{"frmSelectPosiNo3", 5355};
+inline Standing<SelectPosiNoView> frmSelectPosiNo4{"frmSelectPosiNo4", 5356};
 
 }  // namespace tr7

@@ -11,6 +11,7 @@ namespace tr7 {
 /// preselected).
 struct SelectionView : View {
   explicit SelectionView(const char* name) : View(name) {
+    Layout = "frmSelection";
     Width = 7200;
     Height = 3600;
     cmdOk.Default = true;
@@ -26,7 +27,7 @@ struct SelectionView : View {
   std::array<OptionButton*, 3> options{&optChoice1, &optChoice2, &optChoice3};
 };
 
-extern SelectionView frmSelection;
-extern SelectionView frmSelection2;
+inline Standing<SelectionView> frmSelection{"frmSelection"};
+inline Standing<SelectionView> frmSelection2{"frmSelection2"};
 
 }  // namespace tr7

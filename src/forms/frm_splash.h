@@ -18,6 +18,6 @@ struct FrmSplash : View {
   Timer timerSplash{3000, false};
 };
 
-extern FrmSplash frmSplash;
+inline Standing<FrmSplash> frmSplash;
 
 }  // namespace tr7

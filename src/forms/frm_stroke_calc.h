@@ -34,6 +34,6 @@ struct FrmStrokeCalc : View {
   Control* NextFocus = nullptr;  ///< where the focus goes once a result was entered
 };
 
-extern FrmStrokeCalc frmStrokeCalc;
+inline Standing<FrmStrokeCalc> frmStrokeCalc;
 
 }  // namespace tr7

@@ -21,6 +21,6 @@ struct FrmSyogoKekka : View {
   Bool16 SyogoViewIsVerify;  ///< True: the words of a verification; False: of a check
 };
 
-extern FrmSyogoKekka frmSyogoKekka;
+inline Standing<FrmSyogoKekka> frmSyogoKekka;
 
 }  // namespace tr7

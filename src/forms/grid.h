@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -66,18 +65,18 @@ struct Grid : Control {
   bool FitsView = false;
 
   // Rules that logic sets.
-  std::function<bool(int row, int col)> CanEdit;
+  Handler<bool(int row, int col)> CanEdit;
   /// Asked when an edit ends: 0 accepts, with the text to show in `text`; 1 refuses, with a beep.
-  std::function<int(int row, int col, std::string& text)> AcceptEdit;
-  std::function<int(int col)> MaxLength;           ///< characters; 0: no limit
-  std::function<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
-  std::function<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
-  std::function<std::string(int row, int col)> CellToolTip;
-  std::function<void()> SelChange;
+  Handler<int(int row, int col, std::string& text)> AcceptEdit;
+  Handler<int(int col)> MaxLength;           ///< characters; 0: no limit
+  Handler<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
+  Handler<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
+  Handler<std::string(int row, int col)> CellToolTip;
+  Handler<void()> SelChange;
   /// The Enter or Tab key with no edit open or after one was accepted: moves the current cell.
-  std::function<void(bool backwards)> MoveOn;
-  std::function<void()> Copy;   ///< Ctrl+C
-  std::function<void()> Paste;  ///< Ctrl+V
+  Handler<void(bool backwards)> MoveOn;
+  Handler<void()> Copy;   ///< Ctrl+C
+  Handler<void()> Paste;  ///< Ctrl+V
 
   /// Edits the cell as a user does: selects it, and when it may be edited hands the text to
   /// `AcceptEdit` and keeps what that gives back. 0 accepted, 1 refused (the old text stays).

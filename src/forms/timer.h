@@ -4,6 +4,8 @@
 #include <functional>
 #include <vector>
 
+#include "forms/handler.h"
+
 namespace tr7 {
 
 /// A periodic tick, served by the event pump on the one thread. A handler never blocks
@@ -25,8 +27,8 @@ struct Timer {
 
   int Interval;  ///< ms; 0 never ticks
   bool Enabled;
-  std::function<void()> Tick;
-  std::function<bool()> HasWork;
+  Handler<void()> Tick;
+  std::function<bool()> HasWork;  ///< a question, no handler: it changes nothing
 
   std::int64_t DueUs = kNotArmed;  ///< kept by the pump
   static constexpr std::int64_t kNotArmed = -1;

@@ -1,5 +1,7 @@
 #include "forms/view.h"
 
+#include <utility>
+
 namespace tr7 {
 namespace {
 
@@ -10,10 +12,20 @@ std::vector<View*>& Table() {
 
 }  // namespace
 
-View::View(const char* name, int tag) : Name(name), Tag(tag) { Table().push_back(this); }
+View::View(std::string name, int tag) : Name(std::move(name)), Layout(Name), Tag(tag) {
+  Table().push_back(this);
+}
 
 View::~View() { std::erase(Table(), this); }
 
 const std::vector<View*>& AllViews() { return Table(); }
+
+void RenewViews() {
+  // Renewing takes a view out of the table and puts it in again, and the closure away with it.
+  const std::vector<View*> views = Table();
+  for (const View* view : views) {
+    if (const auto renew = view->Renew) renew();
+  }
+}
 
 }  // namespace tr7

@@ -1,19 +1,21 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "forms/field_table.h"
+#include "forms/handler.h"
 
 namespace tr7 {
 
 /// What the frame may ask of the view in front. A command that a view leaves empty is shown
 /// switched off while that view is in front.
 struct ViewCommands {
-  std::function<void()> New, Open, Save, SaveAs, Print;
-  std::function<void()> Copy, Paste, InsertLine, DeleteLine;
+  Handler<void()> New, Open, Save, SaveAs, Print;
+  Handler<void()> Copy, Paste, InsertLine, DeleteLine;
 };
 
 /// Which edit commands the selection of a view allows; the frame's menus follow it.
@@ -27,13 +29,14 @@ enum class CloseReason { ControlMenu, Code };
 /// A window as a plain record: its controls, its place and the handlers that logic sets.
 /// Lengths are twips (1440 an inch; 15 a pixel at 96 dpi).
 struct View {
-  explicit View(const char* name, int tag = 0);
+  explicit View(std::string name, int tag = 0);
   virtual ~View();
   View(const View&) = delete;
   View& operator=(const View&) = delete;
 
-  const char* Name;
-  int Tag;  ///< message id of the caption; 0: the caption is set by logic
+  std::string Name;
+  std::string Layout;  ///< the layout file that draws it; views of one kind share one
+  int Tag;             ///< message id of the caption; 0: the caption is set by logic
   std::string Caption;
   bool Loaded = false;
   bool Visible = false;
@@ -46,23 +49,44 @@ struct View {
   std::vector<Control*> Controls;  ///< in order of construction, which is the tab order
   std::vector<FieldTable> Tables;  ///< the regular parts of the layout
 
-  std::function<void()> Load;  ///< once, before the view is first shown
+  Handler<void()> Load;  ///< once, before the view is first shown
   /// Asked before the view closes; true refuses.
-  std::function<bool(CloseReason)> QueryUnload;
-  std::function<void()> Unload;
-  std::function<void()> Activate;       ///< the view became the active one
-  std::function<void()> CmdMuko;        ///< commands off while a long sequence runs
-  std::function<void()> CmdYuko;        ///< commands on again
-  std::function<void()> OnlineChanged;  ///< the line went online or offline
-  std::function<void()> LayoutChanged;  ///< the controller's mode, axes or devices are others now
+  Handler<bool(CloseReason)> QueryUnload;
+  Handler<void()> Unload;
+  Handler<void()> Activate;       ///< the view became the active one
+  Handler<void()> CmdMuko;        ///< commands off while a long sequence runs
+  Handler<void()> CmdYuko;        ///< commands on again
+  Handler<void()> OnlineChanged;  ///< the line went online or offline
+  Handler<void()> LayoutChanged;  ///< the controller's mode, axes or devices are others now
 
   ViewCommands Commands;
   EditStates Edit;
+
+  /// Builds the record anew in place, as it was when the process began; empty where the view has
+  /// been made at run time.
+  std::function<void()> Renew;
 
   Control* Find(std::string_view name) const;
 };
 
 /// Every view that exists, shown or not, in order of construction.
 const std::vector<View*>& AllViews();
+
+/// Puts every view that is there from the start back to its start values.
+void RenewViews();
+
+/// A view that there is one of, from the start of the process to its end: `inline Standing<FrmX>
+/// frmX;` beside its record. Records hold pointers to their own controls, so it is renewed in
+/// place, with the arguments that it was built with.
+template <typename Record>
+struct Standing : Record {
+  template <typename... Args>
+  explicit Standing(Args... args) : Record(args...) {
+    this->Renew = [this, args...] {
+      std::destroy_at(this);
+      std::construct_at(this, args...);
+    };
+  }
+};
 
 }  // namespace tr7

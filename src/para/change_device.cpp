@@ -30,9 +30,10 @@ enum class Source { Choice, ParaFile };
 
 /// False: the user leaves.
 bool AskSource(Source& source) {
-  const int choice = SelectionDialog(Text(471), Text(41), Text(42), Text(43), 0, 0, 1);
-  source = choice == 0 ? Source::Choice : Source::ParaFile;
-  return choice >= 0;
+  const Selection choice = SelectionDialog(
+      {.Title = Text(471), .Prompt = Text(41), .Choices = {Text(42), Text(43)}, .OkIsNext = true});
+  source = choice == Selection::First ? Source::Choice : Source::ParaFile;
+  return choice != Selection::Cancelled;
 }
 
 /// Asks until parameters stand; false when the user leaves. Back, a failure and a file dialogue

@@ -43,6 +43,8 @@ class FormHost {
   virtual void ShowModal(View& view) = 0;
   /// Takes the view off the screen.
   virtual void Hide(View& view) = 0;
+  /// True while the screen still refers to the record: one that was hidden may not end before.
+  virtual bool Holds(const View& view) = 0;
   /// Brings the open view to the front and makes it the active one.
   virtual void BringToFront(View& view) = 0;
   /// Paints now what the records hold.

@@ -24,6 +24,7 @@ constexpr int kMsgSelectAgain = 5;
 constexpr int kMsgStopped = 367;
 constexpr int kMsgReadFailed = 484;
 
+/// In the order in which they are offered.
 enum class Choice { DevicesInUse, DevicesOfFile, ParameterFile };
 
 /// The axes that the file has a device for; true when they are not those in use.
@@ -83,8 +84,9 @@ void DevicesHaveChanged() {
 
 /// Asks by whose devices the positions are shown; those are in use then.
 bool AskAndFollow(Choice& choice) {
-  const int answer = SelectionDialog2(Text(471), Text(44), {Text(45), Text(46), Text(47)}, 0);
-  if (answer < 0) return TellStopped();
+  const Selection answer = SelectionDialog2(
+      {.Title = Text(471), .Prompt = Text(44), .Choices = {Text(45), Text(46), Text(47)}});
+  if (answer == Selection::Cancelled) return TellStopped();
   choice = static_cast<Choice>(answer);
   if (choice == Choice::DevicesOfFile) return TakeDevicesOfFile();
   return choice == Choice::DevicesInUse || TakeDevicesOfParaFile();

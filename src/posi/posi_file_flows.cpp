@@ -14,6 +14,7 @@
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 #include "state/wait.h"
 
@@ -23,6 +24,7 @@ namespace {
 constexpr int kMsgPartOverWhole = 6460;
 constexpr int kTries = 4;
 constexpr int kPauseMs = 100;
+constexpr int kMsgSaved = 5972;
 
 std::optional<std::string> AskSavePath(int title_id) {
   const auto path = doors.forms->FileDialog({.Save = true,
@@ -35,13 +37,24 @@ std::optional<std::string> AskSavePath(int title_id) {
   return frmPosi.SaveCancelled ? std::nullopt : path;
 }
 
+/// The save may have been asked for from another view: the status bar says what went where.
+void TellSaved(const std::string& path) {
+  const std::string numbers =
+      std::to_string(AppState.PosiFromNo) + " - " + std::to_string(AppState.PosiToNo);
+  TellInStatusPanel(Text(kMsgSaved, numbers, path));
+}
+
 void Save() {
   if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
   const auto path = PosiTableHasFile() ? PosiTablePath() : AskSavePath(423);
   if (!path) return;
   PosiFileTrouble trouble;
   const auto save = [&](PosiFileTrouble& why) { return SaveFileAs2(*path, why); };
-  if (TryFourTimes(save, trouble) != 0) MsgBox(WithReason(422, trouble));
+  if (TryFourTimes(save, trouble) != 0) {
+    MsgBox(WithReason(422, trouble));
+  } else {
+    TellSaved(*path);
+  }
 }
 
 /// The range to save, checked. False: the flow ends.
@@ -69,7 +82,11 @@ void SaveAs() {
     return;
   }
   PosiFileTrouble trouble;
-  if (SaveFileAs2(*path, trouble) != 0) MsgBox(WithReason(422, trouble));
+  if (SaveFileAs2(*path, trouble) != 0) {
+    MsgBox(WithReason(422, trouble));
+  } else {
+    TellSaved(*path);
+  }
 }
 
 }  // namespace

@@ -59,16 +59,18 @@ bool TypedRange(const RangeForm& form, NumberRange& range) {
 bool Ask(const RangeForm& form) {
   SelectPosiNoView& view = form.view;
   bool accepted = false;
-  view.Load = [&form, &view] {
+  HandlersForOnce handlers;
+  handlers.Set(view.Load, [&form, &view] {
     view.optRange.Choose();
     view.txtFromNo.Text = std::to_string(form.proposed.first);
     view.txtToNo.Text = std::to_string(form.proposed.last);
     ShowNumbers(form);
-  };
-  view.optAll.Click = view.optRange.Click = [&form] { ShowNumbers(form); };
-  view.txtFromNo.Enter = [&view] { doors.forms->SetFocus(view.txtToNo); };
-  view.txtToNo.Enter = [&view] { doors.forms->SetFocus(view.cmdOk); };
-  view.cmdOk.Click = [&form, &view, &accepted] {
+  });
+  handlers.Set(view.optAll.Click, [&form] { ShowNumbers(form); });
+  handlers.Set(view.optRange.Click, [&form] { ShowNumbers(form); });
+  handlers.Set(view.txtFromNo.Enter, [&view] { doors.forms->SetFocus(view.txtToNo); });
+  handlers.Set(view.txtToNo.Enter, [&view] { doors.forms->SetFocus(view.cmdOk); });
+  handlers.Set(view.cmdOk.Click, [&form, &view, &accepted] {
     NumberRange range{};
     if (form.has_numbers && !TypedRange(form, range)) {
       MsgBox(Text(1610));
@@ -81,11 +83,9 @@ bool Ask(const RangeForm& form) {
       accepted = true;
     }
     view.Visible = false;
-  };
-  view.cmdCancel.Click = [&view] { view.Visible = false; };
+  });
+  handlers.Set(view.cmdCancel.Click, [&view] { view.Visible = false; });
   ShowViewModal(view);
-  view.Load = view.optAll.Click = view.optRange.Click = view.txtFromNo.Enter = view.txtToNo.Enter =
-      view.cmdOk.Click = view.cmdCancel.Click = nullptr;
   AppState.RangeCancelled = !accepted;
   return accepted;
 }

@@ -112,16 +112,16 @@ void FillGrid() {
   }
 }
 
-void WireOtherSide(const OtherSide& other) {
+void WireOtherSide(const OtherSide& other, HandlersForOnce& handlers) {
   Grid& grid = ResultGrid();
-  grid.CellToolTip = [&other](int row, int col) {
+  handlers.Set(grid.CellToolTip, [&other](int row, int col) {
     return IsFlaggedCell(row, col) ? NoteOfCell(other, NumberOfRow(row), col) : std::string();
-  };
-  grid.SelChange = [&other] {
+  });
+  handlers.Set(grid.SelChange, [&other] {
     const Grid& result = ResultGrid();
     const bool body = result.Row >= result.FixedRows && result.Row < result.Rows();
     frmSyogoKekka.lblLine.Caption = body ? LineText(other, NumberOfRow(result.Row)) : std::string();
-  };
+  });
 }
 
 void LoadResultView() {
@@ -136,10 +136,9 @@ void LoadResultView() {
 
 void ShowSyogoKekka(bool verify, const OtherSide& other) {
   frmSyogoKekka.SyogoViewIsVerify = verify;
-  WireOtherSide(other);
+  HandlersForOnce handlers;
+  WireOtherSide(other, handlers);
   ShowViewModal(frmSyogoKekka);
-  ResultGrid().CellToolTip = nullptr;
-  ResultGrid().SelChange = nullptr;
 }
 
 void InstallResultView() {

@@ -13,10 +13,13 @@ void ChangeCtModeMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
   const PortClosedAfter port_closed;
-  if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
-  const int choice =
-      SelectionDialog2(Text(471), Text(476), {Text(477), Text(478)}, AppState.CtMode ? 1 : 0);
-  if (choice >= 0 && ChangeCtModeToCt(choice) == 0) {
+  if (ConnectOrOpenPort() != 0) return;
+  const Selection choice = SelectionDialog2({.Title = Text(471),
+                                             .Prompt = Text(476),
+                                             .Choices = {Text(477), Text(478)},
+                                             .Preselected = AppState.CtMode ? 1 : 0});
+  if (choice == Selection::Cancelled) return;
+  if (ChangeCtModeToCt(choice == Selection::First ? 0 : 1) == 0) {
     MsgBox(Text(495) + "\n\n" + Text(496) + "\n\n" + Text(497), MsgButtons::Ok,
            MsgIcon::Information);
     // The PC's own mode stays: it changes when the tool starts again beside the restarted

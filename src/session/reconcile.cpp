@@ -6,6 +6,7 @@
 #include "device/take_ct_device.h"
 #include "link/port.h"
 #include "session/followers.h"
+#include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/frame_menus.h"
 #include "state/message_box.h"
@@ -17,10 +18,14 @@
 namespace tr7 {
 namespace {
 
-/// 0 the controller's values, 1 the PC's, -1 no answer.
-int AskReconcile(int prompt_id, int pc_choice_id, bool may_cancel) {
-  return SelectionDialog(Text(471), Text(prompt_id), Text(372), Text(pc_choice_id),
-                         may_cancel ? 0 : 1, 0, 0);
+constexpr int kMsgModeNotWritten = 5973;
+
+/// First: the controller's values. Second: the PC's.
+Selection AskReconcile(int prompt_id, int pc_choice_id, bool may_cancel) {
+  return SelectionDialog({.Title = Text(471),
+                          .Prompt = Text(prompt_id),
+                          .Choices = {Text(372), Text(pc_choice_id)},
+                          .MayCancel = may_cancel});
 }
 
 /// The PC's axes in use as a mask, and the last of them, 1 to 4 (0: none).
@@ -43,7 +48,9 @@ void WriteAxesOfPc(ProgressScope& progress) {
   if (WriteAxisPatternToCt(mask) != 0) return;
   progress.Set(3);
   AppState.AxisCount = static_cast<std::int16_t>(last_axis);
-  MsgBox(TwoLines(492, 493), MsgButtons::Ok, MsgIcon::Information);
+  // The mode is not written with them: a power cycle alone would bring the same question again.
+  MsgBox(TwoLines(492, 493) + "\n\n" + Text(kMsgModeNotWritten), MsgButtons::Ok,
+         MsgIcon::Information);
 }
 
 int TakeModeOfCt(ProgressScope& progress) {
@@ -103,21 +110,26 @@ int ReconcileMode(ProgressScope& progress) {
   const int difference = CompareCtModeAndAxis();
   if (difference < 0) return 1;
   if (difference < 2) return 0;  // axes alone: the device dialogue asks about them
-  const int choice = AskReconcile(490, 491, false);
-  if (choice == 1) WriteAxesOfPc(progress);
-  return choice == 0 ? TakeModeOfCt(progress) : 1;
+  const Selection choice = AskReconcile(490, 491, false);
+  if (choice == Selection::Second) WriteAxesOfPc(progress);
+  return choice == Selection::First ? TakeModeOfCt(progress) : 1;
 }
 
 int ReconcileDevices(DeviceReconcile flow) {
+  if (OpenPortOrTell() != 0) return 1;
   const int difference = CompareCtDevice();
   if (difference < 0) return 1;
   if (difference == 0) return 0;
   const bool reading = flow == DeviceReconcile::Read;
   if (!reading) WarnOfDeviceChange(false);
-  const int choice = AskReconcile(371, 373, reading);
-  if (choice < 0) return 1;
-  if (choice == 1) return 0;  // the controller's setting is disregarded
-  return TakeDevicesOfCt(flow);
+  switch (AskReconcile(371, 373, reading)) {
+    case Selection::First:
+      return TakeDevicesOfCt(flow);
+    case Selection::Second:
+      return 0;  // the controller's setting is disregarded
+    default:
+      return 1;
+  }
 }
 
 bool WarnOfDeviceChange(bool may_cancel) {

@@ -17,6 +17,7 @@
 #include "state/message_box.h"
 #include "state/online.h"
 #include "state/progress.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 #include "state/views.h"
 
@@ -25,17 +26,21 @@ namespace {
 
 constexpr int kConnectSteps = 4;
 constexpr int kMsgPortLost = 5920;
+constexpr int kMsgGivenUp = 5970;
+
+/// The cancel button ends the sequence after the step that runs.
+bool GivenUp() { return AppState.CancelRequested; }
 
 int ConnectSteps() {
   SetOnline();
-  ProgressScope progress(Text(368), kConnectSteps, false);
-  if (CtComStart(1) != 0) return 1;
-  if (GetVersionNoDisp() != 0) return 1;
+  ProgressScope progress(Text(368), kConnectSteps, true);
+  if (CtComStart(1) != 0 || GivenUp()) return 1;
+  if (GetVersionNoDisp() != 0 || GivenUp()) return 1;
   if (!CheckModelMarker()) return 1;
   AppState.AxisCount = AppState.CtAxisDigit;
   progress.Set(1);
-  if (ReconcileMode(progress) != 0) return 1;
-  if (ReconcileDevices(DeviceReconcile::Connect) != 0) return 1;
+  if (ReconcileMode(progress) != 0 || GivenUp()) return 1;
+  if (ReconcileDevices(DeviceReconcile::Connect) != 0 || GivenUp()) return 1;
   // The controller's own axes, also where they are disregarded: its replies speak of them.
   AppState.AxisPattern = AppState.AxisPatternOfCt;
   AppState.CtModePending = False;
@@ -45,25 +50,23 @@ int ConnectSteps() {
 }
 
 void FailToOffline() {
-  SetOffline();
-  TusinPortCloseForce();
-  AllViewsOnlineChanged();
-  ChangeMenuDisp(AppState.CtMode);
+  EndSession();
+  if (GivenUp()) TellInStatusPanel(Text(kMsgGivenUp));
 }
 
 int FirstConnectionSteps() {
-  ProgressScope progress(Text(368), kConnectSteps, false);
-  if (CtControlModeSet(0, 0, 0) != 0) return 1;
-  if (GetVersionNoDisp() != 0) return 1;
+  ProgressScope progress(Text(368), kConnectSteps, true);
+  if (CtControlModeSet(0, 0, 0) != 0 || GivenUp()) return 1;
+  if (GetVersionNoDisp() != 0 || GivenUp()) return 1;
   if (!CheckModelMarker()) return 1;
   AppState.AxisCount = AppState.CtAxisDigit;
   progress.Set(1);
-  if (ReadCtModeAndAxis() != 0) return 1;
+  if (ReadCtModeAndAxis() != 0 || GivenUp()) return 1;
   TakeModeAndAxesOfCt();
   progress.Set(2);
   DispControlerMode();
   ChangeMenuDisp(AppState.CtMode);
-  if (ReadCtDeviceFromCt() != 0) return 1;
+  if (ReadCtDeviceFromCt() != 0 || GivenUp()) return 1;
   progress.Set(3);
   TakeDevFromCt();
   RecalcLimits();
@@ -86,13 +89,11 @@ int fChangeToOnline() {
   return 1;
 }
 
-int OpenPortOrTell() {
-  if (TusinPortOpen() == 0) return 0;
-  MsgBox(Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText);
-  return 1;
-}
-
 int ChangeToOnlineFromCommand() { return OpenPortOrTell() == 0 ? fChangeToOnline() : 1; }
+
+int ConnectOrOpenPort() {
+  return AppState.Offline ? ChangeToOnlineFromCommand() : OpenPortOrTell();
+}
 
 void ChangeToOnlineMenu() {
   const CommandsOff commands_off;
@@ -107,8 +108,7 @@ void ChangeToOfflineMenu() {
       MsgBox(Text(432), MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
     return;
   }
-  TusinPortCloseForce();
-  SetOffline();
+  EndSession();
 }
 
 int FirstConnection() {

@@ -1,16 +1,20 @@
 #pragma once
 
+#include "session/open_port.h"  // IWYU pragma: export
+
 namespace tr7 {
 
 /// The connect sequence with a dialogue for each difference between PC and controller. 0: online;
-/// 1: offline with the line shut. It ends in one of the two, never between.
+/// 1: offline with the line shut. It ends in one of the two, never between. The user can give up on
+/// it by the cancel button, which the status bar then says.
 int fChangeToOnline();
 
 /// The same for a command that was started offline: menus and tabs follow. 0 or 1.
 int ChangeToOnlineFromCommand();
 
-/// Opens the line for a command of the user's; a failure is told with its reason. 0 or 1.
-int OpenPortOrTell();
+/// The line for a command of the user's: offline the connect sequence, online the port alone. What
+/// failed has told the user. 0 or 1.
+[[nodiscard]] int ConnectOrOpenPort();
 
 /// `mnuSettingOnline` and `mnuSettingOffline`.
 void ChangeToOnlineMenu();

@@ -23,7 +23,7 @@ void ContVersionMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
   const PortClosedAfter port_closed;
-  if (AppState.Offline ? ChangeToOnlineFromCommand() != 0 : OpenPortOrTell() != 0) return;
+  if (ConnectOrOpenPort() != 0) return;
   if (GetVersionNo2() == 0) {
     std::string text = Text(426) + "\n\n" + VersionLine(427, AppState.CtVersionText);
     for (int axis = 0; axis < kAxes; ++axis) {

@@ -37,12 +37,16 @@ void Hide_ProgressBar() {
 
 ProgressScope::ProgressScope(const std::string& status, int maximum, bool may_cancel) {
   AppState.ProgressWriting = may_cancel;
+  if (may_cancel) AppState.CancelRequested = False;
   frmMain.ProgressBar1.Max = std::max(maximum, 1);
   frmMain.lblStatus.Caption = status;
   Disp_ProgressBar();
 }
 
-ProgressScope::~ProgressScope() { Hide_ProgressBar(); }
+ProgressScope::~ProgressScope() {
+  Hide_ProgressBar();
+  AppState.ProgressWriting = False;
+}
 
 void ProgressScope::Set(int value) {
   frmMain.ProgressBar1.Value = std::min(value, frmMain.ProgressBar1.Max);

@@ -10,6 +10,8 @@ void Disp_ProgressBar();
 void Hide_ProgressBar();
 
 /// The bar for the length of a flow: status text, maximum, shown; taken away on every way out.
+/// With `may_cancel` the cancel button stands beside it, not pressed yet; `CancelRequested` then
+/// tells, afterwards too, whether it was.
 class ProgressScope {
  public:
   ProgressScope(const std::string& status, int maximum, bool may_cancel);

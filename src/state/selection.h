@@ -5,17 +5,23 @@
 
 namespace tr7 {
 
-inline constexpr int kSelectionCancelled = -1;
-inline constexpr int kSelectionBack = -2;
+/// What a choice box asks.
+struct SelectionCall {
+  std::string Title;
+  std::string Prompt;
+  std::vector<std::string> Choices;  ///< two or three
+  int Preselected = 0;               ///< index of the choice that is marked at first
+  bool MayCancel = true;             ///< false: no cancel button, and no other way to close
+  bool MayGoBack = false;            ///< true: a back button
+  bool OkIsNext = false;             ///< true: the OK button reads "Next"
+};
 
-/// The two-choice box. 0 first choice, 1 second, -1 cancelled, -2 back. `no_cancel` 1 hides the
-/// cancel button and refuses to close by other means; `back` 1 offers the back button; `next` 1
-/// names the OK button "Next".
-int SelectionDialog(const std::string& title, const std::string& prompt, const std::string& choice1,
-                    const std::string& choice2, int no_cancel, int back, int next);
+/// How the user left it.
+enum class Selection { Back = -2, Cancelled = -1, First = 0, Second = 1, Third = 2 };
 
-/// The box with two or three choices, one preselected: index of the choice, or -1.
-int SelectionDialog2(const std::string& title, const std::string& prompt,
-                     const std::vector<std::string>& choices, int preselected);
+/// The two-choice box.
+[[nodiscard]] Selection SelectionDialog(const SelectionCall& call);
+/// The box for two or three choices.
+[[nodiscard]] Selection SelectionDialog2(const SelectionCall& call);
 
 }  // namespace tr7

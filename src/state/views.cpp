@@ -1,12 +1,12 @@
 #include "state/views.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "forms/control.h"
 #include "forms/frm_main.h"
 #include "platform/doors.h"
 #include "state/text.h"
+#include "state/view_instances.h"
 
 namespace tr7 {
 namespace {
@@ -41,7 +41,7 @@ void SetActiveView(View* view) {
 
 void ApplyViewCaptions(View& view) {
   // The frame sets its own caption: it carries the version.
-  if (view.Tag != 0 && std::string_view(view.Name) != "frmMain") view.Caption = Text(view.Tag);
+  if (view.Tag != 0 && &view != &frmMain) view.Caption = Text(view.Tag);
   for (Control* control : view.Controls) ApplyControlCaption(*control);
 }
 
@@ -68,11 +68,22 @@ void ShowView(View& view) {
 }
 
 void ShowViewModal(View& view) {
+  const HandlerRuns asked;  // whoever asked looks at the record when the view has been closed
   LoadView(view);
   view.Visible = true;
   doors.forms->ShowModal(view);
   UnloadView(view);
 }
+
+namespace {
+
+View* NewestChild() {
+  const auto found = std::find_if(open_views.rbegin(), open_views.rend(),
+                                  [](const View* view) { return view->MdiChild; });
+  return found == open_views.rend() ? nullptr : *found;
+}
+
+}  // namespace
 
 void UnloadView(View& view) {
   view.Visible = false;
@@ -82,12 +93,8 @@ void UnloadView(View& view) {
     view.Loaded = false;
     if (view.Unload) view.Unload();
   }
-  if (active_view == &view) {
-    active_view = nullptr;
-    for (View* other : open_views) {
-      if (other->MdiChild) SetActiveView(other);
-    }
-  }
+  if (active_view == &view) SetActiveView(NewestChild());
+  LetViewGo(view);
 }
 
 bool CloseView(View& view, CloseReason reason) {
@@ -99,12 +106,13 @@ bool CloseView(View& view, CloseReason reason) {
 void ResetViews() {
   open_views.clear();
   active_view = nullptr;
+  DestroyViewInstances();
 }
 
 namespace {
 
 /// By index: a handler may open or close views.
-void ForOpenViews(std::function<void()> View::*handler) {
+void ForOpenViews(Handler<void()> View::*handler) {
   for (std::size_t i = 0; i < open_views.size(); ++i) {
     if (const auto& run = open_views[i]->*handler) run();
   }

@@ -94,9 +94,9 @@ QtFormHost::Shown* QtFormHost::Build(View& view, bool modal) {
     found = shown_.end();
   }
   if (found != shown_.end()) return &found->second;
-  const ViewForm* form = FindViewForm(view.Name);
+  const ViewForm* form = FindViewForm(view.Layout);
   if (!form) {
-    qCritical("%s has no layout", view.Name);
+    qCritical("%s has no layout", view.Name.c_str());
     return nullptr;
   }
   look::UseLanguage(AppState.LangOffset == 0);
@@ -104,7 +104,7 @@ QtFormHost::Shown* QtFormHost::Build(View& view, bool modal) {
   QWidget* window = MakeWindow(view, *form, modal, inner);
   auto bound = std::make_unique<BoundView>(view, *form, *inner, [this] { return MayCommand(); });
   for (const std::string& problem : bound->Problems()) {
-    qCritical("%s.%s", view.Name, problem.c_str());
+    qCritical("%s.%s", view.Name.c_str(), problem.c_str());
   }
   bound->Push();
   return &shown_.emplace(&view, Shown{window, std::move(bound)}).first->second;
@@ -194,11 +194,17 @@ void QtFormHost::Hide(View& view) {
   window->hide();
   if (filled_frame) FillFrame(*window);
   // The window may stand further up in the calls, in the click that closes it.
+  leaving_.emplace(&view, window);
   window->deleteLater();
   if (window == frame_) {
     frame_ = nullptr;
     mdi_ = nullptr;
   }
+}
+
+bool QtFormHost::Holds(const View& view) {
+  std::erase_if(leaving_, [](const auto& window) { return window.second.isNull(); });
+  return shown_.contains(&view) || leaving_.contains(&view);
 }
 
 /// The view that comes up where `gone` was fills the frame as that did.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -29,6 +30,7 @@ class QtFormHost : public FormHost {
   void Show(View& view) override;
   void ShowModal(View& view) override;
   void Hide(View& view) override;
+  bool Holds(const View& view) override;
   void BringToFront(View& view) override;
   void Refresh() override;
   MsgAnswer MessageBox(const MessageBoxCall& call) override;
@@ -67,6 +69,8 @@ class QtFormHost : public FormHost {
 
   QtPump& pump_;
   std::map<const View*, Shown> shown_;
+  /// Windows that are hidden and not deleted yet.
+  std::multimap<const View*, QPointer<QWidget>> leaving_;
   FrameWindow* frame_ = nullptr;
   QMdiArea* mdi_ = nullptr;
   std::int64_t last_push_us_ = 0;

@@ -3,59 +3,31 @@
 #include <QDialog>
 #include <QMainWindow>
 #include <array>
+#include <type_traits>
 
-#include "layout_frmDevice.h"
-#include "layout_frmMain.h"
-#include "layout_frmOptions2.h"
-#include "layout_frmParameta2.h"
-#include "layout_frmPosi.h"
-#include "layout_frmSelectPosiNo.h"
-#include "layout_frmSelection.h"
-#include "layout_frmSplash.h"
-#include "layout_frmStrokeCalc.h"
-#include "layout_frmSyogoKekka.h"
+#include "layouts.h"  // made by the build: every layout file, and their list
 
 namespace tr7 {
 namespace {
 
+/// The row of one layout; the kind of its root is the kind of what it sets up.
 template <typename Form, typename Window>
-void SetUp(QWidget& window) {
-  Form form;
-  form.setupUi(static_cast<Window*>(&window));
+constexpr ViewForm Row(const char* layout, void (Form::*)(Window*)) {
+  const FormRoot root = std::is_same_v<Window, QMainWindow> ? FormRoot::MainWindow
+                        : std::is_same_v<Window, QDialog>   ? FormRoot::Dialog
+                                                            : FormRoot::Widget;
+  return {layout, root, [](QWidget& window) { Form().setupUi(static_cast<Window*>(&window)); }};
 }
 
-template <typename Form>
-constexpr ViewForm Dialog(const char* view_name) {
-  return {view_name, FormRoot::Dialog, SetUp<Form, QDialog>};
-}
-
-template <typename Form>
-constexpr ViewForm Child(const char* view_name) {
-  return {view_name, FormRoot::Widget, SetUp<Form, QWidget>};
-}
-
-constexpr std::array kForms{
-    ViewForm{"frmMain", FormRoot::MainWindow, SetUp<Ui::frmMain, QMainWindow>},
-    Child<Ui::frmSplash>("frmSplash"),
-    Child<Ui::frmPosi>("frmPosi"),
-    Child<Ui::frmParameta2>("frmParameta2"),
-    Dialog<Ui::frmStrokeCalc>("frmStrokeCalc"),
-    Dialog<Ui::frmSyogoKekka>("frmSyogoKekka"),
-    Dialog<Ui::frmDevice>("frmDevice2"),
-    Dialog<Ui::frmDevice>("frmDevice3"),
-    Dialog<Ui::frmSelection>("frmSelection"),
-    Dialog<Ui::frmSelection>("frmSelection2"),
-    Dialog<Ui::frmOptions2>("frmOptions2"),
-    Dialog<Ui::frmSelectPosiNo>("frmSelectPosiNo2"),
-    Dialog<Ui::frmSelectPosiNo>("frmSelectPosiNo3"),
-    Dialog<Ui::frmSelectPosiNo>("frmSelectPosiNo4"),
-};
+#define TR7_ROW(name) Row(#name, &Ui::name::setupUi),
+constexpr std::array kForms{TR7_LAYOUTS(TR7_ROW)};
+#undef TR7_ROW
 
 }  // namespace
 
-const ViewForm* FindViewForm(std::string_view view_name) {
+const ViewForm* FindViewForm(std::string_view layout) {
   for (const ViewForm& form : kForms) {
-    if (view_name == form.view_name) return &form;
+    if (layout == form.layout) return &form;
   }
   return nullptr;
 }

@@ -56,6 +56,43 @@ TEST_F(StartTest, OnlineFailedEndsInTheOfflineStart) {
   EXPECT_EQ(AppState.AxisCount, 4);
 }
 
+TEST_F(StartTest, WhileItConnectsOnlyCancelIsOn) {
+  Choose({0, 0});
+  bool seen = false;
+  pump.After(3'010'000, [&seen] {
+    seen = frmMain.cmdComCancel.Visible;
+    for (const bool on :
+         {frmPosi.cmdPosiRead.Enabled, frmPosi.cmdPosiNew.Enabled, frmPosi.flgdData.Enabled,
+          frmMain.cmdReset.Enabled, frmMain.mnuFile.Enabled, frmMain.mnuSetting.Enabled}) {
+      EXPECT_FALSE(on);
+    }
+    frmMain.cmdComCancel.Press();
+  });
+  Main();
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(port.sent, "0CM00000\r\n");
+  EXPECT_TRUE(forms.boxes.empty());
+  EXPECT_EQ(asked.back(), Text(74)) << "the offline start follows";
+  ExpectOffline();
+  ExpectCommandsOn();
+}
+
+TEST_F(StartTest, TheFilesMenuActsOnTheViewInFront) {
+  StartOffline();
+  frmMain.mnuViewPara.Press();
+  EXPECT_FALSE(frmMain.mnuFileNew.Enabled);
+  forms.file_answers = {std::nullopt, std::nullopt};
+  frmMain.mnuFileOpen.Press();
+  EXPECT_EQ(forms.file_dialogs.back().DefaultExtension, "pmt");
+  frmMain.mnuFileClose.Press();
+  EXPECT_FALSE(frmParameta2.Visible);
+  EXPECT_FALSE(frmMain.mnuFileClose.Enabled);
+  frmMain.mnuFileClose.Click();
+  EXPECT_TRUE(frmPosi.Visible && !forms.ended) << "the position view stays";
+  frmMain.mnuFileOpen.Press();
+  EXPECT_EQ(forms.file_dialogs.back().DefaultExtension, "qvd");
+}
+
 qvr7sim::Setup ForeignController() {
   qvr7sim::Setup setup = qvr7sim::Setup::Useful();
   setup.marker = "X4M";
@@ -170,6 +207,24 @@ TEST_F(StartTest, OptionsTakeThePortAndItsDevice) {
   EXPECT_FALSE(AppState.PortOccupy);
   EXPECT_EQ(virt.settings.Get("Settings", "PortDevice2", ""), "sim");
   EXPECT_EQ(virt.settings.Get("Settings", "PortOccupy", ""), "0");
+}
+
+TEST_F(StartTest, AnotherPortEndsTheSessionAndTheNextUseConnects) {
+  StartOnline();
+  forms.on_modal["frmOptions2"] = [](View&) {
+    frmOptions2.txtPortNo.Type("2");
+    frmOptions2.cmdOk.Press();
+  };
+  frmMain.mnuSettingOptions.Press();
+  EXPECT_EQ(forms.LastBox(), Text(5971));
+  EXPECT_FALSE(port.IsOpen());
+  ExpectOffline();
+  ExpectCommandsOn();
+  virt.settings.Set("Settings", "PortDevice2", "sim");
+  port.sent.clear();
+  ReadRange(1, 2);
+  EXPECT_TRUE(port.sent.starts_with("0CM1\r\n0CM1\r\n0RV\r\n")) << port.sent;
+  ExpectOnline();
 }
 
 // The offline start's devices.

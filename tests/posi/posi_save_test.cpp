@@ -66,7 +66,10 @@ TEST_F(SaveTest, TheFirstSaveAsksForAName) {
   EXPECT_EQ(Numbers(), "1-3");
 
   Type(2, kComment, "x");
+  frmMain.mnuViewPara.Press();
   frmMain.tbToolBar.Press("Save");
+  EXPECT_EQ(ActiveView(), &frmPosi) << "the user sees what is saved";
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5972, "1 - 3", kPath));
   EXPECT_EQ(forms.file_dialogs.size(), 2u) << "the table has a file by now";
   EXPECT_NE(Saved().find("\"x\""), std::string::npos);
   EXPECT_TRUE(forms.boxes.empty());

@@ -242,8 +242,49 @@ TEST_F(ConnectTest, WritingThePcsAxesTellsOfThePowerCycle) {
   expected.replace(2, 2, "07");
   EXPECT_EQ(port.Ct().WrittenBlock(0), expected);
   EXPECT_EQ(AppState.AxisCount, 3);
-  EXPECT_EQ(forms.LastBox(), Text(492) + "\n" + Text(493));
+  EXPECT_EQ(forms.LastBox(), Text(492) + "\n" + Text(493) + "\n\n" + Text(5973));
   ExpectOffline();
+}
+
+TEST_F(ConnectTest, CancelEndsItAfterTheStepThatRuns) {
+  StartEqualAndOffline();
+  const PcState before;
+  pump.After(10'000, [] { frmMain.cmdComCancel.Press(); });
+  GoOnline();
+  EXPECT_EQ(Lines(), "0CM1 ");
+  EXPECT_TRUE(forms.boxes.empty());
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5970));
+  EXPECT_EQ(PcState(), before);
+  ExpectOffline();
+  ExpectCommandsOn();
+  GoOnline();
+  ExpectOnline();
+}
+
+TEST_F(ConnectTest, APortThatDoesNotOpenIsToldByEveryFlowThatNeedsIt) {
+  const struct {
+    const char* name;
+    std::function<void()> flow;
+  } rows[] = {
+      {"mode", [] { frmMain.mnuSettingCtMode.Press(); }},
+      {"version", [] { frmMain.mnuContVersion.Press(); }},
+      {"reset", [] { frmMain.cmdReset.Press(); }},
+      {"read", [this] { ReadRange(1, 2); }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    ResetState();
+    AppState.LangOffset = 10000;
+    port.open_fault = PortFault::None;
+    StartOnline();
+    Forget();
+    port.open_fault = PortFault::InUse;
+    row.flow();
+    EXPECT_TRUE(forms.LastBox().starts_with(Text(109))) << forms.LastBox();
+    EXPECT_TRUE(asked.empty());
+    ExpectOffline();
+    ExpectCommandsOn();
+  }
 }
 
 /// Whatever befalls any line of the longest way: offline, the PC as it was or wholly the

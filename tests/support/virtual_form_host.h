@@ -19,6 +19,7 @@ class VirtualFormHost : public FormHost {
   void Show(View& view) override;
   void ShowModal(View& view) override;
   void Hide(View& view) override;
+  bool Holds(const View&) override { return false; }
   void BringToFront(View& view) override;
   void Refresh() override {}
   MsgAnswer MessageBox(const MessageBoxCall& call) override;

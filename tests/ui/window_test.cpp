@@ -1,6 +1,8 @@
 // Windows: closing, dialogues and boxes under the user's keys.
 
 #include <QApplication>
+#include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 
@@ -12,6 +14,7 @@
 #include "forms/frm_splash.h"
 #include "state/message_box.h"
 #include "state/selection.h"
+#include "state/view_instances.h"
 #include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/twips.h"
@@ -115,6 +118,52 @@ TEST_F(WindowTest, AChildThatFillsTheFrameLeavesTheTitleAlone) {
   EXPECT_EQ(Frame().windowTitle(), title);
 }
 
+/// A kind of view that there may be many of, drawn by a layout that stands for its own.
+struct PageView : View {
+  explicit PageView(int number) : View("frmPage" + std::to_string(number)) {
+    Layout = "frmSplash";
+    MdiChild = true;
+    Caption = Name;
+  }
+  ~PageView() override { --living; }
+  Label lblProduct{*this, "lblProduct"};
+  Label lblSubtitle{*this, "lblSubtitle"};
+  Label lblVersion{*this, "lblVersion"};
+  inline static int living = 0;
+};
+
+TEST_F(WindowTest, ViewsInNumbersShareALayoutAndGoWhenTheyAreClosed) {
+  StartOffline();
+  std::vector<PageView*> pages;
+  PageView::living = 3;
+  bool refuse = true;
+  for (int number = 1; number <= 3; ++number) {
+    PageView& page = *pages.emplace_back(&NewView<PageView>(number));
+    page.lblProduct.Caption = "page " + std::to_string(number);
+    page.QueryUnload = [&refuse](CloseReason) { return refuse; };
+    ShowView(page);
+  }
+  frmMain.mnuWindowTileVertical.Press();
+  Settle();
+  std::vector<QPointer<QWidget>> windows;
+  for (const PageView* page : pages) {
+    auto* label = qobject_cast<QLabel*>(desktop.forms.WidgetOf(page->lblProduct));
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->text().toStdString(), page->lblProduct.Caption);
+    QWidget* window = label->parentWidget()->parentWidget();
+    EXPECT_EQ(window->windowTitle().toStdString(), page->Caption);
+    windows.emplace_back(window);
+  }
+  EXPECT_LT(windows[0]->geometry().right(), windows[1]->geometry().left() + 8);
+  for (const auto& window : windows) window->close();
+  EXPECT_EQ(PageView::living, 3) << "each refuses";
+  refuse = false;
+  for (const auto& window : windows) window->close();
+  EXPECT_TRUE(Until(
+      [&windows] { return PageView::living == 0 && windows[0].isNull() && windows[2].isNull(); }));
+  EXPECT_EQ(ActiveView(), &frmPosi);
+}
+
 // Dialogues.
 
 TEST_F(WindowTest, EscapeCancelsADialogueAndEnterIsItsDefault) {
@@ -123,8 +172,8 @@ TEST_F(WindowTest, EscapeCancelsADialogueAndEnterIsItsDefault) {
       QWidget& window = WindowOf(static_cast<SelectionView&>(view).cmdOk);
       QTest::keyClick(&window, key);
     };
-    const int choice = SelectionDialog("title", "prompt", "one", "two", 0, 0, 0);
-    EXPECT_EQ(choice, key == Qt::Key_Escape ? -1 : 0);
+    const Selection choice = SelectionDialog({"title", "prompt", {"one", "two"}});
+    EXPECT_EQ(choice, key == Qt::Key_Escape ? Selection::Cancelled : Selection::First);
   }
 }
 
@@ -138,7 +187,9 @@ TEST_F(WindowTest, ADialogueWithoutCancelStaysUntilItIsAnswered) {
     selection.optChoice2.Press();
     selection.cmdOk.Press();
   };
-  EXPECT_EQ(SelectionDialog("title", "prompt", "one", "two", 1, 0, 0), 1);
+  const SelectionCall call{
+      .Title = "title", .Prompt = "prompt", .Choices = {"one", "two"}, .MayCancel = false};
+  EXPECT_EQ(SelectionDialog(call), Selection::Second);
   EXPECT_EQ(user.modals.size(), 1u);
 }
 

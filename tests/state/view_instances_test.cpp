@@ -1,0 +1,117 @@
+// Views that exist in numbers, on a kind of view that only this test has.
+
+#include "state/view_instances.h"
+
+#include <algorithm>
+
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+int living = 0;
+
+/// A draft that asks before it closes, until it is saved.
+struct DraftView : View {
+  explicit DraftView(int number) : View("frmDraft" + std::to_string(number)) {
+    MdiChild = true;
+    ++living;
+  }
+  ~DraftView() override { --living; }
+  CommandButton cmdClose{*this, "cmdClose"};
+  bool Saved = false;
+  int Unloads = 0;
+};
+
+class ViewInstancesTest : public FlowTest {
+ protected:
+  ViewInstancesTest() { StartOffline(); }
+
+  DraftView& OpenDraft() {
+    auto& draft = NewView<DraftView>(AppState.NextProgViewNo);
+    draft.Caption = "Draft " + std::to_string(AppState.NextProgViewNo++);
+    draft.Commands.Save = [&draft] { draft.Saved = true; };
+    draft.QueryUnload = [this, &draft](CloseReason) {
+      asked_about.push_back(draft.Caption);
+      return !draft.Saved && MsgBox(draft.Caption, MsgButtons::OkCancel) != MsgAnswer::Ok;
+    };
+    draft.Unload = [&draft] { ++draft.Unloads; };
+    draft.CmdMuko = [&draft] { draft.cmdClose.Enabled = false; };
+    draft.CmdYuko = [&draft] { draft.cmdClose.Enabled = true; };
+    draft.cmdClose.Click = [&draft] { CloseView(draft, CloseReason::Code); };
+    ShowView(draft);
+    return draft;
+  }
+
+  std::vector<std::string> asked_about;
+};
+
+TEST_F(ViewInstancesTest, ThreeOfAKindAreServedEachForItself) {
+  OpenDraft();
+  DraftView& second = OpenDraft();
+  DraftView& third = OpenDraft();
+  frmMain.mnuWindowTileVertical.Press();
+  EXPECT_EQ(forms.arrangements.size(), 1u);
+  SetActiveView(&second);
+  frmMain.mnuFileSave.Press();
+  EXPECT_TRUE(second.Saved && !third.Saved) << "a command is the front view's";
+  EXPECT_FALSE(frmMain.mnuFileNew.Enabled) << "and what it cannot do is off";
+  {
+    const CommandsOff commands_off;
+    EXPECT_FALSE(second.cmdClose.Enabled || third.cmdClose.Enabled);
+  }
+  frmMain.mnuFileClose.Press();
+  EXPECT_EQ(ActiveView(), &third) << "the newest that is left comes to the front";
+  forms.answers = {MsgAnswer::Cancel, MsgAnswer::Ok};
+  third.cmdClose.Press();
+  EXPECT_TRUE(third.Visible);
+  third.cmdClose.Press();
+  EXPECT_EQ(asked_about, (std::vector<std::string>{"Draft 2", "Draft 3", "Draft 3"}));
+  pump.RunFor(1000);
+  EXPECT_EQ(living, 1);
+  EXPECT_EQ(ActiveView()->Caption, "Draft 1");
+}
+
+TEST_F(ViewInstancesTest, AViewOutlivesTheHandlerThatClosesIt) {
+  DraftView& draft = OpenDraft();
+  draft.Saved = true;
+  int living_inside = 0;
+  draft.cmdClose.Click = [this, &draft, &living_inside] {
+    CloseView(draft, CloseReason::Code);
+    pump.RunFor(100'000);
+    living_inside = living;
+    draft.Caption.clear();
+  };
+  draft.cmdClose.Press();
+  EXPECT_EQ(living_inside, 1);
+  pump.RunFor(1000);
+  EXPECT_EQ(living, 0);
+}
+
+TEST_F(ViewInstancesTest, TwentyCloseWithTheFrameOrNoneDoes) {
+  std::vector<DraftView*> drafts;
+  for (int i = 0; i < 20; ++i) drafts.push_back(&OpenDraft());
+  forms.answers = {MsgAnswer::Ok, MsgAnswer::Cancel};
+  EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu));
+  EXPECT_EQ(asked_about, (std::vector<std::string>{"Draft 1", "Draft 2"}));
+  EXPECT_TRUE(
+      std::all_of(drafts.begin(), drafts.end(), [](auto* draft) { return draft->Visible; }));
+  // One is closed by the question of another.
+  drafts[4]->QueryUnload = [&drafts](CloseReason) {
+    if (drafts[9]->Loaded) UnloadView(*drafts[9]);
+    return false;
+  };
+  forms.answers.assign(18, MsgAnswer::Ok);
+  EXPECT_TRUE(CloseView(frmMain, CloseReason::ControlMenu));
+  EXPECT_TRUE(forms.ended);
+  EXPECT_TRUE(
+      std::all_of(drafts.begin(), drafts.end(), [](auto* draft) { return draft->Unloads == 1; }));
+  EXPECT_TRUE(forms.answers.empty());
+  ResetState();
+  EXPECT_EQ(living, 0);
+}
+
+}  // namespace
+}  // namespace tr7
