@@ -82,6 +82,8 @@ struct FrmPosi : View {
   Bool16 ReadDone;
   Bool16 SaveCancelled;
   std::string OldCellText;
+  std::string
+      RoundedNote;  ///< what the last edit made of the typed text, until the next cell's hint
 };
 
 inline Standing<FrmPosi> frmPosi;

@@ -147,6 +147,12 @@ Result ApplyCellRule(int col, std::string_view typed, bool program_mode) {
   return length ? LengthRule(col, text, true) : std::nullopt;
 }
 
+bool RuleChanged(int col, std::string_view typed, std::string_view shown) {
+  if (col == kComment) return CharCount(Stripped(typed)) > CharCount(shown);
+  if (!AppState.CtMode) return Val(typed) != Val(shown);
+  return Val(SplitPosiText(Stripped(typed)).number) != Val(SplitPosiText(shown).number);
+}
+
 int SetDataForFlex(int row, int col, std::string& text) { return SetData(row, col, text, false); }
 
 int SetDataForFlexAtPrgMode(int row, int col, std::string& text) {

@@ -23,6 +23,10 @@ struct AcceptedCell {
 /// emptied, which the check then flags; a position may not.
 std::optional<AcceptedCell> ApplyCellRule(int col, std::string_view typed, bool program_mode);
 
+/// True when what a cell shows is not what was typed: a number rounded to what the cell can hold,
+/// or a comment cut.
+[[nodiscard]] bool RuleChanged(int col, std::string_view typed, std::string_view shown);
+
 // The rule of the mode for a cell of the grid. 0: accepted; `text` is then what the cell shows, and
 // a position also stands in `PosiPulse` and `PosiMm` at the index (row - 1). That mirror is exact
 // for a table that starts at 1; the check's commit writes the true slots. 1: refused.

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "posi/cell_rules.h"
@@ -24,6 +25,8 @@ namespace {
 constexpr int kMsgCellsRefused = 6359;
 constexpr int kMsgLinesBeyond = 6360;
 constexpr int kMsgPlace = 6361;
+constexpr int kMsgCommentsCut = 6462;
+constexpr int kMsgNumbersRounded = 6463;
 constexpr int kMsgOtherUnit = 6362;
 constexpr std::size_t kLineColumns = 28;
 constexpr std::size_t kMostRows = kPosiMaxNo + 1;  // one more is enough to know that some are left
@@ -63,7 +66,7 @@ std::string ClipText(const Block& block) {
     if (row > block.first_row) text += '\r';
     for (int col = block.first_col; col <= block.last_col; ++col) {
       if (col > block.first_col) text += '\t';
-      text += frmPosi.flgdData.Text(row, col);
+      text += Trim(frmPosi.flgdData.Text(row, col));
     }
   }
   return text;
@@ -71,22 +74,29 @@ std::string ClipText(const Block& block) {
 
 /// What became of a paste.
 struct Outcome {
+  /// Cells that share a fate, and the first of them.
+  struct Cells {
+    int count = 0, row = 0, col = 0;
+    void Add(int at_row, int at_col) {
+      if (count++ > 0) return;
+      row = at_row;
+      col = at_col;
+    }
+  };
   int accepted = 0;
-  int refused = 0;
-  int first_row = 0, first_col = 0;  ///< of the refused ones
+  Cells refused, cut, rounded;
   int lines_beyond = 0;
 };
 
 void PasteCell(int row, int col, std::string text, Outcome& outcome) {
   if (!IsOpenCell(row, col)) return;
-  if (SetCellData(row, col, text) == 0) {
-    frmPosi.flgdData.SetText(row, col, std::move(text));
-    ++outcome.accepted;
-    return;
+  const std::string pasted = text;
+  if (SetCellData(row, col, text) != 0) return outcome.refused.Add(row, col);
+  if (RuleChanged(col, pasted, text)) {
+    (col == kComment ? outcome.cut : outcome.rounded).Add(row, col);
   }
-  if (outcome.refused++ > 0) return;
-  outcome.first_row = row;
-  outcome.first_col = col;
+  frmPosi.flgdData.SetText(row, col, std::move(text));
+  ++outcome.accepted;
 }
 
 /// Pastes from a cell on; a matrix of one row fills `rows` of them.
@@ -106,17 +116,24 @@ Outcome PasteFrom(const ClipMatrix& matrix, int row, int col, int rows) {
   return outcome;
 }
 
-/// A refused cell costs a beep and keeps its text; the status panel says how many there were.
+/// "Cells ...: 3, the first at No. 2 VEL1. "; nothing where there are none.
+std::string CellsText(int message_id, const Outcome::Cells& cells) {
+  if (cells.count == 0) return {};
+  const std::string number = std::to_string(PositionOfRow(cells.row));
+  return Text(message_id, std::to_string(cells.count),
+              Text(kMsgPlace, number, PosiColumnName(cells.col)));
+}
+
+/// A refused cell costs a beep and keeps its text; the status panel says how many there were, and
+/// what does not stand as it was pasted.
 void Tell(const Outcome& outcome) {
   if (outcome.accepted > 0) frmPosi.PosiChanged = True;
-  std::string text;
-  if (outcome.refused > 0) {
+  std::string text = CellsText(kMsgCellsRefused, outcome.refused);
+  if (outcome.refused.count > 0) {
     doors.forms->Beep();
-    const std::string number = std::to_string(PositionOfRow(outcome.first_row));
-    text = Text(kMsgCellsRefused, std::to_string(outcome.refused),
-                Text(kMsgPlace, number, PosiColumnName(outcome.first_col))) +
-           RefusalText(outcome.first_col) + " ";
+    text += RefusalText(outcome.refused.col) + " ";
   }
+  text += CellsText(kMsgCommentsCut, outcome.cut) + CellsText(kMsgNumbersRounded, outcome.rounded);
   if (outcome.lines_beyond > 0) text += Text(kMsgLinesBeyond, std::to_string(outcome.lines_beyond));
   if (!text.empty()) TellInStatusPanel(text);
 }

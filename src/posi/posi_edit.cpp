@@ -34,6 +34,7 @@ int AcceptEdit(int row, int col, std::string& text) {
     return 0;
   }
   if (grid.RowSel != row || grid.ColSel != col) grid.SelectCell(row, col);
+  const std::string typed = text;
   if (SetCellData(row, col, text) != 0) {
     text = frmPosi.OldCellText;
     doors.forms->Beep();
@@ -41,6 +42,7 @@ int AcceptEdit(int row, int col, std::string& text) {
     return 1;
   }
   frmPosi.PosiChanged = True;
+  if (RuleChanged(col, typed, text)) TellRounded(typed, text);
   return 0;
 }
 

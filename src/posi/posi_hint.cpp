@@ -1,5 +1,7 @@
 #include "posi/posi_hint.h"
 
+#include <utility>
+
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
@@ -15,6 +17,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgCommentRefuses = 6357;
+constexpr int kMsgRounded = 6461;
 
 std::string Range(const std::string& low, const std::string& high, const std::string& unit) {
   return Text(5240) + low + Text(5241) + high + unit;
@@ -78,10 +81,16 @@ std::string RefusalText(int col) {
   return col == kComment ? Text(kMsgCommentRefuses) : PosiRangeText(col);
 }
 
+void TellRounded(const std::string& typed, const std::string& shown) {
+  frmPosi.RoundedNote = Text(kMsgRounded, Trim(typed), Trim(shown));
+  TellInStatusPanel(frmPosi.RoundedNote + PosiHint(frmPosi.flgdData.Col));
+}
+
 void PosiHintHyoji() {
   const Grid& grid = frmPosi.flgdData;
   const bool body = grid.Row >= kPosiHeaderRows && grid.Row < grid.Rows();
-  TellInStatusPanel(body ? PosiHint(grid.Col) : std::string());
+  const std::string note = std::exchange(frmPosi.RoundedNote, std::string());
+  TellInStatusPanel(note + (body ? PosiHint(grid.Col) : std::string()));
 }
 
 }  // namespace tr7

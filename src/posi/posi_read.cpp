@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "device/device_texts.h"
@@ -26,6 +27,8 @@
 
 namespace tr7 {
 namespace {
+
+constexpr int kMsgCommentsStay = 6464;
 
 /// Reads the range's lines; false on a failure, which the exchange has told.
 bool ReadLines() {
@@ -57,12 +60,40 @@ bool AskWhatToRead() {
   return MsgBox(Text(370), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
+/// True when a loaded position has a comment, and the one that has come in is another move.
+bool CommentsOther(std::size_t number) {
+  if (TextOf(PosiTable.PosiRec[kComment][number]).empty()) return false;
+  for (const int axis : {0, 1, 2, 3}) {
+    if (AppState.AxisMuko[static_cast<std::size_t>(axis)]) continue;
+    for (const int field : {kWay, kPosi}) {
+      const auto col = static_cast<std::size_t>(AxisBase(axis) + field);
+      const double held = ValueOf(PosiTable.PosiRec[col][number]);
+      if (held != ValueOf(PosiTable.PosiStage[col][number])) return true;
+    }
+  }
+  return false;
+}
+
+/// Comments that would stand beside other positions than they were written for are the user's to
+/// judge. The others stay unasked.
+bool AskWhetherCommentsStay() {
+  const int first = std::max(AppState.PosiFirstNo, AppState.PosiFromNo);
+  const int last = std::min(AppState.PosiLastNo, AppState.PosiToNo);
+  int others = 0;
+  for (int n = std::max(first, 1); n <= last; ++n) {
+    if (CommentsOther(static_cast<std::size_t>(n))) ++others;
+  }
+  return others == 0 || MsgBox(Text(kMsgCommentsStay, std::to_string(others)), MsgButtons::YesNo,
+                               MsgIcon::Question) != MsgAnswer::No;
+}
+
 /// Comments do not travel: those of the loaded positions stay in the PC.
 void KeepComments() {
   const auto column = static_cast<std::size_t>(kComment);
+  const bool stay = AskWhetherCommentsStay();
   for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
     const auto number = static_cast<std::size_t>(n);
-    const bool loaded = n >= AppState.PosiFirstNo && n <= AppState.PosiLastNo;
+    const bool loaded = stay && n >= AppState.PosiFirstNo && n <= AppState.PosiLastNo;
     PosiTable.PosiStage[column][number] =
         loaded ? PosiTable.PosiRec[column][number] : Variant(std::string());
   }

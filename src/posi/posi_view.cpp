@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "device/device_texts.h"
 #include "device/unit_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
@@ -66,6 +67,12 @@ void SetOnlineTabs() {
 void SelectionChanged() {
   PosiHintHyoji();
   EditCommandsBySelection();
+  const int axis = AxisOfColumn(frmPosi.flgdData.Col);
+  if (axis >= 0) {
+    PulseScaleHyojiAxis(axis);
+  } else {
+    PulseScaleHyoji();
+  }
 }
 
 }  // namespace

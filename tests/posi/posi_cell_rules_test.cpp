@@ -1,8 +1,11 @@
 // What each cell of the position grid takes, and what it shows then.
 
 #include "device/dev_setting.h"
+#include "forms/frm_main.h"
 #include "posi/cell_rules.h"
+#include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "state/text.h"
 #include "tests/support/posi_table_test.h"
 
 namespace tr7 {
@@ -163,6 +166,29 @@ TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
   Select(1, kVel, 3, kVel);
   EXPECT_EQ(Type(1, kVel, "50"), 0);
   EXPECT_EQ(frmPosi.flgdData.RowSel, frmPosi.flgdData.Row);
+}
+
+TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
+  const struct {
+    bool program_mode;
+    int col;
+    const char *typed, *note;
+  } rows[] = {{false, kAcc, "44", "\"44\" became \"40\".  "},
+              {false, kAcc, " 40 ", ""},
+              {false, kPosi, "12.3456", "\"12.3456\" became \"12.345\".  "},
+              {false, kPosi, "7.5", ""},
+              {true, kPosi, "+1", "\"+1\" became \"+0.998\".  "},
+              {true, kPosi, "n", ""},
+              {false, kComment, "go", ""}};
+  for (const auto& row : rows) {
+    ShowTable(1, 3, row.program_mode, true);
+    Type(1, row.col, row.typed);
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);  // as Enter does
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], row.note + Text(5242)) << row.typed;
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, kAxis2 + kPosi);
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError].substr(0, 5), "Input");
+  }
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelScale1].substr(0, 3), "<2>") << "of the cell's axis";
 }
 
 TEST_F(CellRules, AnEditorLeftAsItOpenedIsNoEdit) {

@@ -247,6 +247,13 @@ TEST_F(PosiClipboard, TheStatusPanelTellsWhatWasNotPasted) {
   Paste("\"to\tthe\"\r\n\"left, then up\"\r\n");
   EXPECT_EQ(Cell(1, kComment), "") << "a comment is one line of plain characters";
   EXPECT_EQ(Cell(2, kComment), "left, then up") << "a spreadsheet's quotes are not the text's";
+  Paste("five\rfour and twenty blackbirds");
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError],
+            "Comments cut to 20 characters: 1, the first at No. 2 COMMENT. ");
+  Select(3, kAcc, 3, kAcc);
+  Paste("44");
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError],
+            "Numbers rounded: 1, the first at No. 3 ACC1. ");
 }
 
 TEST_F(PosiClipboard, APositionOfAnotherUnitIsNotTakenForThisOne) {
@@ -259,6 +266,8 @@ TEST_F(PosiClipboard, APositionOfAnotherUnitIsNotTakenForThisOne) {
   Paste(pulses);
   EXPECT_TRUE(BoxShown(Text(6362)));
   EXPECT_EQ(Cell(1, kPosi), "   0.000");
+  Select(1, kPosi, 2, kPosi);
+  EXPECT_EQ(Copied(), "0.000\r0.000") << "without the blanks that align";
 }
 
 }  // namespace

@@ -200,7 +200,9 @@ TEST_F(OpenTest, WithoutLineFourEveryAxisIsOld) {
   frmPosi.cmdPosiNew.Press();
   EXPECT_EQ(frmPosi.lblAge1.Caption, "(New)");
   Open(own);
-  ReadRange(1, 2);
+  AnswerRange("frmSelectPosiNo2", 8, 9);
+  forms.answers = {MsgAnswer::Ok};
+  frmPosi.cmdPosiRead.Press();
   EXPECT_EQ(frmPosi.lblAge1.Caption, "(New)");
   port.sent.clear();
   own.devices[0] = "QV- 28H-200E";

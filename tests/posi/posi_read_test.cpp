@@ -110,6 +110,15 @@ TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
   EXPECT_EQ(Cell(4, kComment), "mine");
   EXPECT_EQ(Cell(5, kComment), "");
   EXPECT_EQ(Cell(6, kComment), "");
+  // Beside another position a comment stays only if the user wants it to.
+  for (const bool stays : {true, false}) {
+    PosiTable.PosiRec[kPosi][4] = 1.0;
+    AnswerRange("frmSelectPosiNo2", 2, 9);
+    forms.answers = {MsgAnswer::Ok, stays ? MsgAnswer::Yes : MsgAnswer::No};
+    frmPosi.cmdPosiRead.Press();
+    EXPECT_EQ(forms.LastBox(), Text(6464, "1"));
+    EXPECT_EQ(Cell(4, kComment), stays ? "mine" : "");
+  }
 }
 
 TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
