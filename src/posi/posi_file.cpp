@@ -3,15 +3,12 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <utility>
-#include <vector>
 
 #include "base/seq_file.h"
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
-#include "posi/posi_caption.h"
-#include "posi/posi_range.h"
+#include "posi/posi_file_words.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/file_kind.h"
@@ -22,18 +19,10 @@
 namespace tr7 {
 namespace {
 
-constexpr const char* kMagic = "QV-R7";
-constexpr const char* kPrgMode = "PRG MODE";
-constexpr const char* kPosMode = "POS MODE";
-constexpr const char* kNew = "NEW";
-constexpr const char* kOld = "OLD";
-constexpr int kHeaderLines = 4;
-
 constexpr int kMsgHeaderDamaged = 6451;
 constexpr int kMsgLineDamaged = 6452;
 constexpr int kMsgBadNumber = 6453;
 constexpr int kMsgNoRecords = 6454;
-constexpr int kMsgBadComment = 6455;
 
 /// Columns of the oldest layout in its order: it knows neither "PF" nor "PS".
 constexpr std::array<int, 20> kOldColumns{1,  2,  3,  4,  7,  8,  9,     10,   13,  14,
@@ -42,12 +31,6 @@ constexpr std::array<int, 20> kOldColumns{1,  2,  3,  4,  7,  8,  9,     10,   1
 Variant& Stage(int col, int number) {
   return PosiTable.PosiStage[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
 }
-
-const Variant& Field(int col, int number) {
-  return PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
-}
-
-// Reading.
 
 enum class Layout { Present, WithoutWords, Oldest };
 
@@ -87,10 +70,10 @@ Outcome Reading::ReadHeader() {
   std::string magic;
   words_ = Text(kMsgHeaderDamaged);
   if (!items_.ReadText(magic)) return Outcome::Damaged;
-  if (magic != kMagic) return Outcome::NotOurs;
-  std::string mode = kPosMode;
+  if (magic != kPosiMagic) return Outcome::NotOurs;
+  std::string mode = kPosiPosMode;
   if (layout_ != Layout::Oldest && !items_.ReadText(mode)) return Outcome::Damaged;
-  AppState.FileIsPrgMode = mode == kPrgMode;
+  AppState.FileIsPrgMode = mode == kPosiPrgMode;
   for (std::string& device : FileDevice) {
     if (!items_.ReadText(device)) return Outcome::Damaged;
   }
@@ -184,63 +167,6 @@ int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
   return 1;
 }
 
-// Writing.
-
-std::string DeviceCaption(int axis) {
-  return frmPosi.lblDeviceType[static_cast<std::size_t>(axis)]->Caption;
-}
-
-const char* AgeWord(int axis) {
-  const auto index = static_cast<std::size_t>(axis);
-  if (DeviceCaption(axis).empty() || AppState.AxisMuko[index]) return kNew;
-  return DevSetting[index].NewType ? kNew : kOld;
-}
-
-void WriteHeader(SeqWriter& file) {
-  file.Text(kMagic);
-  file.EndLine();
-  file.Text(AppState.CtMode ? kPrgMode : kPosMode);
-  file.EndLine();
-  for (int axis = 0; axis < kAxes; ++axis) file.Text(DeviceCaption(axis));
-  file.EndLine();
-  for (int axis = 0; axis < kAxes; ++axis) file.Text(AgeWord(axis));
-  file.EndLine();
-}
-
-/// Column 5 alone is written as it is held, bare when it is a number: the format has it so.
-void WriteRecord(SeqWriter& file, int number) {
-  constexpr int kAsHeld = 5;
-  file.Number(number);
-  for (int col = 1; col < kPosiColumns; ++col) {
-    const Variant& field = Field(col, number);
-    if (col == kAsHeld) {
-      file.Item(field);
-    } else if (col == kComment) {
-      file.Text(TextOf(field));
-    } else {
-      file.Text(Str(ValueOf(field)));
-    }
-  }
-  file.EndLine();
-}
-
-std::vector<int> WrittenNumbers() {
-  std::vector<int> numbers;
-  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
-    if (n < 1 || n > kPosiMaxNo) continue;
-    if (!PosiTable.PosiLineBad[static_cast<std::size_t>(n)]) numbers.push_back(n);
-  }
-  return numbers;
-}
-
-/// A line of the file means nothing to the user; its position number does.
-std::string SaveWords(const TextFileResult& saved, const std::vector<int>& numbers) {
-  const int record = saved.bad_line - kHeaderLines - 1;
-  if (record < 0 || record >= static_cast<int>(numbers.size())) return saved.words;
-  return Text(kMsgBadComment, std::to_string(numbers[static_cast<std::size_t>(record)]),
-              saved.bad_character);
-}
-
 }  // namespace
 
 int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble) {
@@ -275,22 +201,6 @@ void ShowFileAges() {
     frmPosi.lblAge[axis]->Caption =
         AppState.AxisMuko[axis] ? std::string() : Text(is_new ? 126 : 127);
   }
-}
-
-int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
-  const std::vector<int> numbers = WrittenNumbers();
-  SeqWriter file;
-  WriteHeader(file);
-  for (const int number : numbers) WriteRecord(file, number);
-  const TextFileResult saved = SaveTextFile(path, file.Result());
-  if (!saved.ok) {
-    trouble = {saved.fault != FileFault::None, SaveWords(saved, numbers)};
-    return 1;
-  }
-  SetPosiTableFile(path);
-  // What lies outside a narrowed range is in no file yet.
-  if (RangeIsWholeTable()) frmPosi.PosiChanged = False;
-  return 0;
 }
 
 }  // namespace tr7

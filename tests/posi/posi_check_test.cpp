@@ -21,7 +21,6 @@ class PosiCheck : public PosiTableTest {
   PosiCheck() {
     forms.on_modal["frmSyogoKekka"] = [this](View&) {
       const Grid& grid = frmSyogoKekka.flgdKekka;
-      caption = frmSyogoKekka.Caption;
       lines.clear();
       for (int row = grid.FixedRows; row < grid.Rows(); ++row) {
         lines += grid.Text(row, 0) + ":";
@@ -34,29 +33,19 @@ class PosiCheck : public PosiTableTest {
     };
   }
   std::string lines;  ///< of the result view: number, flagged columns
-  std::string caption;
 };
 
-TEST_F(PosiCheck, EveryRangeOfEveryColumn) {
+TEST_F(PosiCheck, ABadCellOfAnyColumnIsFlagged) {
   const struct {
     int col;
     const char* text;
     bool good;
-  } rows[] = {{kVel, "1", true},           {kVel, "75", true},
-              {kVel, "0", false},          {kVel, "76", false},
-              {kAcc, "10", true},          {kAcc, "2000", true},
-              {kAcc, "4", false},          {kAcc, "2010", false},
-              {kWay, "3", true},           {kWay, "4", false},
-              {kPosi, "13334", true},      {kPosi, "13335", false},
-              {kPosi, "-1", false},        {kPf, "0", true},
-              {kPf, "20", true},           {kPf, "19", false},
-              {kPf, "71", false},          {kPs, "99", true},
-              {kPs, "100", false},         {kItpl, "2", false},
-              {kOut, "15", true},          {kOut, "16", false},
-              {kSm, "20", true},           {kSm, "21", false},
-              {kVel, "", false},           {kPosi, " ", false},
-              {kItpl, "", false},          {kComment, "", true},
-              {kAxis4 + kPs, "100", false}};
+  } rows[] = {{kVel, "76", false},    {kVel, "", false},           {kAcc, "2000", true},
+              {kAcc, "4", false},     {kAcc, "2010", false},       {kWay, "4", false},
+              {kPosi, "13334", true}, {kPosi, "13335", false},     {kPosi, "-1", false},
+              {kPosi, " ", false},    {kPf, "19", false},          {kPs, "100", false},
+              {kItpl, "2", false},    {kOut, "16", false},         {kSm, "21", false},
+              {kComment, "", true},   {kAxis4 + kPs, "100", false}};
   for (const auto& row : rows) {
     ShowTable(1, 3);
     Put(2, row.col, row.text);
@@ -64,10 +53,8 @@ TEST_F(PosiCheck, EveryRangeOfEveryColumn) {
     EXPECT_EQ(PosiDataCheck3(), row.good ? 0 : 1) << row.col << " \"" << row.text << "\"";
     EXPECT_EQ(bool(PosiTable.PosiLineBad[2]), !row.good) << row.col << " \"" << row.text << "\"";
     EXPECT_EQ(lines, row.good ? "" : "2: " + std::to_string(row.col) + ";") << row.col;
-    EXPECT_TRUE(frmPosi.flgdData.Enabled);
-    EXPECT_TRUE(frmPosi.flgdData.Redraw);
+    EXPECT_TRUE(frmPosi.flgdData.Enabled && frmPosi.flgdData.Redraw);
   }
-  EXPECT_EQ(caption, Text(2302));
 }
 
 TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {

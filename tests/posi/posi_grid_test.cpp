@@ -52,33 +52,20 @@ class PosiGrid : public PosiTableTest {
   }
 };
 
-TEST_F(PosiGrid, WidthsTitlesAndColoursByModeAndAxes) {
-  const std::array<int, 6> axis{500, 500, 500, 1000, 600, 700};
+TEST_F(PosiGrid, ColumnsOnShowByModeAndAxes) {
   const Grid& grid = frmPosi.flgdData;
   for (const bool program_mode : {false, true}) {
     for (const bool mm : {false, true}) {
       AppState.AxisMuko[2] = True;
       ShowTable(1, 2, program_mode, mm);
-      const std::string unit = mm ? "(mm)" : "(pls)";
-      EXPECT_EQ(grid.ColWidth(0), 400);
-      EXPECT_EQ(grid.RowHeight(0), 300);
-      EXPECT_EQ(grid.RowHeight(1), 500);
-      for (int col = 1; col <= 24; ++col) {
-        const int field = FieldOfColumn(col);
-        const bool shown = AxisOfColumn(col) != 2 && (!program_mode || field == kPosi);
-        EXPECT_EQ(grid.ColWidth(col), shown ? axis[static_cast<std::size_t>(field - 1)] : 0) << col;
-        EXPECT_EQ(grid.ColColour(col), AxisOfColumn(col) == 2       ? 0xe0e0e0
-                                       : AxisOfColumn(col) % 2 == 1 ? 0xffffc0
-                                                                    : kWindowColour)
-            << col;
-        EXPECT_EQ(grid.Text(0, col), "AXIS" + std::to_string(AxisOfColumn(col) + 1));
+      for (int col = 1; col <= kComment; ++col) {
+        const int axis = AxisOfColumn(col);
+        const bool position = axis >= 0 && FieldOfColumn(col) == kPosi;
+        const bool shown = axis != 2 && (!program_mode || position || col == kComment);
+        EXPECT_EQ(grid.ColWidth(col) != 0, shown) << col;
+        EXPECT_EQ(grid.ColColour(col) == 0xe0e0e0, axis == 2) << col;
       }
-      for (int col = kItpl; col <= kSm; ++col)
-        EXPECT_EQ(grid.ColWidth(col), program_mode ? 0 : 500);
-      EXPECT_EQ(grid.ColWidth(kComment), -1) << "the width that is left";
-      EXPECT_EQ(grid.Text(1, 0) + grid.Text(1, kVel) + grid.Text(1, kAxis2 + kPs), "No.VELPS");
-      EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), "Posi2" + unit);
-      EXPECT_EQ(grid.Text(0, kComment) + grid.Text(1, kComment), "CommonCOMMENT");
+      EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), mm ? "Posi2(mm)" : "Posi2(pls)");
     }
   }
 }
@@ -130,38 +117,28 @@ TEST_F(PosiGrid, WhatAFileHoldsBeyondAllRangesIsShownAndHarmsNothing) {
 TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
   const struct {
     int col;
-    const char *pos_pulses, *pos_mm, *prg_pulses, *prg_mm;  ///< null: as the one before
-  } rows[] = {
-      {0, "", nullptr, nullptr, nullptr},
-      {kVel, "Input Range : 1 to 75(mm/sec)", nullptr, "", nullptr},
-      {kAcc, "Input Range : 10 to 2000(msec)", nullptr, "", nullptr},
-      {kWay, "Input Range : 0 to 3(0:No Move / 1:ABS Move / 2:+INC Move / 3:-INC Move)", nullptr,
-       "", nullptr},
-      {kPosi, "Input Range : 0 to 13334(pls)", "Input Range : 0.000 to  100.005(mm)",
-       "Input Range : 0 to 13334(PLS) / N:No Move / ±:INC Move / other:ABS Move",
-       "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
-      {kPf, "Input Range : 0 , 20 to 70(%)", nullptr, "", nullptr},
-      {kPs, "Input Range : 0 to 99(%)", nullptr, "", nullptr},
-      {kAxis2 + kVel, "Input Range : 1 to 400(mm/sec)", nullptr, "", nullptr},
-      {kAxis3 + kVel, "", nullptr, nullptr, nullptr},  // not in use
-      {kItpl, "Input Range : 0 to 1(0:Interpolation Disable / 1:Interpolation Enable)", nullptr, "",
-       nullptr},
-      {kOut, "Input Range : 0 to 15(Output to OUT1 - OUT4 with 4bit)", nullptr, "", nullptr},
-      {kSm, "Input Range : 0 , 1 to 200:No SM / 1to20:Executed SM No.", nullptr, "", nullptr},
-      {kComment, "It is possible to input it up to 20 characters.", nullptr, nullptr, nullptr},
-  };
+    bool program_mode, mm;
+    const char* hint;
+  } rows[] = {{0, false, false, ""},
+              {kVel, false, false, "Input Range : 1 to 75(mm/sec)"},
+              {kVel, true, false, ""},
+              {kPosi, false, false, "Input Range : 0 to 13334(pls)"},
+              {kPosi, false, true, "Input Range : 0.000 to  100.005(mm)"},
+              {kPosi, true, false,
+               "Input Range : 0 to 13334(PLS) / N:No Move / ±:INC Move / other:ABS Move"},
+              {kPosi, true, true,
+               "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
+              {kAxis2 + kVel, false, false, "Input Range : 1 to 400(mm/sec)"},
+              {kAxis3 + kVel, false, false, ""},  // not in use
+              {kSm, false, false, "Input Range : 0 , 1 to 200:No SM / 1to20:Executed SM No."},
+              {kSm, true, false, ""},
+              {kComment, true, false, "It is possible to input it up to 20 characters."}};
   DevSetting[1].Speed = "D";
   DevSetting[1].Size = " 42";
   AppState.AxisMuko[2] = True;
   for (const auto& row : rows) {
-    const char* expected = "";
-    const std::array<const char*, 4> columns{row.pos_pulses, row.pos_mm, row.prg_pulses,
-                                             row.prg_mm};
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      if (columns[i]) expected = columns[i];
-      ShowTable(1, 2, i >= 2, i % 2 == 1);
-      EXPECT_EQ(Hint(row.col), expected) << "column " << row.col << ", case " << i;
-    }
+    ShowTable(1, 2, row.program_mode, row.mm);
+    EXPECT_EQ(Hint(row.col), row.hint) << "column " << row.col;
   }
   FG_InitPos();
   EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], "") << "no cell is the current one";
@@ -170,48 +147,24 @@ TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
   EXPECT_EQ(Hint(kComment), "an alarm") << "it stays readable";
 }
 
-TEST_F(PosiGrid, TheInputMethodComesOnForTheCommentAlone) {
-  for (int col = 0; col < kPosiColumns; ++col) {
-    EXPECT_EQ(frmPosi.flgdData.InputMethodOn(col), col == kComment);
-    EXPECT_EQ(frmPosi.flgdData.MaxLength(col), col == kComment ? 20 : 0);
-  }
-}
-
-TEST_F(PosiGrid, CaptionsNameTheTable) {
-  const struct {
-    std::string name, caption;
-  } rows[] = {{Text(213), "Position Data-[New Data]"},
-              {Text(374), "Position Data-[Inside of C/T]"},
-              {"/home/me/job.v2", "Position Data-[job.v2]"}};
-  for (const auto& row : rows) {
-    SetPosiTableName(row.name);
-    EXPECT_EQ(frmPosi.Caption, row.caption);
-  }
-  SetPosiTableFile("/home/me/job.QVD");
-  EXPECT_EQ(frmPosi.Caption, "Position Data-[job]");
-  EXPECT_EQ(PosiTablePath(), "/home/me/job.QVD") << "it is saved where it came from";
-}
-
 // New data.
 
 class PosiNew : public PosiGrid {
  protected:
-  void New(const std::string& from, const std::string& to, const std::string& after_from = "") {
-    proposed.clear();
+  /// Types the ranges one after the other until one is taken; Cancel behind the last one.
+  void New(const std::vector<std::array<std::string, 2>>& ranges) {
     forms.boxes.clear();
-    forms.on_modal["frmSelectPosiNo3"] = [=, this](View& view) {
+    forms.on_modal["frmSelectPosiNo3"] = [this, ranges](View& view) {
       auto& range = static_cast<SelectPosiNoView&>(view);
       proposed = range.txtFromNo.Text + "-" + range.txtToNo.Text;
-      range.txtFromNo.Type(from);
-      range.txtToNo.Type(to);
-      range.cmdOk.Press();
-      if (!range.Visible) return;
-      if (!after_from.empty()) {
-        range.txtFromNo.Type(after_from);
+      for (const auto& [from, to] : ranges) {
+        range.txtFromNo.Type(from);
+        range.txtToNo.Type(to);
         range.cmdOk.Press();
-      } else {
-        range.cmdCancel.Press();
+        if (!range.Visible) return;
+        EXPECT_EQ(forms.LastBox(), Text(1610)) << from << "-" << to;
       }
+      range.cmdCancel.Press();
     };
     frmMain.mnuFileNew.Click();
     EXPECT_FALSE(AppState.RangeIsForNew);
@@ -229,47 +182,33 @@ TEST_F(PosiNew, ARangeOfDefaultsReplacesTheTable) {
   DevSetting[0].Size = " 42";
   ShowTable(3, 4);
   Store(4);
-  New("1", "999");
+  New({{"1", "999"}});
   EXPECT_EQ(proposed, "1-15");
   EXPECT_EQ(Range(), "1-999/999/999");
   EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
   EXPECT_EQ(Cell(4, kVel) + " " + Cell(4, kAcc) + " " + Cell(4, kAxis2 + kAcc), "30 200 100");
   EXPECT_EQ(Cell(999, kComment) + Cell(999, kWay) + Cell(999, kPosi), "00");
   EXPECT_FALSE(frmPosi.PosiChanged);
-  New("7", "7");
+  New({{"7", "7"}});
   EXPECT_EQ(Range(), "7-7/1/1");
 }
 
 TEST_F(PosiNew, ARangeThatIsNoneKeepsTheDialogueOpen) {
   ShowTable(3, 4);
-  const struct { const char *from, *to; } rows[] = {{"5", "4"}, {"0", "9"}, {"", "9"}, {"", ""}};
-  for (const auto& row : rows) {
-    New(row.from, row.to);
-    EXPECT_EQ(forms.LastBox(), Text(1610)) << row.from << "-" << row.to;
-    EXPECT_EQ(Range(), "3-4/2/2") << "cancelled then: the earlier table stays";
-  }
-  New("5", "4", "2");
-  EXPECT_EQ(Range(), "2-4/3/3");
-  forms.on_modal["frmSelectPosiNo3"] = [](View& view) {
-    auto& range = static_cast<SelectPosiNoView&>(view);
-    range.txtFromNo.Type("1a2");
-    EXPECT_EQ(range.txtFromNo.Text, "12") << "digits alone";
-    EXPECT_EQ(range.txtFromNo.MaxLength, 3);
-    range.txtFromNo.Enter();
-    range.cmdCancel.Press();
-  };
-  frmMain.mnuFileNew.Click();
-  EXPECT_EQ(Range(), "2-4/3/3");
+  New({{"5", "4"}, {"0", "9"}, {"", "9"}, {"", ""}});
+  EXPECT_EQ(Range(), "3-4/2/2") << "cancelled then: the earlier table stays";
+  New({{"5", "4"}, {"2a", "4"}});
+  EXPECT_EQ(Range(), "2-4/3/3") << "digits alone";
 }
 
 TEST_F(PosiNew, UnsavedDataIsAskedAbout) {
   ShowTable(3, 4);
   Type(3, kVel, "31");
   forms.answers = {MsgAnswer::Cancel, MsgAnswer::No};
-  New("1", "2");
+  New({{"1", "2"}});
   EXPECT_EQ(Range(), "3-4/2/2");
   EXPECT_EQ(forms.LastBox(), Text(5243));
-  New("1", "2");
+  New({{"1", "2"}});
   EXPECT_EQ(Range(), "1-2/2/2");
 }
 
@@ -434,16 +373,8 @@ TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
   EXPECT_TRUE(frmMain.mnuFileSave.Enabled && frmMain.mnuFileSaveAs.Enabled);
 }
 
-TEST_F(PosiGrid, LeavingAsksAboutUnsavedDataAndTeaching) {
+TEST_F(PosiGrid, TeachingRefusesLeaving) {
   ShowTable(1, 2);
-  EXPECT_FALSE(frmPosi.QueryUnload(CloseReason::Code));
-  frmPosi.PosiChanged = True;
-  forms.answers = {MsgAnswer::No, MsgAnswer::Cancel};
-  EXPECT_FALSE(frmPosi.QueryUnload(CloseReason::Code));
-  EXPECT_EQ(forms.boxes.back().Title, Text(390));
-  EXPECT_EQ(forms.LastBox(), Text(391));
-  EXPECT_TRUE(frmPosi.QueryUnload(CloseReason::Code));
-  frmPosi.PosiChanged = False;
   AppState.TeachingNow = True;
   EXPECT_TRUE(frmPosi.QueryUnload(CloseReason::Code));
   EXPECT_EQ(forms.LastBox(), Text(60) + "\n" + Text(61));

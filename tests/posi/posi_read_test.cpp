@@ -154,16 +154,6 @@ TEST_F(ReadTest, PromptsMayStopTheFlow) {
     static_cast<SelectPosiNoView&>(view).cmdCancel.Press();
   };
   frmPosi.cmdPosiRead.Press();
-  // A range that is none, then cancelled.
-  forms.on_modal["frmSelectPosiNo2"] = [this](View& view) {
-    for (auto [first, last] : {std::pair{9, 3}, {0, 5}}) {
-      FillRange(static_cast<SelectPosiNoView&>(view), first, last);
-      EXPECT_TRUE(view.Visible);
-      EXPECT_EQ(forms.LastBox(), Text(1610));
-    }
-    static_cast<SelectPosiNoView&>(view).cmdCancel.Press();
-  };
-  frmPosi.cmdPosiRead.Press();
   // The confirmation refused.
   AnswerRange("frmSelectPosiNo2", 1, 3);
   forms.answers = {MsgAnswer::Cancel};

@@ -211,14 +211,6 @@ TEST_F(WriteTest, AFailedStepTellsAndEnds) {
   }
 }
 
-TEST_F(WriteTest, AWrongEchoIsToldInOneBox) {
-  ReadAndEdit();
-  Spoil(FaultKind::kChangedByte, "0WP", 1, 5);
-  Write(2, 4);
-  EXPECT_EQ(forms.LastBox(), "Communication error occurs!\ntransmit data is wrong");
-  EXPECT_EQ(port.sent.find("0WP003"), std::string::npos);
-}
-
 TEST_F(WriteTest, AReleaseThatFailsIsToldBeforeTheEnd) {
   ReadAndEdit();
   Spoil(FaultKind::kErrorReply, "0CM00", 1);
