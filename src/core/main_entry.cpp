@@ -29,11 +29,6 @@ namespace {
 
 constexpr const char* kHelpFile = "qvtr7hlp.chm";
 
-std::string VersionText() {
-  return std::to_string(TR7_VERSION_MAJOR) + "." + std::to_string(TR7_VERSION_MINOR) +
-         std::to_string(TR7_VERSION_REVISION);
-}
-
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
 }
@@ -105,6 +100,11 @@ void ChooseModeOffline() {
 }
 
 }  // namespace
+
+std::string VersionText() {
+  return std::to_string(TR7_VERSION_MAJOR) + "." + std::to_string(TR7_VERSION_MINOR) +
+         std::to_string(TR7_VERSION_REVISION);
+}
 
 void StartOnlineOfflineChoice() {
   CTM_MukoSyori();

@@ -37,6 +37,20 @@ class WindowTest : public UiTest {
   QWidget& Frame() const { return WindowOf(frmMain.lblStatus); }
 };
 
+TEST(FirstStart, SpeaksTheLocalesLanguageUntilAnotherIsChosen) {
+  const QTemporaryDir folder;
+  const std::pair<const char*, const char*> starts[] = {
+      {"ja_JP", "1"}, {"en_GB", "2"}, {"de_DE", "2"}, {"C", "2"}};
+  for (const auto& [locale, language] : starts) {
+    const QString file = folder.filePath(locale);
+    EXPECT_EQ(Desktop({file, false, QLocale(locale)}).settings.Get("Settings", "Language", ""),
+              language);
+    EXPECT_EQ(Desktop({file, true, QLocale("ja_JP")}).settings.Get("Settings", "Language", ""),
+              language)
+        << "the stored one wins";
+  }
+}
+
 // The frame.
 
 TEST_F(WindowTest, ClosingTheWindowEndsTheTool) {
