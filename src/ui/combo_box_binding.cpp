@@ -22,6 +22,10 @@ void ComboBoxBinding::Push() {
 }
 
 bool ComboBoxBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel) {
+    event->ignore();  // so that it scrolls what the list stands on
+    return true;
+  }
   const bool done = QObject::eventFilter(watched, event);
   if (!FocusMoves(*event, QEvent::FocusOut) || !record_.LostFocus) return done;
   if (!pushing_) {

@@ -13,6 +13,7 @@
 #include <QToolBar>
 
 #include "core/views.h"
+#include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
@@ -154,6 +155,21 @@ TEST_F(BindingTest, AComboBoxGoesBothWays) {
   QTest::keyClick(&combo, Qt::Key_Up);
   Settle();
   EXPECT_EQ(combo.currentIndex(), 0);
+}
+
+TEST_F(BindingTest, TheWheelChoosesNothingAndScrollsWhatIsAround) {
+  ComboBox& record = frmDevice2.comboAxisSelect;
+  for (const char* entry : {"one", "two"}) record.AddItem(entry, 0);
+  record.ListIndex = 0;
+  auto& combo = Draw<QComboBox>(record);
+  for (const bool focused : {false, true}) {
+    focused ? combo.setFocus() : combo.clearFocus();
+    QWheelEvent turn({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&combo, &turn);
+    EXPECT_EQ(record.ListIndex, 0);
+    EXPECT_FALSE(turn.isAccepted());
+  }
 }
 
 TEST_F(BindingTest, ATabStripGoesBothWaysAndKeepsOffTabsThatAreOff) {
