@@ -126,6 +126,10 @@ TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
     EXPECT_EQ(Current(), At(kFirst, kVel));
     EXPECT_EQ(Cell(kFirst, kVel), old);
     EXPECT_FALSE(Hint().empty());
+    EXPECT_TRUE(table->Refusal().contains("99999") && table->Refusal().contains("50"))
+        << Of(table->Refusal());
+    Keys("9");
+    EXPECT_FALSE(table->Refusal().isEmpty()) << "until the value is taken";
   }
   // Neither the mouse nor a command gets past it.
   Keys("99999");
