@@ -28,6 +28,7 @@ namespace tr7 {
 namespace {
 
 constexpr const char* kHelpFile = "qvtr7hlp.chm";
+constexpr int kMsgBusy = 5941;
 
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
@@ -79,7 +80,12 @@ bool QueryUnloadFrame(CloseReason reason) {
     MsgBox(TwoLines(60, 61));
     return true;
   }
-  if (reason == CloseReason::ControlMenu && AppState.ComBusy) return true;
+  if (reason == CloseReason::ControlMenu && AppState.ComBusy) {
+    // In words that stop nothing: the transfer goes on. An alarm stays readable.
+    if (!AppState.AlarmOn) frmMain.sbStatusBar.Panels[kPanelError] = Text(kMsgBusy);
+    doors.forms->Beep();
+    return true;
+  }
   // The views inside the frame are asked here too, while all of them can still stay: later on
   // nothing stops the close.
   for (View* view : OpenViews()) {

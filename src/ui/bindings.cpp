@@ -8,9 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <vector>
 
@@ -85,8 +87,13 @@ class CommandButtonBinding : public ButtonBinding {
     button.setAutoDefault(true);
     button.setDefault(record.Default);
     QObject::connect(&button, &QPushButton::clicked, &button, [&record, gate] {
-      if (gate()) record.Press();
+      // Cancel takes nothing, so an edit that is refused does not hold it up.
+      if (record.Cancel || gate()) record.Press();
     });
+    // In a dialogue the window has the key; in the frame it goes wherever the focus is.
+    if (!record.Cancel || !qobject_cast<QMainWindow*>(button.window())) return;
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &button);
+    QObject::connect(escape, &QShortcut::activated, &button, [&button] { button.click(); });
   }
 };
 

@@ -60,12 +60,13 @@ TEST_F(WindowTest, ClosingTheWindowEndsTheTool) {
   EXPECT_TRUE(user.boxes.empty());
 }
 
-TEST_F(WindowTest, ClosingTheWindowWhileBusyDoesNothing) {
+TEST_F(WindowTest, ClosingTheWindowWhileBusySaysWhyNot) {
   StartOffline();
   AppState.ComBusy = True;
   Frame().close();
   EXPECT_FALSE(desktop.forms.Ended());
   EXPECT_TRUE(user.boxes.empty());
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5941));
   EXPECT_TRUE(Frame().isVisible());
   frmMain.mnuFileExit.Press();
   EXPECT_TRUE(desktop.forms.Ended()) << "the menu's way goes on";
@@ -127,6 +128,20 @@ TEST_F(WindowTest, AChildThatFillsTheFrameLeavesTheTitleAlone) {
   WaitMs(300);
   EXPECT_LE(desktop.pump.sleeps - sleeps, 8u) << "an idle screen draws nothing";
   EXPECT_EQ(Frame().windowTitle(), title);
+}
+
+TEST_F(WindowTest, EscapeIsCancelWhileThatIsShown) {
+  StartOffline();
+  int cancels = 0;
+  frmMain.cmdComCancel.Click = [&cancels] { ++cancels; };
+  Frame().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Frame()));
+  for (const bool shown : {false, true}) {
+    frmMain.cmdComCancel.Visible = frmMain.cmdComCancel.Enabled = shown;
+    Settle();
+    QTest::keyClick(Frame().windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(Until([&cancels] { return cancels > 0; }, shown ? 1000 : 50), shown);
+  }
 }
 
 // Dialogues.
