@@ -179,13 +179,14 @@ class ProgressBarBinding : public WidgetBinding {
 
 class TabStripBinding : public QObject, public WidgetBinding {
  public:
-  TabStripBinding(TabStrip& record, QTabBar& bar)
+  TabStripBinding(TabStrip& record, QTabBar& bar, const CommandGate& gate)
       : WidgetBinding(record, bar), record_(record), bar_(bar) {
     while (bar.count() < static_cast<int>(record.Tabs.size())) bar.addTab(QString());
     bar.setDrawBase(true);
     bar.setExpanding(false);
-    QObject::connect(&bar, &QTabBar::currentChanged, this, [this](int index) {
+    QObject::connect(&bar, &QTabBar::currentChanged, this, [this, gate](int index) {
       if (pushing_ || record_.Selected == index) return;
+      if (!gate()) return Push();
       record_.Selected = index;
       if (record_.Click) record_.Click();
     });
@@ -238,7 +239,7 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
                                                          GroupOf(control, target, groups));
     return made;
   }
-  Tie<Label, QLabel, LabelBinding>(made, control, target) ||
+  Tie<Label, QLabel, LabelBinding>(made, control, target, gate) ||
       Tie<Image, Lamp, LampBinding>(made, control, target) ||
       Tie<Frame, QWidget, FrameBinding>(made, control, target) ||
       Tie<CommandButton, QPushButton, CommandButtonBinding>(made, control, target, gate) ||
@@ -247,7 +248,7 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
       Tie<ComboBox, QComboBox, ComboBoxBinding>(made, control, target) ||
       Tie<ListBox, QListWidget, ListBoxBinding>(made, control, target) ||
       Tie<ProgressBar, QProgressBar, ProgressBarBinding>(made, control, target) ||
-      Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target) ||
+      Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target, gate) ||
       Tie<Grid, GridTable, GridBinding>(made, control, target) ||
       Tie<Toolbar, QToolBar, ToolbarBinding>(made, control, target, gate) ||
       Tie<StatusBar, QStatusBar, StatusBarBinding>(made, control, target);

@@ -66,7 +66,7 @@ QWidget* QtFormHost::ParentForDialogs() const {
 
 QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QWidget*& inner) {
   if (form.root == FormRoot::MainWindow) {
-    frame_ = new FrameWindow(view);
+    frame_ = new FrameWindow(view, [this] { return MayCommand(); });
     return inner = frame_;
   }
   if (view.MdiChild) {
@@ -79,7 +79,7 @@ QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QW
       layout->addWidget(inner);
       return dialog;
     }
-    auto* child = new ChildWindow(view);
+    auto* child = new ChildWindow(view, [this] { return MayCommand(); });
     child->setWidget(inner);
     return child;
   }
@@ -307,11 +307,16 @@ void QtFormHost::Refresh() {
 
 // Asking.
 
-/// An open edit is finished before a command runs, and a refused one stops it.
+/// An open edit is finished before a command runs. A refused one stops it and comes to the front,
+/// where the bubble at the cell tells why; behind a dialogue nobody could mend it.
 bool QtFormHost::MayCommand() {
+  const QWidget* modal = QApplication::activeModalWidget();
   for (const auto& [view, shown] : shown_) {
     for (GridTable* grid : shown.bound->Grids()) {
-      if (!grid->FinishEdit()) return false;
+      if ((modal && grid->window() != modal) || grid->FinishEdit()) continue;
+      if (grid->Editor()) grid->Editor()->setFocus(Qt::OtherFocusReason);
+      BringToFront(shown.bound->Record());
+      return false;
     }
   }
   return true;

@@ -32,8 +32,9 @@ bool HasDefaultButton(const View& view) {
 }
 
 /// The user asks to close a view. The window stays until the record's close takes it away.
-void AskToClose(View& view, QCloseEvent& event) {
+void AskToClose(View& view, QCloseEvent& event, const CommandGate& gate) {
   event.ignore();
+  if (!gate()) return;
   if (view.RefuseClose) {
     doors.forms->Beep();
   } else if (view.Visible) {
@@ -65,7 +66,7 @@ void FrameWindow::KeepRectangle() {
   view_.Height = Twips(place.height());
 }
 
-void FrameWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+void FrameWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event, gate_); }
 
 void FrameWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
@@ -82,7 +83,7 @@ void FrameWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange) view_.Minimised = isMinimized();
 }
 
-void ChildWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+void ChildWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event, gate_); }
 
 DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_(view) {
   Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
@@ -90,7 +91,9 @@ DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_
   setWindowFlags(flags);
 }
 
-void DialogWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+void DialogWindow::closeEvent(QCloseEvent* event) {
+  AskToClose(view_, *event, [] { return true; });
+}
 
 /// A key that the control with the focus has left alone.
 void DialogWindow::keyPressEvent(QKeyEvent* event) {

@@ -144,6 +144,26 @@ TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
   insert->click();
   EXPECT_EQ(grid.Rows(), kFirst + 16) << "a good edit is taken first, then the command runs";
   EXPECT_EQ(Cell(kFirst + 1, kVel), "31");
+  EXPECT_TRUE(table->Refusal().isEmpty());
+}
+
+TEST_F(GridTest, ClosingTakesAnOpenEditOrStaysForARefusedOne) {
+  user.on_box = [](const std::string&) { return MsgAnswer::Cancel; };
+  Keys("99999");
+  table->window()->close();
+  EXPECT_TRUE(user.boxes.empty()) << "nothing else is asked before";
+  EXPECT_TRUE(table->IsEditing());
+  EXPECT_FALSE(table->Refusal().isEmpty());
+  Keys("37");
+  table->window()->close();
+  EXPECT_EQ(user.boxes, std::vector{Text(391)});
+  EXPECT_EQ(Cell(kFirst, kVel), "37");
+  // A double click on the mode is a command too.
+  int clicks = 0;
+  frmMain.lblCtMode.DblClick = [&clicks] { ++clicks; };
+  Keys("99999");
+  QTest::mouseDClick(desktop.forms.WidgetOf(frmMain.lblCtMode), Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
 }
 
 struct Move {
