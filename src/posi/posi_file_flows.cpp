@@ -34,6 +34,7 @@ std::optional<std::string> AskSavePath(int title_id) {
 }
 
 void Save() {
+  const KeepPlace place;  // from which the check goes away
   if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
   const auto path = PosiTableHasFile() ? PosiTablePath() : AskSavePath(423);
   if (!path) return;

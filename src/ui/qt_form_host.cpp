@@ -6,6 +6,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -231,6 +232,19 @@ void QtFormHost::SetFocus(Control& control) {
   if (!widget) return;
   Push();  // the record may just have switched the control on
   Find(*control.Owner)->Reveal(*widget);
+  wants_focus_ = widget;
+  GiveFocus();
+}
+
+bool QtFormHost::MayGiveFocus() const {
+  return wants_focus_ && wants_focus_->isEnabled() && wants_focus_->isVisible();
+}
+
+/// A control that a flow still holds off gets the focus when it comes on.
+void QtFormHost::GiveFocus() {
+  if (!MayGiveFocus()) return;
+  QWidget* widget = wants_focus_;
+  wants_focus_ = nullptr;
   widget->setFocus(Qt::OtherFocusReason);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
 }
@@ -270,6 +284,8 @@ void QtFormHost::Push() {
   pushing_ = true;
   for (const auto& [view, shown] : shown_) shown.bound->Push();
   pushing_ = false;
+  // Not in here: what the focus leaves may have a handler, and that may wait.
+  if (MayGiveFocus()) QTimer::singleShot(0, wants_focus_, [this] { GiveFocus(); });
   last_push_us_ = pump_.NowUs();
 }
 

@@ -356,6 +356,18 @@ TEST_F(GridTest, F6LeavesTheGridForTheOtherControls) {
   EXPECT_FALSE(table->hasFocus());
 }
 
+TEST_F(GridTest, SaveKeepsTheCellAndGivesTheFocusBack) {
+  user.on_file = [this] { return folder.filePath("saved.qvd"); };
+  GoTo(kFirst + 3, kPosi);
+  auto* save = qobject_cast<QPushButton*>(desktop.forms.WidgetOf(frmPosi.cmdPosiSave));
+  save->setFocus();
+  save->click();
+  Settle();
+  EXPECT_EQ(frmPosi.Caption.find("saved") != std::string::npos, true) << frmPosi.Caption;
+  EXPECT_EQ(table->window()->focusWidget(), table);
+  EXPECT_EQ(Current(), At(kFirst + 3, kPosi));
+}
+
 class ProgramGridTest : public GridTest {
  protected:
   void SetUp() override { Start(true); }
