@@ -1,6 +1,7 @@
 // The edit of a cell: a line edit over the current cell. Its end goes through the record's rule.
 
-#include <QCoreApplication>
+#include <QAbstractButton>
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -86,6 +87,7 @@ bool GridTable::FinishEdit() {
   if (!editor_) return true;
   if (!verdict.accepted) {
     ShowRefusal(verdict.reason);
+    if (hasFocus()) editor_->setFocus(Qt::OtherFocusReason);
     editor_->setText(Q(grid_->Text(edit_row_, edit_col_)).trimmed());
     editor_->selectAll();
     return false;
@@ -182,8 +184,12 @@ bool GridTable::eventFilter(QObject* watched, QEvent* event) {
       return OnEditorKey(*static_cast<QKeyEvent*>(event));
     case QEvent::FocusOut: {
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-      const bool stays = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
-                         reason == Qt::MenuBarFocusReason;
+      // A click into the grid and a button's click ask for themselves. Asked here as well, a text
+      // that is refused would be gone, and the old one accepted, by the time that they ask.
+      const QWidget* next = QApplication::focusWidget();
+      const bool asks = next == this || qobject_cast<const QAbstractButton*>(next);
+      const bool stays = asks || reason == Qt::PopupFocusReason ||
+                         reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
       if (!stays) FinishEdit();
       return false;
     }
