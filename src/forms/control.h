@@ -108,16 +108,20 @@ struct ComboBox : Control {
   std::vector<std::string> List;
   std::vector<int> ItemData;  ///< parallel to List
   int ListIndex = -1;         ///< -1: nothing chosen
+  bool Editable = false;      ///< a text that the list lacks may be typed
+  std::string TypedText;      ///< stands while nothing is chosen
   std::function<void()> Click;
   std::function<void()> LostFocus;
   void Clear();
   void AddItem(const std::string& text, int data);
-  /// The chosen text, or empty.
+  /// The chosen text, else the typed one, or empty.
   std::string Text() const;
   /// Shows the entry of that text; false (and no change) when the list lacks it.
   bool ShowText(const std::string& text);
   /// Chooses as a user does.
   void Pick(int index);
+  /// Types as a user does; the text of an entry chooses that.
+  void Type(const std::string& typed);
 };
 
 struct ListBox : Control {

@@ -155,6 +155,13 @@ TEST_F(BindingTest, AComboBoxGoesBothWays) {
   QTest::keyClick(&combo, Qt::Key_Up);
   Settle();
   EXPECT_EQ(combo.currentIndex(), 0);
+  // This one takes a text that is not in the list, with the cursor where it was.
+  combo.lineEdit()->setCursorPosition(2);
+  QTest::keyClick(&combo, Qt::Key_X);
+  Settle();
+  EXPECT_EQ(record.Text() + "/" + Of(combo.currentText()), "onxe/onxe");
+  EXPECT_EQ(record.ListIndex, -1);
+  EXPECT_EQ(combo.lineEdit()->cursorPosition(), 3);
 }
 
 TEST_F(BindingTest, TheWheelChoosesNothingAndScrollsWhatIsAround) {
