@@ -61,6 +61,7 @@ struct TextBox : Control {
   TextBox(View& owner, const std::string& name, int tag = 0)
       : Control(owner, "TextBox", name, tag) {}
   std::string Text;
+  std::string Prompt;          ///< what the field asks for, shown faint while it is empty
   int MaxLength = 0;           ///< characters; 0: no limit
   std::string AllowedChars;    ///< keys that are taken beside Backspace and Tab; empty: all
   bool InputMethodOff = true;  ///< number fields switch the input method off
