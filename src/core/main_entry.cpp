@@ -60,6 +60,7 @@ void ApplyWindowRectangle() {
   frmMain.Top = sane(GetSettingNumber("MainTop", 1000), -kFarthest, kFarthest, 1000);
   frmMain.Width = sane(GetSettingNumber("MainWidth", 15240), 3000, kFarthest, 15240);
   frmMain.Height = sane(GetSettingNumber("MainHeight", 11000), 3000, kFarthest, 11000);
+  frmMain.Maximised = GetSettingNumber("MainMaximised", 0) > 0;
 }
 
 void LoadFrame() {

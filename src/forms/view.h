@@ -26,6 +26,7 @@ struct View {
   bool Loaded = false;
   bool Visible = false;
   bool Minimised = false;
+  bool Maximised = false;    ///< fills the screen; the rectangle is the one it comes back to
   bool RefuseClose = false;  ///< the window's own close button and Escape do nothing
   bool MdiChild = false;     ///< lives inside the frame
   double Left = 0, Top = 0, Width = 0, Height = 0;

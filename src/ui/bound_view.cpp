@@ -119,8 +119,8 @@ void BoundView::Reveal(QWidget& widget) {
     if (page.tabs->widget(page.index)->isAncestorOf(&widget))
       page.tabs->setCurrentIndex(page.index);
   }
-  for (QScrollArea* scroll : window_.findChildren<QScrollArea*>()) {
-    if (scroll->isAncestorOf(&widget)) scroll->ensureWidgetVisible(&widget);
+  for (QWidget* outer = widget.parentWidget(); outer; outer = outer->parentWidget()) {
+    if (auto* scroll = qobject_cast<QScrollArea*>(outer)) scroll->ensureWidgetVisible(&widget);
   }
 }
 

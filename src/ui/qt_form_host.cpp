@@ -15,6 +15,7 @@
 #include "core/app_state.h"
 #include "core/views.h"
 #include "forms/control.h"
+#include "ui/dialog_room.h"
 #include "ui/grid_table.h"
 #include "ui/look.h"
 #include "ui/twips.h"
@@ -29,17 +30,6 @@ constexpr std::int64_t kPushEveryUs = 16'000;
 constexpr std::int64_t kExposeUs = 200'000;
 
 bool Is(const View& view, std::string_view name) { return name == view.Name; }
-
-/// Over the middle of the window that it belongs to, within the screen.
-void PlaceDialog(QWidget& window) {
-  const QRect field = window.screen()->availableGeometry();
-  const QWidget* over = window.parentWidget() ? window.parentWidget()->window() : nullptr;
-  QRect place(QPoint(), window.size());
-  place.moveCenter(over && over->isVisible() ? over->geometry().center() : field.center());
-  place.moveRight(std::min(place.right(), field.right()));
-  place.moveLeft(std::max(place.left(), field.left()));
-  window.move(place.topLeft());
-}
 
 }  // namespace
 
@@ -81,7 +71,8 @@ QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QW
       return dialog;
     }
     auto* child = new ChildWindow(view, [this] { return MayCommand(); });
-    child->setWidget(inner);
+    child->setWidget(InScrollArea(*inner));
+    QObject::connect(inner, &QWidget::windowTitleChanged, child, &QWidget::setWindowTitle);
     return child;
   }
   if (form.root == FormRoot::Dialog) return inner = new DialogWindow(view, ParentForDialogs());
@@ -121,8 +112,7 @@ void QtFormHost::ShowFrame() {
     });
   }
   if (frame_->isVisible()) return;
-  frame_->PlaceByRecord();
-  frame_->show();
+  frame_->ShowByRecord();
 }
 
 /// The first view takes the whole frame; later ones open as the one before stands.
@@ -134,7 +124,8 @@ void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   }
   const QMdiSubWindow* before = mdi_->activeSubWindow();
   mdi_->addSubWindow(&child);
-  child.resize(Pixels(view.Width), Pixels(view.Height));
+  const QSize wanted(Pixels(view.Width), Pixels(view.Height));
+  child.resize(wanted.boundedTo(mdi_->viewport()->size()));
   if (!before || before->isMaximized()) {
     child.showMaximized();
   } else {
@@ -148,11 +139,12 @@ void QtFormHost::ShowDialog(View& view, QWidget& window, bool modal) {
   window.adjustSize();
   if (window.layout()->sizeConstraint() != QLayout::SetFixedSize) {
     const QSize wanted = window.sizeHint().expandedTo({Pixels(view.Width), Pixels(view.Height)});
-    window.resize(wanted.boundedTo(window.screen()->availableSize() - QSize(20, 60)));
+    window.resize(wanted.boundedTo(RoomForDialog(window)));
   }
   window.show();
   // Only now have lists and fonts given it its size.
   window.layout()->activate();
+  FoldDialog(window);
   PlaceDialog(window);
   window.raise();
   window.activateWindow();

@@ -18,8 +18,8 @@ class FrameWindow : public QMainWindow {
 
  public:
   FrameWindow(View& view, CommandGate gate) : view_(view), gate_(std::move(gate)) {}
-  /// The record's rectangle, moved into the screen when it lies outside of all.
-  void PlaceByRecord();
+  /// Shows the window where the record has it, moved into the screen when it lies beyond.
+  void ShowByRecord();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -28,6 +28,8 @@ class FrameWindow : public QMainWindow {
   void changeEvent(QEvent* event) override;
 
  private:
+  void PlaceByRecord();
+  void KeepOnScreen();
   void KeepRectangle();
 
   View& view_;

@@ -107,6 +107,14 @@ TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
   Settle();
   EXPECT_EQ(frmMain.Width, Twips(900)) << "a full screen is not a place";
   desktop.forms.Hide(frmMain);
+  desktop.forms.Show(frmMain);
+  Settle();
+  EXPECT_TRUE(Frame().isMaximized());
+  EXPECT_EQ(frmMain.Width, Twips(900));
+  Frame().showNormal();
+  Settle();
+  EXPECT_FALSE(frmMain.Maximised);
+  desktop.forms.Hide(frmMain);
   Settle();
   frmMain.Left = Twips(-9000);
   frmMain.Top = Twips(9000);
