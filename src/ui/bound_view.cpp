@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "forms/control.h"
+#include "ui/column_captions.h"
 #include "ui/grid_table.h"
 
 namespace tr7 {
@@ -40,6 +41,7 @@ BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const Co
   for (Control* control : view.Controls) Tie(*control, gate);
   FindAreas();
   FindTabs();
+  for (auto* captions : window.findChildren<ColumnCaptions*>()) captions->Follow(*grids_.front());
   TiePopup();
   SetTabOrder();
 }

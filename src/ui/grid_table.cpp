@@ -63,7 +63,11 @@ void GridTable::Attach(Grid& grid) {
     if (!scrolling_) grid_->TopRow = shown_top_row_ = BodyRow(value);
     PlaceEditor();
   });
-  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { PlaceEditor(); });
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+    PlaceEditor();
+    // The titles over several columns move inside of what is left of them: none is just shifted.
+    header_->viewport()->update();
+  });
   connect(verticalHeader(), &QHeaderView::sectionPressed, this, [this](int section) {
     SelectRows(section, QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
   });
