@@ -31,11 +31,7 @@ namespace tr7 {
 namespace {
 
 constexpr const char* kHelpFile = "qvtr7hlp.chm";
-
-std::string VersionText() {
-  return std::to_string(TR7_VERSION_MAJOR) + "." + std::to_string(TR7_VERSION_MINOR) +
-         std::to_string(TR7_VERSION_REVISION);
-}
+constexpr int kMsgBusy = 5941;
 
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
@@ -67,6 +63,7 @@ void ApplyWindowRectangle() {
   frmMain.Top = sane(GetSettingNumber("MainTop", 1000), -kFarthest, kFarthest, 1000);
   frmMain.Width = sane(GetSettingNumber("MainWidth", 15240), 3000, kFarthest, 15240);
   frmMain.Height = sane(GetSettingNumber("MainHeight", 11000), 3000, kFarthest, 11000);
+  frmMain.Maximised = GetSettingNumber("MainMaximised", 0) > 0;
 }
 
 void LoadFrame() {
@@ -87,7 +84,12 @@ bool QueryUnloadFrame(CloseReason reason) {
     MsgBox(TwoLines(60, 61));
     return true;
   }
-  if (reason == CloseReason::ControlMenu && AppState.ComBusy) return true;
+  if (reason == CloseReason::ControlMenu && AppState.ComBusy) {
+    // In words that stop nothing: the transfer goes on. An alarm stays readable.
+    if (!AppState.AlarmOn) frmMain.sbStatusBar.Panels[kPanelError] = Text(kMsgBusy);
+    doors.forms->Beep();
+    return true;
+  }
   // The views inside the frame are asked here too, while all of them can still stay: later on
   // nothing stops the close.
   const std::vector<View*> views = OpenViews();
@@ -116,6 +118,11 @@ void ChooseModeOffline() {
 }
 
 }  // namespace
+
+std::string VersionText() {
+  return std::to_string(TR7_VERSION_MAJOR) + "." + std::to_string(TR7_VERSION_MINOR) +
+         std::to_string(TR7_VERSION_REVISION);
+}
 
 void StartOnlineOfflineChoice() {
   const CommandsOff commands_off;

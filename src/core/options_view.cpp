@@ -1,6 +1,8 @@
 #include "core/options_view.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/text_helpers.h"
 #include "forms/frm_options2.h"
@@ -20,34 +22,54 @@ namespace {
 
 constexpr const char* kSimDevice = "sim";
 constexpr int kMsgPortChanged = 5971;
+constexpr int kMsgPortRow = 5942;
 constexpr int kPortTab = 0, kPosiTab = 1, kUnitTab = 2, kLanguageTab = 3;
 
-/// Device names in the order of the combo box.
+constexpr int kLastTypedPort = 3, kLastPort = 9;
+
+/// Device names in the order of the combo box; a row behind them stands for a port number.
 std::vector<std::string> listed_devices;
 
 int TypedPortNo() { return static_cast<int>(Val(frmOptions2.txtPortNo.Text)); }
 
-bool IsPortNo(int number) { return number >= 1 && number <= 9; }
+bool IsPortNo(int number) { return number >= 1 && number <= kLastPort; }
 
 void ShowDeviceOfPort() {
+  ComboBox& combo = frmOptions2.comboPortDevice;
   const std::string device = IsPortNo(TypedPortNo()) ? PortDevice(TypedPortNo()) : std::string();
-  frmOptions2.comboPortDevice.ListIndex = -1;
-  for (std::size_t i = 0; i < listed_devices.size(); ++i) {
-    if (listed_devices[i] == device) frmOptions2.comboPortDevice.ListIndex = static_cast<int>(i);
-  }
+  const auto found = std::find(listed_devices.begin(), listed_devices.end(), device);
+  const bool listed = found != listed_devices.end();
+  combo.ListIndex = listed ? static_cast<int>(found - listed_devices.begin()) : -1;
+  combo.TypedText = device;
 }
 
+/// The devices that are there, then the port numbers that the number's field does not take.
 void ListDevices() {
   ComboBox& combo = frmOptions2.comboPortDevice;
   combo.Clear();
   listed_devices = doors.serial->PortNames();
-  const std::string set = PortDevice(AppState.PortNo);
-  bool listed = set.empty() || set == kSimDevice;
-  for (const std::string& name : listed_devices) listed = listed || name == set;
-  if (!listed) listed_devices.push_back(set);  // set by hand, not present now
   for (const std::string& name : listed_devices) combo.AddItem(name, 0);
   listed_devices.emplace_back(kSimDevice);
   combo.AddItem(Text(5304), 0);
+  for (int number = kLastTypedPort + 1; number <= kLastPort; ++number) {
+    combo.AddItem(Text(kMsgPortRow, std::to_string(number), PortDevice(number)), number);
+  }
+}
+
+/// A port number's row turns to that number and shows its device.
+void ChooseDevice() {
+  const ComboBox& combo = frmOptions2.comboPortDevice;
+  const int number = combo.ItemData[static_cast<std::size_t>(combo.ListIndex)];
+  if (number == 0) return;
+  frmOptions2.txtPortNo.Text = std::to_string(number);
+  ShowDeviceOfPort();
+}
+
+/// The device to be set for the port: one of the list, or a path as it was typed.
+std::string ChosenDevice() {
+  const ComboBox& combo = frmOptions2.comboPortDevice;
+  if (combo.ListIndex < 0) return Trim(combo.TypedText);
+  return listed_devices[static_cast<std::size_t>(combo.ListIndex)];
 }
 
 void ShowTab() {
@@ -105,10 +127,9 @@ void TakePort() {
   } else {
     LoadSettingPortNo();
   }
-  const int device = frmOptions2.comboPortDevice.ListIndex;
-  if (device >= 0) {
-    PutSetting("PortDevice" + std::to_string(AppState.PortNo),
-               listed_devices[static_cast<std::size_t>(device)]);
+  const std::string device = ChosenDevice();
+  if (!device.empty() || !PortDevice(AppState.PortNo).empty()) {
+    PutSetting("PortDevice" + std::to_string(AppState.PortNo), device);
   }
   PutSetting("PortNo", AppState.PortNo);
   if (PortDevice(AppState.PortNo) != before) LeavePort();
@@ -154,6 +175,7 @@ void InstallOptionsView() {
   // The digits that the field takes; the number's own range is 1 to 9 and is checked by OK.
   f.txtPortNo.AllowedChars = "0123";
   f.txtPortNo.Change = ShowDeviceOfPort;
+  f.comboPortDevice.Click = ChooseDevice;
   f.txtPortNo.Enter = [] { doors.forms->SetFocus(frmOptions2.cmdOk); };
   f.cmdOk.Click = [] {
     TakeOptions();

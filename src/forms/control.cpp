@@ -44,6 +44,7 @@ void ComboBox::Clear() {
   List.clear();
   ItemData.clear();
   ListIndex = -1;
+  TypedText.clear();
 }
 
 void ComboBox::AddItem(const std::string& text, int data) {
@@ -52,7 +53,7 @@ void ComboBox::AddItem(const std::string& text, int data) {
 }
 
 std::string ComboBox::Text() const {
-  if (ListIndex < 0 || ListIndex >= static_cast<int>(List.size())) return {};
+  if (ListIndex < 0 || ListIndex >= static_cast<int>(List.size())) return TypedText;
   return List[static_cast<std::size_t>(ListIndex)];
 }
 
@@ -67,6 +68,12 @@ void ComboBox::Pick(int index) {
   if (!Enabled || !Visible || index < 0 || index >= static_cast<int>(List.size())) return;
   ListIndex = index;
   if (Click) Click();
+}
+
+void ComboBox::Type(const std::string& typed) {
+  if (!Enabled || !Visible || !Editable) return;
+  TypedText = typed;
+  if (!ShowText(typed)) ListIndex = -1;
 }
 
 void Toolbar::Press(const std::string& key) {

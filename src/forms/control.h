@@ -60,6 +60,7 @@ struct TextBox : Control {
   TextBox(View& owner, const std::string& name, int tag = 0)
       : Control(owner, "TextBox", name, tag) {}
   std::string Text;
+  std::string Prompt;          ///< what the field asks for, shown faint while it is empty
   int MaxLength = 0;           ///< characters; 0: no limit
   std::string AllowedChars;    ///< keys that are taken beside Backspace and Tab; empty: all
   bool InputMethodOff = true;  ///< number fields switch the input method off
@@ -109,16 +110,20 @@ struct ComboBox : Control {
   std::vector<std::string> List;
   std::vector<int> ItemData;  ///< parallel to List
   int ListIndex = -1;         ///< -1: nothing chosen
+  bool Editable = false;      ///< a text that the list lacks may be typed
+  std::string TypedText;      ///< stands while nothing is chosen
   Handler<void()> Click;
   Handler<void()> LostFocus;
   void Clear();
   void AddItem(const std::string& text, int data);
-  /// The chosen text, or empty.
+  /// The chosen text, else the typed one, or empty.
   std::string Text() const;
   /// Shows the entry of that text; false (and no change) when the list lacks it.
   bool ShowText(const std::string& text);
   /// Chooses as a user does.
   void Pick(int index);
+  /// Types as a user does; the text of an entry chooses that.
+  void Type(const std::string& typed);
 };
 
 struct ListBox : Control {

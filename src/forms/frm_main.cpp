@@ -9,6 +9,7 @@ FrmMain::FrmMain() : View("frmMain") {
   lblSimulated.Visible = false;
   cmdComCancel.Visible = false;
   cmdComCancel.Enabled = false;
+  cmdComCancel.Cancel = true;
   ProgressBar1.Visible = false;
 }
 

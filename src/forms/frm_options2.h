@@ -12,6 +12,7 @@ struct FrmOptions2 : View {
     cmdOk.Default = true;
     cmdCancel.Cancel = true;
     txtPortNo.MaxLength = 1;
+    comboPortDevice.Editable = true;
   }
   TabStrip tabOptions{*this, "tabOptions", {{2505}, {2506}, {2507}, {2508}}};
   // RS-232C

@@ -102,15 +102,16 @@ bool Grid::MayEdit(int row, int col) const {
   return Enabled && Visible && body && (!CanEdit || CanEdit(row, col));
 }
 
-int Grid::EndEdit(int row, int col, std::string typed) {
-  if (AcceptEdit && AcceptEdit(row, col, typed) != 0) return 1;
-  SetText(row, col, std::move(typed));
-  return 0;
+EditVerdict Grid::EndEdit(int row, int col, std::string typed) {
+  EditVerdict verdict;
+  if (AcceptEdit) verdict = AcceptEdit(row, col, typed);
+  if (verdict.accepted) SetText(row, col, std::move(typed));
+  return verdict;
 }
 
 int Grid::TypeInto(int row, int col, const std::string& typed) {
   SelectCell(row, col);
-  return MayEdit(row, col) ? EndEdit(row, col, typed) : 1;
+  return MayEdit(row, col) && EndEdit(row, col, typed).accepted ? 0 : 1;
 }
 
 }  // namespace tr7

@@ -19,6 +19,12 @@ inline constexpr int kRestWidthAtLeast = 3500;
 /// Where texts stand in a column. `General`: numbers to the right, all else to the left.
 enum class ColAlign { General, Left, Centre, Right };
 
+/// What a cell's rule says of a text that an edit ends with.
+struct EditVerdict {
+  bool accepted = true;
+  std::string reason = {};  ///< of a refusal, for the user
+};
+
 /// A grid of texts with fixed header rows and columns. Rows and columns count from 0 and include
 /// the fixed ones. The texts are the editing buffer: what the user types lands here.
 /// `Revision` rises with every change that a drawing of the grid must show.
@@ -66,8 +72,8 @@ struct Grid : Control {
 
   // Rules that logic sets.
   Handler<bool(int row, int col)> CanEdit;
-  /// Asked when an edit ends: 0 accepts, with the text to show in `text`; 1 refuses, with a beep.
-  Handler<int(int row, int col, std::string& text)> AcceptEdit;
+  /// Asked when an edit ends, with the text to show in `text` where it accepts.
+  Handler<EditVerdict(int row, int col, std::string& text)> AcceptEdit;
   Handler<int(int col)> MaxLength;           ///< characters; 0: no limit
   Handler<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
   Handler<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
@@ -83,7 +89,7 @@ struct Grid : Control {
   int TypeInto(int row, int col, const std::string& typed);
   /// Its two halves, for an editor on the screen.
   bool MayEdit(int row, int col) const;
-  int EndEdit(int row, int col, std::string typed);
+  [[nodiscard]] EditVerdict EndEdit(int row, int col, std::string typed);
 
  private:
   std::size_t Index(int col) const { return static_cast<std::size_t>(col); }

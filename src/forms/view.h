@@ -41,6 +41,7 @@ struct View {
   bool Loaded = false;
   bool Visible = false;
   bool Minimised = false;
+  bool Maximised = false;    ///< fills the screen; the rectangle is the one it comes back to
   bool RefuseClose = false;  ///< the window's own close button and Escape do nothing
   bool MdiChild = false;     ///< lives inside the frame
   bool StaysOpen = false;    ///< open for the whole process: the frame does not offer to close it

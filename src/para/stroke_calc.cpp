@@ -9,6 +9,7 @@
 #include "forms/frm_stroke_calc.h"
 #include "para/param_set.h"
 #include "platform/doors.h"
+#include "state/message_box.h"
 #include "state/text.h"
 #include "state/views.h"
 
@@ -16,23 +17,28 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgStrokePrompt = 6086, kMsgLeadPrompt = 6087;
-constexpr int kMsgInvalid = 6092, kMsgNoDevice = 6093;
+constexpr int kMsgInvalid = 6092, kMsgNoDevice = 6093, kMsgOutOfRange = 5943;
 constexpr double kPprFirst = 400, kPprOther = 192;
 constexpr int kStrokeDigits = 3, kLeadDigits = 2;
 
-/// Narrow on purpose: a lead of any other kind is computed with, whatever the prompt asks for.
-bool IsRefused(const std::string& stroke, const std::string& lead) {
-  const double value = Val(lead);
-  const bool usual_lead = value == 2 || value == 6 || value == 8;
-  return stroke.empty() || (lead.empty() && !usual_lead);
+bool IsStroke(double mm) { return mm >= 25 && mm <= 600; }
+
+bool IsLead(double mm) { return mm == 2 || mm == 4 || mm == 6 || mm == 8 || mm == 12; }
+
+/// The field is named with what it takes, and gets the focus.
+void Refuse(TextBox& box, const Label& name) {
+  frmStrokeCalc.lblStrokePulse.Caption = Text(kMsgInvalid);
+  MsgBox(Text(kMsgOutOfRange, name.Caption, box.Prompt));
+  doors.forms->SetFocus(box);
 }
 
 void CulStrokePulse() {
   FrmStrokeCalc& f = frmStrokeCalc;
-  const double ppr = f.optActType[0].Value ? kPprFirst : kPprOther;
-  const auto pulses = StrokeToPulse(Val(f.txtCulStroke.Text), Val(f.txtCulLead.Text), ppr);
-  const bool good = !IsRefused(f.txtCulStroke.Text, f.txtCulLead.Text) && pulses;
-  f.lblStrokePulse.Caption = good ? std::to_string(*pulses) : Text(kMsgInvalid);
+  const double stroke = Val(f.txtCulStroke.Text), lead = Val(f.txtCulLead.Text);
+  if (!IsStroke(stroke)) return Refuse(f.txtCulStroke, f.lblCulStroke);
+  if (!IsLead(lead)) return Refuse(f.txtCulLead, f.lblCulLead);
+  const auto pulses = StrokeToPulse(stroke, lead, f.optActType[0].Value ? kPprFirst : kPprOther);
+  f.lblStrokePulse.Caption = pulses ? std::to_string(*pulses) : Text(kMsgInvalid);
 }
 
 /// From AXIS2 the focus goes to the lead of AXIS3: that is how this dialogue has always worked.
@@ -61,22 +67,16 @@ void LoadCalc() {
   FrmStrokeCalc& f = frmStrokeCalc;
   f.NextFocus = nullptr;
   f.optActType[0].Choose();
-  f.txtCulStroke.Text = Text(kMsgStrokePrompt);
-  f.txtCulLead.Text = Text(kMsgLeadPrompt);
+  f.txtCulStroke.Text.clear();
+  f.txtCulLead.Text.clear();
+  f.txtCulStroke.Prompt = Text(kMsgStrokePrompt);
+  f.txtCulLead.Prompt = Text(kMsgLeadPrompt);
   f.lblStrokePulse.Caption.clear();
   f.optInputSaki.Clear();
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     f.optInputSaki[axis].Enabled = IsLiveAxis(axis);
     if (IsLiveAxis(axis) && f.optInputSaki.Chosen() < 0) f.optInputSaki[axis].Choose();
   }
-}
-
-/// A prompt gives way to what is typed.
-void InstallField(TextBox& box, int prompt, int digits) {
-  box.MaxLength = digits;
-  box.GotFocus = [&box, prompt] {
-    if (box.Text == Text(prompt)) box.Text.clear();
-  };
 }
 
 }  // namespace
@@ -89,8 +89,8 @@ void ShowStrokeCalc() {
 void InstallStrokeCalc() {
   FrmStrokeCalc& f = frmStrokeCalc;
   f.Load = LoadCalc;
-  InstallField(f.txtCulStroke, kMsgStrokePrompt, kStrokeDigits);
-  InstallField(f.txtCulLead, kMsgLeadPrompt, kLeadDigits);
+  f.txtCulStroke.MaxLength = kStrokeDigits;
+  f.txtCulLead.MaxLength = kLeadDigits;
   f.cmdCulStrokePulse.Click = CulStrokePulse;
   f.cmdInputStroke.Click = InputStroke;
   f.cmdClose.Click = [] { frmStrokeCalc.Visible = false; };

@@ -22,28 +22,27 @@
 namespace tr7 {
 namespace {
 
-constexpr int kMsgAllGood = 6358;
+constexpr int kMsgAllGood = 6358, kMsgRefused = 5940;
 
 /// Ends an edit. Leaving a cell as it was is no edit, so it is neither judged nor a change.
-int AcceptEdit(int row, int col, std::string& text) {
+EditVerdict AcceptEdit(int row, int col, std::string& text) {
   Grid& grid = frmPosi.flgdData;
   frmPosi.OldCellText = grid.Text(row, col);
   // The editor shows a cell without the blanks that align it.
   if (Trim(text) == Trim(frmPosi.OldCellText)) {
     text = frmPosi.OldCellText;
-    return 0;
+    return {};
   }
   if (grid.RowSel != row || grid.ColSel != col) grid.SelectCell(row, col);
   const std::string typed = text;
   if (SetCellData(row, col, text) != 0) {
-    text = frmPosi.OldCellText;
     doors.forms->Beep();
     TellInStatusPanel(RefusalText(col));
-    return 1;
+    return {false, Text(kMsgRefused, RefusalText(col), Trim(text))};
   }
   frmPosi.PosiChanged = True;
   if (RuleChanged(col, typed, text)) TellRounded(typed, text);
-  return 0;
+  return {};
 }
 
 /// The shown body column beside `col` in a direction; 0 when there is none.

@@ -45,6 +45,7 @@ void TellSaved(const std::string& path) {
 }
 
 void Save() {
+  const KeepPlace place;  // from which the check goes away
   if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
   const auto path = PosiTableHasFile() ? PosiTablePath() : AskSavePath(423);
   if (!path) return;

@@ -73,6 +73,7 @@ void SaveSettingsAtExit() {
   if (AppState.LanguageChanged) AppState.LanguageNo = AppState.LanguageNo == 1 ? 2 : 1;
   PutSetting("Language", AppState.LanguageNo);
   if (frmMain.Minimised) return;
+  PutSetting("MainMaximised", frmMain.Maximised ? 1 : 0);
   PutSetting("MainLeft", PlainDecimal(frmMain.Left));
   PutSetting("MainTop", PlainDecimal(frmMain.Top));
   PutSetting("MainWidth", PlainDecimal(frmMain.Width));

@@ -8,9 +8,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <vector>
 
@@ -85,8 +87,13 @@ class CommandButtonBinding : public ButtonBinding {
     button.setAutoDefault(true);
     button.setDefault(record.Default);
     QObject::connect(&button, &QPushButton::clicked, &button, [&record, gate] {
-      if (gate()) record.Press();
+      // Cancel takes nothing, so an edit that is refused does not hold it up.
+      if (record.Cancel || gate()) record.Press();
     });
+    // In a dialogue the window has the key; in the frame it goes wherever the focus is.
+    if (!record.Cancel || !qobject_cast<QMainWindow*>(button.window())) return;
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &button);
+    QObject::connect(escape, &QShortcut::activated, &button, [&button] { button.click(); });
   }
 };
 
@@ -172,13 +179,14 @@ class ProgressBarBinding : public WidgetBinding {
 
 class TabStripBinding : public QObject, public WidgetBinding {
  public:
-  TabStripBinding(TabStrip& record, QTabBar& bar)
+  TabStripBinding(TabStrip& record, QTabBar& bar, const CommandGate& gate)
       : WidgetBinding(record, bar), record_(record), bar_(bar) {
     while (bar.count() < static_cast<int>(record.Tabs.size())) bar.addTab(QString());
     bar.setDrawBase(true);
     bar.setExpanding(false);
-    QObject::connect(&bar, &QTabBar::currentChanged, this, [this](int index) {
+    QObject::connect(&bar, &QTabBar::currentChanged, this, [this, gate](int index) {
       if (pushing_ || record_.Selected == index) return;
+      if (!gate()) return Push();
       record_.Selected = index;
       if (record_.Click) record_.Click();
     });
@@ -231,7 +239,7 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
                                                          GroupOf(control, target, groups));
     return made;
   }
-  Tie<Label, QLabel, LabelBinding>(made, control, target) ||
+  Tie<Label, QLabel, LabelBinding>(made, control, target, gate) ||
       Tie<Image, Lamp, LampBinding>(made, control, target) ||
       Tie<Frame, QWidget, FrameBinding>(made, control, target) ||
       Tie<CommandButton, QPushButton, CommandButtonBinding>(made, control, target, gate) ||
@@ -240,7 +248,7 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
       Tie<ComboBox, QComboBox, ComboBoxBinding>(made, control, target) ||
       Tie<ListBox, QListWidget, ListBoxBinding>(made, control, target) ||
       Tie<ProgressBar, QProgressBar, ProgressBarBinding>(made, control, target) ||
-      Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target) ||
+      Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target, gate) ||
       Tie<Grid, GridTable, GridBinding>(made, control, target) ||
       Tie<Toolbar, QToolBar, ToolbarBinding>(made, control, target, gate) ||
       Tie<StatusBar, QStatusBar, StatusBarBinding>(made, control, target);

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "forms/control.h"
+#include "ui/column_captions.h"
 #include "ui/field_table.h"
 #include "ui/grid_table.h"
 
@@ -42,6 +43,7 @@ BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const Co
   for (Control* control : view.Controls) Tie(*control, gate);
   FindAreas();
   FindTabs();
+  for (auto* captions : window.findChildren<ColumnCaptions*>()) captions->Follow(*grids_.front());
   TiePopup();
   SetTabOrder();
 }
@@ -121,8 +123,8 @@ void BoundView::Reveal(QWidget& widget) {
     if (page.tabs->widget(page.index)->isAncestorOf(&widget))
       page.tabs->setCurrentIndex(page.index);
   }
-  for (QScrollArea* scroll : window_.findChildren<QScrollArea*>()) {
-    if (scroll->isAncestorOf(&widget)) scroll->ensureWidgetVisible(&widget);
+  for (QWidget* outer = widget.parentWidget(); outer; outer = outer->parentWidget()) {
+    if (auto* scroll = qobject_cast<QScrollArea*>(outer)) scroll->ensureWidgetVisible(&widget);
   }
 }
 

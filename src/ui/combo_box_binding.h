@@ -8,7 +8,7 @@
 
 namespace tr7 {
 
-/// A list that drops down.
+/// A list that drops down; into an editable one other texts may be typed.
 class ComboBoxBinding : public QObject, public WidgetBinding {
  public:
   ComboBoxBinding(ComboBox& record, QComboBox& combo);
@@ -18,6 +18,8 @@ class ComboBoxBinding : public QObject, public WidgetBinding {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void PushText(int cursor);
+
   ComboBox& record_;
   QComboBox& combo_;
   std::optional<std::vector<std::string>> list_;

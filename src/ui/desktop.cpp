@@ -29,16 +29,19 @@ void SetAtFirstUse(SettingsStore& settings, const std::string& key, const std::s
   if (settings.Get(kSection, key, "").empty()) settings.Set(kSection, key, value);
 }
 
+/// By the language that the user reads, which need not be the one of numbers and dates.
+bool SpeaksJapanese(const QLocale& locale) {
+  const QStringList languages = locale.uiLanguages();
+  return !languages.isEmpty() && languages.constFirst().startsWith("ja");
+}
+
 }  // namespace
 
 Desktop::Desktop(const Profile& profile)
     : files(QCoreApplication::applicationDirPath().toStdString()),
       settings(files, SettingsPath(profile)) {
-  if (profile.demo) {
-    const bool japanese = QLocale::system().language() == QLocale::Japanese;
-    SetAtFirstUse(settings, "PortDevice1", "sim");
-    SetAtFirstUse(settings, "Language", japanese ? "1" : "2");
-  }
+  SetAtFirstUse(settings, "Language", SpeaksJapanese(profile.locale) ? "1" : "2");
+  if (profile.demo) SetAtFirstUse(settings, "PortDevice1", "sim");
   doors.pump = &pump;
   doors.serial = &serial;
   doors.settings = &settings;

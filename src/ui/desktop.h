@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <memory>
 
@@ -17,6 +18,7 @@ namespace tr7 {
 struct Profile {
   QString settings_file;  ///< empty: in the user's configuration folder
   bool demo = false;      ///< settings of its own; port 1 is the simulated controller at first
+  QLocale locale = QLocale::system();  ///< tells the language of the first start
 };
 
 /// The desktop's set of doors, installed as long as this lives. The QApplication exists before

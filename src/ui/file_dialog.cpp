@@ -7,6 +7,7 @@
 
 #include "state/text.h"
 #include "ui/binding.h"
+#include "ui/dialog_room.h"
 #include "ui/message_dialog.h"
 
 namespace tr7 {
@@ -86,7 +87,7 @@ std::optional<std::string> AskFile(const FileDialogCall& call, QWidget* parent,
   dialog.setDirectory(proposed.isAbsolute() ? proposed.absolutePath() : LastFolder());
   if (call.Save) dialog.selectFile(proposed.fileName());
   ShareColumns(dialog);
-  dialog.resize(kDialogSize);
+  dialog.resize(kDialogSize.boundedTo(RoomForDialog(dialog)));
   for (;;) {
     dialog.show();
     wait([&dialog] { return !dialog.isVisible(); });

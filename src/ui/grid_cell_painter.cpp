@@ -29,14 +29,28 @@ bool GridCellPainter::IsSelected(int row, int col) const {
   return row >= top && row <= bottom && col >= left && col <= right;
 }
 
+bool GridCellPainter::IsMarked(int row, int col) const {
+  return grid_.IsMarked && grid_.IsMarked(row, col);
+}
+
 QColor GridCellPainter::Ground(int row, int col, bool enabled) const {
   const Colour colour = grid_.ColColour(col);
   QColor ground = colour == kWindowColour   ? look::kBase
                   : colour == kHeaderColour ? look::kHeader
                                             : QColor::fromRgb(static_cast<QRgb>(colour));
-  if (grid_.IsMarked && grid_.IsMarked(row, col)) ground = look::kMarkedCell;
+  if (IsMarked(row, col)) ground = look::kMarkedCell;
   if (!enabled) ground = Mixed(ground, look::kWindow, 0.55);
   return ground;
+}
+
+/// The corner of a marked cell, for who does not see its colour.
+void GridCellPainter::PaintMark(QPainter& painter, const QRect& cell) const {
+  constexpr int kSide = 7;
+  const QPoint corner = cell.topLeft();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(look::kText);
+  painter.drawPolygon(QPolygon({corner, corner + QPoint(kSide, 0), corner + QPoint(0, kSide)}));
+  painter.setBrush(Qt::NoBrush);
 }
 
 Qt::Alignment GridCellPainter::AlignmentOf(int col, const QString& text) const {
@@ -62,6 +76,7 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   const bool current = row == grid_.Row && col == grid_.Col;
   if (IsSelected(row, col) && enabled && !current) ground = Mixed(ground, look::kSelection, 0.35);
   painter->fillRect(option.rect, ground);
+  if (IsMarked(row, col)) PaintMark(*painter, option.rect);
   const QString text = model_.TextAt(index.row(), index.column());
   painter->setPen(enabled ? look::kText : look::kFaintText);
   painter->drawText(option.rect.adjusted(3, 0, -4, 0), Qt::AlignVCenter | AlignmentOf(col, text),

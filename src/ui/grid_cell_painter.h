@@ -20,7 +20,9 @@ class GridCellPainter : public QStyledItemDelegate {
 
  private:
   bool IsSelected(int row, int col) const;
+  bool IsMarked(int row, int col) const;
   QColor Ground(int row, int col, bool enabled) const;
+  void PaintMark(QPainter& painter, const QRect& cell) const;
   Qt::Alignment AlignmentOf(int col, const QString& text) const;
 
   const Grid& grid_;

@@ -1,10 +1,12 @@
 // The edit of a cell: a line edit over the current cell. Its end goes through the record's rule.
 
-#include <QCoreApplication>
+#include <QAbstractButton>
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "ui/cell_bubble.h"
 #include "ui/grid_table.h"
 
 namespace tr7 {
@@ -56,6 +58,7 @@ void GridTable::StartEdit(EditStart start, const QString& typed) {
 }
 
 void GridTable::PlaceEditor() {
+  if (bubble_->isVisible()) bubble_->PlaceAt(ViewRect(refused_));
   if (!editor_) return;
   const QRect cell = CellRect(edit_row_, edit_col_);
   editor_->setGeometry(cell.adjusted(1, 1, -1, -1));
@@ -66,6 +69,7 @@ void GridTable::CloseEditor() {
   if (!editor_) return;
   QLineEdit* editor = editor_;
   editor_ = nullptr;
+  bubble_->hide();
   const bool had_focus = editor->hasFocus();
   editor->removeEventFilter(this);
   editor->hide();
@@ -78,10 +82,12 @@ bool GridTable::FinishEdit() {
   // The rule may pump: an edit that is being finished is not finished once more.
   if (finishing_) return false;
   finishing_ = true;
-  const int result = grid_->EndEdit(edit_row_, edit_col_, editor_->text().toStdString());
+  const EditVerdict verdict = grid_->EndEdit(edit_row_, edit_col_, editor_->text().toStdString());
   finishing_ = false;
   if (!editor_) return true;
-  if (result != 0) {
+  if (!verdict.accepted) {
+    ShowRefusal(verdict.reason);
+    if (hasFocus()) editor_->setFocus(Qt::OtherFocusReason);
     editor_->setText(Q(grid_->Text(edit_row_, edit_col_)).trimmed());
     editor_->selectAll();
     return false;
@@ -94,8 +100,23 @@ bool GridTable::FinishEdit() {
 /// The Delete key, where the cell's rule takes an empty text.
 void GridTable::EmptyCell() {
   if (!grid_->MayEdit(grid_->Row, grid_->Col)) return;
-  grid_->TypeInto(grid_->Row, grid_->Col, "");
+  grid_->SelectCell(grid_->Row, grid_->Col);
+  const EditVerdict verdict = grid_->EndEdit(grid_->Row, grid_->Col, "");
   Push();
+  if (!verdict.accepted) ShowRefusal(verdict.reason);
+}
+
+/// The bubble stands until the cell takes a text or is left.
+void GridTable::ShowRefusal(const std::string& reason) {
+  refused_ = {grid_->Row, grid_->Col};
+  if (reason.empty()) return bubble_->hide();
+  bubble_->setText(Q(reason));
+  bubble_->PlaceAt(ViewRect(refused_));
+  bubble_->show();
+}
+
+void GridTable::PushRefusal() {
+  if (!editor_ && refused_ != std::pair(grid_->Row, grid_->Col)) bubble_->hide();
 }
 
 /// Enter or Tab: the record's own way, else to the next shown column and line.
@@ -163,8 +184,12 @@ bool GridTable::eventFilter(QObject* watched, QEvent* event) {
       return OnEditorKey(*static_cast<QKeyEvent*>(event));
     case QEvent::FocusOut: {
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-      const bool stays = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
-                         reason == Qt::MenuBarFocusReason;
+      // A click into the grid and a button's click ask for themselves. Asked here as well, a text
+      // that is refused would be gone, and the old one accepted, by the time that they ask.
+      const QWidget* next = QApplication::focusWidget();
+      const bool asks = next == this || qobject_cast<const QAbstractButton*>(next);
+      const bool stays = asks || reason == Qt::PopupFocusReason ||
+                         reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
       if (!stays) FinishEdit();
       return false;
     }
@@ -174,6 +199,7 @@ bool GridTable::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool GridTable::event(QEvent* event) {
+  if (event->type() == QEvent::FocusOut && !editor_) bubble_->hide();
   if (grid_ && event->type() == QEvent::KeyPress) {
     auto* key = static_cast<QKeyEvent*>(event);
     const bool control = key->modifiers() & Qt::ControlModifier;

@@ -48,7 +48,13 @@ void GridHeader::PaintTitle(QPainter& painter, const QRect& rect, const QString&
   QFont font = painter.font();
   font.setBold(upper);
   painter.setFont(font);
-  painter.drawText(rect.adjusted(1, 0, -1, 0), Qt::AlignCenter | Qt::TextWrapAnywhere, title);
+  const QRect field = rect.adjusted(1, 0, -1, 0);
+  if (upper) {
+    painter.drawText(field, Qt::AlignCenter,
+                     QFontMetrics(font).elidedText(title, Qt::ElideRight, field.width()));
+  } else {
+    painter.drawText(field, Qt::AlignCenter | Qt::TextWrapAnywhere, title);
+  }
   font.setBold(false);
   painter.setFont(font);
 }

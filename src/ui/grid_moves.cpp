@@ -5,6 +5,7 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "ui/grid_model.h"
@@ -31,13 +32,17 @@ void GridTable::GoTo(int row, int col, bool extend) {
   if (grid_->Rows() <= grid_->FixedRows) return;
   row = std::clamp(row, grid_->FixedRows, grid_->Rows() - 1);
   col = std::clamp(col, grid_->FixedCols, grid_->Cols() - 1);
+  const bool downwards = extend && col == grid_->ColSel;
   if (extend && InBody(grid_->Row, grid_->Col)) {
     grid_->Select(grid_->Row, grid_->Col, row, col);
   } else {
     grid_->SelectCell(row, col);
   }
   Push();
+  // A selection of lines ends at the last column: growing by a line is no reason to go there.
+  const int across = horizontalScrollBar()->value();
   scrollTo(IndexOf(row, col));
+  if (downwards) horizontalScrollBar()->setValue(across);
 }
 
 /// The current cell is brought into sight, and the input method follows its column.

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "ui/cell_bubble.h"
 #include "ui/grid_cell_painter.h"
 #include "ui/grid_header.h"
 #include "ui/grid_model.h"
@@ -25,7 +26,7 @@ constexpr double kLineInEms = 1.7;
 
 }  // namespace
 
-GridTable::GridTable(QWidget* parent) : QTableView(parent) {
+GridTable::GridTable(QWidget* parent) : QTableView(parent), bubble_(new CellBubble(*this)) {
   header_ = new GridHeader(this);
   setHorizontalHeader(header_);
   setVerticalHeader(new GridRowHeader(this));
@@ -62,7 +63,11 @@ void GridTable::Attach(Grid& grid) {
     if (!scrolling_) grid_->TopRow = shown_top_row_ = BodyRow(value);
     PlaceEditor();
   });
-  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { PlaceEditor(); });
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+    PlaceEditor();
+    // The titles over several columns move inside of what is left of them: none is just shifted.
+    header_->viewport()->update();
+  });
   connect(verticalHeader(), &QHeaderView::sectionPressed, this, [this](int section) {
     SelectRows(section, QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
   });
@@ -85,6 +90,13 @@ bool GridTable::InBody(int row, int col) const {
 }
 
 QRect GridTable::CellRect(int row, int col) const { return visualRect(IndexOf(row, col)); }
+
+/// The same on the table itself, headers included.
+QRect GridTable::ViewRect(std::pair<int, int> cell) const {
+  return CellRect(cell.first, cell.second).translated(viewport()->pos());
+}
+
+QString GridTable::Refusal() const { return bubble_->isHidden() ? QString() : bubble_->text(); }
 
 /// The fixed column's own title, in the line of the other columns' titles.
 void GridTable::PaintCorner() {
@@ -171,6 +183,7 @@ void GridTable::PushScroll() {
 void GridTable::Push() {
   if (!grid_ || !grid_->Redraw) return;
   if (editor_ && (!grid_->Enabled || edit_row_ >= grid_->Rows())) CloseEditor();
+  PushRefusal();
   if (shown_revision_ == grid_->Revision) return PushScroll();
   shown_revision_ = grid_->Revision;
   if (model_->FollowCounts()) shown_widths_.clear();

@@ -11,6 +11,7 @@ class QLineEdit;
 
 namespace tr7 {
 
+class CellBubble;
 class GridHeader;
 class GridModel;
 
@@ -29,12 +30,14 @@ class GridTable : public QTableView {
   void Push();
 
   /// Ends the open edit through `AcceptEdit`. True when none is open any more; a refused one stays
-  /// open with the old text, and the rule has told why.
+  /// open with the old text, and a bubble at the cell tells why.
   bool FinishEdit();
   bool IsEditing() const { return editor_ != nullptr; }
   QLineEdit* Editor() const { return editor_; }
   /// The place of a cell of the record on the viewport.
   QRect CellRect(int row, int col) const;
+  /// Why the last text was refused, while that stands at the cell; else empty.
+  QString Refusal() const;
 
  protected:
   bool event(QEvent* event) override;
@@ -57,6 +60,8 @@ class GridTable : public QTableView {
   void CloseEditor();
   void EmptyCell();
   void PlaceEditor();
+  void ShowRefusal(const std::string& reason);
+  void PushRefusal();
   bool OnEditorKey(const QKeyEvent& key);
   bool LeavesSideways(int key) const;
   void MoveOn(bool backwards);
@@ -83,6 +88,7 @@ class GridTable : public QTableView {
   int BodyRow(int section) const { return section + grid_->FixedRows; }
   QModelIndex IndexOf(int row, int col) const;
   bool InBody(int row, int col) const;
+  QRect ViewRect(std::pair<int, int> cell) const;
 
   Grid* grid_ = nullptr;
   GridModel* model_ = nullptr;
@@ -93,6 +99,8 @@ class GridTable : public QTableView {
   int edit_row_ = 0, edit_col_ = 0;
   EditStart edit_start_ = EditStart::Typed;
   bool finishing_ = false;
+  CellBubble* bubble_;
+  std::pair<int, int> refused_{};  ///< the cell that the bubble stands at
   bool dragging_ = false;
 
   std::optional<std::uint64_t> shown_revision_;

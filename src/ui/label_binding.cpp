@@ -6,8 +6,8 @@
 
 namespace tr7 {
 
-LabelBinding::LabelBinding(Label& record, QLabel& label)
-    : WidgetBinding(record, label), record_(record), label_(label) {
+LabelBinding::LabelBinding(Label& record, QLabel& label, const CommandGate& gate)
+    : WidgetBinding(record, label), record_(record), label_(label), gate_(gate) {
   label.setTextFormat(Qt::PlainText);
   label.installEventFilter(this);
 }
@@ -31,7 +31,7 @@ bool LabelBinding::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::MouseButtonDblClick || !record_.DblClick || !record_.Enabled) {
     return QObject::eventFilter(watched, event);
   }
-  record_.DblClick();
+  if (gate_()) record_.DblClick();
   return true;
 }
 

@@ -10,7 +10,7 @@ namespace tr7 {
 /// A label; a double click on it reaches the record.
 class LabelBinding : public QObject, public WidgetBinding {
  public:
-  LabelBinding(Label& record, QLabel& label);
+  LabelBinding(Label& record, QLabel& label, const CommandGate& gate);
   void Push() override;
 
  protected:
@@ -19,6 +19,7 @@ class LabelBinding : public QObject, public WidgetBinding {
  private:
   Label& record_;
   QLabel& label_;
+  CommandGate gate_;
   std::optional<std::string> caption_;
   std::optional<double> width_;
 };

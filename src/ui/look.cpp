@@ -68,6 +68,13 @@ class Style : public QProxyStyle {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton ? size.expandedTo({contents.width() + 2 * kBeside, 0}) : size;
   }
+
+  /// The wheel scrolls what the mouse is over, and never chooses anything on the way.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_ComboBox_AllowWheelScrolling || hint == SH_TabBar_AllowWheelScrolling) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -14,6 +15,7 @@
 #include "forms/control.h"
 #include "state/app_state.h"
 #include "state/views.h"
+#include "ui/dialog_room.h"
 #include "ui/grid_table.h"
 #include "ui/look.h"
 #include "ui/twips.h"
@@ -28,17 +30,6 @@ constexpr std::int64_t kPushEveryUs = 16'000;
 constexpr std::int64_t kExposeUs = 200'000;
 
 bool Is(const View& view, std::string_view name) { return name == view.Name; }
-
-/// Over the middle of the window that it belongs to, within the screen.
-void PlaceDialog(QWidget& window) {
-  const QRect field = window.screen()->availableGeometry();
-  const QWidget* over = window.parentWidget() ? window.parentWidget()->window() : nullptr;
-  QRect place(QPoint(), window.size());
-  place.moveCenter(over && over->isVisible() ? over->geometry().center() : field.center());
-  place.moveRight(std::min(place.right(), field.right()));
-  place.moveLeft(std::max(place.left(), field.left()));
-  window.move(place.topLeft());
-}
 
 }  // namespace
 
@@ -66,7 +57,7 @@ QWidget* QtFormHost::ParentForDialogs() const {
 
 QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QWidget*& inner) {
   if (form.root == FormRoot::MainWindow) {
-    frame_ = new FrameWindow(view);
+    frame_ = new FrameWindow(view, [this] { return MayCommand(); });
     return inner = frame_;
   }
   if (view.MdiChild) {
@@ -79,8 +70,9 @@ QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QW
       layout->addWidget(inner);
       return dialog;
     }
-    auto* child = new ChildWindow(view);
-    child->setWidget(inner);
+    auto* child = new ChildWindow(view, [this] { return MayCommand(); });
+    child->setWidget(InScrollArea(*inner));
+    QObject::connect(inner, &QWidget::windowTitleChanged, child, &QWidget::setWindowTitle);
     return child;
   }
   if (form.root == FormRoot::Dialog) return inner = new DialogWindow(view, ParentForDialogs());
@@ -120,8 +112,7 @@ void QtFormHost::ShowFrame() {
     });
   }
   if (frame_->isVisible()) return;
-  frame_->PlaceByRecord();
-  frame_->show();
+  frame_->ShowByRecord();
 }
 
 /// The first view takes the whole frame; later ones open as the one before stands.
@@ -133,7 +124,8 @@ void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   }
   const QMdiSubWindow* before = mdi_->activeSubWindow();
   mdi_->addSubWindow(&child);
-  child.resize(Pixels(view.Width), Pixels(view.Height));
+  const QSize wanted(Pixels(view.Width), Pixels(view.Height));
+  child.resize(wanted.boundedTo(mdi_->viewport()->size()));
   if (!before || before->isMaximized()) {
     child.showMaximized();
   } else {
@@ -147,11 +139,12 @@ void QtFormHost::ShowDialog(View& view, QWidget& window, bool modal) {
   window.adjustSize();
   if (window.layout()->sizeConstraint() != QLayout::SetFixedSize) {
     const QSize wanted = window.sizeHint().expandedTo({Pixels(view.Width), Pixels(view.Height)});
-    window.resize(wanted.boundedTo(window.screen()->availableSize() - QSize(20, 60)));
+    window.resize(wanted.boundedTo(RoomForDialog(window)));
   }
   window.show();
   // Only now have lists and fonts given it its size.
   window.layout()->activate();
+  FoldDialog(window);
   PlaceDialog(window);
   window.raise();
   window.activateWindow();
@@ -237,6 +230,19 @@ void QtFormHost::SetFocus(Control& control) {
   if (!widget) return;
   Push();  // the record may just have switched the control on
   Find(*control.Owner)->Reveal(*widget);
+  wants_focus_ = widget;
+  GiveFocus();
+}
+
+bool QtFormHost::MayGiveFocus() const {
+  return wants_focus_ && wants_focus_->isEnabled() && wants_focus_->isVisible();
+}
+
+/// A control that a flow still holds off gets the focus when it comes on.
+void QtFormHost::GiveFocus() {
+  if (!MayGiveFocus()) return;
+  QWidget* widget = wants_focus_;
+  wants_focus_ = nullptr;
   widget->setFocus(Qt::OtherFocusReason);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
 }
@@ -276,6 +282,8 @@ void QtFormHost::Push() {
   pushing_ = true;
   for (const auto& [view, shown] : shown_) shown.bound->Push();
   pushing_ = false;
+  // Not in here: what the focus leaves may have a handler, and that may wait.
+  if (MayGiveFocus()) QTimer::singleShot(0, wants_focus_, [this] { GiveFocus(); });
   last_push_us_ = pump_.NowUs();
 }
 
@@ -313,11 +321,16 @@ void QtFormHost::Refresh() {
 
 // Asking.
 
-/// An open edit is finished before a command runs, and a refused one stops it.
+/// An open edit is finished before a command runs. A refused one stops it and comes to the front,
+/// where the bubble at the cell tells why; behind a dialogue nobody could mend it.
 bool QtFormHost::MayCommand() {
+  const QWidget* modal = QApplication::activeModalWidget();
   for (const auto& [view, shown] : shown_) {
     for (GridTable* grid : shown.bound->Grids()) {
-      if (!grid->FinishEdit()) return false;
+      if ((modal && grid->window() != modal) || grid->FinishEdit()) continue;
+      if (grid->Editor()) grid->Editor()->setFocus(Qt::OtherFocusReason);
+      BringToFront(shown.bound->Record());
+      return false;
     }
   }
   return true;

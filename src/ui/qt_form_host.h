@@ -64,6 +64,8 @@ class QtFormHost : public FormHost {
   void ShowDialog(View& view, QWidget& window, bool modal);
   bool MayCommand();
   std::optional<std::int64_t> PushWhenDue();
+  bool MayGiveFocus() const;
+  void GiveFocus();
   void PaintNow();
   void Wait(const std::function<bool()>& answered);
 
@@ -73,6 +75,7 @@ class QtFormHost : public FormHost {
   std::multimap<const View*, QPointer<QWidget>> leaving_;
   FrameWindow* frame_ = nullptr;
   QMdiArea* mdi_ = nullptr;
+  QPointer<QWidget> wants_focus_;
   std::int64_t last_push_us_ = 0;
   bool pushing_ = false;
   int wait_cursors_ = 0;

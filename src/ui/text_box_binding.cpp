@@ -72,6 +72,7 @@ void TextBoxBinding::Push() {
     edit_.setMaxLength(*max_length_);
   }
   if (Changed(text_, record_.Text)) edit_.setText(text);
+  if (Changed(prompt_, record_.Prompt)) edit_.setPlaceholderText(Q(record_.Prompt));
   if (Changed(input_method_off_, record_.InputMethodOff)) {
     edit_.setAttribute(Qt::WA_InputMethodEnabled, !record_.InputMethodOff);
   }

@@ -26,7 +26,7 @@ class TextBoxBinding : public QObject, public WidgetBinding {
   TextBox& record_;
   QLineEdit& edit_;
   QPointer<QValidator> validator_;  ///< owned; the edit may die first and takes it along then
-  std::optional<std::string> text_;
+  std::optional<std::string> text_, prompt_;
   std::optional<int> max_length_;
   std::optional<bool> input_method_off_;
   bool pushing_ = false;

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 #include <algorithm>
 
 #include "forms/control.h"
@@ -14,6 +15,8 @@
 
 namespace tr7 {
 namespace {
+
+constexpr int kFrameKnownMs = 150;
 
 /// The button that Escape presses, when it can be pressed.
 CommandButton* CancelButton(const View& view) {
@@ -32,8 +35,9 @@ bool HasDefaultButton(const View& view) {
 }
 
 /// The user asks to close a view. The window stays until the record's close takes it away.
-void AskToClose(View& view, QCloseEvent& event) {
+void AskToClose(View& view, QCloseEvent& event, const CommandGate& gate) {
   event.ignore();
+  if (!gate()) return;
   if (view.RefuseClose) {
     doors.forms->Beep();
   } else if (view.Visible) {
@@ -56,6 +60,25 @@ void FrameWindow::PlaceByRecord() {
   setGeometry(wanted);
 }
 
+void FrameWindow::ShowByRecord() {
+  PlaceByRecord();
+  view_.Maximised ? showMaximized() : show();
+  // What the window system has put around the window is known only now.
+  QTimer::singleShot(kFrameKnownMs, this, &FrameWindow::KeepOnScreen);
+}
+
+/// A window whose edges stand beyond the screen's moves in, and shrinks where that is not enough.
+void FrameWindow::KeepOnScreen() {
+  if (!isVisible() || windowState() != Qt::WindowNoState) return;
+  const QRect field = screen()->availableGeometry(), outer = frameGeometry(), inner = geometry();
+  QRect place(outer.topLeft(), outer.size().boundedTo(field.size()));
+  place.moveTo(std::clamp(place.left(), field.left(), field.right() - place.width() + 1),
+               std::clamp(place.top(), field.top(), field.bottom() - place.height() + 1));
+  if (place == outer) return;
+  setGeometry(place.adjusted(inner.left() - outer.left(), inner.top() - outer.top(),
+                             inner.right() - outer.right(), inner.bottom() - outer.bottom()));
+}
+
 void FrameWindow::KeepRectangle() {
   if (!isVisible() || isMinimized() || isMaximized() || isFullScreen()) return;
   const QRect place = geometry();
@@ -65,7 +88,7 @@ void FrameWindow::KeepRectangle() {
   view_.Height = Twips(place.height());
 }
 
-void FrameWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+void FrameWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event, gate_); }
 
 void FrameWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
@@ -79,10 +102,12 @@ void FrameWindow::resizeEvent(QResizeEvent* event) {
 
 void FrameWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) view_.Minimised = isMinimized();
+  if (event->type() != QEvent::WindowStateChange) return;
+  view_.Minimised = isMinimized();
+  if (!view_.Minimised) view_.Maximised = isMaximized();
 }
 
-void ChildWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+void ChildWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event, gate_); }
 
 DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_(view) {
   Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
@@ -90,7 +115,9 @@ DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_
   setWindowFlags(flags);
 }
 
-void DialogWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event); }
+void DialogWindow::closeEvent(QCloseEvent* event) {
+  AskToClose(view_, *event, [] { return true; });
+}
 
 /// A key that the control with the focus has left alone.
 void DialogWindow::keyPressEvent(QKeyEvent* event) {

@@ -5,20 +5,21 @@
 #include <QMdiSubWindow>
 
 #include "forms/view.h"
+#include "ui/binding.h"
 
 namespace tr7 {
 
 // The kinds of windows. They carry the user's wish to close, move or activate a window into the
-// record; what comes of it is the logic's.
+// record; what comes of it is the logic's. A close is a command: it finishes an open edit first.
 
 /// The frame. Its rectangle is kept in the record.
 class FrameWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit FrameWindow(View& view) : view_(view) {}
-  /// The record's rectangle, moved into the screen when it lies outside of all.
-  void PlaceByRecord();
+  FrameWindow(View& view, CommandGate gate) : view_(view), gate_(std::move(gate)) {}
+  /// Shows the window where the record has it, moved into the screen when it lies beyond.
+  void ShowByRecord();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -27,9 +28,12 @@ class FrameWindow : public QMainWindow {
   void changeEvent(QEvent* event) override;
 
  private:
+  void PlaceByRecord();
+  void KeepOnScreen();
   void KeepRectangle();
 
   View& view_;
+  CommandGate gate_;
 };
 
 /// A view inside the frame.
@@ -37,13 +41,14 @@ class ChildWindow : public QMdiSubWindow {
   Q_OBJECT
 
  public:
-  explicit ChildWindow(View& view) : view_(view) {}
+  ChildWindow(View& view, CommandGate gate) : view_(view), gate_(std::move(gate)) {}
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
   View& view_;
+  CommandGate gate_;
 };
 
 /// A dialogue. Escape presses its cancel button, Enter its default one: without one, Enter presses

@@ -227,6 +227,28 @@ TEST_F(StartTest, AnotherPortEndsTheSessionAndTheNextUseConnects) {
   ExpectOnline();
 }
 
+TEST_F(StartTest, EveryPortNumberIsReachedAndADevicePathMayBeTyped) {
+  StartOffline();
+  forms.on_modal["frmOptions2"] = [](View&) {
+    ComboBox& devices = frmOptions2.comboPortDevice;
+    devices.Pick(static_cast<int>(devices.List.size()) - 1);
+    EXPECT_EQ(frmOptions2.txtPortNo.Text, "9");
+    EXPECT_EQ(devices.Text(), "");
+    devices.Type(" /dev/serial/by-id/adapter");
+    frmOptions2.cmdOk.Press();
+  };
+  frmMain.mnuSettingOptions.Press();
+  EXPECT_EQ(AppState.PortNo, 9);
+  EXPECT_EQ(virt.settings.Get("Settings", "PortDevice9", ""), "/dev/serial/by-id/adapter");
+  forms.on_modal["frmOptions2"] = [](View&) {
+    EXPECT_EQ(frmOptions2.comboPortDevice.Text(), "/dev/serial/by-id/adapter");
+    frmOptions2.comboPortDevice.Pick(0);
+    frmOptions2.cmdOk.Press();
+  };
+  frmMain.mnuSettingOptions.Press();
+  EXPECT_EQ(virt.settings.Get("Settings", "PortDevice9", ""), "sim");
+}
+
 // The offline start's devices.
 
 class OfflineStartTest : public FlowTest {

@@ -49,14 +49,13 @@ TEST_F(StrokeCalc, PulsesOfAStroke) {
       {"100", "6", "6667", "3200"},  // 6666.67: up
       {"50", "12", "1667", "800"},
       {"25", "8", "1250", "600"},
-      {"7", "12", "234", "112"},         // 233.33: up
-      {"100", "9", "4445", "2134"},      // 4444.44, 2133.33: any lead is computed with
-      {"9999", "2", "199800", "95904"},  // the field takes three digits
-      {"0", "2", "0", "0"},
+      {"25", "12", "834", "400"},  // 833.33: up
+      {"600", "4", "60000", "28800"},
+      {"24", "2", "Invalidity", "Invalidity"},
+      {"601", "2", "Invalidity", "Invalidity"},
+      {"100", "9", "Invalidity", "Invalidity"},
       {"", "2", "Invalidity", "Invalidity"},
       {"100", "", "Invalidity", "Invalidity"},
-      {"", "", "Invalidity", "Invalidity"},
-      {"100", "0", "Invalidity", "Invalidity"},
   };
   Open([&] {
     for (const auto& row : rows) {
@@ -68,21 +67,17 @@ TEST_F(StrokeCalc, PulsesOfAStroke) {
   });
 }
 
-TEST_F(StrokeCalc, ItOpensWithPromptsThatGiveWay) {
+TEST_F(StrokeCalc, AValueOutOfItsRangeIsNamedAndGoneTo) {
   Open([&] {
-    EXPECT_EQ(c.txtCulStroke.Text, "integer:25 to 600");
-    EXPECT_EQ(c.txtCulLead.Text, "integer:2 or 4 or 6 or 8 or 12");
-    EXPECT_EQ(c.lblStrokePulse.Caption, "");
+    EXPECT_EQ(c.txtCulStroke.Text, "") << "the range is no text of the field";
     EXPECT_TRUE(c.optActType[0].Value);
     EXPECT_TRUE(c.optInputSaki[0].Value);
-    c.cmdCulStrokePulse.Press();
-    EXPECT_EQ(c.lblStrokePulse.Caption, "Invalidity");
-    c.txtCulStroke.GotFocus();
-    EXPECT_EQ(c.txtCulStroke.Text, "");
-    c.txtCulStroke.Type("50");
-    c.txtCulStroke.GotFocus();
-    EXPECT_EQ(c.txtCulStroke.Text, "50");
+    Calculate("100", "9");
   });
+  ASSERT_EQ(forms.boxes.size(), 1u);
+  EXPECT_EQ(forms.boxes[0].Text,
+            "Lead (mm per turn) is out of range (integer:2 or 4 or 6 or 8 or 12).");
+  EXPECT_EQ(forms.focus, &c.txtCulLead);
 }
 
 TEST_F(StrokeCalc, TheResultGoesIntoTheChosenAxisAndTheFocusOn) {

@@ -72,9 +72,11 @@ TEST_F(SettingsTest, TheWindowsRectangleGoesToTheStore) {
   frmMain.Top = 30;
   frmMain.Width = 15240;
   frmMain.Height = 11000;
+  frmMain.Maximised = true;
   AppState.PortNo = 4;
   SaveSettingsAtExit();
   const auto stored = [this](const char* key) { return virt.settings.Get("Settings", key, ""); };
+  EXPECT_EQ(stored("MainMaximised"), "1");
   EXPECT_EQ(stored("MainLeft"), "-12.5");
   EXPECT_EQ(stored("MainTop"), "30");
   EXPECT_EQ(stored("MainWidth"), "15240");

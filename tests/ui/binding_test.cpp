@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QToolBar>
 
+#include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
@@ -156,6 +157,28 @@ TEST_F(BindingTest, AComboBoxGoesBothWays) {
   QTest::keyClick(&combo, Qt::Key_Up);
   Settle();
   EXPECT_EQ(combo.currentIndex(), 0);
+  // This one takes a text that is not in the list, with the cursor where it was.
+  combo.lineEdit()->setCursorPosition(2);
+  QTest::keyClick(&combo, Qt::Key_X);
+  Settle();
+  EXPECT_EQ(record.Text() + "/" + Of(combo.currentText()), "onxe/onxe");
+  EXPECT_EQ(record.ListIndex, -1);
+  EXPECT_EQ(combo.lineEdit()->cursorPosition(), 3);
+}
+
+TEST_F(BindingTest, TheWheelChoosesNothingAndScrollsWhatIsAround) {
+  ComboBox& record = frmDevice2.comboAxisSelect;
+  for (const char* entry : {"one", "two"}) record.AddItem(entry, 0);
+  record.ListIndex = 0;
+  auto& combo = Draw<QComboBox>(record);
+  for (const bool focused : {false, true}) {
+    focused ? combo.setFocus() : combo.clearFocus();
+    QWheelEvent turn({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&combo, &turn);
+    EXPECT_EQ(record.ListIndex, 0);
+    EXPECT_FALSE(turn.isAccepted());
+  }
 }
 
 TEST_F(BindingTest, ATabStripGoesBothWaysAndKeepsOffTabsThatAreOff) {

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabBar>
 
@@ -86,8 +87,10 @@ bool IsInside(const QWidget& widget) {
     QRect place(widget.mapTo(outer, QPoint(0, 0)), widget.size());
     const auto* scroll = qobject_cast<const QScrollArea*>(outer->parentWidget());
     if (scroll && scroll->viewport() == outer) {
-      const int width = outer->width();
-      return place.left() >= 0 && place.right() < width;
+      // Sideways only where the screen is smaller than the views are made for.
+      const bool wide = scroll->screen()->size().width() >= 1280;
+      if (wide && (place.left() < 0 || place.right() >= outer->width())) return false;
+      return IsInside(*scroll);
     }
     if (!outer->rect().contains(place)) return false;
     if (outer->isWindow()) break;

@@ -7,72 +7,14 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "core/main_entry.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
-#include "tests/ui/ui_test.h"
-#include "ui/grid_table.h"
+#include "tests/ui/grid_screen.h"
 
 namespace tr7 {
 namespace {
-
-constexpr int kFirst = kPosiHeaderRows;
-
-class GridTest : public UiTest {
- protected:
-  void SetUp() override { Start(false); }
-
-  /// The tool offline, with the new table of 15 lines that it proposes.
-  void Start(bool program_mode) {
-    desktop.settings.Set("Settings", "Language", "2");
-    user.on_modal["frmSelection"] = user.on_modal["frmSelection2"] = [program_mode](View& view) {
-      auto& selection = static_cast<SelectionView&>(view);
-      selection.options[selection.lblPrompt.Caption == Text(74) ? program_mode : 1]->Press();
-      selection.cmdOk.Press();
-    };
-    frmSplash.timerSplash.Interval = 10;
-    Main();
-    frmPosi.cmdPosiNew.Press();
-    ASSERT_EQ(grid.Rows(), kFirst + 15);
-    Settle();
-    table = qobject_cast<GridTable*>(desktop.forms.WidgetOf(grid));
-    ASSERT_NE(table, nullptr);
-    GoTo(kFirst, FirstShownColumn());
-  }
-  void GoTo(int row, int col) {
-    grid.SelectCell(row, col);
-    Settle();
-  }
-  /// To whatever has the keys: the open editor, else the grid.
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWidget* target = table->Editor();
-    QTest::keyClick(target ? target : table, key, modifiers);
-    Settle();
-  }
-  void Keys(const char* text) {
-    for (; *text; ++text) {
-      QWidget* target = table->Editor();
-      QTest::keyClick(target ? target : table, *text);
-    }
-  }
-  std::string Cell(int row, int col) const { return grid.Text(row, col); }
-  std::pair<int, int> Current() const { return {grid.Row, grid.Col}; }
-  std::pair<int, int> Corner() const { return {grid.RowSel, grid.ColSel}; }
-  std::string Edited() const { return table->Editor() ? Of(table->Editor()->text()) : "none"; }
-  static std::string Of(const QString& text) { return text.toStdString(); }
-  QPoint Middle(int row, int col) const { return table->CellRect(row, col).center(); }
-  static QString SystemText() { return QGuiApplication::clipboard()->text(); }
-  std::string Hint() const { return frmMain.sbStatusBar.Panels[kPanelError]; }
-
-  Grid& grid = frmPosi.flgdData;
-  GridTable* table = nullptr;
-};
-
-using At = std::pair<int, int>;
 
 TEST_F(GridTest, TypingReplacesTheCellAndEnterTakesItAndMovesOn) {
   Keys("3");
@@ -126,6 +68,10 @@ TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
     EXPECT_EQ(Current(), At(kFirst, kVel));
     EXPECT_EQ(Cell(kFirst, kVel), old);
     EXPECT_FALSE(Hint().empty());
+    EXPECT_TRUE(table->Refusal().contains("99999") && table->Refusal().contains("50"))
+        << Of(table->Refusal());
+    Keys("9");
+    EXPECT_FALSE(table->Refusal().isEmpty()) << "until the value is taken";
   }
   // Neither the mouse nor a command gets past it.
   Keys("99999");
@@ -140,6 +86,26 @@ TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
   insert->click();
   EXPECT_EQ(grid.Rows(), kFirst + 16) << "a good edit is taken first, then the command runs";
   EXPECT_EQ(Cell(kFirst + 1, kVel), "31");
+  EXPECT_TRUE(table->Refusal().isEmpty());
+}
+
+TEST_F(GridTest, ClosingTakesAnOpenEditOrStaysForARefusedOne) {
+  user.on_box = [](const std::string&) { return MsgAnswer::Cancel; };
+  Keys("99999");
+  table->window()->close();
+  EXPECT_TRUE(user.boxes.empty()) << "nothing else is asked before";
+  EXPECT_TRUE(table->IsEditing());
+  EXPECT_FALSE(table->Refusal().isEmpty());
+  Keys("37");
+  table->window()->close();
+  EXPECT_EQ(user.boxes, std::vector{Text(391)});
+  EXPECT_EQ(Cell(kFirst, kVel), "37");
+  // A double click on the mode is a command too.
+  int clicks = 0;
+  frmMain.lblCtMode.DblClick = [&clicks] { ++clicks; };
+  Keys("99999");
+  QTest::mouseDClick(desktop.forms.WidgetOf(frmMain.lblCtMode), Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
 }
 
 struct Move {

@@ -12,7 +12,8 @@ UiTest::FreshState::FreshState() {
   UseJapanese(false);
 }
 
-UiTest::UiTest() : desktop({folder.filePath("settings.ini"), false}), user(desktop.forms) {}
+UiTest::UiTest()
+    : desktop({folder.filePath("settings.ini"), false, QLocale::c()}), user(desktop.forms) {}
 
 void UiTest::UseJapanese(bool japanese) {
   AppState.LanguageNo = japanese ? 1 : 2;

@@ -40,6 +40,20 @@ class WindowTest : public UiTest {
   QWidget& Frame() const { return WindowOf(frmMain.lblStatus); }
 };
 
+TEST(FirstStart, SpeaksTheLocalesLanguageUntilAnotherIsChosen) {
+  const QTemporaryDir folder;
+  const std::pair<const char*, const char*> starts[] = {
+      {"ja_JP", "1"}, {"en_GB", "2"}, {"de_DE", "2"}, {"C", "2"}};
+  for (const auto& [locale, language] : starts) {
+    const QString file = folder.filePath(locale);
+    EXPECT_EQ(Desktop({file, false, QLocale(locale)}).settings.Get("Settings", "Language", ""),
+              language);
+    EXPECT_EQ(Desktop({file, true, QLocale("ja_JP")}).settings.Get("Settings", "Language", ""),
+              language)
+        << "the stored one wins";
+  }
+}
+
 // The frame.
 
 TEST_F(WindowTest, ClosingTheWindowEndsTheTool) {
@@ -49,12 +63,13 @@ TEST_F(WindowTest, ClosingTheWindowEndsTheTool) {
   EXPECT_TRUE(user.boxes.empty());
 }
 
-TEST_F(WindowTest, ClosingTheWindowWhileBusyDoesNothing) {
+TEST_F(WindowTest, ClosingTheWindowWhileBusySaysWhyNot) {
   StartOffline();
   AppState.ComBusy = True;
   Frame().close();
   EXPECT_FALSE(desktop.forms.Ended());
   EXPECT_TRUE(user.boxes.empty());
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5941));
   EXPECT_TRUE(Frame().isVisible());
   frmMain.mnuFileExit.Press();
   EXPECT_TRUE(desktop.forms.Ended()) << "the menu's way goes on";
@@ -94,6 +109,14 @@ TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
   Frame().showMaximized();
   Settle();
   EXPECT_EQ(frmMain.Width, Twips(900)) << "a full screen is not a place";
+  desktop.forms.Hide(frmMain);
+  desktop.forms.Show(frmMain);
+  Settle();
+  EXPECT_TRUE(Frame().isMaximized());
+  EXPECT_EQ(frmMain.Width, Twips(900));
+  Frame().showNormal();
+  Settle();
+  EXPECT_FALSE(frmMain.Maximised);
   desktop.forms.Hide(frmMain);
   Settle();
   frmMain.Left = Twips(-9000);
@@ -162,6 +185,20 @@ TEST_F(WindowTest, ViewsInNumbersShareALayoutAndGoWhenTheyAreClosed) {
   EXPECT_TRUE(Until(
       [&windows] { return PageView::living == 0 && windows[0].isNull() && windows[2].isNull(); }));
   EXPECT_EQ(ActiveView(), &frmPosi);
+}
+
+TEST_F(WindowTest, EscapeIsCancelWhileThatIsShown) {
+  StartOffline();
+  int cancels = 0;
+  frmMain.cmdComCancel.Click = [&cancels] { ++cancels; };
+  Frame().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Frame()));
+  for (const bool shown : {false, true}) {
+    frmMain.cmdComCancel.Visible = frmMain.cmdComCancel.Enabled = shown;
+    Settle();
+    QTest::keyClick(Frame().windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(Until([&cancels] { return cancels > 0; }, shown ? 1000 : 50), shown);
+  }
 }
 
 // Dialogues.

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <string>
+#include <utility>
+
+#include "core/main_entry.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_selection.h"
+#include "forms/frm_splash.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+#include "tests/ui/ui_test.h"
+#include "ui/grid_table.h"
+
+namespace tr7 {
+
+constexpr int kFirst = kPosiHeaderRows;
+
+using At = std::pair<int, int>;
+
+/// The position grid on the screen, with the user's hands on it.
+class GridTest : public UiTest {
+ protected:
+  void SetUp() override { Start(false); }
+
+  /// The tool offline, with the new table of 15 lines that it proposes.
+  void Start(bool program_mode) {
+    desktop.settings.Set("Settings", "Language", "2");
+    user.on_modal["frmSelection"] = user.on_modal["frmSelection2"] = [program_mode](View& view) {
+      auto& selection = static_cast<SelectionView&>(view);
+      selection.options[selection.lblPrompt.Caption == Text(74) ? program_mode : 1]->Press();
+      selection.cmdOk.Press();
+    };
+    frmSplash.timerSplash.Interval = 10;
+    Main();
+    frmPosi.cmdPosiNew.Press();
+    ASSERT_EQ(grid.Rows(), kFirst + 15);
+    Settle();
+    table = qobject_cast<GridTable*>(desktop.forms.WidgetOf(grid));
+    ASSERT_NE(table, nullptr);
+    table->window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(table->window()));
+    GoTo(kFirst, FirstShownColumn());
+  }
+  void GoTo(int row, int col) {
+    grid.SelectCell(row, col);
+    Settle();
+  }
+  /// To whatever has the keys: the open editor, else the grid.
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* target = table->Editor();
+    QTest::keyClick(target ? target : table, key, modifiers);
+    Settle();
+  }
+  void Keys(const char* text) {
+    for (; *text; ++text) {
+      QWidget* target = table->Editor();
+      QTest::keyClick(target ? target : table, *text);
+    }
+  }
+  std::string Cell(int row, int col) const { return grid.Text(row, col); }
+  std::pair<int, int> Current() const { return {grid.Row, grid.Col}; }
+  std::pair<int, int> Corner() const { return {grid.RowSel, grid.ColSel}; }
+  std::string Edited() const { return table->Editor() ? Of(table->Editor()->text()) : "none"; }
+  static std::string Of(const QString& text) { return text.toStdString(); }
+  QPoint Middle(int row, int col) const { return table->CellRect(row, col).center(); }
+  static QString SystemText() { return QGuiApplication::clipboard()->text(); }
+  std::string Hint() const { return frmMain.sbStatusBar.Panels[kPanelError]; }
+
+  Grid& grid = frmPosi.flgdData;
+  GridTable* table = nullptr;
+};
+
+}  // namespace tr7

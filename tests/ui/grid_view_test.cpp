@@ -1,0 +1,58 @@
+// What the position grid shows where, and what it keeps over a command.
+
+#include <QPushButton>
+#include <QScrollBar>
+
+#include "tests/ui/grid_screen.h"
+
+namespace tr7 {
+namespace {
+
+TEST_F(GridTest, GrowingALineSelectionScrollsDownAlone) {
+  table->window()->resize(800, 560);
+  Settle();
+  grid.Select(5, 1, 5, kComment);
+  Settle();
+  table->horizontalScrollBar()->setValue(40);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(Corner(), At(6, kComment));
+  EXPECT_EQ(table->horizontalScrollBar()->value(), 40);
+}
+
+TEST_F(GridTest, DevicesStandOverTheirAxesWhereverTheGridIsScrolledTo) {
+  table->window()->resize(800, 560);
+  for (const int scrolled : {0, 337, 500, 1000}) {
+    Settle();
+    table->horizontalScrollBar()->setValue(scrolled);
+    for (std::size_t axis = 0; axis < frmPosi.lblDeviceType.size(); ++axis) {
+      const QWidget& label = *desktop.forms.WidgetOf(*frmPosi.lblDeviceType[axis]);
+      const int left = label.mapTo(table->window(), QPoint()).x();
+      const auto x_of = [this](int col) {
+        return table->viewport()
+            ->mapTo(table->window(), table->CellRect(kFirst, col).topLeft())
+            .x();
+      };
+      const int first = x_of(AxisBase(static_cast<int>(axis)) + kVel);
+      const bool whole = first >= 0 && first + 180 < 800;
+      if (whole) {
+        EXPECT_TRUE(label.isVisible() && left - first >= 0 && left - first < 20)
+            << axis << " at " << left << ", its axis at " << first;
+      }
+    }
+  }
+}
+
+TEST_F(GridTest, SaveKeepsTheCellAndGivesTheFocusBack) {
+  user.on_file = [this] { return folder.filePath("saved.qvd"); };
+  GoTo(kFirst + 3, kPosi);
+  auto* save = qobject_cast<QPushButton*>(desktop.forms.WidgetOf(frmPosi.cmdPosiSave));
+  save->setFocus();
+  save->click();
+  Settle();
+  EXPECT_EQ(frmPosi.Caption.find("saved") != std::string::npos, true) << frmPosi.Caption;
+  EXPECT_EQ(table->window()->focusWidget(), table);
+  EXPECT_EQ(Current(), At(kFirst + 3, kPosi));
+}
+
+}  // namespace
+}  // namespace tr7
