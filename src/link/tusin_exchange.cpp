@@ -78,10 +78,10 @@ TusinEnd PortLost() {
   return TusinEnd::PortFailed;
 }
 
-/// The last of the lines that came in one piece.
+/// The last of the lines, ends included, that came in one piece.
 std::string_view LastLine(std::string_view lines) {
-  const std::size_t end = lines.size() < 2 ? 0 : lines.rfind("\r\n", lines.size() - 3);
-  return end == 0 || end == std::string_view::npos ? lines : lines.substr(end + 2);
+  const std::size_t end = lines.substr(0, lines.size() - 2).rfind("\r\n");
+  return end == std::string_view::npos ? lines : lines.substr(end + 2);
 }
 
 TusinEnd JudgeReply(TusinRequest& request) {
@@ -113,11 +113,11 @@ Exchange TusinExchange(TusinRequest& request) {
       co_await Until{IsAnsweredOrCutShort};
       if (PortIsLost()) co_return PortLost();
       if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
-      const bool answered = AppState.TusinReplyReady;
+      TusinQueue.late_reply_possible = false;
+      if (!AppState.TusinReplyReady) co_return TusinEnd::TimedOut;
       const std::string_view line = LastLine(AppState.TusinReplyText);
-      TusinQueue.late_reply_possible = flush = answered && !line.starts_with(kResyncPrefix);
-      if (!answered) co_return TusinEnd::TimedOut;
       if (line.starts_with(kErrorPrefix)) co_return TusinEnd::ErrorReply;
+      TusinQueue.late_reply_possible = flush = !line.starts_with(kResyncPrefix);
       AppState.TusinReplyReady = False;
     }
 

@@ -105,6 +105,9 @@ void ChangeWeather(Voyage& voyage) {
       return voyage.Note("power-cycle");
     case 5:
       return AnotherController(voyage);
+    case 6:
+      voyage.virt.pump.After(random.Below(3'000'000), [&port] { port.Vanish(); });
+      return voyage.Note("port-vanishes");
     default:
       return;
   }
