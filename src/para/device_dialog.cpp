@@ -104,8 +104,8 @@ void TakeChosenAxes(DeviceView& view) {
   ParaFlags.ShownAxisCount = 0;  // the parameter view shows the axes in use again
 }
 
-std::array<Bool16, kAxes> MukoOfCount(int count) {
-  std::array<Bool16, kAxes> muko;
+AxisArray<Bool16> MukoOfCount(int count) {
+  AxisArray<Bool16> muko;
   for (int axis = 0; axis < kAxes; ++axis) muko[static_cast<std::size_t>(axis)] = axis >= count;
   return muko;
 }

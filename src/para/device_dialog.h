@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
+#include "base/axes.h"
 #include "device/dev_setting.h"
 #include "device/device_cascade.h"
 #include "state/app_state.h"
@@ -24,7 +24,7 @@ DeviceAnswer AskDevices(DeviceView& view);
 int SelectDeviceForPara();
 
 /// Axes of which AXIS1 to the `count`-th (1 to 4) are in use, as flags and as a mask.
-std::array<Bool16, kAxes> MukoOfCount(int count);
+AxisArray<Bool16> MukoOfCount(int count);
 std::int16_t MaskOfCount(int count);
 
 /// The axes that the dialogue asks for become those in use.
@@ -46,7 +46,7 @@ class AxesOnTrial {
   bool Changed() const;
 
  private:
-  std::array<Bool16, kAxes> muko_;
+  AxisArray<Bool16> muko_;
   std::int16_t count_, pattern_;
   bool kept_ = false;
 };

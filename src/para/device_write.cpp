@@ -3,32 +3,27 @@
 #include <cstdint>
 #include <string>
 
-#include "base/scope.h"
 #include "device/ct_device.h"
 #include "forms/frm_device.h"
 #include "forms/frm_posi.h"
-#include "link/port.h"
-#include "link/status_commands.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
 #include "platform/doors.h"
-#include "session/session.h"
 #include "state/app_state.h"
-#include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/online.h"
 #include "state/text.h"
+#include "steps/held_axes.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgLineFailed = 377;
-constexpr int kMsgMoving = 424;
 constexpr int kMsgPowerCycle = 496;
-constexpr int kAllAxes = 0xF;
 
 enum class WriteResult {
   Done,
@@ -72,21 +67,11 @@ bool AxesOfCtAreKnown(bool was_offline) {
   return true;
 }
 
-bool AxesStandStill() {
-  const int rest = ReadAlarmFromCt();
-  if (rest == 0) MsgBox(Text(kMsgMoving));
-  return rest == 1;
-}
-
 /// Shows that a command failed, beside what the exchange has shown; true when it did not.
 bool GoodOrTold(int result) {
   if (result != 0) MsgBox(Text(kMsgLineFailed));
   return result == 0;
 }
-
-/// While axes are held, the controller's inputs start no move.
-int HoldAxes() { return CtControlModeSet(1, 0, kAllAxes); }
-int ReleaseAxes() { return CtControlModeSet(0, 0, 0); }
 
 /// The axes that the dialogue asks for, here and in the controller.
 bool WriteAxes() {
@@ -96,7 +81,7 @@ bool WriteAxes() {
 }
 
 bool ReadParameters() {
-  return ReadCtAxisFromCt() == 0 && ReadParaFromCt() == 0 && TakeParamTable() == 0;
+  return ReadCtAxisFromCt() == 0 && ReadParaFromCt() == Outcome::Done && TakeParamTable() == 0;
 }
 
 bool MakeParameters() {
@@ -109,14 +94,7 @@ bool MakeParameters() {
 
 WriteResult WriteHeld() {
   if (!WriteAxes() || !ReadParameters() || !MakeParameters()) return WriteResult::NotBegun;
-  return WriteParaToCt() == 0 ? WriteResult::Done : WriteResult::Failed;
-}
-
-/// After a failure that left the line healthy the axes must not stay held; after a refusal nothing
-/// more is sent.
-void Release(WriteResult result) {
-  if (result != WriteResult::Done && (AppState.Offline || AppState.AlarmOn)) return;
-  GoodOrTold(ReleaseAxes());
+  return WriteParaToCt() == Outcome::Done ? WriteResult::Done : WriteResult::Failed;
 }
 
 /// The controller drives other axes from its next start on; until then its word about axes at rest
@@ -132,18 +110,21 @@ void TakeWritten() {
 }
 
 void Write(bool was_offline) {
-  if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill() || !GoodOrTold(HoldAxes())) return;
+  if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill()) return;
+  HeldAxes held;
+  if (!held.Hold()) return;
   AxesOnTrial axes;
   const ParamSetRecord parameters = ParamSet;
   const std::int16_t axes_before = AppState.AxisPattern;
   const WriteResult result = WriteHeld();
-  Release(result);
   if (result == WriteResult::Done) {
+    static_cast<void>(held.Release());  // a failure has been told; the parameters are stored
     axes.Keep();
     TakeWritten();
     TellWritten(AppState.AxisPattern != axes_before);
     return;
   }
+  held.GiveUp();
   ParamSet = parameters;
   if (result == WriteResult::Failed) MsgBox(Text(1528));
 }
@@ -162,13 +143,11 @@ void Device3CMDBTN_Yuko() {
 
 void PrmCtWrite() {
   const DialogRests dialog_rests;
-  const CommandsOff commands_off;
-  const BusyScope busy;
+  const TransferScope transfer;
   if (!WarnBeforeWrite() || OpenPortOrTell() != 0) return;
   const bool was_offline = AppState.Offline;
   LiftOffline();
   Write(was_offline);
-  TusinPortClose();
   if (was_offline) SetOffline();
 }
 

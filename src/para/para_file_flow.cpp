@@ -1,6 +1,5 @@
 #include "para/para_file_flow.h"
 
-#include <optional>
 #include <string>
 
 #include "para/para_blocks.h"
@@ -9,53 +8,27 @@
 #include "para/para_file.h"
 #include "para/para_show.h"
 #include "para/param_set.h"
-#include "platform/doors.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/text.h"
-#include "state/wait.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
 namespace {
 
-constexpr int kTries = 4;
-constexpr int kPauseMs = 100;
+constexpr DataFile kParaDataFile{1827, "pmt", 12};
 
 constexpr int kMsgOpenFailed = 681;
 constexpr int kMsgBadValue = 6151;
 
-std::optional<std::string> AskOpenPath() {
-  FileDialogCall call;
-  call.Title = Text(686);
-  call.Filter = Text(1827);
-  call.DefaultExtension = "pmt";
-  const auto path = doors.forms->FileDialog(call);
-  return path && path->empty() ? std::nullopt : path;
-}
-
-std::optional<std::string> AskSavePath() {
-  const auto path = doors.forms->FileDialog({.Save = true,
-                                             .Title = Text(11),
-                                             .Filter = Text(1827),
-                                             .ProposedName = Text(12),
-                                             .DefaultExtension = "pmt",
-                                             .OverwritePrompt = true});
-  return path && path->empty() ? std::nullopt : path;
-}
-
 /// A message, and behind it why the file could not be read or written, where there is more to say.
-void Tell(int message_id) {
-  const std::string& reason = ParaFlags.FileFaultText;
-  MsgBox(reason.empty() ? Text(message_id) : Text(message_id) + "\n\n" + reason);
+void TellFileFault(int message_id) {
+  MsgBox(WithReason(Text(message_id), ParaFlags.FileFaultText));
 }
 
-int ReadFourTimes(const std::string& path) {
-  for (int tries = 1;; ++tries) {
-    ParaFlags.ParaFileBad = False;
-    if (ReadParaTable(path) == 0) return 0;
-    if (tries == kTries) return 1;
-    TusinWaitMs(kPauseMs);
-  }
+Attempt Read(const std::string& path) {
+  ParaFlags.ParaFileBad = False;
+  return ReadParaTable(path) == 0 ? Attempt::Good : Attempt::MayPass;
 }
 
 /// What was read into `ParamSet`: all of it, or nothing with `ParaFileBad`.
@@ -86,25 +59,24 @@ int SaveParaToFile() {
   const CommandsOff commands_off;
   const BusyScope busy;
   if (!TakeFromView()) return 1;
-  const auto path = AskSavePath();
+  const auto path = AskSavePath(kParaDataFile, 11);
   if (!path) return 1;
   if (WriteParaFile(*path) != 0) {
-    Tell(13);
+    TellFileFault(13);
     return 1;
   }
   MarkParaSaved();
-  MsgBox(Text(14), MsgButtons::Ok, MsgIcon::Information);
+  TellDone(14);
   return 0;
 }
 
 void OpenParaFile() {
   const CommandsOff commands_off;
   const BusyScope busy;
-  const auto path = AskOpenPath();
-  if (!path) return;
-  ParaFlags.ParaFileBad = False;
-  if (ReadParaTable(*path) != 0 || TakeOver() != 0) {
-    Tell(kMsgOpenFailed);
+  const auto path = AskOpenPath(kParaDataFile, 686);
+  if (!path || path->empty()) return;
+  if (Read(*path) != Attempt::Good || TakeOver() != 0) {
+    TellFileFault(kMsgOpenFailed);
     return;
   }
   ParametaHyoji();
@@ -114,10 +86,10 @@ void OpenParaFile() {
 int OpenParaForDevice() {
   const CommandsOff commands_off;
   const BusyScope busy;
-  const auto path = AskOpenPath();
-  if (!path) return 1;
-  if (ReadFourTimes(*path) == 0 && TakeOver() == 0) return 0;
-  Tell(kMsgOpenFailed);
+  const auto path = AskOpenPath(kParaDataFile, 686);
+  if (!path || path->empty()) return 1;
+  if (TryFourTimes([&] { return Read(*path); }) && TakeOver() == 0) return 0;
+  TellFileFault(kMsgOpenFailed);
   return 1;
 }
 

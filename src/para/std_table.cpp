@@ -8,7 +8,7 @@
 
 namespace tr7 {
 
-std::array<StdList, kAxes> StdTable;
+AxisArray<StdList> StdTable;
 CommonTableRecord CommonTable{};
 
 namespace {

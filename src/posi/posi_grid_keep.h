@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "state/app_state.h"
 
@@ -24,7 +24,7 @@ class KeptEdits {
 
   int rows_ = 0;  ///< 0: nothing was kept
   Bool16 program_mode_;
-  std::array<Bool16, kAxes> muko_;
+  AxisArray<Bool16> muko_;
   std::vector<std::string> texts_;
 };
 

@@ -19,6 +19,7 @@
 #include "state/progress.h"
 #include "state/text.h"
 #include "state/views.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
@@ -86,18 +87,10 @@ int fChangeToOnline() {
   return 1;
 }
 
-int OpenPortOrTell() {
-  if (TusinPortOpen() == 0) return 0;
-  MsgBox(Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText);
-  return 1;
-}
-
 int ChangeToOnlineFromCommand() { return OpenPortOrTell() == 0 ? fChangeToOnline() : 1; }
 
 void ChangeToOnlineMenu() {
-  const CommandsOff commands_off;
-  const BusyScope busy;
-  const PortClosedAfter port_closed;
+  const TransferScope transfer;
   ChangeToOnlineFromCommand();  // the step that failed has told the user
 }
 
@@ -120,12 +113,6 @@ int FirstConnection() {
   AppState.AxisPattern = 0;
   FailToOffline();
   return 1;
-}
-
-void LiftOffline() {
-  if (!AppState.Offline) return;
-  AppState.Offline = False;
-  AppState.OfflineTemporarilyLifted = True;
 }
 
 }  // namespace tr7

@@ -9,19 +9,12 @@ int fChangeToOnline();
 /// The same for a command that was started offline: menus and tabs follow. 0 or 1.
 int ChangeToOnlineFromCommand();
 
-/// Opens the line for a command of the user's; a failure is told with its reason. 0 or 1.
-int OpenPortOrTell();
-
 /// `mnuSettingOnline` and `mnuSettingOffline`.
 void ChangeToOnlineMenu();
 void ChangeToOfflineMenu();
 
 /// The first connection at the start: no dialogues, since the PC holds nothing yet. 0 or 1.
 int FirstConnection();
-
-/// Lets the requests of a command out that was started offline and needs no connect sequence. The
-/// first good reply makes the state online; without one `SettleOnlineState` takes it back.
-void LiftOffline();
 
 /// `mnuSettingCtMode`: asks for the mode and writes it to the controller.
 void ChangeCtModeMenu();

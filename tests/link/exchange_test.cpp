@@ -4,7 +4,6 @@
 #include "forms/frm_main.h"
 #include "link/error_list.h"
 #include "link/port.h"
-#include "link/posi_commands.h"
 #include "link/request_queue.h"
 #include "link/status_commands.h"
 #include "link/tusin_wait.h"
@@ -34,7 +33,7 @@ class ExchangeTest : public StateTest {
     ReadErrorList();
   }
   /// One read of position 1, the request that the tests spoil.
-  TusinOutcome Read() { return ReadPosiRecordFromCt(1, reply); }
+  TusinOutcome Read() { return TusinWait("0RP001", 68, 5000, reply); }
   void Spoil(FaultKind kind, int at_request, const std::string& prefix = "0RP") {
     Fault fault;
     fault.kind = kind;
