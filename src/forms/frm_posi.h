@@ -75,6 +75,7 @@ struct FrmPosi : View {
   Bool16 CopiedAtPrgMode;
   Bool16 ReadDone;
   Bool16 SaveCancelled;
+  std::string RoundedNote;  ///< what became of the text just typed, for the next hint
   std::string OldCellText;
 };
 

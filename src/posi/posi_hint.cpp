@@ -1,5 +1,7 @@
 #include "posi/posi_hint.h"
 
+#include <utility>
+
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
@@ -78,10 +80,16 @@ std::string RefusalText(int col) {
   return col == kComment ? Text(kMsgCommentRefuses) : PosiRangeText(col);
 }
 
+void TellNote(const std::string& note) {
+  frmPosi.RoundedNote = note + "  ";
+  TellInStatusPanel(frmPosi.RoundedNote + PosiHint(frmPosi.flgdData.Col));
+}
+
 void PosiHintHyoji() {
   const Grid& grid = frmPosi.flgdData;
   const bool body = grid.Row >= kPosiHeaderRows && grid.Row < grid.Rows();
-  TellInStatusPanel(body ? PosiHint(grid.Col) : std::string());
+  const std::string note = std::exchange(frmPosi.RoundedNote, std::string());
+  TellInStatusPanel(note + (body ? PosiHint(grid.Col) : std::string()));
 }
 
 }  // namespace tr7

@@ -13,6 +13,10 @@ std::string PosiRangeText(int col);
 /// Why a cell of the column refused a text: its range, or what a comment cannot hold.
 std::string RefusalText(int col);
 
+/// A note about what was just typed: it stands in front of the hint until the selection has moved
+/// on from the next cell.
+void TellNote(const std::string& note);
+
 /// Writes the hint of the grid's current cell to the frame's first status panel.
 void PosiHintHyoji();
 
