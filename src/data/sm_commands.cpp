@@ -8,9 +8,8 @@
 #include "data/sm_table.h"
 #include "link/port.h"
 #include "link/reply_fields.h"
-#include "link/transfer.h"
-#include "state/progress.h"
-#include "state/text.h"
+#include "steps/bulk.h"
+#include "steps/record_frames.h"
 
 namespace tr7 {
 namespace {
@@ -38,48 +37,49 @@ bool TakeMacro(const std::string& reply, Macro& macro) {
   return true;
 }
 
-int ReadMacros(SmTableRecord& read) {
-  ProgressScope progress(Text(368), kMacros, false);
-  for (int number = 1; number <= kMacros; ++number) {
-    std::string reply;
-    if (!ReadNamed("0RS" + HexPad(number, 2), kReadReplyLength, kReadTimeoutMs, reply)) return 1;
-    if (!TakeMacro(reply, read[static_cast<std::size_t>(number - 1)])) return TellBadData();
-    progress.Advance();
-  }
-  return 0;
+Outcome ReadMacro(int number, SmTableRecord& read) {
+  std::string reply;
+  const RecordFrame frame{"0RS" + HexPad(number, 2), kReadReplyLength, kReadTimeoutMs};
+  const Outcome outcome = ReadNamed(frame, reply);
+  if (outcome != Outcome::Done) return outcome;
+  return TakeMacro(reply, read[static_cast<std::size_t>(number - 1)]) ? outcome : TellBadData();
 }
 
-bool SendMacro(int number) {
+Outcome SendMacro(int number) {
   std::string frame = "0WS" + HexPad(number, 2);
   for (const SmStep& step : SmTable[static_cast<std::size_t>(number - 1)]) {
     frame += HexPad(step.Command, 1) + HexPad(step.Value, 1);
   }
-  return SendEchoed(frame, kWriteReplyLength, kWriteTimeoutMs, kEcho);
+  return SendEchoed({frame, kWriteReplyLength, kWriteTimeoutMs, kEcho});
 }
 
-int SendMacros() {
-  ProgressScope progress(Text(383), kMacros + 1, false);
-  for (int number = 1; number <= kMacros; ++number) {
-    if (!SendMacro(number)) return 1;
-    progress.Advance();
-  }
-  return SendEchoed("0WE1", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho) ? 0 : 1;
+Outcome ReadMacros(SmTableRecord& read) {
+  return Bulk(368, kMacros, Bulk::Cancel::No).Each(1, kMacros, [&](int number) {
+    return ReadMacro(number, read);
+  });
+}
+
+Outcome SendMacros() {
+  Bulk bulk(383, kMacros + 1, Bulk::Cancel::No);
+  const Outcome outcome = bulk.Each(1, kMacros, SendMacro);
+  if (outcome != Outcome::Done) return outcome;
+  return SendEchoed({"0WE1", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
 }
 
 }  // namespace
 
-int ReadSmFromCt() {
+Outcome ReadSmFromCt() {
   SmTableRecord read{};
-  const int result = ReadMacros(read);
+  const Outcome outcome = ReadMacros(read);
   TusinPortClose();
-  if (result == 0) SmStage = read;
-  return result;
+  if (outcome == Outcome::Done) SmStage = read;
+  return outcome;
 }
 
-int WriteSmToCt() {
-  const int result = SendMacros();
+Outcome WriteSmToCt() {
+  const Outcome outcome = SendMacros();
   TusinPortClose();
-  return result;
+  return outcome;
 }
 
 }  // namespace tr7

@@ -5,39 +5,36 @@
 #include "base/text_helpers.h"
 #include "device/ct_blocks.h"
 #include "device/dev_setting.h"
-#include "link/port.h"
 #include "link/reply_fields.h"
 #include "link/status_commands.h"
-#include "link/transfer.h"
 #include "link/tusin_wait.h"
+#include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/text.h"
+#include "steps/record_frames.h"
 
 namespace tr7 {
 
-std::array<CtDeviceRecord, kAxes> CtDev;
+AxisArray<CtDeviceRecord> CtDev;
 
 namespace {
 
 constexpr int kBlockReplyLength = 38;
 constexpr int kBlockTimeoutMs = 2000;
 
+int BadData() {
+  static_cast<void>(TellBadData());
+  return 1;
+}
+
 /// Axes in use of a block 0; -1 when the field is no number.
 int AxisMask(std::string_view block0) { return ReplyValue(block0, 7, 2); }
 
 /// Also known as ReadCtBlock0.
 int ReadBlock0(std::string& reply) {
-  if (CtComStart() != 0) return 1;
+  if (CtComStart() != 0) return 1;  // opens the port, and tells where it stays shut
   if (ReadParaBlock('0', kBlockTimeoutMs, reply) != 0) return 1;
-  return AxisMask(reply) < 0 ? TellBadData() : 0;
-}
-
-std::array<Bool16, kAxes> MukoOfMask(int mask) {
-  std::array<Bool16, kAxes> muko;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    muko[static_cast<std::size_t>(axis)] = (mask & (1 << axis)) == 0;
-  }
-  return muko;
+  return AxisMask(reply) < 0 ? BadData() : 0;
 }
 
 /// False when a field of the block is no number.
@@ -61,7 +58,7 @@ int ReadAxisDevice(int axis, CtDeviceRecord& device) {
   device.PgCode = ReplyValue(reply, 21, 2);
   if (ReadParaBlock(ParaBlockChar(ParaBlockOfAxis(axis, 2)), 1000, reply) != 0) return 1;
   if (device.PgCode >= 0 && TakeDeviceBlock(reply, device)) return 0;
-  return TellBadData();
+  return BadData();
 }
 
 bool DeviceDiffers(const DevSettingRecord& pc, const CtDeviceRecord& ct, double pc_pulses) {
@@ -72,14 +69,15 @@ bool DeviceDiffers(const DevSettingRecord& pc, const CtDeviceRecord& ct, double 
 
 /// Writes block 0 as it stands in `data` (32 characters).
 int WriteBlock0(const std::string& data) {
-  return SendEchoed("0WD0" + data, 6, kBlockTimeoutMs, 4) ? 0 : 1;
+  return SendEchoed({"0WD0" + data, 6, kBlockTimeoutMs, 4}) == Outcome::Done ? 0 : 1;
 }
 
 }  // namespace
 
 int ReadParaBlock(char block, int timeout_ms, std::string& reply) {
   // All blocks have one length and one prefix: another block's late reply must not pass for this.
-  return ReadNamed(std::string("0RD") + block, kBlockReplyLength, timeout_ms, reply) ? 0 : 1;
+  const RecordFrame frame{std::string("0RD") + block, kBlockReplyLength, timeout_ms};
+  return ReadNamed(frame, reply) == Outcome::Done ? 0 : 1;
 }
 
 int ReadCtAxisFromCt() {
@@ -106,34 +104,31 @@ int CompareCtModeAndAxis() {
 }
 
 int ReadCtDeviceFromCt() {
-  std::array<CtDeviceRecord, kAxes> read;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const auto index = static_cast<std::size_t>(axis);
-    if (!AppState.AxisMuko[index] && ReadAxisDevice(axis, read[index]) != 0) return 1;
+  AxisArray<CtDeviceRecord> read;
+  for (const int axis : AxesInUse()) {
+    if (ReadAxisDevice(axis, read[axis]) != 0) return 1;
   }
   CtDev = read;
   return 0;
 }
 
 int CompareCtDevice() {
-  if (TusinPortOpen2() != 0) return -1;
   if (ReadCtModeAndAxis() != 0) return -1;
   if (AppState.AxisMuko != AppState.AxisMukoOfCt) return 1;
   if (ReadCtDeviceFromCt() != 0) return -1;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
+  for (const int axis : AxesInUse()) {
     if (DeviceDiffers(DevSetting[axis], CtDev[axis], AppState.StrokePulse[axis])) return 1;
   }
   return 0;
 }
 
-int ReadCtBlock1(std::array<std::int32_t, kAxes>& values) {
+int ReadCtBlock1(AxisArray<std::int32_t>& values) {
   std::string reply;
   if (ReadParaBlock('1', kBlockTimeoutMs, reply) != 0) return 1;
-  std::array<std::int32_t, kAxes> read{};
+  AxisArray<std::int32_t> read{};
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     read[axis] = ReplyValue(reply, 13 + 2 * axis, 2);
-    if (read[axis] < 0) return TellBadData();
+    if (read[axis] < 0) return BadData();
   }
   values = read;
   return 0;
@@ -143,16 +138,15 @@ int ReadAxisMaxPulse(int axis, std::int32_t& pulses) {
   std::string reply;
   if (ReadParaBlock(ParaBlockChar(ParaBlockOfAxis(axis, 2)), kBlockTimeoutMs, reply) != 0) return 1;
   const std::int32_t read = ReplyValue(reply, 13, 6);
-  if (read < 0) return TellBadData();
+  if (read < 0) return BadData();
   pulses = read;
   return 0;
 }
 
-int ReadAxisMaxPulseFromCt(std::array<std::int32_t, kAxes>& pulses) {
-  std::array<std::int32_t, kAxes> read{};
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const auto index = static_cast<std::size_t>(axis);
-    if (!AppState.AxisMuko[index] && ReadAxisMaxPulse(axis, read[index]) != 0) return 1;
+int ReadAxisMaxPulseFromCt(AxisArray<std::int32_t>& pulses) {
+  AxisArray<std::int32_t> read{};
+  for (const int axis : AxesInUse()) {
+    if (ReadAxisMaxPulse(axis, read[axis]) != 0) return 1;
   }
   pulses = read;
   return 0;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "state/app_state.h"
 
@@ -24,13 +24,13 @@ struct CtDeviceRecord {
   int PgCode = 0;  ///< 0 none, 1 or 2 fitted
 };
 
-extern std::array<CtDeviceRecord, kAxes> CtDev;
+extern AxisArray<CtDeviceRecord> CtDev;
 
 /// "0RD": one block; `reply` is the whole line.
 int ReadParaBlock(char block, int timeout_ms, std::string& reply);
 
-/// Takes command and reads block 0 into `AxisPattern` and `AxisMuko`. Also known as
-/// ReadAxisSettingFromCt.
+/// Takes command, which opens the port, and reads block 0 into `AxisPattern` and `AxisMuko`. Also
+/// known as ReadAxisSettingFromCt.
 int ReadCtAxisFromCt();
 /// The same into `AxisPatternOfCt`, `AxisMukoOfCt`, `CtModeOfCt`.
 int ReadCtModeAndAxis();
@@ -44,12 +44,12 @@ int ReadCtDeviceFromCt();
 int CompareCtDevice();
 
 /// The four values of block 1, one for each axis: the order in which they home.
-int ReadCtBlock1(std::array<std::int32_t, kAxes>& values);
+int ReadCtBlock1(AxisArray<std::int32_t>& values);
 
 /// Stroke in pulses of one axis (0 to 3), from its device block.
 int ReadAxisMaxPulse(int axis, std::int32_t& pulses);
 /// The same for each axis in use; 0 for others. A failure leaves `pulses` as they were.
-int ReadAxisMaxPulseFromCt(std::array<std::int32_t, kAxes>& pulses);
+int ReadAxisMaxPulseFromCt(AxisArray<std::int32_t>& pulses);
 
 /// Writes the mask of axes in use (axis i: 1 << i) into block 0; on success `AxisPattern` is it.
 /// Also known as WriteAxisMaskToCt.

@@ -2,9 +2,9 @@
 
 namespace tr7 {
 
-std::array<DevSettingRecord, kAxes> DevSetting;
-std::array<DevSettingRecord, kAxes> DevSettei;
-std::array<std::string, kAxes> FileDevice;
+AxisArray<DevSettingRecord> DevSetting;
+AxisArray<DevSettingRecord> DevSettei;
+AxisArray<std::string> FileDevice;
 
 void CalcMmPerPulse(DevSettingRecord& device) {
   device.MmPerPulse = device.Ppr == 0 ? 0 : static_cast<double>(device.Lead) / device.Ppr;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "state/app_state.h"
 
@@ -28,12 +28,12 @@ struct DevSettingRecord {
 };
 
 /// The devices in use, and those under consideration (from a position file or a dialogue).
-extern std::array<DevSettingRecord, kAxes> DevSetting;
-extern std::array<DevSettingRecord, kAxes> DevSettei;
+extern AxisArray<DevSettingRecord> DevSetting;
+extern AxisArray<DevSettingRecord> DevSettei;
 
 /// The device names in the header of the position file that was read last, as it spells them; an
 /// empty one: no device on that axis. Its words "NEW" and "OLD" go to `DevSettei.NewTypeWord`.
-extern std::array<std::string, kAxes> FileDevice;
+extern AxisArray<std::string> FileDevice;
 
 /// `MmPerPulse` from lead and PPR; 0 without a PPR.
 void CalcMmPerPulse(DevSettingRecord& device);

@@ -13,8 +13,8 @@
 
 namespace tr7 {
 
-std::array<DeviceListRecord, kAxes> DeviceList;
-std::array<Bool16, kAxes> DevListMissing;
+AxisArray<DeviceListRecord> DeviceList;
+AxisArray<Bool16> DevListMissing;
 DeviceLookupRecord DeviceLookup;
 
 namespace {

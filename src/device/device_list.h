@@ -1,10 +1,10 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "device/device_list_record.h"
 #include "state/app_state.h"
@@ -12,9 +12,9 @@
 namespace tr7 {
 
 /// Each axis (0 to 3) may use the other catalogue.
-extern std::array<DeviceListRecord, kAxes> DeviceList;
+extern AxisArray<DeviceListRecord> DeviceList;
 /// The last attempt to read the list of this axis failed.
-extern std::array<Bool16, kAxes> DevListMissing;
+extern AxisArray<Bool16> DevListMissing;
 
 // Readers of the catalogues "qvdevice.lst" (old type) and "nqvdevice.lst" (new type). 0, or 1 when
 // a file is missing or damaged: then messages 15 and 16 have been shown with the reason,

@@ -3,6 +3,7 @@
 #include "device/ct_device.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
+#include "state/axes_in_use.h"
 
 namespace tr7 {
 namespace {
@@ -24,8 +25,7 @@ void TakeType(int type, DevSettingRecord& device, DevSettingRecord& pending) {
 }  // namespace
 
 void TakeDevFromCt() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
+  for (const int axis : AxesInUse()) {
     const CtDeviceRecord& ct = CtDev[axis];
     DevSettingRecord& device = DevSetting[axis];
     DevSettingRecord& pending = DevSettei[axis];

@@ -81,9 +81,8 @@ struct FrmPosi : View {
   Bool16 CopiedAtPrgMode;
   Bool16 ReadDone;
   Bool16 SaveCancelled;
+  std::string RoundedNote;  ///< what became of the text just typed, for the next hint
   std::string OldCellText;
-  std::string
-      RoundedNote;  ///< what the last edit made of the typed text, until the next cell's hint
 };
 
 inline Standing<FrmPosi> frmPosi;

@@ -2,6 +2,7 @@
 
 #include "base/text_helpers.h"
 #include "link/tusin_wait.h"
+#include "state/axes_in_use.h"
 
 namespace tr7 {
 namespace {
@@ -32,14 +33,6 @@ std::string DirectMoveField(const DirectMoveAxis& axis) {
 
 }  // namespace
 
-int AxesInUseMask() {
-  int mask = 0;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    if (!AppState.AxisMuko[static_cast<std::size_t>(axis)]) mask |= 1 << axis;
-  }
-  return mask;
-}
-
 int MoveAxesToCt(int position_no, int kind) {
   std::string reply;
   const std::string command = kind == 1 ? "0MS" : "0MP";
@@ -69,7 +62,7 @@ int JogStartToCt(int speed_percent, int direction_code) {
   return TusinCommand(command, 5, 1000, reply, TusinPriority::Start);
 }
 
-int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::string& tail) {
+int MoveDirectToCt(const AxisArray<DirectMoveAxis>& axes, const std::string& tail) {
   std::string command = "0MV";
   for (const DirectMoveAxis& axis : axes) command += DirectMoveField(axis);
   last_move_direct_text = command + tail;
@@ -80,20 +73,16 @@ int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::str
 const std::string& LastMoveDirectText() { return last_move_direct_text; }
 void ResetMotionCommands() { last_move_direct_text.clear(); }
 
-int ReadPresentPosFromCt(std::array<std::int32_t, kAxes>& pulses) {
+int ReadPresentPosFromCt(AxisArray<std::int32_t>& pulses) {
   constexpr std::int64_t kSmallNegative = 0xF0000;
-  int used = 0;
-  for (int axis = 0; axis < kAxes; ++axis)
-    used += AppState.AxisMuko[static_cast<std::size_t>(axis)] ? 0 : 1;
+  const AxisList used = AxesInUse();
   std::string reply;
-  if (TusinCommand("0RC" + Hex(AxesInUseMask()), 6 + 5 * used, 1000, reply) != 0) return 1;
+  if (TusinCommand("0RC" + Hex(AxesInUseMask()), 6 + 5 * used.size(), 1000, reply) != 0) return 1;
   std::size_t at = 4;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const auto index = static_cast<std::size_t>(axis);
-    if (AppState.AxisMuko[index]) continue;
+  for (const int axis : used) {
     const std::int64_t value = HexValue(std::string_view(reply).substr(at, 5));
     if (value < 0) return 1;
-    pulses[index] = value > kSmallNegative ? 0 : static_cast<std::int32_t>(value);
+    pulses[axis] = value > kSmallNegative ? 0 : static_cast<std::int32_t>(value);
     at += 5;
   }
   return 0;

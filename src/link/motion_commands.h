@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
+#include "base/axes.h"
 #include "state/app_state.h"
 
 namespace tr7 {
@@ -34,15 +34,12 @@ struct DirectMoveAxis {
 };
 
 /// "0MV": moves axes directly. `tail` closes the frame as the kind of move asks.
-int MoveDirectToCt(const std::array<DirectMoveAxis, kAxes>& axes, const std::string& tail);
+int MoveDirectToCt(const AxisArray<DirectMoveAxis>& axes, const std::string& tail);
 /// The last text that `MoveDirectToCt` sent, for repeats.
 const std::string& LastMoveDirectText();
 void ResetMotionCommands();
 
 /// "0RC": present positions of the axes in use, in pulses; a small negative counts as 0.
-int ReadPresentPosFromCt(std::array<std::int32_t, kAxes>& pulses);
-
-/// Bit mask of the axes in use on the PC: axis i has bit 1 << i.
-int AxesInUseMask();
+int ReadPresentPosFromCt(AxisArray<std::int32_t>& pulses);
 
 }  // namespace tr7

@@ -7,8 +7,6 @@ namespace tr7 {
 /// Opens the line when it is shut. 0 success; 1 failure, with the reason in
 /// `AppState.PortFaultText`.
 int TusinPortOpen();
-/// The same routine under the name that the device comparison uses.
-inline int TusinPortOpen2() { return TusinPortOpen(); }
 
 /// Closes the line unless `PortOccupy` keeps it, or a request that waits: a sequence inside another
 /// one's wait leaves the line to the outer one.

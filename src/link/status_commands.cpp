@@ -6,6 +6,7 @@
 #include "link/port.h"
 #include "link/tusin_wait.h"
 #include "state/app_state.h"
+#include "state/axes_in_use.h"
 #include "state/online.h"
 
 namespace tr7 {
@@ -40,24 +41,23 @@ int CtComStart(int show_message) {
     return 1;
   }
   SetOnline();
-  return 0;
+  // A write that died has left its axes held: nothing else comes before their release.
+  return AppState.AxesMayBeHeld ? CtControlModeSet(0, 0, 0) : 0;
 }
 
 int CtControlModeSet(int mode, int m, int mask) {
   std::string command = "0CM";
   command += m == 1 || m == 2 ? std::to_string(m) : "0";
+  const bool takes_axes = mode == 1 || mode == 2;
   for (int axis = 0; axis < kAxes; ++axis) {
-    const bool named = (mode == 1 || mode == 2) &&
-                       !AppState.AxisMuko[static_cast<std::size_t>(axis)] &&
-                       (mask & (1 << axis)) != 0;
+    const bool named = takes_axes && InMask(mask & AxesInUseMask(), axis);
     command += named ? std::to_string(mode) : "0";
   }
-  if (AppState.Offline) {
-    AppState.Offline = False;
-    AppState.OfflineTemporarilyLifted = True;
-  }
+  LiftOffline();
   std::string reply;
-  return TusinCommand(command, 10, 2000, reply);
+  if (TusinCommand(command, 10, 2000, reply) != 0) return 1;
+  if (!takes_axes) AppState.AxesMayBeHeld = False;
+  return 0;
 }
 
 int ReadAlarmFromCt() {
@@ -107,7 +107,7 @@ int GetAxisVersionNo(int axis_count) {
       TusinAbort();
       return 1;
     }
-    AppState.AxisVersionText[static_cast<std::size_t>(axis - 1)] = reply.substr(4, 3);
+    AppState.AxisVersionText[axis - 1] = reply.substr(4, 3);
   }
   return 0;
 }

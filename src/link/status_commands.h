@@ -8,7 +8,8 @@ namespace tr7 {
 // told the user of a failure.
 
 /// "0CM1": puts the controller under the PC's command; every sequence starts with it. The state
-/// goes online on success and offline on failure. `show_message` 1 tells the user of a failure.
+/// goes online on success and offline on failure. Axes that an earlier write could not release are
+/// released at once. `show_message` 1 tells the user of a failure.
 int CtComStart(int show_message = 1);
 
 /// "0CM": `m` 0, 1 or 2 (anything else becomes 0), then a digit per axis: `mode` where it is 1 or

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
+#include "base/axes.h"
 #include "device/dev_setting.h"
 #include "device/device_cascade.h"
 #include "para/param_set.h"
@@ -43,7 +43,7 @@ class ChoiceOnTrial {
   bool AxesChanged() const;
 
  private:
-  std::array<Bool16, kAxes> muko_ = AppState.AxisMuko;
+  AxisArray<Bool16> muko_ = AppState.AxisMuko;
   std::int16_t count_ = AppState.AxisCount, pattern_ = AppState.AxisPattern;
   std::int16_t shown_count_ = ParaFlags.ShownAxisCount;
   ParamSetRecord parameters_ = ParamSet;

@@ -3,12 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "base/scope.h"
 #include "device/ct_device.h"
 #include "forms/frm_device.h"
 #include "forms/frm_posi.h"
-#include "link/port.h"
-#include "link/status_commands.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
 #include "para/para_check.h"
@@ -16,22 +13,22 @@
 #include "para/param_set.h"
 #include "para/std_lists.h"
 #include "platform/doors.h"
-#include "session/session.h"
+#include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/online.h"
 #include "state/text.h"
+#include "steps/held_axes.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgLineFailed = 377;
-constexpr int kMsgMoving = 424;
 constexpr int kMsgPowerCycle = 496;
 constexpr int kMsgLeftInMemory = 6338;
-constexpr int kAllAxes = 0xF;
 
 enum class WriteResult {
   Done,
@@ -76,21 +73,11 @@ bool AxesOfCtAreKnown(bool was_offline) {
   return true;
 }
 
-bool AxesStandStill() {
-  const int rest = ReadAlarmFromCt();
-  if (rest == 0) MsgBox(Text(kMsgMoving));
-  return rest == 1;
-}
-
 /// Shows that a command failed, beside what the exchange has shown; true when it did not.
 bool GoodOrTold(int result) {
   if (result != 0) MsgBox(Text(kMsgLineFailed));
   return result == 0;
 }
-
-/// While axes are held, the controller's inputs start no move.
-int HoldAxes() { return CtControlModeSet(1, 0, kAllAxes); }
-int ReleaseAxes() { return CtControlModeSet(0, 0, 0); }
 
 bool FitOrTold(bool fit) {
   if (!fit) MsgBox(TwoLines(1524, 1525));
@@ -124,9 +111,9 @@ bool MakeParameters() {
 
 WriteResult WriteHeld() {
   if (!WriteAxes()) return AppState.AlarmOn ? WriteResult::Refused : WriteResult::Cut;
-  if (ReadCtAxisFromCt() != 0 || ReadParaFromCt() != 0) return WriteResult::Cut;
+  if (ReadCtAxisFromCt() != 0 || ReadParaFromCt() != Outcome::Done) return WriteResult::Cut;
   if (!MakeParameters()) return WriteResult::Refused;
-  return WriteParaToCt() == 0 ? WriteResult::Done : WriteResult::Failed;
+  return WriteParaToCt() == Outcome::Done ? WriteResult::Done : WriteResult::Failed;
 }
 
 /// Axes that no parameters have followed must not wait in the controller's memory for the next flow
@@ -143,13 +130,6 @@ void TellWhatIsLeft(WriteResult result, bool other_axes) {
   if (result == WriteResult::Cut && other_axes) MsgBox(left);
 }
 
-/// After a failure that left the line healthy the axes must not stay held; after a refusal nothing
-/// more is sent.
-void Release(WriteResult result) {
-  if (result != WriteResult::Done && (AppState.Offline || AppState.AlarmOn)) return;
-  GoodOrTold(ReleaseAxes());
-}
-
 /// The controller drives other axes from its next start on; until then its word about axes at rest
 /// speaks of those it started with.
 void TellWritten(bool other_axes) {
@@ -163,17 +143,20 @@ void TakeWritten() {
 }
 
 void Write(bool was_offline) {
-  if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill() || !GoodOrTold(HoldAxes())) return;
+  if (!AxesOfCtAreKnown(was_offline) || !AxesStandStill()) return;
+  HeldAxes held;
+  if (!held.Hold()) return;
   ChoiceOnTrial choice;
   const std::int16_t axes_before = AppState.AxisPattern;
   const WriteResult result = PutAxesBack(WriteHeld(), axes_before);
-  Release(result);
   if (result == WriteResult::Done) {
+    static_cast<void>(held.Release());  // a failure has been told; the parameters are stored
     choice.Keep();
     TakeWritten();
     TellWritten(AppState.AxisPattern != axes_before);
     return;
   }
+  held.GiveUp();
   TellWhatIsLeft(result, ParaFlags.AxisMask != axes_before);
 }
 
@@ -191,13 +174,11 @@ void Device3CMDBTN_Yuko() {
 
 void PrmCtWrite() {
   const DialogRests dialog_rests;
-  const CommandsOff commands_off;
-  const BusyScope busy;
+  const TransferScope transfer;
   if (!WarnBeforeWrite() || !ParametersCanBeMade() || OpenPortOrTell() != 0) return;
   const bool was_offline = AppState.Offline;
   LiftOffline();
   Write(was_offline);
-  TusinPortClose();
   if (was_offline) SetOffline();
 }
 

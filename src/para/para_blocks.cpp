@@ -74,16 +74,16 @@ constexpr int kMaxStroke = 999;  ///< mm: three digits in the text of ACTUATOR
 
 std::string Part(const std::string& field, std::size_t at) { return field.substr(at, kPart); }
 
-std::string ActuatorField(const ParamSetRecord& set, std::size_t axis) {
+std::string ActuatorField(const ParamSetRecord& set, int axis) {
   const std::string texts = DeviceTextField(set.ActSize[axis], set.ActSpeed[axis]);
   const int stroke = set.ActStroke[axis];
   if (texts.empty() || stroke < 0 || stroke > kMaxStroke) return "";
   return texts + HexPad(stroke % kByte, 2) + HexPad(stroke / kByte, 2);
 }
 
-std::string FieldOf(const ParamSetRecord& set, int row, std::size_t axis, std::size_t width) {
+std::string FieldOf(const ParamSetRecord& set, int row, int axis, std::size_t width) {
   if (row == kRowActuator) return ActuatorField(set, axis);
-  const double value = std::nearbyint(ParaValue(set, row, axis));
+  const double value = std::nearbyint(ParaValue(set, row, static_cast<std::size_t>(axis)));
   return HexPad(static_cast<std::int64_t>(value), static_cast<int>(width));
 }
 
@@ -97,21 +97,23 @@ bool TakeActuator(const std::string& field, Variant& item) {
   return true;
 }
 
-bool TakeField(const std::string& field, int row, std::size_t axis, Variant& item) {
+bool TakeField(const std::string& field, int row, int axis, Variant& item) {
   if (row == kRowActuator) return TakeActuator(field, item);
   const std::int64_t value = HexValue(field);
   ParamSetRecord scratch;
-  if (value < 0 || !SetParaValue(scratch, row, axis, static_cast<double>(value))) return false;
+  if (value < 0 ||
+      !SetParaValue(scratch, row, static_cast<std::size_t>(axis), static_cast<double>(value)))
+    return false;
   item = static_cast<double>(value);
   return true;
 }
 
 /// Calls `use` with row and axis of every cell that counts, until it returns false.
 template <typename Use>
-bool ForEachCell(const ParaAxes& axes, Use use) {
+bool ForEachCell(const AxisList& axes, Use use) {
+  const AxisList first_alone(1);
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
-      if (IsAxisRow(row) && !axes[axis]) continue;
+    for (const int axis : IsAxisRow(row) ? axes : first_alone) {
       if (!use(row, axis)) return false;
     }
   }
@@ -122,28 +124,28 @@ ParaTableRecord ZeroTable() { return ParaTableOf(ParamSetRecord{}); }
 
 }  // namespace
 
-std::vector<int> ParaBlocksFor(const ParaAxes& axes) {
+std::vector<int> ParaBlocksFor(const AxisList& axes) {
   std::vector<int> blocks{kCommon, kOrder};
-  for (int axis = 0; axis < kAxes; ++axis) {
-    if (!axes[static_cast<std::size_t>(axis)]) continue;
+  for (const int axis : axes) {
     for (const int which : {kHome, kZone, kDevice}) blocks.push_back(ParaBlockOfAxis(axis, which));
   }
   return blocks;
 }
 
-ParaPlace PlaceOfPara(int row, std::size_t axis) {
+ParaPlace PlaceOfPara(int row, int axis) {
   const RowPlace& place = RowAt(row);
   if (place.OfAxis) {
-    return {ParaBlockOfAxis(static_cast<int>(axis), place.Block), place.At, place.Width};
+    return {ParaBlockOfAxis(axis, place.Block), place.At, place.Width};
   }
-  const std::size_t at = IsAxisRow(row) ? place.At + axis * place.Width : place.At;
+  const std::size_t at =
+      IsAxisRow(row) ? place.At + static_cast<std::size_t>(axis) * place.Width : place.At;
   return {place.Block, at, place.Width};
 }
 
-std::optional<ParaCell> EncodePara(const ParamSetRecord& set, const ParaAxes& axes,
+std::optional<ParaCell> EncodePara(const ParamSetRecord& set, const AxisList& axes,
                                    ParaBlocks& blocks) {
   std::optional<ParaCell> misfit;
-  ForEachCell(axes, [&](int row, std::size_t axis) {
+  ForEachCell(axes, [&](int row, int axis) {
     const ParaPlace place = PlaceOfPara(row, axis);
     const std::string field = FieldOf(set, row, axis, place.Width);
     if (field.size() != place.Width) {
@@ -157,13 +159,13 @@ std::optional<ParaCell> EncodePara(const ParamSetRecord& set, const ParaAxes& ax
   return misfit;
 }
 
-bool DecodePara(const ParaBlocks& blocks, const ParaAxes& axes, ParaTableRecord& table) {
+bool DecodePara(const ParaBlocks& blocks, const AxisList& axes, ParaTableRecord& table) {
   ParaTableRecord read = ZeroTable();
-  const bool good = ForEachCell(axes, [&](int row, std::size_t axis) {
+  const bool good = ForEachCell(axes, [&](int row, int axis) {
     const ParaPlace place = PlaceOfPara(row, axis);
     const std::string& data = blocks[static_cast<std::size_t>(place.Block)];
     return TakeField(data.substr(place.At - kParaDataAt, place.Width), row, axis,
-                     read[axis][static_cast<std::size_t>(row)]);
+                     read[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)]);
   });
   if (good) table = read;
   return good;

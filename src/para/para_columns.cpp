@@ -91,12 +91,4 @@ void YukoJikuHyojiSettei2(int axes) {
   SettleParaColumns();
 }
 
-int LiveAxisMask() {
-  int mask = 0;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (IsLiveAxis(axis)) mask |= 1 << axis;
-  }
-  return mask;
-}
-
 }  // namespace tr7

@@ -17,7 +17,4 @@ void SettleParaColumns();
 /// Switches every control of the view on or off by its column, the SP switch and a running flow.
 void EnableParaControls();
 
-/// Mask of the axes whose columns are live.
-int LiveAxisMask();
-
 }  // namespace tr7

@@ -1,6 +1,5 @@
 #include "para/para_file_flow.h"
 
-#include <optional>
 #include <string>
 
 #include "para/para_blocks.h"
@@ -15,13 +14,12 @@
 #include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
-#include "state/wait.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
 namespace {
 
-constexpr int kTries = 4;
-constexpr int kPauseMs = 100;
+constexpr DataFile kParaDataFile{1827, "pmt", 12};
 
 constexpr int kMsgOpenFailed = 681;
 constexpr int kMsgBadValue = 6151;
@@ -29,38 +27,14 @@ constexpr int kMsgNoAxis = 6336;
 constexpr int kMsgNoScale = 6337;
 constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 
-std::optional<std::string> AskOpenPath() {
-  FileDialogCall call;
-  call.Title = Text(686);
-  call.Filter = Text(1827);
-  call.DefaultExtension = "pmt";
-  const auto path = doors.forms->FileDialog(call);
-  return path && path->empty() ? std::nullopt : path;
-}
-
-std::optional<std::string> AskSavePath() {
-  const auto path = doors.forms->FileDialog({.Save = true,
-                                             .Title = Text(11),
-                                             .Filter = Text(1827),
-                                             .ProposedName = Text(12),
-                                             .DefaultExtension = "pmt",
-                                             .OverwritePrompt = true});
-  return path && path->empty() ? std::nullopt : path;
-}
-
 /// A message, and behind it why the file could not be read or written, where there is more to say.
-void Tell(int message_id) {
-  const std::string& reason = ParaFlags.FileFaultText;
-  MsgBox(reason.empty() ? Text(message_id) : Text(message_id) + "\n\n" + reason);
+void TellFileFault(int message_id) {
+  MsgBox(WithReason(Text(message_id), ParaFlags.FileFaultText));
 }
 
-int ReadFourTimes(const std::string& path) {
-  for (int tries = 1;; ++tries) {
-    ParaFlags.ParaFileBad = False;
-    if (ReadParaTable(path) == 0) return 0;
-    if (tries == kTries) return 1;
-    TusinWaitMs(kPauseMs);
-  }
+Attempt Read(const std::string& path) {
+  ParaFlags.ParaFileBad = False;
+  return ReadParaTable(path) == 0 ? Attempt::Good : Attempt::MayPass;
 }
 
 /// What was read into `ParamSet`: all of it, or nothing with `ParaFileBad`.
@@ -115,14 +89,14 @@ int Save(Control*& missing) {
   const CommandsOff commands_off;
   const BusyScope busy;
   if (!TakeFromView(missing)) return 1;
-  const auto path = AskSavePath();
+  const auto path = AskSavePath(kParaDataFile, 11);
   if (!path) return 1;
   if (WriteParaFile(*path) != 0) {
-    Tell(13);
+    TellFileFault(13);
     return 1;
   }
   MarkParaSaved();
-  MsgBox(Text(14), MsgButtons::Ok, MsgIcon::Information);
+  TellDone(14);
   return 0;
 }
 
@@ -139,11 +113,10 @@ int SaveParaToFile() {
 void OpenParaFile() {
   const CommandsOff commands_off;
   const BusyScope busy;
-  const auto path = AskOpenPath();
-  if (!path) return;
-  ParaFlags.ParaFileBad = False;
-  if (ReadParaTable(*path) != 0 || TakeOver() != 0) {
-    Tell(kMsgOpenFailed);
+  const auto path = AskOpenPath(kParaDataFile, 686);
+  if (!path || path->empty()) return;
+  if (Read(*path) != Attempt::Good || TakeOver() != 0) {
+    TellFileFault(kMsgOpenFailed);
     return;
   }
   ParametaHyoji();
@@ -153,10 +126,10 @@ void OpenParaFile() {
 int OpenParaForDevice() {
   const CommandsOff commands_off;
   const BusyScope busy;
-  const auto path = AskOpenPath();
-  if (!path) return 1;
-  if (ReadFourTimes(*path) == 0 && TakeOverForDevice() == 0) return 0;
-  Tell(kMsgOpenFailed);
+  const auto path = AskOpenPath(kParaDataFile, 686);
+  if (!path || path->empty()) return 1;
+  if (TryFourTimes([&] { return Read(*path); }) && TakeOverForDevice() == 0) return 0;
+  TellFileFault(kMsgOpenFailed);
   return 1;
 }
 

@@ -2,23 +2,25 @@
 
 #include <string>
 
+#include "steps/outcome.h"
+
 namespace tr7 {
 
 // The whole parameter memory, both ways. The user has been told of every failure.
 
 /// Reads all blocks, those of axes not in use (`AxisMuko`) left out, into `ParaTable`, which holds
-/// zeros for such axes. What it holds then fits `TakeParamTable`. 0 done, 1 failure, 2 stopped by
-/// the cancel button; `ParaTable` stays whole unless it is 0.
-int ReadParaFromCt();
+/// zeros for such axes. What it holds then fits `TakeParamTable`. `ParaTable` stays whole unless
+/// all is done.
+Outcome ReadParaFromCt();
 
 /// Writes `ParamSet` and has the controller store it: all rows of the controller and of the live
 /// axes (`IsLiveAxis`). The blocks are read first, so that what no row holds goes back as it was.
-/// A row that its place cannot hold is named in a box, and nothing is written. 0 or 1.
-int WriteParaToCt();
+/// A row that its place cannot hold is named in a box, and nothing is written.
+Outcome WriteParaToCt();
 
 /// The axis mask by `AxisMuko` as the parameter write sends it ahead of the blocks: a form of its
-/// own, which `WriteParaToCt` must follow. 0 or 1.
-int WriteAxisSettingToCt();
+/// own, which `WriteParaToCt` must follow.
+Outcome WriteAxisSettingToCt();
 
 /// What the form of `WriteAxisSettingToCt` leaves for the write behind it.
 struct AxisSettingSentRecord {

@@ -6,6 +6,7 @@
 
 #include "base/seq_file.h"
 #include "base/text_helpers.h"
+#include "state/axes_in_use.h"
 
 namespace tr7 {
 
@@ -165,6 +166,10 @@ bool IsLiveAxis(std::size_t axis) {
     return axis < static_cast<std::size_t>(ParaFlags.ShownAxisCount);
   }
   return !AppState.AxisMuko[axis];
+}
+
+int LiveAxisMask() {
+  return ParaFlags.ShownAxisCount > 0 ? (1 << ParaFlags.ShownAxisCount) - 1 : AxesInUseMask();
 }
 
 }  // namespace tr7

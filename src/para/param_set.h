@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "base/variant.h"
 #include "state/app_state.h"
@@ -15,7 +16,7 @@ namespace tr7 {
 /// every transfer. Axis arrays: index 0 to 3 for AXIS1 to AXIS4.
 struct ParamSetRecord {
   template <typename Value>
-  using PerAxis = std::array<Value, kAxes>;
+  using PerAxis = AxisArray<Value>;
 
   // HOME, rows 1 to 6
   PerAxis<double> HomeOffset{};  ///< pulses
@@ -139,5 +140,7 @@ extern ParaFlagsRecord ParaFlags;
 /// True for an axis whose parameters count: `AxisAbsent` (here `AxisMuko`) decides, unless the user
 /// has set another number of axes in the parameter view.
 bool IsLiveAxis(std::size_t axis);
+/// The live axes as a mask.
+int LiveAxisMask();
 
 }  // namespace tr7

@@ -11,6 +11,7 @@
 #include "para/param_set.h"
 #include "para/std_table.h"
 #include "state/app_state.h"
+#include "state/axes_in_use.h"
 #include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
@@ -127,14 +128,7 @@ void SetPg(std::size_t axis) {
 bool IsCommonAxisRow(int row) { return row > kRowAlm && IsAxisRow(row); }
 
 void SetAxisMask() {
-  if (!ParaFlags.AxisMaskFixed) {
-    ParaFlags.AxisMask = 0;
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
-      if (!AppState.AxisMuko[axis]) {
-        ParaFlags.AxisMask = static_cast<std::int16_t>(ParaFlags.AxisMask | 1 << axis);
-      }
-    }
-  }
+  if (!ParaFlags.AxisMaskFixed) ParaFlags.AxisMask = static_cast<std::int16_t>(AxesInUseMask());
   ParamSet.OneAxis = ParaFlags.AxisMask;
 }
 

@@ -9,7 +9,7 @@
 
 namespace tr7 {
 
-std::array<StdList, kAxes> StdTable;
+AxisArray<StdList> StdTable;
 CommonTableRecord CommonTable{};
 
 namespace {

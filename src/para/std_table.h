@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/axes.h"
 #include "device/device_model.h"
 #include "para/param_set.h"
 #include "state/app_state.h"
@@ -22,7 +23,7 @@ inline constexpr int kStdRowsMax = 999;
 
 /// The standard list of an axis, in the file's order. Rows are numbered from 1.
 using StdList = std::vector<StdRow>;
-extern std::array<StdList, kAxes> StdTable;
+extern AxisArray<StdList> StdTable;
 
 inline constexpr int kCommonRows = 26;
 inline constexpr int kCommonColumns = 5;

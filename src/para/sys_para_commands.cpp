@@ -9,10 +9,9 @@
 #include "base/text_helpers.h"
 #include "link/port.h"
 #include "link/reply_fields.h"
-#include "link/transfer.h"
 #include "para/sys_para.h"
-#include "state/progress.h"
-#include "state/text.h"
+#include "steps/bulk.h"
+#include "steps/record_frames.h"
 
 namespace tr7 {
 namespace {
@@ -34,6 +33,7 @@ struct SysBlock {
 
 constexpr std::array<SysBlock, 7> kBlocks{
     {{1, 4}, {9, 4}, {17, 2}, {33, 2}, {49, 4}, {57, 4}, {65, 4}}};
+constexpr int kBlockCount = static_cast<int>(kBlocks.size());
 /// Meant so: the echo of the later blocks is not looked at.
 constexpr std::size_t kComparedBlocks = 3;
 
@@ -51,51 +51,53 @@ bool TakeBlock(const std::string& reply, const SysBlock& block, SysParaRecord& r
   return true;
 }
 
-int ReadBlocks(SysParaRecord& read) {
-  ProgressScope progress(Text(368), static_cast<int>(kBlocks.size()), false);
-  for (std::size_t i = 0; i < kBlocks.size(); ++i) {
-    std::string reply;
-    if (!ReadNamed("0RK" + NameOf(i), kReadReplyLength, kReadTimeoutMs, reply)) return 1;
-    if (!TakeBlock(reply, kBlocks[i], read)) return TellBadData();
-    progress.Advance();
-  }
-  return 0;
+Outcome ReadBlock(std::size_t number, SysParaRecord& read) {
+  std::string reply;
+  const RecordFrame frame{"0RK" + NameOf(number), kReadReplyLength, kReadTimeoutMs};
+  const Outcome outcome = ReadNamed(frame, reply);
+  if (outcome != Outcome::Done || TakeBlock(reply, kBlocks[number], read)) return outcome;
+  return TellBadData();
 }
 
-bool SendBlock(std::size_t number) {
+Outcome SendBlock(std::size_t number) {
   const SysBlock& block = kBlocks[number];
   std::string frame = "0WK" + NameOf(number);
   for (std::size_t i = 0; i < FieldsOf(block); ++i) {
     const double value = std::nearbyint(SysPara[block.FirstSlot + i]);
     frame += HexPad(static_cast<std::int64_t>(value), static_cast<int>(block.Width));
   }
-  return SendEchoed(frame, kWriteReplyLength, kWriteTimeoutMs,
-                    number < kComparedBlocks ? kEcho : 0);
+  return SendEchoed(
+      {frame, kWriteReplyLength, kWriteTimeoutMs, number < kComparedBlocks ? kEcho : 0});
 }
 
-int SendBlocks() {
-  ProgressScope progress(Text(383), static_cast<int>(kBlocks.size()) + 1, false);
-  for (std::size_t i = 0; i < kBlocks.size(); ++i) {
-    if (!SendBlock(i)) return 1;
-    progress.Advance();
-  }
-  return SendEchoed("0WF", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho) ? 0 : 1;
+Outcome ReadBlocks(SysParaRecord& read) {
+  return Bulk(368, kBlockCount, Bulk::Cancel::No).Each(0, kBlockCount - 1, [&](int number) {
+    return ReadBlock(static_cast<std::size_t>(number), read);
+  });
+}
+
+Outcome SendBlocks() {
+  Bulk bulk(383, kBlockCount + 1, Bulk::Cancel::No);
+  const Outcome outcome = bulk.Each(
+      0, kBlockCount - 1, [](int number) { return SendBlock(static_cast<std::size_t>(number)); });
+  if (outcome != Outcome::Done) return outcome;
+  return SendEchoed({"0WF", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
 }
 
 }  // namespace
 
-int ReadSysParaFromCt() {
+Outcome ReadSysParaFromCt() {
   SysParaRecord read{};
-  const int result = ReadBlocks(read);
+  const Outcome outcome = ReadBlocks(read);
   TusinPortClose();
-  if (result == 0) SysParaRead = read;
-  return result;
+  if (outcome == Outcome::Done) SysParaRead = read;
+  return outcome;
 }
 
-int WriteSysParaToCt() {
-  const int result = SendBlocks();
+Outcome WriteSysParaToCt() {
+  const Outcome outcome = SendBlocks();
   TusinPortClose();
-  return result;
+  return outcome;
 }
 
 }  // namespace tr7

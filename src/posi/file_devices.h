@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
+#include "base/axes.h"
 #include "device/ct_device.h"
 #include "device/dev_setting.h"
 #include "para/param_set.h"
@@ -20,7 +20,7 @@ class DevicesOnTrial {
   DevicesOnTrial& operator=(const DevicesOnTrial&) = delete;
 
  private:
-  using Devices = std::array<DevSettingRecord, kAxes>;
+  using Devices = AxisArray<DevSettingRecord>;
   const Devices in_use_ = DevSetting, pending_ = DevSettei;
   const decltype(CtDev) reported_ = CtDev;
   const ParamSetRecord params_ = ParamSet;

@@ -14,6 +14,7 @@
 #include "posi/posi_hint.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_table.h"
+#include "posi/speed_decimals.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
@@ -23,6 +24,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgAllGood = 6358, kMsgRefused = 5940;
+constexpr int kMsgSpeedDecimals = 6366;
 
 /// Ends an edit. Leaving a cell as it was is no edit, so it is neither judged nor a change.
 EditVerdict AcceptEdit(int row, int col, std::string& text) {
@@ -41,7 +43,12 @@ EditVerdict AcceptEdit(int row, int col, std::string& text) {
     return {false, Text(kMsgRefused, RefusalText(col), Trim(text))};
   }
   frmPosi.PosiChanged = True;
-  if (RuleChanged(col, typed, text)) TellRounded(typed, text);
+  const std::string lost = SpeedDecimalsNote(col, text);
+  if (!lost.empty()) {
+    TellNote(lost);
+  } else if (RuleChanged(col, typed, text)) {
+    TellRounded(typed, text);
+  }
   return {};
 }
 
@@ -98,6 +105,13 @@ std::function<void()> NotWhileTeaching(void (*command)()) {
   };
 }
 
+/// All is good; what will not reach the controller all the same is named.
+std::string GoodResult() {
+  const std::string lossy = PositionsWithSpeedDecimals();
+  return WithReason(Text(kMsgAllGood),
+                    lossy.empty() ? lossy : Text(kMsgSpeedDecimals) + "\n" + lossy);
+}
+
 }  // namespace
 
 void cmdPosiCheck_Click() {
@@ -108,7 +122,7 @@ void cmdPosiCheck_Click() {
     result = PosiDataCheckAll();
   }
   if (result == 0) {
-    MsgBox(Text(kMsgAllGood), MsgButtons::Ok, MsgIcon::Information);
+    MsgBox(GoodResult(), MsgButtons::Ok, MsgIcon::Information);
     return;
   }
   for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {

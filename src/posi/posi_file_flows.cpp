@@ -4,65 +4,54 @@
 #include <optional>
 
 #include "forms/frm_posi.h"
-#include "platform/doors.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_layout.h"
 #include "posi/posi_range.h"
 #include "posi/range_dialogs.h"
-#include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
-#include "state/wait.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgPartOverWhole = 6460;
-constexpr int kTries = 4;
-constexpr int kPauseMs = 100;
 constexpr int kMsgSaved = 5972;
 
-std::optional<std::string> AskSavePath(int title_id) {
-  const auto path = doors.forms->FileDialog({.Save = true,
-                                             .Title = Text(title_id),
-                                             .Filter = Text(351),
-                                             .ProposedName = Text(407),
-                                             .DefaultExtension = "qvd",
-                                             .OverwritePrompt = true});
-  frmPosi.SaveCancelled = !path || path->empty();
-  return frmPosi.SaveCancelled ? std::nullopt : path;
+std::optional<std::string> AskPath(int title_id) {
+  const auto path = AskSavePath(kPosiDataFile, title_id);
+  frmPosi.SaveCancelled = !path;
+  return path;
 }
+
+void TellNotSaved(const PosiFileTrouble& trouble) { MsgBox(WithReason(Text(422), trouble.words)); }
 
 /// The save may have been asked for from another view: the status bar says what went where.
 void TellSaved(const std::string& path) {
-  const std::string numbers =
-      std::to_string(AppState.PosiFromNo) + " - " + std::to_string(AppState.PosiToNo);
+  const PosiRange range = OperationRange();
+  const std::string numbers = std::to_string(range.first) + " - " + std::to_string(range.last);
   TellInStatusPanel(Text(kMsgSaved, numbers, path));
 }
 
-void Save() {
+/// Checks the table and saves it; the path, or empty when it was not saved.
+std::string SaveWhole() {
   const KeepPlace place;  // from which the check goes away
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
-  const auto path = PosiTableHasFile() ? PosiTablePath() : AskSavePath(423);
-  if (!path) return;
+  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return {};
+  const auto path = PosiTableHasFile() ? PosiTablePath() : AskPath(423);
+  if (!path) return {};
   PosiFileTrouble trouble;
-  const auto save = [&](PosiFileTrouble& why) { return SaveFileAs2(*path, why); };
-  if (TryFourTimes(save, trouble) != 0) {
-    MsgBox(WithReason(422, trouble));
-  } else {
-    TellSaved(*path);
-  }
+  if (TryFourTimes([&] { return AttemptOf(SaveFileAs2(*path, trouble), trouble); })) return *path;
+  TellNotSaved(trouble);
+  return {};
 }
 
-/// The range to save, checked. False: the flow ends.
-bool AskWhatToSave() {
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return false;
-  if (!AskRange() || PosiDataCheck3() != 0) return false;
-  return MsgBox(Text(405), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
+void Save() {
+  const std::string path = SaveWhole();
+  if (!path.empty()) TellSaved(path);  // behind the cell's hint, which comes back with the place
 }
 
 /// The rest of the table would be in no file, and nothing would say so.
@@ -75,41 +64,21 @@ bool IsPartOverOwnFile(const std::string& path) {
 
 void SaveAs() {
   const WholeRangeAfter whole_range;
-  if (!AskWhatToSave()) return;
-  const auto path = AskSavePath(406);
+  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  if (!AskRange() || PosiDataCheck3() != 0 || !AskOk(405)) return;
+  const auto path = AskPath(406);
   if (!path) return;
-  if (IsPartOverOwnFile(*path)) {
-    MsgBox(Text(kMsgPartOverWhole));
-    return;
-  }
+  if (IsPartOverOwnFile(*path)) return Tell(kMsgPartOverWhole);
   PosiFileTrouble trouble;
-  if (SaveFileAs2(*path, trouble) != 0) {
-    MsgBox(WithReason(422, trouble));
-  } else {
-    TellSaved(*path);
-  }
+  if (SaveFileAs2(*path, trouble) != 0) return TellNotSaved(trouble);
+  TellSaved(*path);
 }
 
 }  // namespace
 
-std::optional<std::string> AskOpenPath(int title_id) {
-  FileDialogCall call;
-  call.Title = Text(title_id);
-  call.Filter = Text(351);
-  call.DefaultExtension = "qvd";
-  return doors.forms->FileDialog(call);
-}
-
-int TryFourTimes(const std::function<int(PosiFileTrouble&)>& attempt, PosiFileTrouble& trouble) {
-  for (int tries = 1;; ++tries) {
-    if (attempt(trouble) == 0) return 0;
-    if (!trouble.may_pass || tries == kTries) return 1;
-    TusinWaitMs(kPauseMs);
-  }
-}
-
-std::string WithReason(int message_id, const PosiFileTrouble& trouble) {
-  return trouble.words.empty() ? Text(message_id) : Text(message_id) + "\n\n" + trouble.words;
+Attempt AttemptOf(int result, const PosiFileTrouble& trouble) {
+  if (result == 0) return Attempt::Good;
+  return trouble.may_pass ? Attempt::MayPass : Attempt::Useless;
 }
 
 void PosidataSaveToFile() {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
-#include <optional>
-#include <string>
-
 #include "posi/posi_file.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
+
+/// Position files in the file dialogues.
+inline constexpr DataFile kPosiDataFile{351, "qvd", 407};
 
 /// The save flow: checks the whole table and saves it to its file, or to one that the user names.
 void PosidataSaveToFile();
@@ -14,13 +14,7 @@ void PosidataSaveToFile();
 /// The save flow for another file and, if the user wants, for a part of the table.
 void PosiDataSaveAs();
 
-/// Asks for a file to open; nothing on Cancel.
-std::optional<std::string> AskOpenPath(int title_id);
-
-/// Up to four attempts, 100 ms apart, as long as the trouble may pass. 0: one was good.
-int TryFourTimes(const std::function<int(PosiFileTrouble&)>& attempt, PosiFileTrouble& trouble);
-
-/// A message, and behind it the reason where there is one.
-std::string WithReason(int message_id, const PosiFileTrouble& trouble);
+/// What a result of the file's reader or writer (0 or 1) and its trouble say of another attempt.
+Attempt AttemptOf(int result, const PosiFileTrouble& trouble);
 
 }  // namespace tr7

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "state/app_state.h"
 
@@ -31,8 +32,8 @@ class KeptEdits {
 
   int rows_ = 0;  ///< 0: nothing was kept
   Bool16 program_mode_;
-  std::array<Bool16, kAxes> muko_;
-  std::array<double, kAxes> lead_, ppr_;
+  AxisArray<Bool16> muko_;
+  AxisArray<double> lead_, ppr_;
   std::vector<std::int16_t> source_;
   std::vector<std::string> texts_;
 };

@@ -82,7 +82,11 @@ std::string RefusalText(int col) {
 }
 
 void TellRounded(const std::string& typed, const std::string& shown) {
-  frmPosi.RoundedNote = Text(kMsgRounded, Trim(typed), Trim(shown));
+  TellNote(Text(kMsgRounded, Trim(typed), Trim(shown)));
+}
+
+void TellNote(const std::string& note) {
+  frmPosi.RoundedNote = note + "  ";
   TellInStatusPanel(frmPosi.RoundedNote + PosiHint(frmPosi.flgdData.Col));
 }
 

@@ -13,8 +13,10 @@ std::string PosiRangeText(int col);
 /// Why a cell of the column refused a text: its range, or what a comment cannot hold.
 std::string RefusalText(int col);
 
-/// Says in the status panel, in front of the hint, what an accepted cell has made of the text that
-/// was typed. It outlives the step to the next cell that ends the edit.
+/// A note about what was just typed: it stands in front of the hint until the selection has moved
+/// on from the next cell.
+void TellNote(const std::string& note);
+/// Such a note of what an accepted cell has made of the text that was typed.
 void TellRounded(const std::string& typed, const std::string& shown);
 
 /// Writes the hint of the grid's current cell to the frame's first status panel.

@@ -27,7 +27,7 @@ bool AskNewRange() {
   AppState.RangeIsForNew = True;
   AppState.PosiFirstNo = kProposedFirst;
   AppState.PosiLastNo = kProposedLast;
-  const bool chosen = AskRange();
+  const bool chosen = AskRange().has_value();
   AppState.RangeIsForNew = False;
   if (chosen) return true;
   AppState.RangeCancelled = False;
@@ -40,7 +40,7 @@ bool AskNewRange() {
 
 bool MayReplaceTable(int question_id) {
   if (!frmPosi.PosiChanged) return true;
-  const MsgAnswer answer = MsgBox(Text(question_id), MsgButtons::YesNoCancel, MsgIcon::Question);
+  const MsgAnswer answer = AskYesNoCancel(question_id);
   if (answer == MsgAnswer::No) return true;
   if (answer != MsgAnswer::Yes) return false;
   frmPosi.Commands.Save();

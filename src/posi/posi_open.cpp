@@ -1,6 +1,5 @@
 #include "posi/posi_open.h"
 
-#include <cstdint>
 #include <string>
 
 #include "device/dev_setting.h"
@@ -13,6 +12,7 @@
 #include "posi/posi_file_flows.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_new.h"
+#include "posi/posi_range.h"
 #include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
 #include "posi/recalc.h"
@@ -27,22 +27,15 @@ namespace {
 constexpr int kMsgSaveBeforeOpen = 6450;
 constexpr int kMsgLeftOut = 6458;
 
-/// A path; empty when the flow ends.
-std::string AskPath() {
-  const auto path = AskOpenPath(364);
-  if (!path) MsgBox(Text(367), MsgButtons::Ok, MsgIcon::Information);
-  return path.value_or(std::string());
-}
-
 /// True when the stage holds a file of the present mode; otherwise the user knows why not.
 bool ReadIntoStage(const std::string& path) {
   PosiFileTrouble trouble;
-  const auto read = [&](PosiFileTrouble& why) {
+  const bool read = TryFourTimes([&] {
     AppState.PosiFileNotOurs = False;
-    return ReadPosiFile(path, why);
-  };
-  if (TryFourTimes(read, trouble) != 0) {
-    MsgBox(WithReason(484, trouble));
+    return AttemptOf(ReadPosiFile(path, trouble), trouble);
+  });
+  if (!read) {
+    MsgBox(WithReason(Text(484), trouble.words));
     return false;
   }
   // A file of another kind has been told. The flow goes on with what was there before, and that
@@ -68,9 +61,9 @@ void TellNumbersLeftOut() {
 
 /// The stage becomes the table, in the layout of the axes in use.
 void ShowStage(FileDevices devices) {
-  AppState.PosiFromNo = AppState.PosiFirstNo = AppState.FileFirstNo;
-  AppState.PosiToNo = AppState.PosiLastNo = AppState.FileLastNo;
-  AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
+  const PosiRange range{AppState.FileFirstNo, AppState.FileLastNo};
+  SetLoadedPosiRange(range);
+  SetOperationRange(range);
   NameSeries();
   RecalcLimits();
   PosiStageFillRest();  // by the devices that are in use now
@@ -82,28 +75,25 @@ void ShowStage(FileDevices devices) {
   if (devices == FileDevices::OfFile) ShowFileAges();
 }
 
-void Open() {
-  if (!MayReplaceTable(kMsgSaveBeforeOpen)) return;
-  const std::string path = AskPath();
-  if (path.empty()) return;
-  DevicesOnTrial trial;
-  if (!ReadIntoStage(path)) return;
-  const FileDevices devices = ReconcileFileDevices();
-  if (devices == FileDevices::Refused) return;
-  trial.Keep();
-  TellNumbersLeftOut();
-  ShowStage(devices);
-  SetPosiTableFile(path);
-  frmPosi.PosiChanged = False;
-}
-
 }  // namespace
 
 void PosidataFileOpen() {
   EditCMD_Muko();
   const CommandsOff commands_off;
   const PosiGridOff grid_off;
-  Open();
+  if (!MayReplaceTable(kMsgSaveBeforeOpen)) return;
+  const auto path = AskOpenPath(kPosiDataFile, 364);
+  if (!path) TellDone(367);
+  if (!path || path->empty()) return;
+  DevicesOnTrial trial;
+  if (!ReadIntoStage(*path)) return;
+  const FileDevices devices = ReconcileFileDevices();
+  if (devices == FileDevices::Refused) return;
+  trial.Keep();
+  TellNumbersLeftOut();
+  ShowStage(devices);
+  SetPosiTableFile(*path);
+  frmPosi.PosiChanged = False;
 }
 
 }  // namespace tr7

@@ -1,17 +1,16 @@
 #include <algorithm>
+#include <optional>
 #include <string>
 
+#include "base/text_helpers.h"
 #include "device/device_texts.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "link/port.h"
-#include "link/posi_commands.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_new.h"
-#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
 #include "posi/posi_wire.h"
@@ -22,42 +21,27 @@
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
-#include "state/progress.h"
 #include "state/text.h"
+#include "steps/bulk.h"
+#include "steps/record_frames.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgCommentsStay = 6464;
+constexpr int kTimeoutMs = 5000;
 
-/// Reads the range's lines; false on a failure, which the exchange has told.
-bool ReadLines() {
-  ProgressScope progress(Text(368), AppState.PosiToNo - AppState.PosiFromNo + 1, true);
-  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo && !AppState.CancelRequested; ++n) {
-    std::string reply;
-    if (ReadPosiRecordFromCt(n, reply) != TusinOutcome::Good) return false;
-    PosiTable.PosiRawReply[static_cast<std::size_t>(n - 1)] = reply;
-    progress.Advance();
-  }
-  return true;
+std::string& ReplyOf(int number) {
+  return PosiTable.PosiRawReply[static_cast<std::size_t>(number - 1)];
 }
 
 /// A reply of the right length whose fields make no sense must not become a position.
-bool DecodeLines() {
-  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
-    if (DecodePosiRecord(PosiTable.PosiRawReply[static_cast<std::size_t>(n - 1)], n)) continue;
-    MsgBox(TwoLines(384, 385));
-    return false;
-  }
-  return true;
-}
-
-/// What the user wants read. False: the flow ends.
-bool AskWhatToRead() {
-  if (!MayReplaceTable(369)) return false;
-  AppState.ProgressWriting = True;
-  if (!AskReadRange()) return false;
-  return MsgBox(Text(370), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
+Outcome ReadLine(int number) {
+  std::string& reply = ReplyOf(number);
+  const RecordFrame frame{"0RP" + HexPad(number, 3), kPosiReplyLength, kTimeoutMs};
+  const Outcome outcome = ReadNamed(frame, reply);
+  return outcome != Outcome::Done || IsPosiRecord(reply, number) ? outcome : TellBadData();
 }
 
 /// True when a loaded position has a comment, and the one that has come in is another move.
@@ -88,22 +72,20 @@ bool AskWhetherCommentsStay() {
 }
 
 /// Comments do not travel: those of the loaded positions stay in the PC.
-void KeepComments() {
+void KeepComments(const PosiRange& range) {
   const auto column = static_cast<std::size_t>(kComment);
   const bool stay = AskWhetherCommentsStay();
-  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
+  for (int n = range.first; n <= range.last; ++n) {
     const auto number = static_cast<std::size_t>(n);
-    const bool loaded = stay && n >= AppState.PosiFirstNo && n <= AppState.PosiLastNo;
-    PosiTable.PosiStage[column][number] =
-        loaded ? PosiTable.PosiRec[column][number] : Variant(std::string());
+    PosiTable.PosiStage[column][number] = stay && LoadedPosiRange().Holds(n)
+                                              ? PosiTable.PosiRec[column][number]
+                                              : Variant(std::string());
   }
 }
 
-void ShowReadData() {
-  KeepComments();
-  AppState.PosiFirstNo = AppState.PosiFromNo;
-  AppState.PosiLastNo = AppState.PosiToNo;
-  AppState.PosiCount = static_cast<std::int16_t>(AppState.PosiLastNo - AppState.PosiFirstNo + 1);
+void ShowReadData(const PosiRange& range) {
+  KeepComments(range);
+  SetLoadedPosiRange(range);
   PosiStageCommit();
   RecalcMmFromPulse();
   FG_ShowTable();
@@ -112,38 +94,37 @@ void ShowReadData() {
   frmPosi.PosiChanged = False;
 }
 
-void ReadAndShow() {
-  const WaitCursorScope wait_cursor;
-  const int result = ReadPosidataFromCt();
-  if (result == kTransferStopped) MsgBox(Text(425), MsgButtons::Ok, MsgIcon::Information);
-  if (result == kTransferDone) ShowReadData();
-}
-
 }  // namespace
 
-int ReadPosidataFromCt() {
-  const bool read = ReadLines();
+Outcome ReadPosidataFromCt(const PosiRange& range) {
+  const Outcome outcome =
+      Bulk(368, range.Count(), Bulk::Cancel::Yes).Each(range.first, range.last, ReadLine);
   TusinPortClose();
-  if (!read) return FailedOrStopped();
-  if (AppState.CancelRequested) return kTransferStopped;
-  if (!DecodeLines()) return kTransferFailed;
+  if (outcome != Outcome::Done) return outcome;
+  if (AppState.CancelRequested) return Outcome::Stopped;
+  for (int n = range.first; n <= range.last; ++n) DecodePosiRecord(ReplyOf(n), n);
   frmPosi.ReadDone = True;
-  return kTransferDone;
+  return Outcome::Done;
 }
 
 void PosidataGetfromCt() {
   EditCMD_Muko();
-  const CommandsOff commands_off;
-  const BusyScope busy;
+  const TransferScope transfer;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
-  const PortClosedAfter port_closed;
-  AppState.CancelRequested = False;
-  if (!AskWhatToRead()) return;
+  if (!MayReplaceTable(369)) return;
+  AppState.ProgressWriting = True;
+  const std::optional<PosiRange> range = AskReadRange();
+  if (!range || !AskOk(370)) return;
   if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
   AppState.CancelRequested = False;
-  // Positions that cannot be converted are not shown, here as on opening a file.
-  if (ReconcileDevices(DeviceReconcile::Read) == 0 && AllAxesConvert()) ReadAndShow();
+  if (ReconcileDevices(DeviceReconcile::Read) != 0) return;
+  if (!AllAxesConvert())
+    return;  // what cannot be converted is not shown, here as on opening a file
+  const WaitCursorScope wait_cursor;
+  const Outcome outcome = ReadPosidataFromCt(*range);
+  if (outcome == Outcome::Stopped) TellDone(425);
+  if (outcome == Outcome::Done) ShowReadData(*range);
 }
 
 }  // namespace tr7

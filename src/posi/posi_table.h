@@ -6,6 +6,7 @@
 #include <limits>
 #include <string>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 #include "base/variant.h"
 #include "state/app_state.h"
@@ -38,8 +39,8 @@ struct PosiTableRecord {
   std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiRec;    ///< [column][number]
   std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiStage;  ///< data coming in
   std::bitset<kPosiSlots> StageHolds;  ///< numbers that came in; the others have start values
-  std::array<std::array<std::int32_t, kPosiSlots>, kAxes> PosiPulse{};
-  std::array<std::array<double, kPosiSlots>, kAxes> PosiMm{};
+  AxisArray<std::array<std::int32_t, kPosiSlots>> PosiPulse{};
+  AxisArray<std::array<double, kPosiSlots>> PosiMm{};
   std::array<std::string, kPosiSlots> PosiRawReply;  ///< [number - 1]: reply line, or line to send
   std::array<std::array<Bool16, kPosiSlots>, kPosiColumns> SyogoCell{};  ///< bad or different
   std::array<Bool16, kPosiSlots> PosiLineBad{};                          ///< failed the last check

@@ -1,12 +1,11 @@
 #include "posi/posi_verify.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "device/dev_setting.h"
-#include "link/port.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_file.h"
@@ -24,6 +23,7 @@
 #include "state/message_box.h"
 #include "state/text.h"
 #include "state/text_file.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
@@ -40,10 +40,11 @@ class DevSetteiKept {
   DevSetteiKept& operator=(const DevSetteiKept&) = delete;
 
  private:
-  std::array<DevSettingRecord, kAxes> kept_ = DevSettei;
+  AxisArray<DevSettingRecord> kept_ = DevSettei;
 };
 
-/// Compares and shows the result. `sides` names the two, `other` the one that is not the table.
+/// Compares over the operation's range and shows the result. `sides` names the two, `other` the one
+/// that is not the table.
 void CompareAndShow(const std::string& sides, const std::string& other) {
   if (PosiDataSyogoProc() == 0) {
     MsgBox(sides + "\n\n" + Text(kMsgResultGood), MsgButtons::Ok, MsgIcon::Information);
@@ -56,26 +57,26 @@ void CompareAndShow(const std::string& sides, const std::string& other) {
 
 using ReadFile = int (*)(const std::string& path, PosiFileTrouble& trouble);
 
-/// Reads the file to compare with; its path, or empty when the flow ends.
-std::string ReadFileToVerify(ReadFile read) {
-  const auto path = AskOpenPath(350);
-  if (!path || path->empty()) return {};
+/// True when the stage holds a file of the present mode; otherwise the user knows why not.
+bool ReadIntoStage(ReadFile read, const std::string& path) {
   AppState.PosiFileNotOurs = False;
   PosiFileTrouble trouble;
-  if (read(*path, trouble) != 0) MsgBox(WithReason(484, trouble));
-  if (AppState.PosiFileNotOurs) return {};
-  if (AppState.CtMode == AppState.FileIsPrgMode) return *path;
+  if (read(path, trouble) != 0) MsgBox(WithReason(Text(484), trouble.words));
+  if (AppState.PosiFileNotOurs) return false;
+  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
   MsgBox(TwoLines(330, 331));
-  return {};
+  return false;
 }
 
 /// The older range dialogue knows no bounds; beyond them there is nothing to compare.
-bool AskOlderVerifyRange(bool overlaps) {
+std::optional<PosiRange> AskOlderVerifyRange(bool overlaps) {
   if (!overlaps) return AskVerifyRange(false);
-  if (!AskReadRange()) return false;
-  AppState.PosiFromNo = std::max(AppState.PosiFromNo, AppState.SyogoFromNo);
-  AppState.PosiToNo = std::min(AppState.PosiToNo, AppState.SyogoToNo);
-  return AppState.PosiFromNo <= AppState.PosiToNo;
+  const std::optional<PosiRange> asked = AskReadRange();
+  if (!asked) return std::nullopt;
+  const PosiRange range{std::max<int>(asked->first, AppState.SyogoFromNo),
+                        std::min<int>(asked->last, AppState.SyogoToNo)};
+  SetOperationRange(range);
+  return range.IsEmpty() ? std::nullopt : std::optional(range);
 }
 
 /// Says which numbers of the range the file does not hold; false when there is no other.
@@ -88,25 +89,18 @@ bool TellNotCompared() {
   return false;
 }
 
-void VerifyWithFile(ReadFile read, bool (*ask_range)(bool overlaps)) {
+void VerifyWithFile(ReadFile read, std::optional<PosiRange> (*ask_range)(bool overlaps)) {
   EditCMD_Muko();
   const CommandsOff commands_off;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
   const DevSetteiKept kept;
   if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
-  const std::string path = ReadFileToVerify(read);
-  if (path.empty() || !ask_range(SyogoOverlap() == 0) || !TellNotCompared()) return;
-  const std::string title = FileTitle(path);
+  const auto path = AskOpenPath(kPosiDataFile, 350);
+  if (!path || path->empty() || !ReadIntoStage(read, *path)) return;
+  if (!ask_range(SyogoOverlap() == 0) || !TellNotCompared()) return;
+  const std::string title = FileTitle(*path);
   CompareAndShow(Text(352) + title + Text(353), title);
-}
-
-void VerifyWithCt() {
-  if (GoOnlineAndRecheck() != 0) return;
-  AppState.CancelRequested = False;
-  const int result = ReadPosidataFromCt();
-  if (result == kTransferStopped) MsgBox(Text(440), MsgButtons::Ok, MsgIcon::Information);
-  if (result == kTransferDone) CompareAndShow(Text(354), Text(374));
 }
 
 }  // namespace
@@ -117,14 +111,16 @@ void PosiDataFileShogo() { VerifyWithFile(ReadOldPosiFile, AskOlderVerifyRange);
 
 void PosiDataCtShogo() {
   EditCMD_Muko();
-  const CommandsOff commands_off;
-  const BusyScope busy;
+  const TransferScope transfer;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
-  const PortClosedAfter port_closed;
+  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  const std::optional<PosiRange> range = AskRange();
+  if (!range || GoOnlineAndRecheck() != 0) return;
   AppState.CancelRequested = False;
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0 || !AskRange()) return;
-  VerifyWithCt();
+  const Outcome outcome = ReadPosidataFromCt(*range);
+  if (outcome == Outcome::Stopped) TellDone(440);
+  if (outcome == Outcome::Done) CompareAndShow(Text(354), Text(374));
 }
 
 }  // namespace tr7

@@ -56,19 +56,30 @@ std::string AxisText(int axis, int number) {
          HexPad(RecordValue(base + kPs, number), 2);
 }
 
-}  // namespace
-
-bool DecodePosiRecord(const std::string& reply, int number) {
+/// The fields of a reply line; false when it is no record of `number`.
+bool TakeRecord(const std::string& reply, int number, Fields& fields) {
   if (static_cast<int>(reply.size()) != kPosiReplyLength) return false;
   if (HexValue(std::string_view(reply).substr(3, 3)) != number) return false;
   std::string_view rest = std::string_view(reply).substr(kFirstField);
-  Fields fields{};
   for (int axis = 0; axis < kAxes; ++axis) {
     if (!TakeAxis(rest, axis, fields)) return false;
   }
   for (std::size_t i = 0; i < kCommonWidths.size(); ++i) {
     if (!TakeField(rest, kCommonWidths[i], fields[kItpl + i])) return false;
   }
+  return true;
+}
+
+}  // namespace
+
+bool IsPosiRecord(const std::string& reply, int number) {
+  Fields fields{};
+  return TakeRecord(reply, number, fields);
+}
+
+bool DecodePosiRecord(const std::string& reply, int number) {
+  Fields fields{};
+  if (!TakeRecord(reply, number, fields)) return false;
   for (std::size_t col = 1; col <= kSm; ++col) {
     PosiTable.PosiStage[col][static_cast<std::size_t>(number)] = static_cast<double>(fields[col]);
   }

@@ -1,39 +1,45 @@
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "base/text_helpers.h"
 #include "device/ct_device.h"
-#include "link/port.h"
-#include "link/posi_commands.h"
 #include "link/status_commands.h"
-#include "platform/doors.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_format.h"
-#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
 #include "posi/posi_wire.h"
 #include "posi/range_dialogs.h"
 #include "posi/result_view.h"
 #include "posi/syogo_flags.h"
+#include "session/open_port.h"
 #include "session/session.h"
 #include "state/app_state.h"
-#include "state/busy_scope.h"
+#include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/progress.h"
 #include "state/text.h"
+#include "steps/bulk.h"
+#include "steps/held_axes.h"
+#include "steps/record_frames.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgStopped = 6456;
 constexpr int kMsgStrokeOfCt = 6457;
-constexpr std::size_t kEchoLength = 6;  // command and number
-constexpr int kAllAxes = 0xF;
-constexpr int kCheckSteps = kAxes;
+constexpr int kMsgFillers = 6364;
+constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
+constexpr int kTimeoutMs = 5000;
+constexpr int kCommitTimeoutMs = 10000;  // the controller writes its flash memory
+constexpr int kReplyLength = 8;
+constexpr int kCommitReplyLength = 11;
+constexpr std::size_t kEcho = 6;  // command and number
+constexpr std::size_t kCommitEcho = 3;
 
 bool IsBad(int number) { return PosiTable.PosiLineBad[static_cast<std::size_t>(number)]; }
 
@@ -43,86 +49,61 @@ std::string& LineOf(int number) {
 
 // The bulk write.
 
-void BuildLines() {
-  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
+void BuildLines(const PosiRange& range) {
+  for (int n = range.first; n <= range.last; ++n) {
     if (!IsBad(n)) LineOf(n) = EncodePosiRecord(n);
   }
 }
 
-/// Sends one line. The user has been told of a failure.
-int SendLine(const std::string& line) {
-  std::string reply;
-  const TusinOutcome outcome = WritePosiRecordToCt(line, reply);
-  if (outcome == TusinOutcome::Withdrawn) return kTransferStopped;
-  if (outcome != TusinOutcome::Good) {
-    MsgBox(Text(384));
-    return kTransferFailed;
-  }
-  if (reply.substr(0, kEchoLength) == line.substr(0, kEchoLength)) return kTransferDone;
-  TusinPortClose();
-  return TellBadData();
+Outcome SendLine(int number) {
+  if (IsBad(number)) return Outcome::Done;
+  return SendEchoed({LineOf(number), kReplyLength, kTimeoutMs, kEcho, 384});
 }
 
-/// Sends the range up to its end or to the cancel button: `next` is the first number that was not
-/// reached. False on a failure.
-bool SendLines(int& next) {
-  ProgressScope progress(Text(383), AppState.PosiToNo - AppState.PosiFromNo + 1, true);
-  for (next = AppState.PosiFromNo; next <= AppState.PosiToNo && !AppState.CancelRequested; ++next) {
-    const int result = IsBad(next) ? kTransferDone : SendLine(LineOf(next));
-    if (result == kTransferFailed) return false;
-    if (result == kTransferStopped) break;
-    progress.Advance();
-  }
+Outcome SendLines(const PosiRange& range, int& next) {
+  Bulk bulk(383, range.Count(), Bulk::Cancel::Yes);
+  next = range.first;
+  const Outcome sent = bulk.Each(range.first, range.last, [&](int number) {
+    const Outcome outcome = SendLine(number);
+    if (outcome == Outcome::Done) next = number + 1;
+    return outcome;
+  });
+  if (sent == Outcome::Failed) return sent;
   // The controller keeps lines only when it is told to: also those before a cancel.
-  return PosiWriteCommitToCt(AppState.PosiFromNo, AppState.PosiToNo) == 0;
-}
-
-int WriteRange(int& next) {
-  BuildLines();
-  const bool sent = SendLines(next);
-  TusinPortClose();
-  if (!sent) return kTransferFailed;
-  return next <= AppState.PosiToNo ? kTransferStopped : kTransferDone;
+  const std::string commit = "0WA" + HexPad(range.first, 3) + HexPad(range.last, 3);
+  const Outcome stored = SendEchoed({commit, kCommitReplyLength, kCommitTimeoutMs, kCommitEcho});
+  return stored == Outcome::Done ? sent : stored;
 }
 
 // The check before it.
 
-using Strokes = std::array<std::int32_t, kAxes>;
-
-/// The controller's stroke in pulses of an axis; false when it did not answer sensibly.
-bool ReadStroke(int axis, std::int32_t& pulses) {
-  if (ReadAxisMaxPulse(axis, pulses) != 0) return false;
-  // Whatever its stroke, the line holds no more pulses than these.
-  pulses = std::min(pulses, std::int32_t{kMostPulses});
-  return true;
-}
+using Strokes = AxisArray<std::int32_t>;
 
 /// State, axes and mode as the controller reports them, beside those of the PC.
 int ReadCtStateFromCt() { return ReadCtModeAndAxis(); }
 
+/// The controller's strokes in pulses; false when it did not answer sensibly.
 bool ReadStrokes(Strokes& StrokeOfCt) {
-  ProgressScope progress(Text(378), kCheckSteps, false);
+  ProgressScope progress(Text(378), kAxes, false);
   if (OpenPortOrTell() != 0) return false;
   if (CtComStart() != 0 || ReadCtStateFromCt() != 0) return false;
   for (int axis = 0; axis < kAxes; ++axis) {
-    const auto index = static_cast<std::size_t>(axis);
-    if (!AppState.AxisMuko[index] && !ReadStroke(axis, StrokeOfCt[index])) return false;
+    if (!AppState.AxisMuko[axis] && ReadAxisMaxPulse(axis, StrokeOfCt[axis]) != 0) return false;
+    // Whatever its stroke, the line holds no more pulses than these.
+    StrokeOfCt[axis] = std::min(StrokeOfCt[axis], std::int32_t{kMostPulses});
     progress.Advance();
   }
   return true;
 }
 
 /// The grid has just been committed: its pulses are what will be sent, whichever unit it shows.
-void FlagBeyond(const Strokes& StrokeOfCt) {
+void FlagBeyond(const PosiRange& range, const Strokes& StrokeOfCt) {
   ClearSyogo();
-  for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
+  for (int n = range.first; n <= range.last; ++n) {
     if (IsBad(n)) continue;
-    for (int axis = 0; axis < kAxes; ++axis) {
-      const auto index = static_cast<std::size_t>(axis);
-      const std::int32_t pulses = PosiTable.PosiPulse[index][static_cast<std::size_t>(n)];
-      if (!AppState.AxisMuko[index] && StrokeOfCt[index] < pulses) {
-        FlagCell(AxisBase(axis) + kPosi, n);
-      }
+    for (const int axis : AxesInUse()) {
+      const std::int32_t pulses = PosiTable.PosiPulse[axis][static_cast<std::size_t>(n)];
+      if (StrokeOfCt[axis] < pulses) FlagCell(AxisBase(axis) + kPosi, n);
     }
     if (LineIsFlagged(n)) ++PosiTable.SyogoCount;
   }
@@ -130,75 +111,43 @@ void FlagBeyond(const Strokes& StrokeOfCt) {
 
 void ShowBeyond(const Strokes& StrokeOfCt) {
   const auto stroke_text = [&](int, int col) {
-    const auto axis = static_cast<std::size_t>(AxisOfColumn(col));
-    return Trim(PosiValueText(col, StrokeOfCt[axis], 1, AppState.CtMode));
+    return Trim(PosiValueText(col, StrokeOfCt[AxisOfColumn(col)], 1, AppState.CtMode));
   };
   ShowSyogoKekka(false, {stroke_text, Text(kMsgStrokeOfCt)});
 }
 
 // The flow.
 
-/// False: the flow ends before anything is sent.
-bool AskWhatToWrite() {
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return false;
-  if (!AskRange() || PosiDataCheck3() != 0) return false;
-  return MsgBox(Text(375), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
+/// Axes that the controller drives and the PC does not use lose what the controller holds for them:
+/// the user decides. True where there are none.
+bool MayFillUnusedAxes(const PosiRange& range) {
+  const AxisList unused(AppState.AxisPattern & ~AxesInUseMask());
+  if (unused.empty()) return true;
+  std::string names;
+  for (const int axis : unused) names += (names.empty() ? "" : ", ") + Text(kMsgAxis1 + axis);
+  const std::string numbers = std::to_string(range.first) + "-" + std::to_string(range.last);
+  return MsgBox(Text(kMsgFillers, names, numbers), MsgButtons::OkCancel) == MsgAnswer::Ok;
 }
 
-bool AxesStandStill() {
-  const int rest = ReadAlarmFromCt();
-  if (rest == 0) MsgBox(Text(424));
-  return rest == 1;
-}
-
-/// While axes are held, the controller's inputs start no move.
-int HoldAxes() { return CtControlModeSet(1, 0, kAllAxes); }
-int ReleaseAxes() { return CtControlModeSet(0, 0, 0); }
-
-bool HoldForWriting() {
-  if (HoldAxes() == 0 && ReadCtStateFromCt() == 0) return true;
-  MsgBox(Text(377));
+bool StateIsHeard() {
+  if (ReadCtStateFromCt() == 0) return true;
+  Tell(377);
   return false;
-}
-
-/// A failure that left the line healthy must not leave the axes held; after a refusal nothing more
-/// is sent.
-void ReleaseAfterFailure() {
-  if (!AppState.Offline && !AppState.AlarmOn) ReleaseAxes();
-}
-
-void TellWritten(int result, int next) {
-  if (result == kTransferStopped) {
-    MsgBox(Text(kMsgStopped, std::to_string(next)), MsgButtons::Ok, MsgIcon::Information);
-  } else {
-    MsgBox(Text(376), MsgButtons::Ok, MsgIcon::Information);
-  }
-}
-
-void Write() {
-  if (!AxesStandStill()) return;
-  int next = 0;
-  const bool held = HoldForWriting();
-  const int result = held && PosiKakikomimaeParaCheck() == 0 ? WriteRange(next) : kTransferFailed;
-  if (result == kTransferFailed) {
-    ReleaseAfterFailure();
-    return;
-  }
-  if (ReleaseAxes() != 0) MsgBox(Text(377));
-  TellWritten(result, next);
 }
 
 }  // namespace
 
-int WritePosidataToCt() {
-  int next = 0;
-  return WriteRange(next);
+Outcome WritePosidataToCt(const PosiRange& range, int& next) {
+  BuildLines(range);
+  const Outcome outcome = SendLines(range, next);
+  TusinPortClose();
+  return outcome;
 }
 
-int PosiKakikomimaeParaCheck() {
+int PosiKakikomimaeParaCheck(const PosiRange& range) {
   Strokes StrokeOfCt{};
   if (!ReadStrokes(StrokeOfCt)) return 1;
-  FlagBeyond(StrokeOfCt);
+  FlagBeyond(range, StrokeOfCt);
   const bool good = PosiTable.SyogoCount == 0;
   if (!good) ShowBeyond(StrokeOfCt);
   ClearSyogo();
@@ -213,15 +162,27 @@ int GoOnlineAndRecheck() {
 
 void PosidataLoadtoCt() {
   EditCMD_Muko();
-  const CommandsOff commands_off;
-  const BusyScope busy;
+  const TransferScope transfer;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
-  const PortClosedAfter port_closed;
+  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  const std::optional<PosiRange> range = AskRange();
+  if (!range || PosiDataCheck3() != 0 || !AskOk(375)) return;
+  if (GoOnlineAndRecheck() != 0 || !MayFillUnusedAxes(*range)) return;
   AppState.CancelRequested = False;
-  if (!AskWhatToWrite() || GoOnlineAndRecheck() != 0) return;
-  AppState.CancelRequested = False;
-  Write();
+  if (!AxesStandStill()) return;
+  HeldAxes held;
+  if (!held.Hold() || !StateIsHeard()) return;
+  if (PosiKakikomimaeParaCheck(*range) != 0) return;
+  int next = 0;
+  const Outcome outcome = WritePosidataToCt(*range, next);
+  if (outcome == Outcome::Failed) return;
+  static_cast<void>(held.Release());  // a failure has been told; the positions are stored
+  if (outcome == Outcome::Done) {
+    TellDone(376);
+  } else {
+    MsgBox(Text(kMsgStopped, std::to_string(next)), MsgButtons::Ok, MsgIcon::Information);
+  }
 }
 
 }  // namespace tr7

@@ -1,6 +1,6 @@
 #include "posi/range_dialogs.h"
 
-#include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "base/text_helpers.h"
@@ -17,16 +17,11 @@ namespace {
 
 constexpr int kProposedLast = 15;
 
-struct NumberRange {
-  int first;
-  int last;
-};
-
 /// What a dialogue of this family shows and takes.
 struct RangeForm {
   SelectPosiNoView& view;
-  NumberRange bounds;    ///< numbers outside are refused
-  NumberRange proposed;  ///< shown at first
+  PosiRange bounds;    ///< numbers outside are refused
+  PosiRange proposed;  ///< shown at first
   bool offers_all;
   bool has_numbers;
 };
@@ -45,20 +40,19 @@ void ShowNumbers(const RangeForm& form) {
 }
 
 /// The typed range; false when it is none.
-bool TypedRange(const RangeForm& form, NumberRange& range) {
+bool TypedRange(const RangeForm& form, PosiRange& range) {
   if (form.offers_all && form.view.optAll.Value) {
     range = {1, kPosiMaxNo};
     return true;
   }
   range = {static_cast<int>(Val(form.view.txtFromNo.Text)),
            static_cast<int>(Val(form.view.txtToNo.Text))};
-  return range.first >= form.bounds.first && range.last <= form.bounds.last &&
-         range.first <= range.last;
+  return !range.IsEmpty() && form.bounds.Holds(range.first) && form.bounds.Holds(range.last);
 }
 
-bool Ask(const RangeForm& form) {
+std::optional<PosiRange> Ask(const RangeForm& form) {
   SelectPosiNoView& view = form.view;
-  bool accepted = false;
+  std::optional<PosiRange> accepted;
   HandlersForOnce handlers;
   handlers.Set(view.Load, [&form, &view] {
     view.optRange.Choose();
@@ -71,48 +65,47 @@ bool Ask(const RangeForm& form) {
   handlers.Set(view.txtFromNo.Enter, [&view] { doors.forms->SetFocus(view.txtToNo); });
   handlers.Set(view.txtToNo.Enter, [&view] { doors.forms->SetFocus(view.cmdOk); });
   handlers.Set(view.cmdOk.Click, [&form, &view, &accepted] {
-    NumberRange range{};
+    PosiRange range{};
     if (form.has_numbers && !TypedRange(form, range)) {
       MsgBox(Text(1610));
       doors.forms->SetFocus(view.txtFromNo);
       return;
     }
-    if (form.has_numbers) {
-      AppState.PosiFromNo = static_cast<std::int16_t>(range.first);
-      AppState.PosiToNo = static_cast<std::int16_t>(range.last);
-      accepted = true;
-    }
+    if (form.has_numbers) accepted = range;
     view.Visible = false;
   });
   handlers.Set(view.cmdCancel.Click, [&view] { view.Visible = false; });
   ShowViewModal(view);
-  AppState.RangeCancelled = !accepted;
+  AppState.RangeCancelled = !accepted.has_value();
+  if (accepted) SetOperationRange(*accepted);
   return accepted;
 }
 
-NumberRange LoadedRange() {
+PosiRange ProposedRange() {
   const bool loaded = AppState.PosiFirstNo >= 1 && AppState.PosiFirstNo <= AppState.PosiLastNo;
   if (!loaded) return {1, kProposedLast};
-  return {AppState.PosiFirstNo, AppState.PosiLastNo};
+  return LoadedPosiRange();
 }
 
 }  // namespace
 
-bool AskReadRange() { return Ask({frmSelectPosiNo2, {1, kPosiMaxNo}, LoadedRange(), true, true}); }
+std::optional<PosiRange> AskReadRange() {
+  return Ask({frmSelectPosiNo2, {1, kPosiMaxNo}, ProposedRange(), true, true});
+}
 
-bool AskRange() {
-  const NumberRange all{1, kPosiMaxNo};
-  const NumberRange bounds = AppState.RangeIsForNew ? all : LoadedRange();
-  if (!Ask({frmSelectPosiNo3, bounds, LoadedRange(), false, true})) return false;
-  if (AppState.RangeIsForNew) {
+std::optional<PosiRange> AskRange() {
+  const PosiRange all{1, kPosiMaxNo};
+  const PosiRange bounds = AppState.RangeIsForNew ? all : ProposedRange();
+  const auto range = Ask({frmSelectPosiNo3, bounds, ProposedRange(), false, true});
+  if (range && AppState.RangeIsForNew) {
     AppState.PosiFirstNo = AppState.PosiFromNo;
     AppState.PosiLastNo = AppState.PosiToNo;
   }
-  return true;
+  return range;
 }
 
-bool AskVerifyRange(bool overlaps) {
-  const NumberRange range{AppState.SyogoFromNo, AppState.SyogoToNo};
+std::optional<PosiRange> AskVerifyRange(bool overlaps) {
+  const PosiRange range{AppState.SyogoFromNo, AppState.SyogoToNo};
   return Ask({frmSelectPosiNo4, range, range, false, overlaps});
 }
 

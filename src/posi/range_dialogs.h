@@ -1,19 +1,24 @@
 #pragma once
 
+#include <optional>
+
+#include "posi/posi_range.h"
+
 namespace tr7 {
 
-// Each asks for a range of position numbers, modal, into `PosiFromNo` and `PosiToNo`. True when
-// the user chose one; else `RangeCancelled` is True and the range is as before.
+// Each asks for a range of position numbers, modal. What the user chose is also the operation's
+// range (`PosiFromNo` and `PosiToNo`); nothing where none was chosen: then `RangeCancelled` is True
+// and the operation's range is as before.
 
 /// `frmSelectPosiNo2`: all positions, or a range; proposes the loaded range or 1 to 15.
-bool AskReadRange();
+[[nodiscard]] std::optional<PosiRange> AskReadRange();
 
 /// `frmSelectPosiNo3`: a range, the loaded one proposed. With `RangeIsForNew` it also sets
 /// `PosiFirstNo` and `PosiLastNo`.
-bool AskRange();
+[[nodiscard]] std::optional<PosiRange> AskRange();
 
 /// `frmSelectPosiNo4`: a range within `SyogoFromNo` to `SyogoToNo`; with `overlaps` false it only
 /// says that nothing can be compared.
-bool AskVerifyRange(bool overlaps);
+[[nodiscard]] std::optional<PosiRange> AskVerifyRange(bool overlaps);
 
 }  // namespace tr7

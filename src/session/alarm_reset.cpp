@@ -1,13 +1,13 @@
 #include "session/alarm_reset.h"
 
 #include "forms/frm_main.h"
-#include "link/port.h"
 #include "link/status_commands.h"
+#include "session/open_port.h"
 #include "session/session.h"
 #include "state/app_state.h"
-#include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/online.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
@@ -36,9 +36,7 @@ int ResetAndConnect() {
 }  // namespace
 
 void AlarmReset() {
-  const CommandsOff commands_off;
-  const BusyScope busy;
-  const PortClosedAfter port_closed;
+  const TransferScope transfer;
   LiftOffline();
   const int result = ResetAndConnect();
   // Where no good reply has confirmed it, the line is not online.

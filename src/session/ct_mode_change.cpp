@@ -1,18 +1,15 @@
 #include "device/ct_device.h"
-#include "link/port.h"
 #include "session/session.h"
 #include "state/app_state.h"
-#include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/selection.h"
 #include "state/text.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 
 void ChangeCtModeMenu() {
-  const CommandsOff commands_off;
-  const BusyScope busy;
-  const PortClosedAfter port_closed;
+  const TransferScope transfer;
   if (ConnectOrOpenPort() != 0) return;
   const Selection choice = SelectionDialog2({.Title = Text(471),
                                              .Prompt = Text(476),

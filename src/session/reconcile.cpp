@@ -8,6 +8,7 @@
 #include "session/followers.h"
 #include "session/open_port.h"
 #include "state/app_state.h"
+#include "state/axes_in_use.h"
 #include "state/frame_menus.h"
 #include "state/message_box.h"
 #include "state/online.h"
@@ -28,26 +29,13 @@ Selection AskReconcile(int prompt_id, int pc_choice_id, bool may_cancel) {
                           .MayCancel = may_cancel});
 }
 
-/// The PC's axes in use as a mask, and the last of them, 1 to 4 (0: none).
-int PcAxisMask(int& last_axis) {
-  int mask = 0;
-  last_axis = 0;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[static_cast<std::size_t>(axis)]) continue;
-    mask |= 1 << axis;
-    last_axis = axis + 1;
-  }
-  return mask;
-}
-
 /// Writes the PC's axes; the controller takes them at its next power cycle, so this way ends
 /// offline by design.
 void WriteAxesOfPc(ProgressScope& progress) {
-  int last_axis = 0;
-  const int mask = PcAxisMask(last_axis);
-  if (WriteAxisPatternToCt(mask) != 0) return;
+  const AxisList axes = AxesInUse();
+  if (WriteAxisPatternToCt(AxesInUseMask()) != 0) return;
   progress.Set(3);
-  AppState.AxisCount = static_cast<std::int16_t>(last_axis);
+  AppState.AxisCount = static_cast<std::int16_t>(axes.empty() ? 0 : *(axes.end() - 1) + 1);
   // The mode is not written with them: a power cycle alone would bring the same question again.
   MsgBox(TwoLines(492, 493) + "\n\n" + Text(kMsgModeNotWritten), MsgButtons::Ok,
          MsgIcon::Information);
@@ -80,9 +68,7 @@ int TakeAxesAndDevicesOfCt() {
 }
 
 void MarkDevicesNotChosen() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (!AppState.AxisMuko[axis]) DevSetting[axis].NotChosen = True;
-  }
+  for (const int axis : AxesInUse()) DevSetting[axis].NotChosen = True;
 }
 
 int TakeDevicesOfCt(DeviceReconcile flow) {

@@ -9,6 +9,7 @@
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "platform/doors.h"
+#include "session/open_port.h"
 #include "session/reconcile.h"
 #include "session/version_check.h"
 #include "state/app_state.h"
@@ -20,6 +21,7 @@
 #include "state/status_panel.h"
 #include "state/text.h"
 #include "state/views.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
@@ -96,9 +98,7 @@ int ConnectOrOpenPort() {
 }
 
 void ChangeToOnlineMenu() {
-  const CommandsOff commands_off;
-  const BusyScope busy;
-  const PortClosedAfter port_closed;
+  const TransferScope transfer;
   ChangeToOnlineFromCommand();  // the step that failed has told the user
 }
 
@@ -131,12 +131,6 @@ void PortWatchTick() {
   FailToOffline();
   AllViewsCmdYuko();
   MsgBox(lost + "\n\n" + Text(kMsgPortLost));
-}
-
-void LiftOffline() {
-  if (!AppState.Offline) return;
-  AppState.Offline = False;
-  AppState.OfflineTemporarilyLifted = True;
 }
 
 }  // namespace tr7

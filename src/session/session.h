@@ -23,10 +23,6 @@ void ChangeToOfflineMenu();
 /// The first connection at the start: no dialogues, since the PC holds nothing yet. 0 or 1.
 int FirstConnection();
 
-/// Lets the requests of a command out that was started offline and needs no connect sequence. The
-/// first good reply makes the state online; without one `SettleOnlineState` takes it back.
-void LiftOffline();
-
 /// Watches the port: the lamp tells the truth, and a port that is lost while nothing has the line
 /// takes the session offline, with a box. A flow whose port is lost tells by itself.
 void PortWatchTick();

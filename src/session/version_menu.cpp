@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "link/port.h"
 #include "session/session.h"
 #include "session/version_check.h"
 #include "state/app_state.h"
-#include "state/busy_scope.h"
+#include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/text.h"
+#include "steps/transfer_scope.h"
 
 namespace tr7 {
 namespace {
@@ -20,16 +20,13 @@ std::string VersionLine(int name_id, const std::string& version) {
 }  // namespace
 
 void ContVersionMenu() {
-  const CommandsOff commands_off;
-  const BusyScope busy;
-  const PortClosedAfter port_closed;
+  const TransferScope transfer;
   if (ConnectOrOpenPort() != 0) return;
   if (GetVersionNo2() == 0) {
     std::string text = Text(426) + "\n\n" + VersionLine(427, AppState.CtVersionText);
-    for (int axis = 0; axis < kAxes; ++axis) {
-      const auto index = static_cast<std::size_t>(axis);
-      if (AppState.AxisMuko[index] || axis >= AppState.CtAxisDigit) continue;
-      text += "\n" + VersionLine(1405 + axis, AppState.AxisVersionText[index]);
+    for (const int axis : AxesInUse()) {
+      if (axis >= AppState.CtAxisDigit) break;
+      text += "\n" + VersionLine(1405 + axis, AppState.AxisVersionText[axis]);
     }
     MsgBox(text, MsgButtons::Ok, MsgIcon::Information);
   }

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
+#include "base/axes.h"
 #include "base/bool16.h"
 
 namespace tr7 {
-
-inline constexpr int kAxes = 4;
 
 /// The single shared record of the system. Axis arrays: index 0 to 3 for AXIS1 to AXIS4.
 struct AppStateRecord {
@@ -22,19 +20,20 @@ struct AppStateRecord {
   Bool16 OfflineTemporarilyLifted;
   Bool16 CtMode;         ///< False position mode, True program mode
   Bool16 CtModeOfCt;     ///< the mode that the controller reported last
+  Bool16 AxesMayBeHeld;  ///< a write could not release its axes: the next connection does
   Bool16 CtModePending;  ///< a mode was written that the controller takes at its next power cycle
   /// Axis not in use on the PC side; the same fact is called AxisAbsent where devices are meant.
-  std::array<Bool16, kAxes> AxisMuko;
-  std::array<Bool16, kAxes> AxisMukoOfCt;
+  AxisArray<Bool16> AxisMuko;
+  AxisArray<Bool16> AxisMukoOfCt;
   /// Axis without a device in the opened position file; also called FileAxisAbsent.
-  std::array<Bool16, kAxes> AxisMukoOfFile;
+  AxisArray<Bool16> AxisMukoOfFile;
   std::int16_t AxisPattern = 0;  ///< bit i: axis i+1 is in use on the controller
   std::int16_t AxisPatternOfCt = 0;
   std::int16_t AxisCount = 0;  ///< axes of the controller, 1 to 4
   std::string CtVersionText;   ///< main board version, 3 characters
   std::string CtModelMarker;   ///< "R1M" to "R4M"
   std::int16_t CtAxisDigit = 0;
-  std::array<std::string, kAxes> AxisVersionText;
+  AxisArray<std::string> AxisVersionText;
   Bool16 AllHomed;
 
   // Settings
@@ -87,11 +86,11 @@ struct AppStateRecord {
   Bool16 PosiFileNotOurs;
 
   // Limits
-  std::array<std::int32_t, kAxes> MaxPulse{};
-  std::array<double, kAxes> MaxMm{};  ///< whole multiples of 0.0001
-  std::array<std::int16_t, kAxes> MaxVel{};
-  std::array<double, kAxes> StrokePulse{};
-  std::array<double, kAxes> StrokeMm{};
+  AxisArray<std::int32_t> MaxPulse{};
+  AxisArray<double> MaxMm{};  ///< whole multiples of 0.0001
+  AxisArray<std::int16_t> MaxVel{};
+  AxisArray<double> StrokePulse{};
+  AxisArray<double> StrokeMm{};
 
   // Motion settings, one value each for its three fields
   std::int16_t VelOf100Pls = 20;

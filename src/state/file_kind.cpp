@@ -91,8 +91,4 @@ std::string AtLine(int line, const std::string& words) {
   return Text(kMsgAtLine, std::to_string(line), words);
 }
 
-std::string WithReason(const std::string& text, const std::string& reason) {
-  return reason.empty() ? text : text + "\n\n" + reason;
-}
-
 }  // namespace tr7

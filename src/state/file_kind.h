@@ -30,7 +30,4 @@ std::string ListFault(const std::string& name, const std::string& utf8, FileKind
 /// "Line 12: " and the words. Lines count from 1.
 std::string AtLine(int line, const std::string& words);
 
-/// A box's text, and behind it, where there is one, the reason.
-std::string WithReason(const std::string& text, const std::string& reason);
-
 }  // namespace tr7

@@ -16,4 +16,18 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
 /// Two messages, one line each.
 std::string TwoLines(int id1, int id2);
 
+/// A box's text, and behind it, where there is one, the reason.
+std::string WithReason(const std::string& text, const std::string& reason);
+
+// Telling and asking by message id.
+
+/// Something went wrong.
+void Tell(int id);
+/// Something is done.
+void TellDone(int id);
+/// A question with OK and Cancel: true for OK.
+[[nodiscard]] bool AskOk(int id);
+/// A question with Yes, No and Cancel.
+[[nodiscard]] MsgAnswer AskYesNoCancel(int id);
+
 }  // namespace tr7

@@ -18,6 +18,12 @@ void SetOnline() {
   frmMain.lblOnline.Caption = Text(5116);
 }
 
+void LiftOffline() {
+  if (!AppState.Offline) return;
+  AppState.Offline = False;
+  AppState.OfflineTemporarilyLifted = True;
+}
+
 void SettleOnlineState() {
   if (!AppState.Offline && !frmMain.imgOnline.Visible) SetOffline();
   AppState.OfflineTemporarilyLifted = False;

@@ -6,6 +6,10 @@ namespace tr7 {
 void SetOffline();
 void SetOnline();
 
+/// Lets the requests of a command out that was started offline and needs no connect sequence. The
+/// first good reply makes the state online; without one `SettleOnlineState` takes it back.
+void LiftOffline();
+
 /// At the end of a command: online is only what a good reply has confirmed, as the lamp shows.
 void SettleOnlineState();
 

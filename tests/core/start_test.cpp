@@ -303,7 +303,7 @@ TEST_F(OfflineStartTest, FewerAxesAndAnotherDevice) {
     frmDevice3.comboDeviceSpeed[1].Pick(1);
     Ok();
   }});
-  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
   EXPECT_EQ(DevSetting[1].Lead, 6);
   EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 28L-100E");
   EXPECT_EQ(frmPosi.lblDeviceType[2]->Caption, "");

@@ -59,7 +59,7 @@ TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
     DevSetting[1].NotChosen = True;
     AppState.AxisMuko = {True, True, True, False};
     take();
-    EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, False, True}));
+    EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, False, True}));
     EXPECT_EQ(DevSetting[1].Size + DevSetting[1].Speed, " 42H");
     EXPECT_EQ(DevSetting[1].Stroke, 200);
     EXPECT_EQ(DevSetting[1].Lead, 4);

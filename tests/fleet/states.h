@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -22,9 +21,9 @@ struct DeviceState {
 /// Axes, mode and devices: what the PC believes of the machine, or what the controller reports.
 /// Devices of axes not in use count as none.
 struct MachineState {
-  std::array<bool, kAxes> in_use{};
+  AxisArray<bool> in_use{};
   bool program_mode = false;
-  std::array<DeviceState, kAxes> devices{};
+  AxisArray<DeviceState> devices{};
   bool operator==(const MachineState&) const = default;
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <cstddef>
 #include <cstdint>
@@ -19,7 +18,6 @@
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
-#include "link/posi_commands.h"
 #include "link/request_queue.h"
 #include "link/status_commands.h"
 #include "para/para_blocks.h"
@@ -29,6 +27,7 @@
 #include "para/sys_para_commands.h"
 #include "platform/doors.h"
 #include "posi/posi_table.h"
+#include "posi/posi_transfer.h"
 #include "posi/posi_wire.h"
 #include "state/app_state.h"
 #include "state/online.h"
@@ -73,8 +72,7 @@ inline bool HasPlainDevice(std::size_t axis) {
 /// Any bytes as the parameter blocks: refused whole, or a table that `ParamSet` can take.
 inline void FuzzParaBlocks(std::string_view bytes) {
   if (bytes.empty()) return;
-  ParaAxes axes{};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) axes[axis] = (bytes[0] >> axis & 1) != 0;
+  const AxisList axes(bytes[0]);
   ParaBlocks blocks;
   std::size_t at = 1;
   for (const int block : ParaBlocksFor(axes)) {
@@ -112,8 +110,8 @@ inline constexpr std::size_t kReadThenWrite =
 
 /// Runs one of the commands. Its result.
 inline int RunCommand(std::size_t which) {
-  std::string reply;
-  std::array<std::int32_t, kAxes> pulses{};
+  int next = 0;
+  AxisArray<std::int32_t> pulses{};
   switch (which) {
     case 0:
       return GetVersionNo() == 0 ? GetAxisVersionNo(kAxes) : 1;
@@ -142,21 +140,22 @@ inline int RunCommand(std::size_t which) {
     case 12:
       return ReadPresentPosFromCt(pulses);
     case 13:
-      return ReadPosiRecordFromCt(1, reply) == TusinOutcome::Good && DecodePosiRecord(reply, 1);
+      return static_cast<int>(ReadPosidataFromCt({1, 2}));
     case 14:
-      return PosiWriteCommitToCt(1, kPosiMaxNo);
+      return static_cast<int>(WritePosidataToCt({1, 2}, next));
     case 15:
-      return ReadParaFromCt();
+      return static_cast<int>(ReadParaFromCt());
     case kReadThenWrite:
-      return ReadParaFromCt() == 0 && TakeParamTable() == 0 ? WriteParaToCt() : 1;
+      if (ReadParaFromCt() != Outcome::Done || TakeParamTable() != 0) return 1;
+      return static_cast<int>(WriteParaToCt());
     case 17:
-      return WriteAxisSettingToCt();
+      return static_cast<int>(WriteAxisSettingToCt());
     case 18:
-      return ReadGrpFromCt();
+      return static_cast<int>(ReadGrpFromCt());
     case 19:
-      return ReadSmFromCt();
+      return static_cast<int>(ReadSmFromCt());
     case 20:
-      return ReadSysParaFromCt();
+      return static_cast<int>(ReadSysParaFromCt());
     default:
       return 0;
   }

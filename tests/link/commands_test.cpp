@@ -77,7 +77,7 @@ TEST_F(CommandsTest, MotionTexts) {
   for (const auto& [program, text] : {std::pair{7, "0MG07"}, {10, "0MG0A"}, {100, "0MG64"}}) {
     EXPECT_EQ(line(StartProgToCt(program)), text);
   }
-  std::array<DirectMoveAxis, kAxes> axes;
+  AxisArray<DirectMoveAxis> axes;
   axes[1] = {true, 20, 3, 10000};
   EXPECT_EQ(line(MoveDirectToCt(axes, "00")),
             "0MV00101000000"
@@ -93,10 +93,10 @@ TEST_F(CommandsTest, PresentPositions) {
   Axes(true, false, false, true);
   port.Ct().PlaceAxis(1, 1234, pump.NowUs());
   port.Ct().PlaceAxis(4, -3, pump.NowUs());
-  std::array<std::int32_t, kAxes> pulses{7, 7, 7, 7};
+  AxisArray<std::int32_t> pulses{7, 7, 7, 7};
   ASSERT_EQ(ReadPresentPosFromCt(pulses), 0);
   EXPECT_EQ(LastLine(), "0RC9");
-  EXPECT_EQ(pulses, (std::array<std::int32_t, kAxes>{1234, 7, 7, 0}));
+  EXPECT_EQ(pulses, (AxisArray<std::int32_t>{1234, 7, 7, 0}));
   Axes(true, false, false, false);
   EXPECT_EQ(ReadPresentPosFromCt(pulses), 0) << "one axis: 11 characters";
 }

@@ -10,7 +10,7 @@
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
-#include "link/posi_commands.h"
+#include "link/request_queue.h"
 #include "link/status_commands.h"
 #include "link/tusin_wait.h"
 #include "state/online.h"
@@ -31,7 +31,7 @@ class ExchangeTest : public StateTest {
     ReadErrorList();
   }
   /// One read of position 1, the request that the tests spoil.
-  TusinOutcome Read() { return ReadPosiRecordFromCt(1, reply); }
+  TusinOutcome Read() { return TusinWait("0RP001", 68, 5000, reply); }
   void Silence(const std::string& prefix) {
     Fault fault;
     fault.probability = 1;

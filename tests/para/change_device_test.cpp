@@ -107,7 +107,7 @@ TEST_F(ChangeDeviceTest, OtherAxesComeWithTheDevices) {
     ChooseHigh42();
   }});
   EXPECT_EQ(Change_Device(), 0);
-  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
   EXPECT_EQ(AppState.AxisCount, 2);
   EXPECT_EQ(ParamSet.OneAxis, 3);
   EXPECT_EQ(frmPosi.lblDeviceType[2]->Caption, "");
@@ -210,7 +210,7 @@ TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
   EXPECT_EQ(Device(0), " 42H200");
   EXPECT_TRUE(DevSetting[0].WithPG);
   EXPECT_FALSE(DevSetting[1].WithPG);
-  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
   EXPECT_EQ(AppState.MaxPulse[0], 10000);
 }
 
@@ -345,7 +345,7 @@ TEST_F(IniPrmTest, EveryRefusalLeavesTheParameters) {
     }});
     frmParameta2.cmdIniPrm.Press();
     EXPECT_EQ(ParamSet, ParamSetRecord{});
-    EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{}));
+    EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{}));
     ExpectCommandsOn();
   }
   EXPECT_EQ(forms.LastBox(), Text(408) + "\n" + Text(409));

@@ -318,11 +318,11 @@ TEST_F(DeviceDialogTest, OkTakesEveryFieldAsNewAndVertical) {
 TEST_F(DeviceDialogTest, OtherAxesAreAskedAbout) {
   const struct {
     const char* what;
-    std::array<Bool16, kAxes> before;
+    AxisArray<Bool16> before;
     int number;  ///< picked; 0: none
     MsgAnswer answer;
     bool asked;
-    std::array<Bool16, kAxes> after;
+    AxisArray<Bool16> after;
     int count, mask;
   } rows[] = {
       {"same", {}, 4, MsgAnswer::No, false, {}, 4, 15},

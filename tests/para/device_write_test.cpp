@@ -77,13 +77,13 @@ class DeviceWriteTest : public FlowTest {
 
 /// All that a write may change here.
 struct PcState {
-  std::array<Bool16, kAxes> muko = AppState.AxisMuko;
+  AxisArray<Bool16> muko = AppState.AxisMuko;
   std::int16_t count = AppState.AxisCount;
   ParamSetRecord parameters = ParamSet;
-  std::array<std::string, kAxes> devices = Devices();
+  AxisArray<std::string> devices = Devices();
 
-  static std::array<std::string, kAxes> Devices() {
-    std::array<std::string, kAxes> names;
+  static AxisArray<std::string> Devices() {
+    AxisArray<std::string> names;
     for (std::size_t axis = 0; axis < kAxes; ++axis) {
       for (const DevSettingRecord* device : {&DevSetting[axis], &DevSettei[axis]}) {
         names[axis] += device->Size + device->Speed + std::to_string(device->Stroke) + " " +
@@ -111,7 +111,7 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   // The controller has stored the mask, and the device of AXIS1: lead 8, 400 pulses.
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
   EXPECT_EQ(port.Ct().CommittedBlock(4).substr(2, 6), "080190");
-  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
   EXPECT_EQ(AppState.AxisCount, 2);
   EXPECT_EQ(ParamSet.OneAxis, 3);
   EXPECT_EQ(ParamSet.Actuator[0], " 42H200");
@@ -172,13 +172,14 @@ TEST_F(DeviceWriteTest, OkAloneTakesTheDevicesHereOnly) {
   };
   frmMain.mnuSettingDeviceOnline.Press();
   EXPECT_EQ(port.sent, "");
-  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
   EXPECT_EQ(DevSetting[0].Size, " 42");
   EXPECT_EQ(ParamSet.OneAxis, 3);
   ExpectCommandsOn();
 }
 
 TEST_F(DeviceWriteTest, EveryFailureEndsTheWriteAndChangesNothingHere) {
+  constexpr int kHeld = 6363;  // the next connection releases the axes
   const struct {
     const char* what;
     FaultKind kind;
@@ -191,12 +192,12 @@ TEST_F(DeviceWriteTest, EveryFailureEndsTheWriteAndChangesNothingHere) {
       {"standstill refused", FaultKind::kErrorReply, "0RA", 1, {104}, "0RA", false},
       {"standstill unheard", FaultKind::kDeaf, "0RA", 0, {100}, "0RA", false},
       {"hold refused", FaultKind::kErrorReply, "0CM01111", 1, {104, 377}, "0CM01111", false},
-      {"mask refused", FaultKind::kErrorReply, "0WD0", 1, {104, 377}, "0WD0", false},
-      {"axes refused", FaultKind::kErrorReply, "0RD0", 2, {104, 6338}, "0RD0", false},
-      {"read refused", FaultKind::kErrorReply, "0RD7", 1, {104, 6338}, "0RD7", false},
-      {"block refused", FaultKind::kErrorReply, "0WD4", 1, {104, 1528}, "0WD4", false},
-      {"block unheard", FaultKind::kDeaf, "0WD7", 0, {100, 1528}, "0WD7", false},
-      {"store refused", FaultKind::kErrorReply, "0WE2", 1, {104, 1528}, "0WE2", false},
+      {"mask refused", FaultKind::kErrorReply, "0WD0", 1, {104, 377, kHeld}, "0WD0", false},
+      {"axes refused", FaultKind::kErrorReply, "0RD0", 2, {104, kHeld, 6338}, "0RD0", false},
+      {"read refused", FaultKind::kErrorReply, "0RD7", 1, {104, kHeld, 6338}, "0RD7", false},
+      {"block refused", FaultKind::kErrorReply, "0WD4", 1, {104, kHeld, 1528}, "0WD4", false},
+      {"block unheard", FaultKind::kDeaf, "0WD7", 0, {100, kHeld, 1528}, "0WD7", false},
+      {"store refused", FaultKind::kErrorReply, "0WE2", 1, {104, kHeld, 1528}, "0WE2", false},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
@@ -337,7 +338,7 @@ TEST_F(DeviceWriteTest, AWriteBegunOfflineEndsOffline) {
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
   EXPECT_TRUE(BoxShown(Text(1527)));
   EXPECT_EQ(DevSetting[0].Size, " 42");
-  EXPECT_EQ(AppState.AxisMuko, (std::array<Bool16, kAxes>{False, False, True, True}));
+  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
   ExpectOffline();
   ExpectCommandsOn();
 }

@@ -6,12 +6,12 @@
 #include "device/ct_device.h"
 #include "forms/frm_main.h"
 #include "link/port.h"
-#include "link/transfer.h"
 #include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_transfer_commands.h"
 #include "state/online.h"
 #include "state/text.h"
+#include "steps/outcome.h"
 #include "tests/support/link_test.h"
 
 namespace tr7 {
@@ -28,7 +28,7 @@ class BlocksTest : public LinkTest {
   }
   /// Reads the controller's parameters into `ParamSet`.
   void Take() {
-    ASSERT_EQ(ReadParaFromCt(), 0);
+    ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
     ASSERT_EQ(TakeParamTable(), 0);
     Sent();
   }
@@ -96,9 +96,9 @@ TEST_F(BlocksTest, EveryRowHoldsBothEndsOfItsRange) {
         SetParaValue(before, row, axis, value);
         ParaBlocks blocks;
         blocks.fill(std::string(kParaBlockLength, '7'));
-        ASSERT_FALSE(EncodePara(before, {true, true, true, true}, blocks));
+        ASSERT_FALSE(EncodePara(before, AxisList(kAllAxes), blocks));
         ParaTableRecord table;
-        ASSERT_TRUE(DecodePara(blocks, {true, true, true, true}, table));
+        ASSERT_TRUE(DecodePara(blocks, AxisList(kAllAxes), table));
         EXPECT_EQ(table, ParaTableOf(before)) << value;
       }
     }
@@ -125,7 +125,7 @@ TEST_F(BlocksTest, DeviceTexts) {
     set.Actuator[1] = JoinActuator(row.size, row.speed, row.stroke);
     ParaBlocks blocks;
     blocks.fill(std::string(kParaBlockLength, '0'));
-    const auto misfit = EncodePara(set, {true, true, true, true}, blocks);
+    const auto misfit = EncodePara(set, AxisList(kAllAxes), blocks);
     ASSERT_EQ(misfit.has_value(), *row.field == '\0');
     if (misfit) {
       EXPECT_EQ(ParaCellName(*misfit), "ACTUATOR(2)");
@@ -133,7 +133,7 @@ TEST_F(BlocksTest, DeviceTexts) {
     }
     EXPECT_EQ(blocks[7].substr(16, 8), row.field);
     ParaTableRecord table;
-    ASSERT_TRUE(DecodePara(blocks, {true, true, true, true}, table));
+    ASSERT_TRUE(DecodePara(blocks, AxisList(kAllAxes), table));
     EXPECT_EQ(table[1][kRowActuator], Variant(set.Actuator[1]));
   }
 }
@@ -141,14 +141,14 @@ TEST_F(BlocksTest, DeviceTexts) {
 // Reading.
 
 TEST_F(BlocksTest, ReadsAllBlocks) {
-  ASSERT_EQ(ReadParaFromCt(), 0);
+  ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
   EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD5 0RD6 0RD7 0RD8 0RD9 0RDA 0RDB 0RDC 0RDD");
   ASSERT_EQ(TakeParamTable(), 0);
   EXPECT_EQ(ParametaValueCheck(), 0) << "what the controller starts with is good";
   EXPECT_EQ(ParamSet.OneAxis, 15);
   EXPECT_EQ(ParamSet.SmTimer, 30);
-  EXPECT_EQ(ParamSet.HomeSeq, (std::array<std::int16_t, kAxes>{1, 2, 3, 4}));
-  EXPECT_EQ(ParamSet.AxisLead, (std::array<std::int16_t, kAxes>{2, 6, 8, 4}));
+  EXPECT_EQ(ParamSet.HomeSeq, (AxisArray<std::int16_t>{1, 2, 3, 4}));
+  EXPECT_EQ(ParamSet.AxisLead, (AxisArray<std::int16_t>{2, 6, 8, 4}));
   EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
   EXPECT_EQ(ParamSet.AxisStroke[1], 13334);
   EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
@@ -156,7 +156,7 @@ TEST_F(BlocksTest, ReadsAllBlocks) {
 
 TEST_F(BlocksTest, AxesNotInUseAreSkippedAndZeroed) {
   Axes(true, false, true, false);
-  ASSERT_EQ(ReadParaFromCt(), 0);
+  ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
   EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD8 0RD9 0RDA");
   EXPECT_EQ(ParaTable[0][kRowLead], Variant(2.0));
   EXPECT_EQ(ParaTable[1][kRowLead], Variant(0.0));
@@ -173,19 +173,18 @@ TEST_F(BlocksTest, TheCancelButtonStopsARead) {
     EXPECT_EQ(frmMain.lblStatus.Caption, Text(368));
     AppState.CancelRequested = True;
   });
-  EXPECT_EQ(ReadParaFromCt(), kTransferStopped);
+  EXPECT_EQ(ReadParaFromCt(), Outcome::Stopped);
   EXPECT_EQ(ParaTable, before);
   EXPECT_LT(Sent().size(), 8u);
   EXPECT_FALSE(frmMain.ProgressBar1.Visible);
-  EXPECT_EQ(ReadParaFromCt(), 0) << "the next read starts afresh";
 }
 
 TEST_F(BlocksTest, AFailedReadLeavesTheTableWhole) {
-  ASSERT_EQ(ReadParaFromCt(), 0);
+  ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
   const ParaTableRecord before = ParaTable;
   const auto fails_with = [&](int box) {
     forms.boxes.clear();
-    EXPECT_EQ(ReadParaFromCt(), kTransferFailed);
+    EXPECT_EQ(ReadParaFromCt(), Outcome::Failed);
     EXPECT_EQ(ParaTable, before);
     ASSERT_EQ(forms.boxes.size(), 1u);
     EXPECT_TRUE(BoxShown(Text(box)));
@@ -229,7 +228,7 @@ TEST_F(BlocksTest, WritesWhatChangedAndNothingElse) {
   expected[0].replace(8, 2, "FF");
   expected[1].replace(12, 2, "04");
   expected[2].replace(8, 4, "0021");
-  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_EQ(WriteParaToCt(), Outcome::Done);
   std::vector<std::string> lines;
   for (const char* c = "0123456789ABCD"; *c; ++c) lines.push_back(std::string("0RD") + *c);
   for (int block = 0; block < kParaBlocks; ++block) {
@@ -250,7 +249,7 @@ TEST_F(BlocksTest, AxesThatAreNotLiveKeepTheirBlocks) {
   ParamSet.AxisLead.fill(7);
   ParamSet.HomeSeq.fill(0);
   const std::string before = port.Ct().WrittenBlock(7);
-  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_EQ(WriteParaToCt(), Outcome::Done);
   EXPECT_EQ(Commands(),
             "0RD0 0RD1 0RD2 0RD3 0RD4 0RDB 0RDC 0RDD "
             "0WD0 0WD1 0WD2 0WD3 0WD4 0WDB 0WDC 0WDD 0WE2");
@@ -259,14 +258,14 @@ TEST_F(BlocksTest, AxesThatAreNotLiveKeepTheirBlocks) {
   EXPECT_EQ(port.Ct().CommittedBlock(1).substr(8, 8), "00020300");
   // Axes that the parameter view adds are live though they are not in use yet.
   ParaFlags.ShownAxisCount = 2;
-  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_EQ(WriteParaToCt(), Outcome::Done);
   EXPECT_NE(Commands().find("0WD7"), std::string::npos);
 }
 
 TEST_F(BlocksTest, AValueThatDoesNotFitIsNamedAndNothingGoesOut) {
   Take();
   ParamSet.JogVel[2] = -1;
-  EXPECT_EQ(WriteParaToCt(), 1);
+  EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
   EXPECT_EQ(forms.LastBox(), Text(6180, "JOGVEL(3)"));
   EXPECT_EQ(Commands().find("0WD"), std::string::npos);
   EXPECT_FALSE(AppState.Offline);
@@ -292,7 +291,7 @@ TEST_F(BlocksTest, AFailedWriteStoresNothing) {
     forms.boxes.clear();
     Sent();
     Spoil(row.kind, row.prefix, row.at_byte);
-    EXPECT_EQ(WriteParaToCt(), 1);
+    EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
     ASSERT_EQ(forms.boxes.size(), 1u);
     EXPECT_TRUE(BoxShown(Text(row.box)));
     EXPECT_TRUE(Commands().ends_with(row.last));
@@ -307,11 +306,11 @@ TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
   const std::string block0 = port.Ct().WrittenBlock(0);
   ASSERT_EQ(block0, "010F01001E0000000000000000000000");
   Axes(true, true, false, false);
-  EXPECT_EQ(WriteAxisSettingToCt(), 0);
+  EXPECT_EQ(WriteAxisSettingToCt(), Outcome::Done);
   EXPECT_EQ(Sent(), (std::vector<std::string>{"0RD0", "0WD00010F01001E003000000000000000000"}));
   // Twice in a row, and then the parameters: the block is whole again, with what no row holds.
-  EXPECT_EQ(WriteAxisSettingToCt(), 0);
-  EXPECT_EQ(WriteParaToCt(), 0);
+  EXPECT_EQ(WriteAxisSettingToCt(), Outcome::Done);
+  EXPECT_EQ(WriteParaToCt(), Outcome::Done);
   EXPECT_EQ(port.Ct().CommittedBlock(0), block0);
   EXPECT_TRUE(AxisSettingSent.Block0Sent.empty());
 }
@@ -319,12 +318,12 @@ TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
 // Single fields of blocks.
 
 TEST_F(BlocksTest, HomingOrderAndStrokes) {
-  std::array<std::int32_t, kAxes> values{9, 9, 9, 9};
+  AxisArray<std::int32_t> values{9, 9, 9, 9};
   ASSERT_EQ(ReadCtBlock1(values), 0);
-  EXPECT_EQ(values, (std::array<std::int32_t, kAxes>{1, 2, 3, 4}));
+  EXPECT_EQ(values, (AxisArray<std::int32_t>{1, 2, 3, 4}));
   Axes(true, false, true, true);
   ASSERT_EQ(ReadAxisMaxPulseFromCt(values), 0);
-  EXPECT_EQ(values, (std::array<std::int32_t, kAxes>{20000, 0, 15000, 15000}));
+  EXPECT_EQ(values, (AxisArray<std::int32_t>{20000, 0, 15000, 15000}));
   EXPECT_EQ(Commands(), "0RD1 0RD4 0RDA 0RDD");
   const auto before = values;
   PlantBlock(1, "00000000010 0304" + std::string(16, '0'));

@@ -152,7 +152,7 @@ TEST_F(StdListsTest, TypeFollowsTheDevice) {
 
 TEST_F(StdListsTest, TheAxisMask) {
   const struct {
-    std::array<Bool16, kAxes> muko;
+    AxisArray<Bool16> muko;
     bool fixed;
     int mask;
   } rows[] = {{{}, false, 15},

@@ -3,6 +3,7 @@
 #include "posi/posi_check.h"
 
 #include "device/dev_setting.h"
+#include "forms/frm_main.h"
 #include "forms/frm_syogo_kekka.h"
 #include "posi/device_change.h"
 #include "posi/posi_grid_fill.h"
@@ -201,6 +202,17 @@ TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLine) {
   frmPosi.cmdPosiCheck.Press();
   EXPECT_EQ(lines, "4: 26;");
   EXPECT_EQ(frmPosi.flgdData.Row, 5);
+}
+
+TEST_F(PosiCheck, DecimalsOfASpeedAreToldAtTheEditAndAtTheCheck) {
+  ShowTable(1, 5);
+  std::string typed = "30.5";
+  EXPECT_EQ(frmPosi.flgdData.AcceptEdit(3, kVel, typed), 0);
+  Put(2, kVel, typed);
+  frmPosi.flgdData.SelectCell(3, kAcc);
+  EXPECT_TRUE(frmMain.sbStatusBar.Panels[kPanelError].starts_with(Text(6365, "30.5", "30")));
+  frmPosi.cmdPosiCheck.Press();
+  EXPECT_EQ(forms.LastBox(), Text(6358) + "\n\n" + Text(6366) + "\n2");
 }
 
 }  // namespace

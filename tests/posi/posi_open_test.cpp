@@ -1,6 +1,5 @@
 #include "posi/posi_open.h"
 
-#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -21,7 +20,7 @@ const std::string kParaPath = "/data/axes.pmt";
 
 struct FileText {
   std::string mode = "POS MODE";
-  std::array<std::string, kAxes> devices;
+  AxisArray<std::string> devices;
   std::string words = "\"NEW\",\"NEW\",\"NEW\",\"NEW\"\r\n";  ///< line 4
   std::vector<int> numbers{1, 2};
   std::string way = "1";
@@ -373,7 +372,7 @@ TEST_F(OpenTest, WithTheDevicesOfTheFile) {
 
 TEST_F(OpenTest, WithTheDevicesOfAParameterFile) {
   Start();
-  const std::array<std::string, kAxes> actuators{" 28H200", " 35H300", "", ""};
+  const AxisArray<std::string> actuators{" 28H200", " 35H300", "", ""};
   const ParamSetRecord before = ParamSet;
   for (std::size_t axis = 0; axis < 2; ++axis) {
     ParamSet.Actuator[axis] = actuators[axis];

@@ -126,6 +126,7 @@ TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
   ReadRange(1, 2);
   Spoil(FaultKind::kDoubled, 3);  // the doubled line is taken for the next reply
   ReadRange(1, 9);
+  EXPECT_TRUE(port.sent.ends_with("0RP004\r\n")) << "seen where it happens";
   EXPECT_EQ(AppState.PosiLastNo, 2) << "the old table stays";
   EXPECT_TRUE(BoxShown(Text(385)));
   ExpectCommandsOn();

@@ -104,6 +104,19 @@ TEST_F(WriteTest, NothingIsSentBeforeTheUserHasAgreed) {
   ExpectCommandsOn();
 }
 
+TEST_F(WriteTest, AxesThatThePcDoesNotUseAreAskedAbout) {
+  ReadAndEdit();
+  AppState.AxisMuko[3] = True;
+  AnswerRange("frmSelectPosiNo3", 2, 4);
+  for (const MsgAnswer answer : {MsgAnswer::Cancel, MsgAnswer::Ok}) {
+    forms.answers = {MsgAnswer::Ok, answer};
+    frmPosi.cmdPosiWrite.Press();
+    EXPECT_EQ(forms.boxes[1].Text, Text(6364, "AXIS4", "2-4"));
+    EXPECT_EQ(port.sent.empty(), answer == MsgAnswer::Cancel);
+  }
+  EXPECT_EQ(forms.LastBox(), Text(376));
+}
+
 TEST_F(WriteTest, AMovingControllerTakesNothing) {
   ReadAndEdit();
   // Somebody else has sent the machine home.
@@ -166,6 +179,7 @@ TEST_F(WriteTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
 }
 
 TEST_F(WriteTest, AFailedStepTellsAndEnds) {
+  constexpr int kHeld = 6363;
   const struct {
     const char* what;
     FaultKind kind;
@@ -177,14 +191,22 @@ TEST_F(WriteTest, AFailedStepTellsAndEnds) {
   } rows[] = {
       {"standstill", FaultKind::kErrorReply, "0RA", 1, -1, {104}, "0RA\r\n", false},
       {"hold", FaultKind::kErrorReply, "0CM01111", 1, -1, {104, 377}, "0CM01111\r\n", false},
-      {"state", FaultKind::kErrorReply, "0RD0", 1, -1, {104, 377}, "0RD0\r\n", false},
-      {"state of the check", FaultKind::kErrorReply, "0RD0", 2, -1, {104}, "0RD0\r\n", false},
-      {"stroke", FaultKind::kErrorReply, "0RD7", 1, -1, {104}, "0RD7\r\n", false},
-      {"line refused", FaultKind::kErrorReply, "0WP", 2, -1, {104, 384}, "0WP003", false},
-      {"line unanswered", FaultKind::kDeaf, "0WP003", 0, -1, {100, 384}, "0WP003", false},
+      {"hold unheard", FaultKind::kDeaf, "0CM01111", 0, -1, {100, 377, kHeld}, "0CM01111", false},
+      {"state", FaultKind::kErrorReply, "0RD0", 1, -1, {104, 377, kHeld}, "0RD0\r\n", false},
+      {"state again", FaultKind::kErrorReply, "0RD0", 2, -1, {104, kHeld}, "0RD0\r\n", false},
+      {"stroke", FaultKind::kErrorReply, "0RD7", 1, -1, {104, kHeld}, "0RD7\r\n", false},
+      {"line refused", FaultKind::kErrorReply, "0WP", 2, -1, {104, 384, kHeld}, "0WP003", false},
+      {"line unheard", FaultKind::kDeaf, "0WP003", 0, -1, {100, 384, kHeld}, "0WP003", false},
       {"echo differs", FaultKind::kChangedByte, "0WP", 2, 5, {384}, "0CM00000\r\n", true},
-      {"commit refused", FaultKind::kErrorReply, "0WA", 1, -1, {104}, "0WA002004\r\n", false},
-      {"commit unheard", FaultKind::kDeaf, "0WA", 0, -1, {100}, "0WA002004\r\n", false},
+      {"commit refused",
+       FaultKind::kErrorReply,
+       "0WA",
+       1,
+       -1,
+       {104, kHeld},
+       "0WA002004\r\n",
+       false},
+      {"commit unheard", FaultKind::kDeaf, "0WA", 0, -1, {100, kHeld}, "0WA002004\r\n", false},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
@@ -208,6 +230,13 @@ TEST_F(WriteTest, AFailedStepTellsAndEnds) {
     EXPECT_EQ(!AppState.Offline, row.online);
     EXPECT_EQ(port.IsOpen(), row.online);
     ExpectCommandsOn();
+    port.Ct().ClearFaults();
+    port.sent.clear();
+    frmMain.cmdReset.Press();
+    ExpectOnline();
+    const bool held = row.boxes.back() == kHeld;
+    EXPECT_EQ(port.sent.starts_with("0AR\r\n0CM1\r\n" + kRelease), held) << port.sent;
+    EXPECT_FALSE(AppState.AxesMayBeHeld);
   }
 }
 
@@ -216,7 +245,7 @@ TEST_F(WriteTest, AReleaseThatFailsIsToldBeforeTheEnd) {
   Spoil(FaultKind::kErrorReply, "0CM00", 1);
   Write(2, 4);
   ASSERT_EQ(forms.boxes.size(), 4u);
-  EXPECT_EQ(forms.boxes[2].Text, Text(377));
+  EXPECT_EQ(forms.boxes[2].Text, Text(377) + "\n\n" + Text(6363));
   EXPECT_EQ(forms.boxes[3].Text, Text(376));
   EXPECT_EQ(StoredVel(3), 47);
 }
@@ -245,8 +274,6 @@ TEST_F(WriteTest, ACancelledWriteStoresWhatHasGone) {
 
 TEST_F(WriteTest, BadLinesAreSkippedAndCounted) {
   ReadAndEdit();
-  AppState.PosiFromNo = 1;
-  AppState.PosiToNo = 4;
   PosiTable.PosiRec[kVel][2] = PosiTable.PosiRec[kVel][4] = 47.0;
   PosiTable.PosiLineBad[1] = PosiTable.PosiLineBad[3] = True;
   const int before = StoredVel(3);
@@ -257,7 +284,8 @@ TEST_F(WriteTest, BadLinesAreSkippedAndCounted) {
       bar.push_back(frmMain.ProgressBar1.Value);
     });
   }
-  EXPECT_EQ(WritePosidataToCt(), kTransferDone);
+  int next = 0;
+  EXPECT_EQ(WritePosidataToCt({1, 4}, next), Outcome::Done);
   EXPECT_EQ(port.sent, Sent(2) + Sent(4) + "0WA001004\r\n");
   EXPECT_EQ(bar.front(), 1) << "line 1 counts though it does not go out";
   EXPECT_EQ(*std::max_element(bar.begin(), bar.end()), 4);

@@ -27,9 +27,9 @@ const std::string kEqual = kVersion + kBlock0 + kBlock0 + kDevices;
 
 /// What the PC holds and a connect may replace.
 struct PcState {
-  std::array<Bool16, kAxes> muko = AppState.AxisMuko;
+  AxisArray<Bool16> muko = AppState.AxisMuko;
   bool mode = AppState.CtMode;
-  std::array<DevSettingRecord, kAxes> devices = DevSetting;
+  AxisArray<DevSettingRecord> devices = DevSetting;
 
   bool SameDevices(const PcState& other) const {
     for (std::size_t a = 0; a < kAxes; ++a) {
@@ -86,6 +86,27 @@ TEST_F(ConnectTest, ASilentPortChangesNothing) {
   EXPECT_EQ(PcState(), before);
   ExpectOffline();
   ExpectCommandsOn();
+}
+
+TEST_F(ConnectTest, APortThatStaysShutIsToldAndTheLampSaysSo) {
+  forms.on_modal["frmSelectPosiNo2"] = [](View& view) {
+    FillRange(static_cast<SelectPosiNoView&>(view), 1, 5);
+  };
+  StartOnline();
+  for (Menu* command : {&frmMain.mnuContPosiRead, &frmMain.mnuSettingCtMode}) {
+    frmMain.cmdReset.Press();
+    ExpectOnline();
+    port.open_fault = PortFault::InUse;
+    Forget();
+    forms.answers = {MsgAnswer::Ok};
+    Choose({1});
+    command->Press();
+    EXPECT_TRUE(BoxShown(Text(109)));
+    EXPECT_EQ(Lines(), "");
+    ExpectOffline();
+    ExpectCommandsOn();
+    port.open_fault = PortFault::None;
+  }
 }
 
 TEST_F(ConnectTest, GoingOfflineIsAskedFirst) {

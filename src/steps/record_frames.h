@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "steps/outcome.h"
+
+namespace tr7 {
+
+// One frame of a bulk transfer. The exchange has told the user of its own failures.
+
+/// A frame and what is known of its reply.
+struct RecordFrame {
+  std::string text;      ///< without CR LF
+  int reply_length = 0;  ///< with CR LF
+  int timeout_ms = 0;
+  std::size_t echo = 0;   ///< of a write: characters that the reply repeats from the frame
+  int unanswered_id = 0;  ///< of a write: message told beside the exchange's own; 0: none
+};
+
+/// Sends a frame of a read. The whole frame stands at the head of its reply, or that is the answer
+/// to something else, which the user is told.
+Outcome ReadNamed(const RecordFrame& frame, std::string& reply);
+
+/// Sends a frame of a write and compares the echo. Another echo is fatal: the line is closed
+/// and the user told.
+Outcome SendEchoed(const RecordFrame& frame);
+
+/// Tells that what came or came back makes no sense; `Failed`.
+Outcome TellBadData();
+
+}  // namespace tr7
