@@ -21,6 +21,10 @@
 namespace tr7 {
 namespace {
 
+TusinOutcome ReadNumber(int number, std::string& reply) {
+  return TusinWait("0RP" + HexPad(number, 3), 68, 5000, reply);
+}
+
 using qvr7sim::Fault;
 using qvr7sim::FaultKind;
 
@@ -31,7 +35,7 @@ class ExchangeTest : public StateTest {
     ReadErrorList();
   }
   /// One read of position 1, the request that the tests spoil.
-  TusinOutcome Read() { return TusinWait("0RP001", 68, 5000, reply); }
+  TusinOutcome Read() { return ReadNumber(1, reply); }
   void Silence(const std::string& prefix) {
     Fault fault;
     fault.probability = 1;
@@ -338,7 +342,7 @@ TEST_F(ExchangeTest, AWaitInsideAWaitEndsWithItsOwnOutcome) {
       std::string inner_reply;
       const Once nested([&] { return moment.may(port); },
                         [&] {
-                          inner = ReadPosiRecordFromCt(2, inner_reply);
+                          inner = ReadNumber(2, inner_reply);
                           EXPECT_FALSE(outer);
                         });
       if (moment.when == std::string("before")) frmMain.TimerTusin.Stop();
@@ -362,7 +366,7 @@ class FullQueueTest : public ExchangeTest {
     for (int i = 2; i <= kQueueRows; ++i) {
       pump.After(i * 1'000, [this, i] {
         std::string text;
-        if (i != 6) return Count(ReadPosiRecordFromCt(i, text));
+        if (i != 6) return Count(ReadNumber(i, text));
         Count(JogStartToCt(50, 0) == 0 ? TusinOutcome::Good : TusinOutcome::Withdrawn);
       });
     }
@@ -374,7 +378,7 @@ class FullQueueTest : public ExchangeTest {
 TEST_F(FullQueueTest, AStopOvertakesWhatWaitsAndNoStartFollowsIt) {
   pump.After(20'000, [this] {
     std::string text;
-    EXPECT_EQ(ReadPosiRecordFromCt(12, text), TusinOutcome::QueueFull);
+    EXPECT_EQ(ReadNumber(12, text), TusinOutcome::QueueFull);
     EXPECT_EQ(StopToCt(1000), 0);
   });
   EXPECT_EQ(Read(), TusinOutcome::Good);
@@ -417,7 +421,7 @@ TEST_F(ExchangeTest, CancelEndsAWaitAndItsLateReplyIsNobodys) {
   });
   EXPECT_EQ(Read(), TusinOutcome::Withdrawn);
   EXPECT_LE(pump.NowUs() - pressed, 200'000);
-  EXPECT_EQ(ReadPosiRecordFromCt(2, reply), TusinOutcome::Good);
+  EXPECT_EQ(ReadNumber(2, reply), TusinOutcome::Good);
   EXPECT_EQ(reply.substr(0, 6), "0RP002");
   EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n0RP002\r\n");
   EXPECT_TRUE(forms.boxes.empty());

@@ -207,7 +207,7 @@ TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLine) {
 TEST_F(PosiCheck, DecimalsOfASpeedAreToldAtTheEditAndAtTheCheck) {
   ShowTable(1, 5);
   std::string typed = "30.5";
-  EXPECT_EQ(frmPosi.flgdData.AcceptEdit(3, kVel, typed), 0);
+  EXPECT_TRUE(frmPosi.flgdData.AcceptEdit(3, kVel, typed).accepted);
   Put(2, kVel, typed);
   frmPosi.flgdData.SelectCell(3, kAcc);
   EXPECT_TRUE(frmMain.sbStatusBar.Panels[kPanelError].starts_with(Text(6365, "30.5", "30")));
