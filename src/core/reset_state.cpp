@@ -76,12 +76,12 @@ void ResetState() {
   Renew(frmOptions2);
   Renew(frmParameta2);
   Renew(frmStrokeCalc);
-  Renew(frmDevice2, "frmDevice2", 6250, false);
-  Renew(frmDevice3, "frmDevice3", 6251, true);
+  Renew(frmDevice2, "frmDevice2", MsgId(6250), false);
+  Renew(frmDevice3, "frmDevice3", MsgId(6251), true);
   Renew(frmSyogoKekka);
-  Renew(frmSelectPosiNo2, "frmSelectPosiNo2", 5350);
-  Renew(frmSelectPosiNo3, "frmSelectPosiNo3", 5355);
-  Renew(frmSelectPosiNo4, "frmSelectPosiNo4", 5356);
+  Renew(frmSelectPosiNo2, "frmSelectPosiNo2", MsgId(5350));
+  Renew(frmSelectPosiNo3, "frmSelectPosiNo3", MsgId(5355));
+  Renew(frmSelectPosiNo4, "frmSelectPosiNo4", MsgId(5356));
   InstallViews();
 }
 

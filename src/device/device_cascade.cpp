@@ -207,7 +207,7 @@ void ReadLists(DeviceView& view) {
 
 void FillAxisChoice(DeviceView& view) {
   std::vector<std::string> names;
-  for (int axis = 0; axis < kAxes; ++axis) names.push_back(Text(kMsgAxis1 + axis));
+  for (int axis = 0; axis < kAxes; ++axis) names.push_back(Text(MsgId::At(kMsgAxis1, axis)));
   Refill(view.comboAxisSelect, names, names[static_cast<std::size_t>(LastAxisInUse() - 1)]);
 }
 

@@ -8,7 +8,7 @@ namespace tr7 {
 /// `frmSelectPosiNo3` is the plain form, `frmSelectPosiNo4` is bound to the range that can be
 /// verified and says so when there is none.
 struct SelectPosiNoView : View {
-  SelectPosiNoView(const char* name, int tag) : View(name, tag) {
+  SelectPosiNoView(const char* name, MsgId tag) : View(name, tag) {
     Width = 5400;
     Height = 2850;
     cmdOk.Default = true;

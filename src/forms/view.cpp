@@ -10,7 +10,7 @@ std::vector<View*>& Table() {
 
 }  // namespace
 
-View::View(const char* name, int tag) : Name(name), Tag(tag) { Table().push_back(this); }
+View::View(const char* name, MsgId tag) : Name(name), Tag(tag) { Table().push_back(this); }
 
 View::~View() { std::erase(Table(), this); }
 

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/msg_id.h"
+
 namespace tr7 {
 
 struct Control;
@@ -27,13 +29,13 @@ enum class CloseReason { ControlMenu, Code };
 /// A window as a plain record: its controls, its place and the handlers that logic sets.
 /// Lengths are twips (1440 an inch; 15 a pixel at 96 dpi).
 struct View {
-  explicit View(const char* name, int tag = 0);
+  explicit View(const char* name, MsgId tag = {});
   virtual ~View();
   View(const View&) = delete;
   View& operator=(const View&) = delete;
 
   const char* Name;
-  int Tag;  ///< message id of the caption; 0: the caption is set by logic
+  MsgId Tag;  ///< of the caption; none: the caption is set by logic
   std::string Caption;
   bool Loaded = false;
   bool Visible = false;

@@ -44,7 +44,7 @@ std::optional<std::string> AskSavePath() {
 }
 
 /// A message, and behind it why the file could not be read or written, where there is more to say.
-void Tell(int message_id) {
+void Tell(MsgId message_id) {
   const std::string& reason = ParaFlags.FileFaultText;
   MsgBox(reason.empty() ? Text(message_id) : Text(message_id) + "\n\n" + reason);
 }

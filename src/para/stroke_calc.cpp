@@ -72,7 +72,7 @@ void LoadCalc() {
 }
 
 /// A prompt gives way to what is typed.
-void InstallField(TextBox& box, int prompt, int digits) {
+void InstallField(TextBox& box, MsgId prompt, int digits) {
   box.MaxLength = digits;
   box.GotFocus = [&box, prompt] {
     if (box.Text == Text(prompt)) box.Text.clear();

@@ -126,7 +126,7 @@ void PosiDataLinePaste(const ClipMatrix& matrix) {
   const int line_start = AppState.CtMode ? int{kPosi} : 1;
   const Block block = SelectedBlock();
   if (!InBody(block) || (col > 1 && col != line_start && col != FirstShownColumn())) {
-    MsgBox(Text(AppState.CtMode ? 580 : 393));
+    MsgBox(Text(AppState.CtMode ? MsgId(580) : MsgId(393)));
     return;
   }
   Tell(PasteFrom(matrix, block.first_row, 1, block.last_row - block.first_row + 1));

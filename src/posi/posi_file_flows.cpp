@@ -22,7 +22,7 @@ namespace {
 constexpr int kTries = 4;
 constexpr int kPauseMs = 100;
 
-std::optional<std::string> AskSavePath(int title_id) {
+std::optional<std::string> AskSavePath(MsgId title_id) {
   const auto path = doors.forms->FileDialog({.Save = true,
                                              .Title = Text(title_id),
                                              .Filter = Text(351),
@@ -60,7 +60,7 @@ void SaveAs() {
 
 }  // namespace
 
-std::optional<std::string> AskOpenPath(int title_id) {
+std::optional<std::string> AskOpenPath(MsgId title_id) {
   FileDialogCall call;
   call.Title = Text(title_id);
   call.Filter = Text(351);
@@ -76,7 +76,7 @@ int TryFourTimes(const std::function<int(PosiFileTrouble&)>& attempt, PosiFileTr
   }
 }
 
-std::string WithReason(int message_id, const PosiFileTrouble& trouble) {
+std::string WithReason(MsgId message_id, const PosiFileTrouble& trouble) {
   return trouble.words.empty() ? Text(message_id) : Text(message_id) + "\n\n" + trouble.words;
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "base/msg_id.h"
 #include "posi/posi_file.h"
 
 namespace tr7 {
@@ -15,12 +16,12 @@ void PosidataSaveToFile();
 void PosiDataSaveAs();
 
 /// Asks for a file to open; nothing on Cancel.
-std::optional<std::string> AskOpenPath(int title_id);
+std::optional<std::string> AskOpenPath(MsgId title_id);
 
 /// Up to four attempts, 100 ms apart, as long as the trouble may pass. 0: one was good.
 int TryFourTimes(const std::function<int(PosiFileTrouble&)>& attempt, PosiFileTrouble& trouble);
 
 /// A message, and behind it the reason where there is one.
-std::string WithReason(int message_id, const PosiFileTrouble& trouble);
+std::string WithReason(MsgId message_id, const PosiFileTrouble& trouble);
 
 }  // namespace tr7

@@ -37,7 +37,7 @@ bool AskNewRange() {
 
 }  // namespace
 
-bool MayReplaceTable(int question_id) {
+bool MayReplaceTable(MsgId question_id) {
   if (!frmPosi.PosiChanged) return true;
   const MsgAnswer answer = MsgBox(Text(question_id), MsgButtons::YesNoCancel, MsgIcon::Question);
   if (answer == MsgAnswer::No) return true;

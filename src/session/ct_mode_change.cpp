@@ -13,7 +13,7 @@ void ChangeCtModeMenu() {
   const CommandsOff commands_off;
   const BusyScope busy;
   const PortClosedAfter port_closed;
-  if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
+  if ((AppState.Offline ? ChangeToOnlineFromCommand() : OpenPortOrTell()) != 0) return;
   const int choice =
       SelectionDialog2(Text(471), Text(476), {Text(477), Text(478)}, AppState.CtMode ? 1 : 0);
   if (choice >= 0 && ChangeCtModeToCt(choice) == 0) {

@@ -18,7 +18,7 @@ namespace tr7 {
 namespace {
 
 /// 0 the controller's values, 1 the PC's, -1 no answer.
-int AskReconcile(int prompt_id, int pc_choice_id, bool may_cancel) {
+int AskReconcile(MsgId prompt_id, MsgId pc_choice_id, bool may_cancel) {
   return SelectionDialog(Text(471), Text(prompt_id), Text(372), Text(pc_choice_id),
                          may_cancel ? 0 : 1, 0, 0);
 }

@@ -13,7 +13,7 @@
 namespace tr7 {
 namespace {
 
-std::string VersionLine(int name_id, const std::string& version) {
+std::string VersionLine(MsgId name_id, const std::string& version) {
   return "<" + Text(name_id) + ">  " + version;
 }
 
@@ -29,7 +29,7 @@ void ContVersionMenu() {
     for (int axis = 0; axis < kAxes; ++axis) {
       const auto index = static_cast<std::size_t>(axis);
       if (AppState.AxisMuko[index] || axis >= AppState.CtAxisDigit) continue;
-      text += "\n" + VersionLine(1405 + axis, AppState.AxisVersionText[index]);
+      text += "\n" + VersionLine(MsgId::At(1405, axis), AppState.AxisVersionText[index]);
     }
     MsgBox(text, MsgButtons::Ok, MsgIcon::Information);
   }

@@ -14,6 +14,6 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
   return doors.forms->MessageBox({text, title, buttons, icon});
 }
 
-std::string TwoLines(int id1, int id2) { return Text(id1) + "\n" + Text(id2); }
+std::string TwoLines(MsgId id1, MsgId id2) { return Text(id1) + "\n" + Text(id2); }
 
 }  // namespace tr7

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/msg_id.h"
 #include "platform/form_host.h"
 
 namespace tr7 {
@@ -14,6 +15,6 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
                  const std::string& title);
 
 /// Two messages, one line each.
-std::string TwoLines(int id1, int id2);
+std::string TwoLines(MsgId id1, MsgId id2);
 
 }  // namespace tr7

@@ -34,7 +34,7 @@ int Run(SelectionView& view, const std::string& title, const std::string& prompt
       if (i < choices.size()) view.options[i]->Caption = choices[i];
     }
     view.options[static_cast<std::size_t>(preselected)]->Choose();
-    view.cmdOk.Caption = Text(buttons.next ? kNextText : kOkText);
+    view.cmdOk.Caption = Text(buttons.next ? MsgId(kNextText) : MsgId(kOkText));
     view.cmdBack.Visible = buttons.back;
     view.cmdCancel.Visible = buttons.cancel;
     view.RefuseClose = !buttons.cancel;

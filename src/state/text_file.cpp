@@ -19,7 +19,7 @@ constexpr int kMsgTooLarge = 5913;
 constexpr int kMsgOther = 5914;
 constexpr int kMsgBadCharacter = 5915;
 
-int MessageOf(FileFault fault) {
+MsgId MessageOf(FileFault fault) {
   switch (fault) {
     case FileFault::NotFound:
       return kMsgNotFound;

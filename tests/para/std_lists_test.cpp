@@ -41,32 +41,15 @@ std::string CommonFile() {
 class StdListsTest : public StateTest {
  protected:
   StdListsTest() {
-    Put(kNewFile, std::string(kHeader) + "3,13\r\n" + kRow28 + kRow35 + kRow42);
-    Put(kOldFile, std::string(kHeader) + "1,13\r\n" +
-                      "\" 28L-100\",901,91,92,93,94,4,20000,2,900,95,0,\" 28L100\"\r\n");
-    Put(kCommonFile, CommonFile());
-    SetDevice(0, " 28", "L", 100);
-    SetDevice(1, " 35", "H", 200);
-    SetDevice(2, " 42", "H", 300);
-    SetDevice(3, " 28", "L", 100);
+    PutList(kNewFile, std::string(kHeader) + "3,13\r\n" + kRow28 + kRow35 + kRow42);
+    PutList(kOldFile, std::string(kHeader) + "1,13\r\n" +
+                          "\" 28L-100\",901,91,92,93,94,4,20000,2,900,95,0,\" 28L100\"\r\n");
+    PutList(kCommonFile, CommonFile());
+    SetDevice(DevSettei[0], " 28", "L", 100);
+    SetDevice(DevSettei[1], " 35", "H", 200);
+    SetDevice(DevSettei[2], " 42", "H", 300);
+    SetDevice(DevSettei[3], " 28", "L", 100);
   }
-  void Put(const char* name, const std::string& content) {
-    virt.files.Put(ProgramFile(name), content);
-  }
-  static void SetDevice(std::size_t axis, const char* size, const char* speed,
-                        std::int16_t stroke) {
-    DevSettei[axis].Size = size;
-    DevSettei[axis].Speed = speed;
-    DevSettei[axis].Stroke = stroke;
-    DevSettei[axis].NewType = True;
-  }
-  std::vector<std::string> Boxes() {
-    std::vector<std::string> texts;
-    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
-    forms.boxes.clear();
-    return texts;
-  }
-  using Texts = std::vector<std::string>;
   Texts NoListThenFailed() { return {Text(28) + "\n" + Text(29), Text(36)}; }
 };
 
@@ -114,7 +97,7 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
               {" 28", "L", 100, true, 3}};  // then axis 3 is scanned last
   for (const auto& row : rows) {
     ParamSet.HomeSeq.fill(9);
-    SetDevice(3, row.size, row.speed, row.stroke);
+    SetDevice(DevSettei[3], row.size, row.speed, row.stroke);
     AppState.AxisMuko[3] = row.last_absent;
     EXPECT_EQ(IniParaFromStd(), row.seq == 0 ? 1 : 0);
     for (const std::int16_t seq : ParamSet.HomeSeq) EXPECT_EQ(seq, row.seq) << row.size;
@@ -126,7 +109,7 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
   DevSettei[0].NewType = False;
   EXPECT_EQ(IniParaFromStd(), 0);
   EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{4, 1, 1, 1}));
-  SetDevice(3, " 35", "H", 200);
+  SetDevice(DevSettei[3], " 35", "H", 200);
   EXPECT_EQ(IniParaFromStd(), 0);
   EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{0, 2, 2, 2}));
   Boxes();
@@ -189,7 +172,7 @@ TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
 }
 
 TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
-  SetDevice(1, "28", "L", 100);  // sizes compare as text
+  SetDevice(DevSettei[1], "28", "L", 100);  // sizes compare as text
   ParamSet.HomeOffset[1] = 77;
   EXPECT_EQ(IniParaFromStd(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(36)});
@@ -203,7 +186,7 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   AppState.AxisMuko[1] = True;  // an absent axis needs no device
   EXPECT_EQ(IniParaFromStd(), 0);
   AppState.AxisMuko[1] = False;
-  SetDevice(1, " 28", "L", 100);
+  SetDevice(DevSettei[1], " 28", "L", 100);
   DevSettei[1].Series = "NB";  // its list is not read
   EXPECT_EQ(ReadStdLists(), 0);
   EXPECT_TRUE(StdTable[1].empty());
@@ -214,30 +197,16 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
 TEST_F(StdListsTest, DamagedStandardLists) {
   const std::string row = kRow28;
   const std::string wrong = Text(26) + "(1AXIS)", none = Text(28) + "\n" + Text(29);
-  std::string many = std::string(kHeader) + "1000,13\r\n";
-  for (int i = 0; i < 1000; ++i) many += row;
   const struct {
     std::string content, box;
   } files[] = {{kHeader + std::string("1,13\r\n") + row, ""},
                {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
                {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong},
                {"\"QV-R7\",\"QV-CMNPRM\"\r\n1,13\r\n" + row, wrong},
-               {"\"QV-R7\"", none},
-               {"", none},
-               {kHeader, none},
-               {kHeader + std::string("2,13\r\n") + row, none},
-               {kHeader + std::string("-1,13\r\n") + row, none},
-               {kHeader + std::string("x,13\r\n") + row, none},
-               {kHeader + std::string("1\r\n"), none},
-               {kHeader + std::string("1,13\r\n\" 28L-100,1,1,1,1,1,1,1,1,1,1,1,1\r\n"), none},
-               {kHeader + std::string("1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n"), none},
-               {kHeader + std::string("1,13\r\n\"a\",1,1,1,1,1,1,1,1,1,1,L,\"a\"\r\n"), none},
-               {kHeader + std::string("1,13\r\n\"a\",1,1,1,1,1,1,1,1,1,1,1\r\n"), none},
-               {many, none},
-               {std::string(100 << 20, ' '), none}};
+               {kHeader + std::string("1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n"), none}};
   for (const auto& file : files) {
     SCOPED_TRACE(file.content.substr(0, 80));
-    Put(kNewFile, file.content);
+    PutList(kNewFile, file.content);
     EXPECT_EQ(ReadStdLists(), file.box.empty() ? 0 : 1);
     EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
   }
@@ -248,14 +217,9 @@ TEST_F(StdListsTest, DamagedStandardLists) {
   EXPECT_EQ(ParamSet, ParamSetRecord{});
 
   DevSettei[0].NewType = DevSettei[1].NewType = False;  // the old list is good
-  Put(kNewFile, "\"QV-R7\",\"PRM\"");
+  PutList(kNewFile, "\"QV-R7\",\"PRM\"");
   EXPECT_EQ(ReadStdLists(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(26) + "(3AXIS)"});
-}
-
-std::string Without(std::string text, const std::string& part) {
-  text.erase(text.find(part), part.size());
-  return text;
 }
 
 std::string With(std::string text, const std::string& part, const std::string& other) {
@@ -273,25 +237,14 @@ TEST_F(StdListsTest, DamagedCommonLists) {
                {With(good, "\r\n3\r\n", "\r\n4\r\n") + "passed over", 0, "", false},
                {With(good, "\r\n3\r\n", "\r\n4\r\n"), 1, none, false},
                {With(good, "QV-R7", "QV-R8"), 1, Text(27), true},
-               {With(good, "QV-CMNPRM", "QV-STDPRM"), 1, Text(27), true},
                {With(good, "\"ETC\"", "\"SPECIAL\""), 1, "", false},
-               {With(good, "\"PG\"", "\"pg\""), 1, "", false},
                {With(good, "\r\n3\r\n", "\r\n2\r\n"), 1, none, false},  // rows would be missing
-               {With(good, "\r\n3\r\n", "\r\n-1\r\n"), 1, none, false},
-               {With(good, "\r\n3\r\n", "\r\n2147483647\r\n"), 1, none, false},
-               {With(good, "\"SPECIAL\",10", "\"SPECIAL\",9"), 1, none, false},
                {With(good, "\"SPECIAL\",10", "\"SPECIAL\",16"), 1, none, false},  // 27 rows
                {With(good, "\"PG\",2,3", "\"PG\",2,2"), 1, none, false},  // no column for the PG
-               {With(good, "\"PG\",2,3", "\"PG\",2,6"), 1, none, false},
-               {With(good, "\"ETC\",9", "\"ETC\",-1"), 1, none, false},
-               {With(good, ",200,", ",20000000000,"), 1, none, false},
-               {With(good, ",200,", ",L,"), 1, none, false},
-               {Without(good, "\"x\",200,205\r\n"), 1, none, false},
-               {With(good, "\"x\",200", "\"x,200"), 1, none, false},
-               {"", 1, none, false}};
+               {With(good, ",200,", ",20000000000,"), 1, none, false}};
   for (const auto& file : files) {
     SCOPED_TRACE(file.content);
-    Put(kCommonFile, file.content);
+    PutList(kCommonFile, file.content);
     ParaFlags.ParaFileBad = False;
     EXPECT_EQ(ReadStdLists(), file.result);
     EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
