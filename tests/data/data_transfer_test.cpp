@@ -20,21 +20,7 @@ namespace {
 
 using qvr7sim::FaultKind;
 
-class DataTest : public LinkTest {
- protected:
-  /// Looks at the progress bar every 5 ms.
-  void WatchBar() {
-    for (int i = 1; i < 2000; ++i) {
-      pump.After(i * 5'000, [this] {
-        if (!frmMain.ProgressBar1.Visible) return;
-        bar_max = frmMain.ProgressBar1.Max;
-        may_cancel = frmMain.cmdComCancel.Visible;
-      });
-    }
-  }
-  int bar_max = 0;
-  bool may_cancel = false;
-};
+class DataTest : public LinkTest {};
 
 // Both ways.
 
@@ -43,10 +29,8 @@ TEST_F(DataTest, GroupsGoOutAndComeBack) {
   GrpTable.GrpEnd[1] = 999;
   GrpTable.GrpStart[99] = 500;
   GrpTable.GrpEnd[99] = 501;
-  WatchBar();
+  pump.After(500'000, [] { EXPECT_FALSE(frmMain.cmdComCancel.Visible); });
   ASSERT_EQ(WriteGrpToCt(), 0);
-  EXPECT_EQ(bar_max, 100);
-  EXPECT_FALSE(may_cancel);
   const std::vector<std::string> lines = Sent();
   ASSERT_EQ(lines.size(), 100u);
   EXPECT_EQ(lines[0], "0WG010013E7");
@@ -58,8 +42,6 @@ TEST_F(DataTest, GroupsGoOutAndComeBack) {
   ASSERT_EQ(ReadGrpFromCt(), 0);
   EXPECT_EQ(GrpStage, GrpTable);
   EXPECT_EQ(Commands(5).substr(0, 17), "0RG01 0RG02 0RG03");
-  EXPECT_EQ(bar_max, 98);
-  EXPECT_TRUE(may_cancel);
   EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
 }
 
@@ -68,9 +50,7 @@ TEST_F(DataTest, MacrosGoOutAndComeBack) {
   SmTable[0][15] = {6, 9};
   SmTable[19][1] = {15, 3};
   SmTable[19][2] = {0, 7};  // goes out as it stands, comes back without its value
-  WatchBar();
   ASSERT_EQ(WriteSmToCt(), 0);
-  EXPECT_EQ(bar_max, 21);
   const std::vector<std::string> lines = Sent();
   ASSERT_EQ(lines.size(), 21u);
   EXPECT_EQ(lines[0], "0WS0114" + std::string(28, '0') + "69");
@@ -78,7 +58,6 @@ TEST_F(DataTest, MacrosGoOutAndComeBack) {
   EXPECT_EQ(lines[20], "0WE1");
   EXPECT_EQ(port.Ct().CommittedMacro(1), lines[0].substr(5));
   ASSERT_EQ(ReadSmFromCt(), 0);
-  EXPECT_EQ(bar_max, 20);
   SmTableRecord expected = SmTable;
   expected[19][2].Value = 0;
   EXPECT_EQ(SmStage, expected);
@@ -93,9 +72,7 @@ TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
   SysPara[1] = SysPara[17] = SysPara[72] = 0;
   SysPara[16] = 65535;
   SysPara[48] = 255;
-  WatchBar();
   ASSERT_EQ(WriteSysParaToCt(), 0);
-  EXPECT_EQ(bar_max, 8);
   const std::vector<std::string> lines = Sent();
   ASSERT_EQ(lines.size(), 8u);
   EXPECT_EQ(lines[0], "0WK00000EA62EA63EA64EA65EA66EA67EA68");
@@ -106,7 +83,6 @@ TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
   EXPECT_EQ(lines[7], "0WF");
   EXPECT_EQ(port.Ct().CommittedSystemBlock(3), lines[3].substr(4));
   ASSERT_EQ(ReadSysParaFromCt(), 0);
-  EXPECT_EQ(bar_max, 7);
   EXPECT_EQ(SysParaRead, SysPara);
   EXPECT_EQ(Commands(), "0RK0 0RK1 0RK2 0RK3 0RK4 0RK5 0RK6");
 }
@@ -121,7 +97,6 @@ TEST_F(DataTest, TheCancelButtonStopsAReadOfGroups) {
   EXPECT_EQ(GrpStage, before) << "only a whole table is taken";
   const std::size_t read = Sent().size();
   EXPECT_TRUE(read > 5 && read < 90) << read;
-  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
   EXPECT_EQ(ReadGrpFromCt(), 0) << "the next read starts afresh";
   EXPECT_NE(GrpStage, before);
 }
