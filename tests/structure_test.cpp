@@ -165,148 +165,6 @@ TEST(Structure, ToolAndSimulatorMeetAtThePortAlone) {
   }
 }
 
-// Message ids in code: what is passed for a parameter named `id` or `..._id`, the constants that
-// stand for one (`kMsg...`), and the tags of the controls.
-
-bool HasMessage(int id) {
-  const auto& table = MessageTable();
-  return std::any_of(table.begin(), table.end(),
-                     [&](const MessageRow& row) { return row.id == id; });
-}
-
-/// The arguments of the call whose parenthesis opens at `open`, cut at the commas of its level.
-std::vector<std::string> Arguments(const std::string& code, std::size_t open) {
-  std::vector<std::string> arguments(1);
-  int depth = 0;
-  for (std::size_t at = open; at < code.size(); ++at) {
-    const char c = code[at];
-    if (c == '(' || c == '{' || c == '[') ++depth;
-    if (c == ')' || c == '}' || c == ']') --depth;
-    if (depth == 0) return arguments;
-    if (at == open) continue;
-    if (c == ',' && depth == 1) {
-      arguments.emplace_back();
-    } else {
-      arguments.back() += c;
-    }
-  }
-  return {};
-}
-
-struct Call {
-  std::string file;
-  std::string function;
-  std::vector<std::string> arguments;
-};
-
-/// Everything of the form name(...), declarations included.
-std::vector<Call> Calls(const Files& files) {
-  static const std::regex kCall(R"(\b([A-Za-z_]\w*)\()");
-  std::vector<Call> calls;
-  for (const SourceFile& file : files) {
-    const std::string& code = file.code;
-    for (std::sregex_iterator it(code.begin(), code.end(), kCall), end; it != end; ++it) {
-      const auto open = static_cast<std::size_t>(it->position() + it->length() - 1);
-      calls.push_back({file.path, (*it)[1], Arguments(code, open)});
-    }
-  }
-  return calls;
-}
-
-using IdParameters = std::map<std::string, std::set<std::size_t>>;
-
-IdParameters FindIdParameters(const std::vector<Call>& calls) {
-  static const std::regex kParameter(R"(\s*int\s+(\w+_)?id\d?\s*)");
-  IdParameters found;
-  for (const Call& call : calls) {
-    for (std::size_t i = 0; i < call.arguments.size(); ++i) {
-      if (std::regex_match(call.arguments[i], kParameter)) found[call.function].insert(i);
-    }
-  }
-  return found;
-}
-
-using Constants = std::map<std::string, int>;
-
-Constants FindConstants(const Files& files) {
-  static const std::regex kConstant(R"(\b(k[A-Z]\w*)\s*=\s*(\d+)\s*[;,])");
-  Constants constants;
-  for (const SourceFile& file : files) {
-    const std::string& code = file.code;
-    for (std::sregex_iterator it(code.begin(), code.end(), kConstant), end; it != end; ++it) {
-      constants[(*it)[1]] = std::stoi((*it)[2]);
-    }
-  }
-  return constants;
-}
-
-/// The ids that an argument may have: its own number or constant, or those behind ? and :.
-std::vector<std::string> IdTerms(const std::string& argument) {
-  static const std::regex kTerm(R"((^|[?:])\s*(\d+|k[A-Z]\w*))");
-  std::vector<std::string> terms;
-  for (std::sregex_iterator it(argument.begin(), argument.end(), kTerm), end; it != end; ++it) {
-    terms.push_back((*it)[2]);
-  }
-  return terms;
-}
-
-struct UsedId {
-  int id;
-  std::string where;
-};
-
-std::vector<UsedId> UsedIds(const Files& files) {
-  const std::vector<Call> calls = Calls(files);
-  const IdParameters id_parameters = FindIdParameters(calls);
-  const Constants constants = FindConstants(files);
-  std::vector<UsedId> used;
-  for (const auto& [name, id] : constants) {
-    if (name.starts_with("kMsg")) used.push_back({id, name});
-  }
-  for (const Call& call : calls) {
-    const auto function = id_parameters.find(call.function);
-    if (function == id_parameters.end()) continue;
-    for (std::size_t i : function->second) {
-      if (i >= call.arguments.size()) continue;
-      for (const std::string& term : IdTerms(call.arguments[i])) {
-        const auto constant = constants.find(term);
-        if (std::isdigit(static_cast<unsigned char>(term[0]))) {
-          used.push_back({std::stoi(term), call.file});
-        } else if (constant != constants.end()) {
-          used.push_back({constant->second, call.file + " by " + term});
-        }
-      }
-    }
-  }
-  return used;
-}
-
-Files TreeOf(const std::string& source) {
-  return {{"src/x.cpp", WithoutCommentsAndTexts(source), {}, {}}};
-}
-
-TEST(Structure, IdsAreFoundWhereverTheyAreUsed) {
-  const Files tree = TreeOf(
-      "std::string Text(int id, const std::string& arg);\n"
-      "constexpr int kMsgGone = 4; constexpr int kNext = 5;\n"
-      "int Ask(bool back, int question_id);\n"
-      "x = Text(1); y = Text(a.b(7) ? 2 : 3); Text(kNext, Name(9)); Ask(true, 6 + axis); // "
-      "Text(8)\n"
-      "z = \"Text(10)\";");
-  std::set<int> ids;
-  for (const UsedId& used : UsedIds(tree)) ids.insert(used.id);
-  EXPECT_EQ(ids, (std::set<int>{1, 2, 3, 4, 5, 6}));
-}
-
-TEST(Structure, EveryIdInCodeIsInTheTable) {
-  Files tree = ReadSources({"src"});
-  const std::vector<UsedId> used = UsedIds(tree);
-  EXPECT_GT(used.size(), 80u);
-  for (const UsedId& use : used) {
-    EXPECT_TRUE(HasMessage(use.id)) << "message " << use.id << " is used in " << use.where;
-  }
-}
-
 // The message table.
 
 /// "%1" and "%2" as far as the text has them.
@@ -320,6 +178,8 @@ std::string Placeholders(const std::string& text) {
 
 TEST(Structure, TheMessageTableIsSortedWholeAndInBothLanguages) {
   int before = 0;
+  EXPECT_EQ(MessageTable().size(), std::size(kMessageIds));
+  EXPECT_EQ(TreeLines("src/res/messages.tsv"), MessageTable().size());
   for (const MessageRow& row : MessageTable()) {
     EXPECT_GT(row.id, before) << "unsorted or double";
     EXPECT_LT(row.id, 10000);
@@ -328,10 +188,6 @@ TEST(Structure, TheMessageTableIsSortedWholeAndInBothLanguages) {
     EXPECT_EQ(Placeholders(row.japanese), Placeholders(row.english)) << row.id;
     before = row.id;
   }
-}
-
-TEST(Structure, NoLineOfTheMessageTableIsLost) {
-  EXPECT_EQ(TreeLines("src/res/messages.tsv"), MessageTable().size());
 }
 
 // The views.
@@ -352,15 +208,16 @@ bool LogicSetsTheCaption(const Control& control) {
   return kNames.contains(std::string(control.Owner->Name) + "." + control.Name);
 }
 
-std::vector<int> TagsOf(Control& control) {
-  std::vector<int> tags;
+/// The texts that a user reads on a control.
+std::vector<MsgId> TagsOf(Control& control) {
+  std::vector<MsgId> tags;
   if (const auto* tabs = dynamic_cast<TabStrip*>(&control)) {
     for (const Tab& tab : tabs->Tabs) tags.push_back(tab.Tag);
   } else if (const auto* bar = dynamic_cast<Toolbar*>(&control)) {
     for (const ToolButton& button : bar->Buttons) {
       if (*button.Key) tags.push_back(button.Tag);  // a separator has no text
     }
-  } else if (control.Tag != 0 || (ShowsItsCaption(control) && !LogicSetsTheCaption(control))) {
+  } else if (ShowsItsCaption(control) && !LogicSetsTheCaption(control)) {
     tags.push_back(control.Tag);
   }
   return tags;
@@ -372,13 +229,12 @@ TEST_F(ViewTest, EveryCaptionHasATranslation) {
   ASSERT_GE(AllViews().size(), 8u);
   int controls = 0;
   for (View* view : AllViews()) {
-    EXPECT_TRUE(view->Tag == 0 || HasMessage(view->Tag)) << view->Name;
     EXPECT_EQ(view->Caption, "") << view->Name << " has a text in its record";
     for (Control* control : view->Controls) {
       ++controls;
       const std::string name = std::string(view->Name) + "." + control->Name;
       EXPECT_EQ(control->Caption, "") << name << " has a text in its record";
-      for (int tag : TagsOf(*control)) EXPECT_TRUE(HasMessage(tag)) << name << " tag " << tag;
+      for (const MsgId tag : TagsOf(*control)) EXPECT_TRUE(tag) << name;
     }
   }
   EXPECT_GT(controls, 150);

@@ -208,7 +208,7 @@ void ReadLists(DeviceView& view) {
 /// The number of axes in use, by the name of the last one where they have no gap.
 void FillAxisChoice(DeviceView& view) {
   std::vector<std::string> names;
-  for (int axis = 0; axis < kAxes; ++axis) names.push_back(Text(kMsgAxis1 + axis));
+  for (int axis = 0; axis < kAxes; ++axis) names.push_back(Text(MsgId::At(kMsgAxis1, axis)));
   const auto& muko = AppState.AxisMuko;
   const auto count = std::count(muko.begin(), muko.end(), False);
   Refill(view.comboAxisSelect, names, {});

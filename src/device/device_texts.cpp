@@ -43,7 +43,9 @@ std::string PgMark(std::size_t axis) {
   return DevSettei[axis].WithPG ? "E" : "_";
 }
 
-std::string AxisColon(std::size_t axis) { return Text(kMsgAxis1 + static_cast<int>(axis)) + ":"; }
+std::string AxisColon(std::size_t axis) {
+  return Text(MsgId::At(kMsgAxis1, static_cast<int>(axis))) + ":";
+}
 
 /// What a single-precision number is, to the digits that one holds.
 double OfSingle(float value) {
@@ -81,7 +83,7 @@ void DeviceTextHyoji() {
         "QV-" + device.Size + device.Speed + "-" + SpacePad(device.Stroke, 3) + mark;
     FillRows(axis, AxisColon(axis) + caption);
     frmPosi.lblDeviceType[axis]->Caption = caption;
-    frmPosi.lblAge[axis]->Caption = Text(device.NewType ? kMsgNew : kMsgOld);
+    frmPosi.lblAge[axis]->Caption = Text(device.NewType ? MsgId(kMsgNew) : MsgId(kMsgOld));
   }
 }
 

@@ -5,13 +5,14 @@
 #include <utility>
 #include <vector>
 
+#include "base/msg_id.h"
 #include "forms/view.h"
 
 namespace tr7 {
 
-/// What every control has. `Tag` is the message id of its caption; 0 leaves the caption alone.
+/// What every control has. `Tag` is the message of its caption; none leaves the caption alone.
 struct Control {
-  Control(View& owner, const char* type_name, std::string name, int tag = 0)
+  Control(View& owner, const char* type_name, std::string name, MsgId tag = {})
       : Owner(&owner), TypeName(type_name), Name(std::move(name)), Tag(tag) {
     owner.Controls.push_back(this);
   }
@@ -22,7 +23,7 @@ struct Control {
   View* Owner;
   const char* TypeName;
   std::string Name;
-  int Tag;
+  MsgId Tag;
   std::string Caption;
   std::string ToolTip;
   bool Enabled = true;
@@ -30,22 +31,25 @@ struct Control {
 };
 
 struct Label : Control {
-  Label(View& owner, const std::string& name, int tag = 0) : Control(owner, "Label", name, tag) {}
+  Label(View& owner, const std::string& name, MsgId tag = {})
+      : Control(owner, "Label", name, tag) {}
   double Width = 0;  ///< twips; 0: as wide as the layout makes it
   Handler<void()> DblClick;
 };
 
 /// A picture lamp: lit or dark by `Visible`.
 struct Image : Control {
-  Image(View& owner, const std::string& name, int tag = 0) : Control(owner, "Image", name, tag) {}
+  Image(View& owner, const std::string& name, MsgId tag = {})
+      : Control(owner, "Image", name, tag) {}
 };
 
 struct Frame : Control {
-  Frame(View& owner, const std::string& name, int tag = 0) : Control(owner, "Frame", name, tag) {}
+  Frame(View& owner, const std::string& name, MsgId tag = {})
+      : Control(owner, "Frame", name, tag) {}
 };
 
 struct CommandButton : Control {
-  CommandButton(View& owner, const std::string& name, int tag = 0)
+  CommandButton(View& owner, const std::string& name, MsgId tag = {})
       : Control(owner, "CommandButton", name, tag) {}
   bool Default = false;  ///< Enter presses it
   bool Cancel = false;   ///< Escape presses it
@@ -57,7 +61,7 @@ struct CommandButton : Control {
 };
 
 struct TextBox : Control {
-  TextBox(View& owner, const std::string& name, int tag = 0)
+  TextBox(View& owner, const std::string& name, MsgId tag = {})
       : Control(owner, "TextBox", name, tag) {}
   std::string Text;
   std::string Prompt;          ///< what the field asks for, shown faint while it is empty
@@ -75,7 +79,7 @@ struct TextBox : Control {
 };
 
 struct CheckBox : Control {
-  CheckBox(View& owner, const std::string& name, int tag = 0)
+  CheckBox(View& owner, const std::string& name, MsgId tag = {})
       : Control(owner, "CheckBox", name, tag) {}
   bool Value = false;
   Handler<void()> Click;
@@ -89,7 +93,7 @@ struct CheckBox : Control {
 
 /// One of a group; the group is all option buttons of the view with the same `Group`.
 struct OptionButton : Control {
-  OptionButton(View& owner, const std::string& name, int group, int tag = 0)
+  OptionButton(View& owner, const std::string& name, int group, MsgId tag = {})
       : Control(owner, "OptionButton", name, tag), Group(group) {}
   int Group;
   bool Value = false;
@@ -105,7 +109,7 @@ struct OptionButton : Control {
 };
 
 struct ComboBox : Control {
-  ComboBox(View& owner, const std::string& name, int tag = 0)
+  ComboBox(View& owner, const std::string& name, MsgId tag = {})
       : Control(owner, "ComboBox", name, tag) {}
   std::vector<std::string> List;
   std::vector<int> ItemData;  ///< parallel to List
@@ -127,7 +131,7 @@ struct ComboBox : Control {
 };
 
 struct ListBox : Control {
-  ListBox(View& owner, const std::string& name, int tag = 0)
+  ListBox(View& owner, const std::string& name, MsgId tag = {})
       : Control(owner, "ListBox", name, tag) {}
   std::vector<std::string> List;
   int ListIndex = -1;
@@ -142,7 +146,7 @@ struct ProgressBar : Control {
 
 /// A menu or a menu command; "-" in the layout makes separators, which have no record.
 struct Menu : Control {
-  Menu(View& owner, const std::string& name, int tag = 0) : Control(owner, "Menu", name, tag) {}
+  Menu(View& owner, const std::string& name, MsgId tag = {}) : Control(owner, "Menu", name, tag) {}
   Handler<void()> Click;
   void Press() {
     if (Enabled && Visible && Click) Click();
@@ -150,7 +154,7 @@ struct Menu : Control {
 };
 
 struct Tab {
-  int Tag = 0;
+  MsgId Tag = {};
   std::string Caption = {};
   bool Enabled = true;
 };
@@ -165,7 +169,7 @@ struct TabStrip : Control {
 
 struct ToolButton {
   const char* Key;  ///< empty: a separator
-  int Tag = 0;      ///< message id of the tool tip
+  MsgId Tag = {};   ///< message id of the tool tip
   std::string ToolTipText = {};
   bool Enabled = true;
 };
@@ -191,7 +195,7 @@ struct StatusBar : Control {
 /// Four controls of one kind, one an axis: index 0 to 3, names "base1" to "base4".
 template <typename Kind>
 struct PerAxis {
-  PerAxis(View& owner, const std::string& base, int tag = 0)
+  PerAxis(View& owner, const std::string& base, MsgId tag = {})
       : items{Kind(owner, base + "1", tag), Kind(owner, base + "2", tag),
               Kind(owner, base + "3", tag), Kind(owner, base + "4", tag)} {}
   Kind& operator[](std::size_t axis) { return items.at(axis); }

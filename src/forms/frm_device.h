@@ -10,14 +10,15 @@ namespace tr7 {
 /// parameters are initialised, and as `frmDevice3`, which also writes to the controller and opens
 /// the parameters: those two buttons are hidden in the first.
 struct DeviceView : View {
-  DeviceView(const char* name, int tag, bool writes) : View(name, tag) {
+  DeviceView(const char* name, MsgId tag, bool writes) : View(name, tag) {
     Layout = "frmDevice";
     Width = 9600;
     Height = 5700;
     cmdDeviceSet.Default = true;
     cmdDeviceCancel.Cancel = true;
     cmdPrmCtWrite.Visible = cmdSyosai.Visible = writes;
-    for (int axis = 0; axis < 4; ++axis) framAxis[static_cast<std::size_t>(axis)].Tag = 220 + axis;
+    for (int axis = 0; axis < 4; ++axis)
+      framAxis[static_cast<std::size_t>(axis)].Tag = MsgId::At(220, axis);
   }
   Label lblAxisSelect{*this, "lblAxisSelect", 6252};
   ComboBox comboAxisSelect{*this, "comboAxisSelect"};  ///< index 0: one axis, 3: all four
@@ -42,7 +43,7 @@ struct DeviceView : View {
   CommandButton cmdDeviceCancel{*this, "cmdDeviceCancel", 5153};
 };
 
-inline Standing<DeviceView> frmDevice2{"frmDevice2", 6250, false};
-inline Standing<DeviceView> frmDevice3{"frmDevice3", 6251, true};
+inline Standing<DeviceView> frmDevice2{"frmDevice2", MsgId(6250), false};
+inline Standing<DeviceView> frmDevice3{"frmDevice3", MsgId(6251), true};
 
 }  // namespace tr7

@@ -8,7 +8,7 @@ namespace tr7 {
 /// `frmSelectPosiNo3` is the plain form, `frmSelectPosiNo4` is bound to the range that can be
 /// verified and says so when there is none.
 struct SelectPosiNoView : View {
-  SelectPosiNoView(const char* name, int tag) : View(name, tag) {
+  SelectPosiNoView(const char* name, MsgId tag) : View(name, tag) {
     Layout = "frmSelectPosiNo";
     Width = 5400;
     Height = 2850;
@@ -30,8 +30,8 @@ struct SelectPosiNoView : View {
   CommandButton cmdCancel{*this, "cmdCancel", 5153};
 };
 
-inline Standing<SelectPosiNoView> frmSelectPosiNo2{"frmSelectPosiNo2", 5350};
-inline Standing<SelectPosiNoView> frmSelectPosiNo3{"frmSelectPosiNo3", 5355};
-inline Standing<SelectPosiNoView> frmSelectPosiNo4{"frmSelectPosiNo4", 5356};
+inline Standing<SelectPosiNoView> frmSelectPosiNo2{"frmSelectPosiNo2", MsgId(5350)};
+inline Standing<SelectPosiNoView> frmSelectPosiNo3{"frmSelectPosiNo3", MsgId(5355)};
+inline Standing<SelectPosiNoView> frmSelectPosiNo4{"frmSelectPosiNo4", MsgId(5356)};
 
 }  // namespace tr7

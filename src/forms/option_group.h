@@ -12,7 +12,7 @@ namespace tr7 {
 /// Options of which one is chosen: index from 0, names "base1" up, a caption tag each.
 template <std::size_t Count>
 struct OptionGroup {
-  OptionGroup(View& owner, const std::string& base, int group, const std::array<int, Count>& tags)
+  OptionGroup(View& owner, const std::string& base, int group, const std::array<MsgId, Count>& tags)
       : OptionGroup(owner, base, group, tags, std::make_index_sequence<Count>{}) {}
   OptionButton& operator[](std::size_t index) { return items.at(index); }
   const OptionButton& operator[](std::size_t index) const { return items.at(index); }
@@ -32,7 +32,7 @@ struct OptionGroup {
 
  private:
   template <std::size_t... I>
-  OptionGroup(View& owner, const std::string& base, int group, const std::array<int, Count>& tags,
+  OptionGroup(View& owner, const std::string& base, int group, const std::array<MsgId, Count>& tags,
               std::index_sequence<I...>)
       : items{OptionButton(owner, base + std::to_string(I + 1), group, tags[I])...} {}
 };

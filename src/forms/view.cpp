@@ -12,7 +12,7 @@ std::vector<View*>& Table() {
 
 }  // namespace
 
-View::View(std::string name, int tag) : Name(std::move(name)), Layout(Name), Tag(tag) {
+View::View(std::string name, MsgId tag) : Name(std::move(name)), Layout(Name), Tag(tag) {
   Table().push_back(this);
 }
 

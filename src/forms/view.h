@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/msg_id.h"
 #include "forms/field_table.h"
 #include "forms/handler.h"
 
@@ -29,14 +30,14 @@ enum class CloseReason { ControlMenu, Code };
 /// A window as a plain record: its controls, its place and the handlers that logic sets.
 /// Lengths are twips (1440 an inch; 15 a pixel at 96 dpi).
 struct View {
-  explicit View(std::string name, int tag = 0);
+  explicit View(std::string name, MsgId tag = {});
   virtual ~View();
   View(const View&) = delete;
   View& operator=(const View&) = delete;
 
   std::string Name;
   std::string Layout;  ///< the layout file that draws it; views of one kind share one
-  int Tag;             ///< message id of the caption; 0: the caption is set by logic
+  MsgId Tag;           ///< of the caption; none: the caption is set by logic
   std::string Caption;
   bool Loaded = false;
   bool Visible = false;

@@ -55,7 +55,7 @@ struct ErrorSource {
 ErrorSource SourceOf(const std::string& unit) {
   if (unit == "0") return {Text(kMsgMain), &ErrorList.ErrListMain, true};
   if (unit >= "1" && unit <= "4") {
-    return {Text(kMsgAxis1 + unit[0] - '1'), &ErrorList.ErrListAxis, false};
+    return {Text(MsgId::At(kMsgAxis1, unit[0] - '1')), &ErrorList.ErrListAxis, false};
   }
   return {};
 }

@@ -15,7 +15,7 @@ constexpr int kMsgAxisCounts = 6061;  ///< the entry for one axis; those for mor
 
 void FillEntries(const ParaListField& field, ComboBox& list) {
   list.Clear();
-  for (const int id : field.Entries) list.AddItem(Text(id), static_cast<int>(list.List.size()));
+  for (const MsgId id : field.Entries) list.AddItem(Text(id), static_cast<int>(list.List.size()));
 }
 
 /// Calls `use(axis)` once for each control of a row.
@@ -85,7 +85,7 @@ void FillParaLists() {
   ComboBox& axes = frmParameta2.comboOneAxis;
   axes.Clear();
   for (int count = 1; count <= kAxes; ++count)
-    axes.AddItem(Text(kMsgAxisCounts + count - 1), count);
+    axes.AddItem(Text(MsgId::At(kMsgAxisCounts, count - 1)), count);
 }
 
 }  // namespace tr7

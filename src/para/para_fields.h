@@ -38,8 +38,8 @@ const std::vector<ParaTextField>& ParaTextFields();
 struct ParaListField {
   int Row;
   ParaPlace<ComboBox> Place;
-  int Guard;                 ///< an index from here on is taken as 0
-  std::vector<int> Entries;  ///< message ids
+  int Guard;  ///< an index from here on is taken as 0
+  std::vector<MsgId> Entries;
 };
 const std::vector<ParaListField>& ParaListFields();
 

@@ -28,7 +28,7 @@ constexpr int kMsgNoScale = 6337;
 constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 
 /// A message, and behind it why the file could not be read or written, where there is more to say.
-void TellFileFault(int message_id) {
+void TellFileFault(MsgId message_id) {
   MsgBox(WithReason(Text(message_id), ParaFlags.FileFaultText));
 }
 
@@ -52,7 +52,7 @@ std::string DeviceTrouble() {
     if ((ParamSet.OneAxis >> axis & 1) == 0) continue;
     any = true;
     if (ParamSet.AxisLead[axis] > 0 && ParamSet.AxisPulse[axis] > 0) continue;
-    return Text(kMsgNoScale, Text(kMsgAxis1 + static_cast<int>(axis)));
+    return Text(kMsgNoScale, Text(MsgId::At(kMsgAxis1, static_cast<int>(axis))));
   }
   return any ? std::string() : Text(kMsgNoAxis);
 }

@@ -71,7 +71,7 @@ void UnloadParaView() {
 }
 
 /// Offers to save what has been changed. True when nothing stands in the way of losing it.
-bool MayDropChanges(int message_id) {
+bool MayDropChanges(MsgId message_id) {
   if (!frmParameta2.Loaded || !ParaIsChanged()) return true;
   switch (MsgBox(Text(message_id), MsgButtons::YesNoCancel, MsgIcon::Question)) {
     case MsgAnswer::Yes:

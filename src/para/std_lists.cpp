@@ -136,7 +136,7 @@ void SetAxisMask() {
 /// as of the new type, whose list may lack it.
 void NameMissing(std::size_t axis) {
   const DevSettingRecord& device = DevSettei[axis];
-  ParaFlags.FileFaultText = Text(kMsgNoRow, Text(kMsgAxis1 + static_cast<int>(axis)),
+  ParaFlags.FileFaultText = Text(kMsgNoRow, Text(MsgId::At(kMsgAxis1, static_cast<int>(axis))),
                                  device.Size + device.Speed + "-" + SpacePad(device.Stroke, 3));
 }
 

@@ -117,7 +117,7 @@ Outcome PasteFrom(const ClipMatrix& matrix, int row, int col, int rows) {
 }
 
 /// "Cells ...: 3, the first at No. 2 VEL1. "; nothing where there are none.
-std::string CellsText(int message_id, const Outcome::Cells& cells) {
+std::string CellsText(MsgId message_id, const Outcome::Cells& cells) {
   if (cells.count == 0) return {};
   const std::string number = std::to_string(PositionOfRow(cells.row));
   return Text(message_id, std::to_string(cells.count),
@@ -143,7 +143,7 @@ void PosiDataLinePaste(const ClipMatrix& matrix) {
   const int line_start = AppState.CtMode ? int{kPosi} : 1;
   const Block block = SelectedBlock();
   if (!InBody(block) || (col > 1 && col != line_start && col != FirstShownColumn())) {
-    MsgBox(Text(AppState.CtMode ? 580 : 393));
+    MsgBox(Text(AppState.CtMode ? MsgId(580) : MsgId(393)));
     return;
   }
   Tell(PasteFrom(matrix, block.first_row, 1, block.last_row - block.first_row + 1));

@@ -199,7 +199,7 @@ void ShowFileAges() {
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     const bool is_new = DevSettei[axis].NewTypeWord == kNew;
     frmPosi.lblAge[axis]->Caption =
-        AppState.AxisMuko[axis] ? std::string() : Text(is_new ? 126 : 127);
+        AppState.AxisMuko[axis] ? std::string() : Text(is_new ? MsgId(126) : MsgId(127));
   }
 }
 

@@ -22,7 +22,7 @@ namespace {
 constexpr int kMsgPartOverWhole = 6460;
 constexpr int kMsgSaved = 5972;
 
-std::optional<std::string> AskPath(int title_id) {
+std::optional<std::string> AskPath(MsgId title_id) {
   const auto path = AskSavePath(kPosiDataFile, title_id);
   frmPosi.SaveCancelled = !path;
   return path;

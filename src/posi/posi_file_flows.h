@@ -1,5 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "base/msg_id.h"
 #include "posi/posi_file.h"
 #include "steps/file_steps.h"
 

@@ -50,7 +50,7 @@ void WriteHeaders() {
   grid.SetText(1, 0, "No.");
   for (int col = 1; col < kPosiColumns; ++col) {
     const int axis = AxisOfColumn(col);
-    grid.SetText(0, col, axis >= 0 ? Text(220 + axis) : "Common");
+    grid.SetText(0, col, axis >= 0 ? Text(MsgId::At(220, axis)) : "Common");
     grid.SetText(1, col, ColumnTitle(col));
   }
 }

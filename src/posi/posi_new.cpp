@@ -38,7 +38,7 @@ bool AskNewRange() {
 
 }  // namespace
 
-bool MayReplaceTable(int question_id) {
+bool MayReplaceTable(MsgId question_id) {
   if (!frmPosi.PosiChanged) return true;
   const MsgAnswer answer = AskYesNoCancel(question_id);
   if (answer == MsgAnswer::No) return true;

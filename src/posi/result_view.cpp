@@ -126,8 +126,8 @@ void WireOtherSide(const OtherSide& other, HandlersForOnce& handlers) {
 
 void LoadResultView() {
   FrmSyogoKekka& f = frmSyogoKekka;
-  f.Caption = Text(f.SyogoViewIsVerify ? 2301 : 2302);
-  f.lblExplanation.Caption = Text(f.SyogoViewIsVerify ? 2303 : 2304);
+  f.Caption = Text(f.SyogoViewIsVerify ? MsgId(2301) : MsgId(2302));
+  f.lblExplanation.Caption = Text(f.SyogoViewIsVerify ? MsgId(2303) : MsgId(2304));
   FillGrid();
   f.flgdKekka.SelectCell(kPosiHeaderRows, 0);
 }

@@ -22,7 +22,7 @@ namespace {
 constexpr int kMsgModeNotWritten = 5973;
 
 /// First: the controller's values. Second: the PC's.
-Selection AskReconcile(int prompt_id, int pc_choice_id, bool may_cancel) {
+Selection AskReconcile(MsgId prompt_id, MsgId pc_choice_id, bool may_cancel) {
   return SelectionDialog({.Title = Text(471),
                           .Prompt = Text(prompt_id),
                           .Choices = {Text(372), Text(pc_choice_id)},

@@ -13,7 +13,7 @@
 namespace tr7 {
 namespace {
 
-std::string VersionLine(int name_id, const std::string& version) {
+std::string VersionLine(MsgId name_id, const std::string& version) {
   return "<" + Text(name_id) + ">  " + version;
 }
 
@@ -26,7 +26,7 @@ void ContVersionMenu() {
     std::string text = Text(426) + "\n\n" + VersionLine(427, AppState.CtVersionText);
     for (const int axis : AxesInUse()) {
       if (axis >= AppState.CtAxisDigit) break;
-      text += "\n" + VersionLine(1405 + axis, AppState.AxisVersionText[axis]);
+      text += "\n" + VersionLine(MsgId::At(1405, axis), AppState.AxisVersionText[axis]);
     }
     MsgBox(text, MsgButtons::Ok, MsgIcon::Information);
   }

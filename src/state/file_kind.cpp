@@ -78,7 +78,7 @@ FileKind KindOfFile(const std::string& utf8) {
 std::string WhatFileIs(const std::string& path, const std::string& utf8) {
   const FileKind kind = KindOfFile(utf8);
   if (kind == FileKind::Unknown) return {};
-  return Text(kMsgFileIs, FileTitle(path), Text(kMsgKinds + static_cast<int>(kind) - 1));
+  return Text(kMsgFileIs, FileTitle(path), Text(MsgId::At(kMsgKinds, static_cast<int>(kind) - 1)));
 }
 
 std::string ListFault(const std::string& name, const std::string& utf8, FileKind due, int line) {

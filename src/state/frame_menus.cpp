@@ -115,7 +115,9 @@ void ChangeMenuDisp(Bool16 mode) {
   SwitchOffUnbuiltCommands();
 }
 
-void DispControlerMode() { frmMain.lblCtMode.Caption = Text(AppState.CtMode ? 129 : 128); }
+void DispControlerMode() {
+  frmMain.lblCtMode.Caption = Text(AppState.CtMode ? MsgId(129) : MsgId(128));
+}
 
 void SwitchOffUnbuiltCommands() {
   FrmMain& f = frmMain;

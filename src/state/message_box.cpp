@@ -14,20 +14,20 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
   return doors.forms->MessageBox({text, title, buttons, icon});
 }
 
-std::string TwoLines(int id1, int id2) { return Text(id1) + "\n" + Text(id2); }
+std::string TwoLines(MsgId id1, MsgId id2) { return Text(id1) + "\n" + Text(id2); }
 
 std::string WithReason(const std::string& text, const std::string& reason) {
   return reason.empty() ? text : text + "\n\n" + reason;
 }
 
-void Tell(int id) { MsgBox(Text(id)); }
-void TellDone(int id) { MsgBox(Text(id), MsgButtons::Ok, MsgIcon::Information); }
+void Tell(MsgId id) { MsgBox(Text(id)); }
+void TellDone(MsgId id) { MsgBox(Text(id), MsgButtons::Ok, MsgIcon::Information); }
 
-bool AskOk(int id) {
+bool AskOk(MsgId id) {
   return MsgBox(Text(id), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
-MsgAnswer AskYesNoCancel(int id) {
+MsgAnswer AskYesNoCancel(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNoCancel, MsgIcon::Question);
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/msg_id.h"
 #include "platform/form_host.h"
 
 namespace tr7 {
@@ -14,7 +15,7 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
                  const std::string& title);
 
 /// Two messages, one line each.
-std::string TwoLines(int id1, int id2);
+std::string TwoLines(MsgId id1, MsgId id2);
 
 /// A box's text, and behind it, where there is one, the reason.
 std::string WithReason(const std::string& text, const std::string& reason);
@@ -22,12 +23,12 @@ std::string WithReason(const std::string& text, const std::string& reason);
 // Telling and asking by message id.
 
 /// Something went wrong.
-void Tell(int id);
+void Tell(MsgId id);
 /// Something is done.
-void TellDone(int id);
+void TellDone(MsgId id);
 /// A question with OK and Cancel: true for OK.
-[[nodiscard]] bool AskOk(int id);
+[[nodiscard]] bool AskOk(MsgId id);
 /// A question with Yes, No and Cancel.
-[[nodiscard]] MsgAnswer AskYesNoCancel(int id);
+[[nodiscard]] MsgAnswer AskYesNoCancel(MsgId id);
 
 }  // namespace tr7

@@ -56,15 +56,17 @@ const std::vector<MessageRow>& MessageTable() {
   return table;
 }
 
-std::string Text(int id) {
+std::string Text(MsgId id) {
   const auto& table = MessageTable();
-  const auto row = std::lower_bound(table.begin(), table.end(), id,
+  const auto row = std::lower_bound(table.begin(), table.end(), id.Number(),
                                     [](const MessageRow& a, int b) { return a.id < b; });
-  if (row == table.end() || row->id != id) return "#" + std::to_string(id);
+  if (row == table.end() || row->id != id.Number()) {
+    return "#" + std::to_string(id.Number());
+  }
   return AppState.LangOffset == 0 ? row->japanese : row->english;
 }
 
-std::string Text(int id, const std::string& arg1, const std::string& arg2) {
+std::string Text(MsgId id, const std::string& arg1, const std::string& arg2) {
   std::string text = Text(id);
   Replace(text, "%1", arg1);
   Replace(text, "%2", arg2);

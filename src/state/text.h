@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "base/msg_id.h"
+
 namespace tr7 {
 
 /// One row of the message table.
@@ -15,11 +17,11 @@ struct MessageRow {
 /// All rows, sorted by id.
 const std::vector<MessageRow>& MessageTable();
 
-/// The text of a message in the user's language (`LangOffset`). An id that the table lacks gives
-/// "#" and the id, so that it is seen.
-std::string Text(int id);
+/// The text of a message in the user's language (`LangOffset`). A number that the table lacks gives
+/// "#" and the number, so that it is seen.
+std::string Text(MsgId id);
 
 /// The text with "%1" and "%2" replaced.
-std::string Text(int id, const std::string& arg1, const std::string& arg2 = {});
+std::string Text(MsgId id, const std::string& arg1, const std::string& arg2 = {});
 
 }  // namespace tr7

@@ -22,7 +22,7 @@ constexpr int kMsgOther = 5914;
 constexpr int kMsgBadCharacter = 5915;
 constexpr int kMsgNotOfCodePage = 6320;
 
-int MessageOf(FileFault fault) {
+MsgId MessageOf(FileFault fault) {
   switch (fault) {
     case FileFault::NotFound:
       return kMsgNotFound;

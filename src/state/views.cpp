@@ -17,13 +17,13 @@ View* active_view = nullptr;
 void ApplyControlCaption(Control& control) {
   if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
     for (Tab& tab : tabs->Tabs) {
-      if (tab.Tag > 0) tab.Caption = Text(tab.Tag);
+      if (tab.Tag) tab.Caption = Text(tab.Tag);
     }
   } else if (auto* bar = dynamic_cast<Toolbar*>(&control)) {
     for (ToolButton& button : bar->Buttons) {
-      if (button.Tag > 0) button.ToolTipText = Text(button.Tag);
+      if (button.Tag) button.ToolTipText = Text(button.Tag);
     }
-  } else if (control.Tag > 0) {
+  } else if (control.Tag) {
     control.Caption = Text(control.Tag);
   }
 }
@@ -41,7 +41,7 @@ void SetActiveView(View* view) {
 
 void ApplyViewCaptions(View& view) {
   // The frame sets its own caption: it carries the version.
-  if (view.Tag != 0 && &view != &frmMain) view.Caption = Text(view.Tag);
+  if (view.Tag && &view != &frmMain) view.Caption = Text(view.Tag);
   for (Control* control : view.Controls) ApplyControlCaption(*control);
 }
 

@@ -5,7 +5,7 @@
 
 namespace tr7 {
 
-Bulk::Bulk(int status_id, int bar_maximum, Cancel cancel)
+Bulk::Bulk(MsgId status_id, int bar_maximum, Cancel cancel)
     : may_cancel_(cancel == Cancel::Yes), progress_(Text(status_id), bar_maximum, may_cancel_) {}
 
 Outcome Bulk::Each(int first, int last, const std::function<Outcome(int number)>& record) {

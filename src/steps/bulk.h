@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "base/msg_id.h"
 #include "state/progress.h"
 #include "steps/outcome.h"
 
@@ -15,7 +16,7 @@ class Bulk {
 
   /// `bar_maximum` counts the records, and what else the bar shows. The cancel button stands beside
   /// the bar where the transfer may be cancelled.
-  Bulk(int status_id, int bar_maximum, Cancel cancel);
+  Bulk(MsgId status_id, int bar_maximum, Cancel cancel);
 
   /// Runs `record` for each number from `first` to `last`; the bar moves on by one for each that is
   /// done. The first one that is not ends the loop with its outcome. So does a press of the cancel

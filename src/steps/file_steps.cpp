@@ -12,7 +12,7 @@ constexpr int kPauseMs = 100;
 
 }  // namespace
 
-std::optional<std::string> AskOpenPath(const DataFile& kind, int title_id) {
+std::optional<std::string> AskOpenPath(const DataFile& kind, MsgId title_id) {
   FileDialogCall call;
   call.Title = Text(title_id);
   call.Filter = Text(kind.filter_id);
@@ -20,7 +20,7 @@ std::optional<std::string> AskOpenPath(const DataFile& kind, int title_id) {
   return doors.forms->FileDialog(call);
 }
 
-std::optional<std::string> AskSavePath(const DataFile& kind, int title_id) {
+std::optional<std::string> AskSavePath(const DataFile& kind, MsgId title_id) {
   const auto path = doors.forms->FileDialog({.Save = true,
                                              .Title = Text(title_id),
                                              .Filter = Text(kind.filter_id),

@@ -24,7 +24,7 @@ Outcome ReadNamed(const RecordFrame& frame, std::string& reply) {
 Outcome SendEchoed(const RecordFrame& frame) {
   std::string reply;
   const Outcome outcome = SendFrame(frame, reply);
-  if (outcome == Outcome::Failed && frame.unanswered_id != 0) Tell(frame.unanswered_id);
+  if (outcome == Outcome::Failed && frame.unanswered_id) Tell(frame.unanswered_id);
   if (outcome != Outcome::Done) return outcome;
   if (reply.substr(0, frame.echo) == frame.text.substr(0, frame.echo)) return Outcome::Done;
   TusinPortClose();

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "base/msg_id.h"
 #include "steps/outcome.h"
 
 namespace tr7 {
@@ -14,8 +15,8 @@ struct RecordFrame {
   std::string text;      ///< without CR LF
   int reply_length = 0;  ///< with CR LF
   int timeout_ms = 0;
-  std::size_t echo = 0;   ///< of a write: characters that the reply repeats from the frame
-  int unanswered_id = 0;  ///< of a write: message told beside the exchange's own; 0: none
+  std::size_t echo = 0;      ///< of a write: characters that the reply repeats from the frame
+  MsgId unanswered_id = {};  ///< of a write: message told beside the exchange's own; none
 };
 
 /// Sends a frame of a read. The whole frame stands at the head of its reply, or that is the answer

@@ -35,7 +35,8 @@ void SetTexts(QFileDialog& dialog, const FileDialogCall& call) {
   dialog.setLabelText(QFileDialog::LookIn, Q(Text(kLookInText)));
   dialog.setLabelText(QFileDialog::FileName, Q(Text(kFileNameText)));
   dialog.setLabelText(QFileDialog::FileType, Q(Text(kFileTypeText)));
-  dialog.setLabelText(QFileDialog::Accept, Q(Text(call.Save ? kSaveText : kOpenText)));
+  dialog.setLabelText(QFileDialog::Accept,
+                      Q(Text(call.Save ? MsgId(kSaveText) : MsgId(kOpenText))));
   dialog.setLabelText(QFileDialog::Reject, Q(Text(kCancelText)));
 }
 

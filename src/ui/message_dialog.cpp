@@ -16,7 +16,7 @@ constexpr int kYesText = 5150, kNoText = 5151, kOkText = 5152, kCancelText = 515
 
 struct AnswerButton {
   MsgAnswer answer;
-  int text;
+  MsgId text;
   QMessageBox::ButtonRole role;
 };
 

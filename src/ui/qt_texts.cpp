@@ -10,7 +10,7 @@ namespace {
 
 struct QtText {
   std::string_view source;
-  int id;
+  MsgId id;
 };
 
 constexpr QtText kTexts[] = {

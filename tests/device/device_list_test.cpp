@@ -18,19 +18,7 @@ using Names = std::vector<std::string>;
 constexpr const char* kOld = "qvdevice.lst";
 constexpr const char* kNew = "nqvdevice.lst";
 
-class DeviceListTest : public StateTest {
- protected:
-  void Put(const char* name, const std::string& content) {
-    virt.files.Put(ProgramFile(name), content);
-  }
-  /// Boxes that came since the last call.
-  Names Boxes() {
-    Names texts;
-    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
-    forms.boxes.clear();
-    return texts;
-  }
-};
+class DeviceListTest : public StateTest {};
 
 Names NoListBox() { return {Text(15) + "\n" + Text(16)}; }
 
@@ -59,9 +47,9 @@ TEST_F(DeviceListTest, ModelFieldsAreCutByPosition) {
 }
 
 TEST_F(DeviceListTest, TheNewListGivesRowsAndSizes) {
-  Put(kNew,
-      "4\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n\" 28H-100\",6,400,0,2\r\n"
-      "\"28 L-100\",8,400,0,0\r\nsurplus,items\r\n");
+  PutList(kNew,
+          "4\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n\" 28H-100\",6,400,0,2\r\n"
+          "\"28 L-100\",8,400,0,0\r\nsurplus,items\r\n");
   ASSERT_EQ(ReadDeviceListNew(), 0);
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     const DeviceListRecord& list = DeviceList[axis];
@@ -91,7 +79,8 @@ TEST_F(DeviceListTest, TheNewListGivesRowsAndSizes) {
 }
 
 TEST_F(DeviceListTest, TheOldListComparesSizesByValue) {
-  Put(kOld,
+  PutList(
+      kOld,
       "4,\"28L-100\",2,x,,\" 5H-050\",6,\"\",0,\"28H-100\",7,0,0\r\n\"05L-020\",8,99999,-1\r\n");
   ASSERT_EQ(ReadDeviceListOld(), 0);
   const DeviceListRecord& list = DeviceList[3];
@@ -147,7 +136,7 @@ TEST_F(DeviceListTest, DamagedListsTakeTheFailurePathAndSayWhere) {
   for (const auto& file : files) {
     SCOPED_TRACE(file.content.substr(0, 60));
     ASSERT_EQ(ReadDeviceListOldAxis(0), 0);
-    Put(kNew, file.content);
+    PutList(kNew, file.content);
     const bool good = file.rows < 0;
     EXPECT_EQ(ReadDeviceListNewAxis(0), good ? 0 : 1);
     EXPECT_EQ(DevListMissing[0], !good);
@@ -161,7 +150,7 @@ TEST_F(DeviceListTest, DamagedListsTakeTheFailurePathAndSayWhere) {
 TEST_F(DeviceListTest, ARowWithANumberOutOfItsRangeIsLeftOutAndNamedOnce) {
   const std::string good = "\" 28L-100\",2,400,0,0\r\n";
   for (const char* numbers : {"2,400,3,0", "2,400,0,-1", "0,400,0,0", "2,32768,0,0", "1.5,1,0,0"}) {
-    Put(kNew, "3\r\n" + good + "\" 28H-050\"," + numbers + "\r\n" + good);
+    PutList(kNew, "3\r\n" + good + "\" 28H-050\"," + numbers + "\r\n" + good);
     const std::string words = Text(6333, kNew) + "\n\n" + Text(6321, "3", " 28H-050");
     DeviceLookup = DeviceLookupRecord{};
     EXPECT_EQ(FindDeviceNew(" 28", "H", 50), 1);
@@ -191,7 +180,7 @@ TEST_F(DeviceListTest, AMissingListEndsTheReadAtTheFirstAxis) {
 }
 
 TEST_F(DeviceListTest, LookupsReadTheFileAfresh) {
-  Put(kNew, "2\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n");
+  PutList(kNew, "2\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n");
   const struct {
     const char *size, *speed;
     int stroke;
@@ -213,11 +202,11 @@ TEST_F(DeviceListTest, LookupsReadTheFileAfresh) {
   EXPECT_TRUE(Boxes().empty());
   EXPECT_EQ(DeviceList[0].RowCount, 0);  // the memory copy is not theirs
 
-  Put(kNew, "1\r\n\" 28L-100\",6,400,0,0\r\n");
+  PutList(kNew, "1\r\n\" 28L-100\",6,400,0,0\r\n");
   ASSERT_EQ(GetLeadAndPprNew(" 28", "L", 100), 0);
   EXPECT_EQ(DeviceLookup.Lead, 6);
 
-  Put(kNew, "2\r\n\" 28L-100\",6,400,0,0\r\n");
+  PutList(kNew, "2\r\n\" 28L-100\",6,400,0,0\r\n");
   EXPECT_EQ(FindDeviceNew(" 28", "L", 100), 1);
   EXPECT_EQ(GetPgKindNew(" 28", "L", 100), 99);
   EXPECT_EQ(GetVKindNew(" 28", "L", 100), 99);

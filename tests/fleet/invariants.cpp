@@ -32,7 +32,7 @@ void CheckOnlineState(Voyage& voyage) {
   voyage.Require(!AppState.OfflineTemporarilyLifted, "between online and offline");
   voyage.Require(frmMain.imgAlarm.Visible == AppState.AlarmOn, "alarm lamp lies");
   voyage.Require(frmMain.imgOnline.Visible == online &&
-                     frmMain.lblOnline.Caption == Text(online ? 5116 : 5117),
+                     frmMain.lblOnline.Caption == Text(online ? MsgId(5116) : MsgId(5117)),
                  "online lamp lies");
   voyage.Require(frmMain.mnuSettingOnline.Enabled == !online &&
                      frmMain.mnuSettingOffline.Enabled == online &&
@@ -42,7 +42,7 @@ void CheckOnlineState(Voyage& voyage) {
   voyage.Require(frmMain.mnuFileNewProg.Visible == program &&
                      frmMain.mnuViewGrp.Visible == !program &&
                      frmMain.mnuContProg.Visible == program &&
-                     frmMain.lblCtMode.Caption == Text(program ? 129 : 128),
+                     frmMain.lblCtMode.Caption == Text(program ? MsgId(129) : MsgId(128)),
                  "menus lie about the mode");
   const bool tabs_on = online && !AppState.CtModePending;
   for (const TabStrip* strip : {&frmPosi.tabCmd, &frmPosi.tabCmdPrg}) {

@@ -50,12 +50,12 @@ bool Voyage::HasSent(std::initializer_list<const char*> commands) const {
   });
 }
 
-std::optional<int> Voyage::Chosen(int prompt_id) const {
+std::optional<int> Voyage::Chosen(MsgId prompt_id) const {
   const auto found = choices.find(Text(prompt_id));
   return found == choices.end() ? std::nullopt : std::optional(found->second);
 }
 
-bool Voyage::WasTold(int message_id) const {
+bool Voyage::WasTold(MsgId message_id) const {
   const std::string whole = Text(message_id);
   const std::string text = whole.substr(0, whole.find('%'));
   for (std::size_t i = boxes_seen; i < virt.forms.boxes.size(); ++i) {

@@ -27,11 +27,11 @@ struct Voyage {
   /// A flow begins: what is kept of a flow is forgotten.
   void BeginFlow(const std::string& name);
   /// True when a box with this message, up to what is filled in, came up since the flow began.
-  bool WasTold(int message_id) const;
+  bool WasTold(MsgId message_id) const;
   /// True when one of these commands went out since the flow began.
   bool HasSent(std::initializer_list<const char*> commands) const;
   /// The answer to the choice box with this prompt in this flow; nothing: none was given.
-  std::optional<int> Chosen(int prompt_id) const;
+  std::optional<int> Chosen(MsgId prompt_id) const;
 
   std::uint64_t seed;
   Random random;

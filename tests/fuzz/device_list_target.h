@@ -4,12 +4,9 @@
 #include <string_view>
 
 #include "device/device_list.h"
-#include "platform/doors.h"
 #include "state/text_file.h"
 #include "tests/fuzz/check.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
@@ -30,16 +27,9 @@ inline void CheckDeviceList(const DeviceListRecord& list, bool good) {
 
 /// Any bytes as both catalogues.
 inline void FuzzDeviceList(std::string_view bytes) {
-  MemoryFiles files;
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  const Doors before = doors;
-  doors.files = &files;
-  doors.forms = &forms;
-  doors.settings = &settings;
-
+  FuzzDoors virt;
   for (const char* name : {"qvdevice.lst", "nqvdevice.lst"}) {
-    files.Put(ProgramFile(name), std::string(bytes));
+    virt.files.Put(ProgramFile(name), std::string(bytes));
   }
   DeviceListRecord& list = DeviceList[0];
   const bool good_old = ReadDeviceListOldAxis(0) == 0;
@@ -53,7 +43,7 @@ inline void FuzzDeviceList(std::string_view bytes) {
   }
   std::size_t boxes = (good_old ? 0u : 1u) + (good ? 0u : 1u);
   for (const std::string& rows : DeviceLookup.LeftOutTold) boxes += rows.empty() ? 0 : 1;
-  FuzzCheck(forms.boxes.size() == boxes, "one box a failure and a list with rows left out");
+  FuzzCheck(virt.forms.boxes.size() == boxes, "one box a failure and a list with rows left out");
   const DeviceRecord row = list.Rows[1];
   const bool found = FindDeviceNew(row.Size, row.Speed, row.Stroke) == 0;
   FuzzCheck(found == (good && list.RowCount > 0), "a lookup agrees with the list");
@@ -63,7 +53,6 @@ inline void FuzzDeviceList(std::string_view bytes) {
   DeviceList.fill(DeviceListRecord{});
   DevListMissing.fill(False);
   DeviceLookup = DeviceLookupRecord{};
-  doors = before;
 }
 
 }  // namespace tr7

@@ -4,28 +4,18 @@
 #include <string_view>
 
 #include "link/error_list.h"
-#include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/text.h"
 #include "state/text_file.h"
 #include "tests/fuzz/check.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
 /// Any bytes as the list file, and every unit and code against what was read of it.
 inline void FuzzErrorList(std::string_view bytes) {
-  MemoryFiles files;
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  const Doors before = doors;
-  doors.files = &files;
-  doors.forms = &forms;
-  doors.settings = &settings;
-
-  files.Put(ProgramFile(Text(120)), std::string(bytes));
+  FuzzDoors virt;
+  virt.files.Put(ProgramFile(Text(120)), std::string(bytes));
   const bool good = ReadErrorList() == 0;
   FuzzCheck(good != bool(ErrorList.ErrListMissing), "the result agrees with the state");
   FuzzCheck(ErrorList.ErrListMain.size() <= kErrListPairs, "the main list keeps its bound");
@@ -38,10 +28,9 @@ inline void FuzzErrorList(std::string_view bytes) {
     }
   }
   DecodeCtError(std::string(bytes.substr(0, 8)));
-  FuzzCheck(forms.boxes.empty() == good, "a box comes up only without a list");
+  FuzzCheck(virt.forms.boxes.empty() == good, "a box comes up only without a list");
 
   ErrorList = ErrorListRecord{};
-  doors = before;
 }
 
 }  // namespace tr7

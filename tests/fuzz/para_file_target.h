@@ -7,11 +7,8 @@
 
 #include "para/para_file.h"
 #include "para/param_set.h"
-#include "platform/doors.h"
 #include "tests/fuzz/check.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
@@ -43,31 +40,24 @@ inline void CheckParaRoundTrip(MemoryFiles& files, const std::string& path) {
 
 /// Any bytes as a parameter file.
 inline void FuzzParaFile(std::string_view bytes) {
-  MemoryFiles files;
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  const Doors before = doors;
-  doors.files = &files;
-  doors.forms = &forms;
-  doors.settings = &settings;
-
+  FuzzDoors virt;
   const std::string path = "/x.pmt";
-  files.Put(path, std::string(bytes));
+  virt.files.Put(path, std::string(bytes));
   const bool good = ReadParaTable(path) == 0;
   FuzzCheck(good != bool(ParaFlags.ParaFileBad), "the result agrees with the flag");
-  FuzzCheck(forms.boxes.size() <= (good ? 0u : 1u), "one box at most, and none for a good file");
+  FuzzCheck(virt.forms.boxes.size() <= (good ? 0u : 1u),
+            "one box at most, and none for a good file");
   if (good) {
     FuzzCheck(ParaFlags.FileFaultText.empty(), "a good file needs no words");
     const bool taken = TakeParamTable() == 0;
     FuzzCheck(taken == (RefusedParaRow() == 0), "what is refused has a row");
     FuzzCheck(taken || ParamSet == ParamSetRecord{}, "a refused table changes nothing");
-    if (taken) CheckParaRoundTrip(files, path);
+    if (taken) CheckParaRoundTrip(virt.files, path);
   }
 
   ParamSet = ParamSetRecord{};
   ParaTable.Clear();
   ParaFlags = ParaFlagsRecord{};
-  doors = before;
 }
 
 }  // namespace tr7

@@ -9,14 +9,11 @@
 #include "base/bool16.h"
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
-#include "platform/doors.h"
 #include "posi/posi_file.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "tests/fuzz/check.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
@@ -78,28 +75,20 @@ inline void CheckPosiRoundTrip(MemoryFiles& files) {
 
 /// Any bytes as a position file, in the present layouts and in the oldest.
 inline void FuzzPosiFile(std::string_view bytes) {
-  MemoryFiles files;
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  const Doors before = doors;
-  doors.files = &files;
-  doors.forms = &forms;
-  doors.settings = &settings;
-
+  FuzzDoors virt;
   const std::string path = "/x.qvd";
-  files.Put(path, std::string(bytes));
+  virt.files.Put(path, std::string(bytes));
   for (const bool oldest : {true, false}) {
     AppState.PosiFileNotOurs = False;
-    forms.boxes.clear();
+    virt.forms.boxes.clear();
     PosiFileTrouble trouble;
     const int result = oldest ? ReadOldPosiFile(path, trouble) : ReadPosiFile(path, trouble);
-    if (CheckPosiRead(result, trouble, forms.boxes.size())) CheckPosiRoundTrip(files);
+    if (CheckPosiRead(result, trouble, virt.forms.boxes.size())) CheckPosiRoundTrip(virt.files);
   }
 
   AppState = AppStateRecord{};
   DevSettei.fill(DevSettingRecord{});
   FileDevice.fill({});
-  doors = before;
 }
 
 }  // namespace tr7

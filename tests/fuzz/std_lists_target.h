@@ -7,12 +7,9 @@
 #include "para/param_set.h"
 #include "para/std_lists.h"
 #include "para/std_table.h"
-#include "platform/doors.h"
 #include "state/text_file.h"
 #include "tests/fuzz/check.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
@@ -22,18 +19,11 @@ inline constexpr std::string_view kFuzzStd =
 
 /// Runs with these files; the first row of the first axis's list, if there is one, is chosen.
 inline void RunStdLists(std::string_view std_list, std::string_view common) {
-  MemoryFiles files;
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  const Doors before = doors;
-  doors.files = &files;
-  doors.forms = &forms;
-  doors.settings = &settings;
-
+  FuzzDoors virt;
   for (const char* name : {"tr7qvstpr.lst", "tr7nqvstpr.lst"}) {
-    files.Put(ProgramFile(name), std::string(std_list));
+    virt.files.Put(ProgramFile(name), std::string(std_list));
   }
-  files.Put(ProgramFile("tr7cmstpr.lst"), std::string(common));
+  virt.files.Put(ProgramFile("tr7cmstpr.lst"), std::string(common));
   const bool good = ReadStdLists() == 0;
   for (const StdList& list : StdTable) {
     FuzzCheck(list.size() <= kStdRowsMax, "the list keeps its bound");
@@ -44,7 +34,7 @@ inline void RunStdLists(std::string_view std_list, std::string_view common) {
       device.Stroke = static_cast<std::int16_t>(list[0].Model.Stroke);
     }
   }
-  FuzzCheck(!good || forms.boxes.empty(), "a good read says nothing");
+  FuzzCheck(!good || virt.forms.boxes.empty(), "a good read says nothing");
   const bool empty = StdTable[0].empty();
   const bool filled = IniParaFromStd() == 0;
   FuzzCheck(filled == (good && !empty), "good lists fill the parameters");
@@ -58,7 +48,6 @@ inline void RunStdLists(std::string_view std_list, std::string_view common) {
   ParamSet = ParamSetRecord{};
   ParaFlags = ParaFlagsRecord{};
   DevSettei.fill(DevSettingRecord{});
-  doors = before;
 }
 
 /// A good common list of zeros.

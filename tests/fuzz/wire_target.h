@@ -33,10 +33,7 @@
 #include "state/online.h"
 #include "tests/fuzz/bytes_port.h"
 #include "tests/fuzz/check.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_pump.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
@@ -198,17 +195,9 @@ inline void ResetLine() {
 inline void FuzzReplies(std::string_view bytes) {
   if (bytes.empty()) return;
   BytesPort port(bytes.substr(1));
-  MemoryFiles files;
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  VirtualPump pump;
-  pump.SetLimit(std::int64_t{3600} * 1'000'000);
-  const Doors before = doors;
+  FuzzDoors virt;
+  virt.pump.SetLimit(std::int64_t{3600} * 1'000'000);
   doors.serial = &port;
-  doors.files = &files;
-  doors.forms = &forms;
-  doors.settings = &settings;
-  doors.pump = &pump;
 
   AppState.PortNo = 1;
   SetOnline();
@@ -219,7 +208,6 @@ inline void FuzzReplies(std::string_view bytes) {
   const bool untouched = ReadStages() == stages;
   FuzzCheck(result == 0 || which == kReadThenWrite || untouched, "a failed read leaves nothing");
   TusinPortCloseForce();
-  doors = before;
 }
 
 /// Any bytes as what comes over the line. The views stand as `ResetState` leaves them.

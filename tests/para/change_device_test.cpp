@@ -19,16 +19,8 @@
 namespace tr7 {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 class ChangeDeviceTest : public FlowTest {
  protected:
-  static void Pick(ComboBox& combo, const std::string& text) {
-    for (std::size_t i = 0; i < combo.List.size(); ++i) {
-      if (combo.List[i] == text) return combo.Pick(static_cast<int>(i));
-    }
-    ADD_FAILURE() << combo.Name << " does not offer " << text;
-  }
   /// What the user does in `frmDevice2`, visit by visit.
   void InDialog(std::vector<std::function<void()>> visits) {
     visits_ = std::move(visits);
@@ -47,17 +39,6 @@ class ChangeDeviceTest : public FlowTest {
   }
   static void Cancel() { frmDevice2.cmdDeviceCancel.Press(); }
   static void Back() { frmDevice2.cmdDeviceBack.Press(); }
-  void Forget() {
-    forms.boxes.clear();
-    forms.modals.clear();
-    asked.clear();
-    port.sent.clear();
-  }
-  Texts Boxes() const {
-    Texts texts;
-    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
-    return texts;
-  }
   static std::string Device(std::size_t axis) {
     const DevSettingRecord& device = DevSetting[axis];
     return device.Size + device.Speed + std::to_string(device.Stroke);
@@ -95,7 +76,6 @@ TEST_F(ChangeDeviceTest, AChosenDeviceComesIntoUse) {
   }
   EXPECT_EQ(port.sent, "");
   ExpectOffline();
-  ExpectCommandsOn();
 }
 
 TEST_F(ChangeDeviceTest, OtherAxesComeWithTheDevices) {
@@ -142,7 +122,6 @@ TEST_F(ChangeDeviceTest, WhoeverLeavesKeepsWhatHeHad) {
     EXPECT_EQ(asked.size(), row.asked);
     EXPECT_EQ(AppState.AxisMuko, muko);
     EXPECT_EQ(Device(0), row.device);
-    ExpectCommandsOn();
   }
 }
 
@@ -216,7 +195,7 @@ TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
 
 TEST_F(ChangeDeviceTest, ADeviceWithoutStandardRowLeadsBackToTheQuestion) {
   StartOffline();
-  virt.files.Put(ProgramFile("nqvdevice.lst"), "1\r\n\" 99L-123\",2,400,0,0\r\n");
+  PutList("nqvdevice.lst", "1\r\n\" 99L-123\",2,400,0,0\r\n");
   Forget();
   Choose({0, -1});
   InDialog({[] { frmDevice2.cmdDeviceSet.Press(); }});
@@ -228,9 +207,9 @@ TEST_F(ChangeDeviceTest, ADeviceWithoutStandardRowLeadsBackToTheQuestion) {
 
 TEST_F(ChangeDeviceTest, AStandardRowWithoutDeviceNameChangesNothing) {
   StartOffline();
-  virt.files.Put(ProgramFile("tr7nqvstpr.lst"),
-                 "\"QV-R7\",\"QV-STDPRM\"\r\n1,13\r\n"
-                 "\" 28L-100\",400,60,10,5,5,1,20000,2,400,15,0,\"\"\r\n");
+  PutList("tr7nqvstpr.lst",
+          "\"QV-R7\",\"QV-STDPRM\"\r\n1,13\r\n"
+          "\" 28L-100\",400,60,10,5,5,1,20000,2,400,15,0,\"\"\r\n");
   Forget();
   Choose({0});
   InDialog({[] { frmDevice2.cmdDeviceSet.Press(); }});
@@ -260,22 +239,10 @@ TEST_F(ChangeDeviceTest, LoadedPositionsFollow) {
     EXPECT_EQ(Boxes(), mm ? Texts{Text(408) + "\n" + Text(409)} : Texts{});
     EXPECT_EQ(PosiTable.PosiMm[0][2] == mm_before, mm);
     EXPECT_EQ(PosiTable.PosiPulse[0][2] == pulses_before, !mm);
-    ExpectCommandsOn();
     ResetState();
     AppState.LanguageNo = 2;
     AppState.LangOffset = 10000;
   }
-}
-
-TEST_F(ChangeDeviceTest, TheWarningMayBeHeeded) {
-  virt.settings.Set("Settings", "DispMmUnit", "1");
-  StartOnline();
-  ReadRange(1, 3);
-  Forget();
-  forms.answers = {MsgAnswer::Cancel};
-  EXPECT_EQ(Change_Device(), 1);
-  EXPECT_EQ(forms.modals, Texts{});
-  ExpectCommandsOn();
 }
 
 TEST_F(ChangeDeviceTest, PositionsBeyondTheNewStrokeAreTold) {
@@ -322,7 +289,6 @@ TEST_F(IniPrmTest, StandardValuesOfTheChosenDeviceAreShown) {
   EXPECT_EQ(frmParameta2.txtAxisLead[0].Text, "8");
   EXPECT_EQ(frmParameta2.txtOneAxis.Text, "15") << "the mask is that of the axes in use";
   EXPECT_EQ(Device(0), " 28L100") << "what is in use stays until the parameters are";
-  ExpectCommandsOn();
 }
 
 TEST_F(IniPrmTest, EveryRefusalLeavesTheParameters) {
@@ -346,7 +312,6 @@ TEST_F(IniPrmTest, EveryRefusalLeavesTheParameters) {
     frmParameta2.cmdIniPrm.Press();
     EXPECT_EQ(ParamSet, ParamSetRecord{});
     EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{}));
-    ExpectCommandsOn();
   }
   EXPECT_EQ(forms.LastBox(), Text(408) + "\n" + Text(409));
 }

@@ -18,27 +18,14 @@
 namespace tr7 {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 constexpr const char* kNewList = "nqvdevice.lst";
 constexpr const char* kOldList = "qvdevice.lst";
 
 class DeviceDialogTest : public StateTest {
  protected:
   DeviceDialogTest() {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) Use(axis, " 28", "L", 100);
+    for (std::size_t axis = 0; axis < kAxes; ++axis) SetDevice(DevSetting[axis], " 28", "L", 100);
     AppState.AxisCount = kAxes;
-  }
-  static void Use(std::size_t axis, const char* size, const char* speed, std::int16_t stroke) {
-    DevSettingRecord& device = DevSetting[axis];
-    device.Size = size;
-    device.Speed = speed;
-    device.Stroke = stroke;
-    device.NewType = True;
-    device.NotChosen = False;
-  }
-  void Put(const char* name, const std::string& content) {
-    virt.files.Put(ProgramFile(name), content);
   }
   void Remove(const char* name) { virt.files.Remove(ProgramFile(name)); }
   /// Opens the dialogue; the user does this and, unless that closes it, cancels.
@@ -50,12 +37,6 @@ class DeviceDialogTest : public StateTest {
     };
     return AskDevices(view);
   }
-  static void Pick(ComboBox& combo, const std::string& text) {
-    for (std::size_t i = 0; i < combo.List.size(); ++i) {
-      if (combo.List[i] == text) return combo.Pick(static_cast<int>(i));
-    }
-    ADD_FAILURE() << combo.Name << " does not offer " << text;
-  }
   static void PickSize(std::size_t axis, const char* text) {
     Pick(frmDevice2.comboDeviceSize[axis], text);
   }
@@ -63,16 +44,10 @@ class DeviceDialogTest : public StateTest {
     return view.comboDeviceSize[axis].Text() + view.comboDeviceSpeed[axis].Text() + "-" +
            view.comboDeviceStroke[axis].Text();
   }
-  Texts Boxes() {
-    Texts texts;
-    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
-    forms.boxes.clear();
-    return texts;
-  }
 };
 
 TEST_F(DeviceDialogTest, OpensWithTheDevicesInUse) {
-  Use(1, "E35", "L", 150);
+  SetDevice(DevSetting[1], "E35", "L", 150);
   AppState.AxisMuko = {False, False, False, True};
   AppState.AxisCount = 3;
   Ask(frmDevice2, [] {
@@ -102,7 +77,7 @@ TEST_F(DeviceDialogTest, AStrokeThatIsNotListedFallsToTheFirst) {
               {"28", "H", 150, " 20H-25"},    // a size compares as text
               {"", "", 0, " 20L-10"}};
   for (const auto& row : rows) {
-    Use(0, row.size, row.speed, row.stroke);
+    SetDevice(DevSetting[0], row.size, row.speed, row.stroke);
     Ask(frmDevice2, [&] { EXPECT_EQ(Shown(frmDevice2, 0), row.shown) << row.size << row.stroke; });
   }
 }
@@ -122,7 +97,7 @@ TEST_F(DeviceDialogTest, ASizeOffersItsSpeedsAndTheseTheirStrokes) {
     PickSize(0, "E35");
     EXPECT_EQ(Shown(v, 0), "E35L-150") << "the speed falls to the first, the stroke stays";
     EXPECT_EQ(Shown(v, 1), " 28L-100") << "each axis for itself";
-    Use(0, " 28", "L", 100);
+    SetDevice(DevSetting[0], " 28", "L", 100);
     v.comboDeviceSize[0].LostFocus();
     EXPECT_EQ(Shown(v, 0), "E35L-150");
   });
@@ -153,7 +128,7 @@ TEST_F(DeviceDialogTest, TheDeviceDecidesAboutItsPulseGenerator) {
 }
 
 TEST_F(DeviceDialogTest, ADeviceWithPgAlwaysHasItFromTheStart) {
-  Use(2, "E35", "L", 100);
+  SetDevice(DevSetting[2], "E35", "L", 100);
   Ask(frmDevice2, [] {
     EXPECT_FALSE(frmDevice2.chkDevPgUse[2].Visible);
     frmDevice2.cmdDeviceSet.Press();
@@ -257,7 +232,7 @@ TEST_F(DeviceDialogTest, WithoutTheOtherListTheBoxGoesBack) {
 }
 
 TEST_F(DeviceDialogTest, OnlyTheWritingDialogueBeginsWithOldDevices) {
-  Use(1, " 30", "H", 150);
+  SetDevice(DevSetting[1], " 30", "H", 150);
   DevSetting[1].NewType = False;
   Ask(frmDevice2, [] { EXPECT_FALSE(frmDevice2.chkNewOrOld[1].Value); });
   Ask(frmDevice3, [] {
@@ -444,7 +419,7 @@ TEST_F(DeviceDialogTest, ButtonsAreAsTheCallerWants) {
 }
 
 TEST_F(DeviceDialogTest, ADeviceWithoutStandardRowLeavesAxesAndDevices) {
-  Put(kNewList, "1\r\n\" 99L-123\",2,400,0,0\r\n");
+  PutList(kNewList, "1\r\n\" 99L-123\",2,400,0,0\r\n");
   forms.answers = {MsgAnswer::Yes};
   forms.on_modal["frmDevice2"] = [](View&) {
     frmDevice2.comboAxisSelect.Pick(0);

@@ -21,12 +21,7 @@ const std::string kPath = "/data/job.pmt";
 class ParaFileFlow : public StateTest {
  protected:
   ParaFileFlow() {
-    for (DevSettingRecord& device : DevSettei) {
-      device.Size = " 28";
-      device.Speed = "L";
-      device.Stroke = 100;
-      device.NewType = True;
-    }
+    for (DevSettingRecord& device : DevSettei) SetDevice(device, " 28", "L", 100);
     EXPECT_EQ(ReadDeviceListNew(), 0);
     EXPECT_EQ(IniParaFromStd(), 0);
     FillParaLists();
@@ -49,11 +44,6 @@ class ParaFileFlow : public StateTest {
     forms.file_answers = {answer};
     OpenParaFile();
   }
-  std::vector<std::string> Boxes() const {
-    std::vector<std::string> texts;
-    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
-    return texts;
-  }
   std::string Saved() const { return virt.files.Content(kPath).value_or("(none)"); }
   /// Replaces in the saved file.
   void Change(const std::string& part, const std::string& other) {
@@ -61,7 +51,6 @@ class ParaFileFlow : public StateTest {
     virt.files.Put(kPath, bytes.replace(bytes.find(part), part.size(), other));
   }
 
-  using Texts = std::vector<std::string>;
   FrmParameta2& f = frmParameta2;
 };
 

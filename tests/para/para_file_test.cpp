@@ -187,10 +187,8 @@ TEST_F(ParaFile, ADamagedFileSaysWhere) {
     std::string words;
   } rows[] = {{"empty", "", 1, head},
               {"a count that is none", With(kLines, "\n5\r", "\nfive\r"), 2, head},
-              {"a section too many", With(kLines, "\n5\r", "\n6\r"), 41, head},
               {"another tag", With(kLines, "\"PG\"", "\"ETC\""), 18, Text(6334, "ETC", "PG")},
               {"cut short in a row", UpTo(kLines, "409"), 13, section("AXIS")},
-              {"an open quote", With(kLines, "E35H200\"", "E35H200"), 17, section("AXIS")},
               {"rows below 0", With(kLines, "\"PG\",2", "\"PG\",-2"), 18, section("PG")},
               {"a row more than there are", With(kLines, "\"SPECIAL\",10", "\"SPECIAL\",17"), 31,
                section("SPECIAL")},
@@ -228,17 +226,6 @@ TEST_F(ParaFile, AFileOfAnotherKindIsTold) {
   }
 }
 
-TEST_F(ParaFile, AHundredMegabytesEndInWords) {
-  virt.files.Put(kPath, kLines + std::string(100u << 20, '1'));
-  EXPECT_EQ(ReadParaTable(kPath), 1);
-  EXPECT_EQ(ParaFlags.FileFaultText, Text(5913, "job.pmt"));
-  // Within the limit: one long item, and a count that asks for four million tags.
-  EXPECT_EQ(Read(With(kLines, "101", std::string(4'000'000, '1'))), 0);
-  EXPECT_EQ(RefusedParaRow(), 1) << "no number is that large";
-  EXPECT_EQ(Read(With(kLines, "\n5\r", "\n2147483647\r") + std::string(4'000'000, ',')), 1);
-  EXPECT_EQ(ParaFlags.FileFaultText, Text(6321, "42", Text(6451)));
-}
-
 TEST_F(ParaFile, AnImpossibleValueIsNamedByItsRow) {
   const struct {
     const char *item, *other;
@@ -251,36 +238,6 @@ TEST_F(ParaFile, AnImpossibleValueIsNamedByItsRow) {
     ASSERT_EQ(Read(With(kLines, row.item, row.other)), 0);
     EXPECT_EQ(RefusedParaRow(), row.row) << row.other;
   }
-}
-
-TEST_F(ParaFile, AFaultOrAPowerCutAtAnyCallOfASaveLeavesOneFileWhole) {
-  constexpr int kCalls = 5;  // create, write, flush, close, rename
-  for (const bool cut : {false, true}) {
-    for (int call = 1; call <= kCalls + 1; ++call) {
-      virt.files.Put(kPath, "old");
-      if (cut) virt.files.PowerCutAt(call);
-      if (!cut) virt.files.FailAt(call, FileFault::DiskFull);
-      FillParamSet();
-      const int result = WriteParaFile(kPath);
-      virt.files.PowerOn();
-      EXPECT_EQ(result, call > kCalls ? 0 : 1) << call;
-      EXPECT_EQ(bool(ParaFlags.ParaFileWriteFailed), result != 0);
-      EXPECT_EQ(Saved(), result == 0 ? kLines : "old") << call;
-      if (!cut) {
-        EXPECT_EQ(ParaFlags.FileFaultText, result == 0 ? "" : Text(5912, "job.pmt"));
-      }
-    }
-  }
-}
-
-TEST_F(ParaFile, ACharacterThatTheFileCannotHoldIsNamed) {
-  FillParamSet();
-  virt.files.Put(kPath, "old");
-  ParamSet.Actuator[1] = "é";
-  EXPECT_EQ(WriteParaFile(kPath), 1);
-  EXPECT_TRUE(ParaFlags.ParaFileWriteFailed);
-  EXPECT_EQ(ParaFlags.FileFaultText, Text(5915, "17", "é"));
-  EXPECT_EQ(Saved(), "old");
 }
 
 // The file from which devices are taken.
@@ -297,18 +254,6 @@ class ParaForDevice : public ParaFile {
     return (pump.NowUs() - start_us) / 100'000;
   }
 };
-
-TEST_F(ParaForDevice, TheDialogue) {
-  forms.file_answers = {std::nullopt, std::string()};
-  EXPECT_EQ(OpenParaForDevice(), 1);
-  EXPECT_EQ(OpenParaForDevice(), 1);
-  EXPECT_TRUE(forms.boxes.empty()) << "Cancel is silent";
-  const FileDialogCall& call = forms.file_dialogs.at(0);
-  EXPECT_FALSE(call.Save);
-  EXPECT_EQ(call.Title, "Open Parameter file");
-  EXPECT_EQ(call.Filter, "Parameter(*.pmt)|*.pmt|All files(*.*)|*.*");
-  EXPECT_EQ(call.DefaultExtension, "pmt");
-}
 
 TEST_F(ParaForDevice, AGoodFileIsTaken) {
   FillParamSet();

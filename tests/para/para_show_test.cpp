@@ -19,12 +19,7 @@ namespace {
 class ParaShow : public StateTest {
  protected:
   ParaShow() {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
-      DevSettei[axis].Size = " 28";
-      DevSettei[axis].Speed = "L";
-      DevSettei[axis].Stroke = 100;
-      DevSettei[axis].NewType = True;
-    }
+    for (DevSettingRecord& device : DevSettei) SetDevice(device, " 28", "L", 100);
     EXPECT_EQ(ReadDeviceListNew(), 0);
     EXPECT_EQ(IniParaFromStd(), 0);
     FillParaLists();
@@ -58,27 +53,6 @@ TEST_F(ParaShow, ASetComesBackAsItWasShown) {
   EXPECT_EQ(ParamSet, once);
   EXPECT_FALSE(ParaIsChanged());
   EXPECT_EQ(ParametaumuKakunin(), 0);
-}
-
-TEST_F(ParaShow, ValuesStandInTheirFields) {
-  ParamSet.EmgLogic = 0;
-  ParamSet.Alm1Clear = 1;
-  ParamSet.PosPrg = 0;
-  ParametaHyoji();
-  EXPECT_EQ(f.txtHomeOffset[0].Text, "400");
-  EXPECT_EQ(f.txtAxisStroke[3].Text, "20000");
-  EXPECT_EQ(f.txtAxisMmStroke[3].Text, "100.000");
-  EXPECT_EQ(f.txtMmZone1[0].Text, "  0.500");
-  EXPECT_EQ(f.txtActuator[1].Text, " 28L100");
-  EXPECT_EQ(f.comboActSize[1].Text(), " 28");
-  EXPECT_EQ(f.comboActSpeed[1].Text(), "L");
-  EXPECT_EQ(f.comboActStroke[1].Text(), "100");
-  EXPECT_EQ(f.comboEtcMaOrXa[0].Text(), "0. QV(Standard)");
-  EXPECT_EQ(f.txtOneAxis.Text, "15");
-  EXPECT_EQ(f.comboOneAxis.Text(), "4 axes (AXIS1 to AXIS4)");
-  EXPECT_TRUE(f.optEmgLogic[0].Value);        // 0 is logic A, which stands first
-  EXPECT_TRUE(f.optAlarmAutoClear[0].Value);  // 1 is "Enable"
-  EXPECT_TRUE(f.optPosPrg[1].Value);          // 0 is position mode, which stands second
 }
 
 TEST_F(ParaShow, LengthsInMmWin) {

@@ -9,7 +9,7 @@
 #include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_transfer_commands.h"
-#include "state/online.h"
+#include "state/message_box.h"
 #include "state/text.h"
 #include "steps/outcome.h"
 #include "tests/support/link_test.h"
@@ -179,31 +179,24 @@ TEST_F(BlocksTest, TheCancelButtonStopsARead) {
   EXPECT_FALSE(frmMain.ProgressBar1.Visible);
 }
 
-TEST_F(BlocksTest, AFailedReadLeavesTheTableWhole) {
+TEST_F(BlocksTest, DataThatMakesNoSenseLeavesTheTableWhole) {
   ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
   const ParaTableRecord before = ParaTable;
-  const auto fails_with = [&](int box) {
+  const auto fails = [&] {
     forms.boxes.clear();
     EXPECT_EQ(ReadParaFromCt(), Outcome::Failed);
     EXPECT_EQ(ParaTable, before);
-    ASSERT_EQ(forms.boxes.size(), 1u);
-    EXPECT_TRUE(BoxShown(Text(box)));
-    EXPECT_FALSE(frmMain.ProgressBar1.Visible);
-    EXPECT_FALSE(port.IsOpen() && !AppState.PortOccupy);
+    EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
   };
-  Spoil(FaultKind::kErrorReply, "0RD7");
-  fails_with(104);
-  EXPECT_TRUE(AppState.Offline);
-  SetOnline();
   Spoil(FaultKind::kChangedByte, "0RD7", 3);  // the name of another block
-  fails_with(384);
+  fails();
   // A lead that is no number, and a home speed beyond its row.
   const std::string device = port.Ct().WrittenBlock(7), home = port.Ct().WrittenBlock(2);
   PlantBlock(7, std::string(device).replace(2, 2, "0G"));
-  fails_with(384);
+  fails();
   PlantBlock(7, device);
   PlantBlock(2, std::string(home).replace(8, 4, "8000"));
-  fails_with(384);
+  fails();
   EXPECT_FALSE(AppState.Offline);
 }
 
@@ -271,34 +264,12 @@ TEST_F(BlocksTest, AValueThatDoesNotFitIsNamedAndNothingGoesOut) {
   EXPECT_FALSE(AppState.Offline);
 }
 
-TEST_F(BlocksTest, AFailedWriteStoresNothing) {
-  const struct {
-    FaultKind kind;
-    const char* prefix;
-    int at_byte;
-    int box;
-    const char* last;
-  } rows[] = {{FaultKind::kErrorReply, "0RD3", -1, 104, "0RD3"},
-              {FaultKind::kErrorReply, "0WD5", -1, 104, "0WD5"},
-              {FaultKind::kChangedByte, "0WD5", 3, 384, "0WD5"},  // another block's name
-              {FaultKind::kErrorReply, "0WE2", -1, 104, "0WE2"}};
+TEST_F(BlocksTest, AnotherBlocksEchoEndsTheWrite) {
   Take();
-  const std::string before = port.Ct().CommittedBlock(2);
-  ParamSet.HomeVel[0] = 33;
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.prefix);
-    SetOnline();
-    forms.boxes.clear();
-    Sent();
-    Spoil(row.kind, row.prefix, row.at_byte);
-    EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
-    ASSERT_EQ(forms.boxes.size(), 1u);
-    EXPECT_TRUE(BoxShown(Text(row.box)));
-    EXPECT_TRUE(Commands().ends_with(row.last));
-    EXPECT_EQ(port.Ct().CommittedBlock(2), before);
-    EXPECT_FALSE(frmMain.ProgressBar1.Visible);
-  }
-  EXPECT_EQ(Text(384) + "\n" + Text(385), "Communication error occurs!\ntransmit data is wrong");
+  Spoil(FaultKind::kChangedByte, "0WD5", 3);
+  EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
+  EXPECT_EQ(Boxes(), Texts{"Communication error occurs!\ntransmit data is wrong"});
+  EXPECT_TRUE(Commands().ends_with("0WD5"));
 }
 
 TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
@@ -328,7 +299,7 @@ TEST_F(BlocksTest, HomingOrderAndStrokes) {
   const auto before = values;
   PlantBlock(1, "00000000010 0304" + std::string(16, '0'));
   EXPECT_EQ(ReadCtBlock1(values), 1);
-  EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+  EXPECT_EQ(forms.LastBox(), TwoLines(384, 385));
   Spoil(FaultKind::kErrorReply, "0RDD");
   EXPECT_EQ(ReadAxisMaxPulseFromCt(values), 1);
   EXPECT_EQ(values, before);
@@ -338,7 +309,7 @@ TEST_F(BlocksTest, AWrongEchoOfBlock0IsTold) {
   Spoil(FaultKind::kChangedByte, "0WD0", 3);
   AppState.AxisPattern = 15;
   EXPECT_EQ(WriteAxisPatternToCt(7), 1);
-  EXPECT_EQ(forms.LastBox(), Text(384) + "\n" + Text(385));
+  EXPECT_EQ(forms.LastBox(), TwoLines(384, 385));
   EXPECT_EQ(AppState.AxisPattern, 15);
 }
 

@@ -25,12 +25,7 @@ constexpr std::int64_t kMs = 1000;
 class ParaView : public StateTest {
  protected:
   ParaView() {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
-      DevSettei[axis].Size = " 28";
-      DevSettei[axis].Speed = "L";
-      DevSettei[axis].Stroke = 100;
-      DevSettei[axis].NewType = True;
-    }
+    for (DevSettingRecord& device : DevSettei) SetDevice(device, " 28", "L", 100);
     EXPECT_EQ(IniParaFromStd(), 0);
     frmMain.mnuViewPara.Click();
   }
@@ -58,15 +53,9 @@ TEST_F(ParaView, EveryFieldHasItsLimits) {
     int length;
     double low, high;  ///< low above high: no range
   } rows[] = {
-      {"txtHomeOffset", true, 5, 1, 65535},    {"txtHomePush", true, 3, 1, 255},
-      {"txtHomeVel", true, 3, 1, 60},          {"txtHomeOfsVel", true, 3, 1, 60},
-      {"txtHomePushVel", true, 3, 1, 60},      {"txtAxisStroke", true, 6, 0, 262143},
-      {"txtAxisLead", true, 3, 0, 255},        {"txtAxisPulse", true, 5, 0, 65535},
-      {"txtJogHighVel", true, 2, 1, 30},       {"txtPgAlarm", true, 5, 5, 65535},
-      {"txtHomeOut", false, 2, 1, 0},          {"txtSmTimeoutTimer", false, 3, 1, 255},
-      {"txtInpLimit", true, 3, 0, 255},        {"txtPushHoldTime", true, 3, 0, 255},
-      {"txtPgCheckTimer", true, 3, 0, 255},    {"txtLsSerchTimer", true, 3, 0, 255},
-      {"txtAutoStartPrgNo", false, 3, 0, 255}, {"txtOneAxis", false, 2, 1, 0},
+      {"txtHomeOffset", true, 5, 1, 65535},    {"txtHomeVel", true, 3, 1, 60},
+      {"txtAxisStroke", true, 6, 0, 262143},   {"txtPgAlarm", true, 5, 5, 65535},
+      {"txtAutoStartPrgNo", false, 3, 0, 255}, {"txtHomeOut", false, 2, 1, 0},
   };
   Unlock();
   forms.on_message_box = [](const MessageBoxCall&) { return MsgAnswer::Cancel; };
@@ -423,14 +412,6 @@ TEST_F(ParaView, AMissingCatalogueIsToldOnceAndTheDeviceStays) {
             " 28L100");
 }
 
-TEST_F(ParaView, TheViewMenuOpensItOnce) {
-  EXPECT_EQ(ActiveView(), &f);
-  f.txtHomePush[0].Type("77");
-  frmMain.mnuViewPara.Press();
-  EXPECT_EQ(f.txtHomePush[0].Text, "77");
-  EXPECT_EQ(std::count(OpenViews().begin(), OpenViews().end(), &f), 1);
-}
-
 TEST_F(ParaView, TheDeviceDialogueOpensItASecondLater) {
   CloseView(f, CloseReason::Code);
   forms.on_modal["frmParameta2"] = [](View& view) { CloseView(view, CloseReason::ControlMenu); };
@@ -447,22 +428,6 @@ TEST_F(ParaView, TheDeviceDialogueOpensItASecondLater) {
   EXPECT_FALSE(ParaFlags.OpenParaAfterDevice);
   pump.RunFor(5000 * kMs);
   EXPECT_EQ(forms.modals.size(), 1u);
-}
-
-TEST_F(ParaView, InitialValuesComeForTheAxesOfTheDeviceDialogue) {
-  DevSetting = DevSettei;  // which the dialogue begins with
-  YukoJikuHyojiSettei2(2);
-  f.txtHomePush[0].Type("77");
-  forms.on_modal["frmDevice2"] = [](View&) { frmDevice2.cmdDeviceSet.Press(); };
-  forms.on_message_box = [](const MessageBoxCall& call) {
-    return call.Buttons == MsgButtons::OkCancel ? MsgAnswer::Ok : MsgAnswer::Yes;
-  };
-  f.cmdIniPrm.Press();
-  EXPECT_EQ(forms.modals, std::vector<std::string>{"frmDevice2"});
-  EXPECT_EQ(f.txtHomePush[0].Text, "60");
-  EXPECT_EQ(LiveAxisMask(), 15);
-  EXPECT_EQ(f.txtHomePush[3].Text, "60");
-  EXPECT_TRUE(f.txtHomePush[3].Enabled);
 }
 
 }  // namespace

@@ -41,32 +41,16 @@ std::string CommonFile() {
 class StdListsTest : public StateTest {
  protected:
   StdListsTest() {
-    Put(kNewFile, std::string(kHeader) + "3,13\r\n" + kRow28 + kRow35 + kRow42);
-    Put(kOldFile, std::string(kHeader) + "1,13\r\n" +
-                      "\" 28L-100\",901,91,92,93,94,4,20000,2,900,95,0,\" 28L100\"\r\n");
-    Put(kCommonFile, CommonFile());
-    SetDevice(0, " 28", "L", 100);
-    SetDevice(1, " 35", "H", 200);
-    SetDevice(2, " 42", "H", 300);
-    SetDevice(3, " 28", "L", 100);
+    PutList(kNewFile, std::string(kHeader) + "3,13\r\n" + kRow28 + kRow35 + kRow42);
+    PutList(kOldFile, std::string(kHeader) + "1,13\r\n" +
+                          "\" 28L-100\",901,91,92,93,94,4,20000,2,900,95,0,\" 28L100\"\r\n");
+    PutList(kCommonFile, CommonFile());
+    SetDevice(DevSettei[0], " 28", "L", 100);
+    SetDevice(DevSettei[1], " 35", "H", 200);
+    SetDevice(DevSettei[2], " 42", "H", 300);
+    SetDevice(DevSettei[3], " 28", "L", 100);
   }
-  void Put(const char* name, const std::string& content) {
-    virt.files.Put(ProgramFile(name), content);
-  }
-  static void SetDevice(std::size_t axis, const char* size, const char* speed,
-                        std::int16_t stroke) {
-    DevSettei[axis].Size = size;
-    DevSettei[axis].Speed = speed;
-    DevSettei[axis].Stroke = stroke;
-    DevSettei[axis].NewType = True;
-  }
-  std::vector<std::string> Boxes() {
-    std::vector<std::string> texts;
-    for (const MessageBoxCall& box : forms.boxes) texts.push_back(box.Text);
-    forms.boxes.clear();
-    return texts;
-  }
-  using Texts = std::vector<std::string>;
+  Texts NoListThenFailed() { return {Text(28) + "\n" + Text(29), Text(36)}; }
 };
 
 /// The values of one axis over rows of the parameter set.
@@ -113,7 +97,7 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
               {" 28", "L", 100, true, 3}};  // then axis 3 is scanned last
   for (const auto& row : rows) {
     ParamSet.HomeSeq.fill(9);
-    SetDevice(3, row.size, row.speed, row.stroke);
+    SetDevice(DevSettei[3], row.size, row.speed, row.stroke);
     AppState.AxisMuko[3] = row.last_absent;
     EXPECT_EQ(IniParaFromStd(), row.seq == 0 ? 1 : 0);
     for (const std::int16_t seq : ParamSet.HomeSeq) EXPECT_EQ(seq, row.seq) << row.size;
@@ -125,7 +109,7 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
   DevSettei[0].NewType = False;
   EXPECT_EQ(IniParaFromStd(), 0);
   EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{4, 1, 1, 1}));
-  SetDevice(3, " 35", "H", 200);
+  SetDevice(DevSettei[3], " 35", "H", 200);
   EXPECT_EQ(IniParaFromStd(), 0);
   EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{0, 2, 2, 2}));
   Boxes();
@@ -188,7 +172,7 @@ TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
 }
 
 TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
-  SetDevice(1, "28", "L", 100);  // sizes compare as text
+  SetDevice(DevSettei[1], "28", "L", 100);  // sizes compare as text
   ParamSet.HomeOffset[1] = 77;
   EXPECT_EQ(IniParaFromStd(), 1);
   const std::string reason = "\n\n" + Text(6340, "AXIS2", "28L-100");
@@ -203,7 +187,7 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   AppState.AxisMuko[1] = True;  // an absent axis needs no device
   EXPECT_EQ(IniParaFromStd(), 0);
   AppState.AxisMuko[1] = False;
-  SetDevice(1, " 28", "L", 100);
+  SetDevice(DevSettei[1], " 28", "L", 100);
   DevSettei[1].Series = "NB";  // its list is not read
   EXPECT_EQ(ReadStdLists(), 0);
   EXPECT_TRUE(StdTable[1].empty());
@@ -220,19 +204,18 @@ TEST_F(StdListsTest, DamagedStandardListsSayWhatIsWrong) {
   const struct {
     std::string content, box;
   } files[] = {
-      {header + "1,13\r\n" + row, ""},
+      {kHeader + std::string("1,13\r\n") + row, ""},
       {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
       {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong + "\n\n" + Text(6332, "1", kNewFile)},
       {CommonFile(), wrong + "\n\n" + Text(6322, kNewFile, Text(6329))},
       {"1\r\n\" 28L-100\",2,400,0,0", wrong + "\n\n" + Text(6322, kNewFile, Text(6330))},
       {"", line("1")},
-      {header + "2,13\r\n" + row, line("3")},
-      {header + "1000,13\r\n" + row, line("2")},
-      {header + "1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n", line("3")},
+      {kHeader + std::string("2,13\r\n") + row, line("3")},
+      {kHeader + std::string("1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n"), line("3")},
       {std::string(100 << 20, ' '), none + "\n\n" + Text(5913, kNewFile)}};
   for (const auto& file : files) {
     SCOPED_TRACE(file.content.substr(0, 80));
-    Put(kNewFile, file.content);
+    PutList(kNewFile, file.content);
     EXPECT_EQ(ReadStdLists(), file.box.empty() ? 0 : 1);
     EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
   }
@@ -244,7 +227,7 @@ TEST_F(StdListsTest, DamagedStandardListsSayWhatIsWrong) {
   EXPECT_EQ(ParamSet, ParamSetRecord{});
 
   DevSettei[0].NewType = DevSettei[1].NewType = False;  // the old list is good
-  Put(kNewFile, "\"QV-R7\",\"PRM\"");
+  PutList(kNewFile, "\"QV-R7\",\"PRM\"");
   EXPECT_EQ(ReadStdLists(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(26) + "(3AXIS)\n\n" + Text(6322, kNewFile, Text(6324))});
 }
@@ -285,7 +268,7 @@ TEST_F(StdListsTest, DamagedCommonListsSayWhatIsWrong) {
   for (const auto& file : files) {
     SCOPED_TRACE(file.content);
     const bool bad = !file.box.empty() || !file.reason.empty();
-    Put(kCommonFile, file.content);
+    PutList(kCommonFile, file.content);
     ParaFlags.ParaFileBad = False;
     EXPECT_EQ(ReadStdLists(), bad ? 1 : 0);
     EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});

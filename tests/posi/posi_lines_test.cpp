@@ -162,7 +162,7 @@ TEST_F(PosiClipboard, TakesWhatASpreadsheetGivesAndRefusesWhatIsNone) {
     std::string text;
     std::string vels;
     int beeps;
-    int box;  ///< message id; 0: none
+    MsgId box;
   };
   std::string line;
   for (int col = 1; col < kComment; ++col) {
@@ -170,15 +170,15 @@ TEST_F(PosiClipboard, TakesWhatASpreadsheetGivesAndRefusesWhatIsNone) {
     line += field == kVel ? "9\t" : field == kAcc ? "100\t" : "0\t";
   }
   const Case cases[] = {
-      {"a column, CR", "7\r8", "7 8 3", 0, 0},
-      {"a column, CR LF and an end", "7\r\n8\r\n", "7 8 3", 0, 0},
-      {"a column, LF", "7\n8\n", "7 8 3", 0, 0},
-      {"one value goes to the selected cell alone", "7", "7 2 3", 0, 0},
-      {"a bad value keeps its line", "7\r999\r8", "7 2 8", 1, 0},
-      {"a foreign word", "fast", "1 2 3", 1, 0},
-      {"more lines than there are", "7\r8\r9\r10", "7 8 9", 0, 0},
-      {"a line", line, "9 2 3", 0, 0},
-      {"lines with an end", line + "\r\n" + line + "\r\n", "9 9 3", 0, 0},
+      {"a column, CR", "7\r8", "7 8 3", 0, {}},
+      {"a column, CR LF and an end", "7\r\n8\r\n", "7 8 3", 0, {}},
+      {"a column, LF", "7\n8\n", "7 8 3", 0, {}},
+      {"one value goes to the selected cell alone", "7", "7 2 3", 0, {}},
+      {"a bad value keeps its line", "7\r999\r8", "7 2 8", 1, {}},
+      {"a foreign word", "fast", "1 2 3", 1, {}},
+      {"more lines than there are", "7\r8\r9\r10", "7 8 9", 0, {}},
+      {"a line", line, "9 2 3", 0, {}},
+      {"lines with an end", line + "\r\n" + line + "\r\n", "9 9 3", 0, {}},
       {"nothing", "", "1 2 3", 0, 336},
       {"two columns", "7\t8", "1 2 3", 0, 336},
       {"ragged", line + "\r7", "1 2 3", 0, 336},

@@ -185,7 +185,7 @@ TEST_F(WriteTest, AFailedStepTellsAndEnds) {
     FaultKind kind;
     const char* prefix;
     int at_request, at_byte;
-    std::vector<int> boxes;  ///< messages that the boxes begin with, behind the question
+    std::vector<MsgId> boxes;  ///< messages that the boxes begin with, behind the question
     const char* last_sent;
     bool online;
   } rows[] = {

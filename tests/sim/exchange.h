@@ -1,8 +1,11 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <sstream>
 #include <string>
 
 #include "sim/controller.h"
@@ -43,5 +46,19 @@ class Exchange {
   Controller controller;
   std::int64_t now_us = 0;
 };
+
+/// Words of a talk: "REQUEST>REPLY" asks and compares, "+500" waits 500 ms.
+inline void Talk(Exchange& pc, const std::string& words) {
+  std::istringstream stream(words);
+  for (std::string word; stream >> word;) {
+    if (word[0] == '+') {
+      pc.Wait(std::stoll(word.substr(1)) * 1000);
+      continue;
+    }
+    const std::size_t at = word.find('>');
+    const std::string request = word.substr(0, at);
+    EXPECT_EQ(pc.Ask(request), word.substr(at + 1)) << '"' << request << "\" in: " << words;
+  }
+}
 
 }  // namespace qvr7sim

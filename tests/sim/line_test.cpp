@@ -92,16 +92,6 @@ TEST(Pacing, AReplyStartsWhenTheRequestIsInAndTakesItsBytes) {
   }
 }
 
-TEST(Pacing, UnpacedRepliesStandAtOnce) {
-  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
-  setup.paced = false;
-  Controller controller(setup);
-  controller.Receive("0RV\r\n", 7);
-  EXPECT_EQ(controller.NextEventUs(), 7);
-  EXPECT_EQ(controller.Take(7), "0RV140R4M\r\n");
-  EXPECT_EQ(controller.NextEventUs(), std::nullopt);
-}
-
 TEST(Pacing, NextLineSkipsTheBytesOfALine) {
   Controller controller(qvr7sim::Setup::Useful());
   controller.Receive("0RV\r\n", 0);

@@ -135,19 +135,6 @@ TEST_F(TextFile, APowerCutAtAnyCallOfASaveLeavesOneFileWhole) {
   }
 }
 
-TEST_F(TextFile, RenamingWithoutAFlushLosesTheFile) {
-  // What the flush is for: the files in memory are as treacherous as a disk.
-  MemoryFiles disk;
-  disk.Put(kPath, "old");
-  FileFault fault = FileFault::None;
-  disk.Create("/fresh", fault)->Write("new");
-  disk.Rename("/fresh", kPath);
-  disk.PowerCutAt(1);
-  disk.Remove("/none");
-  disk.PowerOn();
-  EXPECT_EQ(disk.Content(kPath), "");
-}
-
 TEST_F(TextFile, NamesAndFolders) {
   const struct {
     const char* path;

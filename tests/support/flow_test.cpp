@@ -39,6 +39,43 @@ FlowTest::FlowTest(const qvr7sim::Setup& setup) : StateTest(setup) {
   forms.on_modal["frmDevice3"] = AcceptDevices;
 }
 
+void FlowTest::TearDown() {
+  if (frmMain.Loaded && !forms.ended) {
+    ExpectCommandsOn();
+    AppState.Offline ? ExpectOffline() : ExpectLampOnline();
+    EXPECT_TRUE(AppState.PortOccupy || !port.IsOpen()) << "the port stays open";
+    EXPECT_EQ(frmMain.imgAlarm.Visible, bool(AppState.AlarmOn));
+    EXPECT_FALSE(AppState.OfflineTemporarilyLifted);
+    EXPECT_FALSE(frmMain.timerTimeout.Enabled);
+    EXPECT_EQ(frmMain.lblCtMode.Caption, Text(AppState.CtMode ? MsgId(129) : MsgId(128)));
+  }
+  StateTest::TearDown();
+}
+
+void FlowTest::GoOffline() {
+  forms.answers = {MsgAnswer::Ok};
+  frmMain.mnuSettingOffline.Press();
+  ExpectOffline();
+}
+
+void FlowTest::Forget() {
+  port.sent.clear();
+  forms.boxes.clear();
+  forms.modals.clear();
+  asked.clear();
+}
+
+void FlowTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request,
+                     int at_byte) {
+  qvr7sim::Fault fault;
+  fault.kind = kind;
+  fault.prefix = prefix;
+  fault.at_request = at_request;
+  fault.probability = at_request == 0 ? 1 : 0;
+  fault.at_byte = at_byte;
+  port.Ct().AddFault(fault);
+}
+
 void FlowTest::Choose(std::vector<int> choices) { choices_ = std::move(choices); }
 
 void FlowTest::StartOnline() {
@@ -74,6 +111,7 @@ void FlowTest::ExpectCommandsOn() const {
   EXPECT_FALSE(frmMain.ProgressBar1.Visible);
   EXPECT_FALSE(frmMain.cmdComCancel.Visible);
   EXPECT_FALSE(AppState.ComBusy);
+  EXPECT_EQ(AppState.CommandsOffDepth, 0);
   EXPECT_EQ(forms.wait_cursors, 0);
 }
 
@@ -85,11 +123,15 @@ void FlowTest::ExpectOffline() const {
   EXPECT_FALSE(frmPosi.tabCmd.Tabs[1].Enabled);
 }
 
-void FlowTest::ExpectOnline() const {
+void FlowTest::ExpectLampOnline() const {
   EXPECT_FALSE(AppState.Offline);
   EXPECT_TRUE(frmMain.imgOnline.Visible);
   EXPECT_FALSE(frmMain.mnuSettingOnline.Enabled);
   EXPECT_TRUE(frmMain.mnuSettingOffline.Enabled);
+}
+
+void FlowTest::ExpectOnline() const {
+  ExpectLampOnline();
   EXPECT_TRUE(frmPosi.tabCmd.Tabs[1].Enabled);
 }
 

@@ -18,10 +18,20 @@ class FlowTest : public StateTest {
  protected:
   explicit FlowTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful());
 
+  /// At the end of every test: nothing is left switched off, lamps and menus tell the truth.
+  void TearDown() override;
+
   /// Starts the tool in English and chooses online.
   void StartOnline();
   /// Starts the tool offline in the given mode, with the devices that the device dialogue shows.
   void StartOffline(bool program_mode = false);
+  /// Goes offline by the menu.
+  void GoOffline();
+  /// What was sent, shown and asked so far is forgotten.
+  void Forget();
+  /// A fault at the `at_request`-th request that begins with `prefix`; 0: at every one.
+  void Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request = 1,
+             int at_byte = -1);
   /// The next choice boxes are answered in this order: 0, 1, or -1 for cancel.
   void Choose(std::vector<int> choices);
   /// The next range dialogue `name` is answered with this range.
@@ -32,6 +42,8 @@ class FlowTest : public StateTest {
   void ExpectCommandsOn() const;
   void ExpectOffline() const;
   void ExpectOnline() const;
+  /// Online, though tabs may be off until the tool has connected anew.
+  void ExpectLampOnline() const;
 
   std::vector<int> choices_;       ///< answers that are left
   std::vector<std::string> asked;  ///< prompts of the choice boxes that came

@@ -1,7 +1,6 @@
 #include "tests/support/source_tree.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -29,53 +28,10 @@ SourceFile ReadSource(const fs::path& path) {
   file.path = fs::relative(path, TR7_SOURCE_DIR).generic_string();
   const std::string text = FileText(path);
   TakeIncludes(text, file);
-  file.code = WithoutCommentsAndTexts(text);
   return file;
 }
 
-/// Where the comment or quoted text that begins at `at` ends; `at` when none does.
-std::size_t SkipFrom(std::string_view source, std::size_t at) {
-  const auto behind = [&](std::string_view mark, std::size_t from) {
-    const std::size_t found = source.find(mark, from);
-    return found == std::string_view::npos ? source.size() : found + mark.size();
-  };
-  const std::string_view rest = source.substr(at);
-  if (rest.starts_with("//")) return std::min(source.find('\n', at), source.size());
-  if (rest.starts_with("/*")) return behind("*/", at + 2);
-  if (rest.starts_with("R\"")) {
-    const std::size_t open = source.find('(', at);
-    const std::string close = ")" + std::string(source.substr(at + 2, open - at - 2)) + "\"";
-    return behind(close, open);
-  }
-  // A quote between digits parts thousands.
-  if (rest[0] == '\'' && at > 0 && std::isalnum(static_cast<unsigned char>(source[at - 1]))) {
-    return at;
-  }
-  if (rest[0] != '"' && rest[0] != '\'') return at;
-  std::size_t end = at + 1;
-  while (end < source.size() && source[end] != rest[0]) end += source[end] == '\\' ? 2 : 1;
-  return std::min(end + 1, source.size());
-}
-
 }  // namespace
-
-std::string WithoutCommentsAndTexts(std::string_view source) {
-  std::string code;
-  for (std::size_t at = 0; at < source.size();) {
-    const std::size_t end = SkipFrom(source, at);
-    if (end == at) {
-      code += source[at++];
-      continue;
-    }
-    if (source[at] != '/') code += "\"\"";
-    code.append(static_cast<std::size_t>(
-                    std::count(source.begin() + static_cast<std::ptrdiff_t>(at),
-                               source.begin() + static_cast<std::ptrdiff_t>(end), '\n')),
-                '\n');
-    at = end;
-  }
-  return code;
-}
 
 std::vector<SourceFile> ReadSources(const std::vector<std::string>& folders) {
   std::vector<SourceFile> files;

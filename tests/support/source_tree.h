@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tr7 {
@@ -10,7 +9,6 @@ namespace tr7 {
 /// One C++ file of the tree.
 struct SourceFile {
   std::string path;                    ///< from the tree's root, "src/core/text.h"
-  std::string code;                    ///< without comments; the texts in quotes are emptied
   std::vector<std::string> quoted;     ///< what stands in #include "..."
   std::vector<std::string> bracketed;  ///< what stands in #include <...>
 };
@@ -24,8 +22,5 @@ std::string IncludedPath(const std::vector<SourceFile>& files, const std::string
 
 /// Number of lines of a file of the tree that are not empty.
 std::size_t TreeLines(const std::string& path);
-
-/// C++ text without comments, with what stands between quotes left out. Lines keep their number.
-std::string WithoutCommentsAndTexts(std::string_view source);
 
 }  // namespace tr7

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "core/reset_state.h"
+#include "device/dev_setting.h"
+#include "forms/control.h"
 #include "platform/doors.h"
 #include "platform/sim_port.h"
 #include "state/app_state.h"
@@ -32,6 +35,14 @@ struct VirtualDoors {
   MemoryFiles files;  ///< holds the list files that the program brings along
 };
 
+using Texts = std::vector<std::string>;
+
+/// The device of one axis as a user would choose it, of the new catalogue.
+void SetDevice(DevSettingRecord& device, const char* size, const char* speed, int stroke);
+
+/// The user chooses this entry; fails when the list does not offer it.
+void Pick(ComboBox& list, const std::string& text);
+
 /// Every test that touches shared state: start values, virtual doors, English.
 class StateTest : public ::testing::Test {
  protected:
@@ -42,6 +53,12 @@ class StateTest : public ::testing::Test {
 
   /// True when a box holds this text.
   bool BoxShown(const std::string& part) const;
+  /// Texts of the boxes since the last call.
+  Texts Boxes();
+  /// The first `characters` of every line sent, one blank behind each.
+  std::string SentLines(std::size_t characters = std::string::npos) const;
+  /// Puts a file into the program's folder in the place of its own.
+  void PutList(const char* name, const std::string& content);
 
   VirtualDoors virt;
   VirtualPump& pump = virt.pump;

@@ -34,7 +34,7 @@ void ConnectAtStart(Tour& tour, bool program_mode) {
   tour.user.Click(frmSelection.cmdOk);
   tour.user.SeePanel(kPanelError, Text(416));
   tour.user.SeeText(frmMain.lblOnline, Text(5116));
-  tour.user.SeeText(frmMain.lblCtMode, Text(program_mode ? 129 : 128));
+  tour.user.SeeText(frmMain.lblCtMode, Text(program_mode ? MsgId(129) : MsgId(128)));
   tour.user.SeeReady();
 }
 

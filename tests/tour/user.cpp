@@ -25,7 +25,7 @@ namespace {
 
 constexpr int kLookAgainMs = 20;
 
-int CaptionOf(MsgAnswer answer) {
+MsgId CaptionOf(MsgAnswer answer) {
   switch (answer) {
     case MsgAnswer::Yes:
       return 5150;

@@ -19,10 +19,10 @@ namespace tr7 {
 namespace {
 
 QAbstractButton* ButtonOf(const QMessageBox& box, MsgAnswer answer) {
-  const std::map<MsgAnswer, int> texts{{MsgAnswer::Yes, 5150},
-                                       {MsgAnswer::No, 5151},
-                                       {MsgAnswer::Ok, 5152},
-                                       {MsgAnswer::Cancel, 5153}};
+  const std::map<MsgAnswer, MsgId> texts{{MsgAnswer::Yes, MsgId(5150)},
+                                         {MsgAnswer::No, MsgId(5151)},
+                                         {MsgAnswer::Ok, MsgId(5152)},
+                                         {MsgAnswer::Cancel, MsgId(5153)}};
   for (QAbstractButton* button : box.buttons()) {
     if (button->text().toStdString() == Text(texts.at(answer))) return button;
   }

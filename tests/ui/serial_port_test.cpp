@@ -188,7 +188,7 @@ class OpeningTest : public SerialPortTest {
     EXPECT_TRUE(AppState.Offline);
     return user.boxes.empty() ? "" : user.boxes.back();
   }
-  std::string Words(int reason, const std::string& device) const {
+  std::string Words(MsgId reason, const std::string& device) const {
     return Text(109) + "\n\n" + Text(110) + "\n\n" + Text(reason, device);
   }
 };

@@ -1,0 +1,281 @@
+// Every fault at every line of every flow that talks to the controller: whatever befalls it, the
+// flow ends at rest, the PC and the controller are as before or as after, the user is told, and
+// after a refusal nothing more is sent. A new flow costs a row.
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+#include "data/grp_commands.h"
+#include "data/grp_table.h"
+#include "data/sm_commands.h"
+#include "data/sm_table.h"
+#include "forms/frm_device.h"
+#include "para/para_transfer_commands.h"
+#include "para/param_set.h"
+#include "para/sys_para.h"
+#include "para/sys_para_commands.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+#include "state/busy_scope.h"
+#include "state/frame_menus.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+/// A tool that has connected, and one flow in it.
+class Trial : public FlowTest {
+ public:
+  Trial() {
+    virt.settings.Set("Settings", "PortOccupy", "0");
+    allow_unanswered = true;  // a line that lies may bring up other questions
+    StartOnline();
+    Forget();
+  }
+  void TestBody() override {}
+  void End() { TearDown(); }
+  using FlowTest::Forget;
+  using FlowTest::Spoil;
+  void DieAt(int line) { port.writes_until_dead = line; }
+  void TakePort() { port.open_fault = PortFault::InUse; }
+  qvr7sim::Controller& Ct() { return port.Ct(); }
+  std::size_t BoxCount() const { return forms.boxes.size(); }
+  Texts Lines() const {
+    Texts lines;
+    for (std::size_t at = 0, end; (end = port.sent.find("\r\n", at)) != std::string::npos;) {
+      lines.push_back(port.sent.substr(at, end - at));
+      at = end + 2;
+    }
+    return lines;
+  }
+
+  // What is done first, on a good line, and the flow.
+  void Nothing() {}
+  void OtherModeAndDevice() {
+    GoOffline();
+    AppState.CtMode = !AppState.CtMode;
+    DispControlerMode();
+    DevSetting[0].Stroke = 50;
+  }
+  void OtherAxes() {
+    GoOffline();
+    AppState.AxisMuko[3] = True;
+  }
+  void OtherDevice() { DevSetting[0].Stroke = 50; }
+  void Connect() {
+    Choose({0, 0});
+    frmMain.mnuSettingOnline.Press();
+  }
+  void ChangeMode() {
+    Choose({1});
+    frmMain.lblCtMode.DblClick();
+  }
+  void ShowVersion() { frmMain.mnuContVersion.Press(); }
+  void ResetAlarm() { frmMain.cmdReset.Press(); }
+  void WriteDevices() {
+    forms.on_modal["frmDevice3"] = [](View&) {
+      Pick(frmDevice3.comboDeviceSize[0], " 42");
+      frmDevice3.comboAxisSelect.Pick(1);
+      frmDevice3.cmdPrmCtWrite.Press();
+      frmDevice3.cmdDeviceCancel.Press();
+    };
+    frmMain.mnuSettingDeviceOnline.Press();
+  }
+  void ReadPositions() {
+    Choose({0});
+    ReadRange(1, 5);
+  }
+  void EditPositions() {
+    ReadRange(1, 5);
+    for (int n = 1; n <= 5; ++n) frmPosi.flgdData.SetText(RowOfPosition(n), kVel, "47");
+  }
+  void WritePositions() {
+    AnswerRange("frmSelectPosiNo3", 2, 4);
+    forms.answers = {MsgAnswer::Ok};
+    frmPosi.cmdPosiWrite.Press();
+  }
+  void EditTables() {
+    ASSERT_TRUE(ReadParaFromCt() == Outcome::Done && TakeParamTable() == 0);
+    ParamSet.HomeVel[0] = 33;
+    GrpTable.GrpEnd[1] = 77;
+    SmTable[0][0] = {3, 3};
+    SysPara[1] = 777;
+  }
+  template <auto kTransfer>
+  void Transfer() {
+    const CommandsOff commands_off;
+    static_cast<void>(kTransfer());
+  }
+};
+
+// What a flow may change, field by field.
+
+using Fields = std::vector<std::string>;
+
+std::string TextsOf(const ParaTableRecord& table) {
+  std::string text;
+  for (std::size_t column = 0; column < ParaTableRecord::kColumns; ++column) {
+    for (std::size_t row = 1; row < ParaTableRecord::kRows; ++row) {
+      text += TextOf(table[column][row]) + ",";
+    }
+  }
+  return text;
+}
+
+Fields MachineOfPc() {
+  Fields fields(3);
+  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    const DevSettingRecord& device = DevSetting[axis];
+    fields[0] += AppState.AxisMuko[axis] ? "-" : "x";
+    fields[1] += device.Size + device.Speed + std::to_string(device.Stroke) + " " +
+                 std::to_string(device.Lead) + " " + std::to_string(device.Ppr) +
+                 (device.WithPG ? "E" : "_");
+  }
+  fields[2] = AppState.CtMode ? "program" : "position";
+  return fields;
+}
+
+Fields MachineAndParameters() {
+  Fields fields = MachineOfPc();
+  fields.push_back(TextsOf(ParaTableOf(ParamSet)));
+  return fields;
+}
+
+Fields Stages() {
+  Fields fields{TextsOf(ParaTable), {}, {}, {}};
+  for (const std::int16_t end : GrpStage.GrpEnd) fields[1] += std::to_string(end) + ",";
+  for (const auto& macro : SmStage) {
+    for (const auto& step : macro) fields[2] += std::to_string(step.Value) + ",";
+  }
+  for (const double value : SysParaRead) fields[3] += std::to_string(value) + ",";
+  return fields;
+}
+
+Fields ShownPositions() {
+  Fields fields(1);
+  for (int row = kPosiHeaderRows; row < frmPosi.flgdData.Rows(); ++row) {
+    for (int col = 0; col < kPosiColumns; ++col) fields[0] += frmPosi.flgdData.Text(row, col) + ",";
+  }
+  return fields;
+}
+
+/// All that the controller keeps through a loss of power.
+std::string Committed(const qvr7sim::Controller& ct) {
+  std::string memory;
+  for (int n = 1; n <= 10; ++n) memory += ct.CommittedPosition(n);
+  for (int block = 0; block < 14; ++block) memory += ct.CommittedBlock(block);
+  for (int n = 1; n <= 99; ++n) memory += std::to_string(ct.CommittedGroup(n).second) + ",";
+  for (int n = 1; n <= 20; ++n) memory += ct.CommittedMacro(n);
+  for (int block = 0; block < 7; ++block) memory += ct.CommittedSystemBlock(block);
+  return memory;
+}
+
+struct AfterFlow {
+  Fields pc;
+  std::string ct;
+  bool operator==(const AfterFlow&) const = default;
+};
+
+struct SweptFlow {
+  const char* name;
+  void (Trial::*prepare)();
+  void (Trial::*flow)();
+  Fields (*look)();
+  bool in_steps;  ///< may stop between one field and the next
+};
+
+constexpr SweptFlow kFlows[] = {
+    {"connect, other mode", &Trial::OtherModeAndDevice, &Trial::Connect, MachineOfPc, true},
+    {"connect, other axes", &Trial::OtherAxes, &Trial::Connect, MachineOfPc, false},
+    {"change mode", &Trial::Nothing, &Trial::ChangeMode, MachineOfPc, false},
+    {"version", &Trial::Nothing, &Trial::ShowVersion, MachineOfPc, false},
+    {"reset", &Trial::Nothing, &Trial::ResetAlarm, MachineOfPc, false},
+    {"write devices", &Trial::Nothing, &Trial::WriteDevices, MachineAndParameters, false},
+    {"read positions", &Trial::OtherDevice, &Trial::ReadPositions, ShownPositions, false},
+    {"write positions", &Trial::EditPositions, &Trial::WritePositions, ShownPositions, false},
+    {"read parameters", &Trial::Nothing, &Trial::Transfer<ReadParaFromCt>, Stages, false},
+    {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},
+    {"read macros", &Trial::Nothing, &Trial::Transfer<ReadSmFromCt>, Stages, false},
+    {"read tuning", &Trial::Nothing, &Trial::Transfer<ReadSysParaFromCt>, Stages, false},
+    {"write parameters", &Trial::EditTables, &Trial::Transfer<WriteParaToCt>, Stages, false},
+    {"write groups", &Trial::EditTables, &Trial::Transfer<WriteGrpToCt>, Stages, false},
+    {"write macros", &Trial::EditTables, &Trial::Transfer<WriteSmToCt>, Stages, false},
+    {"write tuning", &Trial::EditTables, &Trial::Transfer<WriteSysParaToCt>, Stages, false},
+};
+
+constexpr FaultKind kOnce[] = {
+    FaultKind::kSilence,     FaultKind::kDelay, FaultKind::kLostByte, FaultKind::kChangedByte,
+    FaultKind::kExtraByte,   FaultKind::kSplit, FaultKind::kDoubled,  FaultKind::kWrongPrefix,
+    FaultKind::kWrongLength, FaultKind::kAlarm};
+
+/// A long transfer says the same in its middle.
+bool Counts(std::size_t line, std::size_t lines) {
+  return lines < 40 || line <= 5 || line + 5 > lines || line % 23 == 0;
+}
+
+class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
+ protected:
+  /// Runs the flow with what `spoil` does to the line.
+  AfterFlow Try(const std::function<void(Trial&)>& spoil) {
+    const auto run = std::make_unique<Trial>();
+    (run.get()->*GetParam().prepare)();
+    run->Forget();
+    before_ = {GetParam().look(), Committed(run->Ct())};
+    spoil(*run);
+    (run.get()->*GetParam().flow)();
+    sent_ = run->Lines();
+    boxes_ = run->BoxCount();
+    AfterFlow outcome{GetParam().look(), Committed(run->Ct())};
+    run->End();
+    return outcome;
+  }
+  void ExpectOneOrTheOther(const AfterFlow& now, const AfterFlow& good) {
+    EXPECT_TRUE(now.ct == before_.ct || now.ct == good.ct) << "the controller keeps a half";
+    for (std::size_t i = 0; i < now.pc.size(); ++i) {
+      EXPECT_TRUE(now.pc[i] == before_.pc[i] || now.pc[i] == good.pc[i]) << "half of field " << i;
+    }
+    EXPECT_TRUE(GetParam().in_steps || now.pc == before_.pc || now.pc == good.pc) << "half taken";
+    EXPECT_TRUE(now == good || boxes_ > 0) << "nobody is told";
+  }
+
+  AfterFlow before_;
+  Texts sent_;
+  std::size_t boxes_ = 0;
+};
+
+TEST_P(FaultSweep, EveryFaultAtEveryLine) {
+  const AfterFlow good = Try([](Trial&) {});
+  const Texts lines = sent_;
+  ASSERT_FALSE(lines.empty());
+  EXPECT_EQ(Try([](Trial& trial) { trial.TakePort(); }), before_) << "without a port";
+  EXPECT_GT(boxes_, 0u);
+  for (std::size_t at = 1; at <= lines.size(); ++at) {
+    if (!Counts(at, lines.size())) continue;
+    SCOPED_TRACE("line " + std::to_string(at) + ": " + lines[at - 1]);
+    const int n = static_cast<int>(at);
+    ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kErrorReply, "", n); }),
+                        good);
+    EXPECT_EQ(sent_.size(), at) << "sent after a refusal";
+    ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kDeaf, lines[at - 1], 0); }),
+                        good);
+    EXPECT_GT(boxes_, 0u);
+    ExpectOneOrTheOther(Try([&](Trial& trial) { trial.DieAt(n); }), good);
+    const FaultKind kind = kOnce[at % std::size(kOnce)];
+    SCOPED_TRACE(qvr7sim::FaultName(kind));
+    const AfterFlow now = Try([&](Trial& trial) { trial.Spoil(kind, "", n); });
+    if (kind != FaultKind::kChangedByte) ExpectOneOrTheOther(now, good);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Flows, FaultSweep, ::testing::ValuesIn(kFlows), [](const auto& info) {
+  std::string name = info.param.name;
+  std::replace_if(
+      name.begin(), name.end(), [](char c) { return c == ' ' || c == ','; }, '_');
+  return name;
+});
+
+}  // namespace
+}  // namespace tr7

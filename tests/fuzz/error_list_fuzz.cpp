@@ -1,9 +1,0 @@
-#include <cstddef>
-#include <cstdint>
-
-#include "tests/fuzz/error_list_target.h"
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  tr7::FuzzErrorList({reinterpret_cast<const char*>(data), size});
-  return 0;
-}
