@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -135,6 +136,7 @@ TEST_F(WindowTest, AChildThatFillsTheFrameLeavesTheTitleAlone) {
   StartOffline();
   const QString title = Frame().windowTitle();
   EXPECT_TRUE(title.contains("QV-TR7"));
+  WaitMs(300);  // the layout of what has just opened comes to rest
   const std::uint64_t sleeps = desktop.pump.sleeps;
   WaitMs(300);
   EXPECT_LE(desktop.pump.sleeps - sleeps, 8u) << "an idle screen draws nothing";
@@ -173,7 +175,9 @@ TEST_F(WindowTest, ViewsInNumbersShareALayoutAndGoWhenTheyAreClosed) {
     auto* label = qobject_cast<QLabel*>(desktop.forms.WidgetOf(page->lblProduct));
     ASSERT_NE(label, nullptr);
     EXPECT_EQ(label->text().toStdString(), page->lblProduct.Caption);
-    QWidget* window = label->parentWidget()->parentWidget();
+    QWidget* window = label->parentWidget();
+    while (window && !qobject_cast<QMdiSubWindow*>(window)) window = window->parentWidget();
+    ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->windowTitle().toStdString(), page->Caption);
     windows.emplace_back(window);
   }
