@@ -124,7 +124,8 @@ bool MayFillUnusedAxes(const PosiRange& range) {
   const AxisList unused(AppState.AxisPattern & ~AxesInUseMask());
   if (unused.empty()) return true;
   std::string names;
-  for (const int axis : unused) names += (names.empty() ? "" : ", ") + Text(MsgId::At(kMsgAxis1, axis));
+  for (const int axis : unused)
+    names += (names.empty() ? "" : ", ") + Text(MsgId::At(kMsgAxis1, axis));
   const std::string numbers = std::to_string(range.first) + "-" + std::to_string(range.last);
   return MsgBox(Text(kMsgFillers, names, numbers), MsgButtons::OkCancel) == MsgAnswer::Ok;
 }
