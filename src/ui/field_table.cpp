@@ -17,7 +17,9 @@ namespace {
 constexpr int kNameWidth = 230;
 constexpr int kFieldWidth = 136;
 constexpr int kFieldHeight = 22;
-constexpr int kLettersOfList = 11;  ///< a list's width follows the table, not its longest entry
+constexpr int kWideListWidth = 220;   ///< of a list that shares its place with others
+constexpr int kNarrowTextWidth = 48;  ///< of a text that does
+constexpr int kLettersOfList = 11;    ///< a list's width follows the table, not its longest entry
 
 QComboBox* MakeList(QWidget& parent) {
   auto* list = new QComboBox(&parent);
@@ -55,11 +57,19 @@ void SetFieldSize(QWidget& field) {
   field.setMinimumHeight(kFieldHeight);
 }
 
-/// Fields that share one place stand side by side, as wide as they are.
+/// A field that shares its place is as wide as what it holds.
+QWidget* MakeSharing(const Control& control, QWidget& parent) {
+  QWidget* field = Make(control, parent);
+  if (qobject_cast<QComboBox*>(field)) field->setFixedWidth(kWideListWidth);
+  if (qobject_cast<QLineEdit*>(field)) field->setFixedWidth(kNarrowTextWidth);
+  return field;
+}
+
+/// Fields that share one place stand side by side.
 QLayout* InOnePlace(const FieldRow& row, QWidget& parent) {
   auto* line = new QHBoxLayout;
   line->setSpacing(14);
-  for (const Control* field : row.Fields) line->addWidget(Make(*field, parent));
+  for (const Control* field : row.Fields) line->addWidget(MakeSharing(*field, parent));
   line->addStretch();
   return line;
 }
