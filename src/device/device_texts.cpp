@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -56,7 +57,7 @@ double OfSingle(float value) {
   return Val(std::string_view(buffer.data(), static_cast<std::size_t>(end - buffer.data())));
 }
 
-std::string Scale(std::int16_t of, std::int16_t per) {
+std::string Scale(std::int32_t of, std::int32_t per) {
   return FormatMm(OfSingle(static_cast<float>(of) / static_cast<float>(per)));
 }
 

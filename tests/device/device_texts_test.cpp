@@ -24,7 +24,7 @@ class DeviceTexts : public StateTest {
     Set(3, " 50", "L", 100, 12, 400);
   }
   static void Set(std::size_t axis, const char* size, const char* speed, std::int16_t stroke,
-                  std::int16_t lead, std::int16_t ppr) {
+                  std::int16_t lead, std::int32_t ppr) {
     DevSettingRecord& device = DevSetting[axis];
     device.Size = size;
     device.Speed = speed;
@@ -101,11 +101,12 @@ TEST_F(DeviceTexts, ScaleOfTheFirstAxisInUse) {
 
 TEST_F(DeviceTexts, ScaleOfOddGears) {
   const struct {
-    std::int16_t lead, ppr;
+    std::int16_t lead;
+    std::int32_t ppr;
     const char* panels;
-  } rows[] = {{2, 192, "<1>1mm = 96.000Pulse|<1>1Pulse= 0.010mm"},
+  } rows[] = {{2, 40000, "<1>1mm = 20000.000Pulse|<1>1Pulse= 0.000mm"},
+              {2, 192, "<1>1mm = 96.000Pulse|<1>1Pulse= 0.010mm"},
               {9, 2000, "<1>1mm = 222.222Pulse|<1>1Pulse= 0.005mm"},  // 0.0045: the half goes up
-              {1, 32767, "<1>1mm = 32767.000Pulse|<1>1Pulse= 0.000mm"},
               {255, 1, "<1>1mm = 0.004Pulse|<1>1Pulse= 255.000mm"},
               {0, 400, "|"},
               {2, 0, "|"}};
