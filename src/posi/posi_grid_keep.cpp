@@ -9,12 +9,10 @@
 
 namespace tr7 {
 
-KeptEdits::KeptEdits()
-    : program_mode_(frmPosi.ShownPrgMode),
-      muko_(frmPosi.ShownMuko),
-      lead_(frmPosi.ShownLead),
-      ppr_(frmPosi.ShownPpr),
-      source_(frmPosi.SourceNo) {
+KeptEdits::KeptEdits() : program_mode_(frmPosi.ShownPrgMode), source_(frmPosi.SourceNo) {
+  muko_ = frmPosi.ShownMuko;
+  lead_ = frmPosi.ShownLead;
+  ppr_ = frmPosi.ShownPpr;
   const Grid& grid = frmPosi.flgdData;
   if (!frmPosi.PosiChanged || grid.Rows() <= kPosiHeaderRows) return;
   rows_ = grid.Rows();
