@@ -67,14 +67,16 @@ void CheckTable(Voyage& voyage) {
 }
 
 /// The last frame that named axes has released them, was refused, or is remembered.
-bool HeldAxesAreKnown(const std::string& sent) {
+bool HeldAxesAreKnown(const Voyage& voyage) {
+  const std::string& sent = voyage.virt.port.sent;
   constexpr std::size_t kFrame = 10;  // "0CM", how, a digit for each axis, line end
   std::size_t at = sent.rfind("0CM");
   while (at != std::string::npos && at > 0 && sent.find('\n', at) != at + kFrame - 1) {
     at = sent.rfind("0CM", at - 1);
   }
   if (at == std::string::npos || sent.find('\n', at) != at + kFrame - 1) return true;
-  return sent.substr(at + 4, kAxes) == "0000" || AppState.AxesMayBeHeld || AppState.AlarmOn;
+  return sent.substr(at + 4, kAxes) == "0000" || AppState.AxesMayBeHeld ||
+         voyage.refused_at.contains(at + kFrame);
 }
 
 void CheckLink(Voyage& voyage) {
@@ -82,7 +84,7 @@ void CheckLink(Voyage& voyage) {
   voyage.Require(AppState.PortOccupy || !port.IsOpen(), "port open though not occupied");
   voyage.Require(TusinQueue.IsEmpty() && !TusinQueue.untold, "a request is left");
   voyage.Require(!frmMain.timerTimeout.Enabled, "time-out armed");
-  voyage.Require(HeldAxesAreKnown(port.sent) && (AppState.Offline || !AppState.AxesMayBeHeld),
+  voyage.Require(HeldAxesAreKnown(voyage) && (AppState.Offline || !AppState.AxesMayBeHeld),
                  "axes stay held");
   voyage.Require(!voyage.HasSent({"0MP", "0MS", "0MV", "0MG", "0JR"}), "a motion nobody asked for");
   voyage.Require(voyage.flow == "write" || !voyage.HasSent({"0WP", "0WA"}),

@@ -89,7 +89,10 @@ MsgAnswer AnswerBox(Voyage& voyage, const MessageBoxCall& call) {
   if (call.Buttons == MsgButtons::Ok) {
     // The controller's own refusal.
     const bool refused = call.Text.starts_with(Text(104) + "\n") && call.Text.ends_with("]");
-    if (refused) voyage.sent_at_refusal = voyage.virt.port.sent.size();
+    if (refused) {
+      voyage.sent_at_refusal = voyage.virt.port.sent.size();
+      voyage.refused_at.insert(*voyage.sent_at_refusal);
+    }
     return MsgAnswer::Ok;
   }
   if (call.Buttons != MsgButtons::OkCancel) {

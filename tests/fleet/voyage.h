@@ -48,6 +48,7 @@ struct Voyage {
   std::size_t sent_at_begin = 0;       ///< bytes sent before this flow
   std::size_t boxes_seen = 0;          ///< message boxes before this flow
   std::map<std::string, int> choices;  ///< of this flow: prompt of a choice box and the answer
+  std::set<std::size_t> refused_at;  ///< bytes sent whenever the controller refused the last frame
   /// Bytes sent when the user, or the controller, refused something in this flow.
   std::optional<std::size_t> sent_at_refusal;
 };
