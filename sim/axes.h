@@ -61,8 +61,8 @@ class Axes {
     bool fail_homing = false;
     std::optional<Motion> motion;
   };
-  State& At(int axis) { return states_[static_cast<std::size_t>(axis)]; }
-  const State& At(int axis) const { return states_[static_cast<std::size_t>(axis)]; }
+  State& At(int axis) { return states_[axis]; }
+  const State& At(int axis) const { return states_[axis]; }
   int NextToEnd(std::int64_t now_us) const;
 
   std::array<State, kAxes> states_;

@@ -31,7 +31,7 @@ using Steps = std::array<Step, kAxes>;
 /// Starts all axes of a command, or none and returns the error reply.
 std::string Start(Machine& machine, const Steps& steps, std::int64_t now_us) {
   for (int axis = 0; axis < kAxes; ++axis) {
-    const Step& step = steps[static_cast<std::size_t>(axis)];
+    const Step& step = steps[axis];
     if (!step.moves) continue;
     if (!machine.InUse(axis) || step.vel == 0 || step.acc == 0) return BadNumber();
     if (machine.PulseSpeed(axis, step.vel) <= 0.0) return BadNumber();
@@ -40,7 +40,7 @@ std::string Start(Machine& machine, const Steps& steps, std::int64_t now_us) {
     }
   }
   for (int axis = 0; axis < kAxes; ++axis) {
-    const Step& step = steps[static_cast<std::size_t>(axis)];
+    const Step& step = steps[axis];
     if (!step.moves) continue;
     machine.axes.Move(axis, step.to, machine.PulseSpeed(axis, step.vel),
                       step.acc * kTenMilliseconds, now_us);
@@ -72,11 +72,11 @@ std::string MoveToRecord(Machine& machine, int number, unsigned mask, std::int64
   DecodePosition(machine.memory.positions.Written(number), &record);
   Steps steps;
   for (int axis = 0; axis < kAxes; ++axis) {
-    const AxisTarget& target = record.axis[static_cast<std::size_t>(axis)];
+    const AxisTarget& target = record.axis[axis];
     if (((mask >> axis) & 1U) == 0 || target.way == 0) continue;
     if (!machine.axes.Homed(axis)) return AxisError(axis, error_code::kNotHomed);
     const int to = Target(target, machine.axes.Pulses(axis, now_us));
-    steps[static_cast<std::size_t>(axis)] = {true, to, target.vel, target.acc};
+    steps[axis] = {true, to, target.vel, target.acc};
   }
   return Start(machine, steps, now_us);
 }
@@ -130,13 +130,13 @@ std::string Jog(Machine& machine, std::string_view args, std::int64_t now_us) {
   if (args.size() != 1 + kAxes) return BadFrame();
   if (args[0] < '0' || args[0] > '9') return BadFrame();
   for (int axis = 0; axis < kAxes; ++axis) {
-    const char digit = args[static_cast<std::size_t>(1 + axis)];
+    const char digit = args[1 + axis];
     if (digit < '0' || digit > '2') return BadNumber();
     if (digit != '0' && !machine.InUse(axis)) return BadNumber();
   }
   const int tenths = args[0] == '0' ? 10 : args[0] - '0';
   for (int axis = 0; axis < kAxes; ++axis) {
-    const char digit = args[static_cast<std::size_t>(1 + axis)];
+    const char digit = args[1 + axis];
     const double speed = machine.PulseSpeed(axis, machine.setup.jog_mm_s) * tenths / 10.0;
     const int here = machine.axes.Pulses(axis, now_us);
     const int end =

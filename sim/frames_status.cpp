@@ -63,7 +63,7 @@ std::string Version(Machine& machine, std::string_view args, std::int64_t) {
   if (args.size() != 1) return BadFrame();
   const int axis = args[0] - '1';
   if (axis < 0 || axis >= setup.axis_count) return BadNumber();
-  return "0RV" + std::string(args) + setup.axis_versions[static_cast<std::size_t>(axis)] + "R7R";
+  return "0RV" + std::string(args) + setup.axis_versions[axis] + "R7R";
 }
 
 constexpr Command kCommands[] = {{"0CM", ControlMode},

@@ -32,7 +32,7 @@ const Command* FindCommand(std::string_view request) {
 Machine::Machine(const Setup& start)
     : setup(start), memory(start), mode(start.mode), mask(start.mask) {
   for (int axis = 0; axis < kAxes; ++axis) {
-    axes.Place(axis, start.start_pulses[static_cast<std::size_t>(axis)]);
+    axes.Place(axis, start.start_pulses[axis]);
     if (start.homed) axes.SetHomed(axis);
   }
 }

@@ -122,7 +122,7 @@ int BlockIndex(char block) {
 
 void Bank::Commit(int first, int last) {
   for (int cell = first; cell <= last; ++cell) {
-    committed_[static_cast<std::size_t>(cell)] = written_[static_cast<std::size_t>(cell)];
+    committed_[cell] = written_[cell];
   }
 }
 
@@ -143,7 +143,7 @@ Memory::Memory(const Setup& setup)
   blocks.Write(0, CommonBlock(setup));
   blocks.Write(1, OrderBlock());
   for (int axis = 0; axis < kAxes; ++axis) {
-    const Device& device = setup.devices[static_cast<std::size_t>(axis)];
+    const Device& device = setup.devices[axis];
     blocks.Write(DeviceBlock(axis) - 2, FirstAxisBlock());
     blocks.Write(SecondBlock(axis), SecondAxisBlock(device));
     blocks.Write(DeviceBlock(axis), DeviceData(device));

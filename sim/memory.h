@@ -13,13 +13,9 @@ class Bank {
   Bank(std::size_t cells, const std::string& content)
       : written_(cells, content), committed_(cells, content) {}
 
-  const std::string& Written(int cell) const { return written_[static_cast<std::size_t>(cell)]; }
-  const std::string& Committed(int cell) const {
-    return committed_[static_cast<std::size_t>(cell)];
-  }
-  void Write(int cell, std::string content) {
-    written_[static_cast<std::size_t>(cell)] = std::move(content);
-  }
+  const std::string& Written(int cell) const { return written_[cell]; }
+  const std::string& Committed(int cell) const { return committed_[cell]; }
+  void Write(int cell, std::string content) { written_[cell] = std::move(content); }
   /// Cells first to last, both included.
   void Commit(int first, int last);
   void CommitAll() { committed_ = written_; }

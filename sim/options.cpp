@@ -64,13 +64,13 @@ bool TakeDevice(const std::string& value, Options* options) {
               TakeInt(parts[4], 1, 255, &device.lead) && TakeInt(parts[5], 1, 65535, &device.ppr);
   if (parts.size() > 6) good = good && TakeInt(parts[6], 0, 255, &device.type);
   if (parts.size() > 7) good = good && TakeInt(parts[7], 0, 2, &device.pg);
-  options->setup.devices[static_cast<std::size_t>(axis - 1)] = device;
+  options->setup.devices[axis - 1] = device;
   return good;
 }
 
 bool TakeAxisVersion(const std::string& value, Options* options) {
   if (value.size() != 5 || value[0] < '1' || value[0] > '4' || value[1] != ':') return false;
-  options->setup.axis_versions[static_cast<std::size_t>(value[0] - '1')] = value.substr(2);
+  options->setup.axis_versions[value[0] - '1'] = value.substr(2);
   return true;
 }
 
@@ -110,8 +110,7 @@ bool TakeStart(const std::string& value, Options* options) {
   const std::vector<std::string> parts = Split(value, ":");
   int axis = 0;
   return parts.size() == 2 && TakeInt(parts[0], 1, kAxes, &axis) &&
-         TakeInt(parts[1], -10000, 262143,
-                 &options->setup.start_pulses[static_cast<std::size_t>(axis - 1)]);
+         TakeInt(parts[1], -10000, 262143, &options->setup.start_pulses[axis - 1]);
 }
 
 bool TakeAlarmAt(const std::string& value, Options* options) {

@@ -68,7 +68,7 @@ bool DecodePosition(const std::string& digits, PositionRecord* record) {
   };
   for (int axis = 0; axis < kAxes; ++axis) {
     const int at = axis * kAxisDigits;
-    AxisTarget& target = record->axis[static_cast<std::size_t>(axis)];
+    AxisTarget& target = record->axis[axis];
     const int way_and_pulses = field(at + 5, 5);
     target.vel = field(at, 3);
     target.acc = field(at + 3, 2);

@@ -1,42 +1,18 @@
 #pragma once
 
 #include <array>
-#include <cassert>
-#include <concepts>
 #include <cstddef>
 
 #include "base/bool16.h"
+#include "base/indexed_array.h"
 
 namespace tr7 {
 
 inline constexpr int kAxes = 4;
 
-/// One value for each axis, by index 0 to 3 for AXIS1 to AXIS4. An index may be of any whole type.
+/// One value for each axis, by index 0 to 3 for AXIS1 to AXIS4.
 template <typename T>
-struct AxisArray : std::array<T, kAxes> {
-  using Base = std::array<T, kAxes>;
-  /// From its plain form; a list in braces is one of its own.
-  template <std::same_as<Base> Plain>
-  AxisArray& operator=(const Plain& plain) {
-    static_cast<Base&>(*this) = plain;
-    return *this;
-  }
-  template <std::integral Index>
-  constexpr T& operator[](Index axis) {
-    return Base::operator[](Checked(axis));
-  }
-  template <std::integral Index>
-  constexpr const T& operator[](Index axis) const {
-    return Base::operator[](Checked(axis));
-  }
-
- private:
-  template <std::integral Index>
-  static constexpr std::size_t Checked(Index axis) {
-    assert(static_cast<std::size_t>(axis) < kAxes);
-    return static_cast<std::size_t>(axis);
-  }
-};
+using AxisArray = IndexedArray<T, kAxes>;
 
 inline constexpr int kAllAxes = (1 << kAxes) - 1;  ///< the mask of all axes
 

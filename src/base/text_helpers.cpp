@@ -52,7 +52,7 @@ void RoundDecimal(Decimal& decimal, int decimals) {
     decimal = Decimal{};
     return;
   }
-  const bool up = decimal.digits[static_cast<std::size_t>(keep)] >= '5';
+  const bool up = decimal.digits[keep] >= '5';
   decimal.digits.resize(static_cast<std::size_t>(keep));
   if (up) {
     while (!decimal.digits.empty() && decimal.digits.back() == '9') decimal.digits.pop_back();
@@ -71,9 +71,7 @@ void RoundDecimal(Decimal& decimal, int decimals) {
 std::string Spelled(const Decimal& decimal, int min_decimals) {
   std::string text = decimal.negative ? "-" : "";
   const int count = static_cast<int>(decimal.digits.size());
-  const auto digit = [&](int i) {
-    return i >= 0 && i < count ? decimal.digits[static_cast<std::size_t>(i)] : '0';
-  };
+  const auto digit = [&](int i) { return i >= 0 && i < count ? decimal.digits[i] : '0'; };
   if (decimal.point <= 0) text += '0';
   for (int i = 0; i < decimal.point; ++i) text += digit(i);
   const int decimals = std::max(min_decimals, count - decimal.point);

@@ -43,7 +43,7 @@ void SplashTick() {
 }
 
 void ClearDevices() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     DevSetting[axis].Size.clear();
     DevSetting[axis].Speed.clear();
     DevSetting[axis].Stroke = 0;
@@ -132,7 +132,7 @@ void StartOnlineOfflineChoice() {
   bool online = false;
   if (ChooseOnline()) {
     const BusyScope busy;
-    online = FirstConnection() == 0;
+    online = FirstConnection();
   }
   if (!online) {
     ChooseModeOffline();

@@ -59,7 +59,7 @@ void ListDevices() {
 /// A port number's row turns to that number and shows its device.
 void ChooseDevice() {
   const ComboBox& combo = frmOptions2.comboPortDevice;
-  const int number = combo.ItemData[static_cast<std::size_t>(combo.ListIndex)];
+  const int number = combo.ItemData[combo.ListIndex];
   if (number == 0) return;
   frmOptions2.txtPortNo.Text = std::to_string(number);
   ShowDeviceOfPort();
@@ -69,7 +69,7 @@ void ChooseDevice() {
 std::string ChosenDevice() {
   const ComboBox& combo = frmOptions2.comboPortDevice;
   if (combo.ListIndex < 0) return Trim(combo.TypedText);
-  return listed_devices[static_cast<std::size_t>(combo.ListIndex)];
+  return listed_devices[combo.ListIndex];
 }
 
 void ShowTab() {
@@ -140,7 +140,7 @@ void TakeUnit() {
   const bool mm = frmOptions2.optUnitMm.Value;
   if (mm == AppState.DispMmUnit) return;
   // The grid still holds the old unit's texts: they are taken into the table before it changes.
-  if (CheckInPlace() != 0) {
+  if (!CheckInPlace()) {
     MsgBox(TwoLines(2541, 2542));
     return;
   }

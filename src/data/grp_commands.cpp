@@ -30,16 +30,14 @@ Outcome ReadGroup(int number, GrpTableRecord& read) {
   const std::int32_t start = ReplyValue(reply, 6, 3);
   const std::int32_t end = ReplyValue(reply, 9, 3);
   if (start < 0 || end < 0) return TellBadData();
-  const auto group = static_cast<std::size_t>(number);
-  read.GrpStart[group] = static_cast<std::int16_t>(start);
-  read.GrpEnd[group] = static_cast<std::int16_t>(end);
+  read.GrpStart[number] = static_cast<std::int16_t>(start);
+  read.GrpEnd[number] = static_cast<std::int16_t>(end);
   return Outcome::Done;
 }
 
 Outcome SendGroup(int number) {
-  const auto group = static_cast<std::size_t>(number);
-  const std::string frame = "0WG" + HexPad(number, 2) + HexPad(GrpTable.GrpStart[group], 3) +
-                            HexPad(GrpTable.GrpEnd[group], 3);
+  const std::string frame = "0WG" + HexPad(number, 2) + HexPad(GrpTable.GrpStart[number], 3) +
+                            HexPad(GrpTable.GrpEnd[number], 3);
   return SendEchoed({frame, kWriteReplyLength, kTimeoutMs, kEcho});
 }
 

@@ -42,12 +42,12 @@ Outcome ReadMacro(int number, SmTableRecord& read) {
   const RecordFrame frame{"0RS" + HexPad(number, 2), kReadReplyLength, kReadTimeoutMs};
   const Outcome outcome = ReadNamed(frame, reply);
   if (outcome != Outcome::Done) return outcome;
-  return TakeMacro(reply, read[static_cast<std::size_t>(number - 1)]) ? outcome : TellBadData();
+  return TakeMacro(reply, read[number - 1]) ? outcome : TellBadData();
 }
 
 Outcome SendMacro(int number) {
   std::string frame = "0WS" + HexPad(number, 2);
-  for (const SmStep& step : SmTable[static_cast<std::size_t>(number - 1)]) {
+  for (const SmStep& step : SmTable[number - 1]) {
     frame += HexPad(step.Command, 1) + HexPad(step.Value, 1);
   }
   return SendEchoed({frame, kWriteReplyLength, kWriteTimeoutMs, kEcho});

@@ -20,7 +20,7 @@ bool IsPlain(const std::string& text) {
 
 }  // namespace
 
-char ParaBlockChar(int block) { return "0123456789ABCD"[static_cast<std::size_t>(block)]; }
+char ParaBlockChar(int block) { return "0123456789ABCD"[block]; }
 
 int ParaBlockOfAxis(int axis, int which) { return kFirstOfAxis + 3 * axis + which; }
 

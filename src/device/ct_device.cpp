@@ -126,7 +126,7 @@ int ReadCtBlock1(AxisArray<std::int32_t>& values) {
   std::string reply;
   if (ReadParaBlock('1', kBlockTimeoutMs, reply) != 0) return 1;
   AxisArray<std::int32_t> read{};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     read[axis] = ReplyValue(reply, 13 + 2 * axis, 2);
     if (read[axis] < 0) return BadData();
   }

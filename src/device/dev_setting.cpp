@@ -11,7 +11,7 @@ void CalcMmPerPulse(DevSettingRecord& device) {
 }
 
 bool EveryAxisHasADevice() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (!AppState.AxisMuko[axis] && DevSetting[axis].NotChosen) return false;
   }
   return true;

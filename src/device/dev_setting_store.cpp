@@ -14,9 +14,9 @@ constexpr int kMinStroke = 10, kMaxStroke = 600;
 constexpr int kMinLead = 2, kMaxLead = 20;
 
 /// Keys end in the axis number 1 to 4.
-std::string Key(const char* name, std::size_t axis) { return name + std::to_string(axis + 1); }
+std::string Key(const char* name, int axis) { return name + std::to_string(axis + 1); }
 
-bool IsOne(const char* name, std::size_t axis, int fallback) {
+bool IsOne(const char* name, int axis, int fallback) {
   return GetSettingInt16(Key(name, axis), fallback) == 1;
 }
 
@@ -25,14 +25,14 @@ void SetNewType(DevSettingRecord& device, bool new_type) {
   device.NewTypeWord = new_type ? "NEW" : "OLD";
 }
 
-void LoadNewType(std::size_t axis) {
+void LoadNewType(int axis) {
   const bool new_type = IsOne("NewType", axis, 1);
   SetNewType(DevSetting[axis], new_type);
   DevSettei[axis].NewType = new_type;
   if (new_type) DevSetting[axis].Vertical = True;
 }
 
-void LoadName(std::size_t axis) {
+void LoadName(int axis) {
   DevSettingRecord& device = DevSetting[axis];
   const std::string size = GetSetting(Key("DevSize", axis), " 28");
   const std::string speed = GetSetting(Key("DevSpeed", axis), "L");
@@ -44,7 +44,7 @@ void LoadName(std::size_t axis) {
   device.Stroke = DevSettei[axis].Stroke = stroke;
 }
 
-void LoadStoredLead(std::size_t axis) {
+void LoadStoredLead(int axis) {
   const std::int16_t lead = GetSettingInt16(Key("DevLead", axis), 2);
   if (lead < kMinLead || lead > kMaxLead) {
     DevSetting[axis].NotChosen = True;
@@ -54,7 +54,7 @@ void LoadStoredLead(std::size_t axis) {
 }
 
 /// The new list wins, whatever the type of the device: one of the old list keeps the stored PPR.
-void LoadLead(std::size_t axis) {
+void LoadLead(int axis) {
   DevSettingRecord& device = DevSetting[axis];
   // A list that one axis could not read is not asked for again.
   const bool list_gone = axis > 0 && DeviceLookup.ListMissing;
@@ -83,33 +83,31 @@ auto SixFields(DevSettingRecord& device) {
 
 template <typename Step>
 void ForAllAxes(Step step) {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) step(axis);
+  for (int axis = 0; axis < kAxes; ++axis) step(axis);
 }
 
 }  // namespace
 
 int LoadDevSetting() {
   ForAllAxes(LoadNewType);
+  ForAllAxes([](int axis) { DevSetting[axis].Ppr = GetSettingInt16(Key("DevPPR", axis), 400); });
   ForAllAxes(
-      [](std::size_t axis) { DevSetting[axis].Ppr = GetSettingInt16(Key("DevPPR", axis), 400); });
-  ForAllAxes([](std::size_t axis) {
-    DevSetting[axis].SeriesOk = GetSetting(Key("Device", axis), "QV") == "QV";
-  });
+      [](int axis) { DevSetting[axis].SeriesOk = GetSetting(Key("Device", axis), "QV") == "QV"; });
   ForAllAxes(LoadName);
   ForAllAxes(LoadLead);
-  ForAllAxes([](std::size_t axis) {
+  ForAllAxes([](int axis) {
     DevSetting[axis].Vertical = IsOne("Vertical", axis, 1);
     DevSetting[axis].WithPG = IsOne("WithPG", axis, 0);
   });
   int result = 0;
-  ForAllAxes([&result](std::size_t axis) {
+  ForAllAxes([&result](int axis) {
     if (!WorkOutScale(DevSetting[axis])) result = 1;
   });
   return result;
 }
 
 void SaveDevSetting() {
-  ForAllAxes([](std::size_t axis) {
+  ForAllAxes([](int axis) {
     if (AppState.AxisMuko[axis]) return;
     const DevSettingRecord& device = DevSetting[axis];
     PutSetting(Key("DevSize", axis), device.Size);
@@ -130,14 +128,14 @@ int CheckDeviceFormat(const std::string& size, const std::string& speed, double 
 }
 
 void LetDevSettingToDevSettei() {
-  ForAllAxes([](std::size_t axis) {
+  ForAllAxes([](int axis) {
     if (!AppState.AxisMuko[axis]) SixFields(DevSettei[axis]) = SixFields(DevSetting[axis]);
   });
 }
 
 void ReflectFileDevice2PcDevice() {
   AppState.AxisMuko = AppState.AxisMukoOfFile;
-  ForAllAxes([](std::size_t axis) {
+  ForAllAxes([](int axis) {
     if (AppState.AxisMuko[axis]) return;
     SixFields(DevSetting[axis]) = SixFields(DevSettei[axis]);
     SetNewType(DevSetting[axis], DevSetting[axis].NewType);
@@ -146,7 +144,7 @@ void ReflectFileDevice2PcDevice() {
 
 int CompareActuatorSettingOfPosifile2PC() {
   int result = 0;
-  ForAllAxes([&result](std::size_t axis) {
+  ForAllAxes([&result](int axis) {
     if (AppState.AxisMukoOfFile[axis]) return;
     if (SixFields(DevSetting[axis]) != SixFields(DevSettei[axis])) result = 1;
   });

@@ -40,28 +40,28 @@ void Refill(ComboBox& combo, const std::vector<std::string>& entries, const std:
   Refill(combo, entries, [&](const std::string& entry) { return entry == wanted; });
 }
 
-void FillSizes(DeviceView& view, std::size_t axis, const std::string& wanted) {
+void FillSizes(DeviceView& view, int axis, const std::string& wanted) {
   const DeviceListRecord& list = DeviceList[axis];
   Refill(view.comboDeviceSize[axis], list.Sizes,
          [&](const std::string& size) { return list.SameSize(size, wanted); });
 }
 
 /// An old list has one set of speeds for all its sizes.
-void FillSpeeds(DeviceView& view, std::size_t axis, const std::string& wanted) {
+void FillSpeeds(DeviceView& view, int axis, const std::string& wanted) {
   DeviceListRecord& list = DeviceList[axis];
   if (!list.SizeIsNumber) {
-    MakeSpeedListNew(static_cast<int>(axis), view.comboDeviceSize[axis].Text());
+    MakeSpeedListNew(axis, view.comboDeviceSize[axis].Text());
   }
   Refill(view.comboDeviceSpeed[axis], list.Speeds, wanted);
 }
 
-void FillStrokes(DeviceView& view, std::size_t axis, const std::string& wanted) {
+void FillStrokes(DeviceView& view, int axis, const std::string& wanted) {
   const DeviceListRecord& list = DeviceList[axis];
   const std::string size = view.comboDeviceSize[axis].Text();
   const std::string speed = view.comboDeviceSpeed[axis].Text();
   std::vector<std::string> strokes;
   for (int i = 1; i <= list.RowCount && !size.empty(); ++i) {
-    const DeviceRecord& row = list.Rows[static_cast<std::size_t>(i)];
+    const DeviceRecord& row = list.Rows[i];
     if (list.SameSize(row.Size, size) && row.Speed == speed) {
       strokes.push_back(std::to_string(row.Stroke));
     }
@@ -73,7 +73,7 @@ void FillStrokes(DeviceView& view, std::size_t axis, const std::string& wanted) 
 
 /// A device that always or never has a pulse generator leaves no choice: the hidden box holds the
 /// answer.
-void StrokeChanged(DeviceView& view, std::size_t axis) {
+void StrokeChanged(DeviceView& view, int axis) {
   const ShownDevice device = DeviceShown(view, axis);
   if (device.Size.empty()) return;
   const int kind = GetPgKindNew(device.Size, device.Speed, device.Stroke);
@@ -84,26 +84,26 @@ void StrokeChanged(DeviceView& view, std::size_t axis) {
   pg.Value = choice ? bool(DevSettei[axis].WithPG) : kind == kPgAlways;
 }
 
-void SpeedChanged(DeviceView& view, std::size_t axis) {
+void SpeedChanged(DeviceView& view, int axis) {
   FillStrokes(view, axis, view.comboDeviceStroke[axis].Text());
   StrokeChanged(view, axis);
 }
 
-void SizeChanged(DeviceView& view, std::size_t axis) {
+void SizeChanged(DeviceView& view, int axis) {
   FillSpeeds(view, axis, view.comboDeviceSpeed[axis].Text());
   SpeedChanged(view, axis);
 }
 
 /// The fill pass of one axis: shows this size and speed, and the stroke in use, as far as they are
 /// listed.
-void FillAxis(DeviceView& view, std::size_t axis, const ShownDevice& wanted) {
+void FillAxis(DeviceView& view, int axis, const ShownDevice& wanted) {
   FillSizes(view, axis, wanted.Size);
   FillSpeeds(view, axis, wanted.Speed);
   FillStrokes(view, axis, std::to_string(DevSetting[axis].Stroke));
   StrokeChanged(view, axis);
 }
 
-ShownDevice DeviceInUse(std::size_t axis) {
+ShownDevice DeviceInUse(int axis) {
   const DevSettingRecord& device = DevSetting[axis];
   return {device.Size, device.Speed, device.Stroke};
 }
@@ -112,7 +112,7 @@ ShownDevice DeviceInUse(std::size_t axis) {
 
 /// Every device chosen in a dialogue counts as the vertical variant: the box says so, and leaves
 /// no choice.
-void ShowOptions(DeviceView& view, std::size_t axis, bool on) {
+void ShowOptions(DeviceView& view, int axis, bool on) {
   view.chkDevPgUse[axis].Visible = view.chkDevVsiyou[axis].Visible = on;
   view.chkDevVsiyou[axis].Value = true;
   view.chkDevVsiyou[axis].Enabled = false;
@@ -120,13 +120,13 @@ void ShowOptions(DeviceView& view, std::size_t axis, bool on) {
 
 // Axes in use.
 
-void SetAxisLive(DeviceView& view, std::size_t axis, bool live) {
+void SetAxisLive(DeviceView& view, int axis, bool live) {
   view.chkAxisEnable[axis].Value = live;
   view.framAxis[axis].Enabled = live && !DeviceDialog.DevWriting;
   view.chkDevPgUse[axis].Enabled = live && DeviceDialog.ShowDevOptions;
 }
 
-void EnableAxis(DeviceView& view, std::size_t axis) {
+void EnableAxis(DeviceView& view, int axis) {
   SetAxisLive(view, axis, true);
   if (view.comboDeviceSize[axis].List.empty()) {
     FillAxis(view, axis, DeviceInUse(axis));
@@ -139,7 +139,7 @@ void EnableAxis(DeviceView& view, std::size_t axis) {
 int LastAxisShown(const DeviceView& view) {
   int last = 0;
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (view.chkAxisEnable[static_cast<std::size_t>(axis)].Value) last = axis + 1;
+    if (view.chkAxisEnable[axis].Value) last = axis + 1;
   }
   return last;
 }
@@ -147,7 +147,7 @@ int LastAxisShown(const DeviceView& view) {
 /// The axes in use are AXIS1 up to the chosen number, so a tick takes those below with it, and a
 /// tick taken away those above. One axis is always in use.
 void AxisEnableClicked(DeviceView& view, int axis) {
-  CheckBox& box = view.chkAxisEnable[static_cast<std::size_t>(axis)];
+  CheckBox& box = view.chkAxisEnable[axis];
   if (box.Value) {
     ShowAxesInUse(view, LastAxisShown(view));
   } else if (axis > 0) {
@@ -160,12 +160,11 @@ void AxisEnableClicked(DeviceView& view, int axis) {
 
 // Old or new type.
 
-int ReadList(std::size_t axis, bool old_type) {
-  const int index = static_cast<int>(axis);
-  return old_type ? ReadDeviceListOldAxis(index) : ReadDeviceListNewAxis(index);
+int ReadList(int axis, bool old_type) {
+  return old_type ? ReadDeviceListOldAxis(axis) : ReadDeviceListNewAxis(axis);
 }
 
-void NewOrOldClicked(DeviceView& view, std::size_t axis) {
+void NewOrOldClicked(DeviceView& view, int axis) {
   CheckBox& box = view.chkNewOrOld[axis];
   const ShownDevice shown = DeviceShown(view, axis);
   const DeviceListRecord former = DeviceList[axis];
@@ -185,7 +184,7 @@ void NewOrOldClicked(DeviceView& view, std::size_t axis) {
 
 /// Only the dialogue that writes begins with the old list, for an axis whose device is of that
 /// type.
-bool BeginsOld(const DeviceView& view, std::size_t axis) {
+bool BeginsOld(const DeviceView& view, int axis) {
   const DevSettingRecord& device = DevSetting[axis];
   return &view == &frmDevice3 && !AppState.AxisMuko[axis] && !device.Size.empty() &&
          !device.NewType;
@@ -194,7 +193,7 @@ bool BeginsOld(const DeviceView& view, std::size_t axis) {
 /// Reads each axis's catalogue; one that cannot be read is not tried, and told of, again.
 void ReadLists(DeviceView& view) {
   std::array<bool, 2> gone{};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const bool old_type = BeginsOld(view, axis);
     view.chkNewOrOld[axis].Value = old_type;
     bool& list_gone = gone[old_type ? 1 : 0];
@@ -217,7 +216,7 @@ void FillAxisChoice(DeviceView& view) {
 
 }  // namespace
 
-ShownDevice DeviceShown(const DeviceView& view, std::size_t axis) {
+ShownDevice DeviceShown(const DeviceView& view, int axis) {
   const std::string size = view.comboDeviceSize[axis].Text();
   // An old list names its sizes without the blank that stands in front of two digits.
   return {CharCount(size) == 0 ? size : RightAlignText(size, kSizeChars),
@@ -225,16 +224,16 @@ ShownDevice DeviceShown(const DeviceView& view, std::size_t axis) {
           static_cast<std::int16_t>(Val(view.comboDeviceStroke[axis].Text()))};
 }
 
-std::array<Bool16, kAxes> MukoShown(const DeviceView& view) {
-  std::array<Bool16, kAxes> muko;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) muko[axis] = !view.chkAxisEnable[axis].Value;
+AxisArray<Bool16> MukoShown(const DeviceView& view) {
+  AxisArray<Bool16> muko;
+  for (int axis = 0; axis < kAxes; ++axis) muko[axis] = !view.chkAxisEnable[axis].Value;
   return muko;
 }
 
 void ShowAxesInUse(DeviceView& view, int count) {
   view.comboAxisSelect.ListIndex = count - 1;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (axis < static_cast<std::size_t>(count)) {
+  for (int axis = 0; axis < kAxes; ++axis) {
+    if (axis < count) {
       EnableAxis(view, axis);
     } else {
       SetAxisLive(view, axis, false);
@@ -246,7 +245,7 @@ void LoadDeviceLists(DeviceView& view) {
   LetDevSettingToDevSettei();
   ReadLists(view);
   FillAxisChoice(view);
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     ShowOptions(view, axis, DeviceDialog.ShowDevOptions);
     SetAxisLive(view, axis, !AppState.AxisMuko[axis]);
     if (!AppState.AxisMuko[axis]) FillAxis(view, axis, DeviceInUse(axis));
@@ -256,12 +255,12 @@ void LoadDeviceLists(DeviceView& view) {
 void InstallDeviceCascade(DeviceView& view) {
   DeviceView* const v = &view;
   view.comboAxisSelect.Click = [v] { ShowAxesInUse(*v, v->comboAxisSelect.ListIndex + 1); };
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const auto set = [](ComboBox& combo, auto handler) { combo.Click = combo.LostFocus = handler; };
     set(view.comboDeviceSize[axis], [v, axis] { SizeChanged(*v, axis); });
     set(view.comboDeviceSpeed[axis], [v, axis] { SpeedChanged(*v, axis); });
     set(view.comboDeviceStroke[axis], [v, axis] { StrokeChanged(*v, axis); });
-    view.chkAxisEnable[axis].Click = [v, axis] { AxisEnableClicked(*v, static_cast<int>(axis)); };
+    view.chkAxisEnable[axis].Click = [v, axis] { AxisEnableClicked(*v, axis); };
     view.chkNewOrOld[axis].Click = [v, axis] { NewOrOldClicked(*v, axis); };
     // Kept with the pending device: the lists ask there whenever they change.
     view.chkDevPgUse[axis].Click = [v, axis] {

@@ -32,7 +32,7 @@ struct ShownDevice {
   std::string Speed;
   std::int16_t Stroke = 0;  ///< mm
 };
-ShownDevice DeviceShown(const DeviceView& view, std::size_t axis);
+ShownDevice DeviceShown(const DeviceView& view, int axis);
 
 /// Fills the dialogue from `DevSetting` and the catalogues. A catalogue that cannot be read is told
 /// of once, and the lists stay empty.
@@ -40,7 +40,7 @@ void LoadDeviceLists(DeviceView& view);
 
 /// The axes whose boxes are ticked are wanted: AXIS1 up to the chosen number, unless the user has
 /// left axes in use that have a gap as they were.
-std::array<Bool16, kAxes> MukoShown(const DeviceView& view);
+AxisArray<Bool16> MukoShown(const DeviceView& view);
 /// Axes below `count` (1 to 4) are in use in the dialogue, the others not.
 void ShowAxesInUse(DeviceView& view, int count);
 

@@ -37,9 +37,8 @@ void TellLeftOut(DeviceListKind kind, const std::string& rows) {
 }
 
 int ReadList(int axis, DeviceListKind kind) {
-  const auto a = static_cast<std::size_t>(axis);
-  const DeviceListReport report = ReadDeviceListFile(kind, DeviceList[a]);
-  DevListMissing[a] = !report.Read;
+  const DeviceListReport report = ReadDeviceListFile(kind, DeviceList[axis]);
+  DevListMissing[axis] = !report.Read;
   if (!report.Read) return TellNoList(report.Fault);
   TellLeftOut(kind, report.LeftOut);
   return 0;
@@ -60,7 +59,7 @@ std::optional<DeviceRecord> LookUpNew(const std::string& size, const std::string
   TellLeftOut(DeviceListKind::New, report.LeftOut);
   const int slot = table.Find(size, speed, stroke);
   if (slot == 0) return std::nullopt;
-  return table.Rows[static_cast<std::size_t>(slot)];
+  return table.Rows[slot];
 }
 
 /// The same, with a missing list told in short.
@@ -77,12 +76,12 @@ int KindOf(std::int16_t DeviceRecord::*kind, const std::string& size, const std:
 }
 
 /// False when the axis's list lacks its device.
-bool SetLeadOfAxis(std::size_t axis) {
+bool SetLeadOfAxis(int axis) {
   DevSettingRecord& device = DevSetting[axis];
   const DeviceListRecord& list = DeviceList[axis];
   const int slot = list.Find(device.Size, device.Speed, device.Stroke);
   if (slot == 0) return false;
-  device.Lead = list.Rows[static_cast<std::size_t>(slot)].Lead;
+  device.Lead = list.Rows[slot].Lead;
   CalcMmPerPulse(device);
   return true;
 }
@@ -92,7 +91,7 @@ bool SetLeads() {
   const bool enabled = frmPosi.flgdData.Enabled;
   frmPosi.flgdData.Enabled = false;
   bool found = true;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (!AppState.AxisMuko[axis] && !SetLeadOfAxis(axis)) found = false;
   }
   frmPosi.flgdData.Enabled = enabled;
@@ -102,10 +101,9 @@ bool SetLeads() {
 }  // namespace
 
 int ReadDeviceListOldAxis(int axis) {
-  const auto a = static_cast<std::size_t>(axis);
-  if (DevSetting[a].Series == "QV") return ReadList(axis, DeviceListKind::Old);
-  DeviceList[a] = DeviceListRecord{};
-  DevListMissing[a] = True;
+  if (DevSetting[axis].Series == "QV") return ReadList(axis, DeviceListKind::Old);
+  DeviceList[axis] = DeviceListRecord{};
+  DevListMissing[axis] = True;
   return TellNoList();
 }
 
@@ -126,7 +124,7 @@ int ReadDeviceListNew() {
 }
 
 void MakeSpeedListNew(int axis, const std::string& size) {
-  DeviceListRecord& list = DeviceList[static_cast<std::size_t>(axis)];
+  DeviceListRecord& list = DeviceList[axis];
   SpeedsOfSize(list, size, list.Speeds);
 }
 

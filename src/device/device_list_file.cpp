@@ -75,7 +75,7 @@ bool Reading::ReadRow() {
     return true;
   }
   TakeModel(row);
-  list_.Rows[static_cast<std::size_t>(++list_.RowCount)] = std::move(row);
+  list_.Rows[++list_.RowCount] = std::move(row);
   return true;
 }
 
@@ -113,9 +113,7 @@ bool AddDistinct(std::vector<std::string>& names, const std::string& name) {
   return true;
 }
 
-const DeviceRecord& RowAt(const DeviceListRecord& list, int i) {
-  return list.Rows[static_cast<std::size_t>(i)];
-}
+const DeviceRecord& RowAt(const DeviceListRecord& list, int i) { return list.Rows[i]; }
 
 /// The sizes, and what speeds can be told before a size is chosen.
 bool CollectNames(DeviceListRecord& list) {

@@ -10,7 +10,7 @@ bool DeviceListRecord::SameSize(const std::string& a, const std::string& b) cons
 
 int DeviceListRecord::Find(const std::string& size, const std::string& speed, int stroke) const {
   for (int i = 1; i <= RowCount; ++i) {
-    const DeviceRecord& row = Rows[static_cast<std::size_t>(i)];
+    const DeviceRecord& row = Rows[i];
     if (SameSize(row.Size, size) && row.Speed == speed && row.Stroke == stroke) return i;
   }
   return 0;

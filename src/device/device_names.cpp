@@ -6,6 +6,7 @@
 #include "device/dev_setting.h"
 #include "device/dev_setting_store.h"
 #include "device/device_list.h"
+#include "state/axes_in_use.h"
 #include "state/message_box.h"
 
 namespace tr7 {
@@ -38,7 +39,7 @@ DeviceName Cut(const std::string& name) {
           MidChars(name, 12, kOptionLetters)};
 }
 
-bool TakeSeries(std::size_t axis, const std::string& name) {
+bool TakeSeries(int axis, const std::string& name) {
   const std::string series = MidChars(name, 1, 3);
   if (series != "QV-" && series != "NB-") return false;
   DevSettei[axis].NewType = False;
@@ -64,7 +65,7 @@ bool TakeOptions(DevSettingRecord& device, const std::string& options) {
   return true;
 }
 
-bool ParseName(std::size_t axis) {
+bool ParseName(int axis) {
   if (!TakeSeries(axis, FileDevice[axis])) return false;
   const DeviceName name = Cut(FileDevice[axis]);
   if (CheckDeviceFormat(name.size, name.speed, name.stroke) != 0) return false;
@@ -80,8 +81,8 @@ bool ParseName(std::size_t axis) {
 }  // namespace
 
 int ParseDeviceNames() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis] || AppState.AxisMukoOfFile[axis] || ParseName(axis)) continue;
+  for (const int axis : AxesInUse()) {
+    if (AppState.AxisMukoOfFile[axis] || ParseName(axis)) continue;
     MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
     return 1;
   }

@@ -25,28 +25,26 @@ constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 constexpr std::size_t kRowsOfAxis = std::tuple_size_v<decltype(frmPosi.DeviceRows)> / kAxes;
 constexpr const char* kNotInUse = "**********";
 
-void FillRows(std::size_t axis, const std::string& text) {
+void FillRows(int axis, const std::string& text) {
   for (std::size_t row = 0; row < kRowsOfAxis; ++row) {
     frmPosi.DeviceRows[axis * kRowsOfAxis + row] = text;
   }
 }
 
-void ClearTexts(std::size_t axis) {
+void ClearTexts(int axis) {
   FillRows(axis, {});
   frmPosi.lblDeviceType[axis]->Caption.clear();
   frmPosi.lblAge[axis]->Caption.clear();
 }
 
 /// The user's choice where the device leaves one.
-std::string PgMark(std::size_t axis) {
+std::string PgMark(int axis) {
   const DevSettingRecord& device = DevSetting[axis];
   if (GetPgKindNew(device.Size, device.Speed, device.Stroke) != 1) return " ";
   return DevSettei[axis].WithPG ? "E" : "_";
 }
 
-std::string AxisColon(std::size_t axis) {
-  return Text(MsgId::At(kMsgAxis1, static_cast<int>(axis))) + ":";
-}
+std::string AxisColon(int axis) { return Text(MsgId::At(kMsgAxis1, axis)) + ":"; }
 
 /// What a single-precision number is, to the digits that one holds.
 double OfSingle(float value) {
@@ -69,9 +67,9 @@ void ShowScale(const std::string& panel1, const std::string& panel2) {
 }  // namespace
 
 void DeviceTextHyoji() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) ClearTexts(axis);
+  for (int axis = 0; axis < kAxes; ++axis) ClearTexts(axis);
   DeviceLookup.ListMissing = False;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (AppState.AxisMuko[axis]) {
       FillRows(axis, AxisColon(axis) + kNotInUse);
       continue;
@@ -90,15 +88,14 @@ void DeviceTextHyoji() {
 
 void PulseScaleHyoji() {
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (!AppState.AxisMuko[static_cast<std::size_t>(axis)]) return PulseScaleHyojiAxis(axis);
+    if (!AppState.AxisMuko[axis]) return PulseScaleHyojiAxis(axis);
   }
   ShowScale({}, {});
 }
 
 void PulseScaleHyojiAxis(int axis) {
-  const auto a = static_cast<std::size_t>(axis);
-  const DevSettingRecord& device = DevSetting[a];
-  if (AppState.AxisMuko[a] || device.Lead <= 0 || device.Ppr <= 0) return ShowScale({}, {});
+  const DevSettingRecord& device = DevSetting[axis];
+  if (AppState.AxisMuko[axis] || device.Lead <= 0 || device.Ppr <= 0) return ShowScale({}, {});
   const std::string pulse = Text(kMsgPulse);
   const std::string number = "<" + std::to_string(axis + 1) + ">1";
   ShowScale(number + "mm = " + Scale(device.Ppr, device.Lead) + pulse,

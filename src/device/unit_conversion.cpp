@@ -150,9 +150,8 @@ int CalcStrokeMm() {
 bool IsD42(const DevSettingRecord& device) { return device.Speed == "D" && device.Size == " 42"; }
 
 int SpeedLimit(int axis) {
-  const auto a = static_cast<std::size_t>(axis);
-  if (AppState.AxisMuko[a]) return kVelNotInUse;
-  return IsD42(DevSetting[a]) ? kVelD42 : AppState.MaxVel[a];
+  if (AppState.AxisMuko[axis]) return kVelNotInUse;
+  return IsD42(DevSetting[axis]) ? kVelD42 : AppState.MaxVel[axis];
 }
 
 }  // namespace tr7

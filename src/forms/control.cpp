@@ -54,7 +54,7 @@ void ComboBox::AddItem(const std::string& text, int data) {
 
 std::string ComboBox::Text() const {
   if (ListIndex < 0 || ListIndex >= static_cast<int>(List.size())) return TypedText;
-  return List[static_cast<std::size_t>(ListIndex)];
+  return List[ListIndex];
 }
 
 bool ComboBox::ShowText(const std::string& text) {

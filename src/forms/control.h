@@ -198,8 +198,8 @@ struct PerAxis {
   PerAxis(View& owner, const std::string& base, MsgId tag = {})
       : items{Kind(owner, base + "1", tag), Kind(owner, base + "2", tag),
               Kind(owner, base + "3", tag), Kind(owner, base + "4", tag)} {}
-  Kind& operator[](std::size_t axis) { return items.at(axis); }
-  const Kind& operator[](std::size_t axis) const { return items.at(axis); }
+  Kind& operator[](int axis) { return items.at(axis); }
+  const Kind& operator[](int axis) const { return items.at(axis); }
   auto begin() { return items.begin(); }
   auto end() { return items.end(); }
   std::array<Kind, 4> items;

@@ -17,8 +17,7 @@ struct DeviceView : View {
     cmdDeviceSet.Default = true;
     cmdDeviceCancel.Cancel = true;
     cmdPrmCtWrite.Visible = cmdSyosai.Visible = writes;
-    for (int axis = 0; axis < 4; ++axis)
-      framAxis[static_cast<std::size_t>(axis)].Tag = MsgId::At(220, axis);
+    for (int axis = 0; axis < 4; ++axis) framAxis[axis].Tag = MsgId::At(220, axis);
   }
   Label lblAxisSelect{*this, "lblAxisSelect", 6252};
   ComboBox comboAxisSelect{*this, "comboAxisSelect"};  ///< index 0: one axis, 3: all four

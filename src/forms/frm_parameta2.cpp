@@ -81,9 +81,8 @@ FrmParameta2::FrmParameta2() : View("frmParameta2", 6000) {
   MdiChild = true;
   Width = 14400;
   Height = 9900;
-  for (std::size_t axis = 0; axis < 4; ++axis) {
-    lblAxis[axis].Tag = lblAxisEtc[axis].Tag = lblAxisSp[axis].Tag =
-        MsgId::At(220, static_cast<int>(axis));
+  for (int axis = 0; axis < 4; ++axis) {
+    lblAxis[axis].Tag = lblAxisEtc[axis].Tag = lblAxisSp[axis].Tag = MsgId::At(220, axis);
     comboM0Disable[axis].Visible = false;
   }
   Tables = TablesOf(*this);

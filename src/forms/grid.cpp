@@ -67,7 +67,7 @@ void Grid::SetRowHeight(int row, int twips) {
   if (row_heights_.size() <= static_cast<std::size_t>(row)) {
     row_heights_.resize(static_cast<std::size_t>(row) + 1);
   }
-  row_heights_[static_cast<std::size_t>(row)] = twips;
+  row_heights_[row] = twips;
   Touch();
 }
 

@@ -65,7 +65,7 @@ int Change_Device() {
   ChoiceOnTrial choice;
   OfferEverything();
   if (!ParametersStand()) return 1;
-  if (TakeDevicesOfParam() != 0) {
+  if (!TakeDevicesOfParam()) {
     MsgBox(TwoLines(kMsgNotSelected, kMsgSelectAgain));
     return 1;
   }

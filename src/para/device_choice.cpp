@@ -21,7 +21,7 @@ namespace {
 constexpr int kMsgNotSelected = 4;
 constexpr int kMsgSelectAgain = 5;
 
-bool SameDevice(std::size_t axis) {
+bool SameDevice(int axis) {
   const DevSettingRecord &now = DevSetting[axis], &shown = DevSettei[axis];
   return !now.NotChosen && now.Size == shown.Size && now.Speed == shown.Speed &&
          now.Stroke == shown.Stroke && now.WithPG == shown.WithPG && now.NewType &&
@@ -33,7 +33,7 @@ bool SameDevice(std::size_t axis) {
 /// set to standard values again.
 bool NothingToTake(const ChoiceOnTrial& choice) {
   if (choice.AxesChanged()) return false;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (!AppState.AxisMuko[axis] && !SameDevice(axis)) return false;
   }
   return true;
@@ -45,7 +45,7 @@ int TakeChoice() {
   TakeShownDevices(frmDevice3);
   if (!NothingToTake(choice)) {
     if (!WarnOfDeviceChange(true)) return -1;
-    if (IniParaFromStd() != 0 || TakeDevicesOfParam() != 0) return 1;
+    if (IniParaFromStd() != 0 || !TakeDevicesOfParam()) return 1;
   }
   choice.Keep();
   return 0;

@@ -1,11 +1,10 @@
 #include "para/device_dialog.h"
 
-#include <algorithm>
-
 #include "base/scope.h"
 #include "device/dev_setting_store.h"
 #include "para/para_after_device.h"
 #include "para/std_lists.h"
+#include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/text.h"
 #include "state/views.h"
@@ -27,10 +26,8 @@ void LeaveWithChoice(DeviceView& view) {
   Leave(view);
 }
 
-std::int16_t MaskOf(const std::array<Bool16, kAxes>& muko) {
-  int mask = 0;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) mask |= muko[axis] ? 0 : 1 << axis;
-  return static_cast<std::int16_t>(mask);
+std::int16_t MaskOf(const AxisArray<Bool16>& muko) {
+  return static_cast<std::int16_t>(MaskOfMuko(muko));
 }
 
 /// The wanted axes, after a question when they are others than those in use.
@@ -104,14 +101,13 @@ int SelectDeviceForPara() {
 
 void TakeChosenAxes(const DeviceView& view) {
   AppState.AxisMuko = MukoShown(view);
-  AppState.AxisCount = static_cast<std::int16_t>(
-      std::count(AppState.AxisMuko.begin(), AppState.AxisMuko.end(), False));
+  AppState.AxisCount = static_cast<std::int16_t>(AxesInUse().size());
   ParaFlags.AxisMask = MaskOf(AppState.AxisMuko);
   ParaFlags.ShownAxisCount = 0;  // the parameter view shows the axes in use again
 }
 
 void TakeShownDevices(const DeviceView& view) {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     DevSettingRecord& device = DevSettei[axis];
     device.Series = "QV";
     if (AppState.AxisMuko[axis]) continue;

@@ -10,13 +10,13 @@
 #include "para/take_param_device.h"
 #include "session/followers.h"
 #include "state/app_state.h"
+#include "state/axes_in_use.h"
 
 namespace tr7 {
 namespace {
 
 void TakeNewType() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
+  for (const int axis : AxesInUse()) {
     DevSetting[axis].NewType = DevSettei[axis].NewType;
     DevSetting[axis].NewTypeWord = DevSetting[axis].NewType ? "NEW" : "OLD";
   }
@@ -24,30 +24,30 @@ void TakeNewType() {
 
 }  // namespace
 
-int TakeDeviceFieldsOfParam() {
+bool TakeDeviceFieldsOfParam() {
   // What a controller reported earlier says nothing of devices chosen here, so type and PG come
   // from the choice.
   CtDev.fill(CtDeviceRecord{});
   TakeDevFromParam2();
   ParaFlags.ShownAxisCount = 0;
-  if (!EveryAxisHasADevice()) return 1;
+  if (!EveryAxisHasADevice()) return false;
   TakeNewType();
-  return 0;
+  return true;
 }
 
-int TakeDevicesOfParam() {
+bool TakeDevicesOfParam() {
   const auto devices = DevSetting;
   const auto strokes = AppState.StrokePulse;
-  if (TakeDeviceFieldsOfParam() != 0) {
+  if (!TakeDeviceFieldsOfParam()) {
     DevSetting = devices;
     AppState.StrokePulse = strokes;
-    return 1;
+    return false;
   }
   SaveDevSetting();
   RecalcLimits();
   Followers.PositionsFollowDevices();
   if (frmParameta2.Loaded) ParametaHyoji();
-  return 0;
+  return true;
 }
 
 }  // namespace tr7

@@ -52,7 +52,7 @@ void SwitchDialog(bool on) {
            &view.cmdPrmCtWrite, &view.comboAxisSelect}) {
     control->Enabled = on;
   }
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     view.chkAxisEnable[axis].Enabled = on;
     view.framAxis[axis].Enabled = on && view.chkAxisEnable[axis].Value;
   }
@@ -92,7 +92,7 @@ bool ParametersCanBeMade() {
   TakeShownDevices(frmDevice3);
   if (IniParaFromStdForWrite() != 0) return false;
   ParamSet.OneAxis = ParaFlags.AxisMask;
-  return FitOrTold(CheckStdRows() == 0 && ParaRowInRange(ParamSet, kRowOneAxis, 0));
+  return FitOrTold(CheckStdRows() && ParaRowInRange(ParamSet, kRowOneAxis, 0));
 }
 
 /// The axes that the dialogue asks for, here and in the controller.
@@ -139,7 +139,8 @@ void TellWritten(bool other_axes) {
 
 void TakeWritten() {
   doors.forms->BringToFront(frmPosi);
-  TakeDevicesOfParam();  // the standard rows just written name a device for every axis
+  static_cast<void>(
+      TakeDevicesOfParam());  // the standard rows just written name a device for every axis
 }
 
 void Write(bool was_offline) {
@@ -175,7 +176,7 @@ void Device3CMDBTN_Yuko() {
 void PrmCtWrite() {
   const DialogRests dialog_rests;
   const TransferScope transfer;
-  if (!WarnBeforeWrite() || !ParametersCanBeMade() || OpenPortOrTell() != 0) return;
+  if (!WarnBeforeWrite() || !ParametersCanBeMade() || !OpenPortOrTell()) return;
   const bool was_offline = AppState.Offline;
   LiftOffline();
   Write(was_offline);

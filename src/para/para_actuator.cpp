@@ -17,7 +17,7 @@ using Names = std::vector<std::string>;
 
 constexpr int kSizeChars = 3;
 
-bool HasDevice(std::size_t axis) { return !ParamSet.Actuator[axis].empty(); }
+bool HasDevice(int axis) { return !ParamSet.Actuator[axis].empty(); }
 
 void AddDistinct(Names& names, const std::string& name) {
   if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
@@ -25,7 +25,7 @@ void AddDistinct(Names& names, const std::string& name) {
 
 /// Names of the catalogue's rows, each once, in its order.
 template <typename Counts, typename NameOf>
-Names Collect(std::size_t axis, Counts counts, NameOf name_of) {
+Names Collect(int axis, Counts counts, NameOf name_of) {
   const DeviceListRecord& list = DeviceList[axis];
   Names names;
   for (std::size_t i = 1; i <= static_cast<std::size_t>(list.RowCount); ++i) {
@@ -40,14 +40,14 @@ std::string SizeText(const DeviceRecord& row) {
   return CharCount(row.Size) < kSizeChars ? RightAlignText(row.Size, kSizeChars) : row.Size;
 }
 
-Names SizesOf(std::size_t axis) {
+Names SizesOf(int axis) {
   Names names = Collect(
       axis, [](const DeviceRecord&) { return true; }, SizeText);
   if (HasDevice(axis)) AddDistinct(names, ParamSet.ActSize[axis]);
   return names;
 }
 
-Names SpeedsOf(std::size_t axis, const std::string& size) {
+Names SpeedsOf(int axis, const std::string& size) {
   Names names = Collect(
       axis, [&](const DeviceRecord& row) { return DeviceList[axis].SameSize(row.Size, size); },
       [](const DeviceRecord& row) { return row.Speed; });
@@ -56,7 +56,7 @@ Names SpeedsOf(std::size_t axis, const std::string& size) {
   return names;
 }
 
-Names StrokesOf(std::size_t axis, const std::string& size, const std::string& speed) {
+Names StrokesOf(int axis, const std::string& size, const std::string& speed) {
   Names names = Collect(
       axis,
       [&](const DeviceRecord& row) {
@@ -76,26 +76,26 @@ void Fill(ComboBox& list, const Names& names, const std::string& wanted) {
   if (!list.ShowText(wanted) && !names.empty()) list.ListIndex = 0;
 }
 
-int ChosenStroke(std::size_t axis) {
+int ChosenStroke(int axis) {
   return static_cast<int>(Val(frmParameta2.comboActStroke[axis].Text()));
 }
 
-bool IsChosen(std::size_t axis) {
+bool IsChosen(int axis) {
   const FrmParameta2& f = frmParameta2;
   return f.comboActSize[axis].ListIndex >= 0 && f.comboActSpeed[axis].ListIndex >= 0 &&
          f.comboActStroke[axis].ListIndex >= 0;
 }
 
-std::string ChosenActuator(std::size_t axis) {
+std::string ChosenActuator(int axis) {
   const FrmParameta2& f = frmParameta2;
   if (!IsChosen(axis)) return {};
   return JoinActuator(f.comboActSize[axis].Text(), f.comboActSpeed[axis].Text(),
                       ChosenStroke(axis));
 }
 
-void StrokePicked(std::size_t axis) { frmParameta2.txtActuator[axis].Text = ChosenActuator(axis); }
+void StrokePicked(int axis) { frmParameta2.txtActuator[axis].Text = ChosenActuator(axis); }
 
-void SpeedPicked(std::size_t axis) {
+void SpeedPicked(int axis) {
   FrmParameta2& f = frmParameta2;
   Fill(f.comboActStroke[axis],
        StrokesOf(axis, f.comboActSize[axis].Text(), f.comboActSpeed[axis].Text()),
@@ -103,7 +103,7 @@ void SpeedPicked(std::size_t axis) {
   StrokePicked(axis);
 }
 
-void SizePicked(std::size_t axis) {
+void SizePicked(int axis) {
   FrmParameta2& f = frmParameta2;
   Fill(f.comboActSpeed[axis], SpeedsOf(axis, f.comboActSize[axis].Text()),
        f.comboActSpeed[axis].Text());
@@ -112,7 +112,7 @@ void SizePicked(std::size_t axis) {
 
 }  // namespace
 
-void ShowActuator(std::size_t axis) {
+void ShowActuator(int axis) {
   FrmParameta2& f = frmParameta2;
   ClearActuator(axis);
   Fill(f.comboActSize[axis], SizesOf(axis), ParamSet.ActSize[axis]);
@@ -128,7 +128,7 @@ void ShowActuator(std::size_t axis) {
   f.txtActuator[axis].Text = ParamSet.Actuator[axis];
 }
 
-void ClearActuator(std::size_t axis) {
+void ClearActuator(int axis) {
   FrmParameta2& f = frmParameta2;
   f.comboActSize[axis].Clear();
   f.comboActSpeed[axis].Clear();
@@ -136,7 +136,7 @@ void ClearActuator(std::size_t axis) {
   f.txtActuator[axis].Text.clear();
 }
 
-void TakeActuator(std::size_t axis) {
+void TakeActuator(int axis) {
   FrmParameta2& f = frmParameta2;
   ParamSet.ActSize[axis] = f.comboActSize[axis].Text();
   ParamSet.ActSpeed[axis] = f.comboActSpeed[axis].Text();
@@ -149,7 +149,7 @@ void TakeActuator(std::size_t axis) {
 }
 
 void InstallActuatorLists() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     frmParameta2.comboActSize[axis].Click = [axis] { SizePicked(axis); };
     frmParameta2.comboActSpeed[axis].Click = [axis] { SpeedPicked(axis); };
     frmParameta2.comboActStroke[axis].Click = [axis] { StrokePicked(axis); };

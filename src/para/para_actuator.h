@@ -9,11 +9,11 @@ namespace tr7 {
 // that the catalogue lacks stands in the lists all the same.
 
 /// Fills the lists and shows the device of `ParamSet`; nothing is chosen without one.
-void ShowActuator(std::size_t axis);
+void ShowActuator(int axis);
 /// Empties the lists.
-void ClearActuator(std::size_t axis);
+void ClearActuator(int axis);
 /// Takes the chosen device into `ParamSet` and `DevSettei`.
-void TakeActuator(std::size_t axis);
+void TakeActuator(int axis);
 
 /// Handlers of the lists.
 void InstallActuatorLists();

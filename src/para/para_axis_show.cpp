@@ -21,17 +21,17 @@ void FillEntries(const ParaListField& field, ComboBox& list) {
 /// Calls `use(axis)` once for each control of a row.
 template <typename Use>
 void ForControls(int row, Use use) {
-  for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) use(axis);
+  for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) use(axis);
 }
 
 }  // namespace
 
-void ShowParaText(const ParaTextField& field, std::size_t axis) {
+void ShowParaText(const ParaTextField& field, int axis) {
   const double value = ParaValue(ParamSet, field.Row, axis);
   ParaControl(field.Place, axis).Text = PlainDecimal(std::nearbyint(value));
 }
 
-void ShowParaList(const ParaListField& field, std::size_t axis) {
+void ShowParaList(const ParaListField& field, int axis) {
   ComboBox& list = ParaControl(field.Place, axis);
   FillEntries(field, list);
   const int value = static_cast<int>(ParaValue(ParamSet, field.Row, axis));
@@ -55,7 +55,7 @@ void ShowParaAxisMask() {
   frmParameta2.comboOneAxis.ListIndex = AxisCountOfMask(ParamSet.OneAxis) - 1;
 }
 
-void ShowParaAxis(std::size_t axis) {
+void ShowParaAxis(int axis) {
   for (const ParaTextField& field : ParaTextFields()) {
     if (IsAxisRow(field.Row)) ShowParaText(field, axis);
   }
@@ -66,7 +66,7 @@ void ShowParaAxis(std::size_t axis) {
   ShowActuator(axis);
 }
 
-void ClearParaAxis(std::size_t axis) {
+void ClearParaAxis(int axis) {
   for (const ParaTextField& field : ParaTextFields()) {
     if (IsAxisRow(field.Row)) ParaControl(field.Place, axis).Text.clear();
   }
@@ -79,8 +79,7 @@ void ClearParaAxis(std::size_t axis) {
 
 void FillParaLists() {
   for (const ParaListField& field : ParaListFields()) {
-    ForControls(field.Row,
-                [&](std::size_t axis) { FillEntries(field, ParaControl(field.Place, axis)); });
+    ForControls(field.Row, [&](int axis) { FillEntries(field, ParaControl(field.Place, axis)); });
   }
   ComboBox& axes = frmParameta2.comboOneAxis;
   axes.Clear();

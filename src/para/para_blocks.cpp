@@ -65,7 +65,7 @@ constexpr std::array<RowPlace, kParaRows + 1> kPlaces = {
      Shared(kCommon, 23, 2, "POS/PRG"),
      Shared(kCommon, 25, 2, "PPUT Write")}};
 
-const RowPlace& RowAt(int row) { return kPlaces.at(static_cast<std::size_t>(row)); }
+const RowPlace& RowAt(int row) { return kPlaces.at(row); }
 
 // The parts of ACTUATOR, from the start of its place.
 constexpr std::size_t kSizeAt = 0, kSpeedAt = 2, kStrokeAt = 4, kStrokeHighAt = 6, kPart = 2;
@@ -83,7 +83,7 @@ std::string ActuatorField(const ParamSetRecord& set, int axis) {
 
 std::string FieldOf(const ParamSetRecord& set, int row, int axis, std::size_t width) {
   if (row == kRowActuator) return ActuatorField(set, axis);
-  const double value = std::nearbyint(ParaValue(set, row, static_cast<std::size_t>(axis)));
+  const double value = std::nearbyint(ParaValue(set, row, axis));
   return HexPad(static_cast<std::int64_t>(value), static_cast<int>(width));
 }
 
@@ -101,9 +101,7 @@ bool TakeField(const std::string& field, int row, int axis, Variant& item) {
   if (row == kRowActuator) return TakeActuator(field, item);
   const std::int64_t value = HexValue(field);
   ParamSetRecord scratch;
-  if (value < 0 ||
-      !SetParaValue(scratch, row, static_cast<std::size_t>(axis), static_cast<double>(value)))
-    return false;
+  if (value < 0 || !SetParaValue(scratch, row, axis, static_cast<double>(value))) return false;
   item = static_cast<double>(value);
   return true;
 }
@@ -152,8 +150,7 @@ std::optional<ParaCell> EncodePara(const ParamSetRecord& set, const AxisList& ax
       misfit = ParaCell{row, axis};
       return false;
     }
-    blocks[static_cast<std::size_t>(place.Block)].replace(place.At - kParaDataAt, place.Width,
-                                                          field);
+    blocks[place.Block].replace(place.At - kParaDataAt, place.Width, field);
     return true;
   });
   return misfit;
@@ -163,9 +160,8 @@ bool DecodePara(const ParaBlocks& blocks, const AxisList& axes, ParaTableRecord&
   ParaTableRecord read = ZeroTable();
   const bool good = ForEachCell(axes, [&](int row, int axis) {
     const ParaPlace place = PlaceOfPara(row, axis);
-    const std::string& data = blocks[static_cast<std::size_t>(place.Block)];
-    return TakeField(data.substr(place.At - kParaDataAt, place.Width), row, axis,
-                     read[static_cast<std::size_t>(axis)][static_cast<std::size_t>(row)]);
+    const std::string& data = blocks[place.Block];
+    return TakeField(data.substr(place.At - kParaDataAt, place.Width), row, axis, read[axis][row]);
   });
   if (good) table = read;
   return good;

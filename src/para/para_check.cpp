@@ -36,7 +36,7 @@ bool JogVelHolds(int lead, int vel) {
   return true;
 }
 
-bool ActuatorHolds(const ParamSetRecord& set, std::size_t axis) {
+bool ActuatorHolds(const ParamSetRecord& set, int axis) {
   return !set.Actuator[axis].empty() && CharCount(set.ActSize[axis]) == 3 &&
          !set.ActSpeed[axis].empty() && set.ActStroke[axis] >= 0 &&
          set.ActStroke[axis] <= kMaxActStroke;
@@ -44,7 +44,7 @@ bool ActuatorHolds(const ParamSetRecord& set, std::size_t axis) {
 
 }  // namespace
 
-bool ParaRowInRange(const ParamSetRecord& set, int row, std::size_t axis) {
+bool ParaRowInRange(const ParamSetRecord& set, int row, int axis) {
   switch (row) {
     case kRowHomeVel:
       return HomeVelRange(set.AxisLead[axis]).Holds(set.HomeVel[axis]);
@@ -55,13 +55,13 @@ bool ParaRowInRange(const ParamSetRecord& set, int row, std::size_t axis) {
     case kRowOneAxis:
       return set.OneAxis == 1 || set.OneAxis == 3 || set.OneAxis == 7 || set.OneAxis == 15;
     default:
-      return kRanges.at(static_cast<std::size_t>(row)).Holds(ParaValue(set, row, axis));
+      return kRanges.at(row).Holds(ParaValue(set, row, axis));
   }
 }
 
 int ParametaValueCheck() {
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
       const bool counts = !IsAxisRow(row) || IsLiveAxis(axis);
       if (counts && !ParaRowInRange(ParamSet, row, axis)) return 1;
     }

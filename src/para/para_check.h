@@ -8,7 +8,7 @@ namespace tr7 {
 
 /// True when the value of this row (1 to 34), at axis 0 for a controller row, is within the range
 /// that the controller takes. Some limits follow the lead of the same axis.
-bool ParaRowInRange(const ParamSetRecord& set, int row, std::size_t axis);
+bool ParaRowInRange(const ParamSetRecord& set, int row, int axis);
 
 /// Range check of `ParamSet` over the live axes and the controller rows: 0 good, 1 some value is
 /// out of range. Shows nothing: callers show messages 9 and 10.

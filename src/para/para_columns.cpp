@@ -22,14 +22,14 @@ template <typename Fields, typename MayBeOn>
 void EnableFields(const Fields& fields, const Liveness& live, MayBeOn may_be_on) {
   for (const auto& field : fields) {
     const bool per_axis = IsAxisRow(field.Row);
-    for (std::size_t axis = 0; axis < (per_axis ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (per_axis ? kAxes : 1); ++axis) {
       ParaControl(field.Place, axis).Enabled =
           live.Row(field.Row) && may_be_on(field) && (!per_axis || IsLiveAxis(axis));
     }
   }
 }
 
-void EnableOfAxis(std::size_t axis, const Liveness& live) {
+void EnableOfAxis(int axis, const Liveness& live) {
   FrmParameta2& f = frmParameta2;
   const bool on = live.on && IsLiveAxis(axis);
   for (const ParaMmField& field : ParaMmFields()) field.MmBox(axis).Enabled = on;
@@ -57,7 +57,7 @@ void EnableParaControls() {
   EnableFields(ParaTextFields(), live,
                [](const ParaTextField& field) { return field.MaxLength > 0; });
   EnableFields(ParaListFields(), live, [](const ParaListField&) { return true; });
-  for (std::size_t axis = 0; axis < kAxes; ++axis) EnableOfAxis(axis, live);
+  for (int axis = 0; axis < kAxes; ++axis) EnableOfAxis(axis, live);
   for (const ParaOptionField& field : ParaOptionFields()) {
     for (OptionButton& option : f.*field.Place) option.Enabled = live.sp;
   }
@@ -68,7 +68,7 @@ void EnableParaControls() {
 
 void SettleParaColumns() {
   const bool changed = ParaIsChanged();
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const bool live = IsLiveAxis(axis);
     bool& shown = frmParameta2.LiveColumns[axis];
     if (!live) ClearParaAxis(axis);

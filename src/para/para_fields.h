@@ -18,7 +18,7 @@ using ParaPlace = std::variant<PerAxis<Kind> FrmParameta2::*, Kind FrmParameta2:
 
 /// The control of this axis (0 to 3); the axis does not matter where the controller has one.
 template <typename Kind>
-Kind& ParaControl(const ParaPlace<Kind>& place, std::size_t axis) {
+Kind& ParaControl(const ParaPlace<Kind>& place, int axis) {
   if (const auto* single = std::get_if<Kind FrmParameta2::*>(&place))
     return frmParameta2.*(*single);
   return (frmParameta2.*std::get<PerAxis<Kind> FrmParameta2::*>(place))[axis];
@@ -58,8 +58,8 @@ struct ParaMmField {
   PerAxis<TextBox> FrmParameta2::*Pulses;
   ParamSetRecord::PerAxis<double> ParamSetRecord::*Value;
   ParamSetRecord::PerAxis<std::string> ParamSetRecord::*Text;
-  TextBox& MmBox(std::size_t axis) const { return (frmParameta2.*Mm)[axis]; }
-  TextBox& PulseBox(std::size_t axis) const { return (frmParameta2.*Pulses)[axis]; }
+  TextBox& MmBox(int axis) const { return (frmParameta2.*Mm)[axis]; }
+  TextBox& PulseBox(int axis) const { return (frmParameta2.*Pulses)[axis]; }
 };
 /// STROKE, ZONE1, ZONE2.
 const std::vector<ParaMmField>& ParaMmFields();

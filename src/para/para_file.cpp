@@ -87,7 +87,7 @@ bool Reading::ReadSections(int count) {
   for (int index = 0; index < count; ++index) {
     std::string tag;
     if (index < known) {
-      if (!ReadSection(kSections[static_cast<std::size_t>(index)])) return false;
+      if (!ReadSection(kSections[index])) return false;
     } else if (!items_.ReadText(tag)) {
       // Of a section beyond the known ones no more than this is asked for.
       return Fail(Text(kMsgHeadDamaged));
@@ -113,7 +113,7 @@ bool Reading::ReadRows() {
   }
   for (const int end = row_ + rows; row_ < end; ++row_) {
     for (int column = 0; column < columns; ++column) {
-      Variant& slot = table_[static_cast<std::size_t>(column)][static_cast<std::size_t>(row_)];
+      Variant& slot = table_[column][row_];
       if (!items_.ReadItem(slot)) return false;
     }
   }
@@ -136,7 +136,7 @@ void WriteSections(SeqWriter& file, const ParaTableRecord& table) {
     file.Number(kAxes);
     file.EndLine();
     for (const std::size_t end = row + static_cast<std::size_t>(section.rows); row < end; ++row) {
-      for (std::size_t axis = 0; axis < kAxes; ++axis) file.Item(table[axis][row]);
+      for (int axis = 0; axis < kAxes; ++axis) file.Item(table[axis][row]);
       file.EndLine();
     }
   }

@@ -38,34 +38,33 @@ Attempt Read(const std::string& path) {
 }
 
 /// What was read into `ParamSet`: all of it, or nothing with `ParaFileBad`.
-int TakeOver() {
-  if (TakeParamTable() == 0) return 0;
+bool TakeOver() {
+  if (TakeParamTable() == 0) return true;
   ParaFlags.ParaFileBad = True;
   ParaFlags.FileFaultText = Text(kMsgBadValue, ParaRowName(RefusedParaRow()));
-  return 1;
+  return false;
 }
 
 /// Why the devices of `ParamSet` cannot serve: no position could be converted. Empty: they can.
 std::string DeviceTrouble() {
   bool any = false;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if ((ParamSet.OneAxis >> axis & 1) == 0) continue;
+  for (const int axis : AxisList(ParamSet.OneAxis)) {
     any = true;
     if (ParamSet.AxisLead[axis] > 0 && ParamSet.AxisPulse[axis] > 0) continue;
-    return Text(kMsgNoScale, Text(MsgId::At(kMsgAxis1, static_cast<int>(axis))));
+    return Text(kMsgNoScale, Text(MsgId::At(kMsgAxis1, axis)));
   }
   return any ? std::string() : Text(kMsgNoAxis);
 }
 
 /// The same for a file whose devices come into use.
-int TakeOverForDevice() {
+bool TakeOverForDevice() {
   const ParamSetRecord before = ParamSet;
-  if (TakeOver() != 0) return 1;
+  if (!TakeOver()) return false;
   ParaFlags.FileFaultText = DeviceTrouble();
-  if (ParaFlags.FileFaultText.empty()) return 0;
+  if (ParaFlags.FileFaultText.empty()) return true;
   ParaFlags.ParaFileBad = True;
   ParamSet = before;
-  return 1;
+  return false;
 }
 
 /// Takes the view into `ParamSet`. False after the user has been told what is missing or wrong.
@@ -115,7 +114,7 @@ void OpenParaFile() {
   const BusyScope busy;
   const auto path = AskOpenPath(kParaDataFile, 686);
   if (!path || path->empty()) return;
-  if (Read(*path) != Attempt::Good || TakeOver() != 0) {
+  if (Read(*path) != Attempt::Good || !TakeOver()) {
     TellFileFault(kMsgOpenFailed);
     return;
   }
@@ -128,7 +127,7 @@ int OpenParaForDevice() {
   const BusyScope busy;
   const auto path = AskOpenPath(kParaDataFile, 686);
   if (!path || path->empty()) return 1;
-  if (TryFourTimes([&] { return Read(*path); }) && TakeOverForDevice() == 0) return 0;
+  if (TryFourTimes([&] { return Read(*path); }) && TakeOverForDevice()) return 0;
   TellFileFault(kMsgOpenFailed);
   return 1;
 }

@@ -17,7 +17,7 @@ bool IsEmpty(const ComboBox& list) { return list.ListIndex < 0; }
 /// Gathers the empty fields and keeps the first in the order of the Tab key.
 class FirstEmpty {
  public:
-  void Add(Control& control, bool per_axis, std::size_t axis) {
+  void Add(Control& control, bool per_axis, int axis) {
     const auto& controls = frmParameta2.Controls;
     const auto place = std::find(controls.begin(), controls.end(), &control) - controls.begin();
     if (first_.Field && place >= place_) return;
@@ -25,7 +25,7 @@ class FirstEmpty {
     first_ = {&control, ParaFieldName(control, per_axis, axis)};
   }
   template <typename Kind>
-  void AddIfEmpty(Kind& control, bool per_axis, std::size_t axis = 0) {
+  void AddIfEmpty(Kind& control, bool per_axis, int axis = 0) {
     if (IsEmpty(control)) Add(control, per_axis, axis);
   }
   const MissingParaField& First() const { return first_; }
@@ -36,7 +36,7 @@ class FirstEmpty {
 };
 
 /// The field that is typed into: pulses that are never typed follow the field in mm.
-TextBox& TypedBox(const ParaTextField& field, std::size_t axis) {
+TextBox& TypedBox(const ParaTextField& field, int axis) {
   if (field.MaxLength == 0) {
     for (const ParaMmField& mm : ParaMmFields()) {
       if (mm.Row == field.Row) return mm.MmBox(axis);
@@ -45,21 +45,21 @@ TextBox& TypedBox(const ParaTextField& field, std::size_t axis) {
   return ParaControl(field.Place, axis);
 }
 
-void AddTexts(FirstEmpty& empty, bool per_axis, std::size_t axis) {
+void AddTexts(FirstEmpty& empty, bool per_axis, int axis) {
   for (const ParaTextField& field : ParaTextFields()) {
     if (IsAxisRow(field.Row) != per_axis || !IsEmpty(ParaControl(field.Place, axis))) continue;
     empty.Add(TypedBox(field, axis), per_axis, axis);
   }
 }
 
-void AddLists(FirstEmpty& empty, bool per_axis, std::size_t axis) {
+void AddLists(FirstEmpty& empty, bool per_axis, int axis) {
   for (const ParaListField& field : ParaListFields()) {
     if (IsAxisRow(field.Row) != per_axis) continue;
     empty.AddIfEmpty(ParaControl(field.Place, axis), per_axis, axis);
   }
 }
 
-void AddAxis(FirstEmpty& empty, std::size_t axis) {
+void AddAxis(FirstEmpty& empty, int axis) {
   FrmParameta2& f = frmParameta2;
   AddTexts(empty, true, axis);
   AddLists(empty, true, axis);
@@ -78,16 +78,16 @@ void AddController(FirstEmpty& empty) {
 }
 
 /// An AXIS that no entry stands for leaves it to the columns.
-bool Counts(std::size_t axis) {
+bool Counts(int axis) {
   const int last = frmParameta2.comboOneAxis.ListIndex;
-  return IsLiveAxis(axis) && (last < 0 || axis <= static_cast<std::size_t>(last));
+  return IsLiveAxis(axis) && (last < 0 || axis <= last);
 }
 
 }  // namespace
 
 MissingParaField FirstMissingParaField() {
   FirstEmpty empty;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (Counts(axis)) AddAxis(empty, axis);
   }
   AddController(empty);

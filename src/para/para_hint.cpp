@@ -19,7 +19,7 @@ std::string ParaRangeText(const std::string& low, const std::string& high) {
   return Text(kMsgRange, low, high);
 }
 
-std::string ParaFieldName(const Control& control, bool per_axis, std::size_t axis) {
+std::string ParaFieldName(const Control& control, bool per_axis, int axis) {
   const auto& controls = frmParameta2.Controls;
   std::string row;
   for (const Control* other : controls) {

@@ -14,7 +14,7 @@ std::string ParaRangeText(const std::string& low, const std::string& high);
 
 /// "AXIS2 PUSH  Home push", or the row's name alone where the controller has one field (`per_axis`
 /// false). The row's name is the label in front of the controls.
-std::string ParaFieldName(const Control& control, bool per_axis, std::size_t axis);
+std::string ParaFieldName(const Control& control, bool per_axis, int axis);
 
 /// A field got the focus: its hint, or nothing for an empty one. The refusal of the field before
 /// stays readable.

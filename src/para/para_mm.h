@@ -14,19 +14,19 @@ namespace tr7 {
 std::string ParaMmText(double mm);
 
 /// True when LEAD and PULSE of this axis hold something.
-bool HasLeadAndPulse(std::size_t axis);
+bool HasLeadAndPulse(int axis);
 
 /// The mm field from the pulse field; empty when there is nothing to convert or by.
-void ShowMmOfPulses(const ParaMmField& field, std::size_t axis);
+void ShowMmOfPulses(const ParaMmField& field, int axis);
 
 /// The pulse field from the mm field, whose text stays.
-void ShowPulsesOfMm(const ParaMmField& field, std::size_t axis);
+void ShowPulsesOfMm(const ParaMmField& field, int axis);
 
 /// Where a length exactly between two pulses goes.
 enum class MmTie { ToEven, AsUserChose };
 
 /// Both fields from the mm field: cut to 7 characters and 3 decimals, then to the nearest pulse.
 /// False, and both stay, when they cannot be converted.
-bool RoundParaMm(const ParaMmField& field, std::size_t axis, MmTie tie);
+bool RoundParaMm(const ParaMmField& field, int axis, MmTie tie);
 
 }  // namespace tr7

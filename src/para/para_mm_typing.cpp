@@ -19,12 +19,12 @@ bool IsEmpty(const TextBox& box) { return Trim(box.Text).empty(); }
 
 bool IsZone(const ParaMmField& field) { return field.Row != kRowStroke; }
 
-const TextBox& StrokeBox(std::size_t axis) { return frmParameta2.txtAxisMmStroke[axis]; }
+const TextBox& StrokeBox(int axis) { return frmParameta2.txtAxisMmStroke[axis]; }
 
-double WholeStroke(std::size_t axis) { return std::trunc(Val(StrokeBox(axis).Text)); }
+double WholeStroke(int axis) { return std::trunc(Val(StrokeBox(axis).Text)); }
 
 /// Nothing while the length has no bound yet.
-std::string RangeOf(const ParaMmField& field, std::size_t axis) {
+std::string RangeOf(const ParaMmField& field, int axis) {
   if (IsZone(field)) {
     return IsEmpty(StrokeBox(axis)) ? "" : ParaRangeText("0", PlainDecimal(WholeStroke(axis)));
   }
@@ -35,7 +35,7 @@ std::string RangeOf(const ParaMmField& field, std::size_t axis) {
 }
 
 /// What the length needs before it can be taken; a message and an empty field without it.
-bool HasInputs(const ParaMmField& field, std::size_t axis) {
+bool HasInputs(const ParaMmField& field, int axis) {
   if (!HasLeadAndPulse(axis)) {
     MsgBox(TwoLines(694, 695));
   } else if (IsZone(field) && IsEmpty(StrokeBox(axis))) {
@@ -47,13 +47,13 @@ bool HasInputs(const ParaMmField& field, std::size_t axis) {
   return false;
 }
 
-bool IsInRange(const ParaMmField& field, std::size_t axis) {
+bool IsInRange(const ParaMmField& field, int axis) {
   if (!IsZone(field)) return true;
   const double mm = CutMmText(field.MmBox(axis).Text);
   return mm >= 0 && mm <= WholeStroke(axis);
 }
 
-void MmLeft(const ParaMmField& field, std::size_t axis) {
+void MmLeft(const ParaMmField& field, int axis) {
   if (!IsLiveAxis(axis)) return;
   TextBox& box = field.MmBox(axis);
   if (!IsEmpty(box) && HasInputs(field, axis) &&
@@ -66,11 +66,11 @@ void MmLeft(const ParaMmField& field, std::size_t axis) {
 }
 
 /// A length that is deleted leaves no pulses behind.
-void MmTyped(const ParaMmField& field, std::size_t axis) {
+void MmTyped(const ParaMmField& field, int axis) {
   if (IsEmpty(field.MmBox(axis))) field.PulseBox(axis).Text.clear();
 }
 
-void InstallField(const ParaMmField& field, std::size_t axis) {
+void InstallField(const ParaMmField& field, int axis) {
   TextBox& box = field.MmBox(axis);
   box.MaxLength = kParaMmChars;
   box.AllowedChars = kMmChars;
@@ -81,7 +81,7 @@ void InstallField(const ParaMmField& field, std::size_t axis) {
 
 }  // namespace
 
-void LengthsFollowScale(std::size_t axis) {
+void LengthsFollowScale(int axis) {
   if (!HasLeadAndPulse(axis)) return;
   for (const ParaMmField& field : ParaMmFields()) {
     if (IsEmpty(field.MmBox(axis))) {
@@ -94,7 +94,7 @@ void LengthsFollowScale(std::size_t axis) {
 
 void InstallParaMmTyping() {
   for (const ParaMmField& field : ParaMmFields()) {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       InstallField(field, axis);
       if (!IsZone(field)) {
         field.PulseBox(axis).Change = [&field, axis] { ShowMmOfPulses(field, axis); };

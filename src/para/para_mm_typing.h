@@ -9,7 +9,7 @@ namespace tr7 {
 
 /// LEAD or PULSE of this axis may have changed: the pulses follow the lengths in mm, or these the
 /// pulses where there are none yet.
-void LengthsFollowScale(std::size_t axis);
+void LengthsFollowScale(int axis);
 
 void InstallParaMmTyping();
 

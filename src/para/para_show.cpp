@@ -8,9 +8,7 @@ namespace tr7 {
 void ParametaHyoji() {
   frmParameta2.FormerTexts.clear();  // of other parameters
   SettleParaColumns();
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (IsLiveAxis(axis)) ShowParaAxis(axis);
-  }
+  for (const int axis : AxisList(LiveAxisMask())) ShowParaAxis(axis);
   for (const ParaTextField& field : ParaTextFields()) {
     if (!IsAxisRow(field.Row)) ShowParaText(field, 0);
   }

@@ -12,14 +12,14 @@ double ListValue(const ParaListField& field, const ComboBox& list) {
   if (index < 0 || index >= field.Guard || index >= static_cast<int>(list.ItemData.size())) {
     return 0;
   }
-  return list.ItemData[static_cast<std::size_t>(index)];
+  return list.ItemData[index];
 }
 
-void TakeText(const ParaTextField& field, std::size_t axis) {
+void TakeText(const ParaTextField& field, int axis) {
   SetParaValue(ParamSet, field.Row, axis, Val(ParaControl(field.Place, axis).Text));
 }
 
-void TakeList(const ParaListField& field, std::size_t axis) {
+void TakeList(const ParaListField& field, int axis) {
   SetParaValue(ParamSet, field.Row, axis, ListValue(field, ParaControl(field.Place, axis)));
 }
 
@@ -28,7 +28,7 @@ void TakeOption(const ParaOptionField& field) {
   SetParaValue(ParamSet, field.Row, 0, first ? field.FirstValue : 1 - field.FirstValue);
 }
 
-void TakeAxisRows(std::size_t axis) {
+void TakeAxisRows(int axis) {
   for (const ParaTextField& field : ParaTextFields()) {
     if (IsAxisRow(field.Row)) TakeText(field, axis);
   }
@@ -51,7 +51,7 @@ void TakeControllerRows() {
 }
 
 /// The mm field wins; where it is empty beside pulses, these count.
-void TakeLength(const ParaMmField& field, std::size_t axis) {
+void TakeLength(const ParaMmField& field, int axis) {
   TextBox& mm = field.MmBox(axis);
   if (Trim(mm.Text).empty()) {
     ShowMmOfPulses(field, axis);
@@ -66,12 +66,9 @@ void TakeLength(const ParaMmField& field, std::size_t axis) {
 }  // namespace
 
 void TorikomiParametaValue() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (IsLiveAxis(axis)) TakeAxisRows(axis);
-  }
+  for (const int axis : AxisList(LiveAxisMask())) TakeAxisRows(axis);
   TakeControllerRows();
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (!IsLiveAxis(axis)) continue;
+  for (const int axis : AxisList(LiveAxisMask())) {
     for (const ParaMmField& field : ParaMmFields()) TakeLength(field, axis);
   }
 }

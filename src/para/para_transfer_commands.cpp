@@ -30,9 +30,7 @@ constexpr int kReadReplyLength = 38;
 constexpr int kWriteReplyLength = 6;
 constexpr std::size_t kEcho = 4;  // command and block character
 
-std::string& DataOf(ParaBlocks& blocks, int block) {
-  return blocks[static_cast<std::size_t>(block)];
-}
+std::string& DataOf(ParaBlocks& blocks, int block) { return blocks[block]; }
 
 Outcome ReadBlock(int block, std::string& data) {
   std::string reply;
@@ -50,8 +48,7 @@ Outcome SendBlock(int block, const std::string& data, int timeout_ms) {
 /// Runs `step` for each of these blocks.
 Outcome EachBlock(Bulk& bulk, const std::vector<int>& wanted,
                   const std::function<Outcome(int block)>& step) {
-  return bulk.Each(0, static_cast<int>(wanted.size()) - 1,
-                   [&](int i) { return step(wanted[static_cast<std::size_t>(i)]); });
+  return bulk.Each(0, static_cast<int>(wanted.size()) - 1, [&](int i) { return step(wanted[i]); });
 }
 
 /// The axis mask's own form has spoilt what block 0 keeps beside the rows: what it replaced counts.

@@ -22,7 +22,7 @@ std::string RangeOf(const ParaTextField& field) {
   return ParaRangeText(PlainDecimal(field.Low), PlainDecimal(field.High));
 }
 
-void FieldLeft(const ParaTextField& field, std::size_t axis) {
+void FieldLeft(const ParaTextField& field, int axis) {
   TextBox& box = ParaControl(field.Place, axis);
   const double value = Val(box.Text);
   if (!box.Text.empty() && field.HasRange() && (value < field.Low || value > field.High)) {
@@ -34,7 +34,7 @@ void FieldLeft(const ParaTextField& field, std::size_t axis) {
   if (field.Row == kRowLead || field.Row == kRowPulse) LengthsFollowScale(axis);
 }
 
-void InstallField(const ParaTextField& field, std::size_t axis) {
+void InstallField(const ParaTextField& field, int axis) {
   TextBox& box = ParaControl(field.Place, axis);
   box.MaxLength = field.MaxLength;
   box.AllowedChars = field.Row == kRowSeq ? kOrderDigits : kDigits;
@@ -52,7 +52,7 @@ void GoToNextField(const Control& from) {
   const auto here = std::find(controls.begin(), controls.end(), &from) - controls.begin();
   const auto count = static_cast<std::ptrdiff_t>(controls.size());
   for (std::ptrdiff_t step = 1; step < count; ++step) {
-    Control* control = controls[static_cast<std::size_t>((here + step) % count)];
+    Control* control = controls[(here + step) % count];
     if (!control->Enabled || !control->Visible || !TakesEnter(control)) continue;
     doors.forms->SetFocus(*control);
     return;
@@ -64,7 +64,7 @@ void GoToNextField(const Control& from) {
 void InstallParaTyping() {
   for (const ParaTextField& field : ParaTextFields()) {
     if (field.MaxLength == 0) continue;
-    for (std::size_t axis = 0; axis < (IsAxisRow(field.Row) ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (IsAxisRow(field.Row) ? kAxes : 1); ++axis) {
       InstallField(field, axis);
     }
   }

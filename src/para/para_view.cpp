@@ -27,16 +27,15 @@ constexpr int kMsgSaveBeforeOpen = 6450;
 
 /// The lists of the axes in use, as far as they are not in memory yet. A missing file is told once.
 void ReadDeviceLists() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (!IsLiveAxis(axis) || DeviceList[axis].RowCount > 0) continue;
+  for (const int axis : AxisList(LiveAxisMask())) {
+    if (DeviceList[axis].RowCount > 0) continue;
     const bool is_new = DevSetting[axis].NotChosen || DevSetting[axis].NewType;
-    const int number = static_cast<int>(axis);
-    if ((is_new ? ReadDeviceListNewAxis(number) : ReadDeviceListOldAxis(number)) != 0) return;
+    if ((is_new ? ReadDeviceListNewAxis(axis) : ReadDeviceListOldAxis(axis)) != 0) return;
   }
 }
 
 void ClearFields() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) ClearParaAxis(axis);
+  for (int axis = 0; axis < kAxes; ++axis) ClearParaAxis(axis);
   for (const ParaTextField& field : ParaTextFields()) {
     if (!IsAxisRow(field.Row)) ParaControl(field.Place, 0).Text.clear();
   }

@@ -31,7 +31,7 @@ const std::array<RowField, kParaRows + 1> kFields = {
     &Set::AutoStartPrg, &Set::OneAxis,    &Set::AutoHome,   &Set::PgTimer,    &Set::LsSearchTimer,
     &Set::SoftLimit,    &Set::EmgLogic,   &Set::Alm1Clear,  &Set::PosPrg,     &Set::PputWrite};
 
-const RowField& FieldOf(int row) { return kFields.at(static_cast<std::size_t>(row)); }
+const RowField& FieldOf(int row) { return kFields.at(row); }
 
 bool Store(double& slot, double value) {
   if (!std::isfinite(value)) return false;
@@ -50,7 +50,7 @@ bool Store(Whole& slot, double value) {
 
 /// Calls `use` with the slot of this row and axis.
 template <typename SetRef, typename Use>
-void WithSlot(SetRef& set, int row, std::size_t axis, Use use) {
+void WithSlot(SetRef& set, int row, int axis, Use use) {
   std::visit(
       [&](auto field) {
         using Field = decltype(field);
@@ -73,7 +73,7 @@ bool NumberOf(const Variant& item, double& value) {
   return reader.AtEnd() || (reader.ReadNumber(value) && reader.AtEnd());
 }
 
-bool TakeItem(const Variant& item, int row, std::size_t axis, ParamSetRecord& set) {
+bool TakeItem(const Variant& item, int row, int axis, ParamSetRecord& set) {
   if (row == kRowActuator) {
     set.Actuator[axis] = TextOf(item);
     CutActuator(set, axis);
@@ -86,8 +86,8 @@ bool TakeItem(const Variant& item, int row, std::size_t axis, ParamSetRecord& se
 /// `ParaTable` into `set`, up to the first row with an item that does not fit: its number, or 0.
 int TakeRows(ParamSetRecord& set) {
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
-      const Variant& item = ParaTable[axis][static_cast<std::size_t>(row)];
+    for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+      const Variant& item = ParaTable[axis][row];
       if (!TakeItem(item, row, axis, set)) return row;
     }
   }
@@ -105,19 +105,19 @@ bool IsAxisRow(int row) {
   return row == kRowActuator || !std::holds_alternative<std::int16_t Set::*>(FieldOf(row));
 }
 
-double ParaValue(const ParamSetRecord& set, int row, std::size_t axis) {
+double ParaValue(const ParamSetRecord& set, int row, int axis) {
   double value = 0;
   WithSlot(set, row, axis, [&](const auto& slot) { value = slot; });
   return value;
 }
 
-bool SetParaValue(ParamSetRecord& set, int row, std::size_t axis, double value) {
+bool SetParaValue(ParamSetRecord& set, int row, int axis, double value) {
   bool stored = false;
   WithSlot(set, row, axis, [&](auto& slot) { stored = Store(slot, value); });
   return stored;
 }
 
-void CutActuator(ParamSetRecord& set, std::size_t axis) {
+void CutActuator(ParamSetRecord& set, int axis) {
   const std::string& text = set.Actuator[axis];
   const bool long_size = CharCount(text) == 7;
   const int size = long_size ? 3 : 2;
@@ -149,8 +149,8 @@ int RefusedParaRow() {
 ParaTableRecord ParaTableOf(const ParamSetRecord& set) {
   ParaTableRecord table;
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
-      Variant& item = table[axis][static_cast<std::size_t>(row)];
+    for (int axis = 0; axis < kAxes; ++axis) {
+      Variant& item = table[axis][row];
       if (row == kRowActuator) {
         item = set.Actuator[axis];
       } else {
@@ -161,12 +161,7 @@ ParaTableRecord ParaTableOf(const ParamSetRecord& set) {
   return table;
 }
 
-bool IsLiveAxis(std::size_t axis) {
-  if (ParaFlags.ShownAxisCount > 0) {
-    return axis < static_cast<std::size_t>(ParaFlags.ShownAxisCount);
-  }
-  return !AppState.AxisMuko[axis];
-}
+bool IsLiveAxis(int axis) { return InMask(LiveAxisMask(), axis); }
 
 int LiveAxisMask() {
   return ParaFlags.ShownAxisCount > 0 ? (1 << ParaFlags.ShownAxisCount) - 1 : AxesInUseMask();

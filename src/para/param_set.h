@@ -84,14 +84,14 @@ inline constexpr int kRowHomeVel = 3, kRowStroke = 7, kRowLead = 8, kRowPulse = 
 /// True for a row (1 to 34) with one value per axis.
 bool IsAxisRow(int row);
 /// The value of a numeric row (any but `kRowActuator`).
-double ParaValue(const ParamSetRecord& set, int row, std::size_t axis);
+double ParaValue(const ParamSetRecord& set, int row, int axis);
 /// Stores a value, halves to the even neighbour where the row is whole; false, and nothing stored,
 /// when the row's type cannot hold it.
-bool SetParaValue(ParamSetRecord& set, int row, std::size_t axis, double value);
+bool SetParaValue(ParamSetRecord& set, int row, int axis, double value);
 
 /// Cuts the device text into `ActSize`, `ActSpeed` and `ActStroke`: 7 characters hold a size of 3,
 /// any other text a size of 2, which gets a blank in front.
-void CutActuator(ParamSetRecord& set, std::size_t axis);
+void CutActuator(ParamSetRecord& set, int axis);
 /// The device text: size, speed, and the stroke (mm) in 3 digits.
 std::string JoinActuator(const std::string& size, const std::string& speed, int stroke);
 
@@ -139,7 +139,7 @@ extern ParaFlagsRecord ParaFlags;
 
 /// True for an axis whose parameters count: `AxisAbsent` (here `AxisMuko`) decides, unless the user
 /// has set another number of axes in the parameter view.
-bool IsLiveAxis(std::size_t axis);
+bool IsLiveAxis(int axis);
 /// The live axes as a mask.
 int LiveAxisMask();
 

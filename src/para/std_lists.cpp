@@ -48,7 +48,7 @@ int TellNoList(const std::string& reason) {
   return 1;
 }
 
-int ReadStdListOfAxis(std::size_t axis) {
+int ReadStdListOfAxis(int axis) {
   const DevSettingRecord& device = DevSettei[axis];
   if (device.Series != "QV") return 0;
   std::string reason;
@@ -95,23 +95,23 @@ int ScanFor(const DevSettingRecord& device, const StdList& list) {
 
 const StdRow* RowAt(const StdList& list, int number) {
   if (number < 1 || number > static_cast<int>(list.size())) return nullptr;
-  return &list[static_cast<std::size_t>(number - 1)];
+  return &list[number - 1];
 }
 
 /// Values of a list have been seen to fit their rows when it was read.
-void Set(int row, std::size_t axis, double value) { SetParaValue(ParamSet, row, axis, value); }
+void Set(int row, int axis, double value) { SetParaValue(ParamSet, row, axis, value); }
 
 double Common(int para_row, std::size_t column = 1) {
-  return CommonTable[static_cast<std::size_t>(para_row - kCommonFirstPara)][column];
+  return CommonTable[para_row - kCommonFirstPara][column];
 }
 
-void SetFromCommon(int para_row, std::size_t axis) { Set(para_row, axis, Common(para_row)); }
+void SetFromCommon(int para_row, int axis) { Set(para_row, axis, Common(para_row)); }
 
 /// The rows 1 to 13 that both forms take, without SEQ and AUTODRIVE.
-void SetFromRow(const StdRow& row, std::size_t axis) {
+void SetFromRow(const StdRow& row, int axis) {
   for (int i = 1; i <= kRowType; ++i) {
     if (i == kRowSeq || i == kRowAutoDrive) continue;
-    Set(i, axis, row.Values[static_cast<std::size_t>(i)]);
+    Set(i, axis, row.Values[i]);
   }
   ParamSet.Actuator[axis] = row.Actuator;
   ParamSet.ActSize[axis] = row.Model.Size;
@@ -119,7 +119,7 @@ void SetFromRow(const StdRow& row, std::size_t axis) {
   ParamSet.ActStroke[axis] = static_cast<std::int16_t>(row.Model.Stroke);
 }
 
-void SetPg(std::size_t axis) {
+void SetPg(int axis) {
   const std::size_t column = DevSettei[axis].WithPG ? 2 : 1;
   for (const int row : {kRowFunction, kRowAlm}) Set(row, axis, Common(row, column));
 }
@@ -134,9 +134,9 @@ void SetAxisMask() {
 
 /// The device may be offered all the same: whoever has it from the old catalogue finds it counted
 /// as of the new type, whose list may lack it.
-void NameMissing(std::size_t axis) {
+void NameMissing(int axis) {
   const DevSettingRecord& device = DevSettei[axis];
-  ParaFlags.FileFaultText = Text(kMsgNoRow, Text(MsgId::At(kMsgAxis1, static_cast<int>(axis))),
+  ParaFlags.FileFaultText = Text(kMsgNoRow, Text(MsgId::At(kMsgAxis1, axis)),
                                  device.Size + device.Speed + "-" + SpacePad(device.Stroke, 3));
 }
 
@@ -145,8 +145,7 @@ void NameMissing(std::size_t axis) {
 template <typename Fill>
 bool FillPresentAxes(int& last_scan, Fill fill) {
   bool all_found = true;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
+  for (const int axis : AxesInUse()) {
     last_scan = ScanFor(DevSettei[axis], StdTable[axis]);
     const StdRow* row = RowAt(StdTable[axis], last_scan);
     if (row) SetFromRow(*row, axis);
@@ -158,14 +157,14 @@ bool FillPresentAxes(int& last_scan, Fill fill) {
   return all_found;
 }
 
-bool Holds(int row, std::size_t axis) {
+bool Holds(int row, int axis) {
   if (row != kRowType) return ParaRowInRange(ParamSet, row, axis);
   return ParamSet.AxisType[axis] >= 0 && ParamSet.AxisType[axis] <= kHighestType;
 }
 
 bool AllHold(std::initializer_list<int> rows) {
   for (const int row : rows) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
       const bool counts = !IsAxisRow(row) || !AppState.AxisMuko[axis];
       if (counts && !Holds(row, axis)) return false;
     }
@@ -179,7 +178,7 @@ int ReadStdLists() {
   for (StdList& list : StdTable) list.clear();
   CommonTable = CommonTableRecord{};
   ParaFlags.FileFaultText.clear();
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (ReadStdListOfAxis(axis) != 0) return 1;
   }
   return ReadCommonList();
@@ -188,7 +187,7 @@ int ReadStdLists() {
 int IniParaFromStd() {
   if (ReadStdLists() != 0) return TellFailed();
   int last_scan = 0;
-  const bool all_found = FillPresentAxes(last_scan, [](std::size_t axis, const StdRow* row) {
+  const bool all_found = FillPresentAxes(last_scan, [](int axis, const StdRow* row) {
     if (row) Set(kRowAutoDrive, axis, row->Values[kRowAutoDrive]);
     for (int i = kCommonFirstPara; i <= kParaRows; ++i) {
       if (IsCommonAxisRow(i)) SetFromCommon(i, axis);
@@ -196,7 +195,7 @@ int IniParaFromStd() {
   });
   // SEQ has a pass of its own over all axes, and takes the row at which the last scan ended, not
   // the axis's own. A list without such a row gives 0.
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const StdRow* row = RowAt(StdTable[axis], last_scan);
     Set(kRowSeq, axis, row ? row->Values[kRowSeq] : 0);
   }
@@ -210,17 +209,15 @@ int IniParaFromStd() {
 int IniParaFromStdForWrite() {
   if (ReadStdLists() != 0) return TellFailed();
   int last_scan = 0;
-  const bool all_found = FillPresentAxes(last_scan, [](std::size_t axis, const StdRow*) {
+  const bool all_found = FillPresentAxes(last_scan, [](int axis, const StdRow*) {
     // Meant so: this form takes SOFT LIMIT from the row of AUTO START PRG No.
     Set(kRowSoftLimit, axis, Common(kRowAutoStart));
   });
   return all_found ? 0 : TellFailed();
 }
 
-int CheckStdRows() { return AllHold({1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 14, 15}) ? 0 : 1; }
+bool CheckStdRows() { return AllHold({1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 14, 15}); }
 
-int CheckParaFromStd() {
-  return CheckStdRows() == 0 && AllHold({20, 21, 22, 16, 17, 18, 19}) ? 0 : 1;
-}
+int CheckParaFromStd() { return CheckStdRows() && AllHold({20, 21, 22, 16, 17, 18, 19}) ? 0 : 1; }
 
 }  // namespace tr7

@@ -16,8 +16,8 @@ int IniParaFromStd();
 /// AXIS and most of the common rows as the controller has them.
 int IniParaFromStdForWrite();
 
-/// Range check of what `IniParaFromStdForWrite` sets: 0 good, 1 some value is out of range.
-int CheckStdRows();
+/// Range check of what `IniParaFromStdForWrite` sets: false when some value is out of range.
+[[nodiscard]] bool CheckStdRows();
 /// The same, with the controller's own zone, output, group and macro rows.
 int CheckParaFromStd();
 

@@ -50,7 +50,7 @@ bool ReadStdRow(ParaReader& reader, StdRow& row) {
   if (!reader.ReadText(model)) return false;
   row.Model = CutNewModel(model);
   for (int i = 1; i <= kLastListRow; ++i) {
-    if (!reader.ReadFor(i, row.Values[static_cast<std::size_t>(i)])) return false;
+    if (!reader.ReadFor(i, row.Values[i])) return false;
   }
   return reader.ReadText(row.Actuator);
 }
@@ -86,7 +86,7 @@ class CommonReader {
       return StdFileResult::Unreadable;
     }
     for (int i = 0; i < sections; ++i) {
-      const StdFileResult result = ReadSection(static_cast<std::size_t>(i));
+      const StdFileResult result = ReadSection(i);
       if (result != StdFileResult::Good) return result;
     }
     // A list that lacks rows would set the parameters behind them to 0.
@@ -110,7 +110,7 @@ class CommonReader {
     }
     for (const int end = row_ + rows; row_ < end; ++row_) {
       for (int column = 0; column < columns; ++column) {
-        double& slot = table_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(column)];
+        double& slot = table_[row_][column];
         if (!ReadCommonItem(reader_, row_, column, slot)) return false;
       }
     }

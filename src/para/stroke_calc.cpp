@@ -42,7 +42,7 @@ void CulStrokePulse() {
 }
 
 /// From AXIS2 the focus goes to the lead of AXIS3: that is how this dialogue has always worked.
-Control& FieldBehind(std::size_t axis) {
+Control& FieldBehind(int axis) {
   FrmParameta2& f = frmParameta2;
   const std::array<Control*, kAxes> next = {&f.txtAxisStroke[1], &f.txtAxisLead[2],
                                             &f.txtAxisStroke[3], &f.txtAxisLead[0]};
@@ -57,9 +57,8 @@ void InputStroke() {
     doors.forms->Beep();
     return;
   }
-  const auto index = static_cast<std::size_t>(axis);
-  frmParameta2.txtAxisStroke[index].Type(result);
-  f.NextFocus = &FieldBehind(index);
+  frmParameta2.txtAxisStroke[axis].Type(result);
+  f.NextFocus = &FieldBehind(axis);
   f.Visible = false;
 }
 
@@ -73,7 +72,7 @@ void LoadCalc() {
   f.txtCulLead.Prompt = Text(kMsgLeadPrompt);
   f.lblStrokePulse.Caption.clear();
   f.optInputSaki.Clear();
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     f.optInputSaki[axis].Enabled = IsLiveAxis(axis);
     if (IsLiveAxis(axis) && f.optInputSaki.Chosen() < 0) f.optInputSaki[axis].Choose();
   }

@@ -78,8 +78,8 @@ Outcome ReadBlocks(SysParaRecord& read) {
 
 Outcome SendBlocks() {
   Bulk bulk(383, kBlockCount + 1, Bulk::Cancel::No);
-  const Outcome outcome = bulk.Each(
-      0, kBlockCount - 1, [](int number) { return SendBlock(static_cast<std::size_t>(number)); });
+  const Outcome outcome =
+      bulk.Each(0, kBlockCount - 1, [](int number) { return SendBlock(number); });
   if (outcome != Outcome::Done) return outcome;
   return SendEchoed({"0WF", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
 }

@@ -4,13 +4,14 @@
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
 #include "para/param_set.h"
+#include "state/axes_in_use.h"
 
 namespace tr7 {
 namespace {
 
 enum class PgSource { DeviceBlock, Function };
 
-void TakeAxis(std::size_t axis, PgSource source) {
+void TakeAxis(int axis, PgSource source) {
   DevSettingRecord& device = DevSetting[axis];
   DevSettingRecord& pending = DevSettei[axis];
   device.Size = ParamSet.ActSize[axis];
@@ -32,11 +33,10 @@ void TakeAxis(std::size_t axis, PgSource source) {
 }
 
 void Take(PgSource source) {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     AppState.AxisMuko[axis] = (ParamSet.OneAxis >> axis & 1) == 0;
   }
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
+  for (const int axis : AxesInUse()) {
     if (ParamSet.Actuator[axis].empty()) {
       DevSetting[axis].NotChosen = True;
       return;

@@ -76,7 +76,7 @@ Result CommentRule(int, std::string_view text) {
   return AcceptedCell{std::string(Stripped(LeftChars(text, kCommentChars))), {}};
 }
 
-Result PulseRule(std::size_t axis, double pulses) {
+Result PulseRule(int axis, double pulses) {
   const DevSettingRecord& device = DevSetting[axis];
   const auto mm = PulseToMm(device.Lead, device.Ppr, pulses);
   if (!mm || !IsWhole(pulses) || pulses < 0 || pulses > AppState.MaxPulse[axis]) {
@@ -87,7 +87,7 @@ Result PulseRule(std::size_t axis, double pulses) {
   return AcceptedCell{PlainDecimal(pulses), AcceptedCell::Length{pulses, CutComputedMm(*mm)}};
 }
 
-Result MmRule(std::size_t axis, std::string_view number) {
+Result MmRule(int axis, std::string_view number) {
   const DevSettingRecord& device = DevSetting[axis];
   const double typed = CutMmText(number);
   if (typed < 0 || typed > AppState.MaxMm[axis]) return std::nullopt;
@@ -98,7 +98,7 @@ Result MmRule(std::size_t axis, std::string_view number) {
 }
 
 Result LengthRule(int col, std::string_view text, bool program_mode) {
-  const auto axis = static_cast<std::size_t>(AxisOfColumn(col));
+  const int axis = AxisOfColumn(col);
   const WayAndNumber posi = program_mode ? SplitPosiText(text) : WayAndNumber{1, std::string(text)};
   if (!IsNumber(posi.number)) return std::nullopt;
   Result cell = AppState.DispMmUnit ? MmRule(axis, posi.number) : PulseRule(axis, Val(posi.number));
@@ -117,16 +117,14 @@ constexpr std::array<Rule, 6> kAxisRules{SpeedRule,         AccelerationRule, Co
 Rule RuleOfColumn(int col) {
   if (col == kComment) return CommentRule;
   if (AxisOfColumn(col) < 0) return CodeRule;
-  return kAxisRules[static_cast<std::size_t>(FieldOfColumn(col) - 1)];
+  return kAxisRules[FieldOfColumn(col) - 1];
 }
 
 void Mirror(int row, int axis, const AcceptedCell::Length& length) {
   const int index = row - 1;
   if (index < 0 || index >= kPosiSlots) return;
-  const auto a = static_cast<std::size_t>(axis);
-  const auto slot = static_cast<std::size_t>(index);
-  PosiTable.PosiPulse[a][slot] = static_cast<std::int32_t>(length.pulses);
-  PosiTable.PosiMm[a][slot] = length.mm;
+  PosiTable.PosiPulse[axis][index] = static_cast<std::int32_t>(length.pulses);
+  PosiTable.PosiMm[axis][index] = length.mm;
 }
 
 int SetData(int row, int col, std::string& text, bool program_mode) {

@@ -40,13 +40,12 @@ class LoadedRange {
 /// A position without millimetres has its pulses alone to go on with.
 void FindMissingMm() {
   for (int axis = 0; axis < kAxes; ++axis) {
-    const auto a = static_cast<std::size_t>(axis);
-    const auto& pulses = PosiTable.PosiRec[static_cast<std::size_t>(AxisBase(axis) + kPosi)];
+    const auto& pulses = PosiTable.PosiRec[AxisBase(axis) + kPosi];
     for (int no = AppState.PosiFirstNo; no <= AppState.PosiLastNo; ++no) {
-      const auto n = static_cast<std::size_t>(no);
-      double& mm = PosiTable.PosiMm[a][n];
+      double& mm = PosiTable.PosiMm[axis][no];
       if (!std::isnan(mm)) continue;
-      mm = PulseToMm(DevSetting[a].Lead, DevSetting[a].Ppr, ValueOf(pulses[n])).value_or(kNoMm);
+      mm = PulseToMm(DevSetting[axis].Lead, DevSetting[axis].Ppr, ValueOf(pulses[no]))
+               .value_or(kNoMm);
     }
   }
 }

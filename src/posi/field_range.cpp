@@ -15,13 +15,13 @@ bool Within(double value, double low, double high) { return value >= low && valu
 
 /// The last pulse of a stroke may lie a fraction of 0.001 mm above `MaxMm`, which is cut, while
 /// its text is rounded. What the table itself shows for that pulse is no bad value.
-bool IsTextOfLastPulse(std::size_t axis, double mm) {
+bool IsTextOfLastPulse(int axis, double mm) {
   const DevSettingRecord& device = DevSetting[axis];
   const auto last = PulseToMm(device.Lead, device.Ppr, AppState.MaxPulse[axis]);
   return last && mm == Val(FormatMm(*last));
 }
 
-bool LengthInRange(std::size_t axis, double value) {
+bool LengthInRange(int axis, double value) {
   if (!AppState.DispMmUnit) return Within(value, 0, AppState.MaxPulse[axis]);
   return Within(value, 0, AppState.MaxMm[axis]) || IsTextOfLastPulse(axis, value);
 }

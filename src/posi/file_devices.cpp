@@ -1,6 +1,5 @@
 #include "posi/file_devices.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -12,6 +11,7 @@
 #include "para/para_show.h"
 #include "para/std_lists.h"
 #include "posi/posi_check.h"
+#include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/selection.h"
 #include "state/text.h"
@@ -29,15 +29,10 @@ enum class Choice { DevicesInUse, DevicesOfFile, ParameterFile };
 
 /// The axes that the file has a device for; true when they are not those in use.
 bool TakeAxesOfFile() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     AppState.AxisMukoOfFile[axis] = FileDevice[axis].empty();
   }
   return AppState.AxisMukoOfFile != AppState.AxisMuko;
-}
-
-std::int16_t AxesInUse() {
-  const auto& muko = AppState.AxisMuko;
-  return static_cast<std::int16_t>(std::count(muko.begin(), muko.end(), False));
 }
 
 bool TellNotSelected() {
@@ -53,14 +48,14 @@ bool TellStopped() {
 /// The file's devices come into use with their standard parameters.
 bool TakeDevicesOfFile() {
   AppState.AxisMuko = AppState.AxisMukoOfFile;
-  if (AxesInUse() == 0) return TellNotSelected();
+  if (AxesInUse().empty()) return TellNotSelected();
   // Once more: the names of axes that were not in use had been passed over.
   if (ParseDeviceNames() != 0) return false;
   ReflectFileDevice2PcDevice();
   ParaFlags.AxisMaskFixed = False;
   const auto of_file = DevSettei;
   if (IniParaFromStd() != 0) return false;
-  if (TakeDeviceFieldsOfParam() != 0) return TellNotSelected();
+  if (!TakeDeviceFieldsOfParam()) return TellNotSelected();
   // Type, PG and vertical are the file's, whatever the standard parameters say.
   DevSettei = of_file;
   ReflectFileDevice2PcDevice();
@@ -71,13 +66,13 @@ bool TakeDevicesOfFile() {
 bool TakeDevicesOfParaFile() {
   ParaFlags.ParaFileBad = False;
   if (OpenParaForDevice() != 0) return ParaFlags.ParaFileBad ? false : TellStopped();
-  if (TakeDeviceFieldsOfParam() != 0 || AxesInUse() == 0) return TellNotSelected();
+  if (!TakeDeviceFieldsOfParam() || AxesInUse().empty()) return TellNotSelected();
   LetDevSettingToDevSettei();
   return true;
 }
 
 void DevicesHaveChanged() {
-  AppState.AxisCount = AxesInUse();
+  AppState.AxisCount = static_cast<std::int16_t>(AxesInUse().size());
   SaveDevSetting();
   if (frmParameta2.Loaded) ParametaHyoji();
 }

@@ -35,7 +35,7 @@ const std::string& Cell(int number, int col) {
   return frmPosi.flgdData.Text(RowOfPosition(number), col);
 }
 
-bool InUse(int axis) { return !AppState.AxisMuko[static_cast<std::size_t>(axis)]; }
+bool InUse(int axis) { return !AppState.AxisMuko[axis]; }
 
 void ClearResult() {
   ClearSyogo();
@@ -81,7 +81,7 @@ void CheckLine(int number) {
     for (int col = kItpl; col <= kSm; ++col) CheckCell(number, col);
   }
   if (!LineIsFlagged(number)) return;
-  PosiTable.PosiLineBad[static_cast<std::size_t>(number)] = True;
+  PosiTable.PosiLineBad[number] = True;
   ++PosiTable.PosiBadLineCount;
   ++PosiTable.SyogoCount;
   PosiTable.PosiBadLineList += std::to_string(number) + Text(kMsgListSeparator);
@@ -89,20 +89,16 @@ void CheckLine(int number) {
 
 // Phase two: the grid's texts become the table.
 
-Variant& Record(int col, int number) {
-  return PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
-}
+Variant& Record(int col, int number) { return PosiTable.PosiRec[col][number]; }
 
 void StoreLength(int number, int axis, double pulses, double mm) {
-  const auto a = static_cast<std::size_t>(axis);
-  const auto slot = static_cast<std::size_t>(number);
-  PosiTable.PosiPulse[a][slot] = static_cast<std::int32_t>(pulses);
-  PosiTable.PosiMm[a][slot] = mm;
-  Record(AxisBase(axis) + kPosi, number) = static_cast<double>(PosiTable.PosiPulse[a][slot]);
+  PosiTable.PosiPulse[axis][number] = static_cast<std::int32_t>(pulses);
+  PosiTable.PosiMm[axis][number] = mm;
+  Record(AxisBase(axis) + kPosi, number) = static_cast<double>(PosiTable.PosiPulse[axis][number]);
 }
 
 void CommitPosi(int number, int axis, double value) {
-  const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
+  const DevSettingRecord& device = DevSetting[axis];
   if (AppState.DispMmUnit) {
     StoreLength(number, axis, MmToPulse(device.Lead, device.Ppr, value).value_or(0), value);
   } else {
@@ -141,8 +137,7 @@ void CommitLine(int number) {
   for (int col = kItpl; col <= kSm; ++col) Record(col, number) = Val(Cell(number, col));
   Record(kComment, number) = Cell(number, kComment);
   const int row = RowOfPosition(number);
-  frmPosi.SourceNo.at(static_cast<std::size_t>(row - kPosiHeaderRows)) =
-      static_cast<std::int16_t>(number);
+  frmPosi.SourceNo.at(row - kPosiHeaderRows) = static_cast<std::int16_t>(number);
 }
 
 /// Both phases, the grid at rest. True: all lines were good and are committed.
@@ -165,7 +160,7 @@ bool CheckAndCommit(const NumberRange& range) {
 
 std::string ConversionTrouble() {
   for (int axis = 0; axis < kAxes; ++axis) {
-    const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
+    const DevSettingRecord& device = DevSetting[axis];
     if (!InUse(axis) || (device.Lead > 0 && device.Ppr > 0)) continue;
     return Text(kMsgCannotConvert, std::to_string(axis + 1));
   }
@@ -193,10 +188,10 @@ int PosiDataCheck3() {
 
 int PosiDataCheck3Prg() { return PosiDataCheck3(); }
 
-int PosiDataCheckAll() {
+bool PosiDataCheckAll() {
   AppState.PosiFromNo = AppState.PosiFirstNo;
   AppState.PosiToNo = AppState.PosiLastNo;
-  return PosiDataCheck3();
+  return PosiDataCheck3() == 0;
 }
 
 int Check_flgdLineNo() {

@@ -13,8 +13,8 @@ int PosiDataCheck3();
 int PosiDataCheck3Prg();
 
 /// The same over the whole loaded range, which becomes the range of the operation: for whoever
-/// lets the user narrow it afterwards or not at all.
-int PosiDataCheckAll();
+/// lets the user narrow it afterwards or not at all. True: all is good.
+[[nodiscard]] bool PosiDataCheckAll();
 
 /// Which axis in use has no device to convert by, in the user's language; empty: none.
 std::string ConversionTrouble();

@@ -107,7 +107,7 @@ Outcome PasteFrom(const ClipMatrix& matrix, int row, int col, int rows) {
   outcome.lines_beyond = std::max(lines - room, 0);
   FG_HighSyoriStart();
   for (int i = 0; i < std::min(lines, room); ++i) {
-    const auto& cells = matrix.size() == 1 ? matrix[0] : matrix[static_cast<std::size_t>(i)];
+    const auto& cells = matrix.size() == 1 ? matrix[0] : matrix[i];
     for (std::size_t k = 0; k < cells.size(); ++k) {
       PasteCell(row + i, col + static_cast<int>(k), cells[k], outcome);
     }

@@ -15,6 +15,7 @@
 #include "posi/posi_lines.h"
 #include "posi/posi_table.h"
 #include "posi/speed_decimals.h"
+#include "posi/unit_change.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
@@ -116,17 +117,12 @@ std::string GoodResult() {
 
 void cmdPosiCheck_Click() {
   if (Check_flgdLineNo() != 0) return;
-  int result = 0;
-  {
-    const KeepPlace place;
-    result = PosiDataCheckAll();
-  }
-  if (result == 0) {
+  if (CheckInPlace()) {
     MsgBox(GoodResult(), MsgButtons::Ok, MsgIcon::Information);
     return;
   }
   for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
-    if (!PosiTable.PosiLineBad[static_cast<std::size_t>(n)]) continue;
+    if (!PosiTable.PosiLineBad[n]) continue;
     frmPosi.flgdData.SelectCell(RowOfPosition(n), FirstShownColumn());
     return;
   }

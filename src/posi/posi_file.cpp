@@ -28,9 +28,7 @@ constexpr int kMsgNoRecords = 6454;
 constexpr std::array<int, 20> kOldColumns{1,  2,  3,  4,  7,  8,  9,     10,   13,  14,
                                           15, 16, 19, 20, 21, 22, kItpl, kOut, kSm, kComment};
 
-Variant& Stage(int col, int number) {
-  return PosiTable.PosiStage[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
-}
+Variant& Stage(int col, int number) { return PosiTable.PosiStage[col][number]; }
 
 enum class Layout { Present, WithoutWords, Oldest };
 
@@ -102,7 +100,7 @@ bool Reading::ReadRecords() {
     AppState.FileLastNo = static_cast<std::int16_t>(number);
     words_ = Text(kMsgLineDamaged, std::to_string(number));
     if (!ReadColumns(number)) return false;
-    PosiTable.StageHolds.set(static_cast<std::size_t>(number));
+    PosiTable.StageHolds.set(number);
   }
   return true;
 }
@@ -179,9 +177,7 @@ int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble) {
 
 std::string NumbersLeftOut(int first, int last) {
   constexpr int kMostRuns = 20;
-  const auto left_out = [last](int n) {
-    return n <= last && !PosiTable.StageHolds[static_cast<std::size_t>(n)];
-  };
+  const auto left_out = [last](int n) { return n <= last && !PosiTable.StageHolds[n]; };
   std::string text;
   int runs = 0;
   for (int n = first; n <= last; ++n) {
@@ -196,7 +192,7 @@ std::string NumbersLeftOut(int first, int last) {
 }
 
 void ShowFileAges() {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const bool is_new = DevSettei[axis].NewTypeWord == kNew;
     frmPosi.lblAge[axis]->Caption =
         AppState.AxisMuko[axis] ? std::string() : Text(is_new ? MsgId(126) : MsgId(127));

@@ -40,7 +40,7 @@ void TellSaved(const std::string& path) {
 /// Checks the table and saves it; the path, or empty when it was not saved.
 std::string SaveWhole() {
   const KeepPlace place;  // from which the check goes away
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return {};
+  if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return {};
   const auto path = PosiTableHasFile() ? PosiTablePath() : AskPath(423);
   if (!path) return {};
   PosiFileTrouble trouble;
@@ -64,7 +64,7 @@ bool IsPartOverOwnFile(const std::string& path) {
 
 void SaveAs() {
   const WholeRangeAfter whole_range;
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return;
   if (!AskRange() || PosiDataCheck3() != 0 || !AskOk(405)) return;
   const auto path = AskPath(406);
   if (!path) return;

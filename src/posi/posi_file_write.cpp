@@ -20,18 +20,13 @@ namespace {
 constexpr int kHeaderLines = 4;
 constexpr int kMsgBadComment = 6455;
 
-const Variant& Field(int col, int number) {
-  return PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
-}
+const Variant& Field(int col, int number) { return PosiTable.PosiRec[col][number]; }
 
-std::string DeviceCaption(int axis) {
-  return frmPosi.lblDeviceType[static_cast<std::size_t>(axis)]->Caption;
-}
+std::string DeviceCaption(int axis) { return frmPosi.lblDeviceType[axis]->Caption; }
 
 const char* AgeWord(int axis) {
-  const auto index = static_cast<std::size_t>(axis);
-  if (DeviceCaption(axis).empty() || AppState.AxisMuko[index]) return kNew;
-  return DevSetting[index].NewType ? kNew : kOld;
+  if (DeviceCaption(axis).empty() || AppState.AxisMuko[axis]) return kNew;
+  return DevSetting[axis].NewType ? kNew : kOld;
 }
 
 void WriteHeader(SeqWriter& file) {
@@ -66,7 +61,7 @@ std::vector<int> WrittenNumbers() {
   std::vector<int> numbers;
   for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
     if (n < 1 || n > kPosiMaxNo) continue;
-    if (!PosiTable.PosiLineBad[static_cast<std::size_t>(n)]) numbers.push_back(n);
+    if (!PosiTable.PosiLineBad[n]) numbers.push_back(n);
   }
   return numbers;
 }
@@ -75,8 +70,7 @@ std::vector<int> WrittenNumbers() {
 std::string SaveWords(const TextFileResult& saved, const std::vector<int>& numbers) {
   const int record = saved.bad_line - kHeaderLines - 1;
   if (record < 0 || record >= static_cast<int>(numbers.size())) return saved.words;
-  return Text(kMsgBadComment, std::to_string(numbers[static_cast<std::size_t>(record)]),
-              saved.bad_character);
+  return Text(kMsgBadComment, std::to_string(numbers[record]), saved.bad_character);
 }
 
 }  // namespace

@@ -40,9 +40,7 @@ std::string Aligned(const std::string& text) {
   return CharCount(text) > kPosiTextWidth ? text : RightAlignText(text, kPosiTextWidth);
 }
 
-const Variant& Field(int col, int number) {
-  return PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
-}
+const Variant& Field(int col, int number) { return PosiTable.PosiRec[col][number]; }
 
 std::string FillerText(int col, bool program_mode) {
   switch (FieldOfColumn(col)) {
@@ -64,13 +62,11 @@ int WayOf(double stored) { return stored >= 0 && stored < 4 ? static_cast<int>(s
 std::string PosiCellText(int col, int number, bool program_mode) {
   if (col == kComment) return TextOf(Field(col, number));
   const int axis = AxisOfColumn(col);
-  const auto index = static_cast<std::size_t>(axis);
-  if (axis >= 0 && AppState.AxisMuko[index]) return FillerText(col, program_mode);
+  if (axis >= 0 && AppState.AxisMuko[axis]) return FillerText(col, program_mode);
   if (axis >= 0 && FieldOfColumn(col) == kPosi) {
-    const auto slot = static_cast<std::size_t>(number);
     const int way = WayOf(ValueOf(Field(AxisBase(axis) + kWay, number)));
     return PosiLengthText(
-        LengthText(PosiTable.PosiPulse[index][slot], PosiTable.PosiMm[index][slot]), way,
+        LengthText(PosiTable.PosiPulse[axis][number], PosiTable.PosiMm[axis][number]), way,
         program_mode);
   }
   const double value = ValueOf(Field(col, number));
@@ -88,7 +84,7 @@ std::string PosiValueText(int col, double stored, double way, bool program_mode)
   if (axis < 0) return PlainDecimal(stored);
   if (FieldOfColumn(col) == kAcc) return PlainDecimal(stored * 10);
   if (FieldOfColumn(col) != kPosi) return PlainDecimal(stored);
-  const DevSettingRecord& device = DevSetting[static_cast<std::size_t>(axis)];
+  const DevSettingRecord& device = DevSetting[axis];
   const double mm = PulseToMm(device.Lead, device.Ppr, stored).value_or(kNoMm);
   return PosiLengthText(LengthText(stored, mm), WayOf(way), program_mode);
 }
@@ -96,7 +92,7 @@ std::string PosiValueText(int col, double stored, double way, bool program_mode)
 std::string PosiDefaultText(int col, bool program_mode) {
   const int axis = AxisOfColumn(col);
   if (col == kComment) return {};
-  if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) {
+  if (axis >= 0 && AppState.AxisMuko[axis]) {
     return FillerText(col, program_mode);
   }
   const std::string text = PosiValueText(col, PosiDefault(col), 0, program_mode);

@@ -33,7 +33,7 @@ void Show(bool program_mode) {
   grid.SetRows(ShownPositions() + kPosiHeaderRows);
   frmPosi.ShownPrgMode = program_mode;
   frmPosi.ShownMuko = AppState.AxisMuko;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     frmPosi.ShownLead[axis] = DevSetting[axis].Lead;
     frmPosi.ShownPpr[axis] = DevSetting[axis].Ppr;
   }

@@ -28,8 +28,7 @@ void KeptEdits::PutBack(Unedited keeps) const {
   for (int row = kPosiHeaderRows; row < rows_; ++row) {
     for (int col = 1; col < kPosiColumns; ++col) {
       const int axis = AxisOfColumn(col);
-      const auto index = static_cast<std::size_t>(axis);
-      if (axis >= 0 && (muko_[index] || AppState.AxisMuko[index])) continue;
+      if (axis >= 0 && (muko_[axis] || AppState.AxisMuko[axis])) continue;
       grid.SetText(row, col, NewText(row, col, keeps));
     }
   }
@@ -70,19 +69,17 @@ std::string KeptEdits::PosiText(int row, int axis, Unedited keeps) const {
 
 /// The cell shows in millimetres what the table holds in pulses, by the device of that time.
 bool KeptEdits::IsUnedited(int row, int axis) const {
-  if (source_.at(static_cast<std::size_t>(row - kPosiHeaderRows)) == 0) return false;
-  const auto a = static_cast<std::size_t>(axis);
+  if (source_.at(row - kPosiHeaderRows) == 0) return false;
   const int col = AxisBase(axis) + kPosi;
-  const auto mm = PulseToMm(lead_[a], ppr_[a], Held(row, col));
+  const auto mm = PulseToMm(lead_[axis], ppr_[axis], Held(row, col));
   const std::string& text = Text(row, col);
   return (program_mode_ ? SplitPosiText(text).number : Trim(text)) == (mm ? FormatMm(*mm) : "");
 }
 
 /// What the table holds for the line.
 double KeptEdits::Held(int row, int col) const {
-  const auto number =
-      static_cast<std::size_t>(source_[static_cast<std::size_t>(row - kPosiHeaderRows)]);
-  return ValueOf(PosiTable.PosiRec[static_cast<std::size_t>(col)][number]);
+  const auto number = static_cast<std::size_t>(source_[row - kPosiHeaderRows]);
+  return ValueOf(PosiTable.PosiRec[col][number]);
 }
 
 }  // namespace tr7

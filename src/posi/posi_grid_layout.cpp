@@ -35,7 +35,7 @@ const char* FieldTitle(int col) {
     case kComment:
       return "COMMENT";
     default:
-      return kFieldTitles[static_cast<std::size_t>(FieldOfColumn(col))];
+      return kFieldTitles[FieldOfColumn(col)];
   }
 }
 
@@ -60,12 +60,12 @@ void SetFixedRows() {
   frmPosi.flgdData.SetRowHeight(1, kColumnRowHeight);
 }
 
-bool IsMuko(int axis) { return axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]; }
+bool IsMuko(int axis) { return axis >= 0 && AppState.AxisMuko[axis]; }
 
 int PosModeWidth(int col) {
   const int axis = AxisOfColumn(col);
   if (IsMuko(axis)) return 0;
-  if (axis >= 0) return kAxisWidths[static_cast<std::size_t>(FieldOfColumn(col) - 1)];
+  if (axis >= 0) return kAxisWidths[FieldOfColumn(col) - 1];
   return col == kComment ? kRestOfView : kCommonWidth;
 }
 

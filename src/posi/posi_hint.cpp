@@ -24,13 +24,12 @@ std::string Range(const std::string& low, const std::string& high, const std::st
 }
 
 std::string PosiRange(int axis) {
-  const auto index = static_cast<std::size_t>(axis);
   const bool program = AppState.CtMode;
   if (!AppState.DispMmUnit) {
-    return Range("0", std::to_string(AppState.MaxPulse[index]), program ? Text(53) : "(pls)");
+    return Range("0", std::to_string(AppState.MaxPulse[axis]), program ? Text(53) : "(pls)");
   }
-  const DevSettingRecord& device = DevSetting[index];
-  const double mm = PulseToMm(device.Lead, device.Ppr, AppState.MaxPulse[index]).value_or(0);
+  const DevSettingRecord& device = DevSetting[axis];
+  const double mm = PulseToMm(device.Lead, device.Ppr, AppState.MaxPulse[axis]).value_or(0);
   return Range("0.000", RightAlignText(FormatMm(mm), 8), program ? Text(52) : "(mm)");
 }
 
@@ -72,7 +71,7 @@ std::string PosiHint(int col) {
   if (col == 0) return {};
   if (col == kComment) return PosiRangeText(col);
   const int axis = AxisOfColumn(col);
-  if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) return {};
+  if (axis >= 0 && AppState.AxisMuko[axis]) return {};
   if (AppState.CtMode && (axis < 0 || FieldOfColumn(col) != kPosi)) return {};
   return PosiRangeText(col);
 }

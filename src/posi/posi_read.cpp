@@ -19,6 +19,7 @@
 #include "session/reconcile.h"
 #include "session/session.h"
 #include "state/app_state.h"
+#include "state/axes_in_use.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/text.h"
@@ -32,9 +33,7 @@ namespace {
 constexpr int kMsgCommentsStay = 6464;
 constexpr int kTimeoutMs = 5000;
 
-std::string& ReplyOf(int number) {
-  return PosiTable.PosiRawReply[static_cast<std::size_t>(number - 1)];
-}
+std::string& ReplyOf(int number) { return PosiTable.PosiRawReply[number - 1]; }
 
 /// A reply of the right length whose fields make no sense must not become a position.
 Outcome ReadLine(int number) {
@@ -47,10 +46,9 @@ Outcome ReadLine(int number) {
 /// True when a loaded position has a comment, and the one that has come in is another move.
 bool CommentsOther(std::size_t number) {
   if (TextOf(PosiTable.PosiRec[kComment][number]).empty()) return false;
-  for (const int axis : {0, 1, 2, 3}) {
-    if (AppState.AxisMuko[static_cast<std::size_t>(axis)]) continue;
+  for (const int axis : AxesInUse()) {
     for (const int field : {kWay, kPosi}) {
-      const auto col = static_cast<std::size_t>(AxisBase(axis) + field);
+      const int col = AxisBase(axis) + field;
       const double held = ValueOf(PosiTable.PosiRec[col][number]);
       if (held != ValueOf(PosiTable.PosiStage[col][number])) return true;
     }
@@ -65,7 +63,7 @@ bool AskWhetherCommentsStay() {
   const int last = std::min(AppState.PosiLastNo, AppState.PosiToNo);
   int others = 0;
   for (int n = std::max(first, 1); n <= last; ++n) {
-    if (CommentsOther(static_cast<std::size_t>(n))) ++others;
+    if (CommentsOther(n)) ++others;
   }
   return others == 0 || MsgBox(Text(kMsgCommentsStay, std::to_string(others)), MsgButtons::YesNo,
                                MsgIcon::Question) != MsgAnswer::No;
@@ -73,13 +71,11 @@ bool AskWhetherCommentsStay() {
 
 /// Comments do not travel: those of the loaded positions stay in the PC.
 void KeepComments(const PosiRange& range) {
-  const auto column = static_cast<std::size_t>(kComment);
   const bool stay = AskWhetherCommentsStay();
   for (int n = range.first; n <= range.last; ++n) {
-    const auto number = static_cast<std::size_t>(n);
-    PosiTable.PosiStage[column][number] = stay && LoadedPosiRange().Holds(n)
-                                              ? PosiTable.PosiRec[column][number]
-                                              : Variant(std::string());
+    PosiTable.PosiStage[kComment][n] = stay && LoadedPosiRange().Holds(n)
+                                           ? PosiTable.PosiRec[kComment][n]
+                                           : Variant(std::string());
   }
 }
 
@@ -116,7 +112,7 @@ void PosidataGetfromCt() {
   AppState.ProgressWriting = True;
   const std::optional<PosiRange> range = AskReadRange();
   if (!range || !AskOk(370)) return;
-  if (AppState.Offline && ChangeToOnlineFromCommand() != 0) return;
+  if (AppState.Offline && !ChangeToOnlineFromCommand()) return;
   AppState.CancelRequested = False;
   if (ReconcileDevices(DeviceReconcile::Read) != 0) return;
   if (!AllAxesConvert())

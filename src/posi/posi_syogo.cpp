@@ -12,25 +12,21 @@
 namespace tr7 {
 namespace {
 
-double Staged(int col, int number) {
-  return ValueOf(
-      PosiTable.PosiStage[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)]);
-}
+double Staged(int col, int number) { return ValueOf(PosiTable.PosiStage[col][number]); }
 
 double Held(int col, int number) {
   const int axis = AxisOfColumn(col);
-  const auto slot = static_cast<std::size_t>(number);
   if (axis >= 0 && FieldOfColumn(col) == kPosi) {
-    return PosiTable.PosiPulse[static_cast<std::size_t>(axis)][slot];
+    return PosiTable.PosiPulse[axis][number];
   }
-  return ValueOf(PosiTable.PosiRec[static_cast<std::size_t>(col)][slot]);
+  return ValueOf(PosiTable.PosiRec[col][number]);
 }
 
 /// Columns that the mode does not use, and axes that are not in use, are passed over. In program
 /// mode a line that does not move an axis holds no position of it.
 bool IsCompared(int col, int number) {
   const int axis = AxisOfColumn(col);
-  if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) return false;
+  if (axis >= 0 && AppState.AxisMuko[axis]) return false;
   if (!AppState.CtMode) return true;
   if (axis < 0) return false;
   if (FieldOfColumn(col) == kWay) return true;
@@ -60,7 +56,7 @@ int PosiDataSyogoProc() {
   ClearSyogo();
   const int last = std::min<int>(AppState.PosiToNo, kPosiMaxNo);
   for (int n = std::max<int>(AppState.PosiFromNo, 1); n <= last; ++n) {
-    if (!PosiTable.StageHolds[static_cast<std::size_t>(n)]) continue;
+    if (!PosiTable.StageHolds[n]) continue;
     CompareLine(n);
     if (LineIsFlagged(n)) ++PosiTable.SyogoCount;
   }

@@ -26,8 +26,7 @@ double PosiDefault(int col) {
     case kVel:
       return kDefaultVel;
     case kAcc: {
-      const auto index = static_cast<std::size_t>(axis);
-      const bool gentle = !AppState.AxisMuko[index] && IsD42(DevSetting[index]);
+      const bool gentle = !AppState.AxisMuko[axis] && IsD42(DevSetting[axis]);
       return gentle ? kDefaultAccD42 : kDefaultAcc;
     }
     default:
@@ -51,7 +50,7 @@ void PosiStageInit() {
 void PosiStageFillRest() {
   for (int col = 1; col < kPosiColumns; ++col) {
     const Variant value = StartValue(col);
-    auto& column = PosiTable.PosiStage[static_cast<std::size_t>(col)];
+    auto& column = PosiTable.PosiStage[col];
     for (std::size_t n = 1; n < column.size(); ++n) {
       if (!PosiTable.StageHolds[n]) column[n] = value;
     }
@@ -64,7 +63,7 @@ void PosiTableInit() {
   for (auto& lengths : PosiTable.PosiMm) lengths.fill(0);
   PosiStageInit();
   for (int col = 1; col < kPosiColumns; ++col) {
-    PosiTable.PosiRec[static_cast<std::size_t>(col)].fill(StartValue(col));
+    PosiTable.PosiRec[col].fill(StartValue(col));
   }
 }
 
@@ -82,15 +81,14 @@ std::int32_t StagedPulses(const Variant& field) {
 void PosiStageCommit() {
   for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
     if (n < 1 || n > kPosiMaxNo) continue;
-    const auto number = static_cast<std::size_t>(n);
     for (std::size_t col = 1; col < kPosiColumns; ++col) {
-      PosiTable.PosiRec[col][number] = PosiTable.PosiStage[col][number];
+      PosiTable.PosiRec[col][n] = PosiTable.PosiStage[col][n];
     }
     for (int axis = 0; axis < kAxes; ++axis) {
-      const auto col = static_cast<std::size_t>(AxisBase(axis) + kPosi);
-      const std::int32_t pulses = StagedPulses(PosiTable.PosiStage[col][number]);
-      PosiTable.PosiPulse[static_cast<std::size_t>(axis)][number] = pulses;
-      PosiTable.PosiRec[col][number] = static_cast<double>(pulses);
+      const int col = AxisBase(axis) + kPosi;
+      const std::int32_t pulses = StagedPulses(PosiTable.PosiStage[col][n]);
+      PosiTable.PosiPulse[axis][n] = pulses;
+      PosiTable.PosiRec[col][n] = static_cast<double>(pulses);
     }
   }
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <bitset>
 #include <cstdint>
 #include <limits>
@@ -8,6 +7,7 @@
 
 #include "base/axes.h"
 #include "base/bool16.h"
+#include "base/indexed_array.h"
 #include "base/variant.h"
 #include "state/app_state.h"
 
@@ -34,17 +34,23 @@ constexpr int AxisOfColumn(int col) { return col >= 1 && col <= 24 ? (col - 1) /
 /// `kVel` to `kPs` within its group for columns 1 to 24.
 constexpr int FieldOfColumn(int col) { return (col - 1) % 6 + 1; }
 
+/// One value for each position, by its number, and for each column of the table.
+template <typename T>
+using PosiSlots = IndexedArray<T, kPosiSlots>;
+template <typename T>
+using PosiColumns = IndexedArray<T, kPosiColumns>;
+
 /// The controller's position table. Pulses are the master; ACC is held in tens of milliseconds.
 struct PosiTableRecord {
-  std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiRec;    ///< [column][number]
-  std::array<std::array<Variant, kPosiSlots>, kPosiColumns> PosiStage;  ///< data coming in
+  PosiColumns<PosiSlots<Variant>> PosiRec;    ///< [column][number]
+  PosiColumns<PosiSlots<Variant>> PosiStage;  ///< data coming in
   std::bitset<kPosiSlots> StageHolds;  ///< numbers that came in; the others have start values
-  AxisArray<std::array<std::int32_t, kPosiSlots>> PosiPulse{};
-  AxisArray<std::array<double, kPosiSlots>> PosiMm{};
-  std::array<std::string, kPosiSlots> PosiRawReply;  ///< [number - 1]: reply line, or line to send
-  std::array<std::array<Bool16, kPosiSlots>, kPosiColumns> SyogoCell{};  ///< bad or different
-  std::array<Bool16, kPosiSlots> PosiLineBad{};                          ///< failed the last check
-  std::int16_t SyogoCount = 0;  ///< number of flagged lines
+  AxisArray<PosiSlots<std::int32_t>> PosiPulse{};
+  AxisArray<PosiSlots<double>> PosiMm{};
+  PosiSlots<std::string> PosiRawReply;         ///< [number - 1]: reply line, or line to send
+  PosiColumns<PosiSlots<Bool16>> SyogoCell{};  ///< bad or different
+  PosiSlots<Bool16> PosiLineBad{};             ///< failed the last check
+  std::int16_t SyogoCount = 0;                 ///< number of flagged lines
   std::string PosiBadLineList;  ///< numbers of the bad lines, a separator behind each
   std::int16_t PosiBadLineCount = 0;
   std::string Name;        ///< file path without its ending, or "New Data", or "Inside of C/T"

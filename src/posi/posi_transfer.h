@@ -25,7 +25,7 @@ int PosiKakikomimaeParaCheck(const PosiRange& range);
 void PosidataLoadtoCt();
 
 /// Goes online when the state is offline. What that may have changed (mode, axes, devices) decides
-/// what is good, so the range is checked and committed once more. 0 or 1.
-int GoOnlineAndRecheck();
+/// what is good, so the range is checked and committed once more. False when either failed.
+[[nodiscard]] bool GoOnlineAndRecheck();
 
 }  // namespace tr7

@@ -84,7 +84,7 @@ bool TellNotCompared() {
   const std::string numbers = NumbersLeftOut(AppState.PosiFromNo, AppState.PosiToNo);
   if (!numbers.empty()) MsgBox(Text(kMsgNotCompared, numbers));
   for (int n = AppState.PosiFromNo; n <= AppState.PosiToNo; ++n) {
-    if (PosiTable.StageHolds[static_cast<std::size_t>(n)]) return true;
+    if (PosiTable.StageHolds[n]) return true;
   }
   return false;
 }
@@ -95,7 +95,7 @@ void VerifyWithFile(ReadFile read, std::optional<PosiRange> (*ask_range)(bool ov
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
   const DevSetteiKept kept;
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return;
   const auto path = AskOpenPath(kPosiDataFile, 350);
   if (!path || path->empty() || !ReadIntoStage(read, *path)) return;
   if (!ask_range(SyogoOverlap() == 0) || !TellNotCompared()) return;
@@ -114,9 +114,9 @@ void PosiDataCtShogo() {
   const TransferScope transfer;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return;
   const std::optional<PosiRange> range = AskRange();
-  if (!range || GoOnlineAndRecheck() != 0) return;
+  if (!range || !GoOnlineAndRecheck()) return;
   AppState.CancelRequested = False;
   const Outcome outcome = ReadPosidataFromCt(*range);
   if (outcome == Outcome::Stopped) TellDone(440);

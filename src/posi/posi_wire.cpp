@@ -31,7 +31,7 @@ bool TakeAxis(std::string_view& rest, int axis, Fields& fields) {
   for (std::size_t i = 0; i < raw.size(); ++i) {
     if (!TakeField(rest, kAxisWidths[i], raw[i])) return false;
   }
-  const auto base = static_cast<std::size_t>(AxisBase(axis));
+  const int base = AxisBase(axis);
   fields[base + kVel] = raw[0];
   fields[base + kAcc] = raw[1];
   // The top two of the 20 bits are the way, the rest is the position.
@@ -43,8 +43,7 @@ bool TakeAxis(std::string_view& rest, int axis, Fields& fields) {
 }
 
 std::int64_t RecordValue(int col, int number) {
-  return static_cast<std::int64_t>(
-      ValueOf(PosiTable.PosiRec[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)]));
+  return static_cast<std::int64_t>(ValueOf(PosiTable.PosiRec[col][number]));
 }
 
 std::string AxisText(int axis, int number) {
@@ -81,9 +80,9 @@ bool DecodePosiRecord(const std::string& reply, int number) {
   Fields fields{};
   if (!TakeRecord(reply, number, fields)) return false;
   for (std::size_t col = 1; col <= kSm; ++col) {
-    PosiTable.PosiStage[col][static_cast<std::size_t>(number)] = static_cast<double>(fields[col]);
+    PosiTable.PosiStage[col][number] = static_cast<double>(fields[col]);
   }
-  PosiTable.StageHolds.set(static_cast<std::size_t>(number));
+  PosiTable.StageHolds.set(number);
   return true;
 }
 

@@ -41,11 +41,9 @@ constexpr int kCommitReplyLength = 11;
 constexpr std::size_t kEcho = 6;  // command and number
 constexpr std::size_t kCommitEcho = 3;
 
-bool IsBad(int number) { return PosiTable.PosiLineBad[static_cast<std::size_t>(number)]; }
+bool IsBad(int number) { return PosiTable.PosiLineBad[number]; }
 
-std::string& LineOf(int number) {
-  return PosiTable.PosiRawReply[static_cast<std::size_t>(number - 1)];
-}
+std::string& LineOf(int number) { return PosiTable.PosiRawReply[number - 1]; }
 
 // The bulk write.
 
@@ -85,7 +83,7 @@ int ReadCtStateFromCt() { return ReadCtModeAndAxis(); }
 /// The controller's strokes in pulses; false when it did not answer sensibly.
 bool ReadStrokes(Strokes& StrokeOfCt) {
   ProgressScope progress(Text(378), kAxes, false);
-  if (OpenPortOrTell() != 0) return false;
+  if (!OpenPortOrTell()) return false;
   if (CtComStart() != 0 || ReadCtStateFromCt() != 0) return false;
   for (int axis = 0; axis < kAxes; ++axis) {
     if (!AppState.AxisMuko[axis] && ReadAxisMaxPulse(axis, StrokeOfCt[axis]) != 0) return false;
@@ -102,7 +100,7 @@ void FlagBeyond(const PosiRange& range, const Strokes& StrokeOfCt) {
   for (int n = range.first; n <= range.last; ++n) {
     if (IsBad(n)) continue;
     for (const int axis : AxesInUse()) {
-      const std::int32_t pulses = PosiTable.PosiPulse[axis][static_cast<std::size_t>(n)];
+      const std::int32_t pulses = PosiTable.PosiPulse[axis][n];
       if (StrokeOfCt[axis] < pulses) FlagCell(AxisBase(axis) + kPosi, n);
     }
     if (LineIsFlagged(n)) ++PosiTable.SyogoCount;
@@ -155,10 +153,10 @@ int PosiKakikomimaeParaCheck(const PosiRange& range) {
   return good ? 0 : 1;
 }
 
-int GoOnlineAndRecheck() {
-  if (!AppState.Offline) return 0;
-  if (ChangeToOnlineFromCommand() != 0) return 1;
-  return PosiDataCheck3();
+bool GoOnlineAndRecheck() {
+  if (!AppState.Offline) return true;
+  if (!ChangeToOnlineFromCommand()) return false;
+  return PosiDataCheck3() == 0;
 }
 
 void PosidataLoadtoCt() {
@@ -166,10 +164,10 @@ void PosidataLoadtoCt() {
   const TransferScope transfer;
   const PosiGridOff grid_off;
   const WholeRangeAfter whole_range;
-  if (Check_flgdLineNo() != 0 || PosiDataCheckAll() != 0) return;
+  if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return;
   const std::optional<PosiRange> range = AskRange();
   if (!range || PosiDataCheck3() != 0 || !AskOk(375)) return;
-  if (GoOnlineAndRecheck() != 0 || !MayFillUnusedAxes(*range)) return;
+  if (!GoOnlineAndRecheck() || !MayFillUnusedAxes(*range)) return;
   AppState.CancelRequested = False;
   if (!AxesStandStill()) return;
   HeldAxes held;

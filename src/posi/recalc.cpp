@@ -7,6 +7,7 @@
 #include "device/unit_conversion.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
+#include "state/axes_in_use.h"
 
 namespace tr7 {
 namespace {
@@ -15,10 +16,9 @@ namespace {
 template <typename Convert>
 bool ForRange(Convert convert) {
   const int last = std::min<int>(AppState.PosiToNo, kPosiMaxNo);
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    if (AppState.AxisMuko[axis]) continue;
+  for (const int axis : AxesInUse()) {
     for (int no = std::max<int>(AppState.PosiFromNo, 1); no <= last; ++no) {
-      if (!convert(axis, static_cast<std::size_t>(no))) return false;
+      if (!convert(axis, no)) return false;
     }
   }
   return true;
@@ -28,7 +28,7 @@ bool ForRange(Convert convert) {
 
 int RecalcMmFromPulse() {
   bool good = true;
-  ForRange([&good](std::size_t axis, std::size_t no) {
+  ForRange([&good](int axis, int no) {
     const DevSettingRecord& device = DevSetting[axis];
     const auto mm = PulseToMm(device.Lead, device.Ppr, PosiTable.PosiPulse[axis][no]);
     PosiTable.PosiMm[axis][no] = mm.value_or(kNoMm);
@@ -40,7 +40,7 @@ int RecalcMmFromPulse() {
 
 int RecalcPulseFromMm() {
   auto fresh = PosiTable.PosiPulse;
-  const bool good = ForRange([&](std::size_t axis, std::size_t no) {
+  const bool good = ForRange([&](int axis, int no) {
     const DevSettingRecord& device = DevSetting[axis];
     const auto pulses = MmToPulse(device.Lead, device.Ppr, PosiTable.PosiMm[axis][no]);
     using Limits = std::numeric_limits<std::int32_t>;
@@ -50,8 +50,8 @@ int RecalcPulseFromMm() {
   });
   if (!good) return 1;
   PosiTable.PosiPulse = fresh;
-  ForRange([](std::size_t axis, std::size_t no) {
-    const auto column = static_cast<std::size_t>(AxisBase(static_cast<int>(axis)) + kPosi);
+  ForRange([](int axis, int no) {
+    const int column = AxisBase(axis) + kPosi;
     PosiTable.PosiRec[column][no] = static_cast<double>(PosiTable.PosiPulse[axis][no]);
     return true;
   });

@@ -29,7 +29,7 @@ Grid& ResultGrid() { return frmSyogoKekka.flgdKekka; }
 bool IsShown(int col) {
   if (col == 0) return true;
   const int axis = AxisOfColumn(col);
-  if (axis >= 0 && AppState.AxisMuko[static_cast<std::size_t>(axis)]) return false;
+  if (axis >= 0 && AppState.AxisMuko[axis]) return false;
   return !AppState.CtMode || (axis >= 0 && FieldOfColumn(col) == kPosi);
 }
 

@@ -19,8 +19,8 @@ bool HasDecimals(double value) { return value != std::trunc(value); }
 
 bool LineHasDecimals(int number) {
   for (const int axis : AxesInUse()) {
-    const auto col = static_cast<std::size_t>(AxisBase(axis) + kVel);
-    if (HasDecimals(ValueOf(PosiTable.PosiRec[col][static_cast<std::size_t>(number)]))) return true;
+    const int col = AxisBase(axis) + kVel;
+    if (HasDecimals(ValueOf(PosiTable.PosiRec[col][number]))) return true;
   }
   return false;
 }

@@ -5,9 +5,7 @@
 namespace tr7 {
 namespace {
 
-Bool16& Flag(int col, int number) {
-  return PosiTable.SyogoCell[static_cast<std::size_t>(col)][static_cast<std::size_t>(number)];
-}
+Bool16& Flag(int col, int number) { return PosiTable.SyogoCell[col][number]; }
 
 }  // namespace
 

@@ -7,7 +7,7 @@
 
 namespace tr7 {
 
-int CheckInPlace() {
+bool CheckInPlace() {
   const KeepPlace place;
   return PosiDataCheckAll();
 }

@@ -25,12 +25,12 @@ void ClearAlarmDisplay() {
   frmMain.sbStatusBar.Panels[kPanelError].clear();
 }
 
-/// 0 when the line is online at the end; the step that fails has told the user.
-int ResetAndConnect() {
-  if (OpenPortOrTell() != 0 || !ResetAlarm()) return 1;
+/// True when the line is online at the end; the step that fails has told the user.
+bool ResetAndConnect() {
+  if (!OpenPortOrTell() || !ResetAlarm()) return false;
   ClearAlarmDisplay();
-  if (CtComStart() != 0) return 1;
-  return fChangeToOnline();
+  if (CtComStart() != 0) return false;
+  return fChangeToOnline() == 0;
 }
 
 }  // namespace
@@ -38,9 +38,9 @@ int ResetAndConnect() {
 void AlarmReset() {
   const TransferScope transfer;
   LiftOffline();
-  const int result = ResetAndConnect();
+  const bool online = ResetAndConnect();
   // Where no good reply has confirmed it, the line is not online.
-  if (result != 0 && AppState.OfflineTemporarilyLifted) SetOffline();
+  if (!online && AppState.OfflineTemporarilyLifted) SetOffline();
   AppState.OfflineTemporarilyLifted = False;
 }
 

@@ -10,7 +10,7 @@ namespace tr7 {
 
 void ChangeCtModeMenu() {
   const TransferScope transfer;
-  if (ConnectOrOpenPort() != 0) return;
+  if (!ConnectOrOpenPort()) return;
   const Selection choice = SelectionDialog2({.Title = Text(471),
                                              .Prompt = Text(476),
                                              .Choices = {Text(477), Text(478)},

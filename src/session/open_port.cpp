@@ -17,11 +17,11 @@ void EndSession() {
   ChangeMenuDisp(AppState.CtMode);
 }
 
-int OpenPortOrTell() {
-  if (TusinPortOpen() == 0) return 0;
+bool OpenPortOrTell() {
+  if (TusinPortOpen() == 0) return true;
   EndSession();
   MsgBox(Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText);
-  return 1;
+  return false;
 }
 
 }  // namespace tr7

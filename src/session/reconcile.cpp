@@ -54,17 +54,17 @@ int TakeModeOfCt(ProgressScope& progress) {
 
 /// Reads axes and devices and takes both, or neither: axes without their devices would be a state
 /// that is neither the PC's nor the controller's.
-int TakeAxesAndDevicesOfCt() {
+bool TakeAxesAndDevicesOfCt() {
   const auto muko = AppState.AxisMuko;
   const std::int16_t pattern = AppState.AxisPattern;
   if (ReadCtAxisFromCt() != 0 || ReadCtDeviceFromCt() != 0) {
     AppState.AxisMuko = muko;
     AppState.AxisPattern = pattern;
-    return 1;
+    return false;
   }
   TakeDevFromCt();
   RecalcLimits();
-  return 0;
+  return true;
 }
 
 void MarkDevicesNotChosen() {
@@ -72,7 +72,7 @@ void MarkDevicesNotChosen() {
 }
 
 int TakeDevicesOfCt(DeviceReconcile flow) {
-  if (TakeAxesAndDevicesOfCt() != 0) {
+  if (!TakeAxesAndDevicesOfCt()) {
     if (flow == DeviceReconcile::Read) MarkDevicesNotChosen();
     return 1;
   }
@@ -102,7 +102,7 @@ int ReconcileMode(ProgressScope& progress) {
 }
 
 int ReconcileDevices(DeviceReconcile flow) {
-  if (OpenPortOrTell() != 0) return 1;
+  if (!OpenPortOrTell()) return 1;
   const int difference = CompareCtDevice();
   if (difference < 0) return 1;
   if (difference == 0) return 0;

@@ -33,22 +33,22 @@ constexpr int kMsgGivenUp = 5970;
 /// The cancel button ends the sequence after the step that runs.
 bool GivenUp() { return AppState.CancelRequested; }
 
-int ConnectSteps() {
+bool ConnectSteps() {
   SetOnline();
   ProgressScope progress(Text(368), kConnectSteps, true);
-  if (CtComStart(1) != 0 || GivenUp()) return 1;
-  if (GetVersionNoDisp() != 0 || GivenUp()) return 1;
-  if (!CheckModelMarker()) return 1;
+  if (CtComStart(1) != 0 || GivenUp()) return false;
+  if (GetVersionNoDisp() != 0 || GivenUp()) return false;
+  if (!CheckModelMarker()) return false;
   AppState.AxisCount = AppState.CtAxisDigit;
   progress.Set(1);
-  if (ReconcileMode(progress) != 0 || GivenUp()) return 1;
-  if (ReconcileDevices(DeviceReconcile::Connect) != 0 || GivenUp()) return 1;
+  if (ReconcileMode(progress) != 0 || GivenUp()) return false;
+  if (ReconcileDevices(DeviceReconcile::Connect) != 0 || GivenUp()) return false;
   // The controller's own axes, also where they are disregarded: its replies speak of them.
   AppState.AxisPattern = AppState.AxisPatternOfCt;
   AppState.CtModePending = False;
   progress.Set(kConnectSteps);
   VersionHyoji();
-  return 0;
+  return true;
 }
 
 void FailToOffline() {
@@ -56,19 +56,19 @@ void FailToOffline() {
   if (GivenUp()) TellInStatusPanel(Text(kMsgGivenUp));
 }
 
-int FirstConnectionSteps() {
+bool FirstConnectionSteps() {
   ProgressScope progress(Text(368), kConnectSteps, true);
-  if (CtControlModeSet(0, 0, 0) != 0 || GivenUp()) return 1;
-  if (GetVersionNoDisp() != 0 || GivenUp()) return 1;
-  if (!CheckModelMarker()) return 1;
+  if (CtControlModeSet(0, 0, 0) != 0 || GivenUp()) return false;
+  if (GetVersionNoDisp() != 0 || GivenUp()) return false;
+  if (!CheckModelMarker()) return false;
   AppState.AxisCount = AppState.CtAxisDigit;
   progress.Set(1);
-  if (ReadCtModeAndAxis() != 0 || GivenUp()) return 1;
+  if (ReadCtModeAndAxis() != 0 || GivenUp()) return false;
   TakeModeAndAxesOfCt();
   progress.Set(2);
   DispControlerMode();
   ChangeMenuDisp(AppState.CtMode);
-  if (ReadCtDeviceFromCt() != 0 || GivenUp()) return 1;
+  if (ReadCtDeviceFromCt() != 0 || GivenUp()) return false;
   progress.Set(3);
   TakeDevFromCt();
   RecalcLimits();
@@ -79,27 +79,27 @@ int FirstConnectionSteps() {
   progress.Set(kConnectSteps);
   AllViewsOnlineChanged();
   VersionHyoji();
-  return 0;
+  return true;
 }
 
 }  // namespace
 
 int fChangeToOnline() {
   if (TusinPortOpen() != 0) return 1;
-  if (ConnectSteps() == 0) return 0;
+  if (ConnectSteps()) return 0;
   FailToOffline();
   return 1;
 }
 
-int ChangeToOnlineFromCommand() { return OpenPortOrTell() == 0 ? fChangeToOnline() : 1; }
+bool ChangeToOnlineFromCommand() { return OpenPortOrTell() && fChangeToOnline() == 0; }
 
-int ConnectOrOpenPort() {
+bool ConnectOrOpenPort() {
   return AppState.Offline ? ChangeToOnlineFromCommand() : OpenPortOrTell();
 }
 
 void ChangeToOnlineMenu() {
   const TransferScope transfer;
-  ChangeToOnlineFromCommand();  // the step that failed has told the user
+  static_cast<void>(ChangeToOnlineFromCommand());  // the step that failed has told the user
 }
 
 void ChangeToOfflineMenu() {
@@ -111,15 +111,15 @@ void ChangeToOfflineMenu() {
   EndSession();
 }
 
-int FirstConnection() {
+bool FirstConnection() {
   const auto muko = AppState.AxisMuko;
   AppState.Offline = False;
-  if (FirstConnectionSteps() == 0) return 0;
+  if (FirstConnectionSteps()) return true;
   // Half a controller's state is nobody's: the offline start begins with all axes.
   AppState.AxisMuko = muko;
   AppState.AxisPattern = 0;
   FailToOffline();
-  return 1;
+  return false;
 }
 
 bool PortWatchHasWork() { return PortLampLies() || (PortIsLost() && !LineIsInUse()); }

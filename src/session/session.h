@@ -9,19 +9,20 @@ namespace tr7 {
 /// it by the cancel button, which the status bar then says.
 int fChangeToOnline();
 
-/// The same for a command that was started offline: menus and tabs follow. 0 or 1.
-int ChangeToOnlineFromCommand();
+/// The same for a command that was started offline: menus and tabs follow. False when it failed.
+[[nodiscard]] bool ChangeToOnlineFromCommand();
 
 /// The line for a command of the user's: offline the connect sequence, online the port alone. What
-/// failed has told the user. 0 or 1.
-[[nodiscard]] int ConnectOrOpenPort();
+/// failed has told the user.
+[[nodiscard]] bool ConnectOrOpenPort();
 
 /// `mnuSettingOnline` and `mnuSettingOffline`.
 void ChangeToOnlineMenu();
 void ChangeToOfflineMenu();
 
-/// The first connection at the start: no dialogues, since the PC holds nothing yet. 0 or 1.
-int FirstConnection();
+/// The first connection at the start: no dialogues, since the PC holds nothing yet. False when it
+/// failed.
+[[nodiscard]] bool FirstConnection();
 
 /// Watches the port: the lamp tells the truth, and a port that is lost while nothing has the line
 /// takes the session offline, with a box. A flow whose port is lost tells by itself.

@@ -21,7 +21,7 @@ std::string VersionLine(MsgId name_id, const std::string& version) {
 
 void ContVersionMenu() {
   const TransferScope transfer;
-  if (ConnectOrOpenPort() != 0) return;
+  if (!ConnectOrOpenPort()) return;
   if (GetVersionNo2() == 0) {
     std::string text = Text(426) + "\n\n" + VersionLine(427, AppState.CtVersionText);
     for (const int axis : AxesInUse()) {

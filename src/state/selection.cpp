@@ -24,7 +24,7 @@ void Fill(SelectionView& view, const SelectionCall& call) {
     view.options[i]->Visible = i < call.Choices.size();
     if (i < call.Choices.size()) view.options[i]->Caption = call.Choices[i];
   }
-  view.options[static_cast<std::size_t>(call.Preselected)]->Choose();
+  view.options[call.Preselected]->Choose();
   view.cmdOk.Caption = Text(call.OkIsNext ? MsgId(kNextText) : MsgId(kOkText));
   view.cmdBack.Visible = call.MayGoBack;
   view.cmdCancel.Visible = call.MayCancel;

@@ -19,7 +19,7 @@ class AllowedCharsValidator : public QValidator {
   State validate(QString& text, int& cursor) const override {
     if (pushing_ || record_.AllowedChars.empty()) return Acceptable;
     const QString allowed = Q(record_.AllowedChars);
-    for (int i = text.size() - 1; i >= 0; --i) {
+    for (auto i = text.size() - 1; i >= 0; --i) {
       if (allowed.contains(text[i])) continue;
       text.remove(i, 1);
       if (cursor > i) --cursor;

@@ -135,7 +135,7 @@ TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
   }
   FG_ShowTable();
   EXPECT_TRUE(AppendLine());
-  EXPECT_EQ(PosiDataCheckAll(), 0) << lines;
+  EXPECT_TRUE(PosiDataCheckAll()) << lines;
   EXPECT_EQ(Stored(kVel, 1), 30);
   EXPECT_EQ(Stored(kOut, 2) + Stored(kSm, 3), 0);
   // A position-mode table with edits, whose mode changes under it.
@@ -144,7 +144,7 @@ TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
   frmPosi.PosiChanged = True;
   AppState.CtMode = True;
   RebuildPosiViewKeepingEdits();
-  EXPECT_EQ(PosiDataCheckAll(), 0) << lines;
+  EXPECT_TRUE(PosiDataCheckAll()) << lines;
 }
 
 TEST_F(PosiCheck, AnAxisNotInUseIsFilledAndNotJudged) {
@@ -164,7 +164,7 @@ TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
   AppState.PosiFromNo = 2;
   AppState.PosiToNo = 4;
   EXPECT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(PosiDataCheckAll(), 1);
+  EXPECT_FALSE(PosiDataCheckAll());
   EXPECT_EQ(lines, "1: 1;");
 }
 

@@ -227,7 +227,7 @@ TEST_F(PosiGrid, InMillimetresOnlyAnEditedCellChangesItsPulses) {
     MmFollowsPulses();
     EXPECT_EQ(Cell(3, kPosi), program_mode ? " +15.000" : "  15.000");
     EXPECT_EQ(Cell(4, kPosi), program_mode ? " +12.345" : "  12.345") << "as the user typed it";
-    EXPECT_EQ(PosiDataCheckAll(), 0);
+    EXPECT_TRUE(PosiDataCheckAll());
     EXPECT_EQ(PosiTable.PosiPulse[0][3], 1000);
     EXPECT_EQ(PosiTable.PosiPulse[0][4], 823);
     EXPECT_EQ(PosiTable.PosiPulse[0][5], 1000);
