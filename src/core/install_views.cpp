@@ -3,6 +3,7 @@
 #include "core/frame_commands.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
+#include "data/grp_view.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
 #include "para/change_device.h"
@@ -41,6 +42,7 @@ void InstallViews() {
   InstallChangeDevice();
   InstallParaView();
   InstallStrokeCalc();
+  InstallGrpView();
 }
 
 }  // namespace tr7

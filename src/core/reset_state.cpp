@@ -44,6 +44,7 @@ void ResetState() {
   CommonTable = CommonTableRecord{};
   SysPara = SysParaRead = SysParaRecord{};
   GrpTable = GrpStage = GrpTableRecord{};
+  GrpFlags = GrpFlagsRecord{};
   SmTable = SmStage = SmTableRecord{};
   PosiTable = PosiTableRecord{};
   RenewViews();

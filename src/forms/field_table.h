@@ -20,6 +20,8 @@ struct FieldTable {
   std::string Place;
   std::vector<Control*> Heads;  ///< one a column of fields
   std::vector<FieldRow> Rows;
+  /// Twips: of the names, then of each column of fields; empty: the usual ones.
+  std::vector<double> Widths = {};
 };
 
 }  // namespace tr7

@@ -90,14 +90,6 @@ void OpenParameters() {
   if (MayDropChanges(kMsgSaveBeforeOpen)) OpenParaFile();
 }
 
-void ShowParameters() {
-  if (frmParameta2.Visible) {
-    doors.forms->BringToFront(frmParameta2);
-  } else {
-    ShowView(frmParameta2);
-  }
-}
-
 void CommandsGoOff() {
   frmParameta2.CommandsAreOff = true;
   EnableParaControls();
@@ -125,7 +117,7 @@ void InstallParaView() {
   InstallParaSp();
   InstallActuatorLists();
   f.Commands.Open = OpenParameters;
-  frmMain.mnuViewPara.Click = ShowParameters;
+  frmMain.mnuViewPara.Click = [] { ShowOrBringToFront(frmParameta2); };
 }
 
 }  // namespace tr7

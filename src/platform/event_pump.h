@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace tr7 {
 
@@ -13,6 +14,9 @@ class EventPump {
 
   /// Monotonic clock, microseconds.
   virtual std::int64_t NowUs() const = 0;
+
+  /// The local time of day for the user to read: "16:05".
+  virtual std::string TimeOfDay() const = 0;
 
   /// Serves what is due. When nothing is, sleeps until something is, and serves that.
   virtual void Run() = 0;

@@ -27,6 +27,10 @@ bool AskOk(MsgId id) {
   return MsgBox(Text(id), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
+bool AskYes(MsgId id) {
+  return MsgBox(Text(id), MsgButtons::YesNo, MsgIcon::Question) == MsgAnswer::Yes;
+}
+
 MsgAnswer AskYesNoCancel(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNoCancel, MsgIcon::Question);
 }

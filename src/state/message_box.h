@@ -28,6 +28,8 @@ void Tell(MsgId id);
 void TellDone(MsgId id);
 /// A question with OK and Cancel: true for OK.
 [[nodiscard]] bool AskOk(MsgId id);
+/// A question with Yes and No: true for Yes.
+[[nodiscard]] bool AskYes(MsgId id);
 /// A question with Yes, No and Cancel.
 [[nodiscard]] MsgAnswer AskYesNoCancel(MsgId id);
 

@@ -66,10 +66,12 @@ std::string Text(MsgId id) {
   return AppState.LangOffset == 0 ? row->japanese : row->english;
 }
 
-std::string Text(MsgId id, const std::string& arg1, const std::string& arg2) {
+std::string Text(MsgId id, const std::string& arg1, const std::string& arg2,
+                 const std::string& arg3) {
   std::string text = Text(id);
   Replace(text, "%1", arg1);
   Replace(text, "%2", arg2);
+  Replace(text, "%3", arg3);
   return text;
 }
 

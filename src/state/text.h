@@ -21,7 +21,8 @@ const std::vector<MessageRow>& MessageTable();
 /// "#" and the number, so that it is seen.
 std::string Text(MsgId id);
 
-/// The text with "%1" and "%2" replaced.
-std::string Text(MsgId id, const std::string& arg1, const std::string& arg2 = {});
+/// The text with "%1" to "%3" replaced.
+std::string Text(MsgId id, const std::string& arg1, const std::string& arg2 = {},
+                 const std::string& arg3 = {});
 
 }  // namespace tr7

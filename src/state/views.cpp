@@ -67,6 +67,14 @@ void ShowView(View& view) {
   if (view.MdiChild) SetActiveView(&view);
 }
 
+void ShowOrBringToFront(View& view) {
+  if (view.Visible) {
+    doors.forms->BringToFront(view);
+  } else {
+    ShowView(view);
+  }
+}
+
 void ShowViewModal(View& view) {
   const HandlerRuns asked;  // whoever asked looks at the record when the view has been closed
   LoadView(view);
@@ -119,6 +127,17 @@ void ForOpenViews(Handler<void()> View::*handler) {
 }
 
 }  // namespace
+
+void SwitchControls(View& view, bool on) {
+  for (Control* control : view.Controls) {
+    if (const auto* button = dynamic_cast<CommandButton*>(control)) {
+      control->Enabled = on && button->Click;
+    } else if (dynamic_cast<TextBox*>(control) || dynamic_cast<ComboBox*>(control) ||
+               dynamic_cast<OptionButton*>(control) || dynamic_cast<CheckBox*>(control)) {
+      control->Enabled = on;
+    }
+  }
+}
 
 void AllViewsCmdMuko() { ForOpenViews(&View::CmdMuko); }
 void AllViewsCmdYuko() { ForOpenViews(&View::CmdYuko); }

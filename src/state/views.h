@@ -21,6 +21,8 @@ void ApplyViewCaptions(View& view);
 void ShowView(View& view);
 /// The same, before all others; returns when the view has been closed.
 void ShowViewModal(View& view);
+/// Shows a view of the frame, or brings it to the front where it is open.
+void ShowOrBringToFront(View& view);
 /// Closes without asking: takes the view off the screen, then runs its `Unload`.
 void UnloadView(View& view);
 /// The user or a command asks to close: `QueryUnload` may refuse. True when the view is closed.
@@ -32,6 +34,9 @@ void ResetViews();
 /// Commands of every open view off and on; every long sequence stands between the two.
 void AllViewsCmdMuko();
 void AllViewsCmdYuko();
+/// Every control of the view that a user acts on goes off or on; a button without a command stays
+/// off. Nothing is typed into what a transfer is about.
+void SwitchControls(View& view, bool on);
 /// Tells every open view that the line went online or offline, or that mode, axes or devices are
 /// others now.
 void AllViewsOnlineChanged();

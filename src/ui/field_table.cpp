@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "forms/control.h"
+#include "ui/twips.h"
 
 namespace tr7 {
 namespace {
@@ -52,8 +53,15 @@ QWidget* MakeHead(const Control& control, QWidget& parent) {
   return head;
 }
 
-void SetFieldSize(QWidget& field) {
-  field.setFixedWidth(kFieldWidth);
+/// In pixels: of the names at 0, then of the columns of fields.
+int WidthOf(const FieldTable& table, int column) {
+  const auto index = static_cast<std::size_t>(column);
+  if (index < table.Widths.size()) return Pixels(table.Widths[index]);
+  return column == 0 ? kNameWidth : kFieldWidth;
+}
+
+void SetFieldSize(QWidget& field, int width) {
+  field.setFixedWidth(width);
   field.setMinimumHeight(kFieldHeight);
 }
 
@@ -74,7 +82,8 @@ QLayout* InOnePlace(const FieldRow& row, QWidget& parent) {
   return line;
 }
 
-void AddRow(const FieldRow& row, int at, int columns, QGridLayout& grid, QWidget& parent) {
+void AddRow(const FieldTable& table, const FieldRow& row, int at, int columns, QGridLayout& grid,
+            QWidget& parent) {
   grid.addWidget(Make(*row.Name, parent), at, 0);
   if (row.InOnePlace) {
     grid.addLayout(InOnePlace(row, parent), at, 1, 1, columns + 1);
@@ -83,7 +92,7 @@ void AddRow(const FieldRow& row, int at, int columns, QGridLayout& grid, QWidget
   int column = 1;
   for (const Control* control : row.Fields) {
     QWidget* field = Make(*control, parent);
-    SetFieldSize(*field);
+    SetFieldSize(*field, WidthOf(table, column));
     grid.addWidget(field, at, column++);
   }
 }
@@ -93,14 +102,14 @@ void Build(const FieldTable& table, QWidget& place) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(2);
-  grid->setColumnMinimumWidth(0, kNameWidth);
+  grid->setColumnMinimumWidth(0, WidthOf(table, 0));
   int columns = 0, at = 0;
   for (const Control* head : table.Heads) grid->addWidget(MakeHead(*head, place), 0, ++columns);
   if (columns > 0) ++at;
   for (const FieldRow& row : table.Rows) {
     if (!row.InOnePlace) columns = std::max(columns, static_cast<int>(row.Fields.size()));
   }
-  for (const FieldRow& row : table.Rows) AddRow(row, at++, columns, *grid, place);
+  for (const FieldRow& row : table.Rows) AddRow(table, row, at++, columns, *grid, place);
   grid->setColumnStretch(columns + 1, 1);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/qt_pump.h"
 
 #include <QAbstractEventDispatcher>
+#include <QTime>
 #include <algorithm>
 #include <chrono>
 
@@ -29,6 +30,10 @@ QtPump::QtPump() {
 std::int64_t QtPump::NowUs() const {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
   return std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+}
+
+std::string QtPump::TimeOfDay() const {
+  return QTime::currentTime().toString(QStringLiteral("HH:mm")).toStdString();
 }
 
 void QtPump::Arm() {

@@ -18,6 +18,7 @@ class QtPump : public QObject, public EventPump {
   QtPump();
 
   std::int64_t NowUs() const override;
+  std::string TimeOfDay() const override;
   void Run() override;
 
   /// Called before the loop sleeps; gives the time at which it wants to be called again.

@@ -1,0 +1,106 @@
+#include "data/grp_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+#include "base/seq_file.h"
+#include "base/text_helpers.h"
+#include "data/grp_table.h"
+#include "state/file_kind.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/text_file.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kKind = "GRP";
+/// The first one is ours; files of the older products hold the same.
+constexpr std::array<std::string_view, 3> kProducts = {"QV-R7", "QV-L4", "QV-L2"};
+constexpr int kItemsOfGroup = 3;  ///< number, start and end
+
+constexpr int kMsgHeadDamaged = 6451;
+constexpr int kMsgGroupDamaged = 6484;
+
+int Bad(const SeqReader& items, const std::string& words) {
+  GrpFlags.GrpFileFaultText = AtLine(items.Line(), words);
+  return 1;
+}
+
+bool IsGroupFile(const std::string& product, const std::string& kind) {
+  return kind == kKind && std::find(kProducts.begin(), kProducts.end(), product) != kProducts.end();
+}
+
+bool ReadNumberTo(SeqReader& items, std::int16_t& number) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  int read = 0;
+  if (!items.ReadInteger(Limits::min(), Limits::max(), read)) return false;
+  number = static_cast<std::int16_t>(read);
+  return true;
+}
+
+bool ReadGroup(SeqReader& items, GrpTableRecord& read) {
+  std::string text;
+  if (!items.ReadText(text)) return false;
+  const double number = Val(text);
+  if (!(number >= 1 && number <= kGroups)) return false;
+  const int n = static_cast<int>(number);
+  return ReadNumberTo(items, read.GrpStart[n]) && ReadNumberTo(items, read.GrpEnd[n]);
+}
+
+int ReadGroups(SeqReader& items) {
+  double ignored = 0;  // how many groups and items the file claims to have
+  if (!items.ReadNumber(ignored) || !items.ReadNumber(ignored)) {
+    return Bad(items, Text(kMsgHeadDamaged));
+  }
+  GrpTableRecord read = GrpStage;
+  while (!items.AtEnd()) {
+    if (!ReadGroup(items, read)) return Bad(items, Text(kMsgGroupDamaged));
+  }
+  GrpStage = read;
+  return 0;
+}
+
+}  // namespace
+
+int GrpFileRead(const std::string& path) {
+  GrpFlags.GrpFileRefused = False;
+  GrpFlags.GrpFileFaultText.clear();
+  std::string text;
+  const TextFileResult file = ReadTextFile(path, text);
+  if (!file.ok) {
+    GrpFlags.GrpFileFaultText = file.words;
+    return 1;
+  }
+  SeqReader items(text);
+  std::string product, kind;
+  if (!items.ReadText(product) || !items.ReadText(kind)) return Bad(items, Text(kMsgHeadDamaged));
+  if (IsGroupFile(product, kind)) return ReadGroups(items);
+  GrpFlags.GrpFileRefused = True;
+  MsgBox(WithReason(TwoLines(19, 20), WhatFileIs(path, text)));
+  return 0;
+}
+
+int GrpFileSave(const std::string& path) {
+  SeqWriter file;
+  file.Text(kProducts[0]);
+  file.Text(kKind);
+  file.EndLine();
+  file.Number(kGroups);
+  file.Number(kItemsOfGroup);
+  file.EndLine();
+  for (int n = 1; n <= kGroups; ++n) {
+    file.Text(std::to_string(n));
+    file.Number(GrpTable.GrpStart[n]);
+    file.Number(GrpTable.GrpEnd[n]);
+    file.EndLine();
+  }
+  const TextFileResult saved = SaveTextFile(path, file.Result());
+  GrpFlags.GrpFileFaultText = saved.words;
+  return saved.ok ? 0 : 1;
+}
+
+}  // namespace tr7

@@ -1,0 +1,93 @@
+#include "data/grp_view.h"
+
+#include "data/grp_flows.h"
+#include "data/grp_show.h"
+#include "data/grp_table.h"
+#include "data/kept_aside.h"
+#include "forms/frm_grp.h"
+#include "forms/frm_main.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/views.h"
+
+namespace tr7 {
+namespace {
+
+KeptAside<GrpTableRecord> groups_aside;
+
+void ShowPage(int page) {
+  StoreShownGroups();
+  frmGrp.ShownPage = page;
+  GrpShow();
+}
+
+void LoadGroups() {
+  GrpTable = GrpTableRecord{};
+  frmGrp.ShownPage = 0;
+  frmGrp.optGrpNo[0].Choose();
+  groups_aside.Offer(frmGrp.cmdGrpRestore);
+  GrpShow();
+}
+
+void ForgetGroups() {
+  if (GrpTable != GrpTableRecord{}) groups_aside.Keep(GrpTable);
+}
+
+void BringBack() {
+  if (const auto groups = groups_aside.Take()) GrpTable = *groups;
+  groups_aside.Offer(frmGrp.cmdGrpRestore);
+  GrpShow();
+}
+
+/// Start, end, the next row's start; behind the last row the first one.
+void GoOn(std::size_t row, bool from_start) {
+  FrmGrp& f = frmGrp;
+  TextBox& next =
+      from_start ? f.Rows[row].txtGrpEndNo : f.Rows[(row + 1) % f.Rows.size()].txtGrpStartNo;
+  doors.forms->SetFocus(next);
+}
+
+void InstallRow(std::size_t row) {
+  GrpRow& shown = frmGrp.Rows[row];
+  shown.txtGrpStartNo.LostFocus = shown.txtGrpEndNo.LostFocus = StoreShownGroups;
+  shown.txtGrpStartNo.Enter = [row] { GoOn(row, true); };
+  shown.txtGrpEndNo.Enter = [row] { GoOn(row, false); };
+}
+
+bool RefusesToClose(CloseReason) {
+  StoreShownGroups();
+  return AppState.CommandsOffDepth > 0;
+}
+
+void InstallButtons() {
+  FrmGrp& f = frmGrp;
+  f.cmdReadGrp.Click = ReadGroups;
+  f.cmdWriteGrp.Click = WriteGroups;
+  f.cmdGrpCtVerify.Click = VerifyGroupsToCt;
+  f.cmdGrpFileOpen.Click = OpenGroupFile;
+  f.cmdGrpFileSave.Click = SaveGroupFile;
+  f.cmdGrpFileVerify.Click = VerifyGroupsToFile;
+  f.cmdGrpRestore.Click = BringBack;
+  f.cmdClose.Click = [] { CloseView(frmGrp, CloseReason::Code); };
+}
+
+}  // namespace
+
+void InstallGrpView() {
+  FrmGrp& f = frmGrp;
+  groups_aside = {};
+  f.Load = LoadGroups;
+  f.QueryUnload = RefusesToClose;
+  f.Unload = ForgetGroups;
+  f.Activate = f.LayoutChanged = GrpShow;
+  f.CmdMuko = [] { SwitchControls(frmGrp, false); };
+  f.CmdYuko = [] { SwitchControls(frmGrp, true); };
+  for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
+  for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
+  InstallButtons();
+  SwitchControls(f, true);
+  f.Commands.Open = OpenGroupFile;
+  frmMain.mnuViewGrp.Click = [] { ShowOrBringToFront(frmGrp); };
+}
+
+}  // namespace tr7

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/option_group.h"
+#include "forms/row_array.h"
+
+namespace tr7 {
+
+inline constexpr int kGrpPageRows = 33;  ///< groups on show at a time
+
+/// One group on show.
+struct GrpRow {
+  GrpRow(View& owner, std::size_t index)
+      : lblGrpNo(owner, "lblGrpNo" + std::to_string(index + 1)),
+        txtGrpStartNo(owner, "txtGrpStartNo" + std::to_string(index + 1)),
+        txtGrpEndNo(owner, "txtGrpEndNo" + std::to_string(index + 1)),
+        lblGrpCover(owner, "lblGrpCover" + std::to_string(index + 1)) {
+    for (TextBox* box : {&txtGrpStartNo, &txtGrpEndNo}) {
+      box->MaxLength = 3;
+      box->AllowedChars = "0123456789";
+    }
+  }
+  Label lblGrpNo;
+  TextBox txtGrpStartNo, txtGrpEndNo;
+  Label lblGrpCover;  ///< which positions of the table it covers
+};
+
+/// The groups: three pages of 33.
+struct FrmGrp : View {
+  FrmGrp();
+  OptionGroup<3> optGrpNo{*this, "optGrpNo", 1, {6470, 6471, 6472}};
+  CommandButton cmdGrpRestore{*this, "cmdGrpRestore"};
+  RowArray<GrpRow, kGrpPageRows> Rows{*this};
+  Frame framCt{*this, "framCt", 6473};
+  CommandButton cmdReadGrp{*this, "cmdReadGrp", 6474};
+  CommandButton cmdWriteGrp{*this, "cmdWriteGrp", 6475};
+  CommandButton cmdGrpCtVerify{*this, "cmdGrpCtVerify", 6476};
+  Frame framFile{*this, "framFile", 6477};
+  CommandButton cmdGrpFileOpen{*this, "cmdGrpFileOpen", 6478};
+  CommandButton cmdGrpFileSave{*this, "cmdGrpFileSave", 6479};
+  CommandButton cmdGrpFileVerify{*this, "cmdGrpFileVerify", 6480};
+  Frame framPrint{*this, "framPrint", 6481};
+  CommandButton cmdGrpDataPrint{*this, "cmdGrpDataPrint", 6482};
+  CommandButton cmdGrpFilePrint{*this, "cmdGrpFilePrint", 6483};
+  CommandButton cmdClose{*this, "cmdClose", 2202};
+
+  int ShownPage = 0;  ///< 0 to 2; it may lag behind the options while their click is on its way
+};
+
+inline Standing<FrmGrp> frmGrp;
+
+}  // namespace tr7

@@ -1,0 +1,38 @@
+#include "steps/held_write.h"
+
+#include "link/status_commands.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "steps/held_axes.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgMoving = 424;
+constexpr int kMsgLineFailed = 377;
+constexpr int kMsgMayBePartly = 6485;
+
+/// Unlike elsewhere the exchange's own failure has a box of its own here.
+bool StandStill() {
+  const int rest = ReadAlarmFromCt();
+  if (rest == 0) Tell(kMsgMoving);
+  if (rest < 0) Tell(kMsgLineFailed);
+  return rest == 1;
+}
+
+}  // namespace
+
+Outcome WriteHeld(const std::function<Outcome()>& write) {
+  const WaitCursorScope wait_cursor;
+  if (!StandStill()) return Outcome::Failed;
+  HeldAxes held;
+  if (!held.Hold()) return Outcome::Failed;
+  const Outcome outcome = write();
+  if (outcome != Outcome::Done) {
+    Tell(kMsgMayBePartly);
+    return outcome;
+  }
+  return held.Release() ? Outcome::Done : Outcome::Failed;
+}
+
+}  // namespace tr7
