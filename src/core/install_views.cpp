@@ -4,6 +4,7 @@
 #include "core/main_entry.h"
 #include "core/options_view.h"
 #include "data/grp_view.h"
+#include "data/sm_view.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
 #include "para/change_device.h"
@@ -43,6 +44,7 @@ void InstallViews() {
   InstallParaView();
   InstallStrokeCalc();
   InstallGrpView();
+  InstallSmView();
 }
 
 }  // namespace tr7

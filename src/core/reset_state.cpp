@@ -46,6 +46,7 @@ void ResetState() {
   GrpTable = GrpStage = GrpTableRecord{};
   GrpFlags = GrpFlagsRecord{};
   SmTable = SmStage = SmTableRecord{};
+  SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
   RenewViews();
   InstallViews();

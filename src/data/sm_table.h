@@ -2,11 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace tr7 {
 
 inline constexpr int kMacros = 20;
 inline constexpr int kMacroSteps = 16;
+inline constexpr int kSmEnd = 0, kSmBlank = 15;
 
 /// One step of a sequence macro. Commands: 0 end, 1 and 2 wait for an input on or off, 3 and 4
 /// output on or off, 5 timer, 6 timer times ten; 15 is a blank cell of the controller.
@@ -22,5 +24,27 @@ using SmTableRecord = std::array<std::array<SmStep, kMacroSteps>, kMacros>;
 extern SmTableRecord SmTable;
 /// Where data from the controller or a file lands first.
 extern SmTableRecord SmStage;
+
+void SmStageCommit();     ///< stage to table
+void SmStageFromTable();  ///< table to stage
+
+/// What the macro flows leave for one another.
+struct SmFlagsRecord {
+  std::string SmBadList;        ///< macros that the check refuses: "<3>,<7>,"
+  std::string SmSyogoList;      ///< macros that differ: "3,7,"
+  std::string SmFileFaultText;  ///< why a file could not be read or saved
+};
+
+extern SmFlagsRecord SmFlags;
+
+/// The highest value of a step command, whose lowest is 1; 0: it takes none, or is no command.
+int SmHighestValue(int command);
+
+/// Every step of `SmTable` within its range: 0, or 1 with `SmBadList`. A blank cell of the
+/// controller becomes an end, and the value of an end 0.
+int SmData_Check();
+
+/// Compares table and stage into `SmSyogoList`. The values of an end do not count.
+void SmStageCompare();
 
 }  // namespace tr7

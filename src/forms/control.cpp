@@ -76,6 +76,12 @@ void ComboBox::Type(const std::string& typed) {
   if (!ShowText(typed)) ListIndex = -1;
 }
 
+void UpDown::Set(int value) {
+  if (!Enabled || !Visible || value == Value || value < Min || value > Max) return;
+  Value = value;
+  if (Change) Change();
+}
+
 void Toolbar::Press(const std::string& key) {
   for (const ToolButton& button : Buttons) {
     if (key == button.Key && button.Enabled && Enabled && Visible && ButtonClick) {

@@ -138,6 +138,17 @@ struct ListBox : Control {
   Handler<void()> Click;
 };
 
+/// A number that steps up and down, or is typed.
+struct UpDown : Control {
+  UpDown(View& owner, const std::string& name, int min, int max)
+      : Control(owner, "UpDown", name), Min(min), Max(max), Value(min) {}
+  int Min, Max;
+  int Value;  ///< `Min` to `Max`
+  Handler<void()> Change;
+  /// Sets the value as a user does, where it is allowed and another.
+  void Set(int value);
+};
+
 struct ProgressBar : Control {
   ProgressBar(View& owner, const std::string& name) : Control(owner, "ProgressBar", name) {}
   int Max = 100;

@@ -7,7 +7,11 @@ constexpr std::size_t kColumns = 3;  ///< the page stands in three columns
 
 FieldTable Column(FrmGrp& f, std::size_t column) {
   constexpr std::size_t kRows = kGrpPageRows / kColumns;
-  FieldTable table{"areaTable" + std::to_string(column + 1), {}, {}, {480, 600, 600, 2500}};
+  GrpHead& head = f.Heads[column];
+  FieldTable table{"areaTable" + std::to_string(column + 1),
+                   {&head.lblGrpStart, &head.lblGrpEnd},
+                   {},
+                   {480, 600, 600, 2500}};
   for (std::size_t i = column * kRows; i < (column + 1) * kRows; ++i) {
     GrpRow& row = f.Rows[i];
     table.Rows.push_back({&row.lblGrpNo, {&row.txtGrpStartNo, &row.txtGrpEndNo, &row.lblGrpCover}});

@@ -28,11 +28,20 @@ struct GrpRow {
   Label lblGrpCover;  ///< which positions of the table it covers
 };
 
+/// What stands over the columns of a third of the page.
+struct GrpHead {
+  GrpHead(View& owner, std::size_t index)
+      : lblGrpStart(owner, "lblGrpStart" + std::to_string(index + 1), 6505),
+        lblGrpEnd(owner, "lblGrpEnd" + std::to_string(index + 1), 6506) {}
+  Label lblGrpStart, lblGrpEnd;
+};
+
 /// The groups: three pages of 33.
 struct FrmGrp : View {
   FrmGrp();
   OptionGroup<3> optGrpNo{*this, "optGrpNo", 1, {6470, 6471, 6472}};
   CommandButton cmdGrpRestore{*this, "cmdGrpRestore"};
+  RowArray<GrpHead, 3> Heads{*this};
   RowArray<GrpRow, kGrpPageRows> Rows{*this};
   Frame framCt{*this, "framCt", 6473};
   CommandButton cmdReadGrp{*this, "cmdReadGrp", 6474};

@@ -133,7 +133,8 @@ void SwitchControls(View& view, bool on) {
     if (const auto* button = dynamic_cast<CommandButton*>(control)) {
       control->Enabled = on && button->Click;
     } else if (dynamic_cast<TextBox*>(control) || dynamic_cast<ComboBox*>(control) ||
-               dynamic_cast<OptionButton*>(control) || dynamic_cast<CheckBox*>(control)) {
+               dynamic_cast<OptionButton*>(control) || dynamic_cast<CheckBox*>(control) ||
+               dynamic_cast<UpDown*>(control)) {
       control->Enabled = on;
     }
   }

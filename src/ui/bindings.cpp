@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QSpinBox>
 #include <QTabBar>
 #include <vector>
 
@@ -177,6 +178,25 @@ class ProgressBarBinding : public WidgetBinding {
   QProgressBar& bar_;
 };
 
+class UpDownBinding : public QObject, public WidgetBinding {
+ public:
+  UpDownBinding(UpDown& record, QSpinBox& box)
+      : WidgetBinding(record, box), record_(record), box_(box) {
+    box.setRange(record.Min, record.Max);
+    QObject::connect(&box, &QSpinBox::valueChanged, this, [this](int value) {
+      if (value != record_.Value) record_.Set(value);
+    });
+  }
+  void Push() override {
+    WidgetBinding::Push();
+    if (box_.value() != record_.Value) box_.setValue(record_.Value);
+  }
+
+ private:
+  UpDown& record_;
+  QSpinBox& box_;
+};
+
 class TabStripBinding : public QObject, public WidgetBinding {
  public:
   TabStripBinding(TabStrip& record, QTabBar& bar, const CommandGate& gate)
@@ -248,6 +268,7 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
       Tie<ComboBox, QComboBox, ComboBoxBinding>(made, control, target) ||
       Tie<ListBox, QListWidget, ListBoxBinding>(made, control, target) ||
       Tie<ProgressBar, QProgressBar, ProgressBarBinding>(made, control, target) ||
+      Tie<UpDown, QSpinBox, UpDownBinding>(made, control, target) ||
       Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target, gate) ||
       Tie<Grid, GridTable, GridBinding>(made, control, target) ||
       Tie<Toolbar, QToolBar, ToolbarBinding>(made, control, target, gate) ||

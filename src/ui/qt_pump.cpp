@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QTime>
+#include <QTime>
 #include <algorithm>
 #include <chrono>
 

@@ -1,0 +1,99 @@
+#include "data/sm_file.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "base/seq_file.h"
+#include "base/text_helpers.h"
+#include "data/sm_table.h"
+#include "state/file_kind.h"
+#include "state/text.h"
+#include "state/text_file.h"
+
+namespace tr7 {
+namespace {
+
+constexpr const char* kProduct = "QV-R7";
+constexpr const char* kKind = "SM";
+constexpr int kItemsOfStep = 2;
+
+constexpr int kMsgHeadDamaged = 6451;
+constexpr int kMsgMacroDamaged = 6500;
+
+int Bad(const std::string& words) {
+  SmFlags.SmFileFaultText = words;
+  return 1;
+}
+
+bool ReadNumberTo(SeqReader& items, std::int16_t& number) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  int read = 0;
+  if (!items.ReadInteger(Limits::min(), Limits::max(), read)) return false;
+  number = static_cast<std::int16_t>(read);
+  return true;
+}
+
+bool ReadMacro(SeqReader& items, SmTableRecord& read) {
+  std::string text;
+  if (!items.ReadText(text)) return false;
+  const double number = Val(text);
+  if (!(number >= 1 && number <= kMacros)) return false;
+  for (SmStep& step : read[static_cast<std::size_t>(number) - 1]) {
+    if (!ReadNumberTo(items, step.Command) || !ReadNumberTo(items, step.Value)) return false;
+  }
+  return true;
+}
+
+int ReadMacros(SeqReader& items) {
+  double ignored = 0;  // how many steps, items and macros the file claims to have
+  for (int i = 0; i < 3; ++i) {
+    if (!items.ReadNumber(ignored)) return Bad(AtLine(items.Line(), Text(kMsgHeadDamaged)));
+  }
+  SmTableRecord read = SmStage;
+  while (!items.AtEnd()) {
+    if (!ReadMacro(items, read)) return Bad(AtLine(items.Line(), Text(kMsgMacroDamaged)));
+  }
+  SmStage = read;
+  return 0;
+}
+
+}  // namespace
+
+int OpenSMFile(const std::string& path) {
+  SmFlags.SmFileFaultText.clear();
+  std::string text;
+  const TextFileResult file = ReadTextFile(path, text);
+  if (!file.ok) return Bad(file.words);
+  SeqReader items(text);
+  std::string product, kind;
+  if (!items.ReadText(product) || !items.ReadText(kind)) {
+    return Bad(AtLine(items.Line(), Text(kMsgHeadDamaged)));
+  }
+  if (product != kProduct || kind != kKind) return Bad(WhatFileIs(path, text));
+  return ReadMacros(items);
+}
+
+int SmFileSave(const std::string& path) {
+  SeqWriter file;
+  file.Text(kProduct);
+  file.Text(kKind);
+  file.EndLine();
+  file.Number(kMacroSteps);
+  file.Number(kItemsOfStep);
+  file.Number(kMacros);
+  file.EndLine();
+  for (int n = 1; n <= kMacros; ++n) {
+    file.Text(std::to_string(n));
+    file.EndLine();
+    for (const SmStep& step : SmTable[n - 1]) {
+      file.Number(step.Command);
+      file.Number(step.Value);
+      file.EndLine();
+    }
+  }
+  const TextFileResult saved = SaveTextFile(path, file.Result());
+  SmFlags.SmFileFaultText = saved.words;
+  return saved.ok ? 0 : 1;
+}
+
+}  // namespace tr7

@@ -1,0 +1,116 @@
+#include "data/sm_view.h"
+
+#include <array>
+
+#include "base/text_helpers.h"
+#include "data/kept_aside.h"
+#include "data/sm_flows.h"
+#include "data/sm_show.h"
+#include "data/sm_table.h"
+#include "forms/frm_main.h"
+#include "forms/frm_sq_mcr.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/views.h"
+
+namespace tr7 {
+namespace {
+
+constexpr std::array kCommands = {"0. END",     "1. IN-ON", "2. IN-OFF", "3. OUT-ON",
+                                  "4. OUT-OFF", "5. TIMER", "6. TIMER10"};
+
+KeptAside<SmTableRecord> macros_aside;
+
+SmStep& StepAt(std::size_t row) { return SmTable[ShownMacro() - 1][row]; }
+
+// The rows.
+
+void CommandChosen(std::size_t row) {
+  const int code = frmSqMcr.Rows[row].comboMerei.ListIndex;
+  if (code < 0 || code >= static_cast<int>(kCommands.size())) return doors.forms->Beep();
+  StepAt(row).Command = static_cast<std::int16_t>(code);
+  if (code == kSmEnd) StepAt(row).Value = 0;
+  SmShow();
+}
+
+/// A value out of its command's range becomes 1.
+void ValueEntered(std::size_t row) {
+  SmStep& step = StepAt(row);
+  if (step.Command == kSmEnd) return;
+  if (step.Value >= 1 && step.Value <= SmHighestValue(step.Command)) return;
+  step.Value = 1;
+  SmShow();
+}
+
+void ValueTyped(std::size_t row) {
+  StepAt(row).Value = static_cast<std::int16_t>(Val(frmSqMcr.Rows[row].txtSmData.Text));
+}
+
+void InstallRow(std::size_t row) {
+  SmRow& shown = frmSqMcr.Rows[row];
+  for (std::size_t code = 0; code < kCommands.size(); ++code) {
+    shown.comboMerei.AddItem(kCommands[code], static_cast<int>(code));
+  }
+  shown.comboMerei.Click = [row] { CommandChosen(row); };
+  shown.txtSmData.GotFocus = [row] { ValueEntered(row); };
+  shown.txtSmData.Change = [row] { ValueTyped(row); };
+  shown.txtSmData.Enter = [row] {
+    doors.forms->SetFocus(frmSqMcr.Rows[(row + 1) % frmSqMcr.Rows.size()].comboMerei);
+  };
+}
+
+// The view.
+
+void LoadMacros() {
+  SmTable = SmTableRecord{};
+  frmSqMcr.UpDownSmNo.Value = 1;
+  macros_aside.Offer(frmSqMcr.cmdSmRestore);
+  SmShow();
+}
+
+void ForgetMacros() {
+  if (SmTable != SmTableRecord{}) macros_aside.Keep(SmTable);
+}
+
+void BringBack() {
+  if (const auto macros = macros_aside.Take()) SmTable = *macros;
+  macros_aside.Offer(frmSqMcr.cmdSmRestore);
+  SmShow();
+}
+
+void SwitchCommands(bool on) {
+  SwitchControls(frmSqMcr, on);
+  SmShow();  // an end takes no value
+}
+
+void InstallButtons() {
+  FrmSqMcr& f = frmSqMcr;
+  f.cmdReadSMfromCt.Click = ReadMacros;
+  f.cmdWriteSMtoCt.Click = WriteMacros;
+  f.cmdSmCTShogo.Click = VerifyMacrosToCt;
+  f.cmdSmFileOpen.Click = OpenMacroFile;
+  f.cmdSmFileSave.Click = SaveMacroFile;
+  f.cmdSmFileShogo.Click = VerifyMacrosToFile;
+  f.cmdSmRestore.Click = BringBack;
+  f.cmdClose.Click = [] { CloseView(frmSqMcr, CloseReason::Code); };
+}
+
+}  // namespace
+
+void InstallSmView() {
+  FrmSqMcr& f = frmSqMcr;
+  macros_aside = {};
+  f.Load = LoadMacros;
+  f.QueryUnload = [](CloseReason) { return AppState.CommandsOffDepth > 0; };
+  f.Unload = ForgetMacros;
+  f.CmdMuko = [] { SwitchCommands(false); };
+  f.CmdYuko = [] { SwitchCommands(true); };
+  for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
+  f.UpDownSmNo.Change = SmShow;
+  InstallButtons();
+  SwitchControls(f, true);
+  f.Commands.Open = OpenMacroFile;
+  frmMain.mnuViewSM.Click = [] { ShowOrBringToFront(frmSqMcr); };
+}
+
+}  // namespace tr7
