@@ -13,6 +13,7 @@
 #include "para/para_after_device.h"
 #include "para/para_view.h"
 #include "para/stroke_calc.h"
+#include "para/sys_para_view.h"
 #include "posi/posi_view.h"
 #include "posi/result_view.h"
 #include "state/wait.h"
@@ -43,6 +44,7 @@ void InstallViews() {
   InstallChangeDevice();
   InstallParaView();
   InstallStrokeCalc();
+  InstallSysParaView();
   InstallGrpView();
   InstallSmView();
 }

@@ -43,6 +43,7 @@ void ResetState() {
   StdTable.fill(StdList{});
   CommonTable = CommonTableRecord{};
   SysPara = SysParaRead = SysParaRecord{};
+  SysParaKnown = False;
   GrpTable = GrpStage = GrpTableRecord{};
   GrpFlags = GrpFlagsRecord{};
   SmTable = SmStage = SmTableRecord{};

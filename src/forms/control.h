@@ -26,6 +26,9 @@ struct Control {
   MsgId Tag;
   std::string Caption;
   std::string ToolTip;
+  /// What the other side holds in place of this value, in words: the control is marked, and its
+  /// tool tip says them. Empty: nothing differs, or nothing is known.
+  std::string Difference;
   bool Enabled = true;
   bool Visible = true;
 };

@@ -21,6 +21,7 @@ FrmSqMcr::FrmSqMcr() : View("frmSqMcr", 6504) {
   MdiChild = true;
   Width = 12000;
   Height = 6600;
+  lblSqMacroNo.Visible = false;  // the number is read where it is set
   for (std::size_t column = 0; column < kColumns; ++column) {
     Tables.push_back(Column(*this, column));
   }

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "base/bool16.h"
+
 namespace tr7 {
 
 /// Slots 1 to 72 are in use.
@@ -15,5 +17,13 @@ using SysParaRecord = std::array<double, 81>;
 extern SysParaRecord SysPara;
 /// What the controller is last known to hold.
 extern SysParaRecord SysParaRead;
+/// It has been read or written since the start.
+extern Bool16 SysParaKnown;
+
+/// The highest value of a slot (1 to 72); the lowest is 0.
+int SysParaHighest(std::size_t slot);
+
+/// `SysPara` within its ranges: 0, or 1 on a breach.
+int SystemParametaValueCheck();
 
 }  // namespace tr7

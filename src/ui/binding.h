@@ -57,7 +57,9 @@ class WidgetBinding : public Binding {
   QWidget& widget_;
 
  private:
-  std::optional<bool> enabled_, visible_;
+  void PushToolTip();
+
+  std::optional<bool> enabled_, visible_, differs_;
   std::optional<std::string> tool_tip_;
 };
 

@@ -30,9 +30,22 @@ void WidgetBinding::PushVisible() {
   if (Changed(visible_, control_.Visible)) widget_.setVisible(control_.Visible);
 }
 
+/// A difference is seen without colours too: bold beside the red.
+void WidgetBinding::PushToolTip() {
+  const bool differs = !control_.Difference.empty();
+  if (Changed(tool_tip_, differs ? control_.Difference : control_.ToolTip)) {
+    widget_.setToolTip(Q(*tool_tip_));
+  }
+  if (!differs && !differs_) return;
+  if (Changed(differs_, differs)) {
+    widget_.setStyleSheet(differs ? QStringLiteral("font-weight: bold; color: #b00020;")
+                                  : QString());
+  }
+}
+
 void WidgetBinding::Push() {
   if (Changed(enabled_, control_.Enabled)) widget_.setEnabled(control_.Enabled);
-  if (Changed(tool_tip_, control_.ToolTip)) widget_.setToolTip(Q(control_.ToolTip));
+  PushToolTip();
   PushVisible();
 }
 

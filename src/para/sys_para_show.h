@@ -1,0 +1,17 @@
+#pragma once
+
+namespace tr7 {
+
+/// `SysParaRead` into the 72 fields.
+void SysParaHyoji();
+
+/// The fields into `SysPara`, each by its numeric value.
+void TorikomiSystemParametaValue();
+
+/// All 72 fields hold text: 0, else 1.
+int SysParaFieldsFilled();
+
+/// Marks the fields that differ from what the controller last gave; none before it gave any.
+void MarkSysParaFields();
+
+}  // namespace tr7

@@ -1,0 +1,108 @@
+#include "para/sys_para_view.h"
+
+#include "forms/frm_main.h"
+#include "forms/frm_system_para.h"
+#include "para/para_hint.h"
+#include "para/sys_para.h"
+#include "para/sys_para_commands.h"
+#include "para/sys_para_show.h"
+#include "platform/doors.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/status_panel.h"
+#include "state/views.h"
+#include "steps/held_write.h"
+#include "steps/transfer_scope.h"
+
+namespace tr7 {
+namespace {
+
+Outcome ReadBlocks() {
+  const WaitCursorScope wait_cursor;
+  return ReadSysParaFromCt();
+}
+
+void GetSystemParametaValue() {
+  const TransferScope transfer;
+  if (!ConnectOrOpenPort() || ReadBlocks() != Outcome::Done) return;
+  SysParaKnown = True;
+  doors.forms->BringToFront(frmSystemPara);
+  SysParaHyoji();
+}
+
+/// Takes the fields. False after the user has been told what is missing or wrong.
+bool TakeFields() {
+  if (SysParaFieldsFilled() != 0) {
+    MsgBox(TwoLines(7, 8));
+    return false;
+  }
+  TorikomiSystemParametaValue();
+  if (SystemParametaValueCheck() == 0) return true;
+  MsgBox(TwoLines(1524, 1525));
+  return false;
+}
+
+void WriteSysParaFlow() {
+  const TransferScope transfer;
+  if (!AskYes(475) || !ConnectOrOpenPort() || !TakeFields()) return;
+  const Outcome outcome = WriteHeld([] {
+    const Outcome written = WriteSysParaToCt();
+    if (written != Outcome::Done) return written;
+    SysParaRead = SysPara;
+    SysParaKnown = True;
+    return written;
+  });
+  MarkSysParaFields();
+  outcome == Outcome::Done ? TellDone(1527) : Tell(1528);
+}
+
+void FieldEntered(std::size_t slot) {
+  TellInStatusPanel(ParaRangeText("0", std::to_string(SysParaHighest(slot))));
+}
+
+bool AnyFieldIsMarked() {
+  for (const SysParaField& field : frmSystemPara.Fields) {
+    if (!field.txtSystemPara.Difference.empty()) return true;
+  }
+  return false;
+}
+
+/// What has been typed is in no file: the user decides whether it goes.
+bool RefusesToClose(CloseReason) {
+  constexpr int kMsgDropEdits = 6536;
+  return AppState.CommandsOffDepth > 0 || (AnyFieldIsMarked() && !AskOk(kMsgDropEdits));
+}
+
+void LoadFields() {
+  if (SysParaKnown) return SysParaHyoji();
+  for (SysParaField& field : frmSystemPara.Fields) field.txtSystemPara.Text.clear();
+}
+
+void GoToNext(std::size_t index) {
+  auto& fields = frmSystemPara.Fields;
+  doors.forms->SetFocus(fields[(index + 1) % fields.size()].txtSystemPara);
+}
+
+}  // namespace
+
+void InstallSysParaView() {
+  FrmSystemPara& f = frmSystemPara;
+  f.Load = LoadFields;
+  f.QueryUnload = RefusesToClose;
+  f.CmdMuko = [] { SwitchControls(frmSystemPara, false); };
+  f.CmdYuko = [] { SwitchControls(frmSystemPara, true); };
+  f.cmdReadFromCt.Click = GetSystemParametaValue;
+  f.cmdWritetoCt.Click = WriteSysParaFlow;
+  f.cmdClose.Click = [] { CloseView(frmSystemPara, CloseReason::Code); };
+  for (std::size_t index = 0; index < f.Fields.size(); ++index) {
+    TextBox& box = f.Fields[index].txtSystemPara;
+    box.GotFocus = [index] { FieldEntered(index + 1); };
+    box.Change = MarkSysParaFields;
+    box.Enter = [index] { GoToNext(index); };
+  }
+  frmMain.mnuViewSysPara.Click = [] { ShowOrBringToFront(frmSystemPara); };
+}
+
+}  // namespace tr7
