@@ -11,6 +11,7 @@
 #include "session/session.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 #include "steps/file_steps.h"
 #include "steps/held_write.h"
@@ -21,6 +22,9 @@ namespace {
 
 constexpr DataFile kGrpFileToOpen{828, "grp", 833};
 constexpr DataFile kGrpFile{831, "grp", 833};
+
+constexpr int kMsgWritten = 6507;
+constexpr int kMsgSaved = 6508;
 
 void CheckAllGroups() {
   StoreShownGroups();
@@ -86,7 +90,7 @@ void ReadGroups() {
 void WriteGroups() {
   const TransferScope transfer;
   if (!GroupsMayTravel() || !AskYes(839) || !ConnectOrOpenPort()) return;
-  static_cast<void>(WriteHeld(WriteGrpToCt));  // every failure has been told
+  if (WriteHeld(WriteGrpToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
 }
 
 void VerifyGroupsToCt() {
@@ -118,7 +122,11 @@ void SaveGroupFile() {
   const auto path = AskSavePath(kGrpFile, 832);
   if (!path) return;
   const auto save = [&] { return GrpFileSave(*path) == 0 ? Attempt::Good : Attempt::MayPass; };
-  if (!TryFourTimes(save)) MsgBox(WithReason(Text(18), GrpFlags.GrpFileFaultText));
+  if (!TryFourTimes(save)) {
+    MsgBox(WithReason(Text(18), GrpFlags.GrpFileFaultText));
+    return;
+  }
+  TellInStatusPanel(Text(kMsgSaved, *path));
 }
 
 }  // namespace tr7

@@ -9,6 +9,7 @@
 #include "session/session.h"
 #include "state/busy_scope.h"
 #include "state/message_box.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 #include "steps/file_steps.h"
 #include "steps/held_write.h"
@@ -18,6 +19,9 @@ namespace tr7 {
 namespace {
 
 constexpr DataFile kSmFile{930, "smd", 934};
+
+constexpr int kMsgWritten = 6507;
+constexpr int kMsgSaved = 6508;
 
 /// False after the user has been told which macros are bad. The check may have put steps right.
 bool MacrosAreGood() {
@@ -68,7 +72,7 @@ void ReadMacros() {
 void WriteMacros() {
   const TransferScope transfer;
   if (!MacrosAreGood() || !AskYes(937) || !ConnectOrOpenPort()) return;
-  static_cast<void>(WriteHeld(WriteSmToCt));  // every failure has been told
+  if (WriteHeld(WriteSmToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
 }
 
 void VerifyMacrosToCt() {
@@ -99,7 +103,11 @@ void SaveMacroFile() {
   const auto path = AskSavePath(kSmFile, 933);
   if (!path) return;
   const auto save = [&] { return SmFileSave(*path) == 0 ? Attempt::Good : Attempt::MayPass; };
-  if (!TryFourTimes(save)) MsgBox(WithReason(Text(935), SmFlags.SmFileFaultText));
+  if (!TryFourTimes(save)) {
+    MsgBox(WithReason(Text(935), SmFlags.SmFileFaultText));
+    return;
+  }
+  TellInStatusPanel(Text(kMsgSaved, *path));
 }
 
 }  // namespace tr7

@@ -1,0 +1,317 @@
+// The views of groups, macros and system parameters: from a click to the bytes in the controller
+// or the file, the boxes, and the table that is left.
+
+#include "data/grp_table.h"
+#include "data/sm_table.h"
+#include "forms/frm_grp.h"
+#include "forms/frm_sq_mcr.h"
+#include "forms/frm_system_para.h"
+#include "para/sys_para.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+/// One of the two kinds that have a file, as the user meets it.
+struct Kind {
+  const char* name;
+  View& view;
+  Menu& menu;
+  CommandButton &read, &write, &verify_ct, &open, &save, &verify_file, &restore;
+  const char* file;
+  const char* head;
+  std::function<void(int value)> edit;  ///< types a value into the first place and leaves it
+  std::function<int()> held;            ///< what the table holds there
+  int good, other, bad;
+  const char* bad_to_send;
+  const char* bad_to_compare;
+  const char* differs;
+  const char* not_read;
+};
+
+void TypeGroupEnd(int value) {
+  TextBox& box = frmGrp.Rows[0].txtGrpEndNo;
+  box.Type(std::to_string(value));
+  box.LostFocus();
+}
+
+void ChooseAndTypeStep(int value) {
+  SmRow& row = frmSqMcr.Rows[0];
+  row.comboMerei.Pick(5);
+  row.txtSmData.GotFocus();
+  if (value == 0) {
+    row.txtSmData.Type("");  // an emptied value counts as 0
+  } else {
+    row.txtSmData.Type(std::to_string(value));
+  }
+}
+
+std::vector<Kind> Kinds() {
+  FrmGrp& g = frmGrp;
+  FrmSqMcr& s = frmSqMcr;
+  return {
+      {"groups",
+       g,
+       frmMain.mnuViewGrp,
+       g.cmdReadGrp,
+       g.cmdWriteGrp,
+       g.cmdGrpCtVerify,
+       g.cmdGrpFileOpen,
+       g.cmdGrpFileSave,
+       g.cmdGrpFileVerify,
+       g.cmdGrpRestore,
+       "/a.grp",
+       "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n\"2\",1,1\r\n",
+       TypeGroupEnd,
+       [] { return int{GrpTable.GrpEnd[1]}; },
+       15,
+       16,
+       0,
+       "Invalid value in some of group data.\nConfirm the following item ant try it again.\n"
+       " 1.Is the value setting the range of 1 to 999?\n"
+       " 2.Isn't value of start position larger than one of end position.",
+       "Invalid value in some of group data.\nConfirm the value and try it again.",
+       "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.",
+       "An error occured in Reading file."},
+      {"macros",
+       s,
+       frmMain.mnuViewSM,
+       s.cmdReadSMfromCt,
+       s.cmdWriteSMtoCt,
+       s.cmdSmCTShogo,
+       s.cmdSmFileOpen,
+       s.cmdSmFileSave,
+       s.cmdSmFileShogo,
+       s.cmdSmRestore,
+       "/a.smd",
+       "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n",
+       ChooseAndTypeStep,
+       [] { return int{SmTable[0][0].Value}; },
+       7,
+       8,
+       0,
+       "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
+       "SM No. in which the invalid value was found is as follows.\n\n<1>,",
+       "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
+       "SM No. in which the invalid value was found is as follows.\n\n<1>,",
+       "Result of Verify - NG\n<Unmatched items>\n1,SM No.",
+       "An error occured while openig SM Data file."},
+  };
+}
+
+class DataViewsTest : public FlowTest, public ::testing::WithParamInterface<std::size_t> {
+ protected:
+  void SetUp() override {
+    StartOnline();
+    kind.menu.Press();
+    Forget();
+  }
+  void Press(CommandButton& button, std::deque<MsgAnswer> answers = {}) {
+    forms.answers = std::move(answers);
+    button.Press();
+  }
+  void PressWithFile(CommandButton& button, const char* path) {
+    forms.file_answers = {path};
+    button.Press();
+  }
+
+  Kind kind = Kinds()[GetParam()];
+};
+
+TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
+  kind.edit(kind.good);
+  Press(kind.write, {MsgAnswer::Yes});
+  EXPECT_LT(SentLines(5).find("0CM01"), SentLines(5).rfind("0WE")) << "the axes are held";
+  EXPECT_EQ(Boxes().size(), 1u) << "the question alone";
+  Press(kind.verify_ct);
+  EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
+  kind.edit(kind.other);
+  Press(kind.verify_ct);
+  EXPECT_EQ(Boxes(), Texts{kind.differs});
+  Press(kind.read, {MsgAnswer::Cancel});
+  EXPECT_EQ(kind.held(), kind.other);
+  Press(kind.read, {MsgAnswer::Ok});
+  EXPECT_EQ(kind.held(), kind.good);
+}
+
+TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
+  kind.edit(kind.good);
+  PressWithFile(kind.save, kind.file);
+  const std::string saved = virt.files.Content(kind.file).value();
+  EXPECT_TRUE(saved.starts_with(kind.head)) << saved.substr(0, 60);
+  kind.edit(kind.other);
+  PressWithFile(kind.verify_file, kind.file);
+  EXPECT_EQ(Boxes(), Texts{kind.differs});
+  PressWithFile(kind.open, kind.file);
+  EXPECT_EQ(kind.held(), kind.good);
+  PressWithFile(kind.verify_file, kind.file);
+  EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
+  PressWithFile(kind.save, "/again");
+  EXPECT_EQ(virt.files.Content("/again"), saved);
+}
+
+TEST_P(DataViewsTest, BadDataGoNowhere) {
+  kind.edit(kind.bad);
+  for (CommandButton* button : {&kind.verify_ct, &kind.verify_file, &kind.save, &kind.write}) {
+    button->Press();
+    EXPECT_EQ(Boxes(), Texts{button == &kind.write ? kind.bad_to_send : kind.bad_to_compare});
+  }
+  EXPECT_EQ(SentLines(), "");
+}
+
+TEST_P(DataViewsTest, AFileThatCannotBeReadLeavesTheTable) {
+  kind.edit(kind.good);
+  const std::string head = std::string(kind.head).substr(0, std::string(kind.head).find('\n') + 1);
+  const std::string body = head + (GetParam() == 0 ? "99,3\r\n" : "16,2,20\r\n");
+  for (const std::string& content : {head + "x", body + "\"0\",1,2", body + "\"100\",1,2",
+                                     body + "\"1\",1", body + "\"1\",x,1"}) {
+    SCOPED_TRACE(content);
+    virt.files.Put("/bad", content);
+    const std::int64_t before = pump.NowUs();
+    PressWithFile(kind.open, "/bad");
+    EXPECT_EQ(pump.NowUs() - before, 300'000) << "four tries";
+    EXPECT_TRUE(BoxShown(kind.not_read));
+    Forget();
+    EXPECT_EQ(kind.held(), kind.good);
+  }
+}
+
+TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
+  EXPECT_FALSE(kind.restore.Visible);
+  kind.edit(kind.good);
+  CloseView(kind.view, CloseReason::Code);
+  kind.menu.Press();
+  EXPECT_NE(kind.held(), kind.good);
+  EXPECT_EQ(kind.restore.Caption, "Bring back what was closed at 12:00");
+  kind.restore.Press();
+  EXPECT_EQ(kind.held(), kind.good);
+  EXPECT_FALSE(kind.restore.Visible);
+}
+
+TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
+  kind.edit(kind.good);
+  struct {
+    FaultKind fault;
+    const char* at;
+    const char* box;
+  } const rows[] = {{FaultKind::kErrorReply, "0RA", "Communication Error occured."},
+                    {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
+                    {FaultKind::kErrorReply, "0W", "The writing was not completed."}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.at);
+    Spoil(row.fault, row.at);
+    Press(kind.write, {MsgAnswer::Yes});
+    EXPECT_TRUE(BoxShown(row.box));
+    EXPECT_EQ(SentLines(4).find("0WE"), std::string::npos);
+    frmMain.cmdReset.Press();
+    Forget();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, DataViewsTest, ::testing::Values(0, 1),
+                         [](const auto& info) { return info.param == 0 ? "groups" : "macros"; });
+
+// What each has for itself.
+
+class GrpViewTest : public FlowTest {
+ protected:
+  void SetUp() override {
+    StartOffline();
+    frmMain.mnuViewGrp.Press();
+  }
+};
+
+TEST_F(GrpViewTest, PagesKeysAndWhatAGroupCovers) {
+  FrmGrp& f = frmGrp;
+  f.optGrpNo[2].Press();
+  EXPECT_EQ(f.Rows[32].lblGrpNo.Caption, "99.");
+  f.Rows[32].txtGrpStartNo.Type("2a5");
+  f.Rows[32].txtGrpStartNo.Enter();
+  EXPECT_EQ(forms.focus, &f.Rows[32].txtGrpEndNo);
+  f.Rows[32].txtGrpEndNo.Type("3456");
+  f.Rows[32].txtGrpEndNo.Enter();
+  EXPECT_EQ(forms.focus, &f.Rows[0].txtGrpStartNo);
+  f.optGrpNo[0].Press();  // the page goes with a box that was never left
+  EXPECT_EQ(GrpTable.GrpStart[99], 25);
+  EXPECT_EQ(GrpTable.GrpEnd[99], 345);
+  AppState.PosiFirstNo = 1;
+  AppState.PosiLastNo = 20;
+  const struct {
+    const char *start, *end, *cover;
+  } rows[] = {{"10", "20", "No. 10 to 20, 11 positions"},
+              {"10", "21", "not in the table on screen"},
+              {"10", "9", "no range"}};
+  for (const auto& row : rows) {
+    f.Rows[1].txtGrpStartNo.Type(row.start);
+    f.Rows[1].txtGrpEndNo.Type(row.end);
+    f.Rows[1].txtGrpEndNo.LostFocus();
+    EXPECT_EQ(f.Rows[1].lblGrpCover.Caption, row.cover);
+  }
+  GrpTable = {};
+}
+
+TEST_F(GrpViewTest, FilesOfOlderProductsAndOfOtherKinds) {
+  virt.files.Put("/old.grp", "\"QV-L2\",\"GRP\"\r\n99,3\r\n\"7\",3,9\r\n");
+  forms.file_answers = {"/old.grp"};
+  frmGrp.cmdGrpFileOpen.Press();
+  EXPECT_EQ(GrpTable.GrpEnd[7], 9);
+  virt.files.Put("/p.pmt", "\"QV-R7\",\"PRM\"\r\n5\r\n");
+  forms.file_answers = {"/p.pmt"};
+  frmGrp.cmdGrpFileOpen.Press();
+  EXPECT_EQ(GrpTable.GrpEnd[7], 9);
+  ASSERT_EQ(forms.boxes.size(), 1u);
+  EXPECT_TRUE(BoxShown("Not GRP Data file for QV-TR7.\nOpening file is canceled."));
+}
+
+TEST_F(GrpViewTest, AMacroStepByItsCommand) {
+  frmMain.mnuViewSM.Press();
+  FrmSqMcr& f = frmSqMcr;
+  f.UpDownSmNo.Set(3);
+  EXPECT_FALSE(f.Rows[15].txtSmData.Enabled) << "an end takes no value";
+  f.Rows[15].comboMerei.Pick(2);
+  f.Rows[15].txtSmData.GotFocus();
+  EXPECT_EQ(SmTable[2][15], (SmStep{2, 1})) << "a value out of range becomes 1";
+  f.Rows[15].txtSmData.Type("5");
+  EXPECT_NE(SmTable[2][15].Value, 5) << "IN-OFF takes 1 to 4";
+  f.Rows[15].txtSmData.Enter();
+  EXPECT_EQ(forms.focus, &f.Rows[0].comboMerei);
+  EXPECT_EQ(f.lblSmHolds.Caption, "Macros with data: 3");
+  SmTable[2] = {};
+  SmTable[4][0] = {kSmBlank, 3};
+  EXPECT_EQ(SmData_Check(), 0);
+  EXPECT_EQ(SmTable[4][0], SmStep{}) << "a blank cell of the controller is an end";
+}
+
+class SysParaViewTest : public FlowTest {};
+
+TEST_F(SysParaViewTest, AreReadMarkedRefusedAndWritten) {
+  StartOnline();
+  frmMain.mnuViewSysPara.Press();
+  Forget();
+  FrmSystemPara& f = frmSystemPara;
+  TextBox& slot17 = f.Fields[16].txtSystemPara;
+  forms.answers = {MsgAnswer::Yes};
+  f.cmdWritetoCt.Press();
+  EXPECT_TRUE(BoxShown("No data in some of parameters"));
+  EXPECT_EQ(SentLines(), "") << "an empty field stops it before the line is used";
+  f.cmdReadFromCt.Press();
+  EXPECT_EQ(slot17.Text, "32");
+  Forget();
+  slot17.Type("256");
+  EXPECT_EQ(slot17.Difference, "In the controller: 32");
+  for (const auto& [value, box] : {std::pair{"256", "Invalid value in some parameters."},
+                                   {"255", "Completed writing parameters."}}) {
+    slot17.Type(value);
+    forms.answers = {MsgAnswer::Yes};
+    f.cmdWritetoCt.Press();
+    EXPECT_TRUE(BoxShown(box));
+    Forget();
+  }
+  EXPECT_EQ(port.Ct().CommittedSystemBlock(2).substr(0, 2), "FF");
+  EXPECT_EQ(slot17.Difference, "");
+}
+
+}  // namespace
+}  // namespace tr7
