@@ -30,6 +30,7 @@ class WriteTest : public FlowTest {
   }
   /// Reads positions 1 to `last` and changes the speed of axis 1 in all of them.
   void ReadAndEdit(int last) {
+    frmPosi.PosiChanged = False;
     ReadRange(1, last);
     for (int n = 1; n <= last; ++n) Put(n, kVel, "47");
     frmPosi.PosiChanged = True;
@@ -204,7 +205,6 @@ class StrokeTest : public WriteTest {
       note = frmSyogoKekka.flgdKekka.CellToolTip(2, kPosi);
       view.Visible = false;
     };
-    frmPosi.PosiChanged = False;
     Put(3, kPosi, text);
     Write(2, 4);
     const bool went = port.sent.find("0WP") != std::string::npos;
