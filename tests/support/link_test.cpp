@@ -41,12 +41,7 @@ void LinkTest::Plant(const std::string& line) {
 }
 
 void LinkTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_byte) {
-  qvr7sim::Fault fault;
-  fault.kind = kind;
-  fault.prefix = prefix;
-  fault.at_request = 1;
-  fault.at_byte = at_byte;
-  port.Ct().AddFault(fault);
+  StateTest::Spoil(kind, prefix, 1, at_byte);
 }
 
 }  // namespace tr7

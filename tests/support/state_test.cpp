@@ -78,6 +78,17 @@ std::string StateTest::SentLines(std::size_t characters) const {
   return lines;
 }
 
+void StateTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request,
+                      int at_byte) {
+  qvr7sim::Fault fault;
+  fault.kind = kind;
+  fault.prefix = prefix;
+  fault.at_request = at_request;
+  fault.probability = at_request == 0 ? 1 : 0;
+  fault.at_byte = at_byte;
+  port.Ct().AddFault(fault);
+}
+
 void StateTest::PutList(const char* name, const std::string& content) {
   virt.files.Put(ProgramFile(name), content);
 }
