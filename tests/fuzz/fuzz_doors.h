@@ -1,13 +1,27 @@
 #pragma once
 
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+#include <string_view>
+
 #include "core/reset_state.h"
 #include "platform/doors.h"
+#include "state/text_file.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/virtual_form_host.h"
 #include "tests/support/virtual_pump.h"
 #include "tests/support/virtual_settings.h"
 
 namespace tr7 {
+
+/// Stops the run when what must hold for every input does not.
+inline void FuzzCheck(bool holds, const char* what) {
+  if (holds) return;
+  std::fprintf(stderr, "does not hold: %s\n", what);
+  std::abort();
+}
 
 /// The doors of one run: no file but what it puts there, nobody who answers. Those of before come
 /// back at its end.
@@ -22,11 +36,28 @@ struct FuzzDoors {
   FuzzDoors(const FuzzDoors&) = delete;
   FuzzDoors& operator=(const FuzzDoors&) = delete;
 
+  /// The bytes as a list that the program brings along.
+  void PutList(const char* name, std::string_view bytes) {
+    files.Put(ProgramFile(name), std::string(bytes));
+  }
+
   const Doors before = doors;
   MemoryFiles files;
   VirtualFormHost forms;
   VirtualSettings settings;
   VirtualPump pump;
 };
+
+/// What was read, saved at the path: read and saved again it is the same bytes. Both return 0 when
+/// they went well; a save may refuse.
+inline void CheckRoundTrip(const MemoryFiles& files, const std::string& path,
+                           const std::function<int()>& save, const std::function<int()>& read) {
+  if (save() != 0) return;
+  const auto saved = files.Content(path);
+  // A number near the largest may round to more than a number holds.
+  if (saved->find(std::string(280, '0')) != std::string::npos) return;
+  FuzzCheck(read() == 0, "a saved file is good");
+  FuzzCheck(save() == 0 && files.Content(path) == saved, "the bytes are the same");
+}
 
 }  // namespace tr7

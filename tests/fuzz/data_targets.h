@@ -1,27 +1,45 @@
 #pragma once
 
-#include <cmath>
-#include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "base/bool16.h"
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
+#include "para/para_file.h"
+#include "para/param_set.h"
 #include "posi/posi_file.h"
+#include "posi/posi_range.h"
 #include "posi/posi_table.h"
-#include "state/app_state.h"
-#include "tests/fuzz/check.h"
 #include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
 
+/// Any bytes as a parameter file.
+inline void FuzzParaFile(std::string_view bytes) {
+  FuzzDoors virt;
+  const std::string path = "/x.pmt";
+  virt.files.Put(path, std::string(bytes));
+  const bool good = ReadParaTable(path) == 0;
+  FuzzCheck(good != bool(ParaFlags.ParaFileBad), "the result agrees with the flag");
+  FuzzCheck(virt.forms.boxes.size() <= (good ? 0u : 1u), "one box at most, none for a good file");
+  FuzzCheck(!good || ParaFlags.FileFaultText.empty(), "a good file needs no words");
+  const bool taken = good && TakeParamTable() == 0;
+  FuzzCheck(!good || taken == (RefusedParaRow() == 0), "what is refused has a row");
+  FuzzCheck(taken || ParamSet == ParamSetRecord{}, "a refused table changes nothing");
+  const auto devices = ParamSet.Actuator;
+  const auto save = [&] { return WriteParaFile(path); };
+  const auto read = [&] {
+    FuzzCheck(ReadParaTable(path) == 0 && TakeParamTable() == 0, "a saved file is taken");
+    return ParamSet.Actuator == devices ? 0 : 1;
+  };
+  if (taken) CheckRoundTrip(virt.files, path, save, read);
+  ParamSet = ParamSetRecord{};
+  ParaTable.Clear();
+  ParaFlags = ParaFlagsRecord{};
+}
+
 /// What a reader has left behind, whatever it was given. True: a file was read.
 inline bool CheckPosiRead(int result, const PosiFileTrouble& trouble, std::size_t boxes) {
-  for (std::size_t col = 1; col < kPosiColumns; ++col) {
-    FuzzCheck(PosiTable.PosiStage[col][0] == Variant(), "no number is 0");
-  }
   if (result != 0) {
     FuzzCheck(bool(AppState.PosiFileNotOurs), "a failure is flagged");
     FuzzCheck(boxes == 0 && !trouble.words.empty(), "a failure is the caller's to tell");
@@ -38,39 +56,26 @@ inline bool CheckPosiRead(int result, const PosiFileTrouble& trouble, std::size_
   return true;
 }
 
-/// "PF" of the first axis is written as it is held: one so large that its 15 digits may round to
-/// more than a number holds does not come back as a number.
-inline bool HoldsHugePf(int first, int last) {
-  for (int n = first; n <= last; ++n) {
-    const Variant& pf = PosiTable.PosiRec[kPf][static_cast<std::size_t>(n)];
-    if (std::fabs(ValueOf(pf)) > 1e300) return true;
-  }
-  return false;
-}
-
-/// What was read, as a table: saved, read and saved again it is the same bytes.
-inline void CheckPosiRoundTrip(MemoryFiles& files) {
+/// What was read, as a table.
+inline void CheckPosiRoundTrip(const MemoryFiles& files) {
   constexpr int kFewLines = 16;
-  const int first = AppState.FileFirstNo, last = AppState.FileLastNo;
-  if (last < first || last - first >= kFewLines) return;
-  AppState.PosiFirstNo = AppState.PosiFromNo = static_cast<std::int16_t>(first);
-  AppState.PosiLastNo = AppState.PosiToNo = static_cast<std::int16_t>(last);
+  const PosiRange range{AppState.FileFirstNo, AppState.FileLastNo};
+  if (range.IsEmpty() || range.Count() > kFewLines) return;
+  SetLoadedPosiRange(range);
+  SetOperationRange(range);
   for (std::size_t axis = 0; axis < kAxes; ++axis) {
     frmPosi.lblDeviceType[axis]->Caption = FileDevice[axis];
   }
   PosiStageCommit();
-  if (HoldsHugePf(first, last)) return;
   const std::string path = "/again.qvd";
   PosiFileTrouble trouble;
-  if (SaveFileAs2(path, trouble) != 0) {
-    FuzzCheck(!trouble.words.empty(), "a refused save says why");
-    return;
-  }
-  const auto saved = files.Content(path);
-  FuzzCheck(ReadPosiFile(path, trouble) == 0 && !AppState.PosiFileNotOurs, "a saved file is good");
-  FuzzCheck(AppState.FileFirstNo == first && AppState.FileLastNo == last, "so are its numbers");
-  PosiStageCommit();
-  FuzzCheck(SaveFileAs2(path, trouble) == 0 && files.Content(path) == saved, "the bytes are equal");
+  const auto save = [&] { return SaveFileAs2(path, trouble); };
+  const auto read = [&] {
+    const bool good = ReadPosiFile(path, trouble) == 0 && !AppState.PosiFileNotOurs;
+    PosiStageCommit();
+    return good && range == PosiRange{AppState.FileFirstNo, AppState.FileLastNo} ? 0 : 1;
+  };
+  CheckRoundTrip(files, path, save, read);
 }
 
 /// Any bytes as a position file, in the present layouts and in the oldest.
@@ -85,7 +90,6 @@ inline void FuzzPosiFile(std::string_view bytes) {
     const int result = oldest ? ReadOldPosiFile(path, trouble) : ReadPosiFile(path, trouble);
     if (CheckPosiRead(result, trouble, virt.forms.boxes.size())) CheckPosiRoundTrip(virt.files);
   }
-
   AppState = AppStateRecord{};
   DevSettei.fill(DevSettingRecord{});
   FileDevice.fill({});
