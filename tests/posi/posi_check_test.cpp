@@ -1,12 +1,16 @@
-// The one check of the grid and the one commit of its texts to the table.
+// The one check of the grid, the one commit of its texts to the table, and the rule of each cell.
 
 #include "posi/posi_check.h"
+
+#include <span>
 
 #include "device/dev_setting.h"
 #include "forms/frm_main.h"
 #include "forms/frm_syogo_kekka.h"
+#include "posi/cell_rules.h"
 #include "posi/device_change.h"
 #include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_layout.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_range.h"
 #include "posi/posi_table.h"
@@ -16,7 +20,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kAxis4 = 18;
+constexpr int kAxis2 = 6, kAxis4 = 18;  ///< columns in front of them
 
 class PosiCheck : public PosiTableTest {
  protected:
@@ -65,12 +69,6 @@ TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
   EXPECT_EQ(lines, "3: 5 6;");
   EXPECT_EQ(PosiTable.PosiBadLineList, "3,");
   EXPECT_EQ(PosiTable.SyogoCount, 0) << "the flags are gone with the result view";
-
-  Put(3, kPf, "20");
-  Put(3, kPs, "5");
-  EXPECT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(Stored(kVel, 1), 71);
-  EXPECT_EQ(Stored(kPf, 3), 20);
 }
 
 TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
@@ -165,17 +163,7 @@ TEST_F(PosiCheck, NoTableIsGoodAndWithoutADeviceNothingCanBeConverted) {
   EXPECT_EQ(LoadedPosiRange(), PosiRange{});
 }
 
-TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLine) {
-  ShowTable(1, 5);
-  frmPosi.cmdPosiCheck.Press();
-  EXPECT_TRUE(BoxShown(Text(6358)));
-  Put(4, kOut, "99");
-  frmPosi.cmdPosiCheck.Press();
-  EXPECT_EQ(lines, "4: 26;");
-  EXPECT_EQ(frmPosi.flgdData.Row, 5);
-}
-
-TEST_F(PosiCheck, DecimalsOfASpeedAreToldAtTheEditAndAtTheCheck) {
+TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLineAndTellsOfSpeeds) {
   ShowTable(1, 5);
   std::string typed = "30.5";
   EXPECT_TRUE(frmPosi.flgdData.AcceptEdit(3, kVel, typed).accepted);
@@ -184,6 +172,156 @@ TEST_F(PosiCheck, DecimalsOfASpeedAreToldAtTheEditAndAtTheCheck) {
   EXPECT_TRUE(frmMain.sbStatusBar.Panels[kPanelError].starts_with(Text(6365, "30.5", "30")));
   frmPosi.cmdPosiCheck.Press();
   EXPECT_EQ(forms.LastBox(), Text(6358) + "\n\n" + Text(6366) + "\n2");
+  Put(4, kOut, "99");
+  frmPosi.cmdPosiCheck.Press();
+  EXPECT_EQ(lines, "4: 26;");
+  EXPECT_EQ(frmPosi.flgdData.Row, 5);
+}
+
+// What each cell takes, and what it shows then.
+
+struct Row {
+  int col;
+  const char* typed;
+  const char* shown;  ///< null: refused
+};
+
+class CellRules : public PosiTableTest {
+ protected:
+  void Expect(std::span<const Row> rows) {
+    for (const Row& row : rows) {
+      const auto cell = ApplyCellRule(row.col, row.typed, AppState.CtMode);
+      EXPECT_EQ(cell ? cell->text : "(refused)", row.shown ? row.shown : "(refused)")
+          << row.col << " \"" << row.typed << "\"";
+    }
+  }
+};
+
+TEST_F(CellRules, ColumnsWhoseRuleKnowsNoUnit) {
+  const struct {
+    int col;
+    std::vector<const char*> taken, refused;
+  } columns[] = {{kVel, {"1", "75.9"}, {"0", "0.9", "76", "", "fast", "30 mm"}},
+                 {kAcc, {"10", "2000"}, {"9", "2001"}},
+                 {kWay, {"0", "3"}, {"4", "-1", "1.5"}},
+                 {kPf, {"0", "20", "70"}, {"19", "71"}},
+                 {kPs, {"0", "99"}, {"100"}},
+                 {kItpl, {"1"}, {"2"}},
+                 {kOut, {"15"}, {"16"}},
+                 {kSm, {"20"}, {"21"}},
+                 {kComment, {"", "受取り位置"}, {"say \"go\""}},
+                 {0, {}, {"1"}},
+                 {kPosiColumns, {}, {"1"}}};
+  ShowTable(1, 3);
+  for (const auto& column : columns) {
+    for (const char* typed : column.taken) Expect({{{column.col, typed, typed}}});
+    for (const char* typed : column.refused) Expect({{{column.col, typed, nullptr}}});
+  }
+  const Row changed[] = {{kVel, " 75 ", "75"},
+                         {kAcc, "15", "10"},
+                         {kAcc, "1999.9", "1990"},
+                         {kComment, "  pick, place  ", "pick, place"}};
+  Expect(changed);
+}
+
+TEST_F(CellRules, PositionsInBothUnits) {
+  ShowTable(1, 3);
+  const Row pulses[] = {{kPosi, "0", "0"},         {kPosi, "13334", "13334"},
+                        {kPosi, "13335", nullptr}, {kPosi, "-1", nullptr},
+                        {kPosi, "10.5", nullptr},  {kPosi, "", nullptr},
+                        {kPosi, "N", nullptr}};
+  Expect(pulses);
+  // Surplus decimals are cut, then it is on a pulse.
+  const Row mm[] = {{kPosi, "12.34567", "  12.345"}, {kPosi, "0.003", "   0.000"},
+                    {kPosi, "0.004", "   0.008"},    {kPosi, "100.0059", " 100.005"},
+                    {kPosi, "100.006", nullptr},     {kPosi, "-0.1", nullptr},
+                    {kPosi, "1e3", nullptr}};
+  ShowTable(1, 3, false, true);
+  AppState.MmRoundUp = True;
+  Expect(mm);
+  // 6 mm in 1500 pulses: a pulse is 0.004 mm, the tie 0.002.
+  for (DevSettingRecord& device : DevSetting) device.Ppr = 1500;
+  ShowTable(1, 3, false, true);
+  for (const bool up : {false, true}) {
+    AppState.MmRoundUp = up;
+    Expect({{{kPosi, "0.002", up ? "   0.004" : "   0.000"}}});
+  }
+}
+
+TEST_F(CellRules, ProgramModeFoldsTheWayIntoThePosition) {
+  ShowTable(1, 3, true);
+  const Row pulses[] = {{kPosi, "n", "       N"},   {kPosi, "N12", "       N"},
+                        {kPosi, "+", "      +1"},   {kPosi, "-13334", "  -13334"},
+                        {kPosi, "-13335", nullptr}, {kPosi, "100", "     100"},
+                        {kPosi, "x", nullptr},      {kVel, "30", nullptr}};
+  Expect(pulses);
+  ShowTable(1, 3, true, true);
+  const Row mm[] = {{kPosi, "+", "  +0.998"},  // 1 mm is no whole pulse
+                    {kPosi, "-99.9", " -99.900"},
+                    {kPosi, "+100.006", nullptr}};
+  Expect(mm);
+}
+
+TEST_F(CellRules, TheSpeedLimitOfOneDeviceKindEscapesTheGearing) {
+  DevSetting[0].Size = " 42";
+  DevSetting[0].Speed = "D";
+  ShowTable(1, 3);
+  const Row rows[] = {{kVel, "400", "400"}, {kVel, "401", nullptr}, {kAxis2 + kVel, "76", nullptr}};
+  Expect(rows);
+}
+
+TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
+  ShowTable(5, 7);
+  EXPECT_EQ(Type(6, kVel, "70"), 0);
+  EXPECT_TRUE(frmPosi.PosiChanged);
+  frmPosi.PosiChanged = False;
+  EXPECT_EQ(Type(6, kVel, "1000"), 1);
+  EXPECT_EQ(Type(6, kVel, "70"), 0) << "left as it was";
+  EXPECT_EQ(forms.beeps, 1);
+  frmPosi.flgdData.Enabled = false;
+  EXPECT_EQ(Type(6, kVel, "60"), 1) << "a grid that is off takes nothing";
+  EXPECT_EQ(Cell(6, kVel), "70");
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  frmPosi.flgdData.Enabled = true;
+  Type(5, kPosi, "1234");
+  EXPECT_EQ(PosiTable.PosiPulse[0][1], 1234) << "the live mirror stands at the row";
+  EXPECT_EQ(PosiTable.PosiPulse[0][5], 0) << "not at the number";
+}
+
+TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
+  const struct {
+    bool program_mode;
+    int col;
+    const char *typed, *note;
+  } rows[] = {{false, kAcc, "44", "\"44\" became \"40\".  "},
+              {false, kAcc, " 40 ", ""},
+              {false, kPosi, "12.3456", "\"12.3456\" became \"12.345\".  "},
+              {true, kPosi, "+1", "\"+1\" became \"+0.998\".  "},
+              {true, kPosi, "n", ""}};
+  for (const auto& row : rows) {
+    ShowTable(1, 3, row.program_mode, true);
+    Type(1, row.col, row.typed);
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);  // as Enter does
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], row.note + Text(5242)) << row.typed;
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, kAxis2 + kPosi);
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError].substr(0, 5), "Input");
+  }
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelScale1].substr(0, 3), "<2>") << "of the cell's axis";
+}
+
+TEST_F(CellRules, AnEditorLeftAsItOpenedIsNoEdit) {
+  ShowTable(1, 3, false, true);
+  Put(2, kPosi, " 999.000");  // as an old file may have it
+  frmPosi.PosiChanged = False;
+  for (const int number : {1, 2}) {
+    const std::string shown = Cell(number, kPosi);
+    ASSERT_EQ(shown.front(), ' ');
+    // The editor opens with the text alone, without the blanks that align it.
+    EXPECT_EQ(Type(number, kPosi, shown.substr(shown.find_first_not_of(' '))), 0);
+    EXPECT_EQ(Cell(number, kPosi), shown);
+  }
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  EXPECT_EQ(forms.beeps, 0);
 }
 
 }  // namespace

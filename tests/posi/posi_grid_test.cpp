@@ -1,16 +1,12 @@
 // How the position grid is laid out, filled and told about; new data, the unit, and leaving.
 
-#include <array>
 #include <string>
-#include <vector>
 
 #include "core/options_view.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
-#include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_parameta2.h"
-#include "forms/frm_select_posi_no.h"
 #include "forms/frm_syogo_kekka.h"
 #include "posi/device_change.h"
 #include "posi/posi_caption.h"
@@ -18,13 +14,10 @@
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
-#include "posi/posi_hint.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
-#include "posi/posi_view.h"
-#include "state/text.h"
-#include "state/views.h"
+#include "tests/support/flow_test.h"
 #include "tests/support/posi_table_test.h"
 
 namespace tr7 {
@@ -109,9 +102,7 @@ TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
     int col;
     bool program_mode, mm;
     const char* hint;
-  } rows[] = {{kVel, false, false, "Input Range : 1 to 75(mm/sec)"},
-              {kVel, true, false, ""},
-              {kPosi, false, false, "Input Range : 0 to 13334(pls)"},
+  } rows[] = {{kVel, true, false, ""},
               {kPosi, true, true,
                "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
               {kAxis2 + kVel, false, false, "Input Range : 1 to 400(mm/sec)"},
@@ -128,54 +119,29 @@ TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
   EXPECT_EQ(Hint(kComment), "an alarm") << "it stays readable";
 }
 
-// New data.
-
-class PosiNew : public PosiGrid {
- protected:
-  /// Types the ranges one after the other until one is taken; Cancel behind the last one. The
-  /// table then: "first-last/rows".
-  std::string New(const std::vector<std::array<std::string, 2>>& ranges) {
-    forms.on_modal["frmSelectPosiNo3"] = [this, ranges](View& view) {
-      auto& range = static_cast<SelectPosiNoView&>(view);
-      proposed = range.txtFromNo.Text + "-" + range.txtToNo.Text;
-      for (const auto& [from, to] : ranges) {
-        range.txtFromNo.Type(from);
-        range.txtToNo.Type(to);
-        range.cmdOk.Press();
-        if (!range.Visible) return;
-        EXPECT_EQ(forms.LastBox(), Text(1610)) << from << "-" << to;
-      }
-      range.cmdCancel.Press();
-    };
-    frmMain.mnuFileNew.Click();
-    EXPECT_FALSE(AppState.RangeIsForNew);
-    return std::to_string(AppState.PosiFirstNo) + "-" + std::to_string(AppState.PosiLastNo) + "/" +
-           std::to_string(frmPosi.flgdData.Rows() - kPosiHeaderRows);
-  }
-  std::string proposed;
-};
-
-TEST_F(PosiNew, ARangeOfDefaultsReplacesTheTable) {
+TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {
   DevSetting[0].Speed = "D";
   DevSetting[0].Size = " 42";
   ShowTable(3, 4);
   Store(4);
   Type(3, kVel, "31");
+  forms.on_modal["frmSelectPosiNo3"] = [this](View& view) {
+    auto& range = static_cast<SelectPosiNoView&>(view);
+    EXPECT_EQ(range.txtFromNo.Text + "-" + range.txtToNo.Text, "1-15");
+    FillRange(range, 5, 4);
+    EXPECT_EQ(forms.LastBox(), Text(1610));
+    EXPECT_TRUE(range.Visible);
+    FillRange(range, 1, 999);
+  };
   forms.answers = {MsgAnswer::Cancel, MsgAnswer::No};
-  EXPECT_EQ(New({{"1", "2"}}), "3-4/2");
+  frmMain.mnuFileNew.Click();
   EXPECT_EQ(forms.LastBox(), Text(5243));
-  EXPECT_EQ(New({{"1", "999"}}), "1-999/999");
-  EXPECT_EQ(proposed, "1-15");
+  EXPECT_EQ(AppState.PosiLastNo, 4);
+  frmMain.mnuFileNew.Click();
+  EXPECT_EQ(AppState.PosiLastNo, 999);
   EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
   EXPECT_EQ(Line(4, {kVel, kAcc, kAxis2 + kAcc, kWay, kPosi, kComment}), "30|200|100|0|0||");
-  EXPECT_FALSE(frmPosi.PosiChanged);
-  EXPECT_EQ(New({{"7", "7"}}), "7-7/1");
-}
-
-TEST_F(PosiNew, ARangeThatIsNoneKeepsTheDialogueOpen) {
-  ShowTable(3, 4);
-  EXPECT_EQ(New({{"5", "4"}, {"0", "9"}, {"", "9"}}), "3-4/2") << "cancelled: the table stays";
-  EXPECT_EQ(New({{"5", "4"}, {"2a", "4"}}), "2-4/3") << "digits alone";
+  EXPECT_FALSE(frmPosi.PosiChanged || AppState.RangeIsForNew);
 }
 
 // Devices that change under the table.
@@ -234,6 +200,8 @@ class PosiUnit : public PosiGrid {
       frmOptions2.cmdOk.Press();
     };
     ShowOptions();
+    const std::string setting = virt.settings.Get("Settings", "DispMmUnit", "-");
+    EXPECT_EQ(setting, AppState.DispMmUnit ? "1" : "0");
   }
 };
 
@@ -243,7 +211,6 @@ TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
     Type(6, kPosi, program_mode ? "+1000" : "1000");
     Select(6, kPosi, 6, kPosi);
     Take(true);
-    EXPECT_EQ(virt.settings.Get("Settings", "DispMmUnit", "-"), "1");
     EXPECT_EQ(Cell(6, kPosi), program_mode ? "  +7.500" : "   7.500");
     EXPECT_EQ(PosiTable.PosiPulse[0][6], 1000);
     EXPECT_TRUE(frmPosi.PosiChanged) << "it is in no file yet";
@@ -254,18 +221,12 @@ TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
   const auto revision = frmPosi.flgdData.Revision;
   Take(false);
   EXPECT_EQ(frmPosi.flgdData.Revision, revision) << "the same unit changes nothing";
-}
-
-TEST_F(PosiUnit, ABadTableKeepsTheUnit) {
   ShowTable(5, 7);
-  virt.settings.Set("Settings", "DispMmUnit", "0");
   Put(6, kVel, "999");
   forms.on_modal["frmSyogoKekka"] = [](View&) { frmSyogoKekka.cmdClose.Press(); };
   Take(true);
   EXPECT_EQ(forms.LastBox(), Text(2541) + "\n" + Text(2542));
-  EXPECT_FALSE(AppState.DispMmUnit);
-  EXPECT_EQ(virt.settings.Get("Settings", "DispMmUnit", "-"), "0");
-  EXPECT_EQ(Cell(6, kVel), "999");
+  EXPECT_FALSE(AppState.DispMmUnit) << "a bad table keeps its unit";
 }
 
 // Commands and leaving.
@@ -282,24 +243,13 @@ TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
               {2, 2, true, "cpid"},
               {2, 0, true, "pi"}};
   const auto on = [] {
-    const FrmMain& m = frmMain;
-    const FrmPosi& f = frmPosi;
-    const struct {
-      const Menu &menu, &popup;
-      const CommandButton& button;
-      char letter;
-    } commands[] = {{m.mnuEditCopy, f.mnuPopupCopy, f.cmdPosiCopy, 'c'},
-                    {m.mnuEditPaste, f.mnuPopupPaste, f.cmdPosiPaste, 'p'},
-                    {m.mnuEditInsert, f.mnuPopupInsert, f.cmdInsertLine, 'i'},
-                    {m.mnuEditLineDelete, f.mnuPopupLineDelete, f.cmdDeleteLine, 'd'}};
-    std::string text;
-    for (const auto& command : commands) {
-      EXPECT_EQ(command.menu.Enabled, command.popup.Enabled) << command.letter;
-      EXPECT_EQ(command.menu.Enabled, command.button.Enabled) << command.letter;
-      if (command.menu.Enabled) text += command.letter;
-    }
-    EXPECT_EQ(m.mnuEdit.Enabled, !text.empty());
-    return text;
+    const EditStates& edit = frmPosi.Edit;
+    EXPECT_EQ(edit.Copy, frmPosi.cmdPosiCopy.Enabled && frmPosi.mnuPopupCopy.Enabled);
+    EXPECT_EQ(edit.Insert, frmMain.mnuEditInsert.Enabled);
+    const bool any = edit.Copy || edit.Paste || edit.Insert || edit.Delete;
+    EXPECT_EQ(frmMain.mnuEdit.Enabled, any);
+    return std::string(edit.Copy ? "c" : "") + (edit.Paste ? "p" : "") + (edit.Insert ? "i" : "") +
+           (edit.Delete ? "d" : "");
   };
   for (const auto& row : rows) {
     frmPosi.CopiedIsLine = row.copied;

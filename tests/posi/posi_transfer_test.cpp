@@ -1,3 +1,5 @@
+#include "posi/posi_transfer.h"
+
 #include <algorithm>
 
 #include "device/dev_setting.h"
@@ -6,7 +8,7 @@
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_range.h"
 #include "posi/posi_table.h"
-#include "posi/posi_transfer.h"
+#include "posi/posi_wire.h"
 #include "posi/unit_change.h"
 #include "tests/support/flow_test.h"
 
@@ -20,12 +22,117 @@ const std::string kBefore =
     "0CM1\r\n0CM1\r\n0RD0\r\n0RD4\r\n0RD7\r\n0RDA\r\n0RDD\r\n";  // the check
 const std::string kRelease = "0CM00000\r\n";
 
-class WriteTest : public FlowTest {
+class ReadTest : public FlowTest {
  protected:
   using FlowTest::FlowTest;
-
   void SetUp() override {
     StartOnline();
+    ReadRange(3, 5);
+  }
+};
+
+TEST_F(ReadTest, TheRangeArrivesInTheGrid) {
+  port.sent.clear();
+  ReadRange(3, 5);
+  EXPECT_TRUE(port.sent.starts_with("0CM1\r\n0RD0\r\n0RD3\r\n")) << "devices are compared first";
+  EXPECT_TRUE(port.sent.ends_with("0RDD\r\n0RP003\r\n0RP004\r\n0RP005\r\n"));
+  EXPECT_EQ(LoadedPosiRange(), (PosiRange{3, 5}));
+  qvr7sim::PositionRecord record;
+  ASSERT_TRUE(qvr7sim::DecodePosition(port.Ct().CommittedPosition(4), &record));
+  EXPECT_EQ(Cell(4, kVel), std::to_string(record.axis[0].vel));
+  EXPECT_EQ(Cell(4, kAcc), std::to_string(record.axis[0].acc * 10));
+  EXPECT_EQ(PosiTable.PosiPulse[1][4], record.axis[1].pulses);
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
+  EXPECT_FALSE(frmPosi.PosiChanged);
+}
+
+TEST_F(ReadTest, CancelKeepsTheTable) {
+  for (const bool silent : {false, true}) {
+    pump.After(1'400'000, [this, silent] { port.Ct().SetSilent(silent); });
+    pump.After(1'500'000, [this] {
+      frmMain.cmdComCancel.Press();
+      pump.After(200'000, [] { EXPECT_FALSE(AppState.ComBusy); });
+    });
+    Forget();
+    ReadRange(1, 999);
+    pump.RunFor(300'000);
+    EXPECT_EQ(Boxes(), (Texts{Text(370), Text(425)}));
+    ExpectOnline();
+  }
+  EXPECT_EQ(LoadedPosiRange(), (PosiRange{3, 5}));
+  EXPECT_EQ(OperationRange(), (PosiRange{3, 5})) << "the next one means what is there";
+}
+
+TEST_F(ReadTest, AnAxisThatCannotConvertKeepsTheTable) {
+  DevSetting[1].Lead = 0;
+  Forget();
+  Choose({1});
+  ReadRange(1, 2);
+  EXPECT_EQ(forms.LastBox(), Text(6356, "2"));
+  EXPECT_EQ(port.sent.find("0RP"), std::string::npos);
+  EXPECT_EQ(AppState.PosiFirstNo, 3);
+}
+
+TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
+  auto& comments = PosiTable.PosiRec[kComment];
+  comments[4] = std::string("mine");
+  comments[5] = std::string("last");
+  comments[6] = std::string("of an earlier table");
+  PosiTable.PosiStage[kComment][3] = std::string("of a file to compare with");
+  ReadRange(2, 9);
+  EXPECT_EQ(Cell(3, kComment) + Cell(4, kComment) + Cell(5, kComment), "minelast");
+  EXPECT_EQ(Cell(6, kComment), "");
+  // Beside another position a comment stays only if the user wants it to.
+  for (const bool stays : {true, false}) {
+    PosiTable.PosiRec[kPosi][4] = 1.0;
+    AnswerRange("frmSelectPosiNo2", 2, 9);
+    forms.answers = {MsgAnswer::Ok, stays ? MsgAnswer::Yes : MsgAnswer::No};
+    frmPosi.cmdPosiRead.Press();
+    EXPECT_EQ(forms.LastBox(), Text(6464, "1"));
+    EXPECT_EQ(Cell(4, kComment), stays ? "mine" : "");
+  }
+}
+
+TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
+  port.Ct().ClearRequests();
+  Spoil(FaultKind::kDoubled, "0RP", 3);  // the doubled line is taken for the next reply
+  ReadRange(1, 9);
+  EXPECT_TRUE(port.sent.ends_with("0RP004\r\n")) << "seen where it happens";
+  EXPECT_EQ(AppState.PosiLastNo, 5) << "the old table stays";
+  EXPECT_TRUE(BoxShown(Text(385)));
+}
+
+TEST_F(ReadTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
+  GoOffline();
+  DevSetting[0].Lead = 7;
+  Forget();
+  Choose({0});
+  ReadRange(8, 9);
+  EXPECT_EQ(asked.back(), Text(371));
+  EXPECT_EQ(port.sent.find("0RP003"), std::string::npos);
+  EXPECT_EQ(LoadedPosiRange(), (PosiRange{8, 9}));
+}
+
+TEST_F(ReadTest, PromptsMayStopTheFlow) {
+  port.sent.clear();
+  CancelRange("frmSelectPosiNo2");
+  frmPosi.cmdPosiRead.Press();
+  AnswerRange("frmSelectPosiNo2", 1, 3);
+  for (const bool changed : {false, true}) {  // the confirmation, and unsaved data
+    frmPosi.PosiChanged = changed;
+    forms.answers = {MsgAnswer::Cancel};
+    frmPosi.cmdPosiRead.Press();
+  }
+  EXPECT_EQ(port.sent, "");
+  EXPECT_EQ(AppState.PosiLastNo, 5);
+}
+
+class WriteTest : public ReadTest {
+ protected:
+  using ReadTest::ReadTest;
+
+  void SetUp() override {
+    ReadTest::SetUp();
     ReadAndEdit(5);
   }
   /// Reads positions 1 to `last` and changes the speed of axis 1 in all of them.
@@ -138,7 +245,8 @@ TEST_F(WriteTest, AFailedStepTellsItsOwnMessage) {
   } rows[] = {{"hold refused", FaultKind::kErrorReply, "0CM01111", 1, -1, {104, 377}},
               {"hold unheard", FaultKind::kDeaf, "0CM01111", 0, -1, {100, 377, kHeld}},
               {"line unheard", FaultKind::kDeaf, "0WP003", 0, -1, {100, 384, kHeld}},
-              {"echo differs", FaultKind::kChangedByte, "0WP", 2, 5, {384}}};
+              {"echo differs", FaultKind::kChangedByte, "0WP", 2, 5, {384}},
+              {"release refused", FaultKind::kErrorReply, "0CM00000", 1, -1, {104, 377, 376}}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     port.Ct().ClearRequests();
@@ -149,22 +257,13 @@ TEST_F(WriteTest, AFailedStepTellsItsOwnMessage) {
     for (std::size_t i = 0; i < row.boxes.size(); ++i) {
       EXPECT_TRUE(forms.boxes[i + 1].Text.starts_with(Text(row.boxes[i]))) << i;
     }
-    EXPECT_NE(StoredVel(3), 47) << "nothing is stored";
+    EXPECT_EQ(StoredVel(3) == 47, forms.LastBox() == Text(376)) << "stored is what is told";
+    const bool held = BoxShown(Text(kHeld));
     port.Ct().ClearFaults();
     Forget();
     frmMain.cmdReset.Press();
-    const bool held = row.boxes.back() == kHeld;
     EXPECT_EQ(port.sent.starts_with("0AR\r\n0CM1\r\n" + kRelease), held) << port.sent;
   }
-}
-
-TEST_F(WriteTest, AReleaseThatFailsIsToldBeforeTheEnd) {
-  Spoil(FaultKind::kErrorReply, "0CM00");
-  Write(2, 4);
-  ASSERT_EQ(forms.boxes.size(), 4u);
-  EXPECT_EQ(forms.boxes[2].Text, Text(377) + "\n\n" + Text(6363));
-  EXPECT_EQ(forms.boxes[3].Text, Text(376));
-  EXPECT_EQ(StoredVel(3), 47);
 }
 
 TEST_F(WriteTest, ACancelledWriteStoresWhatHasGone) {
@@ -200,7 +299,6 @@ class StrokeTest : public WriteTest {
     AppState.MaxPulse[0] = 400'000;
     AppState.MaxMm[0] = 2000;
     forms.on_modal["frmSyogoKekka"] = [this](View& view) {
-      EXPECT_EQ(frmSyogoKekka.flgdKekka.Rows(), 3);
       EXPECT_EQ(frmSyogoKekka.flgdKekka.Text(2, 0), "3");
       note = frmSyogoKekka.flgdKekka.CellToolTip(2, kPosi);
       view.Visible = false;
@@ -208,7 +306,6 @@ class StrokeTest : public WriteTest {
     Put(3, kPosi, text);
     Write(2, 4);
     const bool went = port.sent.find("0WP") != std::string::npos;
-    EXPECT_EQ(forms.modals.back() == "frmSyogoKekka", !went);
     EXPECT_TRUE(port.sent.ends_with(kRelease)) << "no axis stays held";
     EXPECT_FALSE(PosiTable.SyogoCell[kPosi][3]);
     return went;
@@ -234,6 +331,33 @@ class ProgramStrokeTest : public StrokeTest {
 TEST_F(ProgramStrokeTest, SignsDoNotHideAPosition) {
   for (const char* good : {"20000", "+20000", "-20000", "N"}) EXPECT_TRUE(Goes(good)) << good;
   for (const char* bad : {"20001", "+20001", "-20001"}) EXPECT_FALSE(Goes(bad)) << bad;
+}
+
+// The record on the line.
+
+TEST(PosiWire, RecordsBothWays) {
+  PosiTableInit();
+  PosiTable.PosiRec[kWay][5] = 1.0;
+  PosiTable.PosiRec[kPosi][5] = 10000.0;
+  const std::string line = EncodePosiRecord(5);
+  EXPECT_EQ(line.size(), 66u);
+  EXPECT_EQ(line.substr(0, 20), "0WP00501E0A427100000");
+
+  std::string reply = line + "\r\n";
+  reply.replace(0, 3, "0RP");
+  EXPECT_FALSE(DecodePosiRecord(reply, 6));
+  ASSERT_TRUE(DecodePosiRecord(reply, 5));
+  EXPECT_EQ(ValueOf(PosiTable.PosiStage[kWay][5]), 1);
+  EXPECT_EQ(ValueOf(PosiTable.PosiStage[kPosi][5]), 10000);
+  reply[20] = 'G';
+  EXPECT_FALSE(DecodePosiRecord(reply, 5));
+
+  // 18 bits of position: one more spills into the way.
+  PosiTable.PosiRec[kWay][5] = 3.0;
+  PosiTable.PosiRec[kPosi][5] = 262143.0;
+  EXPECT_EQ(EncodePosiRecord(5).substr(11, 5), "FFFFF");
+  PosiTable.PosiRec[kPosi][5] = 262144.0;
+  EXPECT_EQ(EncodePosiRecord(5).substr(11, 5), "X0000") << "the controller refuses the line";
 }
 
 }  // namespace
