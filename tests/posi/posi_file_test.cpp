@@ -232,7 +232,7 @@ TEST_F(PosiFile, APositionOutOfAllBoundsStaysSo) {
   for (const auto& row : rows) {
     PosiTable.PosiStage[kPosi][5] = std::string(row.staged);
     PosiStageCommit();
-    EXPECT_EQ(PosiTable.PosiPulse[0][5], row.pulses) << row.staged;
+    EXPECT_EQ(PosiTable.PosiPulse[0][5], row.pulses);
     EXPECT_EQ(ValueOf(PosiTable.PosiRec[kPosi][5]), row.pulses) << row.staged;
   }
 }

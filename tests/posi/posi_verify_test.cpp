@@ -228,21 +228,5 @@ TEST_F(VerifyTest, StoppedOrFailedWithTheController) {
   ExpectOnline();
 }
 
-TEST_F(VerifyTest, TheOlderFormReadsTheOldestLayout) {
-  std::string file = "\"QV-R7\"\r\n\"A\",\"B\",\"C\",\"D\"\r\n";
-  for (int n = 4; n <= 9; ++n) {
-    file += std::to_string(n);
-    for (int axis = 0; axis < kAxes; ++axis) file += ",31,10,0,0";
-    file += ",0,0,0,\"\"\r\n";
-  }
-  virt.files.Put(kPath, file);
-  forms.file_answers = {std::string(kPath)};
-  AnswerRange("frmSelectPosiNo2", 1, 999);
-  PosiDataFileShogo();
-  EXPECT_TRUE(seen.starts_with("4/1 3")) << seen;
-  EXPECT_NE(seen.find("5/1 "), std::string::npos);
-  EXPECT_EQ(seen.find("6/"), std::string::npos) << "the table ends at 5";
-}
-
 }  // namespace
 }  // namespace tr7
