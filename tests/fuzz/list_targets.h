@@ -35,38 +35,33 @@ inline void FuzzErrorList(std::string_view bytes) {
   ErrorList = ErrorListRecord{};
 }
 
-/// A catalogue that was read, or what stands of one: every bound holds, every row can be walked.
-inline void CheckDeviceList(const DeviceListRecord& list, bool good) {
-  FuzzCheck(list.RowCount >= 0 && list.RowCount < kDeviceSlots, "rows have slots");
-  FuzzCheck(list.Sizes.size() <= (good ? kDeviceListNames : 0), "the sizes keep their bound");
-  FuzzCheck(!good || std::stoi(list.Rows[0].Raw) >= list.RowCount, "no more rows than the count");
-  for (int i = 1; i <= list.RowCount; ++i) {
-    const DeviceRecord& row = list.Rows[static_cast<std::size_t>(i)];
-    const int found = list.Find(row.Size, row.Speed, row.Stroke);
-    FuzzCheck(row.Lead > 0 && found > 0 && found <= i, "every device has a lead and is found");
-  }
-}
-
 /// Any bytes as both catalogues.
 inline void FuzzDeviceList(std::string_view bytes) {
   FuzzDoors virt;
   for (const char* name : {"qvdevice.lst", "nqvdevice.lst"}) virt.PutList(name, bytes);
-  DeviceListRecord& list = DeviceList[0];
-  const bool good_old = ReadDeviceListOldAxis(0) == 0;
-  CheckDeviceList(list, good_old);
-  const bool good = ReadDeviceListNewAxis(0) == 0;
-  CheckDeviceList(list, good);
-  FuzzCheck(good != bool(DevListMissing[0]), "the result agrees with the state");
+  const DeviceListRecord& list = DeviceList[0];
+  std::size_t boxes = 0;
+  for (const auto read : {ReadDeviceListOldAxis, ReadDeviceListNewAxis}) {
+    const bool good = read(0) == 0;
+    boxes += good ? 0 : 1;
+    FuzzCheck(good != bool(DevListMissing[0]), "the result agrees with the state");
+    FuzzCheck(list.RowCount >= 0 && list.RowCount < kDeviceSlots, "rows have slots");
+    FuzzCheck(list.Sizes.size() <= (good ? kDeviceListNames : 0), "the sizes keep their bound");
+    for (int i = 1; i <= list.RowCount; ++i) {
+      const DeviceRecord& row = list.Rows[static_cast<std::size_t>(i)];
+      const int found = list.Find(row.Size, row.Speed, row.Stroke);
+      FuzzCheck(row.Lead > 0 && found > 0 && found <= i, "every device has a lead and is found");
+    }
+  }
   for (const std::string& size : list.Sizes) {
     MakeSpeedListNew(0, size);
     FuzzCheck(!list.Speeds.empty() && list.Speeds.size() <= kDeviceListNames, "a size has speeds");
   }
-  std::size_t boxes = (good_old ? 0u : 1u) + (good ? 0u : 1u);
   for (const std::string& rows : DeviceLookup.LeftOutTold) boxes += rows.empty() ? 0 : 1;
   FuzzCheck(virt.forms.boxes.size() == boxes, "one box a failure and a list with rows left out");
   const DeviceRecord row = list.Rows[1];
   const bool found = FindDeviceNew(row.Size, row.Speed, row.Stroke) == 0;
-  FuzzCheck(found == (good && list.RowCount > 0), "a lookup agrees with the list");
+  FuzzCheck(found == (!DevListMissing[0] && list.RowCount > 0), "a lookup agrees with the list");
   const int kind = GetPgKindNew(row.Size, row.Speed, row.Stroke);
   FuzzCheck(found ? kind >= 0 && kind <= 2 : kind == kKindUnknown, "a kind is one of three");
   DeviceList.fill(DeviceListRecord{});
@@ -80,23 +75,22 @@ inline void RunStdLists(std::string_view std_list, std::string_view common) {
   for (const char* name : {"tr7qvstpr.lst", "tr7nqvstpr.lst"}) virt.PutList(name, std_list);
   virt.PutList("tr7cmstpr.lst", common);
   const bool good = ReadStdLists() == 0;
-  for (const StdList& list : StdTable) {
-    FuzzCheck(list.size() <= kStdRowsMax, "the list keeps its bound");
-    if (list.empty()) continue;
-    for (DevSettingRecord& device : DevSettei) {
-      device.Size = list[0].Model.Size;
-      device.Speed = list[0].Model.Speed;
-      device.Stroke = static_cast<std::int16_t>(list[0].Model.Stroke);
-    }
-  }
   FuzzCheck(!good || virt.forms.boxes.empty(), "a good read says nothing");
-  const bool empty = StdTable[0].empty();
+  const StdList& list = StdTable[0];
+  FuzzCheck(list.size() <= kStdRowsMax, "the list keeps its bound");
+  for (DevSettingRecord& device : DevSettei) {
+    if (list.empty()) break;
+    device.Size = list[0].Model.Size;
+    device.Speed = list[0].Model.Speed;
+    device.Stroke = static_cast<std::int16_t>(list[0].Model.Stroke);
+  }
+  const bool chosen = !list.empty();
   const bool filled = IniParaFromStd() == 0;
-  FuzzCheck(filled == (good && !empty), "good lists fill the parameters");
+  FuzzCheck(filled == (good && chosen), "good lists fill the parameters");
   FuzzCheck(good ? ParamSet.OneAxis == 15 : ParamSet == ParamSetRecord{}, "whole or not at all");
   FuzzCheck((IniParaFromStdForWrite() == 0) == filled, "both forms agree");
   CheckParaFromStd();
-  for (StdList& list : StdTable) list.clear();
+  for (StdList& rows : StdTable) rows.clear();
   CommonTable = CommonTableRecord{};
   ParamSet = ParamSetRecord{};
   ParaFlags = ParaFlagsRecord{};

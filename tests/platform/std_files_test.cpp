@@ -73,7 +73,6 @@ TEST_F(StdFilesTest, FaultsSayWhatIsWrong) {
   EXPECT_EQ(files.Create(Path("none/new"), fault), nullptr);
   EXPECT_EQ(fault, FileFault::NotFound);
   EXPECT_EQ(files.Rename(Path("none"), Path("file")), FileFault::NotFound);
-  EXPECT_EQ(files.Remove(Path("none")), FileFault::NotFound);
   EXPECT_EQ(files.Remove(Path("file")), FileFault::None);
   EXPECT_FALSE(files.Exists(Path("file")));
 }

@@ -1,60 +1,45 @@
 #include "state/settings.h"
 
-#include <string>
-
 #include "forms/frm_main.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
 namespace {
 
-class SettingsTest : public StateTest {
- protected:
-  void Put(const std::string& key, const std::string& value) {
-    virt.settings.Set("Settings", key, value);
-  }
-};
+class SettingsTest : public StateTest {};
 
-TEST_F(SettingsTest, MotionSettingsAndTheirCorrections) {
-  struct Case {
+TEST_F(SettingsTest, WhatIsStoredIsTakenWithinItsRange) {
+  const struct {
     const char* key;
     std::int16_t AppStateRecord::*field;
     const char* stored;
     int expected;
-  };
-  const Case cases[] = {{"VelOf100Pls", &AppStateRecord::VelOf100Pls, nullptr, 20},
-                        {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "60", 60},
-                        {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "61", 1},
-                        {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "fast", 1},
-                        {"AccOf100Pls", &AppStateRecord::AccOf100Pls, "-1", -1},
-                        {"AccOf100Pls2", &AppStateRecord::AccOf100Pls2, "0", 0},
-                        {"AccOfJog", &AppStateRecord::AccOfJog, "4", 1},
-                        {"AccOfJog2", &AppStateRecord::AccOfJog2, nullptr, 2},
-                        {"AccOfJog2", &AppStateRecord::AccOfJog2, "0", 1}};
-  for (const Case& c : cases) {
-    virt.settings.values.clear();
-    if (c.stored) Put(c.key, c.stored);
+  } rows[] = {{"VelOf100Pls", &AppStateRecord::VelOf100Pls, "60", 60},
+              {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "61", 1},
+              {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "fast", 1},
+              {"AccOf100Pls", &AppStateRecord::AccOf100Pls, "-1", -1},
+              {"AccOf100Pls2", &AppStateRecord::AccOf100Pls2, "0", 0},
+              {"AccOfJog", &AppStateRecord::AccOfJog, "4", 1},
+              {"AccOfJog2", &AppStateRecord::AccOfJog2, "0", 1},
+              {"PortNo", &AppStateRecord::PortNo, "9", 9},
+              {"PortNo", &AppStateRecord::PortNo, "10", 1},
+              {"Language", &AppStateRecord::LangOffset, "2", 10000},
+              {"Language", &AppStateRecord::LangOffset, "1", 0}};
+  for (const auto& row : rows) {
+    virt.settings.Set("Settings", row.key, row.stored);
     LoadMotionSettings();
-    EXPECT_EQ(AppState.*c.field, c.expected) << c.key << " = " << (c.stored ? c.stored : "absent");
+    LoadDefaults();
+    EXPECT_EQ(AppState.*row.field, row.expected) << row.key << " = " << row.stored;
   }
-}
-
-TEST_F(SettingsTest, StartSettingsAndTheirDefaults) {
-  virt.settings.values.clear();
-  LoadDefaults();
-  LoadSettingDispMmUnit();
-  EXPECT_EQ(AppState.LangOffset, 0);
-  EXPECT_EQ(AppState.PortNo, 1);
-  EXPECT_TRUE(AppState.PortOccupy && AppState.MmRoundUp && AppState.DispMmUnit);
-
-  Put("Language", "2");
-  Put("PortNo", "10");
-  for (const char* key : {"PortOccupy", "MmRoundUp", "DispMmUnit"}) Put(key, "0");
-  LoadDefaults();
-  LoadSettingDispMmUnit();
-  EXPECT_EQ(AppState.LangOffset, 10000);
-  EXPECT_EQ(AppState.PortNo, 1) << "outside 1 to 9";
-  EXPECT_FALSE(AppState.PortOccupy || AppState.MmRoundUp || AppState.DispMmUnit);
+  for (const char* stored : {"0", "1"}) {
+    for (const char* key : {"PortOccupy", "MmRoundUp", "DispMmUnit"}) {
+      virt.settings.Set("Settings", key, stored);
+    }
+    LoadDefaults();
+    LoadSettingDispMmUnit();
+    const bool on = *stored == '1';
+    EXPECT_TRUE(AppState.PortOccupy == on && AppState.MmRoundUp == on && AppState.DispMmUnit == on);
+  }
 }
 
 TEST_F(SettingsTest, TheWindowsRectangleGoesToTheStore) {
