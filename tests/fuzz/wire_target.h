@@ -20,7 +20,6 @@
 #include "link/port.h"
 #include "link/request_queue.h"
 #include "link/status_commands.h"
-#include "para/para_blocks.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/sys_para.h"
@@ -55,39 +54,6 @@ inline void FuzzPosiReply(std::string_view bytes) {
   std::string digits(bytes.substr(3, bytes.size() - 5));
   for (char& c : digits) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
   FuzzCheck(EncodePosiRecord(number) == "0WP" + digits, "the same digits go back");
-}
-
-/// Any bytes as the parameter blocks: refused whole, or a table that `ParamSet` can take.
-inline void FuzzParaBlocks(std::string_view bytes) {
-  if (bytes.empty()) return;
-  const AxisList axes(bytes[0]);
-  ParaBlocks blocks;
-  std::size_t at = 1;
-  for (const int block : ParaBlocksFor(axes)) {
-    std::string data(bytes.substr(std::min(at, bytes.size()), kParaBlockLength));
-    at += data.size();
-    data.resize(kParaBlockLength, '0');
-    blocks[static_cast<std::size_t>(block)] = data;
-  }
-  ParaTable.Clear();
-  const ParaTableRecord empty = ParaTable;
-  if (!DecodePara(blocks, axes, ParaTable)) {
-    FuzzCheck(ParaTable == empty, "damaged blocks change nothing");
-    return;
-  }
-  FuzzCheck(TakeParamTable() == 0, "a decoded table fits the parameters");
-  ParaBlocks sent = blocks;
-  if (EncodePara(ParamSet, axes, sent)) return;
-  for (std::size_t block = 0; block < blocks.size(); ++block) {
-    FuzzCheck(sent[block].size() == blocks[block].size(), "a block keeps its length");
-  }
-  ParaTableRecord read = ParaTable;
-  FuzzCheck(DecodePara(sent, axes, ParaTable), "what is sent back can be read");
-  // A device that is none, as of an axis never set up, has no parts that make its text.
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    read[axis][kRowActuator] = ParaTable[axis][kRowActuator];
-  }
-  FuzzCheck(ParaTable == read, "what is sent back is equal");
 }
 
 // Commands, with any bytes as the replies.
@@ -191,7 +157,6 @@ inline void FuzzReplies(std::string_view bytes) {
 inline void FuzzWire(std::string_view bytes) {
   ResetLine();
   FuzzPosiReply(bytes);
-  FuzzParaBlocks(bytes);
   ResetLine();
   FuzzReplies(bytes);
   ResetLine();

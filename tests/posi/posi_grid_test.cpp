@@ -44,29 +44,7 @@ class PosiGrid : public PosiTableTest {
     for (const int col : columns) line += Cell(number, col) + "|";
     return line;
   }
-  std::string Hint(int col) {
-    frmPosi.flgdData.SelectCell(kPosiHeaderRows, col);
-    return frmMain.sbStatusBar.Panels[kPanelError];
-  }
 };
-
-TEST_F(PosiGrid, ColumnsOnShowByModeAndAxes) {
-  const Grid& grid = frmPosi.flgdData;
-  for (const bool program_mode : {false, true}) {
-    for (const bool mm : {false, true}) {
-      AppState.AxisMuko[2] = True;
-      ShowTable(1, 2, program_mode, mm);
-      for (int col = 1; col <= kComment; ++col) {
-        const int axis = AxisOfColumn(col);
-        const bool position = axis >= 0 && FieldOfColumn(col) == kPosi;
-        const bool shown = axis != 2 && (!program_mode || position || col == kComment);
-        EXPECT_EQ(grid.ColWidth(col) != 0, shown) << col;
-        EXPECT_EQ(grid.ColColour(col) == 0xe0e0e0, axis == 2) << col;
-      }
-      EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), mm ? "Posi2(mm)" : "Posi2(pls)");
-    }
-  }
-}
 
 TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
   const struct {
@@ -88,7 +66,16 @@ TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
     EXPECT_EQ(Line(7, {kVel, kAcc, kAxis2 + kVel, kAxis2 + kAcc}), "45|250|30|100|");
     EXPECT_EQ(Line(7, {kAxis3 + kVel, kAxis3 + kAcc}), "30|100|") << "an axis not in use";
     EXPECT_EQ(Line(7, {kSm, kComment}), "20| as it is |");
-    EXPECT_EQ(frmPosi.flgdData.Col, row.program_mode ? kPosi : kVel);
+    const Grid& grid = frmPosi.flgdData;
+    EXPECT_EQ(grid.Col, row.program_mode ? kPosi : kVel);
+    EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), row.mm ? "Posi2(mm)" : "Posi2(pls)");
+    for (int col = 1; col <= kComment; ++col) {
+      const bool unused = AxisOfColumn(col) == 2;
+      const bool position = AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kPosi;
+      const bool shown = !unused && (!row.program_mode || position || col == kComment);
+      EXPECT_EQ(grid.ColWidth(col) != 0, shown) << col;
+      EXPECT_EQ(grid.ColColour(col) == 0xe0e0e0, unused) << col;
+    }
   }
   // What a file holds beyond all ranges is shown and harms nothing.
   PosiTable.PosiRec[kWay][7] = std::string(400, '9');
@@ -100,23 +87,23 @@ TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
 TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
   const struct {
     int col;
-    bool program_mode, mm;
+    bool program_mode;
     const char* hint;
-  } rows[] = {{kVel, true, false, ""},
-              {kPosi, true, true,
+  } rows[] = {{kVel, true, ""},
+              {kPosi, true,
                "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
-              {kAxis2 + kVel, false, false, "Input Range : 1 to 400(mm/sec)"},
-              {kAxis3 + kVel, false, false, ""}};  // not in use
+              {kAxis2 + kVel, false, "Input Range : 1 to 400(mm/sec)"}};
   DevSetting[1].Speed = "D";
   DevSetting[1].Size = " 42";
-  AppState.AxisMuko[2] = True;
+  const std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
   for (const auto& row : rows) {
-    ShowTable(1, 2, row.program_mode, row.mm);
-    EXPECT_EQ(Hint(row.col), row.hint) << "column " << row.col;
+    ShowTable(1, 2, row.program_mode, true);
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, row.col);
+    EXPECT_EQ(panel, row.hint);
   }
   AppState.AlarmOn = True;
-  frmMain.sbStatusBar.Panels[kPanelError] = "an alarm";
-  EXPECT_EQ(Hint(kComment), "an alarm") << "it stays readable";
+  frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);
+  EXPECT_EQ(panel, rows[2].hint) << "an alarm stays readable";
 }
 
 TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {
@@ -230,15 +217,6 @@ TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
 
 TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
   ShowTable(998, 998);
-  const struct {
-    int row, row_sel;
-    bool copied;
-    const char* on;  ///< of copy, paste, insert, delete
-  } rows[] = {{0, 0, false, ""},
-              {0, 0, true, ""},
-              {2, 2, false, "cid"},
-              {2, 2, true, "cpid"},
-              {2, 0, true, "pi"}};
   const auto on = [] {
     const EditStates& edit = frmPosi.Edit;
     EXPECT_EQ(edit.Copy, frmPosi.cmdPosiCopy.Enabled && frmPosi.mnuPopupCopy.Enabled);
@@ -246,10 +224,16 @@ TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
     return std::string(edit.Copy ? "c" : "") + (edit.Paste ? "p" : "") + (edit.Insert ? "i" : "") +
            (edit.Delete ? "d" : "");
   };
-  for (const auto& row : rows) {
-    frmPosi.CopiedIsLine = row.copied;
-    frmPosi.flgdData.Select(row.row, 1, row.row_sel, 1);
-    EXPECT_EQ(on(), row.on) << row.row << " " << row.copied;
+  const struct {
+    int row, row_sel;
+    const char *on, *copied_on;  ///< of copy, paste, insert, delete; once a line was copied
+  } rows[] = {{0, 0, "", ""}, {2, 2, "cid", "cpid"}, {2, 0, "i", "pi"}};
+  for (const bool copied : {false, true}) {
+    frmPosi.CopiedIsLine = copied;
+    for (const auto& row : rows) {
+      frmPosi.flgdData.Select(row.row, 1, row.row_sel, 1);
+      EXPECT_EQ(on(), copied ? row.copied_on : row.on) << row.row;
+    }
   }
   frmPosi.flgdData.SelectCell(2, 1);
   frmMain.mnuEditInsert.Press();

@@ -125,20 +125,6 @@ TEST_F(SaveTest, SaveAsTakesARange) {
   EXPECT_EQ(Numbers(), "5-9");
 }
 
-TEST_F(SaveTest, ASaveWithinAnotherFlowLeavesTheCommandsOff) {
-  NewTable(1, 3);
-  SetPosiTableFile(kPath);
-  forms.on_modal["frmSelectPosiNo2"] = [&](View& view) {
-    EXPECT_NE(Saved(), "(none)");
-    EXPECT_FALSE(frmPosi.cmdPosiRead.Enabled || frmMain.mnuFile.Enabled);
-    EXPECT_FALSE(frmPosi.flgdData.Enabled);
-    static_cast<SelectPosiNoView&>(view).cmdCancel.Press();
-  };
-  forms.answers = {MsgAnswer::Yes};
-  frmPosi.cmdPosiRead.Press();
-  EXPECT_EQ(forms.modals, Texts{"frmSelectPosiNo2"});
-}
-
 TEST_F(SaveTest, LeavingAsksForUnsavedData) {
   NewTable(1, 3);
   forms.answers = {MsgAnswer::Cancel, MsgAnswer::Yes, MsgAnswer::Yes};

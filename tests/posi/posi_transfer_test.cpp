@@ -102,20 +102,6 @@ TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
   EXPECT_TRUE(BoxShown(Text(385)));
 }
 
-TEST_F(ReadTest, PromptsMayStopTheFlow) {
-  port.sent.clear();
-  CancelRange("frmSelectPosiNo2");
-  frmPosi.cmdPosiRead.Press();
-  AnswerRange("frmSelectPosiNo2", 1, 3);
-  for (const bool changed : {false, true}) {  // the confirmation, and unsaved data
-    frmPosi.PosiChanged = changed;
-    forms.answers = {MsgAnswer::Cancel};
-    frmPosi.cmdPosiRead.Press();
-  }
-  EXPECT_EQ(port.sent, "");
-  EXPECT_EQ(AppState.PosiLastNo, 5);
-}
-
 class WriteTest : public ReadTest {
  protected:
   using ReadTest::ReadTest;

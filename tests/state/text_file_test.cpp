@@ -27,15 +27,6 @@ TEST_F(TextFile, TheSettingChoosesTheCodePage) {
   }
 }
 
-TEST_F(TextFile, AMissingCharacterRefusesTheSaveBeforeAnythingIsWritten) {
-  files.Put(kPath, "old");
-  const TextFileResult result = SaveTextFile(kPath, "one\r\ntwo\r\nx😀y\r\n");
-  EXPECT_FALSE(result.ok);
-  EXPECT_EQ(result.fault, FileFault::None);
-  EXPECT_EQ(result.words, "Line 3 holds the character \"😀\", which the file cannot hold.");
-  EXPECT_EQ(files.Content(kPath), "old");
-}
-
 TEST_F(TextFile, AFileOfAnotherCodePageIsRefusedWithItsLine) {
   const struct {
     const char *page, *bytes;
