@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <utility>
 
 #include "base/utf8.h"
@@ -50,34 +51,30 @@ TEST(CodePage, EveryCharacterComesBack) {
 
 TEST(CodePage, DamageCostsNoMoreThanItself) {
   const std::string bad = "\uFFFD";
-  const struct {
-    int page;
-    std::string bytes, text;
-  } rows[] = {{932, "a\x88\r\nb", "a" + bad + "\r\nb"},
-              {932, "\x88\",\"x", bad + "\",\"x"},
-              {932, "\x80\xA0\xFD\xFE\xFFz", bad + bad + bad + bad + bad + "z"},
-              {932, "\x85\x9F\x41\xFC\xFC", bad + "A" + bad},
-              {932, "\x81\0x\x81"s, bad + "\0x"s + bad},
-              {65001, "軸😀\r\n", "軸😀\r\n"},
-              {65001, "<\xC0\x80>", "<" + bad + bad + ">"},
-              {65001, "<\xED\xA0\x80>", "<" + bad + bad + bad + ">"},
-              {65001, "<\xE8\xBB>", "<" + bad + bad + ">"}};
-  for (const auto& row : rows) EXPECT_EQ(DecodeCodePage(row.page, row.bytes).utf8, row.text);
+  const std::tuple<int, std::string, std::string> rows[] = {
+      {932, "a\x88\r\nb", "a" + bad + "\r\nb"},
+      {932, "\x88\",\"x", bad + "\",\"x"},
+      {932, "\x80\xA0\xFD\xFE\xFFz", bad + bad + bad + bad + bad + "z"},
+      {932, "\x85\x9F\x41\xFC\xFC", bad + "A" + bad},
+      {932, "\x81\0x\x81"s, bad + "\0x"s + bad},
+      {65001, "軸😀\r\n", "軸😀\r\n"},
+      {65001, "<\xC0\x80>", "<" + bad + bad + ">"},
+      {65001, "<\xED\xA0\x80>", "<" + bad + bad + bad + ">"},
+      {65001, "<\xE8\xBB>", "<" + bad + bad + ">"}};
+  for (const auto& [page, bytes, text] : rows) EXPECT_EQ(DecodeCodePage(page, bytes).utf8, text);
 }
 
 TEST(CodePage, WritingStopsAtTheFirstMissingCharacter) {
   const struct {
     int page;
-    std::string text;
-    std::size_t at;
-    const char* character;
-  } rows[] = {{932, "位置\n한글", 7, "한"},
-              {932, "ok\xFFno", 2, "\uFFFD"},
-              {65001, "a\xC0\x80", 1, "\uFFFD"}};
+    const char *good, *bad, *character;
+  } rows[] = {{932, "位置\n", "한글", "한"},
+              {932, "ok", "\xFFno", "\uFFFD"},
+              {65001, "a", "\xC0", "\uFFFD"}};
   for (const auto& row : rows) {
-    const EncodedText encoded = EncodeCodePage(row.page, row.text);
-    EXPECT_FALSE(encoded.ok) << row.text;
-    EXPECT_EQ(encoded.bad_at, row.at) << row.text;
+    const EncodedText encoded = EncodeCodePage(row.page, row.good + std::string(row.bad));
+    EXPECT_FALSE(encoded.ok);
+    EXPECT_EQ(encoded.bad_at, std::string(row.good).size());
     EXPECT_EQ(encoded.bad_character, row.character);
   }
 }

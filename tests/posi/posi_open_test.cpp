@@ -153,10 +153,6 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
                    "\" 20L-010\",192,40,10,5,5,1,960,2,192,15,0,\" 20L010\"\r\n");
   };
   const auto no_para = [&] { forms.file_answers = {std::nullopt}; };
-  const auto bad_para = [&] {
-    virt.files.Put(kParaPath, "\"QV-R7\",\"PRM\"\r\n1\r\n\"ETC\"\r\n");
-    forms.file_answers = {std::string(kParaPath)};
-  };
   const struct {
     const char* what;
     std::string bytes;
@@ -173,7 +169,6 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
       {"choice cancelled", otherwise, Text(367), -1},
       {"no standard parameters", otherwise, Text(36), 1, short_list},
       {"no parameter file chosen", otherwise, Text(367), 2, no_para},
-      {"parameter file damaged", otherwise, Text(681), 2, bad_para},
   };
   const ParamSetRecord params = ParamSet;
   const std::string before = Everything();

@@ -31,15 +31,6 @@ TEST_F(SettingsTest, WhatIsStoredIsTakenWithinItsRange) {
     LoadDefaults();
     EXPECT_EQ(AppState.*row.field, row.expected) << row.key << " = " << row.stored;
   }
-  for (const char* stored : {"0", "1"}) {
-    for (const char* key : {"PortOccupy", "MmRoundUp", "DispMmUnit"}) {
-      virt.settings.Set("Settings", key, stored);
-    }
-    LoadDefaults();
-    LoadSettingDispMmUnit();
-    const bool on = *stored == '1';
-    EXPECT_TRUE(AppState.PortOccupy == on && AppState.MmRoundUp == on && AppState.DispMmUnit == on);
-  }
 }
 
 TEST_F(SettingsTest, TheWindowsRectangleGoesToTheStore) {

@@ -1,5 +1,7 @@
 #include "state/text_file.h"
 
+#include <tuple>
+
 #include "platform/atomic_save.h"
 #include "state/text.h"
 #include "tests/support/memory_files.h"
@@ -28,21 +30,19 @@ TEST_F(TextFile, TheSettingChoosesTheCodePage) {
 }
 
 TEST_F(TextFile, AFileOfAnotherCodePageIsRefusedWithItsLine) {
-  const struct {
-    const char *page, *bytes;
-    int line;  ///< 0: it is read
-  } rows[] = {{"65001", "1\r\n\x88\xCA\r\n\xFF", 2},
-              {"65001", "1\r\n\uFFFD", 0},  // saved so, it is a character as any other
-              {"932", "1\r\n2\r\na\x88", 3}};
-  for (const auto& row : rows) {
-    doors.settings->Set("Settings", "CodePage", row.page);
-    files.Put(kPath, row.bytes);
+  // U+FFFD that was saved so is a character as any other.
+  const std::tuple<const char*, const char*, int> rows[] = {{"65001", "1\r\n\x88\xCA\r\n\xFF", 2},
+                                                            {"65001", "1\r\n\uFFFD", 0},
+                                                            {"932", "1\r\n2\r\na\x88", 3}};
+  for (const auto& [page, bytes, bad_line] : rows) {
+    doors.settings->Set("Settings", "CodePage", page);
+    files.Put(kPath, bytes);
     std::string text = "kept";
     const TextFileResult result = ReadTextFile(kPath, text);
-    EXPECT_EQ(result.ok, row.line == 0);
-    EXPECT_EQ(text == "kept", row.line > 0);
-    const std::string words = Text(6320, "位置.qvd", std::to_string(row.line));
-    EXPECT_EQ(result.words, row.line > 0 ? words : "");
+    EXPECT_EQ(result.ok, bad_line == 0);
+    EXPECT_EQ(text == "kept", bad_line > 0);
+    const std::string words = Text(6320, "位置.qvd", std::to_string(bad_line));
+    EXPECT_EQ(result.words, bad_line > 0 ? words : "");
   }
 }
 

@@ -17,12 +17,8 @@ void LinkTest::Axes(bool a1, bool a2, bool a3, bool a4) {
 }
 
 std::vector<std::string> LinkTest::Sent() {
-  std::vector<std::string> lines;
-  std::string rest = port.sent;
+  const Texts lines = Lines();
   port.sent.clear();
-  for (std::size_t end; (end = rest.find("\r\n")) != std::string::npos; rest.erase(0, end + 2)) {
-    lines.push_back(rest.substr(0, end));
-  }
   return lines;
 }
 

@@ -55,6 +55,8 @@ class StateTest : public ::testing::Test {
   bool BoxShown(const std::string& part) const;
   /// Texts of the boxes since the last call.
   Texts Boxes();
+  /// The lines sent, without their ends.
+  Texts Lines() const;
   /// The first `characters` of every line sent, one blank behind each.
   std::string SentLines(std::size_t characters = std::string::npos) const;
   /// A fault at the `at_request`-th request that begins with `prefix`; 0: at every one. Bytes of a
