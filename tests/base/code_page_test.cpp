@@ -65,17 +65,15 @@ TEST(CodePage, DamageCostsNoMoreThanItself) {
 }
 
 TEST(CodePage, WritingStopsAtTheFirstMissingCharacter) {
-  const struct {
-    int page;
-    const char *good, *bad, *character;
-  } rows[] = {{932, "位置\n", "한글", "한"},
-              {932, "ok", "\xFFno", "\uFFFD"},
-              {65001, "a", "\xC0", "\uFFFD"}};
-  for (const auto& row : rows) {
-    const EncodedText encoded = EncodeCodePage(row.page, row.good + std::string(row.bad));
+  const std::tuple<int, std::string, std::string, const char*> rows[] = {
+      {932, "位置\n", "한글", "한"},
+      {932, "ok", "\xFFno", "\uFFFD"},
+      {65001, "a", "\xC0", "\uFFFD"}};
+  for (const auto& [page, good, bad, character] : rows) {
+    const EncodedText encoded = EncodeCodePage(page, good + bad);
     EXPECT_FALSE(encoded.ok);
-    EXPECT_EQ(encoded.bad_at, std::string(row.good).size());
-    EXPECT_EQ(encoded.bad_character, row.character);
+    EXPECT_EQ(encoded.bad_at, good.size());
+    EXPECT_EQ(encoded.bad_character, character);
   }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -40,8 +39,8 @@ class BytesPort : public SerialPort {
 
  private:
   std::string Answer(std::string_view sent) {
-    const std::size_t length = std::min(rest_.find('\n'), rest_.size() - 1) + 1;
-    std::string_view piece = rest_.substr(0, length);
+    const std::size_t end = rest_.find('\n');
+    std::string_view piece = rest_.substr(0, end == std::string_view::npos ? end : end + 1);
     rest_.remove_prefix(piece.size());
     if (piece.size() < 2 || piece[0] != '=' || piece[1] < '0' || piece[1] > '9') {
       return std::string(piece);

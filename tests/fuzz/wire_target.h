@@ -1,13 +1,9 @@
 #pragma once
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
-#include <cstdint>
-#include <string>
 #include <string_view>
 
-#include "base/text_helpers.h"
 #include "data/grp_commands.h"
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
@@ -27,36 +23,12 @@
 #include "platform/doors.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
-#include "posi/posi_wire.h"
 #include "state/app_state.h"
 #include "state/online.h"
 #include "tests/fuzz/bytes_port.h"
 #include "tests/fuzz/fuzz_doors.h"
 
 namespace tr7 {
-
-// Decoders by themselves.
-
-/// Any bytes as the reply to a read of a position: refused whole, or the record that a write of
-/// the same digits makes.
-inline void FuzzPosiReply(std::string_view bytes) {
-  const std::int64_t named = bytes.size() < 6 ? 1 : HexValue(bytes.substr(3, 3));
-  const int number = static_cast<int>(std::clamp<std::int64_t>(named, 1, kPosiMaxNo));
-  const auto index = static_cast<std::size_t>(number);
-  for (std::size_t col = 1; col <= kSm; ++col) PosiTable.PosiStage[col][index] = -1.0;
-  const bool good = DecodePosiRecord(std::string(bytes), number);
-  for (std::size_t col = 1; col <= kSm; ++col) {
-    const double value = ValueOf(PosiTable.PosiStage[col][index]);
-    FuzzCheck(good ? value >= 0 && value <= kMostPulses : value == -1, "a record comes whole");
-    PosiTable.PosiRec[col][index] = PosiTable.PosiStage[col][index];
-  }
-  if (!good) return;
-  std::string digits(bytes.substr(3, bytes.size() - 5));
-  for (char& c : digits) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  FuzzCheck(EncodePosiRecord(number) == "0WP" + digits, "the same digits go back");
-}
-
-// Commands, with any bytes as the replies.
 
 /// A transfer as a command: 0 when it is done.
 template <auto kTransfer>
@@ -156,7 +128,6 @@ inline void FuzzReplies(std::string_view bytes) {
 /// Any bytes as what comes over the line. The views stand as `ResetState` leaves them.
 inline void FuzzWire(std::string_view bytes) {
   ResetLine();
-  FuzzPosiReply(bytes);
   ResetLine();
   FuzzReplies(bytes);
   ResetLine();

@@ -1,4 +1,6 @@
 #include <functional>
+#include <tuple>
+#include <utility>
 
 #include "device/ct_device.h"
 #include "link/motion_commands.h"
@@ -15,18 +17,14 @@ class CommandsTest : public LinkTest {
 };
 
 TEST_F(CommandsTest, ControlModeText) {
-  const struct {
-    int mode, m, mask;
-    bool axis2_in_use;
-    const char* line;
-  } rows[] = {{0, 0, 15, true, "0CM00000"}, {1, 1, 3, true, "0CM11100"},
-              {1, 1, 3, false, "0CM11000"}, {1, 7, 15, true, "0CM01111"},
-              {3, 1, 15, true, "0CM10000"}, {2, -1, 8, true, "0CM00002"}};
-  for (const auto& row : rows) {
-    Axes(true, row.axis2_in_use, true, true);
+  const std::tuple<int, int, int, bool, const char*> rows[] = {
+      {0, 0, 15, true, "0CM00000"}, {1, 1, 3, true, "0CM11100"},  {1, 1, 3, false, "0CM11000"},
+      {1, 7, 15, true, "0CM01111"}, {3, 1, 15, true, "0CM10000"}, {2, -1, 8, true, "0CM00002"}};
+  for (const auto& [mode, m, mask, axis2_in_use, line] : rows) {
+    Axes(true, axis2_in_use, true, true);
     AppState.Offline = True;
-    CtControlModeSet(row.mode, row.m, row.mask);
-    EXPECT_EQ(LastLine(), row.line);
+    CtControlModeSet(mode, m, mask);
+    EXPECT_EQ(LastLine(), line);
     EXPECT_FALSE(AppState.Offline) << "lifted for the hold";
   }
 }
@@ -79,15 +77,12 @@ TEST_F(CommandsTest, ALateReplyOfAnotherBoardOrBlockIsRefused) {
     std::string reply;
     return ReadParaBlock('3', 1000, reply) != 0 ? 1 : ReadParaBlock('4', 1000, reply);
   };
-  const struct {
-    const char* doubled;
-    std::function<int()> read;
-    std::string last;
-  } rows[] = {{"0RV2", [] { return GetAxisVersionNo(4); }, "0RV3"}, {"0RD3", read_blocks, "0RD4"}};
-  for (const auto& row : rows) {
-    Spoil(qvr7sim::FaultKind::kDoubled, row.doubled);
-    EXPECT_EQ(row.read(), 1);
-    EXPECT_EQ(LastLine(), row.last);
+  const std::tuple<const char*, std::function<int()>, const char*> rows[] = {
+      {"0RV2", [] { return GetAxisVersionNo(4); }, "0RV3"}, {"0RD3", read_blocks, "0RD4"}};
+  for (const auto& [doubled, read, last] : rows) {
+    Spoil(qvr7sim::FaultKind::kDoubled, doubled);
+    EXPECT_EQ(read(), 1);
+    EXPECT_EQ(LastLine(), last);
     pump.RunFor(1'000'000);  // what is left on the line goes by
   }
 }

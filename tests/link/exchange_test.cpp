@@ -234,16 +234,13 @@ struct Once : Timer {
 };
 
 TEST_F(ExchangeTest, AWaitInsideAWaitEndsWithItsOwnOutcome) {
-  const struct {
-    const char* when;
-    bool (*may)(const SimPort& port);
-  } moments[] = {
+  const std::pair<std::string, bool (*)(const SimPort&)> moments[] = {
       {"before", [](const SimPort& p) { return p.sent.empty() && !TusinQueue.IsEmpty(); }},
       {"during", [](const SimPort& p) { return !p.sent.empty(); }},
       {"after", [](const SimPort& p) { return !p.sent.empty() && TusinQueue.IsEmpty(); }}};
-  for (const auto& moment : moments) {
+  for (const auto& [when, may] : moments) {
     for (const std::string silent : {"", "0RP001", "0RP002"}) {
-      SCOPED_TRACE(moment.when + (" " + silent));
+      SCOPED_TRACE(when + " " + silent);
       port.sent.clear();
       port.Ct().ClearFaults();
       forms.boxes.clear();
@@ -251,12 +248,12 @@ TEST_F(ExchangeTest, AWaitInsideAWaitEndsWithItsOwnOutcome) {
       if (!silent.empty()) Spoil(FaultKind::kSilence, silent, 0);
       std::optional<TusinOutcome> inner, outer;
       std::string inner_reply;
-      const Once nested([&] { return moment.may(port); },
+      const Once nested([&, may = may] { return may(port); },
                         [&] {
                           inner = ReadNumber(2, inner_reply);
                           EXPECT_FALSE(outer);
                         });
-      if (moment.when == std::string("before")) frmMain.TimerTusin.Stop();
+      if (when == "before") frmMain.TimerTusin.Stop();
       const Once lets_go([&] { return inner || TusinQueue.waiting.size() == 2; },
                          [] { frmMain.TimerTusin.Start(); });
       outer = Read();

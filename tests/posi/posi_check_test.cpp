@@ -263,20 +263,17 @@ TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
 }
 
 TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
-  const struct {
-    bool program_mode;
-    int col;
-    const char *typed, *note;
-  } rows[] = {{false, kAcc, "44", "\"44\" became \"40\".  "},
-              {false, kAcc, " 40 ", ""},
-              {false, kPosi, "12.3456", "\"12.3456\" became \"12.345\".  "},
-              {true, kPosi, "+1", "\"+1\" became \"+0.998\".  "},
-              {true, kPosi, "n", ""}};
-  for (const auto& row : rows) {
-    ShowTable(1, 3, row.program_mode, true);
-    Type(1, row.col, row.typed);
+  const std::tuple<bool, int, const char*, const char*> rows[] = {
+      {false, kAcc, "44", "\"44\" became \"40\".  "},
+      {false, kAcc, " 40 ", ""},
+      {false, kPosi, "12.3456", "\"12.3456\" became \"12.345\".  "},
+      {true, kPosi, "+1", "\"+1\" became \"+0.998\".  "},
+      {true, kPosi, "n", ""}};
+  for (const auto& [program_mode, col, typed, note] : rows) {
+    ShowTable(1, 3, program_mode, true);
+    Type(1, col, typed);
     frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);  // as Enter does
-    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], row.note + Text(5242)) << row.typed;
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], note + Text(5242)) << typed;
     frmPosi.flgdData.SelectCell(kPosiHeaderRows, kAxis2 + kPosi);
     EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError].substr(0, 5), "Input");
   }

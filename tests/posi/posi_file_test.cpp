@@ -1,5 +1,8 @@
 #include "posi/posi_file.h"
 
+#include <tuple>
+#include <utility>
+
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
@@ -126,36 +129,31 @@ TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
 }
 
 TEST_F(PosiFile, AnyOrderOfNumbersReadsAsItStands) {
-  const struct {
-    std::string records;
-    const char *numbers, *left_out;  ///< left out of 4 to 11
-  } rows[] = {{Line("9") + Line("4") + Line("7"), "9-7", "5-6, 8, 10-11"},
-              {Line("4") + Line("4"), "4-4", "5-11"},
-              {Line("\" 12\""), "12-12", "4-11"},
-              {Line("1") + Line("999"), "1-999", "4-11"},
-              {"5" + Line("").substr(0, 40) + "\r\n" + Line("").substr(41), "5-5", "4, 6-11"}};
-  for (const auto& row : rows) {
-    ASSERT_EQ(Read(kHead + kWords + row.records), 0) << trouble.words;
-    EXPECT_EQ(Numbers(), row.numbers);
-    EXPECT_EQ(NumbersLeftOut(4, 11), row.left_out);
+  // Numbers as they come, and those left out of 4 to 11.
+  const std::tuple<std::string, const char*, const char*> rows[] = {
+      {Line("9") + Line("4") + Line("7"), "9-7", "5-6, 8, 10-11"},
+      {Line("4") + Line("4"), "4-4", "5-11"},
+      {Line("\" 12\""), "12-12", "4-11"},
+      {Line("1") + Line("999"), "1-999", "4-11"},
+      {"5" + Line("").substr(0, 40) + "\r\n" + Line("").substr(41), "5-5", "4, 6-11"}};
+  for (const auto& [records, numbers, left_out] : rows) {
+    ASSERT_EQ(Read(kHead + kWords + records), 0) << trouble.words;
+    EXPECT_EQ(Numbers(), numbers);
+    EXPECT_EQ(NumbersLeftOut(4, 11), left_out);
     EXPECT_EQ(ValueOf(Stage(kVel, 8)), 30) << "nothing of an earlier file is left";
   }
 }
 
 TEST_F(PosiFile, ModesAndWords) {
-  const struct {
-    std::string mode, words;
-    bool program;
-    const char* ages;
-  } rows[] = {{"PRG MODE", kWords, true, "OLD NEW"},
-              {"prg mode", "\"NEW\",\"x\",\"\",\"OLD\"\r\n", false, "NEW x"},
-              {"PRG MODE", "", true, "OLD OLD"}};
-  for (const auto& row : rows) {
-    ASSERT_EQ(Read("\"QV-R7\"\r\n\"" + row.mode + "\"\r\n\"A\",\"B\",\"\",\"\"\r\n" + row.words +
-                   Line("5")),
-              0);
-    EXPECT_EQ(bool(AppState.FileIsPrgMode), row.program);
-    EXPECT_EQ(DevSettei[0].NewTypeWord + " " + DevSettei[1].NewTypeWord, row.ages);
+  const std::tuple<std::string, std::string, bool, const char*> rows[] = {
+      {"PRG MODE", kWords, true, "OLD NEW"},
+      {"prg mode", "\"NEW\",\"x\",\"\",\"OLD\"\r\n", false, "NEW x"},
+      {"PRG MODE", "", true, "OLD OLD"}};
+  for (const auto& [mode, words, program, ages] : rows) {
+    const std::string head = "\"QV-R7\"\r\n\"" + mode + "\"\r\n\"A\",\"B\",\"\",\"\"\r\n";
+    ASSERT_EQ(Read(head + words + Line("5")), 0) << trouble.words;
+    EXPECT_EQ(bool(AppState.FileIsPrgMode), program);
+    EXPECT_EQ(DevSettei[0].NewTypeWord + " " + DevSettei[1].NewTypeWord, ages);
     EXPECT_EQ(Numbers(), "5-5") << "the items taken for words are read once more";
     EXPECT_EQ(FileDevice[1], "B");
   }

@@ -1,6 +1,7 @@
 // How the position grid is laid out, filled and told about; new data, the unit, and leaving.
 
 #include <string>
+#include <tuple>
 
 #include "core/options_view.h"
 #include "device/dev_setting.h"
@@ -85,25 +86,22 @@ TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
 }
 
 TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
-  const struct {
-    int col;
-    bool program_mode;
-    const char* hint;
-  } rows[] = {{kVel, true, ""},
-              {kPosi, true,
-               "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
-              {kAxis2 + kVel, false, "Input Range : 1 to 400(mm/sec)"}};
+  const std::tuple<int, bool, const char*> rows[] = {
+      {kVel, true, ""},
+      {kPosi, true,
+       "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
+      {kAxis2 + kVel, false, "Input Range : 1 to 400(mm/sec)"}};
   DevSetting[1].Speed = "D";
   DevSetting[1].Size = " 42";
   const std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
-  for (const auto& row : rows) {
-    ShowTable(1, 2, row.program_mode, true);
-    frmPosi.flgdData.SelectCell(kPosiHeaderRows, row.col);
-    EXPECT_EQ(panel, row.hint);
+  for (const auto& [col, program_mode, hint] : rows) {
+    ShowTable(1, 2, program_mode, true);
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, col);
+    EXPECT_EQ(panel, hint);
   }
   AppState.AlarmOn = True;
   frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);
-  EXPECT_EQ(panel, rows[2].hint) << "an alarm stays readable";
+  EXPECT_EQ(panel, std::get<2>(rows[2])) << "an alarm stays readable";
 }
 
 TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {

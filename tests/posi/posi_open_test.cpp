@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "device/dev_setting.h"
@@ -34,10 +35,9 @@ std::string Bytes(const FileText& file) {
   for (const std::string& device : file.devices) text += "\"" + device + "\",";
   text.pop_back();
   text += "\r\n" + file.words;
-  const std::string start = ",\" 30\",\" 10";
-  const std::string still = start + "\",\" 0\",\" 0\",\" 0\",\" 0\"";
+  const std::string still = ",\" 30\",\" 10\",\" 0\",\" 0\",\" 0\",\" 0\"";
   for (const int n : file.numbers) {
-    text += std::to_string(n) + start + "\",\" " + file.way + "\",\" " +
+    text += std::to_string(n) + ",\" 30\",\" 10\",\" " + file.way + "\",\" " +
             std::to_string(file.pulses + n) + "\",0,\" 0\"" + still + still + still +
             ",\" 0\",\" 0\",\" 0\",\"No " + std::to_string(n) + "\"\r\n";
   }
@@ -229,7 +229,6 @@ TEST_F(OpenTest, WithTheDevicesOfTheFile) {
   EXPECT_TRUE(DeviceOf(DevSetting[0]).starts_with(" 28H200"));
   EXPECT_TRUE(DevSetting[0].WithPG && DevSetting[0].NewType);
   EXPECT_EQ(ParamSet.OneAxis, 3);
-  EXPECT_EQ(ParamSet.Actuator[0], " 28H200");
   EXPECT_EQ(AppState.StrokePulse[0], ParamSet.AxisStroke[0]);
   EXPECT_EQ(frmPosi.lblDeviceType4.Caption + frmPosi.lblAge4.Caption, "");
   EXPECT_EQ(frmPosi.flgdData.ColWidth(AxisBase(2) + kPosi), 0);
@@ -276,13 +275,12 @@ class ProgramOpenTest : public OpenTest {
 
 TEST_F(ProgramOpenTest, TheWayStandsInThePosition) {
   AppState.DispMmUnit = False;
-  const struct {
-    const char *way, *cell;
-  } rows[] = {{"0", "       N"}, {"1", "    1001"}, {"2", "   +1001"}, {"3", "   -1001"}};
-  for (const auto& row : rows) {
-    own.way = row.way;
+  const std::pair<const char*, const char*> rows[] = {
+      {"0", "       N"}, {"1", "    1001"}, {"2", "   +1001"}, {"3", "   -1001"}};
+  for (const auto& [way, cell] : rows) {
+    own.way = way;
     Open(own);
-    EXPECT_EQ(Cell(1, kPosi), row.cell);
+    EXPECT_EQ(Cell(1, kPosi), cell);
     EXPECT_EQ(frmPosi.flgdData.ColWidth(kVel), 0);
   }
   const std::string before = Everything();

