@@ -3,10 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "para/para_file.h"
-#include "para/param_set.h"
 #include "posi/posi_file.h"
 #include "posi/posi_range.h"
 #include "posi/posi_table.h"
@@ -33,9 +31,6 @@ inline void FuzzParaFile(std::string_view bytes) {
     return ParamSet.Actuator == devices ? 0 : 1;
   };
   if (taken) CheckRoundTrip(virt.files, path, save, read);
-  ParamSet = ParamSetRecord{};
-  ParaTable.Clear();
-  ParaFlags = ParaFlagsRecord{};
 }
 
 /// What a reader has left behind, whatever it was given. True: a file was read.
@@ -90,9 +85,6 @@ inline void FuzzPosiFile(std::string_view bytes) {
     const int result = oldest ? ReadOldPosiFile(path, trouble) : ReadPosiFile(path, trouble);
     if (CheckPosiRead(result, trouble, virt.forms.boxes.size())) CheckPosiRoundTrip(virt.files);
   }
-  AppState = AppStateRecord{};
-  DevSettei.fill(DevSettingRecord{});
-  FileDevice.fill({});
 }
 
 }  // namespace tr7

@@ -3,13 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "device/dev_setting.h"
-#include "device/device_list.h"
-#include "link/error_list.h"
-#include "para/param_set.h"
 #include "para/std_lists.h"
-#include "para/std_table.h"
-#include "state/app_state.h"
 #include "state/text.h"
 #include "tests/fuzz/fuzz_doors.h"
 
@@ -32,7 +26,6 @@ inline void FuzzErrorList(std::string_view bytes) {
   }
   DecodeCtError(std::string(bytes.substr(0, 8)));
   FuzzCheck(virt.forms.boxes.empty() == good, "a box comes up only without a list");
-  ErrorList = ErrorListRecord{};
 }
 
 /// Any bytes as both catalogues.
@@ -58,9 +51,6 @@ inline void FuzzDeviceList(std::string_view bytes) {
   const DeviceRecord row = list.Rows[1];
   const bool found = FindDeviceNew(row.Size, row.Speed, row.Stroke) == 0;
   FuzzCheck(found == (!DevListMissing[0] && list.RowCount > 0), "a lookup agrees with the list");
-  DeviceList.fill(DeviceListRecord{});
-  DevListMissing.fill(False);
-  DeviceLookup = DeviceLookupRecord{};
 }
 
 /// Runs with these files; the first row of the first axis's list, if there is one, is chosen.
@@ -84,11 +74,6 @@ inline void RunStdLists(std::string_view std_list, std::string_view common) {
   FuzzCheck(good ? ParamSet.OneAxis == 15 : ParamSet == ParamSetRecord{}, "whole or not at all");
   FuzzCheck((IniParaFromStdForWrite() == 0) == filled, "both forms agree");
   CheckParaFromStd();
-  for (StdList& rows : StdTable) rows.clear();
-  CommonTable = CommonTableRecord{};
-  ParamSet = ParamSetRecord{};
-  ParaFlags = ParaFlagsRecord{};
-  DevSettei.fill(DevSettingRecord{});
 }
 
 /// Any bytes as a standard list beside a common one of zeros.

@@ -8,22 +8,14 @@
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
-#include "device/ct_device.h"
 #include "forms/frm_main.h"
-#include "forms/timer.h"
-#include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
-#include "link/request_queue.h"
 #include "link/status_commands.h"
-#include "para/para_transfer_commands.h"
-#include "para/param_set.h"
 #include "para/sys_para.h"
 #include "para/sys_para_commands.h"
-#include "platform/doors.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
-#include "state/app_state.h"
 #include "state/online.h"
 #include "tests/fuzz/bytes_port.h"
 #include "tests/fuzz/fuzz_doors.h"
@@ -92,23 +84,11 @@ inline void CheckAfterCommand(int result) {
   }
 }
 
-/// The state of the line as at the start, without the views, which take long.
-inline void ResetLine() {
-  AppState = AppStateRecord{};
-  TusinQueue = RequestQueue{};
-  ErrorList = ErrorListRecord{};
-  ParamSet = ParamSetRecord{};
-  ParaTable.Clear();
-  CtDev.fill(CtDeviceRecord{});
-  AxisSettingSent = AxisSettingSentRecord{};
-  for (Timer* timer : TimerTable()) timer->DueUs = Timer::kNotArmed;
-}
-
 /// Any bytes as replies to one command, which the first of them chooses.
-inline void FuzzReplies(std::string_view bytes) {
+inline void FuzzWire(std::string_view bytes) {
   if (bytes.empty()) return;
-  BytesPort port(bytes.substr(1));
   FuzzDoors virt;
+  BytesPort port(bytes.substr(1));
   virt.pump.SetLimit(std::int64_t{3600} * 1'000'000);
   doors.serial = &port;
 
@@ -123,14 +103,6 @@ inline void FuzzReplies(std::string_view bytes) {
   // The read in front of a write stays, whatever becomes of that.
   FuzzCheck(result == 0 || command == ReadThenWrite || untouched, "a failed read leaves nothing");
   TusinPortCloseForce();
-}
-
-/// Any bytes as what comes over the line. The views stand as `ResetState` leaves them.
-inline void FuzzWire(std::string_view bytes) {
-  ResetLine();
-  ResetLine();
-  FuzzReplies(bytes);
-  ResetLine();
 }
 
 }  // namespace tr7
