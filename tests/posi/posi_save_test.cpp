@@ -85,18 +85,14 @@ TEST_F(SaveTest, FaultsOfTheDeviceAreTriedFourTimes) {
 TEST_F(SaveTest, SaveAsTakesARange) {
   NewTable(5, 9);
   AnswerRange("frmSelectPosiNo3", 6, 7);
-  // The question refused, the dialogue cancelled, a failure, and at last a file.
-  forms.answers = {MsgAnswer::Cancel, MsgAnswer::Ok, MsgAnswer::Ok, MsgAnswer::Ok};
+  // The question refused, the dialogue cancelled, and at last a file.
+  forms.answers = {MsgAnswer::Cancel, MsgAnswer::Ok, MsgAnswer::Ok};
   frmPosi.cmdPosiSaveAs.Press();
   EXPECT_EQ(forms.LastBox(), Text(405));
-  forms.file_answers = {std::nullopt, std::string(kPath), std::string(kPath)};
+  forms.file_answers = {std::nullopt, std::string(kPath)};
   frmPosi.cmdPosiSaveAs.Press();
   EXPECT_TRUE(frmPosi.SaveCancelled);
   EXPECT_EQ(forms.file_dialogs[0].Title, Text(406));
-  virt.files.FailAt(1, FileFault::DiskFull);
-  frmPosi.cmdPosiSaveAs.Press();
-  EXPECT_EQ(forms.LastBox(), Text(422) + "\n\n" + Text(5912, "job.qvd"));
-  EXPECT_EQ(Saved() + PosiTable.Name, "(none)" + Text(213));
   frmPosi.cmdPosiSaveAs.Press();
   EXPECT_EQ(Numbers(), "6-7");
   EXPECT_EQ(frmPosi.Caption, "Position Data-[job]");

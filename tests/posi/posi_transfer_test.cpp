@@ -24,7 +24,6 @@ const std::string kRelease = "0CM00000\r\n";
 
 class ReadTest : public FlowTest {
  protected:
-  using FlowTest::FlowTest;
   void SetUp() override {
     StartOnline();
     ReadRange(3, 5);
@@ -104,8 +103,6 @@ TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
 
 class WriteTest : public ReadTest {
  protected:
-  using ReadTest::ReadTest;
-
   void SetUp() override {
     ReadTest::SetUp();
     ReadAndEdit(5);
@@ -128,12 +125,29 @@ class WriteTest : public ReadTest {
   std::string Sent(int number) const {
     return "0WP00" + std::to_string(number) + port.Ct().WrittenPosition(number) + "\r\n";
   }
+  /// Writes position 3 with this text in the "Posi" cell of axis 1, the PC's limits wider than the
+  /// controller's strokes, as when a device difference was disregarded; true when it went out.
+  bool Goes(const std::string& text, bool mm) {
+    AppState.DispMmUnit = mm;
+    ReadAndEdit(5);
+    AppState.MaxPulse[0] = 400'000;
+    AppState.MaxMm[0] = 2000;
+    forms.on_modal["frmSyogoKekka"] = [this](View& view) {
+      note = frmSyogoKekka.flgdKekka.CellToolTip(2, kPosi);
+      view.Visible = false;
+    };
+    Put(3, kPosi, text);
+    Write(2, 4);
+    EXPECT_TRUE(port.sent.ends_with(kRelease)) << "no axis stays held";
+    return port.sent.find("0WP") != std::string::npos;
+  }
   /// The speed of axis 1 that the controller would have after a loss of power.
   int StoredVel(int number) const {
     qvr7sim::PositionRecord record;
     EXPECT_TRUE(qvr7sim::DecodePosition(port.Ct().CommittedPosition(number), &record));
     return record.axis[0].vel;
   }
+  std::string note;  ///< at the cell that does not go
 };
 
 TEST_F(WriteTest, TheRangeGoesOutAndIsStored) {
@@ -255,76 +269,25 @@ TEST_F(WriteTest, ACancelledWriteStoresWhatHasGone) {
   ExpectOnline();
 }
 
-TEST_F(WriteTest, BadLinesAreSkipped) {
-  PosiTable.PosiLineBad[1] = PosiTable.PosiLineBad[3] = True;
-  int next = 0;
-  EXPECT_EQ(WritePosidataToCt({1, 4}, next), Outcome::Done);
-  EXPECT_EQ(port.sent, Sent(2) + Sent(4) + "0WA001004\r\n");
-}
-
-/// The PC's limits are wider than the controller's strokes, as when a device difference was
-/// disregarded.
-class StrokeTest : public WriteTest {
- protected:
-  explicit StrokeTest(const qvr7sim::Setup& setup = qvr7sim::Setup::Useful()) : WriteTest(setup) {}
-  /// Writes position 3 with this text in the "Posi" cell of axis 1; true when it went out.
-  bool Goes(const std::string& text, bool mm = false) {
-    AppState.DispMmUnit = mm;
-    ReadAndEdit(5);
-    AppState.MaxPulse[0] = 400'000;
-    AppState.MaxMm[0] = 2000;
-    forms.on_modal["frmSyogoKekka"] = [this](View& view) {
-      EXPECT_EQ(frmSyogoKekka.flgdKekka.Text(2, 0), "3");
-      note = frmSyogoKekka.flgdKekka.CellToolTip(2, kPosi);
-      view.Visible = false;
-    };
-    Put(3, kPosi, text);
-    Write(2, 4);
-    const bool went = port.sent.find("0WP") != std::string::npos;
-    EXPECT_TRUE(port.sent.ends_with(kRelease)) << "no axis stays held";
-    return went;
-  }
-  std::string note;
-};
-
-TEST_F(StrokeTest, APositionAtTheStrokeGoesAndOnePulseMoreDoesNot) {
-  EXPECT_TRUE(Goes("20000"));
-  EXPECT_FALSE(Goes("20001"));
+TEST_F(WriteTest, APositionAtTheStrokeGoesAndOnePulseMoreDoesNot) {
+  EXPECT_TRUE(Goes("20000", false));
+  EXPECT_FALSE(Goes("20001", false));
   EXPECT_EQ(note, "Stroke of the controller: 20000");
-  EXPECT_FALSE(Goes("400000")) << "more than the line can hold";
+  EXPECT_FALSE(Goes("400000", false)) << "more than the line can hold";
   EXPECT_TRUE(Goes(" 100.000", true));
   EXPECT_FALSE(Goes(" 100.005", true)) << "20,001 pulses";
   EXPECT_EQ(note, "Stroke of the controller: 100.000");
 }
 
-class ProgramStrokeTest : public StrokeTest {
- protected:
-  ProgramStrokeTest() : StrokeTest(InProgramMode()) {}
-};
-
-TEST_F(ProgramStrokeTest, SignsDoNotHideAPosition) {
-  for (const char* good : {"20000", "+20000", "-20000", "N"}) EXPECT_TRUE(Goes(good)) << good;
-  for (const char* bad : {"20001", "+20001", "-20001"}) EXPECT_FALSE(Goes(bad)) << bad;
-}
-
-TEST_F(ReadTest, RecordsOnTheLine) {
-  const auto field = [](int col) -> Variant& {
-    return PosiTable.PosiRec[static_cast<std::size_t>(col)][5];
+TEST_F(ReadTest, AWayAndItsPulsesShareTwentyBitsOfTheLine) {
+  const auto record = [](double way, double pulses) {
+    PosiTable.PosiRec[kWay][5] = way;
+    PosiTable.PosiRec[kPosi][5] = pulses;
+    return EncodePosiRecord(5).substr(11, 5);
   };
-  field(kWay) = 1.0;
-  field(kPosi) = 10000.0;
-  std::string line = EncodePosiRecord(5);
-  EXPECT_TRUE(line.starts_with("0WP0050320A42710")) << line;
-  line.replace(0, 3, "0RP");
-  EXPECT_FALSE(DecodePosiRecord(line + "\r\n", 6));
-  EXPECT_TRUE(DecodePosiRecord(line + "\r\n", 5));
-  EXPECT_EQ(ValueOf(PosiTable.PosiStage[kPosi][5]), 10000);
-  // 18 bits of position: one more spills into the way.
-  field(kWay) = 3.0;
-  field(kPosi) = 262143.0;
-  EXPECT_EQ(EncodePosiRecord(5).substr(11, 5), "FFFFF");
-  field(kPosi) = 262144.0;
-  EXPECT_EQ(EncodePosiRecord(5).substr(11, 5), "X0000") << "the controller refuses the line";
+  EXPECT_EQ(record(1, 10000), "42710");
+  EXPECT_EQ(record(3, 262143), "FFFFF");
+  EXPECT_EQ(record(3, 262144), "X0000") << "one more is no field: the controller refuses the line";
 }
 
 }  // namespace
