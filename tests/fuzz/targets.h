@@ -2,9 +2,7 @@
 
 #include <string_view>
 
-#include "tests/fuzz/data_targets.h"
-#include "tests/fuzz/list_targets.h"
-#include "tests/fuzz/text_targets.h"
+#include "tests/fuzz/file_targets.h"
 #include "tests/fuzz/wire_target.h"
 
 namespace tr7 {

@@ -1,6 +1,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 #include "base/text_helpers.h"
@@ -174,23 +175,22 @@ TEST_F(ExchangeTest, APortThatDoesNotOpenIsTriedFourTimesAndTold) {
 TEST_F(ExchangeTest, APortThatVanishesIsToldOnceByWhoeverNeedsIt) {
   const std::string lost = Text(5905, "sim", "simulated fault");
   const std::string told = Text(109) + "\n\n" + Text(110) + "\n\n" + lost;
-  const struct {
-    int writes;                ///< the port dies at this write
-    std::int64_t vanishes_us;  ///< or by itself, after so long
-    std::string box;           ///< when a request needs it, or while idle
-  } rows[] = {{1, -1, told}, {-1, 30'000, told}, {-1, 30'000, lost + "\n\n" + Text(5920)}};
+  // The port dies at this write, or by itself after so long: when a request needs it, or while
+  // idle.
+  const std::tuple<int, int, std::string> rows[] = {
+      {1, 0, told}, {-1, 30'000, told}, {-1, 30'000, lost + "\n\n" + Text(5920)}};
   AppState.PortOccupy = True;
-  for (const auto& row : rows) {
+  for (const auto& [writes, vanishes_us, box] : rows) {
     SetOnline();
     port.writes_until_dead = -1;
     EXPECT_EQ(Read(), TusinOutcome::Good);
-    port.writes_until_dead = row.writes;
-    if (row.vanishes_us > 0) pump.After(row.vanishes_us, [this] { port.Vanish(); });
+    port.writes_until_dead = writes;
+    if (vanishes_us > 0) pump.After(vanishes_us, [this] { port.Vanish(); });
     const std::int64_t start = pump.NowUs();
-    EXPECT_EQ(row.box == told ? Read() : TusinOutcome::Failed, TusinOutcome::Failed);
+    EXPECT_EQ(box == told ? Read() : TusinOutcome::Failed, TusinOutcome::Failed);
     EXPECT_LT(pump.NowUs() - start, 300'000);
     pump.RunFor(1'000'000);
-    EXPECT_EQ(Boxes(), Texts{row.box});
+    EXPECT_EQ(Boxes(), Texts{box});
     EXPECT_FALSE(frmMain.imgComPort.Visible);
     ExpectOffline(false);
   }

@@ -180,24 +180,23 @@ class CellRules : public PosiTableTest {
 };
 
 TEST_F(CellRules, ColumnsWhoseRuleKnowsNoUnit) {
-  const struct {
-    int col;
-    std::vector<const char*> taken, refused;
-  } columns[] = {{kVel, {"1", "75.9"}, {"0", "0.9", "76", "", "fast", "30 mm"}},
-                 {kAcc, {"10", "2000"}, {"9", "2001"}},
-                 {kWay, {"0", "3"}, {"4", "-1", "1.5"}},
-                 {kPf, {"0", "20", "70"}, {"19", "71"}},
-                 {kPs, {"0", "99"}, {"100"}},
-                 {kItpl, {"1"}, {"2"}},
-                 {kOut, {"15"}, {"16"}},
-                 {kSm, {"20"}, {"21"}},
-                 {kComment, {"", "受取り位置"}, {"say \"go\""}},
-                 {0, {}, {"1"}},
-                 {kPosiColumns, {}, {"1"}}};
+  using Texts = std::vector<const char*>;
+  const std::tuple<int, Texts, Texts> columns[] = {
+      {kVel, {"1", "75.9"}, {"0", "0.9", "76", "", "fast", "30 mm"}},
+      {kAcc, {"10", "2000"}, {"9", "2001"}},
+      {kWay, {"0", "3"}, {"4", "-1", "1.5"}},
+      {kPf, {"0", "20", "70"}, {"19", "71"}},
+      {kPs, {"0", "99"}, {"100"}},
+      {kItpl, {"1"}, {"2"}},
+      {kOut, {"15"}, {"16"}},
+      {kSm, {"20"}, {"21"}},
+      {kComment, {"", "受取り位置"}, {"say \"go\""}},
+      {0, {}, {"1"}},
+      {kPosiColumns, {}, {"1"}}};
   ShowTable(1, 3);
-  for (const auto& column : columns) {
-    for (const char* typed : column.taken) Expect({{{column.col, typed, typed}}});
-    for (const char* typed : column.refused) Expect({{{column.col, typed, nullptr}}});
+  for (const auto& [col, taken, refused] : columns) {
+    for (const char* typed : taken) Expect({{{col, typed, typed}}});
+    for (const char* typed : refused) Expect({{{col, typed, nullptr}}});
   }
   const Row changed[] = {{kVel, " 75 ", "75"},
                          {kAcc, "15", "10"},

@@ -48,32 +48,28 @@ class PosiGrid : public PosiTableTest {
 };
 
 TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
-  const struct {
-    bool program_mode, mm;
-    int way;
-    const char* posi;
-  } rows[] = {{false, false, 2, "1000"},    {false, true, 2, "   7.500"},
-              {true, false, 0, "       N"}, {true, true, 1, "   7.500"},
-              {true, true, 2, "  +7.500"},  {true, true, 3, "  -7.500"}};
-  for (const auto& row : rows) {
+  const std::tuple<bool, bool, int, std::string> rows[] = {
+      {false, false, 2, "1000"},   {false, true, 2, "   7.500"}, {true, false, 0, "       N"},
+      {true, true, 1, "   7.500"}, {true, true, 2, "  +7.500"},  {true, true, 3, "  -7.500"}};
+  for (const auto& [program_mode, mm, way, posi] : rows) {
     AppState.AxisMuko[2] = True;
-    ShowTable(7, 7, row.program_mode, row.mm);
+    ShowTable(7, 7, program_mode, mm);
     Store(7);
-    PosiTable.PosiRec[kWay][7] = static_cast<double>(row.way);
+    PosiTable.PosiRec[kWay][7] = static_cast<double>(way);
     PosiTable.PosiRec[kAxis3 + kVel][7] = 77.0;
     FG_ShowTable();
-    EXPECT_EQ(Line(7, {0, kPosi}), std::string("7|") + row.posi + "|");
-    EXPECT_EQ(Cell(7, kWay), std::to_string(row.way));
+    EXPECT_EQ(Line(7, {0, kPosi}), "7|" + posi + "|");
+    EXPECT_EQ(Cell(7, kWay), std::to_string(way));
     EXPECT_EQ(Line(7, {kVel, kAcc, kAxis2 + kVel, kAxis2 + kAcc}), "45|250|30|100|");
     EXPECT_EQ(Line(7, {kAxis3 + kVel, kAxis3 + kAcc}), "30|100|") << "an axis not in use";
     EXPECT_EQ(Line(7, {kSm, kComment}), "20| as it is |");
     const Grid& grid = frmPosi.flgdData;
-    EXPECT_EQ(grid.Col, row.program_mode ? kPosi : kVel);
-    EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), row.mm ? "Posi2(mm)" : "Posi2(pls)");
+    EXPECT_EQ(grid.Col, program_mode ? kPosi : kVel);
+    EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), mm ? "Posi2(mm)" : "Posi2(pls)");
     for (int col = 1; col <= kComment; ++col) {
       const bool unused = AxisOfColumn(col) == 2;
       const bool position = AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kPosi;
-      const bool shown = !unused && (!row.program_mode || position || col == kComment);
+      const bool shown = !unused && (!program_mode || position || col == kComment);
       EXPECT_EQ(grid.ColWidth(col) != 0, shown) << col;
       EXPECT_EQ(grid.ColColour(col) == 0xe0e0e0, unused) << col;
     }

@@ -52,26 +52,19 @@ TEST_F(SyogoTest, EveryColumnOfPositionModeButTheComment) {
 }
 
 TEST_F(SyogoTest, LinesThatDoNotMoveInProgramMode) {
-  const struct {
-    double way, staged_way, staged_pulses;
-    const char* flagged;
-    bool program_mode = true;
-  } rows[] = {{0, 0, 200, ""},
-              {1, 1, 100, ""},
-              {1, 1, 200, "9 10 28"},
-              {0, 1, 100, "9 10 28"},
-              {1, 0, 100, "9 10 28"},
-              {2, 3, 100, "9 10 28"},
-              {0, 0, 200, "10 28", false}};
-  for (const auto& row : rows) {
+  const std::tuple<bool, double, double, double, const char*> rows[] = {
+      {true, 0, 0, 200, ""},        {true, 1, 1, 100, ""},        {true, 1, 1, 200, "9 10 28"},
+      {true, 0, 1, 100, "9 10 28"}, {true, 1, 0, 100, "9 10 28"}, {true, 2, 3, 100, "9 10 28"},
+      {false, 0, 0, 200, "10 28"}};
+  for (const auto& [program_mode, way, staged_way, staged_pulses, flagged] : rows) {
     SetUp();
-    if (row.program_mode) Stage(kVel) = Stage(kSm) = 5.0;  // no matter there
-    AppState.CtMode = row.program_mode;
-    Held(9) = row.way;
+    if (program_mode) Stage(kVel) = Stage(kSm) = 5.0;  // no matter there
+    AppState.CtMode = program_mode;
+    Held(9) = way;
     PosiTable.PosiPulse[1][5] = 100;
-    Stage(9) = row.staged_way;
-    Stage(10) = row.staged_pulses;
-    EXPECT_EQ(Flagged(), row.flagged) << row.way << " " << row.staged_way;
+    Stage(9) = staged_way;
+    Stage(10) = staged_pulses;
+    EXPECT_EQ(Flagged(), flagged) << way << " " << staged_way;
   }
 }
 
