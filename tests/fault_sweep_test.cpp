@@ -43,14 +43,7 @@ class Trial : public FlowTest {
   void TakePort() { port.open_fault = PortFault::InUse; }
   qvr7sim::Controller& Ct() { return port.Ct(); }
   std::size_t BoxCount() const { return forms.boxes.size(); }
-  Texts Lines() const {
-    Texts lines;
-    for (std::size_t at = 0, end; (end = port.sent.find("\r\n", at)) != std::string::npos;) {
-      lines.push_back(port.sent.substr(at, end - at));
-      at = end + 2;
-    }
-    return lines;
-  }
+  using FlowTest::Lines;
 
   // What is done first, on a good line, and the flow.
   void Nothing() {}

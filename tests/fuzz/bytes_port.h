@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,9 +40,8 @@ class BytesPort : public SerialPort {
  private:
   std::string Answer(std::string_view sent) {
     const std::size_t end = rest_.find('\n');
-    const std::size_t length = end == std::string_view::npos ? rest_.size() : end + 1;
-    std::string_view piece = rest_.substr(0, length);
-    rest_.remove_prefix(length);
+    std::string_view piece = rest_.substr(0, end == std::string_view::npos ? end : end + 1);
+    rest_.remove_prefix(piece.size());
     if (piece.size() < 2 || piece[0] != '=' || piece[1] < '0' || piece[1] > '9') {
       return std::string(piece);
     }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "core/reset_state.h"
 #include "tests/fuzz/targets.h"
 
 namespace {

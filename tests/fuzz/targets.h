@@ -2,13 +2,7 @@
 
 #include <string_view>
 
-#include "tests/fuzz/code_page_target.h"
-#include "tests/fuzz/device_list_target.h"
-#include "tests/fuzz/error_list_target.h"
-#include "tests/fuzz/para_file_target.h"
-#include "tests/fuzz/posi_file_target.h"
-#include "tests/fuzz/seq_file_target.h"
-#include "tests/fuzz/std_lists_target.h"
+#include "tests/fuzz/file_targets.h"
 #include "tests/fuzz/wire_target.h"
 
 namespace tr7 {

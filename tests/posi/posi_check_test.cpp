@@ -1,13 +1,20 @@
-// The one check of the grid and the one commit of its texts to the table.
+// The one check of the grid, the one commit of its texts to the table, and the rule of each cell.
 
 #include "posi/posi_check.h"
+
+#include <span>
+#include <tuple>
+#include <utility>
 
 #include "device/dev_setting.h"
 #include "forms/frm_main.h"
 #include "forms/frm_syogo_kekka.h"
+#include "posi/cell_rules.h"
 #include "posi/device_change.h"
 #include "posi/posi_grid_fill.h"
+#include "posi/posi_grid_layout.h"
 #include "posi/posi_lines.h"
+#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "state/text.h"
 #include "tests/support/posi_table_test.h"
@@ -15,7 +22,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kAxis4 = 18;
+constexpr int kAxis2 = 6, kAxis4 = 18;  ///< columns in front of them
 
 class PosiCheck : public PosiTableTest {
  protected:
@@ -26,7 +33,7 @@ class PosiCheck : public PosiTableTest {
       for (int row = grid.FixedRows; row < grid.Rows(); ++row) {
         lines += grid.Text(row, 0) + ":";
         for (int col = 1; col < grid.Cols(); ++col) {
-          if (grid.IsMarked && grid.IsMarked(row, col)) lines += " " + std::to_string(col);
+          if (grid.IsMarked(row, col)) lines += " " + std::to_string(col);
         }
         lines += ";";
       }
@@ -37,25 +44,22 @@ class PosiCheck : public PosiTableTest {
 };
 
 TEST_F(PosiCheck, ABadCellOfAnyColumnIsFlagged) {
-  const struct {
-    int col;
-    const char* text;
-    bool good;
-  } rows[] = {{kVel, "76", false},    {kVel, "", false},           {kAcc, "2000", true},
-              {kAcc, "4", false},     {kAcc, "2010", false},       {kWay, "4", false},
-              {kPosi, "13334", true}, {kPosi, "13335", false},     {kPosi, "-1", false},
-              {kPosi, " ", false},    {kPf, "19", false},          {kPs, "100", false},
-              {kItpl, "2", false},    {kOut, "16", false},         {kSm, "21", false},
-              {kComment, "", true},   {kAxis4 + kPs, "100", false}};
-  for (const auto& row : rows) {
+  const std::pair<int, const char*> rows[] = {
+      {kVel, "76"},     {kVel, ""},   {kAcc, "4"}, {kWay, "4"},
+      {kPosi, "13335"}, {kPosi, " "}, {kPf, "19"}, {kPs, "100"},
+      {kItpl, "2"},     {kOut, "16"}, {kSm, "21"}, {kAxis4 + kPs, "100"}};
+  for (const auto& [col, text] : rows) {
     ShowTable(1, 3);
-    Put(2, row.col, row.text);
-    lines.clear();
-    EXPECT_EQ(PosiDataCheck3(), row.good ? 0 : 1) << row.col << " \"" << row.text << "\"";
-    EXPECT_EQ(bool(PosiTable.PosiLineBad[2]), !row.good) << row.col << " \"" << row.text << "\"";
-    EXPECT_EQ(lines, row.good ? "" : "2: " + std::to_string(row.col) + ";") << row.col;
-    EXPECT_TRUE(frmPosi.flgdData.Enabled && frmPosi.flgdData.Redraw);
+    Put(1, kPosi, "13334");
+    Put(2, col, text);
+    EXPECT_EQ(PosiDataCheck3(), 1);
+    EXPECT_EQ(lines, "2: " + std::to_string(col) + ";") << text;
   }
+  EXPECT_TRUE(PosiTable.PosiLineBad[2]);
+  Put(2, kAxis4 + kPosi, "");
+  AppState.AxisMuko[3] = True;
+  EXPECT_EQ(PosiDataCheck3(), 0) << "an axis not in use is filled and not judged";
+  EXPECT_EQ(Stored(kAxis4 + kVel, 2) + Stored(kAxis4 + kPs, 2), 30);
 }
 
 TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
@@ -66,62 +70,39 @@ TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
   EXPECT_EQ(PosiDataCheck3(), 1);
   EXPECT_EQ(Stored(kVel, 1), 30);
   EXPECT_EQ(lines, "3: 5 6;");
-  EXPECT_EQ(PosiTable.PosiBadLineCount, 1);
   EXPECT_EQ(PosiTable.PosiBadLineList, "3,");
-  EXPECT_EQ(Cell(1, kVel), "71") << "the grid keeps what was typed";
   EXPECT_EQ(PosiTable.SyogoCount, 0) << "the flags are gone with the result view";
-
-  Put(3, kPf, "20");
-  Put(3, kPs, "5");
-  EXPECT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(Stored(kVel, 1), 71);
-  EXPECT_EQ(Stored(kPf, 3), 20);
 }
 
 TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
   ShowTable(5, 7);
-  Type(5, kPosi, "1234");
-  Type(5, kAcc, "250");
-  Type(5, kWay, "2");
-  Type(5, kOut, "9");
+  const std::tuple<int, const char*, int> cells[] = {
+      {kPosi, "1234", 1234}, {kAcc, "250", 25}, {kWay, "2", 2}, {kOut, "9", 9}};
+  for (const auto& [col, typed, stored] : cells) Type(5, col, typed);
   Type(5, kComment, "pick");
   ASSERT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(PosiTable.PosiPulse[0][5], 1234) << "the slot of the number, not of the row";
+  for (const auto& [col, typed, stored] : cells) EXPECT_EQ(Stored(col, 5), stored) << col;
   EXPECT_DOUBLE_EQ(PosiTable.PosiMm[0][5], 1234 * (6.0 / 800));
-  EXPECT_EQ(Stored(kPosi, 5), 1234);
-  EXPECT_EQ(Stored(kAcc, 5), 25);
-  EXPECT_EQ(Stored(kWay, 5), 2);
-  EXPECT_EQ(Stored(kOut, 5), 9);
   EXPECT_EQ(TextOf(PosiTable.PosiRec[kComment][5]), "pick");
-}
-
-TEST_F(PosiCheck, InTheMillimetreViewTheMillimetresAreTheMaster) {
   ShowTable(1, 2, false, true);
   Type(1, kPosi, "12.345");
   ASSERT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(PosiTable.PosiPulse[0][1], 1646);
+  EXPECT_EQ(PosiTable.PosiPulse[0][1], 1646) << "the millimetres of their view are the master";
   EXPECT_EQ(Stored(kPosi, 1), 1646);
-  Put(1, kPosi, " 100.006");
-  EXPECT_EQ(PosiDataCheck3(), 1);
 }
 
 TEST_F(PosiCheck, ProgramModeTakesTheWayFromTheSignAndFillsTheRest) {
   ShowTable(1, 3, true);
-  Type(1, kPosi, "+250");
-  Type(2, kPosi, "-250");
-  Type(3, kPosi, "250");
   Put(3, kVel, "");
+  const char* typed[] = {"250", "+250", "-250"};  // ways 1 to 3
+  for (int n = 1; n <= 3; ++n) Type(n, kPosi, typed[n - 1]);
   ASSERT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(Stored(kWay, 1), 2);
-  EXPECT_EQ(Stored(kWay, 2), 3);
-  EXPECT_EQ(Stored(kWay, 3), 1);
-  EXPECT_EQ(Stored(kAxis4 + kWay, 3), 0) << "N";
-  for (int number = 1; number <= 3; ++number) {
-    EXPECT_EQ(PosiTable.PosiPulse[0][static_cast<std::size_t>(number)], 250);
-    EXPECT_EQ(Stored(kVel, number), 30);
-    EXPECT_EQ(Stored(kAcc, number), 1);
-    EXPECT_EQ(Stored(kPf, number), 0);
+  for (int n = 1; n <= 3; ++n) {
+    EXPECT_EQ(Stored(kWay, n), n);
+    EXPECT_EQ(Stored(kPosi, n), 250);
+    EXPECT_EQ(Stored(kVel, n) + Stored(kAcc, n), 31);
   }
+  EXPECT_EQ(Stored(kAxis4 + kWay, 3), 0) << "N";
   Put(2, kPosi, "   13335");
   EXPECT_EQ(PosiDataCheck3(), 1);
   EXPECT_EQ(lines, "2: 4;");
@@ -147,64 +128,24 @@ TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
   EXPECT_TRUE(PosiDataCheckAll()) << lines;
 }
 
-TEST_F(PosiCheck, AnAxisNotInUseIsFilledAndNotJudged) {
-  AppState.AxisMuko[3] = True;
-  ShowTable(1, 2);
-  Put(1, kAxis4 + kVel, "9999");
-  Put(1, kAxis4 + kPosi, "");
-  ASSERT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(Stored(kAxis4 + kVel, 1), 30);
-  EXPECT_EQ(Stored(kAxis4 + kAcc, 1), 1);
-  EXPECT_EQ(PosiTable.PosiPulse[3][1], 0);
-}
-
 TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
   ShowTable(1, 5);
   Put(1, kVel, "9999");
-  AppState.PosiFromNo = 2;
-  AppState.PosiToNo = 4;
+  SetOperationRange({2, 4});
   EXPECT_EQ(PosiDataCheck3(), 0);
-  EXPECT_FALSE(PosiDataCheckAll());
+  SetOperationRange({500, 600});
+  EXPECT_EQ(PosiDataCheck3(), 1) << "a range that is not loaded stands for the whole table";
   EXPECT_EQ(lines, "1: 1;");
 }
 
-TEST_F(PosiCheck, ARangeThatIsNotLoadedStandsForTheWholeTable) {
-  ShowTable(1, 3);
-  Put(2, kVel, "0");
-  AppState.PosiFromNo = 500;
-  AppState.PosiToNo = 600;
-  EXPECT_EQ(PosiDataCheck3(), 1);
-  EXPECT_EQ(lines, "2: 1;") << "what is refused is also shown";
-}
-
-TEST_F(PosiCheck, AnEmptyGridIsGoodAndMeansNoTable) {
+TEST_F(PosiCheck, NoTableIsGood) {
   ShowTable(1, 2);
   frmPosi.flgdData.SetRows(2);
   EXPECT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(AppState.PosiFirstNo, 0);
-  EXPECT_EQ(AppState.PosiLastNo, 0);
-  EXPECT_EQ(Check_flgdLineNo(), 1);
-  EXPECT_TRUE(BoxShown(Text(433)));
+  EXPECT_EQ(LoadedPosiRange(), PosiRange{});
 }
 
-TEST_F(PosiCheck, WithoutADeviceNothingCanBeConverted) {
-  ShowTable(1, 2);
-  DevSetting[1].Ppr = 0;
-  EXPECT_EQ(PosiDataCheck3(), 1);
-  EXPECT_TRUE(BoxShown("AXIS2"));
-}
-
-TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLine) {
-  ShowTable(1, 5);
-  frmPosi.cmdPosiCheck.Press();
-  EXPECT_TRUE(BoxShown(Text(6358)));
-  Put(4, kOut, "99");
-  frmPosi.cmdPosiCheck.Press();
-  EXPECT_EQ(lines, "4: 26;");
-  EXPECT_EQ(frmPosi.flgdData.Row, 5);
-}
-
-TEST_F(PosiCheck, DecimalsOfASpeedAreToldAtTheEditAndAtTheCheck) {
+TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLineAndTellsOfSpeeds) {
   ShowTable(1, 5);
   std::string typed = "30.5";
   EXPECT_TRUE(frmPosi.flgdData.AcceptEdit(3, kVel, typed).accepted);
@@ -213,6 +154,138 @@ TEST_F(PosiCheck, DecimalsOfASpeedAreToldAtTheEditAndAtTheCheck) {
   EXPECT_TRUE(frmMain.sbStatusBar.Panels[kPanelError].starts_with(Text(6365, "30.5", "30")));
   frmPosi.cmdPosiCheck.Press();
   EXPECT_EQ(forms.LastBox(), Text(6358) + "\n\n" + Text(6366) + "\n2");
+  Put(4, kOut, "99");
+  frmPosi.cmdPosiCheck.Press();
+  EXPECT_EQ(lines, "4: 26;");
+  EXPECT_EQ(frmPosi.flgdData.Row, 5);
+}
+
+// What each cell takes, and what it shows then.
+
+struct Row {
+  int col;
+  const char* typed;
+  const char* shown;  ///< null: refused
+};
+
+class CellRules : public PosiTableTest {
+ protected:
+  void Expect(std::span<const Row> rows) {
+    for (const Row& row : rows) {
+      const auto cell = ApplyCellRule(row.col, row.typed, AppState.CtMode);
+      EXPECT_EQ(cell ? cell->text : "(refused)", row.shown ? row.shown : "(refused)")
+          << row.col << " \"" << row.typed << "\"";
+    }
+  }
+};
+
+TEST_F(CellRules, ColumnsWhoseRuleKnowsNoUnit) {
+  using Texts = std::vector<const char*>;
+  const std::tuple<int, Texts, Texts> columns[] = {
+      {kVel, {"1", "75.9"}, {"0", "0.9", "76", "", "fast", "30 mm"}},
+      {kAcc, {"10", "2000"}, {"9", "2001"}},
+      {kWay, {"0", "3"}, {"4", "-1", "1.5"}},
+      {kPf, {"0", "20", "70"}, {"19", "71"}},
+      {kPs, {"0", "99"}, {"100"}},
+      {kItpl, {"1"}, {"2"}},
+      {kOut, {"15"}, {"16"}},
+      {kSm, {"20"}, {"21"}},
+      {kComment, {"", "受取り位置"}, {"say \"go\""}},
+      {0, {}, {"1"}},
+      {kPosiColumns, {}, {"1"}}};
+  ShowTable(1, 3);
+  for (const auto& [col, taken, refused] : columns) {
+    for (const char* typed : taken) Expect({{{col, typed, typed}}});
+    for (const char* typed : refused) Expect({{{col, typed, nullptr}}});
+  }
+  const Row changed[] = {{kVel, " 75 ", "75"},
+                         {kAcc, "15", "10"},
+                         {kAcc, "1999.9", "1990"},
+                         {kComment, "  pick, place  ", "pick, place"}};
+  Expect(changed);
+}
+
+TEST_F(CellRules, PositionsInBothUnits) {
+  ShowTable(1, 3);
+  const Row pulses[] = {{kPosi, "0", "0"},         {kPosi, "13334", "13334"},
+                        {kPosi, "13335", nullptr}, {kPosi, "-1", nullptr},
+                        {kPosi, "10.5", nullptr},  {kPosi, "", nullptr},
+                        {kPosi, "N", nullptr}};
+  Expect(pulses);
+  // Surplus decimals are cut, then it is on a pulse.
+  const Row mm[] = {{kPosi, "12.34567", "  12.345"}, {kPosi, "0.003", "   0.000"},
+                    {kPosi, "0.004", "   0.008"},    {kPosi, "100.0059", " 100.005"},
+                    {kPosi, "100.006", nullptr},     {kPosi, "-0.1", nullptr},
+                    {kPosi, "1e3", nullptr}};
+  ShowTable(1, 3, false, true);
+  AppState.MmRoundUp = True;
+  Expect(mm);
+  // 6 mm in 1500 pulses: a pulse is 0.004 mm, the tie 0.002.
+  for (DevSettingRecord& device : DevSetting) device.Ppr = 1500;
+  ShowTable(1, 3, false, true);
+  for (const bool up : {false, true}) {
+    AppState.MmRoundUp = up;
+    Expect({{{kPosi, "0.002", up ? "   0.004" : "   0.000"}}});
+  }
+}
+
+TEST_F(CellRules, ProgramModeFoldsTheWayIntoThePosition) {
+  ShowTable(1, 3, true);
+  const Row pulses[] = {{kPosi, "n", "       N"},   {kPosi, "N12", "       N"},
+                        {kPosi, "+", "      +1"},   {kPosi, "-13334", "  -13334"},
+                        {kPosi, "-13335", nullptr}, {kPosi, "100", "     100"},
+                        {kPosi, "x", nullptr},      {kVel, "30", nullptr}};
+  Expect(pulses);
+  ShowTable(1, 3, true, true);
+  const Row mm[] = {{kPosi, "+", "  +0.998"},  // 1 mm is no whole pulse
+                    {kPosi, "-99.9", " -99.900"},
+                    {kPosi, "+100.006", nullptr}};
+  Expect(mm);
+}
+
+TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
+  ShowTable(5, 7);
+  EXPECT_EQ(Type(6, kVel, "70"), 0);
+  EXPECT_TRUE(frmPosi.PosiChanged);
+  frmPosi.PosiChanged = False;
+  EXPECT_EQ(Type(6, kVel, "1000"), 1);
+  EXPECT_EQ(Type(6, kVel, "70"), 0) << "left as it was";
+  EXPECT_EQ(forms.beeps, 1);
+  frmPosi.flgdData.Enabled = false;
+  EXPECT_EQ(Type(6, kVel, "60"), 1) << "a grid that is off takes nothing";
+  EXPECT_EQ(Cell(6, kVel), "70");
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  frmPosi.flgdData.Enabled = true;
+  Type(5, kPosi, "1234");
+  EXPECT_EQ(PosiTable.PosiPulse[0][1], 1234) << "the live mirror stands at the row";
+  EXPECT_EQ(PosiTable.PosiPulse[0][5], 0) << "not at the number";
+}
+
+TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
+  const std::tuple<bool, int, const char*, const char*> rows[] = {
+      {false, kAcc, "44", "\"44\" became \"40\".  "},
+      {false, kAcc, " 40 ", ""},
+      {false, kPosi, "12.3456", "\"12.3456\" became \"12.345\".  "},
+      {true, kPosi, "+1", "\"+1\" became \"+0.998\".  "},
+      {true, kPosi, "n", ""}};
+  for (const auto& [program_mode, col, typed, note] : rows) {
+    ShowTable(1, 3, program_mode, true);
+    Type(1, col, typed);
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);  // as Enter does
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], note + Text(5242)) << typed;
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, kAxis2 + kPosi);
+    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError].substr(0, 5), "Input");
+  }
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelScale1].substr(0, 3), "<2>") << "of the cell's axis";
+}
+
+TEST_F(CellRules, AnEditorLeftAsItOpenedIsNoEdit) {
+  ShowTable(1, 3, false, true);
+  Put(2, kPosi, " 999.000");  // as an old file may have it
+  // The editor opens with the text alone, without the blanks that align it.
+  EXPECT_EQ(Type(2, kPosi, "999.000"), 0);
+  EXPECT_EQ(Cell(2, kPosi), " 999.000");
+  EXPECT_FALSE(frmPosi.PosiChanged || forms.beeps > 0);
 }
 
 }  // namespace

@@ -1,16 +1,13 @@
 // How the position grid is laid out, filled and told about; new data, the unit, and leaving.
 
-#include <array>
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include "core/options_view.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
-#include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_parameta2.h"
-#include "forms/frm_select_posi_no.h"
 #include "forms/frm_syogo_kekka.h"
 #include "posi/device_change.h"
 #include "posi/posi_caption.h"
@@ -18,13 +15,10 @@
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
-#include "posi/posi_hint.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
-#include "posi/posi_view.h"
-#include "state/text.h"
-#include "state/views.h"
+#include "tests/support/flow_test.h"
 #include "tests/support/posi_table_test.h"
 
 namespace tr7 {
@@ -46,170 +40,89 @@ class PosiGrid : public PosiTableTest {
     PosiTable.PosiRec[kSm][slot] = std::string(" 20");
     PosiTable.PosiRec[kComment][slot] = std::string(" as it is ");
   }
-  std::string Hint(int col) {
-    frmPosi.flgdData.SelectCell(kPosiHeaderRows, col);
-    return frmMain.sbStatusBar.Panels[kPanelError];
+  std::string Line(int number, std::initializer_list<int> columns) const {
+    std::string line;
+    for (const int col : columns) line += Cell(number, col) + "|";
+    return line;
   }
 };
 
-TEST_F(PosiGrid, ColumnsOnShowByModeAndAxes) {
-  const Grid& grid = frmPosi.flgdData;
-  for (const bool program_mode : {false, true}) {
-    for (const bool mm : {false, true}) {
-      AppState.AxisMuko[2] = True;
-      ShowTable(1, 2, program_mode, mm);
-      for (int col = 1; col <= kComment; ++col) {
-        const int axis = AxisOfColumn(col);
-        const bool position = axis >= 0 && FieldOfColumn(col) == kPosi;
-        const bool shown = axis != 2 && (!program_mode || position || col == kComment);
-        EXPECT_EQ(grid.ColWidth(col) != 0, shown) << col;
-        EXPECT_EQ(grid.ColColour(col) == 0xe0e0e0, axis == 2) << col;
-      }
-      EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), mm ? "Posi2(mm)" : "Posi2(pls)");
-    }
-  }
-}
-
 TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
-  const struct {
-    bool program_mode, mm;
-    int way;
-    const char* posi;
-  } rows[] = {{false, false, 2, "1000"},    {false, true, 2, "   7.500"},
-              {true, false, 0, "       N"}, {true, false, 1, "    1000"},
-              {true, false, 2, "   +1000"}, {true, false, 3, "   -1000"},
-              {true, true, 0, "       N"},  {true, true, 1, "   7.500"},
-              {true, true, 2, "  +7.500"},  {true, true, 3, "  -7.500"}};
-  for (const auto& row : rows) {
+  const std::tuple<bool, bool, int, std::string> rows[] = {
+      {false, false, 2, "1000"},   {false, true, 2, "   7.500"}, {true, false, 0, "       N"},
+      {true, true, 1, "   7.500"}, {true, true, 2, "  +7.500"},  {true, true, 3, "  -7.500"}};
+  for (const auto& [program_mode, mm, way, posi] : rows) {
     AppState.AxisMuko[2] = True;
-    ShowTable(7, 7, row.program_mode, row.mm);
+    ShowTable(7, 7, program_mode, mm);
     Store(7);
-    PosiTable.PosiRec[kWay][7] = static_cast<double>(row.way);
+    PosiTable.PosiRec[kWay][7] = static_cast<double>(way);
     PosiTable.PosiRec[kAxis3 + kVel][7] = 77.0;
     FG_ShowTable();
-    EXPECT_EQ(frmPosi.flgdData.Rows(), 3) << "a table of one position";
-    EXPECT_EQ(Cell(7, 0), "7");
-    EXPECT_EQ(Cell(7, kPosi), row.posi);
-    EXPECT_EQ(Cell(7, kVel), "45");
-    EXPECT_EQ(Cell(7, kAcc), "250");
-    EXPECT_EQ(Cell(7, kWay), std::to_string(row.way));
-    EXPECT_EQ(Cell(7, kAxis2 + kVel) + Cell(7, kAxis2 + kAcc), "30100");
-    EXPECT_EQ(Cell(7, kAxis3 + kVel) + Cell(7, kAxis3 + kAcc), "30100") << "an axis not in use";
-    EXPECT_EQ(Cell(7, kSm), "20");
-    EXPECT_EQ(Cell(7, kComment), " as it is ") << "unchanged";
-    EXPECT_EQ(frmPosi.flgdData.Row, 2);
-    EXPECT_EQ(frmPosi.flgdData.Col, row.program_mode ? kPosi : kVel);
+    EXPECT_EQ(Line(7, {0, kPosi}), "7|" + posi + "|");
+    EXPECT_EQ(Cell(7, kWay), std::to_string(way));
+    EXPECT_EQ(Line(7, {kVel, kAcc, kAxis2 + kVel, kAxis2 + kAcc}), "45|250|30|100|");
+    EXPECT_EQ(Line(7, {kAxis3 + kVel, kAxis3 + kAcc}), "30|100|") << "an axis not in use";
+    EXPECT_EQ(Line(7, {kSm, kComment}), "20| as it is |");
+    const Grid& grid = frmPosi.flgdData;
+    EXPECT_EQ(grid.Col, program_mode ? kPosi : kVel);
+    EXPECT_EQ(grid.Text(1, kAxis2 + kPosi), mm ? "Posi2(mm)" : "Posi2(pls)");
+    for (int col = 1; col <= kComment; ++col) {
+      const bool unused = AxisOfColumn(col) == 2;
+      const bool position = AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kPosi;
+      const bool shown = !unused && (!program_mode || position || col == kComment);
+      EXPECT_EQ(grid.ColWidth(col) != 0, shown) << col;
+      EXPECT_EQ(grid.ColColour(col) == 0xe0e0e0, unused) << col;
+    }
   }
-}
-
-TEST_F(PosiGrid, WhatAFileHoldsBeyondAllRangesIsShownAndHarmsNothing) {
-  ShowTable(1, 1, true);
-  Store(1);
-  PosiTable.PosiRec[kWay][1] = std::string(400, '9');
-  PosiTable.PosiMm[0][1] = 1e300;
+  // What a file holds beyond all ranges is shown and harms nothing.
+  PosiTable.PosiRec[kWay][7] = std::string(400, '9');
+  PosiTable.PosiMm[0][7] = 1e300;
   FG_ShowTable();
-  EXPECT_EQ(Cell(1, kPosi), "    1000") << "a way that is none counts as absolute";
-  AppState.DispMmUnit = True;
-  FG_ShowTable();
-  EXPECT_GT(Cell(1, kPosi).size(), 8u);
+  EXPECT_GT(Cell(7, kPosi).size(), 8u) << "a way that is none counts as absolute";
 }
 
 TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
-  const struct {
-    int col;
-    bool program_mode, mm;
-    const char* hint;
-  } rows[] = {{0, false, false, ""},
-              {kVel, false, false, "Input Range : 1 to 75(mm/sec)"},
-              {kVel, true, false, ""},
-              {kPosi, false, false, "Input Range : 0 to 13334(pls)"},
-              {kPosi, false, true, "Input Range : 0.000 to  100.005(mm)"},
-              {kPosi, true, false,
-               "Input Range : 0 to 13334(PLS) / N:No Move / ±:INC Move / other:ABS Move"},
-              {kPosi, true, true,
-               "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
-              {kAxis2 + kVel, false, false, "Input Range : 1 to 400(mm/sec)"},
-              {kAxis3 + kVel, false, false, ""},  // not in use
-              {kSm, false, false, "Input Range : 0 , 1 to 200:No SM / 1to20:Executed SM No."},
-              {kSm, true, false, ""},
-              {kComment, true, false, "It is possible to input it up to 20 characters."}};
+  const std::tuple<int, bool, const char*> rows[] = {
+      {kVel, true, ""},
+      {kPosi, true,
+       "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
+      {kAxis2 + kVel, false, "Input Range : 1 to 400(mm/sec)"}};
   DevSetting[1].Speed = "D";
   DevSetting[1].Size = " 42";
-  AppState.AxisMuko[2] = True;
-  for (const auto& row : rows) {
-    ShowTable(1, 2, row.program_mode, row.mm);
-    EXPECT_EQ(Hint(row.col), row.hint) << "column " << row.col;
+  const std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
+  for (const auto& [col, program_mode, hint] : rows) {
+    ShowTable(1, 2, program_mode, true);
+    frmPosi.flgdData.SelectCell(kPosiHeaderRows, col);
+    EXPECT_EQ(panel, hint);
   }
-  FG_InitPos();
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], "") << "no cell is the current one";
   AppState.AlarmOn = True;
-  frmMain.sbStatusBar.Panels[kPanelError] = "an alarm";
-  EXPECT_EQ(Hint(kComment), "an alarm") << "it stays readable";
+  frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);
+  EXPECT_EQ(panel, std::get<2>(rows[2])) << "an alarm stays readable";
 }
 
-// New data.
-
-class PosiNew : public PosiGrid {
- protected:
-  /// Types the ranges one after the other until one is taken; Cancel behind the last one.
-  void New(const std::vector<std::array<std::string, 2>>& ranges) {
-    forms.boxes.clear();
-    forms.on_modal["frmSelectPosiNo3"] = [this, ranges](View& view) {
-      auto& range = static_cast<SelectPosiNoView&>(view);
-      proposed = range.txtFromNo.Text + "-" + range.txtToNo.Text;
-      for (const auto& [from, to] : ranges) {
-        range.txtFromNo.Type(from);
-        range.txtToNo.Type(to);
-        range.cmdOk.Press();
-        if (!range.Visible) return;
-        EXPECT_EQ(forms.LastBox(), Text(1610)) << from << "-" << to;
-      }
-      range.cmdCancel.Press();
-    };
-    frmMain.mnuFileNew.Click();
-    EXPECT_FALSE(AppState.RangeIsForNew);
-  }
-  std::string Range() const {
-    return std::to_string(AppState.PosiFirstNo) + "-" + std::to_string(AppState.PosiLastNo) + "/" +
-           std::to_string(AppState.PosiCount) + "/" +
-           std::to_string(frmPosi.flgdData.Rows() - kPosiHeaderRows);
-  }
-  std::string proposed;
-};
-
-TEST_F(PosiNew, ARangeOfDefaultsReplacesTheTable) {
+TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {
   DevSetting[0].Speed = "D";
   DevSetting[0].Size = " 42";
   ShowTable(3, 4);
   Store(4);
-  New({{"1", "999"}});
-  EXPECT_EQ(proposed, "1-15");
-  EXPECT_EQ(Range(), "1-999/999/999");
-  EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
-  EXPECT_EQ(Cell(4, kVel) + " " + Cell(4, kAcc) + " " + Cell(4, kAxis2 + kAcc), "30 200 100");
-  EXPECT_EQ(Cell(999, kComment) + Cell(999, kWay) + Cell(999, kPosi), "00");
-  EXPECT_FALSE(frmPosi.PosiChanged);
-  New({{"7", "7"}});
-  EXPECT_EQ(Range(), "7-7/1/1");
-}
-
-TEST_F(PosiNew, ARangeThatIsNoneKeepsTheDialogueOpen) {
-  ShowTable(3, 4);
-  New({{"5", "4"}, {"0", "9"}, {"", "9"}, {"", ""}});
-  EXPECT_EQ(Range(), "3-4/2/2") << "cancelled then: the earlier table stays";
-  New({{"5", "4"}, {"2a", "4"}});
-  EXPECT_EQ(Range(), "2-4/3/3") << "digits alone";
-}
-
-TEST_F(PosiNew, UnsavedDataIsAskedAbout) {
-  ShowTable(3, 4);
   Type(3, kVel, "31");
+  forms.on_modal["frmSelectPosiNo3"] = [this](View& view) {
+    auto& range = static_cast<SelectPosiNoView&>(view);
+    EXPECT_EQ(range.txtFromNo.Text + "-" + range.txtToNo.Text, "1-15");
+    FillRange(range, 5, 4);
+    EXPECT_EQ(forms.LastBox(), Text(1610));
+    EXPECT_TRUE(range.Visible);
+    FillRange(range, 1, 999);
+  };
   forms.answers = {MsgAnswer::Cancel, MsgAnswer::No};
-  New({{"1", "2"}});
-  EXPECT_EQ(Range(), "3-4/2/2");
+  frmMain.mnuFileNew.Click();
   EXPECT_EQ(forms.LastBox(), Text(5243));
-  New({{"1", "2"}});
-  EXPECT_EQ(Range(), "1-2/2/2");
+  EXPECT_EQ(AppState.PosiLastNo, 4);
+  frmMain.mnuFileNew.Click();
+  EXPECT_EQ(AppState.PosiLastNo, 999);
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
+  EXPECT_EQ(Line(4, {kVel, kAcc, kAxis2 + kAcc, kWay, kPosi, kComment}), "30|200|100|0|0||");
+  EXPECT_FALSE(frmPosi.PosiChanged || AppState.RangeIsForNew);
 }
 
 // Devices that change under the table.
@@ -268,8 +181,9 @@ class PosiUnit : public PosiGrid {
       frmOptions2.cmdOk.Press();
     };
     ShowOptions();
+    const std::string setting = virt.settings.Get("Settings", "DispMmUnit", "-");
+    EXPECT_EQ(setting, AppState.DispMmUnit ? "1" : "0");
   }
-  std::string Setting() const { return virt.settings.Get("Settings", "DispMmUnit", "-"); }
 };
 
 TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
@@ -278,94 +192,56 @@ TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
     Type(6, kPosi, program_mode ? "+1000" : "1000");
     Select(6, kPosi, 6, kPosi);
     Take(true);
-    EXPECT_EQ(Setting(), "1");
     EXPECT_EQ(Cell(6, kPosi), program_mode ? "  +7.500" : "   7.500");
-    EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(mm)");
     EXPECT_EQ(PosiTable.PosiPulse[0][6], 1000);
     EXPECT_TRUE(frmPosi.PosiChanged) << "it is in no file yet";
     EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(6)) << "the user stays where he was";
     Take(false);
-    EXPECT_EQ(Setting(), "0");
     EXPECT_EQ(Cell(6, kPosi), program_mode ? "   +1000" : "1000");
-    EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(pls)");
   }
-  const auto revision = frmPosi.flgdData.Revision;
-  Take(false);
-  EXPECT_EQ(frmPosi.flgdData.Revision, revision) << "the same unit changes nothing";
-}
-
-TEST_F(PosiUnit, ABadTableKeepsTheUnit) {
   ShowTable(5, 7);
-  virt.settings.Set("Settings", "DispMmUnit", "0");
   Put(6, kVel, "999");
   forms.on_modal["frmSyogoKekka"] = [](View&) { frmSyogoKekka.cmdClose.Press(); };
   Take(true);
   EXPECT_EQ(forms.LastBox(), Text(2541) + "\n" + Text(2542));
-  EXPECT_FALSE(AppState.DispMmUnit);
-  EXPECT_EQ(Setting(), "0");
-  EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(pls)");
-  EXPECT_EQ(Cell(6, kVel), "999");
-}
-
-TEST_F(PosiUnit, WithoutATableTheTitlesChange) {
-  RebuildPosiView();
-  Take(true);
-  EXPECT_TRUE(AppState.DispMmUnit);
-  EXPECT_EQ(frmPosi.flgdData.Text(1, kPosi), "Posi1(mm)");
-  EXPECT_TRUE(forms.boxes.empty());
+  EXPECT_FALSE(AppState.DispMmUnit) << "a bad table keeps its unit";
 }
 
 // Commands and leaving.
 
 TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
   ShowTable(998, 998);
+  const auto on = [] {
+    const EditStates& edit = frmPosi.Edit;
+    EXPECT_EQ(edit.Copy, frmPosi.cmdPosiCopy.Enabled && frmPosi.mnuPopupCopy.Enabled);
+    EXPECT_EQ(edit.Insert, frmMain.mnuEditInsert.Enabled);
+    return std::string(edit.Copy ? "c" : "") + (edit.Paste ? "p" : "") + (edit.Insert ? "i" : "") +
+           (edit.Delete ? "d" : "");
+  };
   const struct {
     int row, row_sel;
-    bool copied;
-    const char* on;  ///< of copy, paste, insert, delete
-  } rows[] = {{0, 0, false, ""},
-              {0, 0, true, ""},
-              {2, 2, false, "cid"},
-              {2, 2, true, "cpid"},
-              {2, 0, true, "pi"}};
-  const auto on = [] {
-    const FrmMain& m = frmMain;
-    const FrmPosi& f = frmPosi;
-    std::string text;
-    const auto add = [&text](const Menu& menu, const Menu& popup, const CommandButton& button,
-                             const char* letter) {
-      EXPECT_EQ(menu.Enabled, popup.Enabled) << letter;
-      EXPECT_EQ(menu.Enabled, button.Enabled) << letter;
-      if (menu.Enabled) text += letter;
-    };
-    add(m.mnuEditCopy, f.mnuPopupCopy, f.cmdPosiCopy, "c");
-    add(m.mnuEditPaste, f.mnuPopupPaste, f.cmdPosiPaste, "p");
-    add(m.mnuEditInsert, f.mnuPopupInsert, f.cmdInsertLine, "i");
-    add(m.mnuEditLineDelete, f.mnuPopupLineDelete, f.cmdDeleteLine, "d");
-    EXPECT_EQ(m.mnuEdit.Enabled, !text.empty());
-    return text;
-  };
-  for (const auto& row : rows) {
-    frmPosi.CopiedIsLine = row.copied;
-    frmPosi.flgdData.Select(row.row, 1, row.row_sel, 1);
-    EXPECT_EQ(on(), row.on) << row.row << " " << row.copied;
+    const char *on, *copied_on;  ///< of copy, paste, insert, delete; once a line was copied
+  } rows[] = {{0, 0, "", ""}, {2, 2, "cid", "cpid"}, {2, 0, "i", "pi"}};
+  for (const bool copied : {false, true}) {
+    frmPosi.CopiedIsLine = copied;
+    for (const auto& row : rows) {
+      frmPosi.flgdData.Select(row.row, 1, row.row_sel, 1);
+      EXPECT_EQ(on(), copied ? row.copied_on : row.on) << row.row;
+    }
   }
   frmPosi.flgdData.SelectCell(2, 1);
   frmMain.mnuEditInsert.Press();
   EXPECT_EQ(AppState.PosiLastNo, 999);
   EXPECT_EQ(on(), "cpd") << "there is no room for another line";
   frmPosi.mnuPopupLineDelete.Press();
-  EXPECT_EQ(AppState.PosiLastNo, 998);
-
   EditCMD_Muko();
   EXPECT_EQ(on(), "");
   frmPosi.flgdData.Paste();
   EXPECT_TRUE(forms.boxes.empty()) << "Ctrl+V rests with the commands";
-  EditCommandsBySelection();
   SetActiveView(&frmParameta2);
-  EXPECT_FALSE(frmMain.mnuEdit.Enabled || frmMain.mnuFileSave.Enabled);
   EditCommandsBySelection();
-  EXPECT_FALSE(frmMain.mnuEdit.Enabled) << "a flow's end does not bring them to another view";
+  EXPECT_FALSE(frmMain.mnuEdit.Enabled || frmMain.mnuFileSave.Enabled)
+      << "a flow's end does not bring them to another view";
   frmMain.mnuEditLineDelete.Click();
   EXPECT_EQ(AppState.PosiLastNo, 998) << "nothing happens behind the active view";
   SetActiveView(&frmPosi);

@@ -1,8 +1,6 @@
-// Whole lines: insert, delete, the line that the Enter key adds.
+// Whole lines: insert, delete, the line that the Enter key adds; copy and paste.
 
 #include "posi/posi_lines.h"
-
-#include <algorithm>
 
 #include "forms/frm_main.h"
 #include "posi/posi_check.h"
@@ -36,6 +34,20 @@ class PosiLines : public PosiTableTest {
     for (int n = first; n <= last; ++n) Type(n, kVel, std::to_string(n));
     frmPosi.PosiChanged = False;
   }
+  void Paste(const std::string& text) {
+    virt.clipboard.text = text;
+    forms.boxes.clear();
+    forms.beeps = 0;
+    cmdPosiPaste_Click();
+  }
+  std::string Copied(int number, int col, int number_end, int col_end) {
+    Select(number, col, number_end, col_end);
+    virt.clipboard.text.clear();
+    forms.boxes.clear();
+    cmdPosiCopy_Click();
+    return virt.clipboard.text;
+  }
+  static const std::string& Panel() { return frmMain.sbStatusBar.Panels[kPanelError]; }
 };
 
 TEST_F(PosiLines, InsertPutsDefaultsAboveAndRenumbers) {
@@ -43,50 +55,31 @@ TEST_F(PosiLines, InsertPutsDefaultsAboveAndRenumbers) {
   Select(6, kVel, 6, kVel);
   frmPosi.cmdInsertLine.Press();
   EXPECT_EQ(Shown(), "5-8: 5 30 6 7");
-  EXPECT_EQ(Cell(6, kAcc), "100");
   EXPECT_TRUE(frmPosi.PosiChanged);
   ASSERT_TRUE(PosiDataCheckAll());
   EXPECT_EQ(Stored(kVel, 8), 7) << "the commit follows the new numbers";
-}
-
-TEST_F(PosiLines, PositionNineNineNineIsTheLast) {
-  Numbered(1, 3);
   ShowTable(998, 999);
   Select(998, kVel, 998, kVel);
   cmdInsertLine_Click();
-  EXPECT_EQ(Shown(), "998-999: 30 30");
-  EXPECT_FALSE(frmPosi.PosiChanged);
-  EXPECT_FALSE(frmPosi.cmdInsertLine.Enabled);
   EXPECT_FALSE(AppendLine());
-  ShowTable(997, 998);
-  EXPECT_TRUE(AppendLine());
-  EXPECT_EQ(Shown(), "997-999: 30 30 30");
+  EXPECT_EQ(Shown(), "998-999: 30 30");
 }
 
 TEST_F(PosiLines, DeleteTakesTheSelectedLines) {
   Numbered(1, 5);
   Select(4, kVel, 2, kPs);
-  frmMain.mnuEdit.Enabled = true;
   frmMain.mnuEditLineDelete.Press();
   EXPECT_EQ(Shown(), "1-2: 1 5");
   EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(2));
-  EXPECT_EQ(frmPosi.flgdData.Col, 1);
+  frmPosi.flgdData.SelectCell(0, 0);
+  cmdInsertLine_Click();
+  cmdDeleteLine_Click();
+  EXPECT_TRUE(BoxShown(Text(388)) && BoxShown(Text(386))) << "a header is no line";
   Select(1, kVel, 2, kVel);
   frmPosi.cmdDeleteLine.Press();
   EXPECT_EQ(AppState.PosiLastNo, 0) << "no table is left";
   cmdDeleteLine_Click();
   EXPECT_TRUE(BoxShown(Text(433)));
-}
-
-TEST_F(PosiLines, AHeaderIsNoLine) {
-  Numbered(1, 3);
-  frmPosi.flgdData.SelectCell(0, 0);
-  EXPECT_FALSE(frmPosi.cmdInsertLine.Enabled);
-  cmdInsertLine_Click();
-  cmdDeleteLine_Click();
-  EXPECT_TRUE(BoxShown(Text(388)));
-  EXPECT_TRUE(BoxShown(Text(386)));
-  EXPECT_EQ(Shown(), "1-3: 1 2 3");
 }
 
 TEST_F(PosiLines, EnterWalksTheShownColumnsAndAddsALineInProgramMode) {
@@ -106,102 +99,63 @@ TEST_F(PosiLines, EnterWalksTheShownColumnsAndAddsALineInProgramMode) {
   grid.SelectCell(RowOfPosition(1), kPosi);
   grid.MoveOn(true);
   EXPECT_EQ(grid.Col, kPosi) << "nothing stands in front of the first cell";
-}
-
-TEST_F(PosiLines, EnterStaysInTheLastCellInPositionMode) {
   ShowTable(1, 2);
-  frmPosi.flgdData.SelectCell(RowOfPosition(2), kComment);
-  frmPosi.flgdData.MoveOn(false);
-  EXPECT_EQ(AppState.PosiLastNo, 2);
-  EXPECT_EQ(frmPosi.flgdData.Col, kComment);
+  grid.SelectCell(RowOfPosition(2), kComment);
+  grid.MoveOn(false);
+  EXPECT_EQ(AppState.PosiLastNo, 2) << "position mode stays in the last cell";
 }
 
-// Copy and paste.
-
-class PosiClipboard : public PosiLines {
- protected:
-  void Paste(const std::string& text) {
-    virt.clipboard.text = text;
-    forms.boxes.clear();
-    forms.beeps = 0;
-    cmdPosiPaste_Click();
-  }
-  std::string Copied() {
-    virt.clipboard.text.clear();
-    forms.boxes.clear();
-    cmdPosiCopy_Click();
-    return virt.clipboard.text;
-  }
-};
-
-TEST_F(PosiClipboard, CopiesWholeLinesAndPartsOfOneColumn) {
+TEST_F(PosiLines, CopiesWholeLinesAndPartsOfOneColumn) {
   Numbered(1, 4);
-  Select(2, kVel, 3, kVel);
-  EXPECT_EQ(Copied(), "2\r3");
+  EXPECT_EQ(Copied(2, kVel, 3, kVel), "2\r3");
   EXPECT_TRUE(frmPosi.CopiedIsColumn);
-  Select(3, 1, 2, kComment);
-  const std::string lines = Copied();
-  EXPECT_TRUE(frmPosi.CopiedIsLine);
-  EXPECT_EQ(lines.substr(0, 6), "2\t100\t");
-  EXPECT_EQ(std::count(lines.begin(), lines.end(), '\t'), 2 * 27);
-  Select(2, kVel, 3, kAcc);
-  EXPECT_EQ(Copied(), "");
+  EXPECT_EQ(Copied(2, kVel, 3, kAcc), "");
   EXPECT_TRUE(BoxShown(Text(335)));
-
-  Select(4, kVel, 4, kVel);
-  Paste(lines);
-  EXPECT_EQ(Shown(), "1-4: 1 2 3 2");
+  const std::string lines = Copied(3, 1, 2, kComment);
+  EXPECT_TRUE(frmPosi.CopiedIsLine);
+  EXPECT_TRUE(lines.starts_with("2\t100\t"));
   Select(1, kVel, 1, kVel);
   Paste(lines);
-  EXPECT_EQ(Shown(), "1-4: 2 3 3 2");
+  EXPECT_EQ(Shown(), "1-4: 2 3 3 4");
 }
 
-TEST_F(PosiClipboard, TakesWhatASpreadsheetGivesAndRefusesWhatIsNone) {
-  struct Case {
-    const char* what;
-    std::string text;
-    std::string vels;
-    int beeps;
-    MsgId box;
-  };
+TEST_F(PosiLines, PastesWhatASpreadsheetGivesAndRefusesWhatIsNone) {
   std::string line;
   for (int col = 1; col < kComment; ++col) {
     const int field = AxisOfColumn(col) < 0 ? 0 : FieldOfColumn(col);
     line += field == kVel ? "9\t" : field == kAcc ? "100\t" : "0\t";
   }
-  const Case cases[] = {
-      {"a column, CR", "7\r8", "7 8 3", 0, {}},
-      {"a column, CR LF and an end", "7\r\n8\r\n", "7 8 3", 0, {}},
-      {"a column, LF", "7\n8\n", "7 8 3", 0, {}},
-      {"one value goes to the selected cell alone", "7", "7 2 3", 0, {}},
-      {"a bad value keeps its line", "7\r999\r8", "7 2 8", 1, {}},
-      {"a foreign word", "fast", "1 2 3", 1, {}},
-      {"more lines than there are", "7\r8\r9\r10", "7 8 9", 0, {}},
-      {"a line", line, "9 2 3", 0, {}},
-      {"lines with an end", line + "\r\n" + line + "\r\n", "9 9 3", 0, {}},
-      {"nothing", "", "1 2 3", 0, 336},
-      {"two columns", "7\t8", "1 2 3", 0, 336},
-      {"ragged", line + "\r7", "1 2 3", 0, 336},
-      {"over-wide", line + "\t1", "1 2 3", 0, 336},
-  };
-  for (const Case& row : cases) {
+  const struct {
+    std::string text;
+    const char* vels;
+    int beeps = 0;
+    MsgId box{};
+  } rows[] = {{"7\r8", "7 8 3"},
+              {"7\r\n8\r\n", "7 8 3"},
+              {"7\n8\n", "7 8 3"},
+              {"7\r999\r8", "7 2 8", 1},
+              {"fast", "1 2 3", 1},
+              {"7\r8\r9\r10", "7 8 9"},
+              {line + "\r\n" + line + "\r\n", "9 9 3"},
+              {"", "1 2 3", 0, 336},
+              {"7\t8", "1 2 3", 0, 336},
+              {line + "\r7", "1 2 3", 0, 336},
+              {line + "\t1", "1 2 3", 0, 336}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.text);
     Numbered(1, 3);
     Select(1, kVel, 1, kVel);
     Paste(row.text);
-    EXPECT_EQ(Shown(), "1-3: " + row.vels) << row.what;
-    EXPECT_EQ(forms.beeps, row.beeps) << row.what;
-    EXPECT_EQ(forms.boxes.size(), row.box ? 1u : 0u) << row.what;
-    if (row.box) {
-      EXPECT_TRUE(BoxShown(Text(row.box))) << row.what;
-    }
-    EXPECT_EQ(bool(frmPosi.PosiChanged), row.vels != "1 2 3") << row.what;
+    EXPECT_EQ(Shown(), std::string("1-3: ") + row.vels);
+    EXPECT_EQ(forms.beeps, row.beeps);
+    EXPECT_EQ(Boxes(), row.box ? Texts{Text(row.box)} : Texts{});
+    EXPECT_EQ(bool(frmPosi.PosiChanged), row.vels != std::string("1 2 3"));
   }
 }
 
-TEST_F(PosiClipboard, HasItsPlaces) {
+TEST_F(PosiLines, APasteHasItsPlaces) {
   Numbered(1, 3);
-  Select(1, 1, 1, kComment);
-  const std::string line = Copied();
+  const std::string line = Copied(1, 1, 1, kComment);
   Select(2, kWay, 2, kWay);
   Paste(line);
   EXPECT_TRUE(BoxShown(Text(393)));
@@ -209,38 +163,35 @@ TEST_F(PosiClipboard, HasItsPlaces) {
   Paste("7");
   EXPECT_TRUE(BoxShown(Text(481)));
   EXPECT_EQ(Shown(), "1-3: 1 2 3");
-
   ShowTable(1, 3, true);
   frmPosi.flgdData.SelectCell(RowOfPosition(2), kAxisTwoPosi);
   Paste(line + "x");
   EXPECT_TRUE(BoxShown(Text(580)));
 }
 
-TEST_F(PosiClipboard, ALineOfProgramModeIsItsPositionsAndComment) {
+TEST_F(PosiLines, ALineOfProgramModeIsItsPositionsAndComment) {
   ShowTable(1, 4, true);
   AppState.AxisMuko[0] = True;
   SizeInit_PosFlexGridAtPrgMode3();
   Type(1, kAxisTwoPosi, "+250");
   Type(1, kComment, "up");
   Put(3, kAxisTwoPosi + 1, "7");  // hidden: no paste reaches it
-  Select(1, kAxisTwoPosi, 1, kComment);
-  const std::string line = Copied();
+  const std::string line = Copied(1, kAxisTwoPosi, 1, kComment);
   EXPECT_TRUE(frmPosi.CopiedIsLine);
-  for (const int col : {1, int{kPosi}, kAxisTwoPosi}) {
+  for (const int col : {1, kAxisTwoPosi}) {
     Select(3, col, 4, col);
     Paste(line);
-    EXPECT_TRUE(forms.boxes.empty()) << col;
     EXPECT_EQ(Cell(4, kAxisTwoPosi) + Cell(4, kComment), "    +250up") << "one line into each";
     EXPECT_EQ(Cell(3, kAxisTwoPosi + 1), "7");
     Put(4, kAxisTwoPosi, "");
   }
 }
 
-TEST_F(PosiClipboard, TheStatusPanelTellsWhatWasNotPasted) {
+TEST_F(PosiLines, TheStatusPanelTellsWhatWasNotPasted) {
   Numbered(1, 3);
   Select(2, kVel, 2, kVel);
   Paste("50\r76\r1");
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError],
+  EXPECT_EQ(Panel(),
             "Cells not pasted: 1, the first at No. 3 VEL1. Input Range : 1 to 75(mm/sec) "
             "Lines beyond the last one not pasted: 1. ");
   Select(1, kComment, 1, kComment);
@@ -248,26 +199,20 @@ TEST_F(PosiClipboard, TheStatusPanelTellsWhatWasNotPasted) {
   EXPECT_EQ(Cell(1, kComment), "") << "a comment is one line of plain characters";
   EXPECT_EQ(Cell(2, kComment), "left, then up") << "a spreadsheet's quotes are not the text's";
   Paste("five\rfour and twenty blackbirds");
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError],
-            "Comments cut to 20 characters: 1, the first at No. 2 COMMENT. ");
+  EXPECT_EQ(Panel(), "Comments cut to 20 characters: 1, the first at No. 2 COMMENT. ");
   Select(3, kAcc, 3, kAcc);
   Paste("44");
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError],
-            "Numbers rounded: 1, the first at No. 3 ACC1. ");
+  EXPECT_EQ(Panel(), "Numbers rounded: 1, the first at No. 3 ACC1. ");
 }
 
-TEST_F(PosiClipboard, APositionOfAnotherUnitIsNotTakenForThisOne) {
+TEST_F(PosiLines, APositionOfAnotherUnitIsNotTakenForThisOne) {
   ShowTable(1, 3);
-  Type(1, kPosi, "50");
-  Select(1, kPosi, 1, kPosi);
-  const std::string pulses = Copied();
+  const std::string pulses = Copied(1, kPosi, 1, kPosi);
   ShowTable(1, 3, false, true);
   Select(1, kPosi, 1, kPosi);
   Paste(pulses);
   EXPECT_TRUE(BoxShown(Text(6362)));
-  EXPECT_EQ(Cell(1, kPosi), "   0.000");
-  Select(1, kPosi, 2, kPosi);
-  EXPECT_EQ(Copied(), "0.000\r0.000") << "without the blanks that align";
+  EXPECT_EQ(Copied(1, kPosi, 2, kPosi), "0.000\r0.000") << "without the blanks that align";
 }
 
 }  // namespace

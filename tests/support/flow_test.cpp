@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/frm_device.h"
+#include "posi/posi_grid_layout.h"
 
 namespace tr7 {
 
@@ -22,6 +23,12 @@ void FillRange(SelectPosiNoView& view, int first, int last) {
   view.txtFromNo.Type(std::to_string(first));
   view.txtToNo.Type(std::to_string(last));
   view.cmdOk.Press();
+}
+
+qvr7sim::Setup InProgramMode() {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.mode = qvr7sim::Mode::kProgram;
+  return setup;
 }
 
 FlowTest::FlowTest(const qvr7sim::Setup& setup) : StateTest(setup) {
@@ -65,17 +72,6 @@ void FlowTest::Forget() {
   asked.clear();
 }
 
-void FlowTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request,
-                     int at_byte) {
-  qvr7sim::Fault fault;
-  fault.kind = kind;
-  fault.prefix = prefix;
-  fault.at_request = at_request;
-  fault.probability = at_request == 0 ? 1 : 0;
-  fault.at_byte = at_byte;
-  port.Ct().AddFault(fault);
-}
-
 void FlowTest::Choose(std::vector<int> choices) { choices_ = std::move(choices); }
 
 void FlowTest::StartOnline() {
@@ -92,6 +88,18 @@ void FlowTest::AnswerRange(const std::string& name, int first, int last) {
   forms.on_modal[name] = [first, last](View& view) {
     FillRange(static_cast<SelectPosiNoView&>(view), first, last);
   };
+}
+
+void FlowTest::CancelRange(const std::string& name) {
+  forms.on_modal[name] = [](View& view) { static_cast<SelectPosiNoView&>(view).cmdCancel.Press(); };
+}
+
+const std::string& FlowTest::Cell(int number, int col) {
+  return frmPosi.flgdData.Text(RowOfPosition(number), col);
+}
+
+void FlowTest::Put(int number, int col, const std::string& text) {
+  frmPosi.flgdData.SetText(RowOfPosition(number), col, text);
 }
 
 void FlowTest::ReadRange(int first, int last) {

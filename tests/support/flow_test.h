@@ -13,6 +13,9 @@
 
 namespace tr7 {
 
+/// A useful controller in program mode.
+qvr7sim::Setup InProgramMode();
+
 /// The user of a flow: starts the tool, chooses, clicks.
 class FlowTest : public StateTest {
  protected:
@@ -29,13 +32,15 @@ class FlowTest : public StateTest {
   void GoOffline();
   /// What was sent, shown and asked so far is forgotten.
   void Forget();
-  /// A fault at the `at_request`-th request that begins with `prefix`; 0: at every one.
-  void Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request = 1,
-             int at_byte = -1);
   /// The next choice boxes are answered in this order: 0, 1, or -1 for cancel.
   void Choose(std::vector<int> choices);
   /// The next range dialogue `name` is answered with this range.
   void AnswerRange(const std::string& name, int first, int last);
+  /// The next range dialogue `name` is cancelled.
+  void CancelRange(const std::string& name);
+  /// What a cell of the position grid shows; another text for it, past the cell's rule.
+  static const std::string& Cell(int number, int col);
+  static void Put(int number, int col, const std::string& text);
   /// Clicks Read, gives the range and confirms.
   void ReadRange(int first, int last);
 

@@ -1,0 +1,294 @@
+#include "posi/posi_transfer.h"
+
+#include <algorithm>
+
+#include "device/dev_setting.h"
+#include "device/limits.h"
+#include "forms/frm_syogo_kekka.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_range.h"
+#include "posi/posi_table.h"
+#include "posi/posi_wire.h"
+#include "posi/unit_change.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+const std::string kBefore =
+    "0RA\r\n0CM01111\r\n0CM1\r\n0RD0\r\n"                        // still, held, state
+    "0CM1\r\n0CM1\r\n0RD0\r\n0RD4\r\n0RD7\r\n0RDA\r\n0RDD\r\n";  // the check
+const std::string kRelease = "0CM00000\r\n";
+
+class ReadTest : public FlowTest {
+ protected:
+  void SetUp() override {
+    StartOnline();
+    ReadRange(3, 5);
+  }
+};
+
+TEST_F(ReadTest, TheRangeArrivesInTheGrid) {
+  port.sent.clear();
+  ReadRange(3, 5);
+  EXPECT_TRUE(port.sent.starts_with("0CM1\r\n0RD0\r\n0RD3\r\n")) << "devices are compared first";
+  EXPECT_TRUE(port.sent.ends_with("0RDD\r\n0RP003\r\n0RP004\r\n0RP005\r\n"));
+  EXPECT_EQ(LoadedPosiRange(), (PosiRange{3, 5}));
+  qvr7sim::PositionRecord record;
+  ASSERT_TRUE(qvr7sim::DecodePosition(port.Ct().CommittedPosition(4), &record));
+  EXPECT_EQ(Cell(4, kVel), std::to_string(record.axis[0].vel));
+  EXPECT_EQ(Cell(4, kAcc), std::to_string(record.axis[0].acc * 10));
+  EXPECT_EQ(PosiTable.PosiPulse[1][4], record.axis[1].pulses);
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
+  EXPECT_FALSE(frmPosi.PosiChanged);
+}
+
+TEST_F(ReadTest, CancelKeepsTheTable) {
+  for (const bool silent : {false, true}) {
+    pump.After(1'400'000, [this, silent] { port.Ct().SetSilent(silent); });
+    pump.After(1'500'000, [this] {
+      frmMain.cmdComCancel.Press();
+      pump.After(200'000, [] { EXPECT_FALSE(AppState.ComBusy); });
+    });
+    Forget();
+    ReadRange(1, 999);
+    pump.RunFor(300'000);
+    EXPECT_EQ(Boxes(), (Texts{Text(370), Text(425)}));
+    ExpectOnline();
+  }
+  EXPECT_EQ(LoadedPosiRange(), (PosiRange{3, 5}));
+  EXPECT_EQ(OperationRange(), (PosiRange{3, 5})) << "the next one means what is there";
+}
+
+TEST_F(ReadTest, AnAxisThatCannotConvertKeepsTheTable) {
+  DevSetting[1].Lead = 0;
+  Forget();
+  Choose({1});
+  ReadRange(1, 2);
+  EXPECT_EQ(forms.LastBox(), Text(6356, "2"));
+  EXPECT_EQ(port.sent.find("0RP"), std::string::npos);
+  EXPECT_EQ(AppState.PosiFirstNo, 3);
+}
+
+TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
+  auto& comments = PosiTable.PosiRec[kComment];
+  comments[4] = std::string("mine");
+  comments[5] = std::string("last");
+  comments[6] = std::string("of an earlier table");
+  PosiTable.PosiStage[kComment][3] = std::string("of a file to compare with");
+  ReadRange(2, 9);
+  EXPECT_EQ(Cell(3, kComment) + Cell(4, kComment) + Cell(5, kComment), "minelast");
+  EXPECT_EQ(Cell(6, kComment), "");
+  // Beside another position a comment stays only if the user wants it to.
+  for (const bool stays : {true, false}) {
+    PosiTable.PosiRec[kPosi][4] = 1.0;
+    AnswerRange("frmSelectPosiNo2", 2, 9);
+    forms.answers = {MsgAnswer::Ok, stays ? MsgAnswer::Yes : MsgAnswer::No};
+    frmPosi.cmdPosiRead.Press();
+    EXPECT_EQ(forms.LastBox(), Text(6464, "1"));
+    EXPECT_EQ(Cell(4, kComment), stays ? "mine" : "");
+  }
+}
+
+TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
+  port.Ct().ClearRequests();
+  Spoil(FaultKind::kDoubled, "0RP", 3);  // the doubled line is taken for the next reply
+  ReadRange(1, 9);
+  EXPECT_TRUE(port.sent.ends_with("0RP004\r\n")) << "seen where it happens";
+  EXPECT_EQ(AppState.PosiLastNo, 5) << "the old table stays";
+  EXPECT_TRUE(BoxShown(Text(385)));
+}
+
+class WriteTest : public ReadTest {
+ protected:
+  void SetUp() override {
+    ReadTest::SetUp();
+    ReadAndEdit(5);
+  }
+  /// Reads positions 1 to `last` and changes the speed of axis 1 in all of them.
+  void ReadAndEdit(int last) {
+    frmPosi.PosiChanged = False;
+    ReadRange(1, last);
+    for (int n = 1; n <= last; ++n) Put(n, kVel, "47");
+    frmPosi.PosiChanged = True;
+    Forget();
+    forms.on_modal["frmSyogoKekka"] = [](View& view) { view.Visible = false; };
+  }
+  void Write(int first, int last) {
+    AnswerRange("frmSelectPosiNo3", first, last);
+    forms.answers = {MsgAnswer::Ok};
+    frmPosi.cmdPosiWrite.Press();
+  }
+  /// What the record of a position looks like on the line.
+  std::string Sent(int number) const {
+    return "0WP00" + std::to_string(number) + port.Ct().WrittenPosition(number) + "\r\n";
+  }
+  /// Writes position 3 with this text in the "Posi" cell of axis 1, the PC's limits wider than the
+  /// controller's strokes, as when a device difference was disregarded; true when it went out.
+  bool Goes(const std::string& text, bool mm) {
+    AppState.DispMmUnit = mm;
+    ReadAndEdit(5);
+    AppState.MaxPulse[0] = 400'000;
+    AppState.MaxMm[0] = 2000;
+    forms.on_modal["frmSyogoKekka"] = [this](View& view) {
+      note = frmSyogoKekka.flgdKekka.CellToolTip(2, kPosi);
+      view.Visible = false;
+    };
+    Put(3, kPosi, text);
+    Write(2, 4);
+    EXPECT_TRUE(port.sent.ends_with(kRelease)) << "no axis stays held";
+    return port.sent.find("0WP") != std::string::npos;
+  }
+  /// The speed of axis 1 that the controller would have after a loss of power.
+  int StoredVel(int number) const {
+    qvr7sim::PositionRecord record;
+    EXPECT_TRUE(qvr7sim::DecodePosition(port.Ct().CommittedPosition(number), &record));
+    return record.axis[0].vel;
+  }
+  std::string note;  ///< at the cell that does not go
+};
+
+TEST_F(WriteTest, TheRangeGoesOutAndIsStored) {
+  const int untouched = StoredVel(1);
+  Write(2, 4);
+  EXPECT_EQ(port.sent, kBefore + Sent(2) + Sent(3) + Sent(4) + "0WA002004\r\n" + kRelease);
+  EXPECT_EQ(StoredVel(1), untouched);
+  for (int n = 2; n <= 4; ++n) EXPECT_EQ(StoredVel(n), 47);
+  EXPECT_EQ(Boxes(), (Texts{Text(375), Text(376)}));
+  EXPECT_TRUE(frmPosi.PosiChanged) << "written is not saved";
+  EXPECT_EQ(OperationRange(), (PosiRange{1, 5})) << "the next operation means the whole table";
+  EXPECT_EQ(forms.focus, &frmPosi.flgdData);
+}
+
+TEST_F(WriteTest, NothingIsSentBeforeTheUserHasAgreed) {
+  CancelRange("frmSelectPosiNo3");
+  frmPosi.cmdPosiWrite.Press();
+  AnswerRange("frmSelectPosiNo3", 2, 4);
+  forms.answers = {MsgAnswer::Cancel};
+  frmPosi.cmdPosiWrite.Press();
+  Put(5, kPf, "19");
+  frmMain.mnuContPosiWrite.Press();
+  EXPECT_EQ(forms.modals.back(), "frmSyogoKekka") << "also what lies outside a range is checked";
+  EXPECT_EQ(port.sent, "");
+}
+
+TEST_F(WriteTest, AxesThatThePcDoesNotUseAreAskedAbout) {
+  AppState.AxisMuko[3] = True;
+  AnswerRange("frmSelectPosiNo3", 2, 4);
+  for (const MsgAnswer answer : {MsgAnswer::Cancel, MsgAnswer::Ok}) {
+    forms.answers = {MsgAnswer::Ok, answer};
+    frmPosi.cmdPosiWrite.Press();
+    EXPECT_EQ(forms.boxes[1].Text, Text(6364, "AXIS4", "2-4"));
+    EXPECT_EQ(port.sent.empty(), answer == MsgAnswer::Cancel);
+  }
+  EXPECT_EQ(forms.LastBox(), Text(376));
+}
+
+TEST_F(WriteTest, AMovingControllerTakesNothing) {
+  // Somebody else has sent the machine home.
+  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
+  port.Ct().Receive("0MP000F\r\n", pump.NowUs());
+  pump.RunFor(100'000);
+  port.ReadAll();
+  Write(2, 4);
+  EXPECT_EQ(port.sent, "0RA\r\n");
+  EXPECT_EQ(forms.LastBox(), Text(424));
+}
+
+TEST_F(WriteTest, ATableThatIsBadOnceOnlineGoesNowhere) {
+  AppState.DispMmUnit = False;
+  ShowInNewUnit();
+  GoOffline();
+  DevSetting[0].Stroke = 200;  // the PC allows more than the controller's axis has
+  RecalcLimits();
+  Put(2, kPosi, "30000");
+  Choose({0});
+  Write(1, 5);
+  EXPECT_EQ(forms.modals.back(), "frmSyogoKekka");
+  EXPECT_EQ(port.sent.find("0WP"), std::string::npos);
+  ExpectOnline();
+}
+
+TEST_F(WriteTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
+  GoOffline();
+  DevSetting[0].Lead = 7;
+  Choose({0});
+  const int before = StoredVel(1);
+  Write(2, 3);
+  EXPECT_EQ(asked.back(), Text(371));
+  EXPECT_NE(port.sent.find("0WA002003\r\n"), std::string::npos) << port.sent;
+  EXPECT_EQ(StoredVel(3), 47);
+  EXPECT_EQ(StoredVel(1), before) << "the user did not send it";
+}
+
+TEST_F(WriteTest, AFailedStepTellsItsOwnMessage) {
+  constexpr int kHeld = 6363;
+  const struct {
+    const char* what;
+    FaultKind kind;
+    const char* prefix;
+    int at_request, at_byte;
+    std::vector<MsgId> boxes;  ///< messages that the boxes begin with, behind the question
+  } rows[] = {{"hold refused", FaultKind::kErrorReply, "0CM01111", 1, -1, {104, 377}},
+              {"hold unheard", FaultKind::kDeaf, "0CM01111", 0, -1, {100, 377, kHeld}},
+              {"line unheard", FaultKind::kDeaf, "0WP003", 0, -1, {100, 384, kHeld}},
+              {"echo differs", FaultKind::kChangedByte, "0WP", 2, 5, {384}},
+              {"release refused", FaultKind::kErrorReply, "0CM00000", 1, -1, {104, 377, 376}}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    port.Ct().ClearRequests();
+    Spoil(row.kind, row.prefix, row.at_request, row.at_byte);
+    Forget();
+    Write(2, 4);
+    ASSERT_EQ(forms.boxes.size(), row.boxes.size() + 1) << forms.LastBox();
+    for (std::size_t i = 0; i < row.boxes.size(); ++i) {
+      EXPECT_TRUE(forms.boxes[i + 1].Text.starts_with(Text(row.boxes[i]))) << i;
+    }
+    EXPECT_EQ(StoredVel(3) == 47, forms.LastBox() == Text(376)) << "stored is what is told";
+    const bool held = BoxShown(Text(kHeld));
+    port.Ct().ClearFaults();
+    Forget();
+    frmMain.cmdReset.Press();
+    EXPECT_EQ(port.sent.starts_with("0AR\r\n0CM1\r\n" + kRelease), held) << port.sent;
+  }
+}
+
+TEST_F(WriteTest, ACancelledWriteStoresWhatHasGone) {
+  ReadAndEdit(99);
+  pump.After(2'500'000, [] { frmMain.cmdComCancel.Press(); });
+  Write(10, 99);
+  EXPECT_NE(port.sent.find("0WA00A063\r\n" + kRelease), std::string::npos) << "the whole range";
+  const auto last = static_cast<int>(std::count(port.sent.begin(), port.sent.end(), 'P')) + 9;
+  ASSERT_GT(last, 10);
+  ASSERT_LT(last, 99);
+  EXPECT_EQ(StoredVel(last), 47);
+  EXPECT_NE(StoredVel(last + 1), 47);
+  EXPECT_EQ(forms.LastBox(), Text(6456, std::to_string(last + 1)));
+  ExpectOnline();
+}
+
+TEST_F(WriteTest, APositionAtTheStrokeGoesAndOnePulseMoreDoesNot) {
+  EXPECT_TRUE(Goes("20000", false));
+  EXPECT_FALSE(Goes("20001", false));
+  EXPECT_EQ(note, "Stroke of the controller: 20000");
+  EXPECT_FALSE(Goes("400000", false)) << "more than the line can hold";
+  EXPECT_TRUE(Goes(" 100.000", true));
+  EXPECT_FALSE(Goes(" 100.005", true)) << "20,001 pulses";
+  EXPECT_EQ(note, "Stroke of the controller: 100.000");
+}
+
+TEST_F(ReadTest, AWayAndItsPulsesShareTwentyBitsOfTheLine) {
+  const auto record = [](double way, double pulses) {
+    PosiTable.PosiRec[kWay][5] = way;
+    PosiTable.PosiRec[kPosi][5] = pulses;
+    return EncodePosiRecord(5).substr(11, 5);
+  };
+  EXPECT_EQ(record(1, 10000), "42710");
+  EXPECT_EQ(record(3, 262143), "FFFFF");
+  EXPECT_EQ(record(3, 262144), "X0000") << "one more is no field: the controller refuses the line";
+}
+
+}  // namespace
+}  // namespace tr7
