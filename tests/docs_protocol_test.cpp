@@ -30,7 +30,7 @@ std::string PlaceLine(int row) {
   const auto add = [](std::string& list, std::set<std::string>& seen, const std::string& item) {
     if (seen.insert(item).second) list += (list.empty() ? "" : ", ") + item;
   };
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const ParaPlace place = PlaceOfPara(row, axis);
     add(blocks, seen_blocks, std::string(1, ParaBlockChar(place.Block)));
     add(positions, seen_positions, std::to_string(place.At));

@@ -120,7 +120,7 @@ std::string TextsOf(const ParaTableRecord& table) {
 
 Fields MachineOfPc() {
   Fields fields(3);
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const DevSettingRecord& device = DevSetting[axis];
     fields[0] += AppState.AxisMuko[axis] ? "-" : "x";
     fields[1] += device.Size + device.Speed + std::to_string(device.Stroke) + " " +

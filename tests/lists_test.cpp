@@ -33,7 +33,7 @@ class Lists : public StateTest {
   }
   /// The device on all four axes, in the form that settings and dialogues hold.
   static void Choose(const DeviceRecord& row, bool new_type) {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       DevSettingRecord& device = DevSettei[axis];
       device.Size = new_type ? row.Size : " " + row.Size;
       device.Speed = row.Speed;

@@ -51,7 +51,7 @@ TEST_F(DeviceListTest, TheNewListGivesRowsAndSizes) {
           "4\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n\" 28H-100\",6,400,0,2\r\n"
           "\"28 L-100\",8,400,0,0\r\nsurplus,items\r\n");
   ASSERT_EQ(ReadDeviceListNew(), 0);
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const DeviceListRecord& list = DeviceList[axis];
     EXPECT_FALSE(DevListMissing[axis]);
     EXPECT_EQ(list.Rows[0].Raw, "4");
@@ -228,7 +228,7 @@ TEST_F(DeviceListTest, LeadsComeFromTheList) {
   AppState.StrokePulse = {4000, 4000, 4000, 4000};
   SetLeadFromOldList();
   EXPECT_TRUE(Boxes().empty());
-  for (std::size_t axis = 0; axis < 3; ++axis) {
+  for (int axis = 0; axis < 3; ++axis) {
     EXPECT_EQ(DevSetting[axis].Lead, 6);
     EXPECT_EQ(DevSetting[axis].MmPerPulse, 0.015);
     EXPECT_EQ(AppState.StrokeMm[axis], 60);

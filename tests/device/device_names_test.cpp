@@ -53,7 +53,7 @@ TEST_F(DeviceStoreTest, AnEmptyStoreGivesTheDefaultDevice) {
     PutList(in_list ? "1\r\n\" 28L-100\",3,500,1,1\r\n" : "0\r\n");
     DevSetting.fill(DevSettingRecord{});
     EXPECT_EQ(LoadDevSetting(), 0);
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       const DevSettingRecord& device = DevSetting[axis];
       EXPECT_EQ(device.Size, " 28");
       EXPECT_EQ(device.Speed, "L");
@@ -131,7 +131,7 @@ TEST_F(DeviceStoreTest, WithoutAListTheStoredLeadsServe) {
 }
 
 TEST_F(DeviceStoreTest, WhatIsSavedComesBack) {
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     DevSettingRecord& device = DevSetting[axis];
     device.Size = " 35";
     device.Speed = "H";
@@ -207,8 +207,8 @@ TEST_F(DeviceStoreTest, EachOfTheSixFieldsIsCompared) {
               {[](DevSettingRecord& d) { d.Lead = 7; }, 0}};
   for (const auto& row : rows) {
     for (const bool in_file : {true, false}) {
-      for (std::size_t axis = 0; axis < kAxes; ++axis) SetDevice(DevSetting[axis], 100);
-      for (std::size_t axis = 0; axis < kAxes; ++axis) SetDevice(DevSettei[axis], 100);
+      for (int axis = 0; axis < kAxes; ++axis) SetDevice(DevSetting[axis], 100);
+      for (int axis = 0; axis < kAxes; ++axis) SetDevice(DevSettei[axis], 100);
       row.change(DevSettei[3]);
       AppState.AxisMukoOfFile[3] = !in_file;
       EXPECT_EQ(CompareActuatorSettingOfPosifile2PC(), in_file ? row.result : 0);
@@ -263,7 +263,7 @@ TEST_F(DeviceStoreTest, NamesOfEveryForm) {
     DevSettei[0].NewTypeWord = row.word;
     DevSettei[0].Vertical = True;
     FileDevice[0] = row.name;
-    for (std::size_t axis = 1; axis < kAxes; ++axis) AppState.AxisMukoOfFile[axis] = True;
+    for (int axis = 1; axis < kAxes; ++axis) AppState.AxisMukoOfFile[axis] = True;
     EXPECT_EQ(ParseDeviceNames(), row.good ? 0 : 1);
     EXPECT_EQ(forms.boxes.size(), row.good ? 0u : 1u);
     EXPECT_EQ(forms.LastBox(), row.good ? "" : Text(4) + "\n" + Text(5));

@@ -23,7 +23,7 @@ class DeviceTexts : public StateTest {
     Set(2, " 42", "H", 600, 8, 400);
     Set(3, " 50", "L", 100, 12, 400);
   }
-  static void Set(std::size_t axis, const char* size, const char* speed, std::int16_t stroke,
+  static void Set(int axis, const char* size, const char* speed, std::int16_t stroke,
                   std::int16_t lead, std::int32_t ppr) {
     DevSettingRecord& device = DevSetting[axis];
     device.Size = size;
@@ -34,8 +34,8 @@ class DeviceTexts : public StateTest {
     device.SeriesOk = True;
     device.NewType = axis != 1;
   }
-  static std::string Caption(std::size_t axis) { return frmPosi.lblDeviceType[axis]->Caption; }
-  static std::string Age(std::size_t axis) { return frmPosi.lblAge[axis]->Caption; }
+  static std::string Caption(int axis) { return frmPosi.lblDeviceType[axis]->Caption; }
+  static std::string Age(int axis) { return frmPosi.lblAge[axis]->Caption; }
   static std::string Panels() {
     const auto& panels = frmMain.sbStatusBar.Panels;
     return panels[kPanelScale1] + "|" + panels[kPanelScale2];
@@ -50,7 +50,7 @@ TEST_F(DeviceTexts, EveryAxisHasItsRows) {
   for (std::size_t row = 0; row < frmPosi.DeviceRows.size(); ++row) {
     EXPECT_EQ(frmPosi.DeviceRows[row], rows[row / 6]) << row;
   }
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     EXPECT_EQ("AXIS" + std::to_string(axis + 1) + ":" + Caption(axis), rows[axis]);
     EXPECT_EQ(Age(axis), axis == 1 ? "(Old)" : "(New)");
   }
@@ -65,7 +65,7 @@ TEST_F(DeviceTexts, AxesWithoutADevice) {
   EXPECT_EQ(frmPosi.DeviceRows[6], "AXIS2:**********");
   EXPECT_EQ(Caption(1) + Age(1), "");
   // An unknown series ends the pass: what stood there before must not stand for a device.
-  for (std::size_t axis : {2u, 3u}) {
+  for (int axis : {2u, 3u}) {
     EXPECT_EQ(frmPosi.DeviceRows[axis * 6], "");
     EXPECT_EQ(Caption(axis) + Age(axis), "");
   }
@@ -120,7 +120,7 @@ TEST_F(DeviceTexts, ScaleOfOddGears) {
 TEST_F(FlowTest, GoingOnlineShowsTheControllersDevices) {
   StartOnline();
   const char* captions[] = {"QV- 28L-100_", "QV- 35H-200_", "QV- 42H-300_", "QV- 50L-150_"};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     EXPECT_EQ(frmPosi.lblDeviceType[axis]->Caption, captions[axis]);
     EXPECT_EQ(frmPosi.lblAge[axis]->Caption, "(New)");
   }

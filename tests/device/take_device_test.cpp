@@ -43,7 +43,7 @@ TEST_F(TakeDevice, TheDeviceTextIsCutByItsLength) {
 void FillParameters() {
   ParamSet.OneAxis = 7;
   const char* texts[] = {" 28L100", " 42H200", "E35L050", ""};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     ParamSet.Actuator[axis] = texts[axis];
     CutActuator(ParamSet, axis);
     ParamSet.AxisLead[axis] = static_cast<std::int16_t>(2 + 2 * axis);

@@ -26,7 +26,7 @@ qvr7sim::Setup TwinOfPc() {
   qvr7sim::Setup setup = qvr7sim::Setup::Useful();
   setup.mask = 0;
   setup.mode = AppState.CtMode ? qvr7sim::Mode::kProgram : qvr7sim::Mode::kPosition;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const DevSettingRecord& device = DevSetting[axis];
     if (AppState.AxisMuko[axis] || device.Stroke < 1 || device.Speed.empty()) continue;
     setup.mask |= 1u << axis;
@@ -50,7 +50,7 @@ void OtherMode(qvr7sim::Setup& setup, std::uint64_t) {
 
 /// One field of the device on the first axis in use.
 void OtherDevice(qvr7sim::Setup& setup, std::uint64_t n) {
-  std::size_t axis = 0;
+  int axis = 0;
   while ((setup.mask & (1u << axis)) == 0) ++axis;
   qvr7sim::Device& device = setup.devices[axis];
   const std::function<void()> changes[] = {

@@ -28,7 +28,7 @@ void CheckConnect(Voyage& voyage, const MachineState& before, const MachineState
       "a mode of nobody's");
   voyage.Require(of_either([&](const MachineState& m) { return SameAxes(m, now); }),
                  "axes of nobody's");
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     if (!now.in_use[axis] || !before.in_use[axis]) continue;
     voyage.Require(
         of_either([&](const MachineState& m) { return m.devices[axis] == now.devices[axis]; }),

@@ -17,7 +17,7 @@ int Field(const std::string& block, std::size_t at, std::size_t width) {
 MachineState MachineOfPc() {
   MachineState machine;
   machine.program_mode = AppState.CtMode;
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const DevSettingRecord& device = DevSetting[axis];
     machine.in_use[axis] = !AppState.AxisMuko[axis];
     if (!machine.in_use[axis]) continue;
@@ -35,7 +35,7 @@ MachineState MachineOfCt(const qvr7sim::Controller& controller) {
   const int mask = Field(common, 2, 2);
   machine.program_mode = Field(common, 18, 2) == 1;
   for (int axis = 0; axis < kAxes; ++axis) {
-    const auto index = static_cast<std::size_t>(axis);
+    const auto index = axis;
     machine.in_use[index] = (mask & (1 << axis)) != 0;
     if (!machine.in_use[index]) continue;
     const std::string& device = controller.WrittenBlock(4 + 3 * axis);
@@ -81,11 +81,11 @@ TableState TableNow(int file_calls) {
     for (int col = 0; col < kPosiColumns; ++col) table.texts.push_back(grid.Text(row, col));
   }
   for (int n = table.first; n <= table.last && n > 0; ++n) {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       if (AppState.AxisMuko[axis]) continue;
       const auto slot = static_cast<std::size_t>(n);
       // In program mode a line that does not move an axis shows no position, and keeps none.
-      const std::size_t way = AxisBase(static_cast<int>(axis)) + kWay;
+      const std::size_t way = AxisBase(axis) + kWay;
       const bool moves = !AppState.CtMode || ValueOf(PosiTable.PosiRec[way][slot]) != 0;
       table.pulses.push_back(moves ? PosiTable.PosiPulse[axis][slot] : 0);
     }

@@ -27,7 +27,7 @@ void CheckReadData(Voyage& voyage) {
   for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
     qvr7sim::PositionRecord record;
     if (!qvr7sim::DecodePosition(voyage.virt.port.Ct().WrittenPosition(n), &record)) continue;
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       const auto slot = static_cast<std::size_t>(n);
       if (PosiTable.PosiPulse[axis][slot] == record.axis[axis].pulses) continue;
       return voyage.Fail("a position read is not the controller's");

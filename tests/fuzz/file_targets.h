@@ -194,7 +194,7 @@ inline void CheckPosiRoundTrip(const MemoryFiles& files) {
   if (range.IsEmpty() || range.Count() > kFewLines) return;
   SetLoadedPosiRange(range);
   SetOperationRange(range);
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     frmPosi.lblDeviceType[axis]->Caption = FileDevice[axis];
   }
   PosiStageCommit();

@@ -39,7 +39,7 @@ class ChangeDeviceTest : public FlowTest {
   }
   static void Cancel() { frmDevice2.cmdDeviceCancel.Press(); }
   static void Back() { frmDevice2.cmdDeviceBack.Press(); }
-  static std::string Device(std::size_t axis) {
+  static std::string Device(int axis) {
     const DevSettingRecord& device = DevSetting[axis];
     return device.Size + device.Speed + std::to_string(device.Stroke);
   }

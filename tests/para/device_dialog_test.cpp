@@ -24,7 +24,7 @@ constexpr const char* kOldList = "qvdevice.lst";
 class DeviceDialogTest : public StateTest {
  protected:
   DeviceDialogTest() {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) SetDevice(DevSetting[axis], " 28", "L", 100);
+    for (int axis = 0; axis < kAxes; ++axis) SetDevice(DevSetting[axis], " 28", "L", 100);
     AppState.AxisCount = kAxes;
   }
   void Remove(const char* name) { virt.files.Remove(ProgramFile(name)); }
@@ -37,10 +37,10 @@ class DeviceDialogTest : public StateTest {
     };
     return AskDevices(view);
   }
-  static void PickSize(std::size_t axis, const char* text) {
+  static void PickSize(int axis, const char* text) {
     Pick(frmDevice2.comboDeviceSize[axis], text);
   }
-  static std::string Shown(const DeviceView& view, std::size_t axis) {
+  static std::string Shown(const DeviceView& view, int axis) {
     return view.comboDeviceSize[axis].Text() + view.comboDeviceSpeed[axis].Text() + "-" +
            view.comboDeviceStroke[axis].Text();
   }
@@ -56,7 +56,7 @@ TEST_F(DeviceDialogTest, OpensWithTheDevicesInUse) {
     EXPECT_EQ(Shown(frmDevice2, 0), " 28L-100");
     EXPECT_EQ(Shown(frmDevice2, 1), "E35L-150");
     EXPECT_EQ(frmDevice2.comboDeviceStroke[1].ItemData, (std::vector<int>{0, 1, 2, 3}));
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       EXPECT_EQ(frmDevice2.chkAxisEnable[axis].Value, axis < 3);
       EXPECT_EQ(frmDevice2.framAxis[axis].Enabled, axis < 3);
       EXPECT_FALSE(frmDevice2.chkNewOrOld[axis].Value);
@@ -154,7 +154,7 @@ TEST_F(DeviceDialogTest, WithoutOptionsNoneIsShown) {
   Ask(frmDevice2, [] {
     frmDevice2.chkNewOrOld[0].Set(true);
     PickSize(1, " 50");
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       EXPECT_FALSE(frmDevice2.chkDevPgUse[axis].Visible);
       EXPECT_FALSE(frmDevice2.chkDevPgUse[axis].Enabled);
       EXPECT_FALSE(frmDevice2.chkDevVsiyou[axis].Visible);
@@ -179,7 +179,7 @@ TEST_F(DeviceDialogTest, TicksAndTheNumberOfAxesKeepStep) {
       row.click(frmDevice2);
       EXPECT_EQ(frmDevice2.comboAxisSelect.ListIndex + 1, row.axes);
       EXPECT_EQ(forms.beeps, row.beeps);
-      for (std::size_t axis = 0; axis < kAxes; ++axis) {
+      for (int axis = 0; axis < kAxes; ++axis) {
         const bool live = axis < static_cast<std::size_t>(row.axes);
         EXPECT_EQ(frmDevice2.chkAxisEnable[axis].Value, live);
         EXPECT_EQ(frmDevice2.framAxis[axis].Enabled, live);
@@ -252,7 +252,7 @@ TEST_F(DeviceDialogTest, AMissingListIsToldOfOnceAndFailsAtTheParameters) {
   Remove(kNewList);
   forms.on_modal["frmDevice2"] = [this](View&) {
     EXPECT_EQ(Boxes(), (Texts{Text(15) + "\n" + Text(16)}));
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       EXPECT_TRUE(DevListMissing[axis]);
       EXPECT_TRUE(frmDevice2.comboDeviceSize[axis].List.empty());
       EXPECT_TRUE(frmDevice2.comboDeviceStroke[axis].List.empty());
@@ -281,7 +281,7 @@ TEST_F(DeviceDialogTest, OkTakesEveryFieldAsNewAndVertical) {
   EXPECT_EQ(DevSettei[1].Size + DevSettei[1].Speed, " 42L");
   EXPECT_EQ(DevSettei[1].Stroke, 100);
   EXPECT_EQ(DevSettei[3].Size, "old");
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     EXPECT_EQ(DevSettei[axis].Series, "QV");
     EXPECT_EQ(DevSettei[axis].WithPG, axis == 1);
     if (axis == 3) continue;
@@ -353,7 +353,7 @@ TEST_F(DeviceDialogTest, OtherAxesAreAskedAbout) {
     EXPECT_EQ(AppState.AxisCount, row.count);
     EXPECT_EQ(ParaFlags.AxisMask, row.mask);
     EXPECT_EQ(DevSettei[0].Size, " 50") << "taken whatever the answer";
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       EXPECT_TRUE(row.after[axis] || !DevSettei[axis].Size.empty()) << axis;
     }
     forms.boxes.clear();

@@ -59,7 +59,7 @@ struct PcState {
 
   static AxisArray<std::string> Devices() {
     AxisArray<std::string> names;
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       for (const DevSettingRecord* device : {&DevSetting[axis], &DevSettei[axis]}) {
         names[axis] += device->Size + device->Speed + std::to_string(device->Stroke) + " " +
                        std::to_string(device->Ppr) + (device->WithPG ? "E" : "_");

@@ -12,11 +12,11 @@ namespace {
 ParamSetRecord GoodSet() {
   ParamSetRecord set;
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
       SetParaValue(set, row, axis, 1);
     }
   }
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     set.AxisLead[axis] = 8;
     set.AxisPulse[axis] = 400;
     set.PgAlarm[axis] = set.Zone1[axis] = set.Zone2[axis] = 100;
@@ -31,7 +31,7 @@ class ParaCheck : public StateTest {
  protected:
   ParaCheck() { ParamSet = GoodSet(); }
   /// Checks the good set with this one value changed.
-  static int CheckWith(int row, std::size_t axis, double value) {
+  static int CheckWith(int row, int axis, double value) {
     ParamSet = GoodSet();
     EXPECT_TRUE(SetParaValue(ParamSet, row, axis, value)) << row;
     return ParametaValueCheck();
@@ -61,7 +61,7 @@ TEST_F(ParaCheck, BothEndsOfEveryRange) {
   EXPECT_EQ(std::size(rows), kParaRows - 2u);  // all but the device text and AXIS
   EXPECT_EQ(ParametaValueCheck(), 0);
   for (const auto& row : rows) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row.row) ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (IsAxisRow(row.row) ? kAxes : 1); ++axis) {
       const std::string where = "row " + std::to_string(row.row) + " axis " + std::to_string(axis);
       EXPECT_EQ(CheckWith(row.row, axis, row.low), 0) << where;
       EXPECT_EQ(CheckWith(row.row, axis, row.low - 1), 1) << where;

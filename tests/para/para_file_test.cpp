@@ -57,13 +57,13 @@ const std::string kLines =
 /// Every item tells its axis and its row.
 void FillParamSet() {
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = kAxes; axis-- > 0;) {
+    for (int axis = kAxes; axis-- > 0;) {
       SetParaValue(ParamSet, row, axis, 100.0 * static_cast<double>(axis + 1) + row);
     }
   }
   // A controller row has one slot, which the first axis was the last to fill.
   ParamSet.Actuator = {" 28L100", "E35H200", "42L050", ""};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) CutActuator(ParamSet, axis);
+  for (int axis = 0; axis < kAxes; ++axis) CutActuator(ParamSet, axis);
 }
 
 std::string With(std::string text, const std::string& part, const std::string& other) {

@@ -96,7 +96,7 @@ TEST_F(ParaShow, PulsesFinerThanAMicrometreKeepTheirCount) {
 TEST_F(ParaShow, WithoutLeadAndPulseThereIsNoMm) {
   ParamSet.AxisLead[0] = ParamSet.AxisPulse[1] = 0;
   ParametaHyoji();
-  for (std::size_t axis : {0u, 1u}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, "");
+  for (int axis : {0u, 1u}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, "");
   f.txtAxisMmStroke[1].Text = "55";
   TorikomiParametaValue();
   EXPECT_EQ(ParamSet.AxisStroke[0], 20000);
@@ -151,7 +151,7 @@ TEST_F(ParaShow, AxesNotInUseAreEmptyOffAndLeftAlone) {
   AppState.AxisMuko[1] = AppState.AxisMuko[3] = True;
   const ParamSetRecord before = ParamSet;
   ParametaHyoji();
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     const bool live = axis % 2 == 0;
     for (const ParaTextField& field : ParaTextFields()) {
       if (!IsAxisRow(field.Row)) continue;
@@ -268,7 +268,7 @@ TEST_F(ParaShow, ADeviceThatTheListLacksIsKept) {
   ParamSet.Actuator[0] = " 99Z123";
   ParamSet.Actuator[1] = "28L100";  // cut to size " 28"
   ParamSet.Actuator[2] = "";
-  for (std::size_t axis = 0; axis < 3; ++axis) CutActuator(ParamSet, axis);
+  for (int axis = 0; axis < 3; ++axis) CutActuator(ParamSet, axis);
   ParametaHyoji();
   EXPECT_EQ(f.comboActSize[0].Text() + f.comboActSpeed[0].Text() + f.comboActStroke[0].Text(),
             " 99Z123");

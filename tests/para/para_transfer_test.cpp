@@ -39,7 +39,7 @@ class BlocksTest : public LinkTest {
 TEST(ParaBlocks, EveryRowHasAPlaceOfItsOwn) {
   std::set<std::pair<int, std::size_t>> taken;
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+    for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
       const ParaPlace place = PlaceOfPara(row, axis);
       EXPECT_GE(place.At, kParaDataAt);
       EXPECT_LE(place.At + place.Width, kParaDataAt + kParaBlockLength) << ParaRowName(row);
@@ -53,7 +53,7 @@ TEST(ParaBlocks, EveryRowHasAPlaceOfItsOwn) {
 TEST(ParaBlocks, KnownFieldsStandWhereTheControllerHasThem) {
   const struct {
     int row;
-    std::size_t axis;
+    int axis;
     ParaPlace place;
   } rows[] = {{kRowOneAxis, 0, {0, 7, 2}},
               {33, 0, {0, 23, 2}},
@@ -91,7 +91,7 @@ TEST_F(BlocksTest, EveryRowHoldsBothEndsOfItsRange) {
     const auto [low, high] = RangeOf(wide, row);
     ASSERT_LT(low, high);
     for (const double value : {low, high}) {
-      for (std::size_t axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
+      for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
         ParamSetRecord before = wide;
         SetParaValue(before, row, axis, value);
         ParaBlocks blocks;

@@ -54,7 +54,7 @@ class StdListsTest : public StateTest {
 };
 
 /// The values of one axis over rows of the parameter set.
-std::vector<double> Values(std::size_t axis, int first, int last) {
+std::vector<double> Values(int axis, int first, int last) {
   std::vector<double> values;
   for (int row = first; row <= last; ++row) values.push_back(ParaValue(ParamSet, row, axis));
   return values;
@@ -76,7 +76,7 @@ TEST_F(StdListsTest, EveryRowFindsItsParameter) {
   EXPECT_EQ(Values(0, 14, 15), (Numbers{0, 10}));
   EXPECT_EQ(Values(1, 14, 15), (Numbers{5, 15}));  // with PG: column 2
   EXPECT_EQ(Values(1, 16, 19), (Numbers{20, 30, 40, 50}));
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     EXPECT_EQ(Values(axis, 20, 24), (Numbers{60, 70, 80, 90, 100}));
     EXPECT_EQ(Values(axis, 28, 30), (Numbers{140, 150, 160}));
   }
@@ -156,7 +156,7 @@ TEST_F(StdListsTest, TheAxisMask) {
 
 TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
   for (int row = 1; row <= kParaRows; ++row) {
-    for (std::size_t axis = 0; axis < kAxes; ++axis) SetParaValue(ParamSet, row, axis, 7);
+    for (int axis = 0; axis < kAxes; ++axis) SetParaValue(ParamSet, row, axis, 7);
   }
   DevSettei[0].WithPG = True;
   ASSERT_EQ(IniParaFromStdForWrite(), 0);
@@ -168,7 +168,7 @@ TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
   EXPECT_EQ(Values(0, 16, 29), Numbers(14, 7));
   EXPECT_EQ(Values(0, 31, 34), Numbers(4, 7));
   // From the row of AUTO START PRG No., not from its own (160).
-  for (std::size_t axis = 0; axis < kAxes; ++axis) EXPECT_EQ(ParamSet.SoftLimit[axis], 110);
+  for (int axis = 0; axis < kAxes; ++axis) EXPECT_EQ(ParamSet.SoftLimit[axis], 110);
 }
 
 TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
@@ -284,7 +284,7 @@ TEST_F(StdListsTest, DamagedCommonListsSayWhatIsWrong) {
 TEST_F(StdListsTest, RangesOfTheDirectWrite) {
   const auto fill = [] {
     ParamSet = ParamSetRecord{};
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       for (int row = 1; row <= kParaRows; ++row) SetParaValue(ParamSet, row, axis, 1);
       ParamSet.Actuator[axis] = " 28L100";
       CutActuator(ParamSet, axis);
@@ -306,7 +306,7 @@ TEST_F(StdListsTest, RangesOfTheDirectWrite) {
   fill();
   ASSERT_EQ(CheckParaFromStd(), 0);
   for (const auto& row : rows) {
-    const std::size_t axis = IsAxisRow(row.row) ? 3 : 0;
+    const int axis = IsAxisRow(row.row) ? 3 : 0;
     AppState.AxisMuko[3] = False;
     fill();
     SetParaValue(ParamSet, row.row, axis, row.value);

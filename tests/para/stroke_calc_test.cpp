@@ -14,7 +14,7 @@ class StrokeCalc : public StateTest {
  protected:
   StrokeCalc() {
     ShowView(frmParameta2);
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       p.txtAxisLead[axis].Type("2");
       p.txtAxisPulse[axis].Type("400");
     }
@@ -83,7 +83,7 @@ TEST_F(StrokeCalc, AValueOutOfItsRangeIsNamedAndGoneTo) {
 TEST_F(StrokeCalc, TheResultGoesIntoTheChosenAxisAndTheFocusOn) {
   const Control* next[] = {&p.txtAxisStroke[1], &p.txtAxisLead[2], &p.txtAxisStroke[3],
                            &p.txtAxisLead[0]};
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     forms.focus = nullptr;
     Open([&] {
       Calculate("100", "2");

@@ -55,7 +55,7 @@ std::string Everything() {
                            int{AppState.AxisCount}, MaskOfMuko(AppState.AxisMuko)}) {
     all += std::to_string(number) + " ";
   }
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
+  for (int axis = 0; axis < kAxes; ++axis) {
     all += DeviceOf(DevSetting[axis]) + DeviceOf(DevSettei[axis]) +
            std::to_string(AppState.StrokePulse[axis]) + frmPosi.lblDeviceType[axis]->Caption +
            frmPosi.lblAge[axis]->Caption;
@@ -73,7 +73,7 @@ class OpenTest : public FlowTest {
   /// Online, with a table of positions 3 to 5 that the user has changed.
   void SetUp() override {
     StartOnline();
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       own.devices[axis] = frmPosi.lblDeviceType[axis]->Caption;
     }
     own.mode = AppState.CtMode ? "PRG MODE" : "POS MODE";

@@ -24,7 +24,7 @@ TEST_F(GridTest, DevicesStandOverTheirAxesWhereverTheGridIsScrolledTo) {
   for (const int scrolled : {0, 337, 500, 1000}) {
     Settle();
     table->horizontalScrollBar()->setValue(scrolled);
-    for (std::size_t axis = 0; axis < frmPosi.lblDeviceType.size(); ++axis) {
+    for (int axis = 0; axis < frmPosi.lblDeviceType.size(); ++axis) {
       const QWidget& label = *desktop.forms.WidgetOf(*frmPosi.lblDeviceType[axis]);
       const int left = label.mapTo(table->window(), QPoint()).x();
       const auto x_of = [this](int col) {
@@ -32,7 +32,7 @@ TEST_F(GridTest, DevicesStandOverTheirAxesWhereverTheGridIsScrolledTo) {
             ->mapTo(table->window(), table->CellRect(kFirst, col).topLeft())
             .x();
       };
-      const int first = x_of(AxisBase(static_cast<int>(axis)) + kVel);
+      const int first = x_of(AxisBase(axis) + kVel);
       const bool whole = first >= 0 && first + 180 < 800;
       if (whole) {
         EXPECT_TRUE(label.isVisible() && left - first >= 0 && left - first < 20)
