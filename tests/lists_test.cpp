@@ -55,9 +55,6 @@ TEST_F(Lists, EveryDeviceHasGoodStandardValues) {
       EXPECT_EQ(CheckDeviceFormat(device.Size, device.Speed, device.Stroke), 0);
       for (const bool pg : {true, false}) {
         for (DevSettingRecord& pending : DevSettei) pending.WithPG = pg;
-        ParamSet = ParamSetRecord{};
-        ASSERT_EQ(IniParaFromStdForWrite(), 0);
-        EXPECT_EQ(CheckParaFromStd(), 1);  // the controller's own rows are not set yet
         ASSERT_EQ(IniParaFromStd(), 0);
         EXPECT_EQ(ParametaValueCheck(), 0);
         EXPECT_EQ(ParamSet.PgFunction[0], pg ? 1 : 0);
@@ -77,14 +74,7 @@ TEST_F(Lists, EveryDeviceHasGoodStandardValues) {
       EXPECT_LE(row.Lead * 25 * std::ceil(400.0 / ppr), 32767);
     }
     EXPECT_EQ(StdTable[0].size(), seen.size());
-  }
-}
-
-TEST_F(Lists, TheRowsTellTheOrdersOfHomingApart) {
-  for (const bool new_type : {true, false}) {
-    for (DevSettingRecord& device : DevSettei) device.NewType = new_type;
-    ASSERT_EQ(ReadStdLists(), 0);
-    std::set<double> orders;
+    std::set<double> orders;  // of homing
     for (const StdRow& row : StdTable[0]) orders.insert(row.Values[6]);
     EXPECT_EQ(orders, (std::set<double>{1, 2, 3, 4}));
   }
@@ -93,15 +83,12 @@ TEST_F(Lists, TheRowsTellTheOrdersOfHomingApart) {
 TEST_F(Lists, TheCatalogueShowsEveryKind) {
   std::set<int> pg, vertical, strokes, pprs;
   int never_vertical = 0;
-  std::set<std::string> sizes, speeds;
   for (const DeviceRecord& row : Catalogue(true)) {
     pg.insert(row.PgKind);
     vertical.insert(row.VKind);
-    if (row.VKind == 0) ++never_vertical;
+    never_vertical += row.VKind == 0;
     strokes.insert(row.Stroke);
     pprs.insert(row.Ppr);
-    sizes.insert(row.Size);
-    speeds.insert(row.Speed);
     // The controller reports two digits of size, or "E" for the one size with a letter.
     EXPECT_TRUE(row.Size[0] == ' ' || row.Size + row.Speed == "E35L") << row.Raw;
     EXPECT_NE(row.Speed, "E");
@@ -118,8 +105,6 @@ TEST_F(Lists, TheCatalogueShowsEveryKind) {
   EXPECT_EQ(*strokes.begin(), 10);
   EXPECT_EQ(*strokes.rbegin(), 600);
   EXPECT_EQ(pprs, (std::set<int>{192, 400}));
-  EXPECT_TRUE(sizes.contains("E35"));
-  EXPECT_GE(speeds.size(), 3u);
 }
 
 TEST_F(Lists, ADeviceOfBothCataloguesIsOneDevice) {
@@ -164,11 +149,10 @@ TEST_F(Lists, CommandsStandAtTheirCodes) {
   EXPECT_TRUE(reader.AtEnd());
   ASSERT_EQ(count, 58);
   EXPECT_EQ(std::set<std::string>(names.begin(), names.end()).size(), 58u);
-  for (const std::string& name : names) EXPECT_TRUE(!name.empty() && name.size() <= 6) << name;
 
   const struct {
     std::size_t code;
-    std::vector<std::string> names;
+    Texts names;
   } runs[] = {{2, {"MVP", "MVA", "MVI"}},
               {6, {"PMOV"}},
               {8, {"VEL", "ACC", "TIM", "LB", "JUMP", "CALL", "SR", "SRET", "WTON", "WTOF"}},
@@ -180,8 +164,6 @@ TEST_F(Lists, CommandsStandAtTheirCodes) {
   for (const auto& run : runs) {
     for (std::size_t i = 0; i < run.names.size(); ++i) EXPECT_EQ(names[run.code + i], run.names[i]);
   }
-  const std::set<std::string> moves = {names[1], names[5], names[39]};
-  EXPECT_EQ(moves, (std::set<std::string>{"HOME", "PGR", "MVD"}));
 }
 
 }  // namespace
