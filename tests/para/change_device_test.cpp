@@ -135,8 +135,6 @@ TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
                      ChooseTwoAxes();
                    }}),
             0);
-  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(3));
-  EXPECT_EQ(ParamSet.OneAxis, 3);
   EXPECT_EQ(frmPosi.lblDeviceType[2]->Caption, "");
   ASSERT_EQ(WriteParaFile("/two.pmt"), 0);
   ASSERT_EQ(Change({0}, {[] {

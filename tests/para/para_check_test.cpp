@@ -3,6 +3,7 @@
 #include <string>
 
 #include "para/param_set.h"
+#include "para/std_lists.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -111,14 +112,36 @@ TEST_F(ParaCheck, Actuators) {
 }
 
 TEST_F(ParaCheck, AxesNotInUseDoNotCount) {
-  AppState.AxisMuko[3] = True;
-  EXPECT_EQ(CheckWith(1, 3, 0), 0);
-  EXPECT_EQ(CheckWith(1, 2, 0), 1);
-  ParaFlags.ShownAxisCount = 2;  // as the parameter view has been set
-  EXPECT_EQ(CheckWith(1, 2, 0), 0);
-  EXPECT_EQ(CheckWith(1, 1, 0), 1);
-  ParaFlags.ShownAxisCount = 4;
-  EXPECT_EQ(CheckWith(1, 3, 0), 1);
+  const struct {
+    std::int16_t shown;  ///< as the parameter view has been set; 0: not
+    std::size_t axis;
+    int result;
+  } rows[] = {{0, 3, 0}, {0, 2, 1}, {2, 2, 0}, {2, 1, 1}, {4, 3, 1}};
+  AppState.AxisMuko = MukoOfMask(7);
+  for (const auto& row : rows) {
+    ParaFlags.ShownAxisCount = row.shown;
+    EXPECT_EQ(CheckWith(1, row.axis, 0), row.result) << row.shown << " " << row.axis;
+  }
+}
+
+TEST_F(ParaCheck, TheDirectWriteLooksAtFewerRows) {
+  // What it treats otherwise than the view, and one of each that both treat alike.
+  const struct {
+    int row;
+    double value;
+    int result;
+  } rows[] = {{1, 0, 1},  {3, 201, 1}, {6, 5, 0},    {7, 262144, 1}, {11, 9, 0},  {12, 4, 0},
+              {12, 5, 1}, {12, -1, 1}, {14, 3, 1},   {15, 4, 1},     {16, 16, 1}, {17, 2, 1},
+              {18, 2, 1}, {19, 0, 1},  {20, 3, 1},   {21, 4, 1},     {22, 4, 1},  {23, 999, 0},
+              {26, 5, 0}, {27, 9, 0},  {28, 999, 0}, {30, 9, 0},     {34, 9, 0}};
+  for (const auto& row : rows) {
+    const std::size_t axis = IsAxisRow(row.row) ? 3 : 0;
+    CheckWith(row.row, axis, row.value);
+    AppState.AxisMuko[3] = False;
+    EXPECT_EQ(CheckParaFromStd(), row.result) << row.row << " " << row.value;
+    AppState.AxisMuko[3] = True;
+    EXPECT_EQ(CheckParaFromStd(), axis == 3 ? 0 : row.result) << row.row << " of an absent axis";
+  }
 }
 
 }  // namespace

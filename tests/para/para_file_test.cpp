@@ -1,9 +1,20 @@
 #include "para/para_file.h"
 
+#include <functional>
+#include <optional>
 #include <set>
+#include <string>
 
+#include "device/dev_setting.h"
+#include "device/device_list.h"
+#include "forms/frm_parameta2.h"
+#include "para/para_actuator.h"
+#include "para/para_axis_show.h"
+#include "para/para_content.h"
 #include "para/para_file_flow.h"
+#include "para/para_show.h"
 #include "para/param_set.h"
+#include "para/std_lists.h"
 #include "state/text.h"
 #include "tests/support/state_test.h"
 
@@ -64,32 +75,25 @@ class ParaFile : public StateTest {
   }
 };
 
-TEST_F(ParaFile, TheWriterMakesTheseLines) {
+TEST_F(ParaFile, WhatIsSavedComesBack) {
   FillParamSet();
   AppState.AxisMuko[3] = True;  // an absent axis is written all the same
   ASSERT_EQ(WriteParaFile(kPath), 0);
   EXPECT_EQ(Saved(), kLines);
   EXPECT_FALSE(ParaFlags.ParaFileWriteFailed);
-}
-
-TEST_F(ParaFile, WhatWasSavedComesBack) {
-  FillParamSet();
   ParamSet.HomeOffset = {-0.5, 1e15, 0.001, 262143};
   ParamSet.PgAlarm[1] = -32768;
   ParamSet.AxisPulse[2] = -2147483647;
   ParamSet.Actuator[3] = "\"ｱ,軸";
   CutActuator(ParamSet, 3);
   ASSERT_EQ(WriteParaFile(kPath), 0);
-  const std::string bytes = Saved();
+  EXPECT_NE(Saved().find("\r\n-0.5,1000000000000000,0.001,262143\r\n"), std::string::npos);
   const ParamSetRecord set = ParamSet;
   ParamSet = ParamSetRecord{};
   ASSERT_EQ(ReadParaTable(kPath), 0) << ParaFlags.FileFaultText;
   EXPECT_EQ(Slot(0), kPath);
   ASSERT_EQ(TakeParamTable(), 0);
   EXPECT_EQ(ParamSet, set);
-  ASSERT_EQ(WriteParaFile(kPath), 0);
-  EXPECT_EQ(Saved(), bytes);
-  EXPECT_NE(bytes.find("\r\n-0.5,1000000000000000,0.001,262143\r\n"), std::string::npos) << bytes;
 }
 
 TEST_F(ParaFile, TheHeadersSayWhatIsRead) {
@@ -149,19 +153,13 @@ TEST_F(ParaFile, ADamagedFileSaysWhere) {
 }
 
 TEST_F(ParaFile, AFileOfAnotherKindIsTold) {
-  const struct {
-    const char* bytes;
-    std::string reason;  ///< behind the box's own words
-  } rows[] = {
-      {"\"QV-R8\",\"PRM\",5", ""},
-      {"\"QV-R7\"\r\n\"QV- 28L-100\",\"\"", "\n\nThe file \"job.pmt\" is a position data file."}};
-  for (const auto& row : rows) {
-    forms.boxes.clear();
-    EXPECT_EQ(Read(row.bytes), 1);
+  for (const bool positions : {false, true}) {
+    EXPECT_EQ(Read(positions ? "\"QV-R7\"\r\n\"QV- 28L-100\",\"\"" : "\"QV-R8\",\"PRM\",5"), 1);
     EXPECT_TRUE(ParaFlags.ParaFileBad);
     EXPECT_EQ(ParaFlags.FileFaultText, "");
-    ASSERT_EQ(forms.boxes.size(), 1u) << row.bytes;
-    EXPECT_EQ(forms.LastBox(), Text(22) + "\n" + Text(20) + row.reason);
+    const std::string reason =
+        positions ? "\n\n" + std::string("The file \"job.pmt\" is a position data file.") : "";
+    EXPECT_EQ(Boxes(), Texts{Text(22) + "\n" + Text(20) + reason});
     EXPECT_EQ(Slot(0), "") << "no file was read";
   }
 }
@@ -211,6 +209,134 @@ TEST_F(ParaFile, ForDevicesFourAttemptsAreMade) {
   EXPECT_FALSE(ParaFlags.ParaFileBad);
   EXPECT_EQ(Boxes(), Texts{});
   EXPECT_EQ(ParamSet.PputWrite, 134);
+}
+
+// The parameter view, saved and opened.
+
+/// The parameter view over a set from the standard lists.
+class ParaFileFlow : public ParaFile {
+ protected:
+  ParaFileFlow() {
+    for (DevSettingRecord& device : DevSettei) SetDevice(device, " 28", "L", 100);
+    EXPECT_EQ(ReadDeviceListNew(), 0);
+    EXPECT_EQ(IniParaFromStd(), 0);
+    FillParaLists();
+    InstallActuatorLists();
+    ParametaHyoji();
+    MarkParaSaved();
+  }
+  int Save(const std::optional<std::string>& answer = kPath) {
+    forms.boxes.clear();
+    forms.file_answers = {answer};
+    return SaveParaToFile();
+  }
+  void Open(const std::optional<std::string>& answer = kPath) {
+    forms.boxes.clear();
+    forms.file_answers = {answer};
+    OpenParaFile();
+  }
+  FrmParameta2& f = frmParameta2;
+};
+
+TEST_F(ParaFileFlow, SavedOpenedAndSavedAgainIsTheSame) {
+  f.txtHomeOffset[2].Text = "1234";
+  f.txtAxisMmStroke[1].Text = "99.5";
+  EXPECT_TRUE(ParaIsChanged());
+  ASSERT_EQ(Save(), 0);
+  EXPECT_FALSE(ParaIsChanged());
+  EXPECT_EQ(Boxes(), Texts{Text(14)});
+  EXPECT_TRUE(forms.file_dialogs.at(0).Save && forms.file_dialogs[0].OverwritePrompt);
+  EXPECT_EQ(forms.file_dialogs[0].ProposedName, "qvtr7prm1.pmt");
+
+  const std::string bytes = Saved();
+  const ParamSetRecord set = ParamSet;
+  ParamSet = ParamSetRecord{};
+  ParametaHyoji();
+  Open();
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(f.txtHomeOffset[2].Text, "1234");
+  EXPECT_EQ(f.txtAxisMmStroke[1].Text, " 99.500");
+  EXPECT_FALSE(ParaIsChanged());
+  EXPECT_FALSE(forms.file_dialogs.back().Save);
+  ASSERT_EQ(Save(), 0);
+  EXPECT_EQ(Saved(), bytes);
+  EXPECT_EQ(ParamSet, set);
+}
+
+TEST_F(ParaFileFlow, OnlyAWholeAndGoodViewIsSaved) {
+  f.lblAxis[3].Caption = "AXIS4";
+  f.lblHomePush.Caption = "PUSH";
+  f.txtHomePush[3].Text.clear();
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8) + "\n\nAXIS4 PUSH"});
+  const struct {
+    std::function<void()> change;
+    const Control* field;  ///< the first in the order of the Tab key that is empty
+  } rows[] = {{[] {}, &f.txtHomePush[3]},
+              {[&] { f.comboActSize[0].ListIndex = -1; }, &f.txtHomePush[3]},
+              {[&] { f.txtHomeOffset[3].Text.clear(); }, &f.txtHomeOffset[3]},
+              {[&] {
+                 f.comboActSize[0].ListIndex = 0;
+                 f.txtHomeOffset[3].Text = f.txtHomePush[3].Text = "1";
+                 f.txtZoneSet1[1].Text.clear();
+               },
+               &f.txtMmZone1[1]}};  // which the pulses follow
+  for (const auto& row : rows) {
+    row.change();
+    EXPECT_EQ(Save(), 1);
+    EXPECT_EQ(forms.focus, row.field);
+  }
+  f.txtZoneSet1[1].Text = "100";
+  f.txtHomePush[3].Text = "256";
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(9) + "\n" + Text(10)});
+  EXPECT_TRUE(forms.file_dialogs.empty());
+  f.txtHomePush[3].Text = "255";
+  for (const auto& answer : {std::optional<std::string>(), std::optional<std::string>("")}) {
+    EXPECT_EQ(Save(answer), 1);
+    EXPECT_EQ(Boxes(), Texts{});
+  }
+  EXPECT_TRUE(ParaIsChanged());
+}
+
+TEST_F(ParaFileFlow, AFailedSaveIsTold) {
+  virt.files.Put(kPath, "old");
+  f.txtHomePush[3].Text = "255";
+  virt.files.FailAt(2, FileFault::DiskFull);
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(13) + "\n\n" + Text(5912, "job.pmt")});
+  EXPECT_TRUE(ParaFlags.ParaFileWriteFailed && ParaIsChanged());
+  EXPECT_EQ(Saved(), "old");
+}
+
+TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
+  ASSERT_EQ(Save(), 0);
+  const std::string good = Saved(), failed = Text(681) + "\n\n";
+  f.txtHomeOffset[0].Text = "77";
+  const ParamSetRecord before = ParamSet;
+  virt.files.Put(kPath, With(good, "\"HOME\",6,4\r\n400,", "\"HOME\",6,4\r\n1e,"));
+  Open();
+  EXPECT_EQ(Boxes(), Texts{failed + Text(6151, "OFFSET")});
+  EXPECT_TRUE(ParaFlags.ParaFileBad);
+  Open("/data/none.pmt");
+  EXPECT_EQ(Boxes(), Texts{failed + Text(5910, "none.pmt")});
+  Open(std::nullopt);
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(ParamSet, before);
+  EXPECT_EQ(f.txtHomeOffset[0].Text, "77");
+  EXPECT_TRUE(ParaIsChanged());
+  virt.files.Put(kPath, good);
+  Open();
+  EXPECT_FALSE(ParaFlags.ParaFileBad);
+  EXPECT_EQ(f.txtHomeOffset[0].Text, "400");
+}
+
+TEST_F(ParaFileFlow, AnAbsentAxisIsSavedAsItIsKept) {
+  AppState.AxisMuko[3] = True;
+  ParamSet.HomeOffset[3] = 4321;
+  ParametaHyoji();
+  ASSERT_EQ(Save(), 0) << forms.LastBox();
+  EXPECT_NE(Saved().find(",4321\r\n"), std::string::npos);
 }
 
 }  // namespace

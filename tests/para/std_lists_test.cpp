@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "device/dev_setting.h"
-#include "para/para_check.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
 #include "state/text.h"
@@ -113,17 +112,15 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
 TEST_F(StdListsTest, TypeFollowsTheDevice) {
   const struct {
     bool new_type, vertical;
-    int type, offset;
-  } rows[] = {
-      {true, false, 0, 101}, {true, true, 0, 101}, {false, false, 1, 901}, {false, true, 2, 901}};
+    int type, offset;  ///< an offset of the list of that type
+  } rows[] = {{true, true, 0, 101}, {false, false, 1, 901}, {false, true, 2, 901}};
   for (const auto& row : rows) {
     for (auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
-      ParamSet = ParamSetRecord{};
       DevSettei[0].NewType = row.new_type;
       DevSettei[0].Vertical = row.vertical;
       EXPECT_EQ(ini(), 0);
       EXPECT_EQ(ParamSet.AxisType[0], row.type);
-      EXPECT_EQ(ParamSet.HomeOffset[0], row.offset);  // of the list of that type
+      EXPECT_EQ(ParamSet.HomeOffset[0], row.offset);
       EXPECT_EQ(ParamSet.AxisType[1], 0);
     }
   }
@@ -248,41 +245,6 @@ TEST_F(StdListsTest, DamagedCommonListsSayWhatIsWrong) {
     if (bad) boxes.push_back(Text(36) + file.reason);
     EXPECT_EQ(Boxes(), boxes);
   }
-}
-
-TEST_F(StdListsTest, RangesOfTheDirectWrite) {
-  const auto fill = [] {
-    ParamSet = ParamSetRecord{};
-    for (std::size_t axis = 0; axis < kAxes; ++axis) {
-      for (int row = 1; row <= kParaRows; ++row) SetParaValue(ParamSet, row, axis, 1);
-      ParamSet.Actuator[axis] = " 28L100";
-      CutActuator(ParamSet, axis);
-      ParamSet.PgAlarm[axis] = ParamSet.Zone1[axis] = ParamSet.Zone2[axis] = 5;
-    }
-  };
-  // Those that the ranges of the view treat otherwise, and one that both check alike.
-  const struct {
-    int row;
-    double value;
-    int result;
-  } rows[] = {{1, 0, 1},  {3, 51, 1},  {6, 5, 0},    {7, 262144, 1}, {11, 9, 0}, {12, 4, 0},
-              {12, 5, 1}, {12, -1, 1}, {14, 3, 1},   {16, 16, 1},    {19, 0, 1}, {20, 3, 1},
-              {21, 4, 1}, {22, 4, 1},  {23, 999, 0}, {26, 5, 0},     {27, 9, 0}, {28, 999, 0},
-              {30, 9, 0}, {34, 9, 0},  {17, 2, 1},   {18, 2, 1},     {15, 4, 1}};
-  fill();
-  ASSERT_EQ(CheckParaFromStd(), 0);
-  for (const auto& row : rows) {
-    const std::size_t axis = IsAxisRow(row.row) ? 3 : 0;
-    AppState.AxisMuko[3] = False;
-    fill();
-    SetParaValue(ParamSet, row.row, axis, row.value);
-    EXPECT_EQ(CheckParaFromStd(), row.result) << row.row << " " << row.value;
-    AppState.AxisMuko[3] = True;
-    EXPECT_EQ(CheckParaFromStd(), axis == 3 ? 0 : row.result) << row.row << " of an absent axis";
-  }
-  fill();
-  ParamSet.Actuator[0].clear();
-  EXPECT_EQ(CheckParaFromStd(), 1);
 }
 
 }  // namespace

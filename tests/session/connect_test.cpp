@@ -21,24 +21,6 @@ const std::string kBlock0 = "0CM1 0RD0 ";
 const std::string kDevices = "0RD3 0RD4 0RD6 0RD7 0RD9 0RDA 0RDC 0RDD ";
 const std::string kEqual = kVersion + kBlock0 + kBlock0 + kDevices;
 
-/// What the PC holds and a connect may replace.
-struct PcState {
-  AxisArray<Bool16> muko = AppState.AxisMuko;
-  bool mode = AppState.CtMode;
-  std::string devices = Devices();
-
-  static std::string Devices() {
-    std::string all;
-    for (const DevSettingRecord& device : DevSetting) {
-      all += device.Size + device.Speed + std::to_string(device.Stroke) + " " +
-             std::to_string(device.Lead) + " " + std::to_string(device.Ppr) +
-             (device.WithPG ? "E " : "_ ");
-    }
-    return all;
-  }
-  bool operator==(const PcState& other) const = default;
-};
-
 class ConnectTest : public FlowTest {
  protected:
   ConnectTest() { virt.settings.Set("Settings", "PortOccupy", "0"); }
