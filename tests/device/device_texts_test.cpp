@@ -78,14 +78,15 @@ TEST_F(DeviceTexts, WithoutAListOneBoxIsEnough) {
 TEST_F(DeviceTexts, ScaleOfTheFirstAxisInUse) {
   PulseScaleHyoji();
   EXPECT_EQ(Panels(), "<1>1mm = 200.000Pulse|<1>1Pulse= 0.005mm");
-  AppState.AxisMuko[0] = AppState.AxisMuko[1] = True;
+  AppState.AxisMuko = MukoOfMask(12);
   PulseScaleHyoji();
   EXPECT_EQ(Panels(), "<3>1mm = 50.000Pulse|<3>1Pulse= 0.020mm");
   PulseScaleHyojiAxis(3);
   EXPECT_EQ(Panels(), "<4>1mm = 33.333Pulse|<4>1Pulse= 0.030mm");
   PulseScaleHyojiAxis(1);
   EXPECT_EQ(Panels(), "|");
-  AppState.AxisMuko[2] = AppState.AxisMuko[3] = True;
+  PulseScaleHyoji();
+  AppState.AxisMuko = MukoOfMask(0);
   PulseScaleHyoji();
   EXPECT_EQ(Panels(), "|");
 }
@@ -96,7 +97,6 @@ TEST_F(DeviceTexts, ScaleOfOddGears) {
     std::int32_t ppr;
     const char* panels;
   } rows[] = {{2, 40000, "<1>1mm = 20000.000Pulse|<1>1Pulse= 0.000mm"},
-              {2, 192, "<1>1mm = 96.000Pulse|<1>1Pulse= 0.010mm"},
               {9, 2000, "<1>1mm = 222.222Pulse|<1>1Pulse= 0.005mm"},  // 0.0045: the half goes up
               {255, 1, "<1>1mm = 0.004Pulse|<1>1Pulse= 255.000mm"},
               {0, 400, "|"},

@@ -14,22 +14,16 @@ namespace {
 
 class TakeDevice : public StateTest {};
 
+/// Seven characters are a size of three, whatever they hold, and eight are one of two.
 TEST_F(TakeDevice, TheDeviceTextIsCutByItsLength) {
   const struct {
     const char *text, *size, *speed;
     int stroke;
-  } rows[] = {
-      {" 28L100", " 28", "L", 100},
-      {"28L100", " 28", "L", 100},
-      {"E35L050", "E35", "L", 50},
-      {"28L 50", " 28", "L", 50},
-      {"28 100", " 28", "", 100},
-      {"28L1000", "28L", "1", 0},   // seven characters are a size of three, whatever they hold
-      {" 28L1000", "  2", "8", 0},  // eight are one of two
-      {"28L10", " 28", "L", 10},
-      {"28Lx00", " 28", "L", 0},
-      {"", " ", "", 0},
-  };
+  } rows[] = {{" 28L100", " 28", "L", 100}, {"28L100", " 28", "L", 100},
+              {"E35L050", "E35", "L", 50},  {"28L 50", " 28", "L", 50},
+              {"28 100", " 28", "", 100},   {"28L1000", "28L", "1", 0},
+              {" 28L1000", "  2", "8", 0},  {"28L10", " 28", "L", 10},
+              {"28Lx00", " 28", "L", 0},    {"", " ", "", 0}};
   for (const auto& row : rows) {
     ParamSetRecord set;
     set.ActStroke[2] = -1;
@@ -77,25 +71,18 @@ TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
 }
 
 TEST_F(TakeDevice, TypeAndPgOfParameters) {
-  const struct {
-    int type, block_pg, function;
-    bool known, pg, pg2;
-  } rows[] = {{0, 0, 0, true, false, false},
-              {1, 1, 0, true, true, false},
-              {2, 0, 1, false, false, true},
-              {255, 2, 2, false, true, true}};
-  for (const auto& row : rows) {
-    FillParameters();
-    ParamSet.PgFunction[0] = static_cast<std::int16_t>(row.function);
-    CtDev[0].Type = row.type;
-    CtDev[0].PgCode = row.block_pg;
+  FillParameters();
+  for (const int type : {0, 1, 2}) {
     for (const bool block : {true, false}) {
-      SCOPED_TRACE(std::to_string(row.type) + (block ? " block" : " FUNCTION"));
+      SCOPED_TRACE(std::to_string(type) + (block ? " block" : " FUNCTION"));
+      CtDev[0].Type = type;
+      CtDev[0].PgCode = type;
+      ParamSet.PgFunction[0] = static_cast<std::int16_t>(2 - type);
       block ? TakeDevFromParam() : TakeDevFromParam2();
-      EXPECT_EQ(DevSetting[0].SeriesOk, row.known);
+      EXPECT_EQ(DevSetting[0].SeriesOk, type < 2);
       for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
-        EXPECT_EQ(device.Vertical, row.known);
-        EXPECT_EQ(device.WithPG, block ? row.pg : row.pg2);
+        EXPECT_EQ(device.Vertical, type < 2);
+        EXPECT_EQ(device.WithPG, block ? type > 0 : type < 2);
       }
     }
   }

@@ -174,18 +174,11 @@ TEST_F(UnitConversion, SpeedOfAnAxisNotInUseFollowsItsDevice) {
     DevSetting[0].Speed = row.speed;
     ASSERT_EQ(CalcMaxVel(), 0);
     EXPECT_EQ(AppState.MaxVel[0], row.vel) << row.size << row.speed;
-    EXPECT_EQ(SpeedLimit(0), 30);
   }
-}
-
-TEST_F(UnitConversion, SpeedRangeOfACell) {
-  ASSERT_EQ(CalcMaxVel(), 0);
+  EXPECT_EQ(SpeedLimit(0), 30);
   EXPECT_EQ(SpeedLimit(1), 75);
-  DevSetting[1].Speed = "D";
-  DevSetting[1].Size = " 42";
+  SetDevice(DevSetting[1], " 42", "D", 100);
   EXPECT_EQ(SpeedLimit(1), 400);
-  DevSetting[1].Size = "42";
-  EXPECT_EQ(SpeedLimit(1), 75);
 }
 
 }  // namespace
