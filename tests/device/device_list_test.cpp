@@ -63,12 +63,11 @@ TEST_F(DeviceListTest, TheOldListComparesSizesByValue) {
   EXPECT_EQ(list.Sizes, (Texts{"28", "5"}));
   EXPECT_EQ(list.Speeds, (Texts{"L", "H"}));
   EXPECT_EQ(list.Rows[4].Lead, 8);
-  const struct {
-    const char *size, *speed;
-    int stroke, slot;
-  } rows[] = {{" 28", "L", 100, 1}, {"28", "H", 100, 3},  {"  5", "L", 20, 4},
-              {" 28", "L", 101, 0}, {" 28", "l", 100, 0}, {"E35", "L", 100, 0}};
-  for (const auto& row : rows) EXPECT_EQ(list.Find(row.size, row.speed, row.stroke), row.slot);
+  EXPECT_EQ(list.Find(" 28", "L", 100), 1);
+  EXPECT_EQ(list.Find("28", "H", 100), 3);
+  EXPECT_EQ(list.Find("  5", "L", 20), 4);
+  EXPECT_EQ(list.Find(" 28", "L", 101) + list.Find(" 28", "l", 100) + list.Find("E35", "L", 100),
+            0);
 }
 
 /// A list of devices that differ in one letter, "?" in the pattern.
@@ -134,55 +133,24 @@ TEST_F(DeviceListTest, AMissingListEndsTheReadAtTheFirstAxis) {
 
 TEST_F(DeviceListTest, LookupsReadTheFileAfresh) {
   PutList(kNew, "2\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n");
-  const struct {
-    const char *size, *speed;
-    int stroke, result, lead, ppr, pg, v;
-  } rows[] = {{"E35", "L", 50, 0, 4, 192, 2, 1},
-              {"28", "L", 100, 1, 0, 0, 99, 99},
-              {" 28", "L", 101, 1, 0, 0, 99, 99},
-              {" 28", "H", 100, 1, 0, 0, 99, 99}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.size);
-    DeviceLookup = DeviceLookupRecord{};
-    EXPECT_EQ(FindDeviceNew(row.size, row.speed, row.stroke), row.result);
-    EXPECT_EQ(GetLeadAndPprNew(row.size, row.speed, row.stroke), row.result);
-    EXPECT_EQ(DeviceLookup.Lead, row.lead);
-    EXPECT_EQ(DeviceLookup.Ppr, row.ppr);
-    EXPECT_EQ(GetPgKindNew(row.size, row.speed, row.stroke), row.pg);
-    EXPECT_EQ(GetVKindNew(row.size, row.speed, row.stroke), row.v);
-  }
-  EXPECT_TRUE(Boxes().empty());
-  EXPECT_EQ(DeviceList[0].RowCount, 0);  // the memory copy is not theirs
+  EXPECT_EQ(FindDeviceNew("E35", "L", 50), 0);
+  EXPECT_EQ(GetLeadAndPprNew("E35", "L", 50), 0);
+  EXPECT_EQ(DeviceLookup.Lead, 4);
+  EXPECT_EQ(DeviceLookup.Ppr, 192);
+  EXPECT_EQ(GetPgKindNew("E35", "L", 50), 2);
+  EXPECT_EQ(GetVKindNew("E35", "L", 50), 1);
+  const auto unknown = [](const char* size, const char* speed, int stroke) {
+    return FindDeviceNew(size, speed, stroke) == 1 && GetLeadAndPprNew(size, speed, stroke) == 1 &&
+           GetPgKindNew(size, speed, stroke) == 99 && GetVKindNew(size, speed, stroke) == 99;
+  };
+  EXPECT_TRUE(unknown("28", "L", 100) && unknown(" 28", "L", 101) && unknown(" 28", "H", 100));
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(DeviceList[0].RowCount, 0) << "the memory copy is not theirs";
 
   PutList(kNew, "2\r\n\" 28L-100\",6,400,0,0\r\n");
-  EXPECT_EQ(FindDeviceNew(" 28", "L", 100), 1);
-  EXPECT_EQ(GetPgKindNew(" 28", "L", 100), 99);
-  EXPECT_EQ(GetLeadAndPprNew(" 28", "L", 100), 1);
+  EXPECT_TRUE(unknown(" 28", "L", 100));
   const std::string reason = "\n\n" + Text(6332, "2", kNew), in_short = Text(15) + reason;
-  EXPECT_EQ(Boxes(), (Texts{in_short, in_short, no_list_ + reason}));
-}
-
-TEST_F(DeviceListTest, LeadsComeFromTheList) {
-  ASSERT_EQ(ReadDeviceListOld(), 0);
-  for (DevSettingRecord& device : DevSetting) {
-    SetDevice(device, " 28", "H", 100);
-    device.Ppr = 400;
-  }
-  AppState.AxisMuko[3] = True;
-  AppState.StrokePulse.fill(4000);
-  SetLeadFromOldList();
-  EXPECT_EQ(DevSetting[2].Lead, 6);
-  EXPECT_EQ(DevSetting[2].MmPerPulse, 0.015);
-  EXPECT_EQ(AppState.StrokeMm[2], 60);
-  EXPECT_EQ(DevSetting[3].Lead, 0);
-  // One unknown device: the others have theirs, and the strokes wait.
-  DevSetting[0].Stroke = 123;
-  DevSetting[1].Speed = "L";
-  SetLeadFromOldList();
-  EXPECT_EQ(Boxes(), Texts{Text(17)});
-  EXPECT_EQ(DevSetting[0].Lead, 6);
-  EXPECT_EQ(DevSetting[1].Lead, 2);
-  EXPECT_EQ(AppState.StrokeMm[1], 60);
+  EXPECT_EQ(Boxes(), (Texts{in_short, no_list_ + reason, in_short, in_short}));
 }
 
 }  // namespace

@@ -29,18 +29,14 @@ class DeviceStoreTest : public StateTest {
 // Settings.
 
 TEST_F(DeviceStoreTest, FormatBounds) {
-  const struct {
-    const char *size, *speed;
-    double stroke;
-    int result;
-  } rows[] = {{"E35", "A", 10, 0},  {"型28", "Z", 600, 0}, {" 28", "L", 9, 1},
-              {" 28", "L", 601, 1}, {"28", "L", 100, 1},   {"  28", "L", 100, 1},
-              {" 28", "", 100, 1},  {" 28", "@", 100, 1},  {" 28", "[", 100, 1},
-              {" 28", "LH", 100, 1}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(CheckDeviceFormat(row.size, row.speed, row.stroke), row.result)
-        << row.size << row.speed << row.stroke;
-  }
+  const auto good = [](const char* size, const char* speed, double stroke) {
+    return CheckDeviceFormat(size, speed, stroke) == 0;
+  };
+  EXPECT_TRUE(good("E35", "A", 10) && good("型28", "Z", 600));
+  EXPECT_FALSE(good(" 28", "L", 9) || good(" 28", "L", 601));
+  EXPECT_FALSE(good("28", "L", 100) || good("  28", "L", 100));
+  EXPECT_FALSE(good(" 28", "", 100) || good(" 28", "LH", 100));
+  EXPECT_FALSE(good(" 28", "@", 100) || good(" 28", "[", 100));
 }
 
 TEST_F(DeviceStoreTest, AnEmptyStoreGivesTheDefaultDevice) {
@@ -158,25 +154,21 @@ TEST_F(DeviceStoreTest, DevicesPassBetweenTheTwoRecords) {
 }
 
 TEST_F(DeviceStoreTest, EachOfTheSixFieldsIsCompared) {
-  const struct {
-    void (*change)(DevSettingRecord&);
-    int result;
-  } rows[] = {{[](DevSettingRecord& d) { d.NewType = False; }, 1},
-              {[](DevSettingRecord& d) { d.Size = "35"; }, 1},
-              {[](DevSettingRecord& d) { d.Speed = "H"; }, 1},
-              {[](DevSettingRecord& d) { d.Stroke = 101; }, 1},
-              {[](DevSettingRecord& d) { d.WithPG = True; }, 1},
-              {[](DevSettingRecord& d) { d.Vertical = True; }, 1},
-              {[](DevSettingRecord& d) { d.Lead = 7; }, 0}};
-  for (const auto& row : rows) {
-    for (const bool in_file : {true, false}) {
-      for (DevSettingRecord& device : DevSetting) SetDevice(device, "E35", "L", 100);
-      DevSettei = DevSetting;
-      row.change(DevSettei[3]);
-      AppState.AxisMukoOfFile[3] = !in_file;
-      EXPECT_EQ(CompareActuatorSettingOfPosifile2PC(), in_file ? row.result : 0);
-    }
-  }
+  const auto differs = [](void (*change)(DevSettingRecord&), bool in_file = true) {
+    for (DevSettingRecord& device : DevSetting) SetDevice(device, "E35", "L", 100);
+    DevSettei = DevSetting;
+    change(DevSettei[3]);
+    AppState.AxisMukoOfFile[3] = !in_file;
+    return CompareActuatorSettingOfPosifile2PC() == 1;
+  };
+  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.NewType = False; }));
+  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Size = "35"; }));
+  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Speed = "H"; }));
+  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Stroke = 101; }));
+  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.WithPG = True; }));
+  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Vertical = True; }));
+  EXPECT_FALSE(differs([](DevSettingRecord& d) { d.Lead = 7; }));
+  EXPECT_FALSE(differs([](DevSettingRecord& d) { d.Stroke = 101; }, false));
 }
 
 // Names.
@@ -215,19 +207,16 @@ TEST_F(DeviceStoreTest, NamesOfEveryForm) {
 }
 
 TEST_F(DeviceStoreTest, AVerticalLetterCountsWhereTheDeviceLeavesAChoice) {
-  const struct {
-    const char* name;
-    bool before, after;
-  } rows[] = {{"QV-28L-100V", false, true},  {"QV-28L-100EV", false, true},
-              {"QV-28L-100", false, false},  {"QV-28L-100", true, true},
-              {"QV-E35L-100V", true, false}, {"QV-42H-600", false, true}};
-  for (const auto& row : rows) {
+  const auto parsed = [](const char* name, bool before) {
     AppState.AxisMuko = MukoOfMask(1);
-    DevSettei[0].Vertical = row.before;
-    FileDevice[0] = row.name;
+    DevSettei[0].Vertical = before;
+    FileDevice[0] = name;
     EXPECT_EQ(ParseDeviceNames(), 0);
-    EXPECT_EQ(DevSettei[0].Vertical, row.after) << row.name;
-  }
+    return bool(DevSettei[0].Vertical);
+  };
+  EXPECT_TRUE(parsed("QV-28L-100V", false) && parsed("QV-28L-100EV", false));
+  EXPECT_TRUE(parsed("QV-28L-100", true) && !parsed("QV-28L-100", false)) << "it stays";
+  EXPECT_TRUE(!parsed("QV-E35L-100V", true) && parsed("QV-42H-600", false));
 }
 
 TEST_F(DeviceStoreTest, SeriesAndAxesOfNames) {

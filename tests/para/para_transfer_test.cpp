@@ -221,20 +221,5 @@ TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
   EXPECT_TRUE(AxisSettingSent.Block0Sent.empty());
 }
 
-// Single fields of blocks.
-
-TEST_F(BlocksTest, HomingOrderAndStrokes) {
-  AxisArray<std::int32_t> values{9, 9, 9, 9};
-  ASSERT_EQ(ReadCtBlock1(values), 0);
-  EXPECT_EQ(values, (AxisArray<std::int32_t>{1, 2, 3, 4}));
-  Axes(true, false, true, true);
-  ASSERT_EQ(ReadAxisMaxPulseFromCt(values), 0);
-  EXPECT_EQ(values, (AxisArray<std::int32_t>{20000, 0, 15000, 15000}));
-  EXPECT_EQ(Commands(), "0RD1 0RD4 0RDA 0RDD");
-  PlantBlock(1, "00000000010 0304" + std::string(16, '0'));
-  EXPECT_EQ(ReadCtBlock1(values), 1);
-  EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-}
-
 }  // namespace
 }  // namespace tr7
