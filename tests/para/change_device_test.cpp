@@ -106,20 +106,18 @@ TEST_F(ChangeDeviceTest, WhoeverLeavesKeepsWhatHeHad) {
 TEST_F(ChangeDeviceTest, AParameterFileWhoseDevicesCannotServeIsRefusedWithItsReason) {
   Start();
   const ParamSetRecord good = ParamSet;
-  const struct {
-    std::function<void()> spoil;
-    std::string reason;
-  } rows[] = {{[] { ParamSet.OneAxis = 16; }, Text(6336)},
-              {[] { ParamSet.AxisLead[1] = 0; }, Text(6337, "AXIS2")},
-              {[] { ParamSet.AxisPulse[3] = 0; }, Text(6337, "AXIS4")}};
-  for (const auto& row : rows) {
-    row.spoil();
+  const std::pair<std::function<void()>, std::string> rows[] = {
+      {[] { ParamSet.OneAxis = 16; }, Text(6336)},
+      {[] { ParamSet.AxisLead[1] = 0; }, Text(6337, "AXIS2")},
+      {[] { ParamSet.AxisPulse[3] = 0; }, Text(6337, "AXIS4")}};
+  for (const auto& [spoil, reason] : rows) {
+    spoil();
     ASSERT_EQ(WriteParaFile("/bad.pmt"), 0);
     ParamSet = good;
     Forget();
     forms.file_answers = {"/bad.pmt"};
     EXPECT_EQ(Change({1, -1}), 1);
-    EXPECT_EQ(Boxes(), Texts{Text(681) + "\n\n" + row.reason});
+    EXPECT_EQ(Boxes(), Texts{Text(681) + "\n\n" + reason});
     EXPECT_EQ(ParamSet, good);
     EXPECT_EQ(DevSetting[1].Lead, 2);
     EXPECT_EQ(virt.settings.Get("Settings", "DevLead2", "2"), "2");
@@ -130,25 +128,24 @@ TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
   Start();
   // The file is what the tool saves: two axes, the first with a PG.
   forms.answers = {MsgAnswer::Yes, MsgAnswer::Yes};
-  ASSERT_EQ(Change({0}, {[] {
-                     frmDevice2.chkDevPgUse[0].Set(true);
-                     ChooseTwoAxes();
-                   }}),
-            0);
+  const auto two_axes = [] {
+    frmDevice2.chkDevPgUse[0].Set(true);
+    ChooseTwoAxes();
+  };
+  const auto four_axes = [] {
+    frmDevice2.comboAxisSelect.Pick(3);
+    PickDevice(frmDevice2, 0, " 20");
+    Ok();
+  };
+  ASSERT_EQ(Change({0}, {two_axes}), 0);
   EXPECT_EQ(frmPosi.lblDeviceType[2]->Caption, "");
   ASSERT_EQ(WriteParaFile("/two.pmt"), 0);
-  ASSERT_EQ(Change({0}, {[] {
-                     frmDevice2.comboAxisSelect.Pick(3);
-                     PickDevice(frmDevice2, 0, " 20");
-                     Ok();
-                   }}),
-            0);
+  ASSERT_EQ(Change({0}, {four_axes}), 0);
   ASSERT_EQ(AppState.AxisMuko, MukoOfMask(15));
   forms.file_answers = {"/two.pmt"};
   EXPECT_EQ(Change({1}), 0);
   EXPECT_EQ(Device(DevSetting[0]), " 42H200");
-  EXPECT_TRUE(DevSetting[0].WithPG);
-  EXPECT_FALSE(DevSetting[1].WithPG);
+  EXPECT_TRUE(DevSetting[0].WithPG && !DevSetting[1].WithPG);
   EXPECT_EQ(AppState.AxisMuko, MukoOfMask(3));
   EXPECT_EQ(AppState.MaxPulse[0], 10000);
 }
@@ -162,30 +159,31 @@ TEST_F(ChangeDeviceTest, DevicesWithoutParametersChangeNothing) {
               {"1,13\r\n\" 28L-100\",400,60,10,5,5,1,20000,2,400,15,0,\"\"\r\n",  // names no device
                {0},
                Text(4) + "\n" + Text(5)}};
+  const auto one_axis = [] {
+    frmDevice2.comboAxisSelect.Pick(0);
+    Ok();
+  };
   Start();
+  const PcState before;
   const ParamSetRecord parameters = ParamSet;
   for (const auto& row : rows) {
     PutList(kStdList, std::string("\"QV-R7\",\"QV-STDPRM\"\r\n") + row.list);
     Forget();
     forms.answers = {MsgAnswer::Yes};
-    EXPECT_EQ(Change(row.choices, {[] {
-                       frmDevice2.comboAxisSelect.Pick(0);
-                       Ok();
-                     }}),
-              1);
+    EXPECT_EQ(Change(row.choices, {one_axis}), 1);
     EXPECT_EQ(forms.LastBox(), row.box);
     EXPECT_EQ(asked.size(), row.choices.size()) << "back to the question";
-    EXPECT_EQ(AppState.AxisMuko, MukoOfMask(15));
-    EXPECT_EQ(AppState.AxisCount, 4);
-    EXPECT_EQ(Device(DevSetting[0]) + Device(DevSettei[0]), " 28L100 28L100");
+    EXPECT_TRUE(PcState() == before && ParamSet == parameters && AppState.AxisCount == 4);
     EXPECT_FALSE(DevSetting[0].NotChosen);
-    EXPECT_EQ(ParamSet, parameters);
   }
 }
 
 TEST_F(ChangeDeviceTest, LoadedPositionsFollow) {
+  const auto choose = [] {
+    PickDevice(frmDevice2, 0, " 50", "L", "200");
+    Ok();
+  };
   for (const bool mm : {false, true}) {
-    SCOPED_TRACE(mm ? "mm" : "pulses");
     StartAnew();
     virt.settings.Set("Settings", "DispMmUnit", mm ? "1" : "0");
     StartOnline();
@@ -194,11 +192,7 @@ TEST_F(ChangeDeviceTest, LoadedPositionsFollow) {
     const std::int32_t pulses_before = PosiTable.PosiPulse[0][2];
     Forget();
     if (mm) forms.answers = {MsgAnswer::Ok};
-    EXPECT_EQ(Change({0}, {[] {
-                       PickDevice(frmDevice2, 0, " 50", "L", "200");
-                       Ok();
-                     }}),
-              0);
+    EXPECT_EQ(Change({0}, {choose}), 0);
     EXPECT_EQ(Boxes(), mm ? Texts{Text(408) + "\n" + Text(409)} : Texts{});
     EXPECT_EQ(PosiTable.PosiMm[0][2] == mm_before, mm);
     EXPECT_EQ(PosiTable.PosiPulse[0][2] == pulses_before, !mm);
@@ -237,36 +231,27 @@ TEST_F(IniPrmTest, StandardValuesOfTheChosenDevicesAreShown) {
 }
 
 TEST_F(IniPrmTest, WhatFailsOrIsRefusedLeavesParametersAndAxes) {
-  const struct {
-    const char* what;
-    std::function<void()> visit;
-    std::deque<MsgAnswer> answers;
-    std::string box;
-  } rows[] = {{"cancel", Cancel, {}, ""},
-              {"back", Back, {}, ""},
-              {"the position view's warning",
-               ChooseTwoAxes,
-               {MsgAnswer::Yes, MsgAnswer::Cancel},
-               Text(408) + "\n" + Text(409)},
-              {"no standard row",
-               ChooseTwoAxes,
-               {MsgAnswer::Yes},
-               Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200")}};
+  const auto press = [this](const std::function<void()>& visit, std::deque<MsgAnswer> answers) {
+    Forget();
+    forms.answers = std::move(answers);
+    Press(visit);
+    return forms.LastBox();
+  };
   Open();
   ParamSet.SmTimer = 77;
   const ParamSetRecord before = ParamSet;
   PutList(kStdList, "\"QV-R7\",\"QV-STDPRM\"\r\n0,13\r\n");
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    Forget();
-    AppState.DispMmUnit = row.answers.size() == 2;
-    AppState.PosiFirstNo = AppState.DispMmUnit ? 1 : 0;
-    forms.answers = row.answers;
-    Press(row.visit);
-    EXPECT_EQ(forms.LastBox(), row.box);
-    EXPECT_EQ(ParamSet, before);
-    EXPECT_EQ(AppState.AxisMuko, MukoOfMask(15));
-  }
+  EXPECT_EQ(press(Cancel, {}) + press(Back, {}), "");
+  EXPECT_EQ(press(ChooseTwoAxes, {MsgAnswer::Yes}),
+            Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200"));
+  EXPECT_EQ(ParamSet, before);
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(15));
+  AppState.DispMmUnit = True;
+  AppState.PosiFirstNo = 1;
+  EXPECT_EQ(press(ChooseTwoAxes, {MsgAnswer::Yes, MsgAnswer::Cancel}),
+            Text(408) + "\n" + Text(409));
+  EXPECT_EQ(ParamSet, before);
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(15));
 }
 
 }  // namespace

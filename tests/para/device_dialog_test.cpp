@@ -55,17 +55,15 @@ TEST_F(DeviceDialogTest, OpensWithTheDevicesInUse) {
 }
 
 TEST_F(DeviceDialogTest, AStrokeThatIsNotListedFallsToTheFirst) {
-  const struct {
-    const char *size, *speed;
-    std::int16_t stroke;
-    const char* shown;
-  } rows[] = {{" 28", "H", 101, " 28H-50"},
-              {" 28", "X", 100, " 28L-100"},  // an unknown speed: the first of the size
-              {"28", "H", 150, " 20H-25"}};   // a size compares as text
-  for (const auto& row : rows) {
-    SetDevice(DevSetting[0], row.size, row.speed, row.stroke);
-    Ask(v, [&] { EXPECT_EQ(Shown(v, 0), row.shown); });
-  }
+  const auto shown = [this](const char* size, const char* speed, int stroke) {
+    std::string device;
+    SetDevice(DevSetting[0], size, speed, stroke);
+    Ask(v, [&] { device = Shown(v, 0); });
+    return device;
+  };
+  EXPECT_EQ(shown(" 28", "H", 101), " 28H-50");
+  EXPECT_EQ(shown(" 28", "X", 100), " 28L-100") << "an unknown speed: the first of the size";
+  EXPECT_EQ(shown("28", "H", 150), " 20H-25") << "a size compares as text";
 }
 
 TEST_F(DeviceDialogTest, ASizeOffersItsSpeedsAndTheseTheirStrokes) {
@@ -86,54 +84,48 @@ TEST_F(DeviceDialogTest, ASizeOffersItsSpeedsAndTheseTheirStrokes) {
 }
 
 TEST_F(DeviceDialogTest, TheDeviceDecidesAboutItsPulseGenerator) {
-  const struct {
-    const char *before, *size;  ///< in use, and chosen in the dialogue
-    bool ticked;                ///< the user's choice so far
-    bool offered, value;
-  } rows[] = {{" 28", " 28", false, true, false},
-              {" 28", " 28", true, true, true},
-              {" 28", " 20", true, false, false},
-              {" 28", "E35", false, false, true},
-              {"E35", nullptr, false, false, true}};
-  for (const auto& row : rows) {
-    SetDevice(DevSetting[0], row.before, "L", 100);
-    EXPECT_EQ(Ask(v,
-                  [&] {
-                    if (row.size) PickDevice(v, 0, " 50");  // offered here
-                    if (row.ticked) v.chkDevPgUse[0].Set(true);
-                    if (row.size) PickDevice(v, 0, " 20");  // a look at another device
-                    if (row.size) PickDevice(v, 0, row.size);
-                    EXPECT_EQ(v.chkDevPgUse[0].Visible, row.offered) << row.before;
-                    v.cmdDeviceSet.Press();
-                  }),
-              DeviceAnswer::Taken);
-    EXPECT_EQ(DevSettei[0].WithPG, row.value) << row.before << row.ticked;
-  }
+  const auto choose = [this](const char* size, bool tick, bool offered) {
+    Ask(v, [&] {
+      if (tick) v.chkDevPgUse[0].Set(true);
+      PickDevice(v, 0, " 20");  // a look at another device
+      PickDevice(v, 0, size);
+      EXPECT_EQ(v.chkDevPgUse[0].Visible, offered) << size;
+      v.cmdDeviceSet.Press();
+    });
+    return bool(DevSettei[0].WithPG);
+  };
+  EXPECT_FALSE(choose(" 28", false, true));
+  EXPECT_TRUE(choose(" 28", true, true));
+  EXPECT_FALSE(choose(" 20", true, false)) << "never";
+  EXPECT_TRUE(choose("E35", false, false)) << "always";
+  SetDevice(DevSetting[0], "E35", "L", 100);
+  Ask(v, [&] { v.cmdDeviceSet.Press(); });
+  EXPECT_TRUE(DevSettei[0].WithPG) << "from the start";
 }
 
 TEST_F(DeviceDialogTest, TicksAndTheNumberOfAxesKeepStep) {
-  const struct {
-    const char* what;
-    std::function<void()> click;
-    int axes, beeps;
-  } rows[] = {{"number down", [&] { v.comboAxisSelect.Pick(0); }, 1, 0},
-              {"and up", [&] { v.comboAxisSelect.Pick(2); }, 3, 0},
-              {"tick off", [&] { v.chkAxisEnable[1].Set(false); }, 1, 0},
-              {"tick on", [&] { v.chkAxisEnable[3].Set(true); }, 4, 0},
-              {"the only axis that must be", [&] { v.chkAxisEnable[0].Set(false); }, 4, 1}};
   Ask(v, [&] {
-    for (const auto& row : rows) {
-      SCOPED_TRACE(row.what);
-      row.click();
-      EXPECT_EQ(v.comboAxisSelect.ListIndex + 1, row.axes);
-      EXPECT_EQ(forms.beeps, row.beeps);
+    const auto expect_axes = [&](int axes) {
+      EXPECT_EQ(v.comboAxisSelect.ListIndex + 1, axes);
       for (std::size_t axis = 0; axis < kAxes; ++axis) {
-        const bool live = axis < static_cast<std::size_t>(row.axes);
+        const bool live = axis < static_cast<std::size_t>(axes);
         EXPECT_TRUE(v.chkAxisEnable[axis].Value == live && v.framAxis[axis].Enabled == live &&
                     v.chkDevPgUse[axis].Enabled == live);
         EXPECT_EQ(Shown(v, axis), " 28L-100") << "lists stay filled";
       }
-    }
+    };
+    v.comboAxisSelect.Pick(0);
+    expect_axes(1);
+    v.comboAxisSelect.Pick(2);
+    expect_axes(3);
+    v.chkAxisEnable[1].Set(false);
+    expect_axes(1);
+    v.chkAxisEnable[3].Set(true);
+    expect_axes(4);
+    EXPECT_EQ(forms.beeps, 0);
+    v.chkAxisEnable[0].Set(false);
+    expect_axes(4);
+    EXPECT_EQ(forms.beeps, 1) << "one axis must be";
   });
 }
 

@@ -139,44 +139,34 @@ TEST_F(ParaView, ALengthBetweenTwoPulsesIsRoundedAsTheUserChose) {
 }
 
 TEST_F(ParaView, LengthsInMmDemandTheirInputs) {
-  const std::string no_scale = Text(694) + "\n" + Text(695),
-                    no_stroke = Text(696) + "\n" + Text(697);
-  const struct {
-    const char *lead, *pulses;
-    TextBox& box;
-    std::string words;
-  } rows[] = {{"", "400", f.txtAxisMmStroke[1], no_scale},
-              {"2", "", f.txtMmZone1[1], no_scale},
-              {"2", "400", f.txtMmZone2[1], no_stroke}};  // which the first row has emptied
-  for (const auto& row : rows) {
-    f.txtAxisLead[1].Type(row.lead);
-    f.txtAxisPulse[1].Type(row.pulses);
-    Enter(row.box, "10");
-    Leave(row.box);  // an empty field demands nothing
-    EXPECT_EQ(forms.boxes.size(), 1u);
-    EXPECT_EQ(forms.LastBox(), row.words);
-    EXPECT_EQ(row.box.Text, "");
-    forms.boxes.clear();
-  }
+  const auto told = [this](const char* lead, const char* pulses, TextBox& box) {
+    f.txtAxisLead[1].Type(lead);
+    f.txtAxisPulse[1].Type(pulses);
+    Enter(box, "10");
+    EXPECT_EQ(box.Text, "");
+    Leave(box);  // an empty field demands nothing
+    return Boxes();
+  };
+  const Texts no_scale{Text(694) + "\n" + Text(695)};
+  EXPECT_EQ(told("", "400", f.txtAxisMmStroke[1]), no_scale);
+  EXPECT_EQ(told("2", "", f.txtMmZone1[1]), no_scale);
+  EXPECT_EQ(told("2", "400", f.txtMmZone2[1]), Texts{Text(696) + "\n" + Text(697)}) << "no stroke";
   AppState.AxisMuko[1] = True;
   YukoJikuHyojiSettei();
   f.txtMmZone1[1].Text = "10";
   Leave(f.txtMmZone1[1]);  // of an axis not in use: nothing happens
-  EXPECT_TRUE(forms.boxes.empty());
+  EXPECT_EQ(Boxes(), Texts{});
 }
 
 TEST_F(ParaView, AZoneLiesWithinTheWholeMillimetresOfTheStroke) {
   Enter(f.txtAxisMmStroke[0], "99.5");
   for (const char* typed : {"0", "99", "99.005", "100"}) {
     const bool good = Val(typed) <= 99;
-    for (std::size_t i = 1; i < 3; ++i) {
-      forms.beeps = 0;
-      TextBox& box = ParaMmFields()[i].MmBox(0);
-      Enter(box, typed);
-      EXPECT_EQ(box.Text.empty(), !good) << typed;
-      EXPECT_EQ(ParaMmFields()[i].PulseBox(0).Text.empty(), !good) << typed;
-      EXPECT_EQ(forms.beeps, good ? 0 : 1) << typed;
-    }
+    forms.beeps = 0;
+    Enter(f.txtMmZone2[0], typed);
+    EXPECT_EQ(f.txtMmZone2[0].Text.empty(), !good) << typed;
+    EXPECT_EQ(f.txtZoneSet2[0].Text.empty(), !good) << typed;
+    EXPECT_EQ(forms.beeps, good ? 0 : 1) << typed;
   }
   // The field takes what the check of the whole set then refuses.
   Enter(f.txtMmZone1[0], "0.02");
@@ -254,32 +244,25 @@ TEST_F(ParaView, ColumnsFollowAxisWhenConfirmed) {
 }
 
 TEST_F(ParaView, ClosingOffersToSave) {
-  const struct {
-    const char* what;
-    MsgAnswer answer;
-    std::deque<std::optional<std::string>> files;
-    bool closed, saved;
-  } rows[] = {{"cancel", MsgAnswer::Cancel, {}, false, false},
-              {"yes, and no file", MsgAnswer::Yes, {std::nullopt}, false, false},
-              {"yes", MsgAnswer::Yes, {"/data/p.pmt"}, true, true},
-              {"no", MsgAnswer::No, {}, true, false}};
-  EXPECT_TRUE(CloseView(f, CloseReason::ControlMenu));
-  EXPECT_TRUE(forms.boxes.empty()) << "nothing changed";
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
+  const auto closes = [this](MsgAnswer answer, std::deque<std::optional<std::string>> files) {
     virt.files.Remove("/data/p.pmt");
     frmMain.mnuViewPara.Click();
     f.txtHomePush[0].Type("77");
-    forms.boxes.clear();
-    forms.answers = {row.answer};
-    forms.file_answers = row.files;
+    Boxes();
+    forms.answers = {answer};
+    forms.file_answers = std::move(files);
     f.cmdClose.Press();
     EXPECT_EQ(forms.boxes.front().Text, Text(6067));
-    EXPECT_EQ(f.Visible, !row.closed);
-    EXPECT_EQ(virt.files.Exists("/data/p.pmt"), row.saved);
-    EXPECT_EQ(ParamSet.HomePush[0] == 77, row.answer == MsgAnswer::Yes);
-    ParamSet.HomePush[0] = 60;
-  }
+    return !f.Visible;
+  };
+  EXPECT_TRUE(CloseView(f, CloseReason::ControlMenu));
+  EXPECT_TRUE(forms.boxes.empty()) << "nothing changed";
+  EXPECT_FALSE(closes(MsgAnswer::Cancel, {}) || closes(MsgAnswer::Yes, {std::nullopt}));
+  EXPECT_TRUE(closes(MsgAnswer::Yes, {"/data/p.pmt"}) && virt.files.Exists("/data/p.pmt"));
+  EXPECT_EQ(ParamSet.HomePush[0], 77);
+  ParamSet.HomePush[0] = 60;
+  EXPECT_TRUE(closes(MsgAnswer::No, {}));
+  EXPECT_EQ(ParamSet.HomePush[0], 60);
 }
 
 TEST_F(ParaView, OpeningAFileOffersToSave) {

@@ -44,10 +44,9 @@ class StdListsTest : public StateTest {
     PutList(kOldFile, std::string(kHeader) + "1,13\r\n" +
                           "\" 28L-100\",901,91,92,93,94,4,20000,2,900,95,0,\" 28L100\"\r\n");
     PutList(kCommonFile, CommonFile());
-    SetDevice(DevSettei[0], " 28", "L", 100);
+    for (DevSettingRecord& device : DevSettei) SetDevice(device, " 28", "L", 100);
     SetDevice(DevSettei[1], " 35", "H", 200);
     SetDevice(DevSettei[2], " 42", "H", 300);
-    SetDevice(DevSettei[3], " 28", "L", 100);
   }
 };
 
@@ -69,59 +68,41 @@ TEST_F(StdListsTest, EveryRowFindsItsParameter) {
   EXPECT_EQ(Values(1, 1, 5), (Numbers{201, 21, 22, 23, 24}));
   EXPECT_EQ(Values(1, 7, 12), (Numbers{13334, 6, 401, 25, 0, 0}));
   EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
-  EXPECT_EQ(ParamSet.ActSize[2] + ParamSet.ActSpeed[2] + std::to_string(ParamSet.ActStroke[2]),
-            " 42H300");
+  EXPECT_EQ(ParamSet.ActSize[2] + ParamSet.ActSpeed[2], " 42H");
   EXPECT_EQ(Values(0, 14, 15), (Numbers{0, 10}));
   EXPECT_EQ(Values(1, 14, 15), (Numbers{5, 15}));  // with PG: column 2
   EXPECT_EQ(Values(1, 16, 19), (Numbers{20, 30, 40, 50}));
-  for (std::size_t axis = 0; axis < kAxes; ++axis) {
-    EXPECT_EQ(Values(axis, 20, 24), (Numbers{60, 70, 80, 90, 100}));
-    EXPECT_EQ(Values(axis, 28, 30), (Numbers{140, 150, 160}));
-  }
+  EXPECT_EQ(Values(3, 20, 24), (Numbers{60, 70, 80, 90, 100}));
+  EXPECT_EQ(Values(3, 28, 30), (Numbers{140, 150, 160}));
   EXPECT_EQ(Values(0, 25, 27), (Numbers{110, 15, 130}));  // AXIS is the mask, not the list's
   EXPECT_EQ(Values(0, 31, 34), (Numbers{170, 180, 190, 200}));
 }
 
 TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
-  const struct {
-    const char *size, *speed;
-    std::int16_t stroke;
-    bool last_absent;
-    int seq;
-  } rows[] = {{" 28", "L", 100, false, 1},
-              {" 42", "H", 300, false, 3},
-              {" 42", "H", 301, false, 0},  // behind the last row
-              {" 28", "L", 100, true, 3}};  // then axis 3 is scanned last
-  for (const auto& row : rows) {
-    ParamSet.HomeSeq.fill(9);
-    SetDevice(DevSettei[3], row.size, row.speed, row.stroke);
-    AppState.AxisMuko[3] = row.last_absent;
-    EXPECT_EQ(IniParaFromStd(), row.seq == 0 ? 1 : 0);
-    for (const std::int16_t seq : ParamSet.HomeSeq) EXPECT_EQ(seq, row.seq) << row.size;
-  }
-  // An axis of the other list takes the row of that number there; there is only one.
+  using Orders = AxisArray<std::int16_t>;
+  const auto orders = [](const char* size, const char* speed, int stroke) {
+    SetDevice(DevSettei[3], size, speed, stroke);
+    IniParaFromStd();
+    return ParamSet.HomeSeq;
+  };
+  EXPECT_EQ(orders(" 28", "L", 100), (Orders{1, 1, 1, 1}));
+  EXPECT_EQ(orders(" 42", "H", 301), (Orders{0, 0, 0, 0})) << "behind the last row";
+  AppState.AxisMuko[3] = True;
+  EXPECT_EQ(orders(" 28", "L", 100), (Orders{3, 3, 3, 3})) << "axis 3 is scanned last";
   AppState.AxisMuko[3] = False;
-  DevSettei[0].NewType = False;
-  EXPECT_EQ(IniParaFromStd(), 0);
-  EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{4, 1, 1, 1}));
-  SetDevice(DevSettei[3], " 35", "H", 200);
-  EXPECT_EQ(IniParaFromStd(), 0);
-  EXPECT_EQ(ParamSet.HomeSeq, (ParamSetRecord::PerAxis<std::int16_t>{0, 2, 2, 2}));
+  DevSettei[0].NewType = False;  // takes the row of that number of its own list, which has one
+  EXPECT_EQ(orders(" 28", "L", 100), (Orders{4, 1, 1, 1}));
+  EXPECT_EQ(orders(" 35", "H", 200), (Orders{0, 2, 2, 2}));
 }
 
-TEST_F(StdListsTest, TypeFollowsTheDevice) {
-  const struct {
-    bool new_type, vertical;
-    int type, offset;  ///< an offset of the list of that type
-  } rows[] = {{true, true, 0, 101}, {false, false, 1, 901}, {false, true, 2, 901}};
-  for (const auto& row : rows) {
-    for (auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
-      DevSettei[0].NewType = row.new_type;
-      DevSettei[0].Vertical = row.vertical;
+TEST_F(StdListsTest, TypeAndListFollowTheDevice) {
+  for (auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
+    for (const int type : {0, 1, 2}) {
+      DevSettei[0].NewType = type == 0;
+      DevSettei[0].Vertical = type != 1;
       EXPECT_EQ(ini(), 0);
-      EXPECT_EQ(ParamSet.AxisType[0], row.type);
-      EXPECT_EQ(ParamSet.HomeOffset[0], row.offset);
-      EXPECT_EQ(ParamSet.AxisType[1], 0);
+      EXPECT_EQ(ParamSet.AxisType[0], type);
+      EXPECT_EQ(ParamSet.HomeOffset[0], type == 0 ? 101 : 901);
     }
   }
 }
@@ -155,15 +136,14 @@ TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
 TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   SetDevice(DevSettei[1], "28", "L", 100);  // sizes compare as text
   ParamSet.HomeOffset[1] = 77;
-  EXPECT_EQ(IniParaFromStd(), 1);
-  const std::string reason = "\n\n" + Text(6340, "AXIS2", "28L-100");
-  EXPECT_EQ(Boxes(), Texts{Text(36) + reason});
+  for (auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
+    EXPECT_EQ(ini(), 1);
+    EXPECT_EQ(Boxes(), Texts{Text(36) + "\n\n" + Text(6340, "AXIS2", "28L-100")});
+  }
   EXPECT_EQ(ParamSet.HomeOffset[0], 101);
   EXPECT_EQ(ParamSet.HomeOffset[1], 77);
   EXPECT_EQ(ParamSet.PgAlarm[1], 10);
   EXPECT_EQ(ParamSet.SmTimer, 50);
-  EXPECT_EQ(IniParaFromStdForWrite(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36) + reason});
   AppState.AxisMuko[1] = True;  // an absent axis needs no device
   EXPECT_EQ(IniParaFromStd(), 0);
   AppState.AxisMuko[1] = False;
@@ -182,7 +162,6 @@ TEST_F(StdListsTest, DamagedStandardListsSayWhatIsWrong) {
       {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
       {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong + "\n\n" + Text(6332, "1", kNewFile)},
       {CommonFile(), wrong + "\n\n" + Text(6322, kNewFile, Text(6329))},
-      {header + "2,13\r\n" + row, none + "\n\n" + Text(6332, "3", kNewFile)},
       {header + "1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n",
        none + "\n\n" + Text(6332, "3", kNewFile)},
       {std::string(100 << 20, ' '), none + "\n\n" + Text(5913, kNewFile)}};

@@ -40,19 +40,14 @@ class StrokeCalc : public StateTest {
 
 TEST_F(StrokeCalc, PulsesOfAStroke) {
   const struct {
-    const char* stroke;
-    const char* lead;
-    const char* first;   ///< 400 pulses a turn
-    const char* second;  ///< 192 pulses a turn
-  } rows[] = {
-      {"100", "2", "20000", "9600"},
-      {"100", "6", "6667", "3200"},  // 6666.67: up
-      {"25", "12", "834", "400"},    // 833.33: up
-      {"24", "2", "Invalidity", "Invalidity"},
-      {"601", "2", "Invalidity", "Invalidity"},
-      {"100", "9", "Invalidity", "Invalidity"},
-      {"100", "", "Invalidity", "Invalidity"},
-  };
+    const char *stroke, *lead, *first, *second;  ///< 400 and 192 pulses a turn
+  } rows[] = {{"100", "2", "20000", "9600"},
+              {"100", "6", "6667", "3200"},  // 6666.67: up
+              {"25", "12", "834", "400"},    // 833.33: up
+              {"24", "2", "Invalidity", "Invalidity"},
+              {"601", "2", "Invalidity", "Invalidity"},
+              {"100", "9", "Invalidity", "Invalidity"},
+              {"100", "", "Invalidity", "Invalidity"}};
   Open([&] {
     for (const auto& row : rows) {
       c.optActType[0].Press();
@@ -68,9 +63,7 @@ TEST_F(StrokeCalc, AValueOutOfItsRangeIsNamedAndGoneTo) {
     EXPECT_EQ(c.txtCulStroke.Text, "") << "the range is no text of the field";
     Calculate("100", "9");
   });
-  ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_EQ(forms.boxes[0].Text,
-            "Lead (mm per turn) is out of range (integer:2 or 4 or 6 or 8 or 12).");
+  EXPECT_EQ(Boxes(), Texts{"Lead (mm per turn) is out of range (integer:2 or 4 or 6 or 8 or 12)."});
   EXPECT_EQ(forms.focus, &c.txtCulLead);
 }
 
