@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "base/seq_file.h"
-#include "device/dev_setting.h"
 #include "device/dev_setting_store.h"
 #include "device/device_list.h"
 #include "device/device_names.h"
@@ -17,7 +14,6 @@
 #include "para/std_lists.h"
 #include "para/std_table.h"
 #include "sim/setup.h"
-#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

@@ -8,11 +8,8 @@
 #include <map>
 #include <regex>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "forms/control.h"
-#include "state/text.h"
 #include "tests/support/source_tree.h"
 #include "tests/support/state_test.h"
 

@@ -1,13 +1,10 @@
 #include <algorithm>
-#include <functional>
 #include <utility>
 
-#include "device/dev_setting.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_splash.h"
 #include "para/param_set.h"
-#include "state/text_file.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {

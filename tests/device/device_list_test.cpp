@@ -1,11 +1,6 @@
 #include "device/device_list.h"
 
-#include <string>
-
-#include "device/dev_setting.h"
 #include "device/device_model.h"
-#include "state/text.h"
-#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

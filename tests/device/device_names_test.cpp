@@ -1,12 +1,7 @@
 #include "device/device_names.h"
 
-#include <string>
-
-#include "device/dev_setting.h"
 #include "device/dev_setting_store.h"
 #include "device/device_list.h"
-#include "state/text.h"
-#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

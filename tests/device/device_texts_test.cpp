@@ -1,12 +1,7 @@
 #include "device/device_texts.h"
 
-#include <string>
-
-#include "device/dev_setting.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "state/text.h"
-#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

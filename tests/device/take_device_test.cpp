@@ -1,9 +1,6 @@
 // Devices out of the parameters and out of the controller's device blocks.
 
-#include <string>
-
 #include "device/ct_device.h"
-#include "device/dev_setting.h"
 #include "device/take_ct_device.h"
 #include "para/param_set.h"
 #include "para/take_param_device.h"

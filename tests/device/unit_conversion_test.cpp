@@ -4,7 +4,6 @@
 #include <tuple>
 
 #include "base/text_helpers.h"
-#include "device/dev_setting.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

@@ -2,17 +2,11 @@
 
 #include "para/change_device.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
-#include "device/dev_setting.h"
 #include "device/device_cascade.h"
 #include "forms/frm_parameta2.h"
 #include "para/para_file.h"
 #include "para/param_set.h"
 #include "posi/posi_table.h"
-#include "state/text_file.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {

@@ -2,16 +2,8 @@
 
 #include "para/device_dialog.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
-#include "device/dev_setting.h"
 #include "device/device_list.h"
 #include "para/param_set.h"
-#include "state/text.h"
-#include "state/text_file.h"
-#include "state/views.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

@@ -2,14 +2,8 @@
 
 #include "para/device_write.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
-#include "device/dev_setting.h"
 #include "para/param_set.h"
 #include "posi/posi_table.h"
-#include "state/text_file.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {

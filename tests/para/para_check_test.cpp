@@ -1,7 +1,5 @@
 #include "para/para_check.h"
 
-#include <string>
-
 #include "para/param_set.h"
 #include "para/std_lists.h"
 #include "tests/support/state_test.h"

@@ -1,11 +1,7 @@
 #include "para/para_file.h"
 
-#include <functional>
-#include <optional>
 #include <set>
-#include <string>
 
-#include "device/dev_setting.h"
 #include "device/device_list.h"
 #include "forms/frm_parameta2.h"
 #include "para/para_actuator.h"
@@ -15,7 +11,6 @@
 #include "para/para_show.h"
 #include "para/param_set.h"
 #include "para/std_lists.h"
-#include "state/text.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

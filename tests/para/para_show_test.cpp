@@ -1,10 +1,8 @@
 #include "para/para_show.h"
 
-#include <string>
 #include <utility>
 
 #include "base/text_helpers.h"
-#include "device/dev_setting.h"
 #include "device/device_list.h"
 #include "para/para_actuator.h"
 #include "para/para_axis_show.h"

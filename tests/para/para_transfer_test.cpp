@@ -1,14 +1,11 @@
 // The parameter memory in blocks: the place of every row, and the bytes that carry it both ways.
 
-#include <functional>
-
 #include "device/ct_device.h"
 #include "link/port.h"
 #include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_transfer_commands.h"
 #include "state/message_box.h"
-#include "state/text.h"
 #include "steps/outcome.h"
 #include "tests/support/link_test.h"
 

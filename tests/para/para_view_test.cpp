@@ -1,8 +1,6 @@
 #include <deque>
-#include <string>
 
 #include "base/text_helpers.h"
-#include "device/dev_setting.h"
 #include "device/device_list.h"
 #include "forms/frm_main.h"
 #include "para/para_after_device.h"
@@ -11,8 +9,6 @@
 #include "para/para_fields.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
-#include "state/text.h"
-#include "state/views.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

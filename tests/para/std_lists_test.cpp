@@ -1,13 +1,7 @@
 #include "para/std_lists.h"
 
-#include <string>
-#include <vector>
-
-#include "device/dev_setting.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
-#include "state/text.h"
-#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

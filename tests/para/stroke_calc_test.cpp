@@ -1,10 +1,7 @@
-#include <string>
 
 #include "forms/frm_parameta2.h"
 #include "forms/frm_stroke_calc.h"
 #include "para/para_columns.h"
-#include "state/text.h"
-#include "state/views.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

@@ -1,8 +1,5 @@
 // Going online: the fourteen steps, with the bytes sent and the state left.
 
-#include <functional>
-
-#include "device/dev_setting.h"
 #include "device/limits.h"
 #include "posi/device_change.h"
 #include "posi/posi_table.h"

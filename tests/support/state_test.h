@@ -1,8 +1,11 @@
 #pragma once
 
+// With what nearly every test of shared state uses: texts, devices, views.
+
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +16,9 @@
 #include "platform/doors.h"
 #include "platform/sim_port.h"
 #include "state/app_state.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "state/views.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/virtual_clipboard.h"
 #include "tests/support/virtual_form_host.h"
