@@ -62,11 +62,9 @@ TEST_F(Lists, EveryDeviceHasGoodStandardValues) {
       EXPECT_EQ(ParamSet.AxisPulse[0], ppr);
       EXPECT_EQ(ParamSet.AxisStroke[0], StrokeToPulse(row.Stroke, row.Lead, ppr));
       EXPECT_EQ(ParamSet.Actuator[0], JoinActuator(device.Size, device.Speed, device.Stroke));
-      // What the fields of the parameter view take.
-      EXPECT_LE(ParamSet.JogVel[0], 30);
-      EXPECT_LE(ParamSet.HomeVel[0], 60);
-      EXPECT_GE(ParamSet.HomeSeq[0], 1);
-      // The speed limit of the gearing.
+      // What the fields of the parameter view take, and the speed limit of the gearing.
+      EXPECT_TRUE(ParamSet.JogVel[0] <= 30 && ParamSet.HomeVel[0] <= 60 &&
+                  ParamSet.HomeSeq[0] >= 1);
       EXPECT_LE(row.Lead * 25 * std::ceil(400.0 / ppr), 32767);
     }
     EXPECT_EQ(StdTable[0].size(), seen.size());

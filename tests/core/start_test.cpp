@@ -105,24 +105,6 @@ TEST_F(StartTest, TheFilesMenuActsOnTheViewInFront) {
   EXPECT_EQ(forms.file_dialogs.back().DefaultExtension, "qvd");
 }
 
-TEST_F(StartTest, ClosingWhileTeachingIsRefusedWithWords) {
-  StartOffline();
-  AppState.TeachingNow = True;
-  EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu));
-  EXPECT_TRUE(BoxShown(Text(60) + "\n" + Text(61)));
-  EXPECT_FALSE(forms.ended);
-}
-
-TEST_F(StartTest, ClosingDuringAReadFromTheWindowIsRefusedWithWords) {
-  StartOnline();
-  pump.After(500'000, [] {
-    EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu));
-    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5941));
-  });
-  ReadRange(1, 40);
-  EXPECT_EQ(AppState.PosiLastNo, 40);
-}
-
 TEST_F(StartTest, ExitFromTheMenuDuringAReadEndsTheProcessAndSaysNothingMore) {
   StartOnline();
   frmMain.mnuFile.Enabled = true;

@@ -76,10 +76,7 @@ TEST_F(DeviceStoreTest, EachStoredValueIsJudged) {
 }
 
 TEST_F(DeviceStoreTest, TheNewListWinsWhateverTheStoreSays) {
-  Store("NewType1", "0");
-  Store("DevLead1", "21");  // not looked at
-  Store("DevPPR1", "0");
-  Store("Vertical1", "0");
+  for (const char* key : {"NewType1", "DevLead1", "DevPPR1", "Vertical1"}) Store(key, "0");
   Store("WithPG1", "1");
   Store("Device1", "NB");
   EXPECT_EQ(LoadDevSetting(), 0);
@@ -122,10 +119,10 @@ TEST_F(DeviceStoreTest, WhatIsSavedComesBack) {
   }
   DevSetting.fill(DevSettingRecord{});
   EXPECT_EQ(LoadDevSetting(), 0);
-  EXPECT_EQ(DevSetting[1].Size + DevSetting[1].Speed, " 35H");
-  EXPECT_EQ(DevSetting[1].Stroke, 103);
-  EXPECT_EQ(DevSetting[1].Lead, 6);
-  EXPECT_EQ(DevSetting[1].Ppr, 400);
+  const DevSettingRecord& device = DevSetting[1];
+  EXPECT_EQ(device.Size + device.Speed + std::to_string(device.Stroke), " 35H103");
+  EXPECT_EQ(device.Lead, 6);
+  EXPECT_EQ(device.Ppr, 400);
   EXPECT_EQ(DevSetting[2].Size, " 28");
 }
 

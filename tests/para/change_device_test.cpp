@@ -6,7 +6,6 @@
 #include "forms/frm_parameta2.h"
 #include "para/para_file.h"
 #include "para/param_set.h"
-#include "posi/posi_table.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -169,27 +168,6 @@ TEST_F(ChangeDeviceTest, DevicesWithoutParametersChangeNothing) {
     EXPECT_EQ(asked.size(), row.choices.size()) << "back to the question";
     EXPECT_TRUE(PcState() == before && ParamSet == parameters && AppState.AxisCount == 4);
     EXPECT_FALSE(DevSetting[0].NotChosen);
-  }
-}
-
-TEST_F(ChangeDeviceTest, LoadedPositionsFollow) {
-  const auto choose = [] {
-    PickDevice(frmDevice2, 0, " 50", "L", "200");
-    Ok();
-  };
-  for (const bool mm : {false, true}) {
-    StartAnew();
-    virt.settings.Set("Settings", "DispMmUnit", mm ? "1" : "0");
-    StartOnline();
-    ReadRange(1, 3);
-    const double mm_before = PosiTable.PosiMm[0][2];
-    const std::int32_t pulses_before = PosiTable.PosiPulse[0][2];
-    Forget();
-    if (mm) forms.answers = {MsgAnswer::Ok};
-    EXPECT_EQ(Change({0}, {choose}), 0);
-    EXPECT_EQ(Boxes(), mm ? Texts{Text(408) + "\n" + Text(409)} : Texts{});
-    EXPECT_EQ(PosiTable.PosiMm[0][2] == mm_before, mm);
-    EXPECT_EQ(PosiTable.PosiPulse[0][2] == pulses_before, !mm);
   }
 }
 

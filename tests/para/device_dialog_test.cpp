@@ -159,18 +159,6 @@ TEST_F(DeviceDialogTest, OnlyTheWritingDialogueBeginsWithOldDevices) {
   EXPECT_TRUE(DevSettei[1].NewType);
 }
 
-TEST_F(DeviceDialogTest, AMissingListIsToldOfOnceAndFailsAtTheParameters) {
-  virt.files.Remove(ProgramFile("nqvdevice.lst"));
-  InDialog("frmDevice2", {[&] {
-             EXPECT_EQ(Boxes(), (Texts{Text(15) + "\n" + Text(16)}));
-             EXPECT_TRUE(DevListMissing[3] && v.comboDeviceSize[3].List.empty());
-             v.cmdDeviceSet.Press();
-           }});
-  EXPECT_EQ(SelectDeviceForPara(), 1);
-  EXPECT_TRUE(Boxes().at(0).starts_with(Text(36)));
-  EXPECT_EQ(DevSettei[0].Size, " 28") << "the device in use is the one under consideration again";
-}
-
 // What leaves the dialogue.
 
 TEST_F(DeviceDialogTest, OkTakesEveryFieldAsNewAndVertical) {

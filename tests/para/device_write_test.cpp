@@ -74,19 +74,6 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   ExpectOnline();
 }
 
-TEST_F(DeviceWriteTest, OkAloneTakesTheDevicesHereOnly) {
-  StartOnline();
-  Forget();
-  InDialog("frmDevice3", {[] {
-             ChooseTwoAxes();
-             frmDevice3.cmdDeviceSet.Press();
-           }});
-  frmMain.mnuSettingDeviceOnline.Press();
-  EXPECT_TRUE(port.sent.empty() && forms.boxes.empty());
-  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(3));
-  EXPECT_EQ(ParamSet.Actuator[0], " 42H200");
-}
-
 TEST_F(DeviceWriteTest, AFailedStepSaysWhatTheControllerMayHold) {
   constexpr MsgId kHeld = 6363, kLeft = 6338;  // the next connection releases the axes
   const struct {
