@@ -47,32 +47,28 @@ TEST_F(DeviceStoreTest, AnEmptyStoreGivesTheDefaultDevice) {
 }
 
 TEST_F(DeviceStoreTest, EachStoredValueIsJudged) {
-  const struct {
-    const char *key, *value;  ///< of axis 2; the device there is " 35" "H" 200, not in the list
-    int result;
-    const char* size;
-    int lead, ppr;
-  } rows[] = {{"DevLead2", "20", 0, " 35", 20, 400}, {"DevLead2", "21", 1, " 35", 0, 400},
-              {"DevLead2", "1", 1, " 35", 0, 400},   {"DevLead2", "x", 1, " 35", 0, 400},
-              {"DevPPR2", "192", 0, " 35", 2, 192},  {"DevPPR2", "99999", 1, " 35", 2, 0},
-              {"DevSize2", "35", 1, "", 2, 400},     {"DevStroke2", "", 1, "", 2, 400},
-              {"NewType2", "0", 0, " 35", 2, 400}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.key) + " " + row.value);
+  /// Of AXIS2 with one value stored otherwise: the device there is not in the list.
+  const auto loaded = [this](const char* key, const char* value) {
     virt.settings.values.clear();
     DevSetting.fill(DevSettingRecord{});
     Store("DevSize2", " 35");
     Store("DevSpeed2", "H");
     Store("DevStroke2", "200");
-    Store(row.key, row.value);
-    EXPECT_EQ(LoadDevSetting(), row.result);
+    Store(key, value);
+    const int result = LoadDevSetting();
     const DevSettingRecord& device = DevSetting[1];
-    EXPECT_EQ(device.NotChosen, row.result == 1);
-    EXPECT_EQ(device.Size, row.size);
-    EXPECT_EQ(device.Lead, row.lead);
-    EXPECT_EQ(device.Ppr, row.ppr);
+    EXPECT_EQ(result, device.NotChosen ? 1 : 0);
     EXPECT_FALSE(DevSetting[0].NotChosen || DevSetting[2].NotChosen);
-  }
+    return (device.NotChosen ? "none " : "") + device.Size + " " + std::to_string(device.Lead) +
+           " " + std::to_string(device.Ppr);
+  };
+  EXPECT_EQ(loaded("DevLead2", "20"), " 35 20 400");
+  for (const char* lead : {"21", "1", "x"}) EXPECT_EQ(loaded("DevLead2", lead), "none  35 0 400");
+  EXPECT_EQ(loaded("DevPPR2", "192"), " 35 2 192");
+  EXPECT_EQ(loaded("DevPPR2", "99999"), "none  35 2 0");
+  EXPECT_EQ(loaded("DevSize2", "35"), "none  2 400");
+  EXPECT_EQ(loaded("DevStroke2", ""), "none  2 400");
+  EXPECT_EQ(loaded("NewType2", "0"), " 35 2 400");
 }
 
 TEST_F(DeviceStoreTest, TheNewListWinsWhateverTheStoreSays) {

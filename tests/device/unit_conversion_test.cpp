@@ -1,6 +1,7 @@
 #include "device/unit_conversion.h"
 
 #include <cmath>
+#include <map>
 #include <tuple>
 
 #include "base/text_helpers.h"
@@ -39,19 +40,16 @@ TEST_F(UnitConversion, FailuresAreResults) {
 }
 
 TEST_F(UnitConversion, SnappingDecidesTheTieByMode) {
-  const struct {
-    double mm;
-    int down, up;  ///< pulses in mode 0 and 1
-  } rows[] = {{0.003, 0, 0},          {0.00375, 0, 1},
-              {0.004, 1, 1},          {0.0037496, 0, 0},  // 0.49995 of a pulse rounds to 0.4999
-              {0.00374975, 0, 0},  // 0.49997 counts as the tie: half added still cuts to 0
-              {0.00375025, 0, 1},  // 0.50003 counts as the tie
-              {0.0037508, 1, 1},   // 0.50011 is above
-              {100.005, 13334, 13334}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(SnapMmToPulse(6, 0, 800, row.mm), row.down * 0.0075) << row.mm;
-    EXPECT_EQ(SnapMmToPulse(6, 1, 800, row.mm), row.up * 0.0075) << row.mm;
-  }
+  const auto expect_pulses = [](double mm, int down, int up) {
+    EXPECT_EQ(SnapMmToPulse(6, 0, 800, mm), down * 0.0075) << mm;
+    EXPECT_EQ(SnapMmToPulse(6, 1, 800, mm), up * 0.0075) << mm;
+  };
+  expect_pulses(0.00375, 0, 1);
+  expect_pulses(0.0037496, 0, 0);   // 0.49995 of a pulse rounds to 0.4999
+  expect_pulses(0.00374975, 0, 0);  // 0.49997 counts as the tie: half added still cuts to 0
+  expect_pulses(0.00375025, 0, 1);  // 0.50003 counts as the tie
+  expect_pulses(0.0037508, 1, 1);   // 0.50011 is above
+  expect_pulses(100.005, 13334, 13334);
 }
 
 TEST_F(UnitConversion, ASnappedValueIsThatManyPulses) {
@@ -66,40 +64,33 @@ TEST_F(UnitConversion, ASnappedValueIsThatManyPulses) {
   }
 }
 
-TEST_F(UnitConversion, TypedTextIsCut) {
-  const struct {
-    const char* typed;
-    double mm;
-  } rows[] = {{"12.34567", 12.345},
-              {"12345678", 1234567},
-              {"1234567.9", 1234567},
-              {"0.9999", 0.999},
-              {"123456.789", 123456.789},
-              {"-1.23456", -1.234},
-              {"", 0},
-              {"1 2.5", 12.5},
-              {"abc", 0}};
-  for (const auto& row : rows) EXPECT_EQ(CutMmText(row.typed), row.mm) << row.typed;
-}
-
-TEST_F(UnitConversion, ComputedValueIsCut) {
-  const struct {
-    double mm, cut;
-  } rows[] = {{0.0075, 0.007}, {0.99996, 1}, {0.9999, 0.999}, {100.005, 100.005}, {0.1, 0.1}};
-  for (const auto& row : rows) EXPECT_DOUBLE_EQ(CutComputedMm(row.mm), row.cut) << row.mm;
+TEST_F(UnitConversion, MillimetresAreCut) {
+  using Typed = std::map<const char*, double>;
+  for (const auto& [text, mm] : Typed{{"12.34567", 12.345},
+                                      {"12345678", 1234567},
+                                      {"1234567.9", 1234567},
+                                      {"0.9999", 0.999},
+                                      {"123456.789", 123456.789},
+                                      {"-1.23456", -1.234},
+                                      {"", 0},
+                                      {"1 2.5", 12.5},
+                                      {"abc", 0}}) {
+    EXPECT_EQ(CutMmText(text), mm) << text;
+  }
+  using Computed = std::map<double, double>;
+  for (const auto& [mm, cut] :
+       Computed{{0.0075, 0.007}, {0.99996, 1}, {0.9999, 0.999}, {100.005, 100.005}, {0.1, 0.1}}) {
+    EXPECT_DOUBLE_EQ(CutComputedMm(mm), cut) << mm;
+  }
 }
 
 TEST_F(UnitConversion, StrokeInPulsesIsCarriedUp) {
-  const struct {
-    double stroke, lead, ppr;
-    int pulses;
-  } rows[] = {{90, 6, 800, 12000},     {0, 6, 800, 0},
-              {13333.05, 1, 1, 13334}, {13333.04, 1, 1, 13333},
-              {13333.1, 1, 1, 13334},  {13333.95, 1, 1, 13334},
-              {13333.96, 1, 1, 13334}, {32767, 1, 32767, 1073676289}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(StrokeToPulse(row.stroke, row.lead, row.ppr), row.pulses) << row.stroke;
-  }
+  EXPECT_EQ(StrokeToPulse(90, 6, 800), 12000);
+  EXPECT_EQ(StrokeToPulse(100, 6, 800), 13334);
+  EXPECT_EQ(StrokeToPulse(13333.04, 1, 1), 13333);
+  EXPECT_EQ(StrokeToPulse(13333.05, 1, 1), 13334);
+  EXPECT_EQ(StrokeToPulse(13333.96, 1, 1), 13334);
+  EXPECT_EQ(StrokeToPulse(32767, 1, 32767), 1073676289);
 }
 
 TEST_F(UnitConversion, LimitsOfTheAxes) {
@@ -139,36 +130,41 @@ TEST_F(UnitConversion, AFailedLimitStoresNothing) {
 }
 
 TEST_F(UnitConversion, SpeedOfAnAxisInUse) {
-  const struct {
-    std::int16_t lead, ppr;
-    int result;
-    int vel;
-  } rows[] = {{6, 800, 0, 75}, {1310, 400, 0, 32750}, {1311, 400, 1, 5}, {1310, 200, 1, 5},
-              {3, 800, 0, 38}, {1, 800, 0, 12},       {2, 192, 0, 104},  {6, 0, 1, 5}};
-  for (const auto& row : rows) {
+  const auto speed = [](int lead, int ppr) {
     AppState.MaxVel.fill(5);
-    DevSetting[0].Lead = row.lead;
-    DevSetting[0].Ppr = row.ppr;
-    EXPECT_EQ(CalcMaxVel(), row.result) << row.lead << '/' << row.ppr;
-    EXPECT_EQ(AppState.MaxVel[0], row.vel) << row.lead << '/' << row.ppr;
-  }
+    DevSetting[0].Lead = static_cast<std::int16_t>(lead);
+    DevSetting[0].Ppr = ppr;
+    const bool failed = CalcMaxVel() != 0;
+    EXPECT_EQ(failed, AppState.MaxVel[0] == 5) << lead;
+    return AppState.MaxVel[0];
+  };
+  EXPECT_EQ(speed(6, 800), 75);
+  EXPECT_EQ(speed(3, 800), 38);
+  EXPECT_EQ(speed(1, 800), 12);
+  EXPECT_EQ(speed(2, 192), 104);
+  EXPECT_EQ(speed(1310, 400), 32750);
+  EXPECT_TRUE(speed(1311, 400) == 5 && speed(1310, 200) == 5 && speed(6, 0) == 5) << "refused";
 }
 
 TEST_F(UnitConversion, SpeedOfAnAxisNotInUseFollowsItsDevice) {
-  const struct {
-    const char* size;
-    const char* speed;
-    int vel;
-  } rows[] = {{"   ", "D", 30},  {" 99", "L", 75},  {" 42", "D", 400}, {" 50", "L", 100},
-              {" 28", "L", 50},  {" 50", "H", 300}, {" 28", "H", 150}, {" 35", "H", 150},
-              {" 42", "H", 200}, {"E35", "H", 200}, {" 20", "D", 77}};
   AppState.AxisMuko[0] = True;
-  for (const auto& row : rows) {
+  using Speeds = std::map<std::string, int>;
+  for (const auto& [device, vel] : Speeds{{"   D", 30},
+                                          {" 99L", 75},
+                                          {" 42D", 400},
+                                          {" 50L", 100},
+                                          {" 28L", 50},
+                                          {" 50H", 300},
+                                          {" 28H", 150},
+                                          {" 35H", 150},
+                                          {" 42H", 200},
+                                          {"E35H", 200},
+                                          {" 20D", 77}}) {
     AppState.MaxVel[0] = 77;
-    DevSetting[0].Size = row.size;
-    DevSetting[0].Speed = row.speed;
+    DevSetting[0].Size = device.substr(0, 3);
+    DevSetting[0].Speed = device.substr(3);
     ASSERT_EQ(CalcMaxVel(), 0);
-    EXPECT_EQ(AppState.MaxVel[0], row.vel) << row.size << row.speed;
+    EXPECT_EQ(AppState.MaxVel[0], vel) << device;
   }
   EXPECT_EQ(SpeedLimit(0), 30);
   EXPECT_EQ(SpeedLimit(1), 75);
