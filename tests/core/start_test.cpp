@@ -49,24 +49,20 @@ TEST_F(StartTest, OnlineTellsTheVersionAndTakesTheControllersState) {
 }
 
 TEST_F(StartTest, OnlineFailedEndsInTheOfflineStart) {
-  const struct {
-    FaultKind kind;
-    const char* line;
-    std::string box;
-  } rows[] = {{FaultKind::kSilence, "0CM0", Text(100)},
-              {FaultKind::kChangedByte, "0RV", Text(124) + "\n" + Text(125)}};
-  for (const auto& row : rows) {
+  const auto start = [this](FaultKind kind, const char* line) {
     StartAnew();
     port.Ct().ClearFaults();
-    Spoil(row.kind, row.line, 0, 8);  // the last character of the model's marker
+    Spoil(kind, line, 0, 8);  // the last character of the model's marker
     Choose({0, 1});
     Main();
     ExpectOffline();
-    EXPECT_TRUE(BoxShown(row.box));
     EXPECT_EQ(asked.back(), Text(74));
-    EXPECT_TRUE(AppState.CtMode && frmMain.mnuFileNewProg.Visible);
-    EXPECT_EQ(AppState.AxisCount, 4);
-  }
+    EXPECT_TRUE(AppState.CtMode && frmMain.mnuFileNewProg.Visible && AppState.AxisCount == 4);
+  };
+  start(FaultKind::kSilence, "0CM0");
+  EXPECT_TRUE(BoxShown(Text(100)));
+  start(FaultKind::kChangedByte, "0RV");
+  EXPECT_TRUE(BoxShown(Text(124) + "\n" + Text(125)));
 }
 
 TEST_F(StartTest, WhileItConnectsOnlyCancelIsOn) {
