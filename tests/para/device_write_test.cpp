@@ -2,24 +2,20 @@
 
 #include "para/device_write.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
-#include "device/dev_setting.h"
-#include "device/device_cascade.h"
-#include "forms/frm_device.h"
-#include "forms/frm_parameta2.h"
-#include "link/port.h"
 #include "para/param_set.h"
 #include "posi/posi_table.h"
-#include "state/text_file.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
 namespace {
 
 using qvr7sim::FaultKind;
+
+/// Two axes, the first with another device.
+void ChooseTwoAxes() {
+  PickDevice(frmDevice3, 0, " 42", "H", "200");
+  frmDevice3.comboAxisSelect.Pick(1);
+}
 
 class DeviceWriteTest : public FlowTest {
  protected:
@@ -28,46 +24,19 @@ class DeviceWriteTest : public FlowTest {
     virt.settings.Set("Settings", "PortOccupy", "0");
   }
 
-  /// Two axes, the first with another device.
-  static void ChooseTwoAxes() {
-    Pick(frmDevice3.comboDeviceSize[0], " 42");
-    Pick(frmDevice3.comboDeviceSpeed[0], "H");
-    Pick(frmDevice3.comboDeviceStroke[0], "200");
-    frmDevice3.comboAxisSelect.Pick(1);
-  }
   /// Opens the dialogue from the menu, chooses, writes and leaves it.
   void Write(
       const std::function<void()>& choose = ChooseTwoAxes,
       const std::function<void()>& leave = [] { frmDevice3.cmdDeviceCancel.Press(); }) {
     port.sent.clear();
     forms.boxes.clear();
-    forms.on_modal["frmDevice3"] = [choose, leave](View&) {
-      choose();
-      frmDevice3.cmdPrmCtWrite.Press();
-      leave();
-    };
+    InDialog("frmDevice3", {[&] {
+               choose();
+               frmDevice3.cmdPrmCtWrite.Press();
+               leave();
+             }});
     frmMain.mnuSettingDeviceOnline.Press();
   }
-};
-
-/// All that a write may change here.
-struct PcState {
-  AxisArray<Bool16> muko = AppState.AxisMuko;
-  std::int16_t count = AppState.AxisCount;
-  ParamSetRecord parameters = ParamSet;
-  AxisArray<std::string> devices = Devices();
-
-  static AxisArray<std::string> Devices() {
-    AxisArray<std::string> names;
-    for (int axis = 0; axis < kAxes; ++axis) {
-      for (const DevSettingRecord* device : {&DevSetting[axis], &DevSettei[axis]}) {
-        names[axis] += device->Size + device->Speed + std::to_string(device->Stroke) + " " +
-                       std::to_string(device->Ppr) + (device->WithPG ? "E" : "_");
-      }
-    }
-    return names;
-  }
-  bool operator==(const PcState&) const = default;
 };
 
 const std::string kHeld = "0RA 0CM0 ";
@@ -78,7 +47,13 @@ const std::string kWriteTwoAxes = kReadTwoAxes + "0WD0 0WD1 0WD2 0WD3 0WD4 0WD5 
 
 TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   StartOnline();
-  Write();
+  const std::string before = port.Ct().CommittedBlock(0);
+  Write([] {});
+  EXPECT_EQ(port.Ct().CommittedBlock(0), before) << "of what no device tells";
+  Write([] {
+    ChooseTwoAxes();
+    frmDevice3.chkDevPgUse[0].Set(true);
+  });
   EXPECT_EQ(SentLines(4), kHeld + kMask + kReadBack + kReadTwoAxes + kWriteTwoAxes + "0CM0 ");
   EXPECT_EQ(SentLines(8).substr(0, 13), "0RA 0CM01111 ");
   EXPECT_TRUE(port.sent.ends_with("0CM00000\r\n"));
@@ -86,94 +61,44 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   // The controller has stored the mask, and the device of AXIS1: lead 8, 400 pulses.
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
   EXPECT_EQ(port.Ct().CommittedBlock(4).substr(2, 6), "080190");
-  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
-  EXPECT_EQ(AppState.AxisCount, 2);
-  EXPECT_EQ(ParamSet.OneAxis, 3);
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(3));
   EXPECT_EQ(ParamSet.Actuator[0], " 42H200");
-  EXPECT_EQ(DevSetting[0].Size + DevSetting[0].Speed, " 42H");
-  EXPECT_EQ(DevSetting[0].Lead, 8);
-  EXPECT_TRUE(DevSetting[0].NewType);
   EXPECT_EQ(AppState.MaxPulse[0], 10000);
-  EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 42H-200_");
+  EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 42H-200E");
   EXPECT_EQ(virt.settings.Get("Settings", "DevSize1", ""), " 42");
-  ExpectOnline();
-}
-
-TEST_F(DeviceWriteTest, TheControllerKeepsWhatNoDeviceTells) {
-  StartOnline();
-  const std::string before = port.Ct().CommittedBlock(0);
-  Write([] {});
-  const std::string after = port.Ct().CommittedBlock(0);
-  EXPECT_EQ(after, before);
-  // SOFT LIMIT comes from the common row of AUTO START PRG No., which is 0.
-  EXPECT_EQ(ParamSet.SoftLimit[0], 0);
-}
-
-TEST_F(DeviceWriteTest, WhatIsWrittenIsWhatTheControllerSaysNext) {
-  StartOnline();
-  Write([] {
-    ChooseTwoAxes();
-    frmDevice3.chkDevPgUse[0].Set(true);
-  });
-  EXPECT_TRUE(DevSetting[0].WithPG);
   GoOffline();
   port.Ct().PowerCycle(pump.NowUs());
   asked.clear();
   frmMain.mnuSettingOnline.Press();
-  EXPECT_EQ(asked, Texts{}) << "axes and devices agree";
+  EXPECT_EQ(asked, Texts{}) << "the controller says what was written";
   ExpectOnline();
 }
 
-TEST_F(DeviceWriteTest, OkAloneTakesTheDevicesHereOnly) {
-  StartOnline();
-  port.sent.clear();
-  forms.on_modal["frmDevice3"] = [](View&) {
-    ChooseTwoAxes();
-    frmDevice3.cmdDeviceSet.Press();
-  };
-  frmMain.mnuSettingDeviceOnline.Press();
-  EXPECT_EQ(port.sent, "");
-  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
-  EXPECT_EQ(DevSetting[0].Size, " 42");
-  EXPECT_EQ(ParamSet.OneAxis, 3);
-}
-
-TEST_F(DeviceWriteTest, EveryFailedStepHasItsWords) {
-  constexpr int kHeld = 6363;  // the next connection releases the axes
+TEST_F(DeviceWriteTest, AFailedStepSaysWhatTheControllerMayHold) {
+  constexpr MsgId kHeld = 6363, kLeft = 6338;  // the next connection releases the axes
   const struct {
     const char* prefix;
     std::vector<MsgId> boxes;  ///< messages that the boxes begin with
-  } rows[] = {{"0CM01111", {104, 377}}, {"0WD0", {104, 377, kHeld}}, {"0WD4", {104, kHeld, 1528}}};
+  } rows[] = {{"0CM01111", {104, 377}},
+              {"0WD0", {104, 377, kHeld}},
+              {"0RD7", {104, kHeld, kLeft}},
+              {"0WD4", {104, kHeld, 1528}}};
   StartOnline();
   for (const auto& row : rows) {
     SCOPED_TRACE(row.prefix);
     Spoil(FaultKind::kErrorReply, row.prefix);
     Write();
-    const Texts boxes = Boxes();
-    ASSERT_EQ(boxes.size(), row.boxes.size());
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-      EXPECT_TRUE(boxes[i].starts_with(Text(row.boxes[i]))) << boxes[i];
+    const bool asks = row.boxes.back() == kLeft;
+    ASSERT_EQ(forms.boxes.size(), row.boxes.size());
+    for (std::size_t i = 0; i < row.boxes.size(); ++i) {
+      EXPECT_TRUE(forms.boxes[i].Text.starts_with(Text(row.boxes[i], "3"))) << i;
     }
-    EXPECT_TRUE(frmDevice3.cmdDeviceCancel.Enabled && frmDevice3.cmdSyosai.Enabled);
-    port.Ct().PowerCycle(pump.NowUs());
+    asked.clear();
+    if (!asks) port.Ct().PowerCycle(pump.NowUs());
+    if (asks) Choose({1});
     frmMain.cmdReset.Press();
+    EXPECT_EQ(asked, asks ? Texts{Text(371)} : Texts{}) << "axes that are left are asked about";
   }
-}
-
-TEST_F(DeviceWriteTest, AxesLeftInTheControllerAreAskedAboutAtTheNextConnect) {
-  StartOnline();
-  qvr7sim::Fault fault;
-  fault.kind = FaultKind::kErrorReply;
-  fault.prefix = "0RD7";
-  fault.at_request = 1;
-  fault.error = {'0', '0', '1'};
-  port.Ct().AddFault(fault);
-  Write();
-  EXPECT_EQ(forms.LastBox(), Text(6338, "3"));
-  asked.clear();
-  Choose({1});
-  frmMain.cmdReset.Press();
-  EXPECT_EQ(asked, Texts{Text(371)});
 }
 
 TEST_F(DeviceWriteTest, AValueOfTheControllersOwnThatDoesNotFitPutsTheAxesBack) {
@@ -189,107 +114,64 @@ TEST_F(DeviceWriteTest, AValueOfTheControllersOwnThatDoesNotFitPutsTheAxesBack) 
   EXPECT_EQ(port.Ct().WrittenBlock(0), port.Ct().CommittedBlock(0));
 }
 
-TEST_F(DeviceWriteTest, AMovingAxisTakesNothing) {
-  StartOnline();
-  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
-  port.Ct().Receive("0MP000F\r\n", pump.NowUs());
-  pump.RunFor(100'000);
-  port.ReadAll();
-  const PcState before;
-  Write();
-  EXPECT_EQ(port.sent, "0RA\r\n");
-  EXPECT_EQ(Boxes(), Texts{Text(424)});
-  EXPECT_EQ(PcState(), before);
-}
-
-TEST_F(DeviceWriteTest, WithoutAPortNothingBegins) {
-  StartOnline();
-  port.open_fault = PortFault::InUse;
-  Write();
-  EXPECT_EQ(port.sent, "");
-  ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_TRUE(forms.LastBox().starts_with(Text(109)));
-}
-
 TEST_F(DeviceWriteTest, ParametersThatCannotBeMadeEndItBeforeTheLine) {
   const std::string header = "\"QV-R7\",\"QV-STDPRM\"\r\n";
+  const std::string misfit = Text(1524) + "\n" + Text(1525);
   const std::string good = *virt.files.Content(ProgramFile("tr7nqvstpr.lst"));
   const struct {
     const char* what;
     std::string list;  ///< of standard rows; empty: there is none
     Texts boxes;
-    std::array<Bool16, kAxes> muko{};
+    int axes = 15;
   } rows[] = {
       {"no list", "", {Text(28) + "\n" + Text(29), Text(36)}},
-      {"no row for the device",
-       header + "0,13\r\n",
-       {Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200")}},
-      {"a value out of range",
-       header + "2,13\r\n\" 28L-100\",0,60,10,5,5,1,20000,2,400,15,0,\" 28L100\"\r\n"
-                "\" 42H-200\",100,100,20,5,5,1,10000,8,400,30,0,\" 42H200\"\r\n",
-       {Text(1524) + "\n" + Text(1525)}},
-      {"axes with a gap", good, {Text(1524) + "\n" + Text(1525)}, {False, True, False, True}},
+      {"no row", header + "0,13\r\n", {Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200")}},
+      {"a value out of range", With(good, "\" 42H-200\",100", "\" 42H-200\",0"), {misfit}},
+      {"axes with a gap", good, {misfit}, 5},
   };
   StartOnline();
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
-    AppState.AxisMuko = row.muko;
+    AppState.AxisMuko = MukoOfMask(row.axes);
     const PcState before;
+    const ParamSetRecord parameters = ParamSet;
     virt.files.Remove(ProgramFile("tr7nqvstpr.lst"));
     if (!row.list.empty()) PutList("tr7nqvstpr.lst", row.list);
     Write([&] {
-      if (row.muko[1]) return;
+      if (row.axes != 15) return;
       ChooseTwoAxes();
-      Pick(frmDevice3.comboDeviceSize[1], " 28");
-      Pick(frmDevice3.comboDeviceSpeed[1], "L");
-      Pick(frmDevice3.comboDeviceStroke[1], "100");
+      PickDevice(frmDevice3, 1, " 28", "L", "100");
     });
     EXPECT_EQ(Boxes(), row.boxes);
     EXPECT_EQ(port.sent, "");
-    EXPECT_EQ(PcState(), before);
-    ExpectOnline();
+    EXPECT_TRUE(PcState() == before && ParamSet == parameters);
   }
 }
 
-TEST_F(DeviceWriteTest, AWriteBegunOfflineEndsOffline) {
-  forms.on_modal["frmDevice3"] = [](View&) {
-    ChooseTwoAxes();
-    frmDevice3.cmdPrmCtWrite.Press();
-    frmDevice3.cmdDeviceSet.Press();
-  };
-  Choose({1, 0});
-  Main();
-  EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
-  EXPECT_TRUE(BoxShown(Text(1527)));
-  EXPECT_EQ(DevSetting[0].Size, " 42");
-  EXPECT_EQ(AppState.AxisMuko, (AxisArray<Bool16>{False, False, True, True}));
-  ExpectOffline();
+qvr7sim::Setup ThreeAxes() {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.mask = 0x7;
+  return setup;
 }
 
 /// A controller with three axes, which answers with their mask.
 class ThreeAxesWriteTest : public DeviceWriteTest {
  protected:
   ThreeAxesWriteTest() : DeviceWriteTest(ThreeAxes()) {}
-
- private:
-  static qvr7sim::Setup ThreeAxes() {
-    qvr7sim::Setup setup = qvr7sim::Setup::Useful();
-    setup.mask = 0x7;
-    return setup;
-  }
 };
 
-TEST_F(ThreeAxesWriteTest, AWriteBegunOfflineAsksForTheControllersAxesFirst) {
-  forms.on_modal["frmDevice3"] = [](View&) {
-    ChooseTwoAxes();
-    frmDevice3.cmdPrmCtWrite.Press();
-    frmDevice3.cmdDeviceSet.Press();
-  };
-  Choose({1, 0});
-  Main();
+TEST_F(ThreeAxesWriteTest, AWriteBegunOfflineAsksForTheControllersAxesAndEndsOffline) {
+  InDialog("frmDevice3", {[] {
+             ChooseTwoAxes();
+             frmDevice3.cmdPrmCtWrite.Press();
+             frmDevice3.cmdDeviceSet.Press();
+           }});
+  StartOffline();
   EXPECT_EQ(SentLines(4).substr(0, 19), "0CM1 0RD0 " + kHeld);
   EXPECT_TRUE(BoxShown(Text(1527))) << "its axes stand still";
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
+  EXPECT_EQ(DevSetting[0].Size, " 42");
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(3));
   ExpectOffline();
 }
 
@@ -312,15 +194,12 @@ TEST_F(DeviceWriteTest, TheDialogueRestsWhileItWrites) {
   pump.After(300'000, [&] {
     ++looks;
     EXPECT_TRUE(AppState.ComBusy);
-    for (const Control* control : std::initializer_list<Control*>{
-             &frmDevice3.cmdDeviceCancel, &frmDevice3.cmdSyosai, &frmDevice3.cmdDeviceSet,
-             &frmDevice3.cmdPrmCtWrite, &frmDevice3.framAxis[0], &frmDevice3.framAxis[3]}) {
-      EXPECT_FALSE(control->Enabled) << control->Name;
-    }
+    EXPECT_FALSE(frmDevice3.cmdDeviceCancel.Enabled || frmDevice3.cmdPrmCtWrite.Enabled ||
+                 frmDevice3.framAxis[0].Enabled);
     EXPECT_FALSE(CloseView(frmDevice3, CloseReason::ControlMenu));
   });
   Write(ChooseTwoAxes, [] {
-    EXPECT_TRUE(frmDevice3.framAxis[1].Enabled);
+    EXPECT_TRUE(frmDevice3.framAxis[1].Enabled && frmDevice3.cmdSyosai.Enabled);
     EXPECT_FALSE(frmDevice3.framAxis[2].Enabled) << "an axis not in use stays off";
     frmDevice3.cmdDeviceCancel.Press();
   });
@@ -331,30 +210,16 @@ TEST_F(DeviceWriteTest, InTheMillimetreViewTheUserIsWarned) {
   virt.settings.Set("Settings", "DispMmUnit", "1");
   StartOnline();
   ReadRange(1, 3);
-  ASSERT_TRUE(AppState.DispMmUnit);
-  forms.answers = {MsgAnswer::Cancel};
-  Write();
-  EXPECT_EQ(port.sent, "");
-  EXPECT_EQ(Boxes(), Texts{Text(1505) + "\n" + Text(1506)});
   const auto mm = PosiTable.PosiMm[0];
   const std::int32_t pulses = PosiTable.PosiPulse[0][2];
-  forms.answers = {MsgAnswer::Ok};
-  Write();
-  EXPECT_EQ(PosiTable.PosiMm[0], mm);
-  EXPECT_NE(PosiTable.PosiPulse[0][2], pulses);
-}
-
-TEST_F(DeviceWriteTest, PositionsThatNoLongerFitAreTold) {
-  StartOnline();
-  ReadRange(1, 40);
-  forms.answers = {MsgAnswer::Ok};
-  forms.on_modal["frmSyogoKekka"] = [](View& view) { view.Visible = false; };
-  Write([] {
-    Pick(frmDevice3.comboDeviceSize[0], " 20");
-    Pick(frmDevice3.comboDeviceStroke[0], "10");
-  });
-  EXPECT_TRUE(BoxShown(Text(1526)));
-  EXPECT_EQ(forms.LastBox(), Text(1527));
+  for (const MsgAnswer answer : {MsgAnswer::Cancel, MsgAnswer::Ok}) {
+    forms.answers = {answer};
+    Write();
+    EXPECT_EQ(forms.boxes.front().Text, Text(1505) + "\n" + Text(1506));
+    EXPECT_EQ(port.sent.empty(), answer == MsgAnswer::Cancel);
+    EXPECT_EQ(PosiTable.PosiMm[0], mm);
+    EXPECT_EQ(PosiTable.PosiPulse[0][2] == pulses, answer == MsgAnswer::Cancel);
+  }
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
 #include "para/para_check.h"
 
-#include <string>
-
 #include "para/param_set.h"
+#include "para/std_lists.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -36,66 +35,27 @@ class ParaCheck : public StateTest {
     EXPECT_TRUE(SetParaValue(ParamSet, row, axis, value)) << row;
     return ParametaValueCheck();
   }
-  static int CheckActuator(const char* text, const char* size, const char* speed, int stroke) {
-    ParamSet = GoodSet();
-    ParamSet.Actuator[2] = text;
-    ParamSet.ActSize[2] = size;
-    ParamSet.ActSpeed[2] = speed;
-    ParamSet.ActStroke[2] = static_cast<std::int16_t>(stroke);
-    return ParametaValueCheck();
-  }
 };
 
-TEST_F(ParaCheck, BothEndsOfEveryRange) {
-  const struct {
-    int row;
-    double low, high;
-  } rows[] = {
-      {1, 1, 65535},  {2, 1, 255},     {3, 1, 200},     {4, 1, 60},   {5, 1, 60},   {6, 0, 4},
-      {7, 1, 262143}, {8, 1, 255},     {9, 1, 65535},   {10, 1, 200}, {11, 0, 1},   {12, 0, 1},
-      {14, 0, 2},     {15, 5, 65535},  {16, 0, 15},     {17, 0, 1},   {18, 0, 1},   {19, 1, 255},
-      {20, 0, 2},     {21, 5, 262143}, {22, 5, 262143}, {23, 0, 255}, {24, 0, 255}, {25, 0, 100},
-      {27, 0, 1},     {28, 0, 255},    {29, 0, 255},    {30, 0, 1},   {31, 0, 1},   {32, 0, 1},
-      {33, 0, 1},     {34, 0, 1},
-  };
-  EXPECT_EQ(std::size(rows), kParaRows - 2u);  // all but the device text and AXIS
-  EXPECT_EQ(ParametaValueCheck(), 0);
-  for (const auto& row : rows) {
-    for (int axis = 0; axis < (IsAxisRow(row.row) ? kAxes : 1); ++axis) {
-      const std::string where = "row " + std::to_string(row.row) + " axis " + std::to_string(axis);
-      EXPECT_EQ(CheckWith(row.row, axis, row.low), 0) << where;
-      EXPECT_EQ(CheckWith(row.row, axis, row.low - 1), 1) << where;
-      EXPECT_EQ(CheckWith(row.row, axis, row.high), 0) << where;
-      EXPECT_EQ(CheckWith(row.row, axis, row.high + 1), 1) << where;
-    }
-  }
-}
-
 TEST_F(ParaCheck, SpeedsFollowTheLead) {
-  const struct {
-    std::int16_t lead;
-    int home, jog;  ///< highest good value; 0: not checked
-  } leads[] = {{1, 50, 50},   {2, 50, 50},  {3, 50, 150},  {4, 50, 150}, {5, 50, 150},
-               {6, 150, 150}, {7, 50, 200}, {8, 200, 200}, {9, 50, 0},   {255, 50, 0}};
-  for (const auto& c : leads) {
-    const auto check = [&](int home, int jog) {
+  constexpr int kAny = 500;
+  const auto highest = [](int lead, int home, int jog) {
+    const auto good = [&](int home_vel, int jog_vel) {
       ParamSet = GoodSet();
-      ParamSet.AxisLead[1] = c.lead;
-      ParamSet.HomeVel[1] = static_cast<std::int16_t>(home);
-      ParamSet.JogVel[1] = static_cast<std::int16_t>(jog);
-      return ParametaValueCheck();
+      ParamSet.AxisLead[1] = static_cast<std::int16_t>(lead);
+      ParamSet.HomeVel[1] = static_cast<std::int16_t>(home_vel);
+      ParamSet.JogVel[1] = static_cast<std::int16_t>(jog_vel);
+      return ParametaValueCheck() == 0;
     };
-    EXPECT_EQ(check(c.home, 1), 0) << c.lead;
-    EXPECT_EQ(check(c.home + 1, 1), 1) << c.lead;
-    if (c.jog == 0) {
-      EXPECT_EQ(check(1, 500), 0) << c.lead;
-      EXPECT_EQ(check(1, 0), 0) << c.lead;
-    } else {
-      EXPECT_EQ(check(1, c.jog), 0) << c.lead;
-      EXPECT_EQ(check(1, c.jog + 1), 1) << c.lead;
-      EXPECT_EQ(check(1, 0), 1) << c.lead;
-    }
-  }
+    EXPECT_TRUE(good(home, jog) && !good(home + 1, 1)) << lead;
+    EXPECT_TRUE(good(1, jog + 1) == (jog == kAny) && good(1, 0) == (jog == kAny)) << lead;
+  };
+  highest(2, 50, 50);
+  highest(3, 50, 150);
+  highest(6, 150, 150);
+  highest(7, 50, 200);
+  highest(8, 200, 200);
+  highest(9, 50, kAny);
 }
 
 TEST_F(ParaCheck, AxisMasks) {
@@ -106,25 +66,54 @@ TEST_F(ParaCheck, AxisMasks) {
 }
 
 TEST_F(ParaCheck, Actuators) {
-  EXPECT_EQ(CheckActuator("E35L000", "E35", "L", 0), 0);
-  EXPECT_EQ(CheckActuator("E35L600", "E35", "L", 600), 0);
-  EXPECT_EQ(CheckActuator("E35L601", "E35", "L", 601), 1);
-  EXPECT_EQ(CheckActuator("E35L-01", "E35", "L", -1), 1);
-  EXPECT_EQ(CheckActuator("", "E35", "L", 100), 1);
-  EXPECT_EQ(CheckActuator("35L100", "35", "L", 100), 1);
-  EXPECT_EQ(CheckActuator("E355L100", "E355", "L", 100), 1);
-  EXPECT_EQ(CheckActuator("E35100", "E35", "", 100), 1);
+  const struct {
+    const char *text, *size, *speed;
+    std::int16_t stroke;
+    int result;
+  } rows[] = {{"E35L000", "E35", "L", 0, 0},     {"E35L600", "E35", "L", 600, 0},
+              {"E35L601", "E35", "L", 601, 1},   {"E35L-01", "E35", "L", -1, 1},
+              {"", "E35", "L", 100, 1},          {"35L100", "35", "L", 100, 1},
+              {"E355L100", "E355", "L", 100, 1}, {"E35100", "E35", "", 100, 1}};
+  for (const auto& row : rows) {
+    ParamSet.Actuator[2] = row.text;
+    ParamSet.ActSize[2] = row.size;
+    ParamSet.ActSpeed[2] = row.speed;
+    ParamSet.ActStroke[2] = row.stroke;
+    EXPECT_EQ(ParametaValueCheck(), row.result) << row.text;
+  }
 }
 
 TEST_F(ParaCheck, AxesNotInUseDoNotCount) {
-  AppState.AxisMuko[3] = True;
-  EXPECT_EQ(CheckWith(1, 3, 0), 0);
-  EXPECT_EQ(CheckWith(1, 2, 0), 1);
-  ParaFlags.ShownAxisCount = 2;  // as the parameter view has been set
-  EXPECT_EQ(CheckWith(1, 2, 0), 0);
-  EXPECT_EQ(CheckWith(1, 1, 0), 1);
-  ParaFlags.ShownAxisCount = 4;
-  EXPECT_EQ(CheckWith(1, 3, 0), 1);
+  const struct {
+    std::int16_t shown;  ///< as the parameter view has been set; 0: not
+    int axis;
+    int result;
+  } rows[] = {{0, 3, 0}, {0, 2, 1}, {2, 2, 0}, {2, 1, 1}, {4, 3, 1}};
+  AppState.AxisMuko = MukoOfMask(7);
+  for (const auto& row : rows) {
+    ParaFlags.ShownAxisCount = row.shown;
+    EXPECT_EQ(CheckWith(1, row.axis, 0), row.result) << row.shown << " " << row.axis;
+  }
+}
+
+TEST_F(ParaCheck, TheDirectWriteLooksAtFewerRows) {
+  // What it treats otherwise than the view, and one of each that both treat alike.
+  const struct {
+    int row;
+    double value;
+    int result;
+  } rows[] = {{1, 0, 1},  {3, 201, 1}, {6, 5, 0},    {7, 262144, 1}, {11, 9, 0},  {12, 4, 0},
+              {12, 5, 1}, {12, -1, 1}, {14, 3, 1},   {15, 4, 1},     {16, 16, 1}, {17, 2, 1},
+              {18, 2, 1}, {19, 0, 1},  {20, 3, 1},   {21, 4, 1},     {22, 4, 1},  {23, 999, 0},
+              {26, 5, 0}, {27, 9, 0},  {28, 999, 0}, {30, 9, 0},     {34, 9, 0}};
+  for (const auto& row : rows) {
+    const int axis = IsAxisRow(row.row) ? 3 : 0;
+    CheckWith(row.row, axis, row.value);
+    AppState.AxisMuko[3] = False;
+    EXPECT_EQ(CheckParaFromStd(), row.result) << row.row << " " << row.value;
+    AppState.AxisMuko[3] = True;
+    EXPECT_EQ(CheckParaFromStd(), axis == 3 ? 0 : row.result) << row.row << " of an absent axis";
+  }
 }
 
 }  // namespace

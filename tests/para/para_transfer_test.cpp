@@ -1,16 +1,11 @@
 // The parameter memory in blocks: the place of every row, and the bytes that carry it both ways.
 
-#include <cmath>
-#include <set>
-
 #include "device/ct_device.h"
-#include "forms/frm_main.h"
 #include "link/port.h"
 #include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_transfer_commands.h"
 #include "state/message_box.h"
-#include "state/text.h"
 #include "steps/outcome.h"
 #include "tests/support/link_test.h"
 
@@ -33,40 +28,6 @@ class BlocksTest : public LinkTest {
     Sent();
   }
 };
-
-// The table.
-
-TEST(ParaBlocks, EveryRowHasAPlaceOfItsOwn) {
-  std::set<std::pair<int, std::size_t>> taken;
-  for (int row = 1; row <= kParaRows; ++row) {
-    for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
-      const ParaPlace place = PlaceOfPara(row, axis);
-      EXPECT_GE(place.At, kParaDataAt);
-      EXPECT_LE(place.At + place.Width, kParaDataAt + kParaBlockLength) << ParaRowName(row);
-      for (std::size_t i = 0; i < place.Width; ++i) {
-        EXPECT_TRUE(taken.insert({place.Block, place.At + i}).second) << ParaRowName(row);
-      }
-    }
-  }
-}
-
-TEST(ParaBlocks, KnownFieldsStandWhereTheControllerHasThem) {
-  const struct {
-    int row;
-    int axis;
-    ParaPlace place;
-  } rows[] = {{kRowOneAxis, 0, {0, 7, 2}},
-              {33, 0, {0, 23, 2}},
-              {12, 0, {4, 5, 2}},
-              {kRowLead, 1, {7, 7, 2}},
-              {kRowPulse, 2, {10, 9, 4}},
-              {kRowStroke, 3, {13, 13, 6}},
-              {kRowActuator, 0, {4, 21, 8}},
-              {14, 3, {12, 21, 2}},
-              {6, 0, {1, 13, 2}},
-              {6, 3, {1, 19, 2}}};
-  for (const auto& row : rows) EXPECT_EQ(PlaceOfPara(row.row, row.axis), row.place) << row.row;
-}
 
 /// Both ends of every row's range as the check has them, found by asking it.
 std::pair<double, double> RangeOf(ParamSetRecord set, int row) {
@@ -106,36 +67,27 @@ TEST_F(BlocksTest, EveryRowHoldsBothEndsOfItsRange) {
 }
 
 TEST_F(BlocksTest, DeviceTexts) {
-  const struct {
-    const char *size, *speed;
-    int stroke;
-    const char* field;  ///< empty: refused
-  } rows[] = {
-      {" 28", "L", 100, "28L 6400"}, {" 42", "D", 600, "42D 5802"}, {"E35", "L", 255, "35E FF00"},
-      {" 20", "H", 0, "20H 0000"},   {"E35", "H", 100, ""},         {" 28", "E", 100, ""},
-      {"A28", "L", 100, ""},         {"28", "L", 100, ""},          {" 28", "", 100, ""},
-      {" 28", "LL", 100, ""},        {" 28", "L", -1, ""},          {" 28", "L", 1000, ""}};
   Take();
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.size) + row.speed);
+  const auto encoded = [](const char* size, const char* speed, int stroke) {
     ParamSetRecord set = ParamSet;
-    set.ActSize[1] = row.size;
-    set.ActSpeed[1] = row.speed;
-    set.ActStroke[1] = static_cast<std::int16_t>(row.stroke);
-    set.Actuator[1] = JoinActuator(row.size, row.speed, row.stroke);
+    set.ActSize[1] = size;
+    set.ActSpeed[1] = speed;
+    set.ActStroke[1] = static_cast<std::int16_t>(stroke);
+    set.Actuator[1] = JoinActuator(size, speed, stroke);
     ParaBlocks blocks;
     blocks.fill(std::string(kParaBlockLength, '0'));
-    const auto misfit = EncodePara(set, AxisList(kAllAxes), blocks);
-    ASSERT_EQ(misfit.has_value(), *row.field == '\0');
-    if (misfit) {
-      EXPECT_EQ(ParaCellName(*misfit), "ACTUATOR(2)");
-      continue;
-    }
-    EXPECT_EQ(blocks[7].substr(16, 8), row.field);
+    if (EncodePara(set, AxisList(kAllAxes), blocks)) return std::string("refused");
     ParaTableRecord table;
-    ASSERT_TRUE(DecodePara(blocks, AxisList(kAllAxes), table));
+    EXPECT_TRUE(DecodePara(blocks, AxisList(kAllAxes), table));
     EXPECT_EQ(table[1][kRowActuator], Variant(set.Actuator[1]));
-  }
+    return blocks[7].substr(16, 8);
+  };
+  EXPECT_EQ(encoded(" 28", "L", 100), "28L 6400");
+  EXPECT_EQ(encoded(" 42", "D", 600), "42D 5802");
+  EXPECT_EQ(encoded("E35", "L", 255), "35E FF00");
+  for (const char* size : {"E35", "A28"}) EXPECT_EQ(encoded(size, "H", 100), "refused");
+  for (const char* speed : {"E", "LL"}) EXPECT_EQ(encoded(" 28", speed, 100), "refused");
+  EXPECT_EQ(encoded(" 28", "L", 1000), "refused");
 }
 
 // Reading.
@@ -145,13 +97,9 @@ TEST_F(BlocksTest, ReadsAllBlocks) {
   EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD5 0RD6 0RD7 0RD8 0RD9 0RDA 0RDB 0RDC 0RDD");
   ASSERT_EQ(TakeParamTable(), 0);
   EXPECT_EQ(ParametaValueCheck(), 0) << "what the controller starts with is good";
-  EXPECT_EQ(ParamSet.OneAxis, 15);
   EXPECT_EQ(ParamSet.SmTimer, 30);
-  EXPECT_EQ(ParamSet.HomeSeq, (AxisArray<std::int16_t>{1, 2, 3, 4}));
   EXPECT_EQ(ParamSet.AxisLead, (AxisArray<std::int16_t>{2, 6, 8, 4}));
   EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
-  EXPECT_EQ(ParamSet.AxisStroke[1], 13334);
-  EXPECT_EQ(port.IsOpen(), bool(AppState.PortOccupy));
 }
 
 TEST_F(BlocksTest, AxesNotInUseAreSkippedAndZeroed) {
@@ -165,39 +113,23 @@ TEST_F(BlocksTest, AxesNotInUseAreSkippedAndZeroed) {
   EXPECT_EQ(ParaTable[2][6], Variant(3.0));
 }
 
-TEST_F(BlocksTest, TheCancelButtonStopsARead) {
-  const ParaTableRecord before = ParaTable;
-  pump.After(200'000, [] {
-    EXPECT_TRUE(frmMain.cmdComCancel.Visible);
-    EXPECT_EQ(frmMain.ProgressBar1.Max, 14);
-    EXPECT_EQ(frmMain.lblStatus.Caption, Text(368));
-    AppState.CancelRequested = True;
-  });
-  EXPECT_EQ(ReadParaFromCt(), Outcome::Stopped);
-  EXPECT_EQ(ParaTable, before);
-  EXPECT_LT(Sent().size(), 8u);
-  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
-}
-
 TEST_F(BlocksTest, DataThatMakesNoSenseLeavesTheTableWhole) {
   ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
   const ParaTableRecord before = ParaTable;
-  const auto fails = [&] {
-    forms.boxes.clear();
+  const std::string device = port.Ct().WrittenBlock(7), home = port.Ct().WrittenBlock(2);
+  const std::function<void()> rows[] = {
+      [&] { Spoil(FaultKind::kChangedByte, "0RD7", 3); },  // the name of another block
+      [&] { PlantBlock(7, std::string(device).replace(2, 2, "0G")); },
+      [&] {
+        PlantBlock(7, device);
+        PlantBlock(2, std::string(home).replace(8, 4, "8000"));  // a speed beyond its row
+      }};
+  for (const auto& spoil : rows) {
+    spoil();
     EXPECT_EQ(ReadParaFromCt(), Outcome::Failed);
     EXPECT_EQ(ParaTable, before);
     EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-  };
-  Spoil(FaultKind::kChangedByte, "0RD7", 3);  // the name of another block
-  fails();
-  // A lead that is no number, and a home speed beyond its row.
-  const std::string device = port.Ct().WrittenBlock(7), home = port.Ct().WrittenBlock(2);
-  PlantBlock(7, std::string(device).replace(2, 2, "0G"));
-  fails();
-  PlantBlock(7, device);
-  PlantBlock(2, std::string(home).replace(8, 4, "8000"));
-  fails();
-  EXPECT_FALSE(AppState.Offline);
+  }
 }
 
 // Writing.
@@ -222,18 +154,15 @@ TEST_F(BlocksTest, WritesWhatChangedAndNothingElse) {
   expected[1].replace(12, 2, "04");
   expected[2].replace(8, 4, "0021");
   EXPECT_EQ(WriteParaToCt(), Outcome::Done);
-  std::vector<std::string> lines;
-  for (const char* c = "0123456789ABCD"; *c; ++c) lines.push_back(std::string("0RD") + *c);
-  for (int block = 0; block < kParaBlocks; ++block) {
-    lines.push_back(std::string("0WD") + ParaBlockChar(block) +
-                    expected[static_cast<std::size_t>(block)]);
-  }
-  lines.push_back("0WE2");
-  EXPECT_EQ(Sent(), lines);
+  const auto block_lines = [](const std::string& command) {
+    std::string lines;
+    for (const char c : std::string("0123456789ABCD")) lines += command + c + " ";
+    return lines;
+  };
+  EXPECT_EQ(Commands(), block_lines("0RD") + block_lines("0WD") + "0WE2");
   for (int block = 0; block < kParaBlocks; ++block) {
     EXPECT_EQ(port.Ct().CommittedBlock(block), expected[static_cast<std::size_t>(block)]) << block;
   }
-  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
 }
 
 TEST_F(BlocksTest, AxesThatAreNotLiveKeepTheirBlocks) {
@@ -255,21 +184,19 @@ TEST_F(BlocksTest, AxesThatAreNotLiveKeepTheirBlocks) {
   EXPECT_NE(Commands().find("0WD7"), std::string::npos);
 }
 
-TEST_F(BlocksTest, AValueThatDoesNotFitIsNamedAndNothingGoesOut) {
-  Take();
-  ParamSet.JogVel[2] = -1;
-  EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
-  EXPECT_EQ(forms.LastBox(), Text(6180, "JOGVEL(3)"));
-  EXPECT_EQ(Commands().find("0WD"), std::string::npos);
-  EXPECT_FALSE(AppState.Offline);
-}
-
-TEST_F(BlocksTest, AnotherBlocksEchoEndsTheWrite) {
+TEST_F(BlocksTest, WhatEndsAWriteIsTold) {
   Take();
   Spoil(FaultKind::kChangedByte, "0WD5", 3);
   EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
-  EXPECT_EQ(Boxes(), Texts{"Communication error occurs!\ntransmit data is wrong"});
+  EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
   EXPECT_TRUE(Commands().ends_with("0WD5"));
+  ParamSet.JogVel[2] = -1;
+  EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
+  EXPECT_EQ(Boxes(), Texts{Text(6180, "JOGVEL(3)")});
+  EXPECT_EQ(Commands().find("0WD"), std::string::npos) << "nothing goes out";
+  Spoil(FaultKind::kChangedByte, "0WD0", 3);
+  EXPECT_EQ(WriteAxisPatternToCt(7), 1);
+  EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
 }
 
 TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
@@ -284,33 +211,6 @@ TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
   EXPECT_EQ(WriteParaToCt(), Outcome::Done);
   EXPECT_EQ(port.Ct().CommittedBlock(0), block0);
   EXPECT_TRUE(AxisSettingSent.Block0Sent.empty());
-}
-
-// Single fields of blocks.
-
-TEST_F(BlocksTest, HomingOrderAndStrokes) {
-  AxisArray<std::int32_t> values{9, 9, 9, 9};
-  ASSERT_EQ(ReadCtBlock1(values), 0);
-  EXPECT_EQ(values, (AxisArray<std::int32_t>{1, 2, 3, 4}));
-  Axes(true, false, true, true);
-  ASSERT_EQ(ReadAxisMaxPulseFromCt(values), 0);
-  EXPECT_EQ(values, (AxisArray<std::int32_t>{20000, 0, 15000, 15000}));
-  EXPECT_EQ(Commands(), "0RD1 0RD4 0RDA 0RDD");
-  const auto before = values;
-  PlantBlock(1, "00000000010 0304" + std::string(16, '0'));
-  EXPECT_EQ(ReadCtBlock1(values), 1);
-  EXPECT_EQ(forms.LastBox(), TwoLines(384, 385));
-  Spoil(FaultKind::kErrorReply, "0RDD");
-  EXPECT_EQ(ReadAxisMaxPulseFromCt(values), 1);
-  EXPECT_EQ(values, before);
-}
-
-TEST_F(BlocksTest, AWrongEchoOfBlock0IsTold) {
-  Spoil(FaultKind::kChangedByte, "0WD0", 3);
-  AppState.AxisPattern = 15;
-  EXPECT_EQ(WriteAxisPatternToCt(7), 1);
-  EXPECT_EQ(forms.LastBox(), TwoLines(384, 385));
-  EXPECT_EQ(AppState.AxisPattern, 15);
 }
 
 }  // namespace

@@ -31,6 +31,18 @@ qvr7sim::Setup InProgramMode() {
   return setup;
 }
 
+std::string PcState::Devices() {
+  std::string all;
+  for (const AxisArray<DevSettingRecord>* devices : {&DevSetting, &DevSettei}) {
+    for (const DevSettingRecord& device : *devices) {
+      all += device.Size + device.Speed + std::to_string(device.Stroke) + " " +
+             std::to_string(device.Lead) + " " + std::to_string(device.Ppr) +
+             (device.WithPG ? "E " : "_ ");
+    }
+  }
+  return all;
+}
+
 FlowTest::FlowTest(const qvr7sim::Setup& setup) : StateTest(setup) {
   virt.settings.Set("Settings", "Language", "2");
   for (const char* name : {"frmSelection", "frmSelection2"}) {

@@ -16,6 +16,16 @@ namespace tr7 {
 /// A useful controller in program mode.
 qvr7sim::Setup InProgramMode();
 
+/// What the PC holds of the machine at the time that this is made.
+struct PcState {
+  AxisArray<Bool16> muko = AppState.AxisMuko;
+  bool mode = AppState.CtMode;
+  std::string devices = Devices();
+
+  static std::string Devices();
+  bool operator==(const PcState&) const = default;
+};
+
 /// The user of a flow: starts the tool, chooses, clicks.
 class FlowTest : public StateTest {
  protected:

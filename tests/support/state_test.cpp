@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include "state/text_file.h"
 
@@ -51,10 +52,29 @@ void Pick(ComboBox& list, const std::string& text) {
   }
 }
 
-StateTest::StateTest(const qvr7sim::Setup& setup) : virt(setup) {
+void PickDevice(DeviceView& view, int axis, const char* size, const char* speed,
+                const char* stroke) {
+  Pick(view.comboDeviceSize[axis], size);
+  if (speed) Pick(view.comboDeviceSpeed[axis], speed);
+  if (stroke) Pick(view.comboDeviceStroke[axis], stroke);
+}
+
+std::string With(std::string text, const std::string& part, const std::string& other) {
+  return text.replace(text.find(part), part.size(), other);
+}
+
+StateTest::StateTest(const qvr7sim::Setup& setup) : virt(setup) { StartAnew(); }
+
+void StateTest::StartAnew() {
   ResetState();
   AppState.LanguageNo = 2;
   AppState.LangOffset = 10000;
+}
+
+void StateTest::InDialog(const std::string& view, std::vector<std::function<void()>> visits) {
+  forms.on_modal[view] = [visits = std::move(visits), next = std::size_t{0}](View&) mutable {
+    if (next < visits.size()) visits[next++]();
+  };
 }
 
 void StateTest::TearDown() {

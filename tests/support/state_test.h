@@ -1,16 +1,24 @@
 #pragma once
 
+// With what nearly every test of shared state uses: texts, devices, views.
+
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/reset_state.h"
 #include "device/dev_setting.h"
 #include "forms/control.h"
+#include "forms/frm_device.h"
 #include "platform/doors.h"
 #include "platform/sim_port.h"
 #include "state/app_state.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "state/views.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/virtual_clipboard.h"
 #include "tests/support/virtual_form_host.h"
@@ -43,6 +51,13 @@ void SetDevice(DevSettingRecord& device, const char* size, const char* speed, in
 /// The user chooses this entry; fails when the list does not offer it.
 void Pick(ComboBox& list, const std::string& text);
 
+/// The user chooses one axis's device; a speed or stroke that is not given stays.
+void PickDevice(DeviceView& view, int axis, const char* size, const char* speed = nullptr,
+                const char* stroke = nullptr);
+
+/// The text with this part of it replaced, where it stands first.
+std::string With(std::string text, const std::string& part, const std::string& other);
+
 /// Every test that touches shared state: start values, virtual doors, English.
 class StateTest : public ::testing::Test {
  protected:
@@ -51,6 +66,10 @@ class StateTest : public ::testing::Test {
   /// Fails when a box or dialogue came up that the script did not expect.
   void TearDown() override;
 
+  /// What the user does in a modal view, visit by visit; a visit more counts as unanswered.
+  void InDialog(const std::string& view, std::vector<std::function<void()>> visits);
+  /// Shared state as at the start, in English, for the next row of a table.
+  static void StartAnew();
   /// True when a box holds this text.
   bool BoxShown(const std::string& part) const;
   /// Texts of the boxes since the last call.
