@@ -7,11 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "core/main_entry.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
 #include "tests/ui/ui_test.h"
@@ -30,14 +27,7 @@ class GridTest : public UiTest {
 
   /// The tool offline, with the new table of 15 lines that it proposes.
   void Start(bool program_mode) {
-    desktop.settings.Set("Settings", "Language", "2");
-    user.on_modal["frmSelection"] = user.on_modal["frmSelection2"] = [program_mode](View& view) {
-      auto& selection = static_cast<SelectionView&>(view);
-      selection.options[selection.lblPrompt.Caption == Text(74) ? program_mode : 1]->Press();
-      selection.cmdOk.Press();
-    };
-    frmSplash.timerSplash.Interval = 10;
-    Main();
+    StartOffline(program_mode);
     frmPosi.cmdPosiNew.Press();
     ASSERT_EQ(grid.Rows(), kFirst + 15);
     Settle();

@@ -1,53 +1,38 @@
 // The position grid under real keys and a real mouse.
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_table.h"
 #include "tests/ui/grid_screen.h"
 
 namespace tr7 {
 namespace {
 
-TEST_F(GridTest, TypingReplacesTheCellAndEnterTakesItAndMovesOn) {
-  Keys("3");
-  EXPECT_EQ(Edited(), "3");
-  Keys("7");
-  EXPECT_EQ(Edited(), "37");
-  EXPECT_NE(Cell(kFirst, kVel), "37") << "not before the edit ends";
-  Key(Qt::Key_Return);
-  EXPECT_FALSE(table->IsEditing());
-  EXPECT_EQ(Cell(kFirst, kVel), "37");
-  EXPECT_EQ(Current(), At(kFirst, kAcc));
-  EXPECT_TRUE(frmPosi.PosiChanged);
-}
-
-TEST_F(GridTest, F2AndADoubleClickEditInPlace) {
+TEST_F(GridTest, AnEditReplacesOrKeepsTheCellAndCountsWhenItEnds) {
   const std::string old = Cell(kFirst, kVel);
+  Keys("37");
+  EXPECT_EQ(Edited() + "/" + Cell(kFirst, kVel), "37/" + old) << "not before the edit ends";
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Edited() + "/" + Cell(kFirst, kVel), "none/" + old);
   Key(Qt::Key_F2);
-  EXPECT_EQ(Edited(), old);
   Key(Qt::Key_End);
   Keys("5");
-  EXPECT_EQ(Edited(), old + "5");
+  EXPECT_EQ(Edited(), old + "5") << "in place";
   Key(Qt::Key_Escape);
-  EXPECT_EQ(Edited(), "none");
-  EXPECT_EQ(Cell(kFirst, kVel), old);
+  Key(Qt::Key_Backspace);
+  EXPECT_EQ(Edited(), "");
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  Keys("37");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Edited() + "/" + Cell(kFirst, kVel), "none/37");
+  EXPECT_EQ(Current(), At(kFirst, kAcc));
+  EXPECT_TRUE(frmPosi.PosiChanged);
   QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, Middle(kFirst + 2, kAcc));
   EXPECT_EQ(Edited(), Cell(kFirst + 2, kAcc));
   EXPECT_EQ(Current(), At(kFirst + 2, kAcc));
 }
 
-TEST_F(GridTest, BackspaceEmptiesAndDeleteAsksTheRule) {
-  Key(Qt::Key_Backspace);
-  EXPECT_EQ(Edited(), "");
-  Key(Qt::Key_Escape);
+TEST_F(GridTest, DeleteAsksTheRuleAndACommentStopsAt20Characters) {
   const std::string old = Cell(kFirst, kVel);
   Key(Qt::Key_Delete);
   EXPECT_EQ(Cell(kFirst, kVel), old) << "a number cell is never empty";
@@ -56,6 +41,8 @@ TEST_F(GridTest, BackspaceEmptiesAndDeleteAsksTheRule) {
   GoTo(kFirst, kComment);
   Key(Qt::Key_Delete);
   EXPECT_EQ(Cell(kFirst, kComment), "");
+  Keys("123456789012345678901234");
+  EXPECT_EQ(Edited(), "12345678901234567890");
 }
 
 TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
@@ -170,9 +157,9 @@ TEST_F(GridTest, ArrowsEndATypedEditAndMoveInsideOneInPlace) {
 
 TEST_F(GridTest, ShiftMovesTheOtherCornerOfTheSelection) {
   GoTo(5, 3);
-  Key(Qt::Key_Down, Qt::ShiftModifier);
-  Key(Qt::Key_Down, Qt::ShiftModifier);
-  Key(Qt::Key_Right, Qt::ShiftModifier);
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right}) {
+    Key(key, Qt::ShiftModifier);
+  }
   EXPECT_EQ(Current(), At(5, 3));
   EXPECT_EQ(Corner(), At(7, 4));
   Key(Qt::Key_End, Qt::ShiftModifier);
@@ -186,31 +173,29 @@ TEST_F(GridTest, ShiftMovesTheOtherCornerOfTheSelection) {
 }
 
 TEST_F(GridTest, TheMouseSelectsCellsLinesAndColumns) {
-  QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, Middle(4, 2));
-  EXPECT_EQ(Current(), At(4, 2));
-  QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ShiftModifier, Middle(6, 3));
-  EXPECT_EQ(Current(), At(4, 2));
-  EXPECT_EQ(Corner(), At(6, 3));
-  QTest::mousePress(table->viewport(), Qt::LeftButton, {}, Middle(7, 1));
-  QTest::mouseMove(table->viewport(), Middle(9, 2));
-  QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, Middle(9, 2));
-  EXPECT_EQ(Current(), At(7, 1));
-  EXPECT_EQ(Corner(), At(9, 2));
-  QHeaderView& lines = *table->verticalHeader();
+  QWidget* body = table->viewport();
+  QHeaderView &lines = *table->verticalHeader(), &columns = *table->horizontalHeader();
   const QPoint third(5, lines.sectionViewportPosition(2) + 5);
-  QTest::mouseClick(lines.viewport(), Qt::LeftButton, {}, third);
-  EXPECT_EQ(Current(), At(kFirst + 2, 1));
-  EXPECT_EQ(Corner(), At(kFirst + 2, kComment));
-  QHeaderView& columns = *table->horizontalHeader();
   const QPoint speed(columns.sectionViewportPosition(kVel - 1) + 5, columns.height() - 5);
+  const auto expect = [this](const At& current, const At& corner) {
+    EXPECT_EQ(Current(), current);
+    EXPECT_EQ(Corner(), corner);
+  };
+  QTest::mouseClick(body, Qt::LeftButton, {}, Middle(4, 2));
+  expect({4, 2}, {4, 2});
+  QTest::mouseClick(body, Qt::LeftButton, Qt::ShiftModifier, Middle(6, 3));
+  expect({4, 2}, {6, 3});
+  QTest::mousePress(body, Qt::LeftButton, {}, Middle(7, 1));
+  QTest::mouseMove(body, Middle(9, 2));
+  QTest::mouseRelease(body, Qt::LeftButton, {}, Middle(9, 2));
+  expect({7, 1}, {9, 2});
+  QTest::mouseClick(lines.viewport(), Qt::LeftButton, {}, third);
+  expect({kFirst + 2, 1}, {kFirst + 2, kComment});
   QTest::mouseClick(columns.viewport(), Qt::LeftButton, {}, speed);
-  EXPECT_EQ(Current(), At(kFirst, kVel));
-  EXPECT_EQ(Corner(), At(kFirst + 14, kVel));
+  expect({kFirst, kVel}, {kFirst + 14, kVel});
 }
 
-TEST_F(GridTest, TheFixedRowsAreTheHeaderAndNeverCells) {
-  EXPECT_EQ(table->model()->rowCount(), grid.Rows() - kPosiHeaderRows);
-  EXPECT_EQ(table->model()->columnCount(), grid.Cols() - grid.FixedCols);
+TEST_F(GridTest, TheFixedRowsAreNeverCells) {
   GoTo(0, 0);  // where a check leaves the cursor
   Keys("5");
   Key(Qt::Key_F2);
@@ -237,12 +222,6 @@ TEST_F(GridTest, TheInputMethodIsOffInNumberCells) {
   EXPECT_EQ(Cell(kFirst, kComment), "原点");
 }
 
-TEST_F(GridTest, ACommentStopsAt20Characters) {
-  GoTo(kFirst, kComment);
-  Keys("123456789012345678901234");
-  EXPECT_EQ(Edited(), "12345678901234567890");
-}
-
 TEST_F(GridTest, CopiesGoToTheSystemsClipboardAsASpreadsheetTakesThem) {
   grid.SetText(kFirst, kVel, "11");
   grid.SetText(kFirst + 1, kVel, "12");
@@ -250,10 +229,6 @@ TEST_F(GridTest, CopiesGoToTheSystemsClipboardAsASpreadsheetTakesThem) {
   Key(Qt::Key_Down, Qt::ShiftModifier);
   Key(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(Of(SystemText()), "11\r\n12");
-  GoTo(kFirst + 5, kVel);
-  Key(Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(Cell(kFirst + 5, kVel), "11");
-  EXPECT_EQ(Cell(kFirst + 6, kVel), "12");
   GoTo(kFirst, 1);
   Key(Qt::Key_End, Qt::ShiftModifier);
   Key(Qt::Key_C, Qt::ControlModifier);
@@ -261,41 +236,32 @@ TEST_F(GridTest, CopiesGoToTheSystemsClipboardAsASpreadsheetTakesThem) {
   EXPECT_TRUE(Of(SystemText()).starts_with("11\t"));
 }
 
-TEST_F(GridTest, WhatASpreadsheetCopiedIsPasted) {
+TEST_F(GridTest, WhatASpreadsheetCopiedIsPastedIntoCellsOrIntoTheOpenEdit) {
   for (const char* text : {"21\n22\n23\n", "21\r\n22\r\n23\r\n", "21\r22\r23"}) {
     for (int row = kFirst; row < kFirst + 4; ++row) grid.SetText(row, kVel, "30");
     QGuiApplication::clipboard()->setText(text);
     GoTo(kFirst, kVel);
     Key(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Cell(kFirst, kVel), "21");
-    EXPECT_EQ(Cell(kFirst + 1, kVel), "22");
-    EXPECT_EQ(Cell(kFirst + 2, kVel), "23");
-    EXPECT_EQ(Cell(kFirst + 3, kVel), "30");
+    std::string cells;
+    for (int row = kFirst; row < kFirst + 4; ++row) cells += Cell(row, kVel) + " ";
+    EXPECT_EQ(cells, "21 22 23 30 ");
   }
-}
-
-TEST_F(GridTest, CopyAndPasteInAnOpenEditAreTheEditsOwn) {
   QGuiApplication::clipboard()->setText("45");
   Key(Qt::Key_F2);
   Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Edited(), "45");
-  Key(Qt::Key_Return);
-  EXPECT_EQ(Cell(kFirst, kVel), "45");
 }
 
-TEST_F(GridTest, NothingIsEditedWhileTheGridIsOff) {
+TEST_F(GridTest, F6LeavesTheGridAndNothingIsEditedWhileItIsOff) {
+  table->setFocus();
+  ASSERT_TRUE(table->hasFocus() || !table->window()->isActiveWindow());
+  Key(Qt::Key_F6);
+  EXPECT_FALSE(table->hasFocus());
   grid.Enabled = false;
   Settle();
   Keys("5");
   QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, Middle(kFirst, kVel));
   EXPECT_FALSE(table->IsEditing());
-}
-
-TEST_F(GridTest, F6LeavesTheGridForTheOtherControls) {
-  table->setFocus();
-  ASSERT_TRUE(table->hasFocus() || !table->window()->isActiveWindow());
-  Key(Qt::Key_F6);
-  EXPECT_FALSE(table->hasFocus());
 }
 
 class ProgramGridTest : public GridTest {
