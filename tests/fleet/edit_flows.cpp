@@ -4,8 +4,8 @@
 #include "forms/frm_posi.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

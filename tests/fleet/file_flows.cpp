@@ -7,10 +7,8 @@
 #include "posi/posi_caption.h"
 #include "posi/posi_table.h"
 #include "state/text.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/user.h"
-#include "tests/fleet/weather.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

@@ -7,8 +7,8 @@
 #include "posi/posi_table.h"
 #include "posi/posi_wire.h"
 #include "state/text.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

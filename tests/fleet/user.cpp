@@ -1,5 +1,3 @@
-#include "tests/fleet/user.h"
-
 #include <algorithm>
 
 #include "forms/frm_device.h"
@@ -7,6 +5,7 @@
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "state/text.h"
+#include "tests/fleet/voyage.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
