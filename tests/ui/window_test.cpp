@@ -70,6 +70,16 @@ TEST_F(WindowTest, ClosingTheWindowEndsTheToolUnlessSomethingSpeaksAgainstIt) {
   EXPECT_TRUE(close());
 }
 
+TEST_F(WindowTest, TheToolBarOpensPositionsAndFileCloseSparesThem) {
+  StartOffline();
+  frmMain.mnuViewPara.Press();
+  ASSERT_NE(ActiveView(), &frmPosi);
+  frmMain.tbToolBar.Press("Open");
+  EXPECT_EQ(ActiveView(), &frmPosi) << "whichever view was in front";
+  frmMain.mnuFileClose.Click();
+  EXPECT_TRUE(frmPosi.Visible);
+}
+
 TEST_F(WindowTest, TheMenusExitGoesOnWhileBusy) {
   StartOffline();
   AppState.ComBusy = True;
