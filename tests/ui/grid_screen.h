@@ -41,21 +41,31 @@ class GridTest : public UiTest {
     grid.SelectCell(row, col);
     Settle();
   }
-  /// To whatever has the keys: the open editor, else the grid.
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWidget* target = table->Editor();
-    QTest::keyClick(target ? target : table, key, modifiers);
-    Settle();
+  /// Keys by their names, "Shift+Down Return", to whatever has them: the open editor, else the
+  /// grid.
+  void Press(const char* keys) {
+    for (const QString& name : QString(keys).split(' ')) {
+      const QKeyCombination key = QKeySequence::fromString(name)[0];
+      QWidget* target = table->Editor();
+      QTest::keyClick(target ? target : table, key.key(), key.keyboardModifiers());
+      Settle();
+    }
   }
-  void Keys(const char* text) {
+  void Type(const char* text) {
     for (; *text; ++text) {
       QWidget* target = table->Editor();
       QTest::keyClick(target ? target : table, *text);
     }
   }
   std::string Cell(int row, int col) const { return grid.Text(row, col); }
-  std::pair<int, int> Current() const { return {grid.Row, grid.Col}; }
-  std::pair<int, int> Corner() const { return {grid.RowSel, grid.ColSel}; }
+  void ClickAt(int row, int col, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers, Middle(row, col));
+  }
+  void DoubleClickAt(int row, int col) {
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, Middle(row, col));
+  }
+  At Current() const { return {grid.Row, grid.Col}; }
+  At Corner() const { return {grid.RowSel, grid.ColSel}; }
   std::string Edited() const { return table->Editor() ? Of(table->Editor()->text()) : "none"; }
   static std::string Of(const QString& text) { return text.toStdString(); }
   QPoint Middle(int row, int col) const { return table->CellRect(row, col).center(); }
