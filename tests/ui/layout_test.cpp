@@ -125,56 +125,42 @@ TEST_P(LayoutTest, TheTabKeyFollowsTheRecord) {
   }
 }
 
-/// The letters behind "&", with what they stand on.
-class Mnemonics {
- public:
-  void Add(const QString& text, const std::string& name) {
+/// No two texts have the same letter behind their "&".
+void ExpectOneLetterEach(const QStringList& texts, const std::string& where) {
+  std::map<QChar, QString> taken;
+  for (const QString& text : texts) {
     const auto mark = text.indexOf('&');
-    if (mark < 0 || mark + 1 >= text.size() || text[mark + 1] == '&') return;
-    taken_[text[mark + 1].toUpper()] += " " + name;
+    if (mark < 0 || mark + 1 >= text.size() || text[mark + 1] == '&') continue;
+    QString& other = taken[text[mark + 1].toUpper()];
+    EXPECT_EQ(other.toStdString(), "") << where << ": " << text.toStdString();
+    other = text;
   }
-  std::string Clashes() const {
-    std::string clashes;
-    for (const auto& [letter, names] : taken_) {
-      if (std::count(names.begin(), names.end(), ' ') > 1) {
-        clashes += QString(letter).toStdString() + ":" + names + "\n";
-      }
-    }
-    return clashes;
-  }
+}
 
- private:
-  std::map<QChar, std::string> taken_;
-};
-
-void ExpectNoClashesIn(const QList<QAction*>& actions, const std::string& where) {
-  Mnemonics mnemonics;
+/// Texts of the actions; those of the menus below them are looked at by the way.
+QStringList TextsOf(const QList<QAction*>& actions) {
+  QStringList texts;
   for (const QAction* action : actions) {
-    mnemonics.Add(action->text(), action->objectName().toStdString());
-    if (action->menu()) {
-      ExpectNoClashesIn(action->menu()->actions(), action->text().toStdString());
-    }
+    texts << action->text();
+    if (!action->menu()) continue;
+    ExpectOneLetterEach(TextsOf(action->menu()->actions()), action->text().toStdString());
   }
-  EXPECT_EQ(mnemonics.Clashes(), "") << where;
+  return texts;
 }
 
 TEST_P(LayoutTest, NoTwoMnemonicsOfAViewOrMenuAreTheSame) {
   for (const BoundView* bound : DrawAll()) {
-    Mnemonics mnemonics;
+    QStringList texts;
     for (const Control* control : bound->Record().Controls) {
-      const QWidget* widget = bound->WidgetOf(*control);
-      if (widget) mnemonics.Add(Q(control->Caption), control->Name);
+      if (bound->WidgetOf(*control)) texts << Q(control->Caption);
     }
     // A view inside the frame shares the Alt key with the menu bar.
     for (const QMenuBar* bar : bound->Window().window()->findChildren<QMenuBar*>()) {
-      for (const QAction* menu : bar->actions()) {
-        mnemonics.Add(menu->text(), menu->menu()->objectName().toStdString());
-        ExpectNoClashesIn(menu->menu()->actions(), menu->text().toStdString());
-      }
+      texts << TextsOf(bar->actions());
     }
-    EXPECT_EQ(mnemonics.Clashes(), "") << bound->Record().Name;
+    ExpectOneLetterEach(texts, bound->Record().Name);
     for (const QMenu* menu : bound->Window().findChildren<QMenu*>("mnuPopup")) {
-      ExpectNoClashesIn(menu->actions(), "the popup");
+      ExpectOneLetterEach(TextsOf(menu->actions()), "the popup");
     }
   }
 }
