@@ -70,7 +70,7 @@ bool TableState::IsKeptIn(const TableState& later) const {
   return true;
 }
 
-TableState TableNow(int file_calls) {
+TableState TableNow(const Voyage& voyage) {
   TableState table;
   table.first = AppState.PosiFirstNo;
   table.last = AppState.PosiLastNo;
@@ -78,7 +78,7 @@ TableState TableNow(int file_calls) {
   table.changed = frmPosi.PosiChanged;
   table.machine = MachineOfPc();
   table.in_mm = AppState.DispMmUnit;
-  table.file_calls = file_calls;
+  table.file_calls = voyage.virt.files.Calls();
   const Grid& grid = frmPosi.flgdData;
   for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
     for (int col = 0; col < kPosiColumns; ++col) table.texts.push_back(grid.Text(row, col));

@@ -7,6 +7,7 @@
 #include "device/dev_setting.h"
 #include "sim/controller.h"
 #include "state/app_state.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 
@@ -37,7 +38,7 @@ struct TableState {
   bool IsKeptIn(const TableState& later) const;
 };
 
-TableState TableNow(int file_calls);
+TableState TableNow(const Voyage& voyage);
 
 /// The controller's positions and parameter blocks.
 struct CtMemory {

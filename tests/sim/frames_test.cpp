@@ -81,7 +81,7 @@ TEST(Frames, ModeAndMaskTakeEffectAtThePowerCycleAfterTheirCommit) {
     Talk(pc, "0WD0" + block + ">0WD0 0RV>0RV140R4M" + (commit ? " 0WE>0WE" : "") + " 0RD0>0RD0" +
                  block + " 0RA>0RAF 0MG01>0%%003");
     pc.controller.PowerCycle(pc.now_us);
-    Talk(pc, commit ? "0RA>0RA5 0MG01>0MG01" : "0RA>0RAF 0MG01>0%%003");
+    Talk(pc, commit ? "0RA>0RA5 0RH>0RH0 0MG01>0MG01" : "0RA>0RAF 0MG01>0%%003");
     EXPECT_EQ(pc.controller.RunningMode(), commit ? Mode::kProgram : Mode::kPosition);
   }
   // A mask without a fitted axis leaves the one before.
@@ -93,36 +93,6 @@ TEST(Frames, ModeAndMaskTakeEffectAtThePowerCycleAfterTheirCommit) {
   Talk(pc, "0WD0" + block + ">0WD0 0WE>0WE");
   pc.controller.PowerCycle(pc.now_us);
   EXPECT_EQ(pc.controller.RunningMask(), 3u);
-}
-
-TEST(Frames, PositionRecordsSurviveTheLine) {
-  PositionRecord record;
-  record.axis[0] = {48, 10, 1, 10000, 70, 99};
-  record.axis[3] = {4095, 200, 3, 262143, 20, 1};
-  record.itpl = 1;
-  record.out = 15;
-  record.sm = 20;
-  const std::string digits = EncodePosition(record);
-  EXPECT_EQ(digits.substr(0, 14) + digits.substr(42), "0300A427104663FFFC8FFFFF14011F14");
-  PositionRecord back;
-  ASSERT_TRUE(DecodePosition(digits, &back));
-  EXPECT_EQ(EncodePosition(back), digits);
-  EXPECT_FALSE(DecodePosition(digits.substr(1), &back));
-  EXPECT_FALSE(DecodePosition("X" + digits.substr(1), &back));
-}
-
-TEST(Frames, RestAndHomeDigitsForAnyMask) {
-  for (unsigned mask = 1; mask <= 15; ++mask) {
-    qvr7sim::Setup setup = qvr7sim::Setup::Useful();
-    setup.mask = mask;
-    setup.homed = true;
-    const std::string digit(1, "0123456789ABCDEF"[mask]);
-    Exchange pc(setup);
-    Talk(pc, "0RA>0RA" + digit + " 0RH>0RH" + digit);
-    setup.rest_as_f = true;
-    Exchange all(setup);
-    Talk(all, "0RA>0RAF 0RH>0RHF");
-  }
 }
 
 TEST(Frames, AnyLineGetsExactlyOneReplyLine) {

@@ -4,7 +4,6 @@
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_posi.h"
-#include "forms/frm_selection.h"
 #include "forms/frm_stroke_calc.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
@@ -14,7 +13,7 @@
 namespace tr7::tour {
 namespace {
 
-constexpr int kOfflineText = 5117, kVersionText = 416;
+constexpr int kOfflineText = 5117;
 constexpr std::size_t kFirst = 0, kSecond = 1;
 
 // From the splash to a table read from the controller; a controller that is silent, and an alarm.
@@ -26,20 +25,16 @@ void BreakOffReading(User& user) {
   user.See("a third of the read", [] { return frmMain.ProgressBar1.Value > 12; });
   user.Picture("reading");
   user.Click(frmMain.cmdComCancel);
-  user.SeeBox(Text(kStopped));
-  user.Picture("reading-stopped");
-  user.Answer(MsgAnswer::Ok);
+  user.AnswerBox(Text(kStopped), MsgAnswer::Ok, "reading-stopped");
   user.SeeReady();
 }
 
 void MeetSilence(User& user) {
-  constexpr int kNoAnswer = 100, kWhatToDo = 103;
+  constexpr int kNoAnswer = 100;
   user.TellSim("silence on");
   StartReading(user);
-  user.SeeBox(Text(kNoAnswer), User::kTransferMs);  // four sends of 5 s each
-  user.SeeBox(Text(kWhatToDo));
-  user.Picture("time-out");
-  user.Answer(MsgAnswer::Ok);
+  // After four sends of 5 s each.
+  user.AnswerBox(Text(kNoAnswer), MsgAnswer::Ok, "time-out", User::kTransferMs);
   user.SeeText(frmMain.lblOnline, Text(kOfflineText));
   user.SeeReady();
   user.TellSim("silence off");
@@ -52,9 +47,7 @@ void MeetAlarm(User& user) {
   const char* const name = AppState.LanguageNo == 1 ? "過電流" : "Overcurrent";
   user.TellSim("alarm 1 2");
   StartReading(user);
-  user.SeeBox(name);
-  user.Picture("alarm-box");
-  user.Answer(MsgAnswer::Ok);
+  user.AnswerBox(name, MsgAnswer::Ok, "alarm-box");
   user.SeeReady();
   user.SeePanel(kPanelError, name);
   user.SeeLamp(frmMain.imgAlarm, true);
@@ -133,9 +126,7 @@ void ChooseDevices(User& user) {
 void StartOffline(User& user) {
   constexpr int kWhichMode = 74, kPositionerMode = 128;
   PassSplash(user, false);
-  user.SeeText(frmSelection.lblPrompt, Text(kWhichMode));
-  user.Picture("offline-mode");
-  user.Click(frmSelection.cmdOk);
+  Choose(user, kWhichMode, "offline-mode");
   ChooseDevices(user);
   user.SeeText(frmMain.lblOnline, Text(kOfflineText));
   user.SeeText(frmMain.lblCtMode, Text(kPositionerMode));
@@ -178,8 +169,7 @@ void ShowParameters(User& user) {
   RefuseParameter(user);
   CalculateStroke(user);
   user.Click(frmParameta2.cmdClose);
-  user.SeeBox(Text(kSaveBeforeClose));
-  user.Answer(MsgAnswer::No);
+  user.AnswerBox(Text(kSaveBeforeClose), MsgAnswer::No);
   user.SeeGone(frmParameta2);
   user.SeeReady();
 }
@@ -187,16 +177,12 @@ void ShowParameters(User& user) {
 void TakeAwayAnAxis(User& user) {
   constexpr int kWhichDevices = 41, kAxesChanged = 1151;
   user.Choose(frmMain.mnuSetting, frmMain.mnuSettingDevice);
-  user.SeeText(frmSelection.lblPrompt, Text(kWhichDevices));
-  user.Picture("device-source");
-  user.Click(frmSelection.cmdOk);
+  Choose(user, kWhichDevices, "device-source");
   user.SeeOn(frmDevice2.comboAxisSelect);
   user.Picture("device-dialogue");
   user.Pick(frmDevice2.comboAxisSelect, 1);
   user.Click(frmDevice2.cmdDeviceSet);
-  user.SeeBox(Text(kAxesChanged));
-  user.Picture("device-axes-changed");
-  user.Answer(MsgAnswer::Yes);
+  user.AnswerBox(Text(kAxesChanged), MsgAnswer::Yes, "device-axes-changed");
   user.SeeReady();
   user.See("two axes left", [] { return bool(AppState.AxisMuko[2]); });
 }
@@ -205,12 +191,8 @@ void TakeAwayAnAxis(User& user) {
 void Reconcile(User& user) {
   constexpr int kModesDiffer = 490, kDevicesDiffer = 371;
   user.Choose(frmMain.mnuSetting, frmMain.mnuSettingOnline);
-  user.SeeText(frmSelection.lblPrompt, Text(kModesDiffer));
-  user.Picture("reconcile-mode");
-  user.Click(frmSelection.cmdOk);
-  user.SeeText(frmSelection.lblPrompt, Text(kDevicesDiffer));
-  user.Picture("reconcile-devices");
-  user.Click(frmSelection.cmdOk);
+  Choose(user, kModesDiffer, "reconcile-mode");
+  Choose(user, kDevicesDiffer, "reconcile-devices");
   SeeOnline(user, true);
   user.Picture("reconciled");
 }

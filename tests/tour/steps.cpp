@@ -46,11 +46,9 @@ void SeeResult(User& user, MsgId title, const std::initializer_list<std::string>
   user.SeeReady();
 }
 
-/// A box that only tells.
+/// A box that only tells, at the end of a transfer.
 void SeeTold(User& user, MsgId text, const char* picture) {
-  user.SeeBox(Text(text), User::kTransferMs);
-  user.Picture(picture);
-  user.Answer(MsgAnswer::Ok);
+  user.AnswerBox(Text(text), MsgAnswer::Ok, picture, User::kTransferMs);
   user.SeeReady();
 }
 
@@ -63,16 +61,20 @@ void AcceptRange(User& user, SelectPosiNoView& range, const char* picture) {
 
 }  // namespace
 
+void Choose(User& user, MsgId prompt, const char* picture, bool second) {
+  user.SeeText(frmSelection.lblPrompt, Text(prompt));
+  user.Picture(picture);
+  if (second) user.Click(frmSelection.optChoice2);
+  user.Click(frmSelection.cmdOk);
+}
+
 void PassSplash(User& user, bool online) {
   user.SeeText(frmSplash.lblProduct, "QV-TR7");
   user.Picture("splash");
   // Texts are asked for when the tool knows its language.
   user.SeeOn(frmSelection.cmdOk);
-  user.SeeText(frmSelection.lblPrompt, Text(kOnlineOrOffline));
   user.SeeGone(frmSplash);
-  user.Picture("choice");
-  if (!online) user.Click(frmSelection.optChoice2);
-  user.Click(frmSelection.cmdOk);
+  Choose(user, kOnlineOrOffline, "choice", !online);
 }
 
 void SeeOnline(User& user, bool program_mode) {
@@ -91,9 +93,7 @@ void StartReading(User& user, bool pictures) {
   user.SeeText(frmSelectPosiNo2.txtToNo, "40");
   if (pictures) user.Picture("range");
   user.Click(frmSelectPosiNo2.cmdOk);
-  user.SeeBox(Text(kConfirmRead));
-  if (pictures) user.Picture("confirm-read");
-  user.Answer(MsgAnswer::Ok);
+  user.AnswerBox(Text(kConfirmRead), MsgAnswer::Ok, pictures ? "confirm-read" : nullptr);
 }
 
 void ReadAll(User& user) {
@@ -154,9 +154,7 @@ void CheckTable(User& user, const Cell& cell, const std::string& text) {
 
 void SaveNew(User& user, const QString& path) {
   user.Click(frmPosi.cmdPosiSave);
-  user.SeeFileDialog();
-  user.Picture("save-dialogue");
-  user.ChooseFile(path);
+  user.ChooseFile(path, "save-dialogue");
   SeeSaved(user, path);
   user.Picture("saved");
 }
@@ -164,18 +162,15 @@ void SaveNew(User& user, const QString& path) {
 void SaveAs(User& user, const QString& path) {
   user.Click(frmPosi.cmdPosiSaveAs);
   AcceptRange(user, frmSelectPosiNo3, "save-range");
-  user.SeeBox(Text(kConfirmSave));
-  user.Answer(MsgAnswer::Ok);
-  user.SeeFileDialog();
-  user.ChooseFile(path);
+  user.AnswerBox(Text(kConfirmSave), MsgAnswer::Ok);
+  user.ChooseFile(path, "save-as-dialogue");
   SeeSaved(user, path);
 }
 
 void WriteAll(User& user) {
   user.Click(frmPosi.cmdPosiWrite);
   AcceptRange(user, frmSelectPosiNo3, "write-range");
-  user.SeeBox(Text(kConfirmWrite));
-  user.Answer(MsgAnswer::Ok);
+  user.AnswerBox(Text(kConfirmWrite), MsgAnswer::Ok);
   user.SeeText(frmMain.lblStatus, Text(kSendingText));
   user.SeeOn(frmMain.cmdComCancel);
   user.See("a third of the write",
@@ -200,20 +195,15 @@ void VerifyDifferent(User& user, const std::string& own, const std::string& othe
 
 void VerifyFile(User& user, const QString& path, const std::string& own) {
   user.Click(frmPosi.cmdPosiFileVerify);
-  user.SeeFileDialog();
-  user.ChooseFile(path);
+  user.ChooseFile(path, "verify-file-dialogue");
   AcceptRange(user, frmSelectPosiNo4, "verify-file-range");
   SeeResult(user, kDifferentTitle, {own, NameOf(path)}, "verify-file");
 }
 
 void OpenAgain(User& user, const QString& path, const Cell& cell, const std::string& saved) {
   user.Click(frmPosi.cmdPosiOpen);
-  user.SeeBox(Text(kDropChanges));
-  user.Picture("open-question");
-  user.Answer(MsgAnswer::No);
-  user.SeeFileDialog();
-  user.Picture("open-dialogue");
-  user.ChooseFile(path);
+  user.AnswerBox(Text(kDropChanges), MsgAnswer::No, "open-question");
+  user.ChooseFile(path, "open-dialogue");
   SeeCell(user, cell, saved);
   SeeSaved(user, path);
   user.Picture("opened");

@@ -8,6 +8,8 @@ namespace tr7::tour {
 
 // The steps that scripts are made of. Each ends with the commands on again.
 
+/// Waits for the choice box with this prompt and takes its first choice, or the second.
+void Choose(User& user, MsgId prompt, const char* picture, bool second = false);
 /// Waits for the first choice behind the splash, and answers it.
 void PassSplash(User& user, bool online);
 void SeeOnline(User& user, bool program_mode);

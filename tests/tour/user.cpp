@@ -181,7 +181,11 @@ void User::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   Act([key, modifiers] { PressKey(key, modifiers); });
 }
 
-void User::Answer(MsgAnswer answer) {
+void User::AnswerBox(const std::string& part, MsgAnswer answer, const char* picture,
+                     int within_ms) {
+  const auto seen = [part] { return Says(FrontDialog<QMessageBox>(), part); };
+  See("a box with \"" + part + "\"", seen, within_ms);
+  if (picture) Picture(picture);
   ClickPlace("the box's button", [answer]() -> Place {
     const auto* box = FrontDialog<QMessageBox>();
     QAbstractButton* button = box ? ButtonOf(*box, answer) : nullptr;
@@ -190,7 +194,9 @@ void User::Answer(MsgAnswer answer) {
   });
 }
 
-void User::ChooseFile(const QString& path) {
+void User::ChooseFile(const QString& path, const char* picture) {
+  See("the file dialogue", [] { return FrontDialog<QFileDialog>() != nullptr; });
+  Picture(picture);
   ClickPlace("the file's name", []() -> Place {
     const auto* dialog = FrontDialog<QFileDialog>();
     auto* name = dialog ? dialog->findChild<QLineEdit*>("fileNameEdit") : nullptr;
@@ -287,15 +293,6 @@ void User::SeePanel(int panel, const std::string& part) {
     const auto labels = bar.template findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
     return panel < labels.size() && Says(labels[panel], part);
   });
-}
-
-void User::SeeBox(const std::string& part, int within_ms) {
-  const auto seen = [part] { return Says(FrontDialog<QMessageBox>(), part); };
-  See("a box with \"" + part + "\"", seen, within_ms);
-}
-
-void User::SeeFileDialog() {
-  See("the file dialogue", [] { return FrontDialog<QFileDialog>() != nullptr; });
 }
 
 void User::SeeReady(int within_ms) {

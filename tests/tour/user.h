@@ -40,10 +40,11 @@ class User {
   void ClickCell(Grid& grid, int row, int col);
   void Keys(const std::string& text);
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-  /// Presses that button of the box in front.
-  void Answer(MsgAnswer answer);
-  /// Types the path into the file dialogue in front and confirms.
-  void ChooseFile(const QString& path);
+  /// Waits for a box with this text, takes its picture where that has a name, and presses a button.
+  void AnswerBox(const std::string& part, MsgAnswer answer, const char* picture = nullptr,
+                 int within_ms = kSoonMs);
+  /// Waits for the file dialogue, takes its picture, types the path and confirms.
+  void ChooseFile(const QString& path, const char* picture);
   /// Gives the simulated controller a command.
   void TellSim(const char* command);
 
@@ -65,9 +66,6 @@ class User {
   void SeeTitle(View& view, const std::string& part);
   /// The status bar's panel says this.
   void SeePanel(int panel, const std::string& part);
-  /// A box with this text is in front.
-  void SeeBox(const std::string& part, int within_ms = kSoonMs);
-  void SeeFileDialog();
   /// The commands are on again and nothing is asked.
   void SeeReady(int within_ms = kSoonMs);
 
