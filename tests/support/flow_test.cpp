@@ -65,17 +65,6 @@ void FlowTest::Forget() {
   asked.clear();
 }
 
-void FlowTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request,
-                     int at_byte) {
-  qvr7sim::Fault fault;
-  fault.kind = kind;
-  fault.prefix = prefix;
-  fault.at_request = at_request;
-  fault.probability = at_request == 0 ? 1 : 0;
-  fault.at_byte = at_byte;
-  port.Ct().AddFault(fault);
-}
-
 void FlowTest::Choose(std::vector<int> choices) { choices_ = std::move(choices); }
 
 void FlowTest::StartOnline() {

@@ -29,9 +29,6 @@ class FlowTest : public StateTest {
   void GoOffline();
   /// What was sent, shown and asked so far is forgotten.
   void Forget();
-  /// A fault at the `at_request`-th request that begins with `prefix`; 0: at every one.
-  void Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request = 1,
-             int at_byte = -1);
   /// The next choice boxes are answered in this order: 0, 1, or -1 for cancel.
   void Choose(std::vector<int> choices);
   /// The next range dialogue `name` is answered with this range.

@@ -17,20 +17,15 @@ void LinkTest::Axes(bool a1, bool a2, bool a3, bool a4) {
 }
 
 std::vector<std::string> LinkTest::Sent() {
-  std::vector<std::string> lines;
-  std::string rest = port.sent;
+  std::vector<std::string> lines = LinesSent();
   port.sent.clear();
-  for (std::size_t end; (end = rest.find("\r\n")) != std::string::npos; rest.erase(0, end + 2)) {
-    lines.push_back(rest.substr(0, end));
-  }
   return lines;
 }
 
 std::string LinkTest::Commands(std::size_t characters) {
-  std::string all;
-  for (const std::string& line : Sent()) {
-    all += (all.empty() ? "" : " ") + line.substr(0, characters);
-  }
+  std::string all = SentLines(characters);
+  port.sent.clear();
+  if (!all.empty()) all.pop_back();
   return all;
 }
 
@@ -41,12 +36,7 @@ void LinkTest::Plant(const std::string& line) {
 }
 
 void LinkTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_byte) {
-  qvr7sim::Fault fault;
-  fault.kind = kind;
-  fault.prefix = prefix;
-  fault.at_request = 1;
-  fault.at_byte = at_byte;
-  port.Ct().AddFault(fault);
+  StateTest::Spoil(kind, prefix, 1, at_byte);
 }
 
 }  // namespace tr7

@@ -40,13 +40,30 @@ Texts StateTest::Boxes() {
   return texts;
 }
 
-std::string StateTest::SentLines(std::size_t characters) const {
-  std::string lines;
+Texts StateTest::LinesSent() const {
+  Texts lines;
   for (std::size_t at = 0, end; (end = port.sent.find("\r\n", at)) != std::string::npos;) {
-    lines += port.sent.substr(at, std::min(characters, end - at)) + " ";
+    lines.push_back(port.sent.substr(at, end - at));
     at = end + 2;
   }
   return lines;
+}
+
+std::string StateTest::SentLines(std::size_t characters) const {
+  std::string lines;
+  for (const std::string& line : LinesSent()) lines += line.substr(0, characters) + " ";
+  return lines;
+}
+
+void StateTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request,
+                      int at_byte) {
+  qvr7sim::Fault fault;
+  fault.kind = kind;
+  fault.prefix = prefix;
+  fault.at_request = at_request;
+  fault.probability = at_request == 0 ? 1 : 0;
+  fault.at_byte = at_byte;
+  port.Ct().AddFault(fault);
 }
 
 void StateTest::PutList(const char* name, const std::string& content) {

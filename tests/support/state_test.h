@@ -34,8 +34,14 @@ class StateTest : public ::testing::Test {
   bool BoxShown(const std::string& part) const;
   /// Texts of the boxes since the last call.
   Texts Boxes();
+  /// Lines sent, without their ends.
+  Texts LinesSent() const;
   /// The first `characters` of every line sent, one blank behind each.
   std::string SentLines(std::size_t characters = std::string::npos) const;
+  /// A fault at the `at_request`-th request that begins with `prefix`; 0: at every one. Bytes of a
+  /// reply count from 0.
+  void Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request = 1,
+             int at_byte = -1);
   /// Puts a file into the program's folder in the place of its own.
   void PutList(const char* name, const std::string& content);
 

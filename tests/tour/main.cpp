@@ -109,12 +109,8 @@ int Play(const Script& script, int language, const Arguments& arguments) {
 bool PlayApart(const QString& session, const Arguments& arguments) {
   std::printf("session %s\n", qPrintable(session));
   std::fflush(stdout);
-  QProcess process;
-  process.setProcessChannelMode(QProcess::ForwardedChannels);
-  process.start(QCoreApplication::applicationFilePath(),
-                {"--sim", arguments.sim, "--play", session, arguments.folder});
-  process.waitForFinished(-1);
-  return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+  return QProcess::execute(QCoreApplication::applicationFilePath(),
+                           {"--sim", arguments.sim, "--play", session, arguments.folder}) == 0;
 }
 
 /// The sessions asked for; without a name all of them.

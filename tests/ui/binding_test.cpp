@@ -89,38 +89,31 @@ TEST_F(BindingTest, EnterAndTheFocusReachTheRecord) {
   EXPECT_EQ(Events(), "got enter undo lost ");
 }
 
-TEST_F(BindingTest, OneOptionOfAGroupIsChosen) {
-  frmOptions2.optUnitPulse.Click = Note("click");
-  frmOptions2.optUnitMm.Choose();
-  frmOptions2.optJapanese.Choose();
-  auto& millimetres = Draw<QRadioButton>(frmOptions2.optUnitMm);
-  auto& pulses = Draw<QRadioButton>(frmOptions2.optUnitPulse);
+TEST_F(BindingTest, ChecksAndOptionsGoBothWaysAndOneOfAGroupIsChosen) {
+  FrmOptions2& view = frmOptions2;
+  view.optUnitPulse.Click = Note("pulse");
+  view.optUnitMm.Choose();
+  view.optJapanese.Choose();
+  auto& millimetres = Draw<QRadioButton>(view.optUnitMm);
+  auto& pulses = Draw<QRadioButton>(view.optUnitPulse);
+  auto& occupy = Draw<QCheckBox>(view.chkPortOccupy);
   EXPECT_TRUE(millimetres.isChecked());
   pulses.click();
+  occupy.click();
   Settle();
-  EXPECT_EQ(Events(), "click ");
-  EXPECT_TRUE(frmOptions2.optUnitPulse.Value && !frmOptions2.optUnitMm.Value);
+  EXPECT_EQ(Events(), "pulse ");
+  EXPECT_TRUE(view.optUnitPulse.Value && !view.optUnitMm.Value && view.chkPortOccupy.Value);
   EXPECT_FALSE(millimetres.isChecked());
-  EXPECT_TRUE(frmOptions2.optJapanese.Value) << "another group";
-  frmOptions2.optUnitPulse.Value = false;
+  EXPECT_TRUE(view.optJapanese.Value) << "another group";
+  view.optUnitPulse.Value = view.chkPortOccupy.Value = false;
   Settle();
   EXPECT_FALSE(millimetres.isChecked() || pulses.isChecked()) << "no choice at all";
-}
-
-TEST_F(BindingTest, ACheckBoxGoesBothWays) {
-  CheckBox& record = frmOptions2.chkPortOccupy;
-  auto& box = Draw<QCheckBox>(record);
-  record.Click = Note("click");
-  box.click();
-  EXPECT_TRUE(record.Value);
-  record.Value = false;
+  EXPECT_FALSE(occupy.isChecked());
+  view.chkPortOccupy.Click = [&view] { view.chkPortOccupy.Value = false; };  // logic that refuses
+  occupy.click();
   Settle();
-  EXPECT_FALSE(box.isChecked());
-  EXPECT_EQ(Events(), "click ");
-  record.Click = [&record] { record.Value = false; };  // logic that refuses
-  box.click();
-  Settle();
-  EXPECT_FALSE(box.isChecked());
+  EXPECT_FALSE(occupy.isChecked());
+  EXPECT_EQ(Events(), "");
 }
 
 TEST_F(BindingTest, AComboBoxGoesBothWays) {

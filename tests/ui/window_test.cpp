@@ -193,30 +193,31 @@ TEST_F(WindowTest, KeysPressTheirButtons) {
 
 // Dialogues.
 
-TEST_F(WindowTest, EscapeCancelsADialogueAndEnterIsItsDefault) {
-  const SelectionCall call{.Title = "title", .Prompt = "prompt", .Choices = {"one", "two"}};
-  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-    user.on_modal["frmSelection"] = [key, this](View& view) {
-      QTest::keyClick(&WindowOf(static_cast<SelectionView&>(view).cmdOk), key);
+TEST_F(WindowTest, KeysAnswerADialogueAndOneWithoutCancelStays) {
+  const struct {
+    Qt::Key key;
+    bool may_cancel;
+    Selection choice;
+  } rows[] = {{Qt::Key_Escape, true, Selection::Cancelled},
+              {Qt::Key_Return, true, Selection::First},
+              {Qt::Key_Escape, false, Selection::Second}};
+  for (const auto& row : rows) {
+    user.on_modal["frmSelection"] = [&row, this](View& view) {
+      auto& selection = static_cast<SelectionView&>(view);
+      QWidget& window = WindowOf(selection.cmdOk);
+      QTest::keyClick(&window, row.key);
+      if (row.may_cancel) return;
+      window.close();
+      EXPECT_TRUE(view.Visible);
+      selection.optChoice2.Press();
+      selection.cmdOk.Press();
     };
-    EXPECT_EQ(SelectionDialog(call),
-              key == Qt::Key_Escape ? Selection::Cancelled : Selection::First);
+    const SelectionCall call{.Title = "title",
+                             .Prompt = "prompt",
+                             .Choices = {"one", "two"},
+                             .MayCancel = row.may_cancel};
+    EXPECT_EQ(SelectionDialog(call), row.choice);
   }
-}
-
-TEST_F(WindowTest, ADialogueWithoutCancelStaysUntilItIsAnswered) {
-  user.on_modal["frmSelection"] = [this](View& view) {
-    auto& selection = static_cast<SelectionView&>(view);
-    QWidget& window = WindowOf(selection.cmdOk);
-    QTest::keyClick(&window, Qt::Key_Escape);
-    window.close();
-    EXPECT_TRUE(view.Visible);
-    selection.optChoice2.Press();
-    selection.cmdOk.Press();
-  };
-  const SelectionCall call{
-      .Title = "title", .Prompt = "prompt", .Choices = {"one", "two"}, .MayCancel = false};
-  EXPECT_EQ(SelectionDialog(call), Selection::Second);
 }
 
 // Boxes.
