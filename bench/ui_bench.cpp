@@ -11,7 +11,6 @@
 
 #include "bench/counting_port.h"
 #include "bench/figures.h"
-#include "bench/process_figures.h"
 #include "bench/splash_bench.h"
 #include "core/install_views.h"
 #include "core/main_entry.h"
@@ -41,14 +40,13 @@ struct Options {
 };
 
 Options OptionsOf(const QApplication& application) {
-  const QCommandLineOption sim("sim", "The simulated controller.", "program");
-  const QCommandLineOption tool("tool", "The tool.", "program");
   QCommandLineParser parser;
   parser.addHelpOption();
-  parser.addOptions({sim, tool});
+  parser.addOptions(
+      {{"sim", "The simulated controller.", "program"}, {"tool", "The tool.", "program"}});
   parser.process(application);
-  if (!parser.isSet(sim) || !parser.isSet(tool)) parser.showHelp(2);
-  return {parser.value(sim), parser.value(tool)};
+  if (!parser.isSet("sim") || !parser.isSet("tool")) parser.showHelp(2);
+  return {parser.value("sim"), parser.value("tool")};
 }
 
 /// The tool on this screen, and its user.
@@ -62,14 +60,12 @@ class Bench {
     doors.serial = &port_;
     doors.settings->Set("Settings", "Language", "1");  // its fonts are the larger ones
     doors.settings->Set("Settings", "PortDevice1", paced_.Path());
-    for (const char* choice : {"frmSelection", "frmSelection2"}) {
-      user_.on_modal[choice] = [this](View& view) {
-        auto& selection = static_cast<SelectionView&>(view);
-        if (first_choice_) selection.optChoice2.Press();  // offline
-        first_choice_ = false;
-        selection.cmdOk.Press();
-      };
-    }
+    user_.on_modal["frmSelection"] = user_.on_modal["frmSelection2"] = [this](View& view) {
+      auto& selection = static_cast<SelectionView&>(view);
+      if (first_choice_) selection.optChoice2.Press();  // offline
+      first_choice_ = false;
+      selection.cmdOk.Press();
+    };
     user_.on_modal["frmSelectPosiNo2"] = [this](View& view) {
       auto& range = static_cast<SelectPosiNoView&>(view);
       range.optRange.Press();
@@ -133,14 +129,12 @@ class Bench {
     doors.settings->Set("Settings", "PortDevice1", quick_.Path());
     if (Read(kPosiMaxNo) != 0) return 1;
     doors.forms->Refresh();
+    const auto fill = [] {
+      FG_ShowTable();
+      doors.forms->Refresh();
+    };
     constexpr int kFills = 15;
-    Report("grid_fill_999_ms",
-           MedianMsOf(kFills,
-                      [] {
-                        FG_ShowTable();
-                        doors.forms->Refresh();
-                      }),
-           2);
+    Report("grid_fill_999_ms", MedianMsOf(kFills, fill), 2);
     WaitMs(500);
     Report("rss_full_table_kb", static_cast<double>(ResidentKb()), 0);
     return 0;
@@ -178,7 +172,15 @@ class Bench {
   int last_no_ = kPosiMaxNo;
 };
 
-int Run(const Options& options) {
+}  // namespace
+}  // namespace tr7bench
+
+int main(int argc, char** argv) {
+  using namespace tr7bench;
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  tr7::look::Apply(application);
+  const Options options = OptionsOf(application);
   const QTemporaryDir folder;
   const double splash = SplashMs(options.tool, folder.filePath("splash.ini"));
   if (splash < 0) {
@@ -187,14 +189,4 @@ int Run(const Options& options) {
     Report("splash_ms", splash, 1);
   }
   return Bench(options, folder.filePath("settings.ini")).Run();
-}
-
-}  // namespace
-}  // namespace tr7bench
-
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  tr7::look::Apply(application);
-  return tr7bench::Run(tr7bench::OptionsOf(application));
 }

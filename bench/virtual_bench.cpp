@@ -1,9 +1,6 @@
 // The tool on the virtual doors: how much time the line is left unused, and how fast the logic is.
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "bench/counting_port.h"
@@ -15,50 +12,14 @@
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "platform/doors.h"
-#include "platform/sim_port.h"
 #include "posi/posi_check.h"
 #include "posi/posi_table.h"
-#include "tests/support/memory_files.h"
-#include "tests/support/virtual_clipboard.h"
-#include "tests/support/virtual_form_host.h"
-#include "tests/support/virtual_help_viewer.h"
-#include "tests/support/virtual_pump.h"
-#include "tests/support/virtual_settings.h"
+#include "tests/support/virtual_doors.h"
 
 namespace tr7bench {
 namespace {
 
 using namespace tr7;
-
-/// The tool on virtual doors, online with the simulated controller, and a user who says yes.
-struct Desk {
-  Desk();
-  ~Desk() { doors = Doors{}; }
-  Desk(const Desk&) = delete;
-  Desk& operator=(const Desk&) = delete;
-
-  /// Presses the button; the virtual time that its flow took, us.
-  std::int64_t Press(CommandButton& button) {
-    const std::int64_t start = pump.NowUs();
-    button.Press();
-    return pump.NowUs() - start;
-  }
-  /// The virtual time of the button's flow over the time of its bytes on the line.
-  double LineRatio(CommandButton& button) {
-    port.TakeLineUs();
-    const auto took = static_cast<double>(Press(button));
-    return took / static_cast<double>(port.TakeLineUs());
-  }
-
-  VirtualPump pump;
-  SimPort sim;
-  CountingPort port{sim};
-  VirtualFormHost forms;
-  VirtualSettings settings;
-  VirtualClipboard clipboard;
-  VirtualHelpViewer help;
-  MemoryFiles files;
-};
 
 void PressDefault(View& view) {
   for (Control* control : view.Controls) {
@@ -75,27 +36,37 @@ void ChooseAll(View& view) {
   range.cmdOk.Press();
 }
 
-Desk::Desk() {
-  doors = {&pump, &port, &settings, &forms, &clipboard, &files, &help};
-  for (const auto& entry : std::filesystem::directory_iterator(TR7_SOURCE_LISTS)) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    files.Put(files.program_folder + "/" + entry.path().filename().string(),
-              {std::istreambuf_iterator<char>(file), {}});
+/// The tool on virtual doors, online with the simulated controller, and a user who says yes.
+struct Desk : VirtualDoors {
+  Desk() {
+    doors.serial = &counted;
+    settings.Set("Settings", "Language", "2");
+    forms.on_any_modal = PressDefault;
+    forms.on_modal["frmSelectPosiNo2"] = forms.on_modal["frmSelectPosiNo3"] = ChooseAll;
+    forms.on_message_box = [](const MessageBoxCall& call) {
+      const bool ok = call.Buttons == MsgButtons::OkCancel;
+      return ok ? MsgAnswer::Ok : MsgAnswer::Yes;
+    };
+    ResetState();
+    InstallViews();
+    Main();
   }
-  settings.Set("Settings", "PortDevice1", "sim");
-  settings.Set("Settings", "Language", "2");
-  forms.on_any_modal = PressDefault;
-  for (const char* range : {"frmSelectPosiNo2", "frmSelectPosiNo3"}) {
-    forms.on_modal[range] = ChooseAll;
+
+  /// Presses the button; the virtual time that its flow took, us.
+  std::int64_t Press(CommandButton& button) {
+    const std::int64_t start = pump.NowUs();
+    button.Press();
+    return pump.NowUs() - start;
   }
-  forms.on_message_box = [](const MessageBoxCall& call) {
-    const bool ok = call.Buttons == MsgButtons::OkCancel;
-    return ok ? MsgAnswer::Ok : MsgAnswer::Yes;
-  };
-  ResetState();
-  InstallViews();
-  Main();
-}
+  /// The virtual time of the button's flow over the time of its bytes on the line.
+  double LineRatio(CommandButton& button) {
+    counted.TakeLineUs();
+    const auto took = static_cast<double>(Press(button));
+    return took / static_cast<double>(counted.TakeLineUs());
+  }
+
+  CountingPort counted{port};
+};
 
 void Fail(const char* what, const VirtualFormHost& forms) {
   std::fprintf(stderr, "tr7_bench: %s; last box: %s\n", what, forms.LastBox().c_str());
@@ -129,10 +100,10 @@ void Check(const Desk& desk) {
 }
 
 void Write(Desk& desk) {
-  desk.sim.sent.clear();
+  desk.port.sent.clear();
   Report("write999_virtual_ratio", desk.LineRatio(frmPosi.cmdPosiWrite), 4);
   const std::string commit = "0WA0013E7";  // the controller was told to keep all of them
-  if (desk.sim.sent.find(commit) == std::string::npos) Fail("nothing was written", desk.forms);
+  if (desk.port.sent.find(commit) == std::string::npos) Fail("nothing was written", desk.forms);
 }
 
 }  // namespace

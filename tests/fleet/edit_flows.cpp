@@ -4,8 +4,8 @@
 #include "forms/frm_posi.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {
@@ -81,9 +81,9 @@ void ChangeLines(Voyage& voyage) {
 
 /// The check either commits every line or shows which are bad; what is shown stays.
 void CheckTable(Voyage& voyage) {
-  const TableState before = TableNow(0);
+  const TableState before = TableNow(voyage);
   frmPosi.cmdPosiCheck.Press();
-  const TableState after = TableNow(0);
+  const TableState after = TableNow(voyage);
   voyage.Require(before.texts == after.texts && before.changed == after.changed,
                  "the check changed what is shown");
 }

@@ -7,10 +7,8 @@
 #include "posi/posi_caption.h"
 #include "posi/posi_table.h"
 #include "state/text.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/user.h"
-#include "tests/fleet/weather.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {
@@ -28,8 +26,6 @@ Disk DiskNow(const Voyage& voyage) {
   return disk;
 }
 
-TableState Table(Voyage& voyage) { return TableNow(voyage.virt.files.Calls()); }
-
 /// Every file but one is as it was, and nothing half made lies about.
 void CheckOtherFiles(Voyage& voyage, const Disk& before, const std::string& but) {
   Disk now = DiskNow(voyage);
@@ -41,11 +37,11 @@ void CheckOtherFiles(Voyage& voyage, const Disk& before, const std::string& but)
 
 void SaveBy(Voyage& voyage, CommandButton& button) {
   const Disk disk = DiskNow(voyage);
-  const TableState before = Table(voyage);
+  const TableState before = TableNow(voyage);
   if (voyage.random.Chance(30)) SpoilFiles(voyage);
   button.Press();
   voyage.virt.files.PowerOn();
-  const TableState after = Table(voyage);
+  const TableState after = TableNow(voyage);
   voyage.Require(
       before.texts == after.texts && before.first == after.first && before.last == after.last,
       "a save changed the table");
@@ -92,11 +88,11 @@ void CheckSavedAgain(Voyage& voyage) {
 
 void Open(Voyage& voyage) {
   if (voyage.random.Chance(20)) Damage(voyage, AnyPath(voyage.random));
-  const TableState before = Table(voyage);
+  const TableState before = TableNow(voyage);
   if (voyage.random.Chance(20)) SpoilFiles(voyage);
   frmPosi.cmdPosiOpen.Press();
   voyage.virt.files.PowerOn();
-  const TableState after = Table(voyage);
+  const TableState after = TableNow(voyage);
   if (before.texts == after.texts && before.machine == after.machine) return;
   const bool told = voyage.WasTold(kMsgNotRead) || voyage.WasTold(kMsgOtherMode);
   voyage.Require(!told && !after.changed && PosiTablePath() == voyage.last_path,
@@ -106,21 +102,22 @@ void Open(Voyage& voyage) {
 
 void NewData(Voyage& voyage) {
   const Disk disk = DiskNow(voyage);
-  const TableState before = Table(voyage);
+  const TableState before = TableNow(voyage);
   frmPosi.cmdPosiNew.Press();
   if (PosiTable.Name == Text(213) && !frmPosi.PosiChanged) return;
   if (DiskNow(voyage) != disk) return;  // saved first
-  voyage.Require(before.IsKeptIn(Table(voyage)), "new data that was not taken changed the table");
+  voyage.Require(before.IsKeptIn(TableNow(voyage)),
+                 "new data that was not taken changed the table");
 }
 
 void VerifyWithFile(Voyage& voyage) {
-  const TableState before = Table(voyage);
+  const TableState before = TableNow(voyage);
   const std::size_t sent = voyage.virt.port.sent.size();
   if (voyage.random.Chance(20)) Damage(voyage, AnyPath(voyage.random));
   if (voyage.random.Chance(20)) SpoilFiles(voyage);
   frmPosi.cmdPosiFileVerify.Press();
   voyage.virt.files.PowerOn();
-  voyage.Require(before.IsKeptIn(Table(voyage)), "a verification changed the table");
+  voyage.Require(before.IsKeptIn(TableNow(voyage)), "a verification changed the table");
   voyage.Require(voyage.virt.port.sent.size() == sent, "a verification with a file sends");
 }
 

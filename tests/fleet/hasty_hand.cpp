@@ -1,10 +1,9 @@
-#include "tests/fleet/hasty_hand.h"
-
 #include <string_view>
 #include <vector>
 
 #include "forms/frm_main.h"
 #include "forms/grid.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

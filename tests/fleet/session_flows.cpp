@@ -6,9 +6,8 @@
 #include "para/para_file.h"
 #include "state/text.h"
 #include "state/views.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/user.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {
@@ -54,6 +53,10 @@ void Connecting(Voyage& voyage, bool always, const std::function<void()>& flow) 
   const MachineState of_ct = MachineOfCt(voyage.virt.port.Ct());
   flow();
   if (connects) CheckConnect(voyage, before, of_ct);
+}
+
+void GoOnline(Voyage& voyage) {
+  Connecting(voyage, false, [] { frmMain.mnuSettingOnline.Press(); });
 }
 
 void GoOffline(Voyage&) { frmMain.mnuSettingOffline.Press(); }
@@ -129,10 +132,6 @@ constexpr Flow kFlows[] = {
 }  // namespace
 
 std::span<const Flow> SessionFlows() { return kFlows; }
-
-void GoOnline(Voyage& voyage) {
-  Connecting(voyage, false, [] { frmMain.mnuSettingOnline.Press(); });
-}
 
 void StartTool(Voyage& voyage) {
   const MachineState of_ct = MachineOfCt(voyage.virt.port.Ct());

@@ -12,6 +12,13 @@ int Field(const std::string& block, std::size_t at, std::size_t width) {
   return static_cast<int>(HexValue(std::string_view(block).substr(at, width)));
 }
 
+std::string Device(const std::string& size, const std::string& speed, bool with_pg,
+                   std::initializer_list<int> numbers) {
+  std::string device = size + speed + (with_pg ? "E" : "_");
+  for (const int number : numbers) device += " " + std::to_string(number);
+  return device;
+}
+
 }  // namespace
 
 MachineState MachineOfPc() {
@@ -21,10 +28,9 @@ MachineState MachineOfPc() {
     const DevSettingRecord& device = DevSetting[axis];
     machine.in_use[axis] = !AppState.AxisMuko[axis];
     if (!machine.in_use[axis]) continue;
-    machine.devices[axis] = {device.Size,   device.Speed,
-                             device.Lead,   device.Ppr,
-                             device.Stroke, static_cast<int>(AppState.StrokePulse[axis]),
-                             device.WithPG};
+    const int pulses = static_cast<int>(AppState.StrokePulse[axis]);
+    machine.devices[axis] = Device(device.Size, device.Speed, device.WithPG,
+                                   {device.Lead, device.Ppr, device.Stroke, pulses});
   }
   return machine;
 }
@@ -32,22 +38,19 @@ MachineState MachineOfPc() {
 MachineState MachineOfCt(const qvr7sim::Controller& controller) {
   MachineState machine;
   const std::string& common = controller.WrittenBlock(0);
-  const int mask = Field(common, 2, 2);
   machine.program_mode = Field(common, 18, 2) == 1;
   for (int axis = 0; axis < kAxes; ++axis) {
     const auto index = axis;
-    machine.in_use[index] = (mask & (1 << axis)) != 0;
+    machine.in_use[index] = (Field(common, 2, 2) & (1 << axis)) != 0;
     if (!machine.in_use[index]) continue;
     const std::string& device = controller.WrittenBlock(4 + 3 * axis);
     const bool marked = device[18] == 'E';
     const int pg = Field(controller.WrittenBlock(3 + 3 * axis), 16, 2);
-    machine.devices[index] = {marked ? "E35" : " " + device.substr(16, 2),
-                              marked ? "L" : device.substr(18, 1),
-                              Field(device, 2, 2),
-                              Field(device, 4, 4),
-                              Field(device, 22, 2) * 256 + Field(device, 20, 2),
-                              Field(device, 8, 6),
-                              pg == 1 || pg == 2};
+    const int stroke = Field(device, 22, 2) * 256 + Field(device, 20, 2);
+    machine.devices[index] =
+        Device(marked ? "E35" : " " + device.substr(16, 2), marked ? "L" : device.substr(18, 1),
+               pg == 1 || pg == 2,
+               {Field(device, 2, 2), Field(device, 4, 4), stroke, Field(device, 8, 6)});
   }
   return machine;
 }
@@ -67,7 +70,7 @@ bool TableState::IsKeptIn(const TableState& later) const {
   return true;
 }
 
-TableState TableNow(int file_calls) {
+TableState TableNow(const Voyage& voyage) {
   TableState table;
   table.first = AppState.PosiFirstNo;
   table.last = AppState.PosiLastNo;
@@ -75,7 +78,7 @@ TableState TableNow(int file_calls) {
   table.changed = frmPosi.PosiChanged;
   table.machine = MachineOfPc();
   table.in_mm = AppState.DispMmUnit;
-  table.file_calls = file_calls;
+  table.file_calls = voyage.virt.files.Calls();
   const Grid& grid = frmPosi.flgdData;
   for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
     for (int col = 0; col < kPosiColumns; ++col) table.texts.push_back(grid.Text(row, col));

@@ -7,23 +7,16 @@
 #include "device/dev_setting.h"
 #include "sim/controller.h"
 #include "state/app_state.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 
-/// A device by what the controller is compared by.
-struct DeviceState {
-  std::string size, speed;
-  int lead = 0, ppr = 0, stroke = 0, max_pulses = 0;
-  bool with_pg = false;
-  bool operator==(const DeviceState&) const = default;
-};
-
 /// Axes, mode and devices: what the PC believes of the machine, or what the controller reports.
-/// Devices of axes not in use count as none.
+/// A device counts by what the controller is compared by; that of an axis not in use is none.
 struct MachineState {
   AxisArray<bool> in_use{};
   bool program_mode = false;
-  AxisArray<DeviceState> devices{};
+  AxisArray<std::string> devices{};
   bool operator==(const MachineState&) const = default;
 };
 
@@ -45,7 +38,7 @@ struct TableState {
   bool IsKeptIn(const TableState& later) const;
 };
 
-TableState TableNow(int file_calls);
+TableState TableNow(const Voyage& voyage);
 
 /// The controller's positions and parameter blocks.
 struct CtMemory {

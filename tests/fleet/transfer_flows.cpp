@@ -7,8 +7,8 @@
 #include "posi/posi_table.h"
 #include "posi/posi_wire.h"
 #include "state/text.h"
-#include "tests/fleet/flows.h"
 #include "tests/fleet/states.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {
@@ -20,8 +20,6 @@ void PerhapsCancel(Voyage& voyage) {
   if (!voyage.random.Chance(25)) return;
   voyage.virt.pump.After(voyage.random.Below(2'500'000), [] { frmMain.cmdComCancel.Press(); });
 }
-
-TableState Table(Voyage& voyage) { return TableNow(voyage.virt.files.Calls()); }
 
 void CheckReadData(Voyage& voyage) {
   for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
@@ -36,12 +34,12 @@ void CheckReadData(Voyage& voyage) {
 }
 
 void Read(Voyage& voyage) {
-  const TableState before = Table(voyage);
+  const TableState before = TableNow(voyage);
   PerhapsCancel(voyage);
   frmPosi.ReadDone = False;
   frmPosi.cmdPosiRead.Press();
   if (!frmPosi.ReadDone) {
-    voyage.Require(before.IsKeptIn(Table(voyage)), "a read that failed changed the table");
+    voyage.Require(before.IsKeptIn(TableNow(voyage)), "a read that failed changed the table");
   } else {
     voyage.Require(!frmPosi.PosiChanged && PosiTable.Name == Text(374),
                    "read data bears another name");
@@ -97,20 +95,20 @@ void CheckMemory(Voyage& voyage, const CtMemory& before) {
 }
 
 void Write(Voyage& voyage) {
-  const TableState table = Table(voyage);
+  const TableState table = TableNow(voyage);
   const CtMemory before = MemoryOf(voyage.virt.port.Ct());
   PerhapsCancel(voyage);
   frmPosi.cmdPosiWrite.Press();
   CheckMemory(voyage, before);
-  voyage.Require(table.IsKeptIn(Table(voyage)), "a write changed the table");
+  voyage.Require(table.IsKeptIn(TableNow(voyage)), "a write changed the table");
 }
 
 void VerifyWithCt(Voyage& voyage) {
-  const TableState table = Table(voyage);
+  const TableState table = TableNow(voyage);
   const CtMemory before = MemoryOf(voyage.virt.port.Ct());
   PerhapsCancel(voyage);
   frmPosi.cmdPosiCtVerify.Press();
-  voyage.Require(table.IsKeptIn(Table(voyage)), "a verification changed the table");
+  voyage.Require(table.IsKeptIn(TableNow(voyage)), "a verification changed the table");
   const CtMemory after = MemoryOf(voyage.virt.port.Ct());
   voyage.Require(after.committed == before.committed && after.written == before.written,
                  "a verification changed the controller");

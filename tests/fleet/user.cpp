@@ -1,5 +1,3 @@
-#include "tests/fleet/user.h"
-
 #include <algorithm>
 
 #include "forms/frm_device.h"
@@ -7,6 +5,7 @@
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "state/text.h"
+#include "tests/fleet/voyage.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -17,7 +16,7 @@ void Pick(Random& random, ComboBox& combo) {
 }
 
 void ChangeADevice(Random& random, DeviceView& view) {
-  const auto axis = static_cast<std::size_t>(random.Below(kAxes));
+  const int axis = random.Below(kAxes);
   switch (random.Below(6)) {
     case 0:
       return Pick(random, view.comboAxisSelect);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "state/text.h"
-#include "tests/fleet/weather.h"
 
 namespace tr7 {
 

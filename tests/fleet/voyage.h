@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -52,5 +53,57 @@ struct Voyage {
   /// Bytes sent when the user, or the controller, refused something in this flow.
   std::optional<std::size_t> sent_at_refusal;
 };
+
+// Who sails.
+
+/// Puts a user before the screen who answers whatever comes up, at random, and in the end closes
+/// every dialogue.
+void SeatUser(Voyage& voyage);
+/// A user who does not wait: while flows run, whatever the screen offers is pressed, at any moment,
+/// from now on and as long as `voyage.hasty` is on.
+void SeatHastyHand(Voyage& voyage);
+/// Some seconds of that. At its end all flows have come to theirs.
+void WorkHastily(Voyage& voyage);
+
+inline constexpr const char* kParaPath = "/work/p.pmt";
+/// One of the few position files that the user works with.
+std::string AnyPath(Random& random);
+
+// What befalls them.
+
+/// A controller as it may stand at any machine: boards, axes in use, mode, devices.
+qvr7sim::Setup AnyController(Random& random);
+/// Plans what the line does wrong in this run; a run in four stays undisturbed.
+void PlanFaults(Voyage& voyage);
+/// Something happens between two flows: to the port, the controller or the disk; or all is well
+/// again.
+void ChangeWeather(Voyage& voyage);
+/// One of the next calls of the file door fails.
+void SpoilFiles(Voyage& voyage);
+/// Position files of earlier days, made for whatever machines there were: of either mode, with
+/// devices that the catalogue knows, or does not.
+void PutWorkFiles(Voyage& voyage);
+
+// What they do.
+
+/// One thing that the user does, with its own invariants.
+struct Flow {
+  const char* name;
+  int weight;
+  void (*run)(Voyage& voyage);
+};
+
+// The flows by subject.
+std::span<const Flow> SessionFlows();
+std::span<const Flow> TransferFlows();  ///< reading first
+std::span<const Flow> FileFlows();      ///< new data first
+std::span<const Flow> EditFlows();
+
+/// The start of the tool, with its choice between online and offline.
+void StartTool(Voyage& voyage);
+
+/// What holds between any two flows: commands on, the line shut unless kept, lamp, menus and tabs
+/// true, nothing sent while idle or after a refusal, no axis in motion.
+void CheckRest(Voyage& voyage);
 
 }  // namespace tr7

@@ -1,6 +1,6 @@
-#include "tests/fleet/weather.h"
-
 #include <utility>
+
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

@@ -1,30 +1,18 @@
-#include "tests/fleet/work_files.h"
-
 #include <string>
 
 #include "state/app_state.h"
+#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {
 
 std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
-std::string AnyDevices(Random& random) {
+/// A line with a field for each axis.
+template <typename Field>
+std::string AxisLine(Field field) {
   std::string line;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const std::string name = random.OneOf({"QV- 28L-100_", "QV- 28L-100_", "QV- 28L-100_",
-                                           "QV- 28H-200E", "QV-E35L-200_", "QV- 28L-333_"});
-    const bool none = axis > 0 && random.Chance(10);
-    line += (axis > 0 ? "," : "") + Quoted(none ? "" : name);
-  }
-  return line + "\r\n";
-}
-
-std::string AnyWords(Random& random) {
-  std::string line;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    line += (axis > 0 ? "," : "") + Quoted(random.Chance(80) ? "NEW" : "OLD");
-  }
+  for (int axis = 0; axis < kAxes; ++axis) line += (axis > 0 ? "," : "") + Quoted(field(axis));
   return line + "\r\n";
 }
 
@@ -38,10 +26,14 @@ std::string AnyPosition(Random& random, int number) {
 }
 
 std::string AnyFile(Random& random) {
-  const bool program = random.Chance(25);
   std::string text = "\"QV-R7\"\r\n";
-  text += program ? "\"PRG MODE\"\r\n" : "\"POS MODE\"\r\n";
-  text += AnyDevices(random) + AnyWords(random);
+  text += random.Chance(25) ? "\"PRG MODE\"\r\n" : "\"POS MODE\"\r\n";
+  text += AxisLine([&random](int axis) {
+    const std::string name = random.OneOf({"QV- 28L-100_", "QV- 28L-100_", "QV- 28L-100_",
+                                           "QV- 28H-200E", "QV-E35L-200_", "QV- 28L-333_"});
+    return axis > 0 && random.Chance(10) ? std::string() : name;
+  });
+  text += AxisLine([&random](int) { return std::string(random.Chance(80) ? "NEW" : "OLD"); });
   const int first = random.Between(1, 30);
   for (int n = first; n <= first + random.Below(12); ++n) text += AnyPosition(random, n);
   return text;

@@ -100,7 +100,7 @@ TEST_F(DeviceDialogTest, TicksAndTheNumberOfAxesKeepStep) {
     const auto expect_axes = [&](int axes) {
       EXPECT_EQ(v.comboAxisSelect.ListIndex + 1, axes);
       for (int axis = 0; axis < kAxes; ++axis) {
-        const bool live = axis < static_cast<std::size_t>(axes);
+        const bool live = axis < axes;
         EXPECT_TRUE(v.chkAxisEnable[axis].Value == live && v.framAxis[axis].Enabled == live &&
                     v.chkDevPgUse[axis].Enabled == live);
         EXPECT_EQ(Shown(v, axis), " 28L-100") << "lists stay filled";

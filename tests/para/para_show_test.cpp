@@ -81,9 +81,10 @@ TEST_F(ParaShow, PulsesFinerThanAMicrometreKeepTheirCount) {
 }
 
 TEST_F(ParaShow, WithoutLeadAndPulseThereIsNoMm) {
-  ParamSet.AxisLead[0] = ParamSet.AxisPulse[1] = 0;
+  ParamSet.AxisLead[0] = 0;
+  ParamSet.AxisPulse[1] = 0;
   ParametaHyoji();
-  for (int axis : {0u, 1u}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, "");
+  for (const int axis : {0, 1}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, "");
   f.txtAxisMmStroke[1].Text = "55";
   TorikomiParametaValue();
   EXPECT_EQ(ParamSet.AxisStroke[0], 20000);

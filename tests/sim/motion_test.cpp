@@ -48,24 +48,19 @@ TEST(Motion, HomingTakesTimeAndGivesTheHomePosition) {
 
 TEST(Motion, RecordsMoveAbsoluteAndByTheirWay) {
   qvr7sim::Setup setup = HomedSetup();
-  const auto record = [](int way, int pulses) {
-    PositionRecord r;
-    r.axis[1] = {100, 5, way, pulses, 0, 0};
-    return r;
+  const auto record = [&setup](int number, int way, int pulses) {
+    setup.positions[number].axis[1] = {100, 5, way, pulses, 0, 0};
   };
-  setup.positions[50] = record(1, 5000);
-  setup.positions[51] = record(2, 300);
-  setup.positions[52] = record(3, 1300);
-  setup.positions[53] = record(0, 9);
+  record(50, 1, 5000);
+  record(51, 2, 300);
+  record(52, 3, 1300);
+  record(53, 0, 9);
   Exchange pc(setup);
-  const struct {
-    const char* request;
-    int pulses;
-  } steps[] = {{"0MP0322", 5000}, {"0MS0332", 5300}, {"0MP03402", 4000},
-               {"0MP0352", 4000}, {"0MP0321", 4000}, {"0MP0320", 4000}};
+  const std::pair<std::string, int> steps[] = {{"0MP0322", 5000},  {"0MS0332", 5300},
+                                               {"0MP03402", 4000}, {"0MP0352", 4000},
+                                               {"0MP0321", 4000},  {"0MP0320", 4000}};
   for (const auto& [request, pulses] : steps) {
-    EXPECT_EQ(pc.Ask(request), std::string(request, 3));
-    pc.Wait(2 * kSecond);
+    Talk(pc, request + ">" + request.substr(0, 3) + " +2000");
     EXPECT_EQ(pc.Axis(2).pulses, pulses) << request;
     EXPECT_FALSE(pc.controller.AnyMoving(pc.now_us));
   }
@@ -73,57 +68,47 @@ TEST(Motion, RecordsMoveAbsoluteAndByTheirWay) {
 
 TEST(Motion, TargetsOutsideTheStrokeStartNothing) {
   Exchange pc(HomedSetup());
-  EXPECT_EQ(pc.Ask(DirectMove("04E20")), "0MV");  // 20000, the end of the stroke
-  pc.Wait(10 * kSecond);
+  Talk(pc, DirectMove("04E20") + ">0MV +10000");  // 20000, the end of the stroke
   EXPECT_EQ(pc.Axis(1).pulses, 20000);
-  EXPECT_EQ(pc.Ask(DirectMove("04E21")), "0%%106");
+  Talk(pc, DirectMove("04E21") + ">0%%106 0RA>0RAF");
   EXPECT_FALSE(pc.controller.AnyMoving(pc.now_us));
-  EXPECT_EQ(pc.Ask(DirectMove("04E20") + "01"), "0MV");  // a tail changes nothing
-  EXPECT_EQ(pc.Ask("0MV014032" + std::string(38, '0')), "0%%003");
-  EXPECT_EQ(pc.Ask("0MV000031" + std::string(38, '0')), "0%%003");
+  Talk(pc, DirectMove("04E20") + "01>0MV");  // a tail changes nothing
+  for (const char* head : {"0MV014032", "0MV000031"}) {
+    EXPECT_EQ(pc.Ask(head + std::string(38, '0')), "0%%003");
+  }
 }
 
 TEST(Motion, JogRunsUntilStopOrTheEndOfTheStroke) {
   Exchange pc(HomedSetup());
-  EXPECT_EQ(pc.Ask("0JR50200"), "0JR");
-  pc.Wait(kSecond);
-  EXPECT_TRUE(pc.Axis(2).moving);
+  Talk(pc, "0JR50200>0JR +1000");
   EXPECT_NEAR(pc.Axis(2).pulses, 950, 25);  // 15 mm/s is 1000 pulses a second, less the rise
-  EXPECT_EQ(pc.Ask("0SP"), "0SP");
+  Talk(pc, "0SP>0SP");
   EXPECT_TRUE(pc.Axis(2).moving);
   pc.Wait(kSecond / 10);
   EXPECT_FALSE(pc.Axis(2).moving);
   const int stopped = pc.Axis(2).pulses;
-  pc.Wait(kSecond);
-  EXPECT_EQ(pc.Axis(2).pulses, stopped);
-  EXPECT_EQ(pc.Ask("0JR00100"), "0JR");
+  Talk(pc, "+1000 0JR00100>0JR");
+  EXPECT_NEAR(pc.Axis(2).pulses, stopped, 20);
   pc.Wait(3 * kSecond);
   EXPECT_EQ(pc.Axis(2).pulses, 0);
-  EXPECT_FALSE(pc.Axis(2).moving);
-  EXPECT_EQ(pc.Ask("0JR00200"), "0JR");
-  pc.Wait(60 * kSecond);
+  Talk(pc, "0JR00200>0JR +60000");
   EXPECT_EQ(pc.Axis(2).pulses, 13334);
-}
-
-TEST(Motion, FullJogSpeedBelongsToDigitZero) {
-  int pulses[2] = {};
-  for (const int i : {0, 1}) {
-    Exchange pc(HomedSetup());
-    pc.Ask(i == 0 ? "0JR02000" : "0JR12000");
-    pc.Wait(kSecond);
-    pulses[i] = pc.Axis(1).pulses;
-  }
-  EXPECT_NEAR(pulses[0], 10 * pulses[1], 200);
+  // The full speed belongs to digit 0.
+  Talk(pc, "0JR02000>0JR +1000");
+  const int full = pc.Axis(1).pulses;
+  Talk(pc, "0SP>0SP +1000 0JR01000>0JR +60000 0JR12000>0JR +1000");
+  EXPECT_NEAR(full, 10 * pc.Axis(1).pulses, 200);
 }
 
 TEST(Motion, WhileMovingWritesAndMovesAreRefusedAndReadsAnswer) {
   Exchange pc(HomedSetup());
+  const std::string data(32, '0');
   const std::string refused[] = {"0WP005" + std::string(60, '0'),
                                  "0WA001002",
-                                 "0WD0" + std::string(32, '0'),
+                                 "0WD0" + data,
                                  "0WG01001002",
-                                 "0WS01" + std::string(32, '0'),
-                                 "0WK0" + std::string(32, '0'),
+                                 "0WS01" + data,
+                                 "0WK0" + data,
                                  "0WE",
                                  "0WE2",
                                  "0WF",
@@ -131,11 +116,9 @@ TEST(Motion, WhileMovingWritesAndMovesAreRefusedAndReadsAnswer) {
                                  "0MP000F",
                                  "0JR01000",
                                  DirectMove("00000")};
-  ASSERT_EQ(pc.Ask(DirectMove("04E20")), "0MV");
+  Talk(pc, DirectMove("04E20") + ">0MV");
   for (const std::string& request : refused) EXPECT_EQ(pc.Ask(request), "0%%004") << request;
-  Talk(pc, "0RA>0RAE 0RV>0RV140R4M 0CM1>0CM1");
-  EXPECT_EQ(pc.Ask("0RP001").substr(0, 6), "0RP001");
-  EXPECT_EQ(pc.controller.WrittenGroup(1), std::make_pair(1, 4));
+  Talk(pc, "0RA>0RAE 0RV>0RV140R4M 0CM1>0CM1 0RG01>0RG01001004");
 }
 
 TEST(Motion, AStoppedHomingLeavesNoHome) {
@@ -158,18 +141,14 @@ TEST(Motion, AxesNotInUseAreRefused) {
 
 TEST(Alarm, StopsTheAxesAndAnswersEverythingButReset) {
   Exchange pc(HomedSetup());
-  pc.Ask(DirectMove("04E20"));
-  pc.Wait(kSecond / 2);
+  Talk(pc, DirectMove("04E20") + ">0MV +500");
   pc.controller.RaiseAlarm({'2', '0', '7'}, pc.now_us);
   const int stopped = pc.Axis(1).pulses;
   EXPECT_GT(stopped, 0);
-  for (const char* request : {"0RA", "0RV", "0CM0", "0CM1", "0RD0", "0SP", "0XX", "0AR0"}) {
-    EXPECT_EQ(pc.Ask(request), "0%%207") << request;
-  }
+  Talk(pc,
+       "0RA>0%%207 0RV>0%%207 0CM0>0%%207 0RD0>0%%207 0SP>0%%207 0XX>0%%207 0AR0>0%%207 "
+       "0AR>0AR 0RA>0RAF");
   EXPECT_EQ(pc.Axis(1).pulses, stopped);
-  EXPECT_EQ(pc.Ask("0AR"), "0AR");
-  EXPECT_EQ(pc.Ask("0RA"), "0RAF");
-  EXPECT_FALSE(pc.controller.StandingAlarm());
 }
 
 TEST(Alarm, AFailedHomingStopsAllAxesWithTheSensorAlarm) {
@@ -188,13 +167,11 @@ TEST(Alarm, AFailedHomingStopsAllAxesWithTheSensorAlarm) {
 TEST(Alarm, APowerCycleClearsItAndLosesHomeAndCommand) {
   Exchange pc(HomedSetup());
   Talk(pc, "0CM1>0CM1 0CM01100>0CM01100");
-  EXPECT_TRUE(pc.controller.UnderPcCommand());
-  EXPECT_EQ(pc.controller.ControlDigits(), "1100");
+  EXPECT_TRUE(pc.controller.UnderPcCommand() && pc.controller.ControlDigits() == "1100");
   pc.controller.RaiseAlarm({'0', '0', '9'}, pc.now_us);
   pc.controller.PowerCycle(pc.now_us);
+  EXPECT_TRUE(!pc.controller.UnderPcCommand() && pc.controller.ControlDigits() == "0000");
   EXPECT_EQ(pc.Ask("0RH"), "0RH0");
-  EXPECT_FALSE(pc.controller.UnderPcCommand());
-  EXPECT_EQ(pc.controller.ControlDigits(), "0000");
 }
 
 }  // namespace

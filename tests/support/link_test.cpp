@@ -23,10 +23,9 @@ std::vector<std::string> LinkTest::Sent() {
 }
 
 std::string LinkTest::Commands(std::size_t characters) {
-  std::string all;
-  for (const std::string& line : Sent()) {
-    all += (all.empty() ? "" : " ") + line.substr(0, characters);
-  }
+  std::string all = SentLines(characters);
+  port.sent.clear();
+  if (!all.empty()) all.pop_back();
   return all;
 }
 

@@ -1,40 +1,10 @@
 #include "tests/support/state_test.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <utility>
 
 #include "state/text_file.h"
 
 namespace tr7 {
-namespace {
-
-void PutListFiles(MemoryFiles& files) {
-  for (const auto& entry : std::filesystem::directory_iterator(TR7_SOURCE_LISTS)) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    files.Put(files.program_folder + "/" + entry.path().filename().string(),
-              {std::istreambuf_iterator<char>(file), {}});
-  }
-}
-
-}  // namespace
-
-VirtualDoors::VirtualDoors(const qvr7sim::Setup& setup, std::uint64_t seed) : port(setup, seed) {
-  doors.pump = &pump;
-  doors.serial = &port;
-  doors.forms = &forms;
-  doors.settings = &settings;
-  doors.clipboard = &clipboard;
-  doors.help = &help;
-  doors.files = &files;
-  PutListFiles(files);
-  settings.Set("Settings", "PortDevice1", "sim");
-}
-
-VirtualDoors::~VirtualDoors() { doors = Doors{}; }
-
 void SetDevice(DevSettingRecord& device, const char* size, const char* speed, int stroke) {
   device.Size = size;
   device.Speed = speed;

@@ -7,10 +7,14 @@
 #include <memory>
 #include <optional>
 #include <semaphore>
-
-#include "tests/tour/failure.h"
+#include <stdexcept>
 
 namespace tr7::tour {
+
+/// A step that did not show what it should; the words say what was missing.
+struct TourFailure : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 
 // The script runs in a thread of its own, as a user beside the tool. All that touches the tool
 // runs in the tool's thread, inside whichever event loop or wait of the tool is on.

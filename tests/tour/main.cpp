@@ -7,25 +7,22 @@
 #include <QDir>
 #include <QProcess>
 #include <QScreen>
+#include <QSettings>
 #include <QThread>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <semaphore>
 
 #include "core/install_views.h"
 #include "core/main_entry.h"
-#include "tests/tour/failure.h"
-#include "tests/tour/session.h"
+#include "tests/tour/in_tool.h"
+#include "tests/tour/scripts.h"
 #include "ui/desktop.h"
 #include "ui/look.h"
 
 namespace tr7::tour {
 namespace {
-
-constexpr std::chrono::seconds kUntilEnded(20);
 
 struct Arguments {
   QString sim;
@@ -37,7 +34,8 @@ struct Arguments {
 Arguments Parse(const QCoreApplication& application) {
   const QCommandLineOption sim("sim", "The simulated controller.", "program");
   const QCommandLineOption session("play", "Runs this session in this process.", "name");
-  const QCommandLineOption only("only", "Runs this session alone; may be repeated.", "name");
+  const QCommandLineOption only(
+      "only", "Runs this script (look) or session (look-ja) alone; may be repeated.", "name");
   QCommandLineParser parser;
   parser.addHelpOption();
   parser.addOptions({sim, session, only});
@@ -49,48 +47,15 @@ Arguments Parse(const QCoreApplication& application) {
 }
 
 QStringList Pictures(const QString& folder) {
-  return QDir(folder).entryList({"[0-9][0-9]-*.png"}, QDir::Files, QDir::Name);
+  return QDir(folder).entryList({"[0-9]*-*.png"}, QDir::Files, QDir::Name);
 }
-
-// All sessions.
 
 /// What a tour before left here.
 void RemoveOldTour(const QString& folder) {
+  QDir().mkpath(folder);
   const QStringList files =
       QDir(folder).entryList({"tour*.qvd", "tour-*.ini"}, QDir::Files) + Pictures(folder);
   for (const QString& file : files) QDir(folder).remove(file);
-}
-
-int RunAll(const Arguments& arguments) {
-  QDir().mkpath(arguments.folder);
-  RemoveOldTour(arguments.folder);
-  for (const Session& session : Sessions()) {
-    if (!arguments.only.isEmpty() && !arguments.only.contains(session.name)) continue;
-    std::printf("session %s\n", session.name);
-    std::fflush(stdout);
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(QCoreApplication::applicationFilePath(),
-                  {"--sim", arguments.sim, "--play", session.name, arguments.folder});
-    process.waitForFinished(-1);
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
-      std::printf("tour: session %s failed\n", session.name);
-      return 1;
-    }
-  }
-  std::printf("tour: every step showed what it should; %d pictures in %s\n",
-              static_cast<int>(Pictures(arguments.folder).size()), qPrintable(arguments.folder));
-  return 0;
-}
-
-// One session.
-
-std::string WriteSettings(const Session& session, const QString& folder, const std::string& port) {
-  const std::string path = (folder + "/tour-" + session.name + ".ini").toStdString();
-  std::ofstream file(path, std::ios::trunc);
-  file << "[Settings]\nPortNo=1\nPortDevice1=" << port << "\n";
-  for (const std::string& line : session.settings) file << line << "\n";
-  return path;
 }
 
 /// A failed step ends the process at once: nobody is there to answer the tool's questions.
@@ -106,57 +71,76 @@ std::string WriteSettings(const Session& session, const QString& folder, const s
   std::_Exit(EXIT_FAILURE);
 }
 
-int RunSession(const Session& session, const Arguments& arguments) {
-  SimProcess sim(arguments.sim.toStdString(), session.sim_options);
-  const std::string settings = WriteSettings(session, arguments.folder, sim.Port());
-  look::Apply(*qobject_cast<QApplication*>(QCoreApplication::instance()));
-  Desktop desktop({QString::fromStdString(settings), false});
+/// One session in this process.
+int Play(const Script& script, int language, const Arguments& arguments) {
+  SimProcess sim(arguments.sim, script.sim_options);
+  const QString file = arguments.folder + "/tour-" + arguments.session + ".ini";
+  QSettings settings(file, QSettings::IniFormat);
+  settings.setValue("Settings/PortNo", 1);
+  settings.setValue("Settings/PortDevice1", QString::fromStdString(sim.Path()));
+  settings.setValue("Settings/Language", language);
+  settings.sync();
+  look::Apply(*qApp);
+  Desktop desktop({file, false});
   InstallViews();
   const int first = static_cast<int>(Pictures(arguments.folder).size()) + 1;
-  User user(desktop.forms, arguments.folder, session.name, first);
-  Tour tour{user, sim, arguments.folder};
-  bool finished = false;
+  User user(desktop.forms, sim, arguments.folder, arguments.session, first);
   std::binary_semaphore ended(0);
-  const std::unique_ptr<QThread> script(QThread::create([&] {
+  const std::unique_ptr<QThread> thread(QThread::create([&] {
+    constexpr std::chrono::seconds kUntilEnded(20);
     try {
-      session.script(tour);
+      script.run(user);
       if (!ended.try_acquire_for(kUntilEnded)) throw TourFailure("the tool does not end");
-      finished = true;
     } catch (const TourFailure& failure) {
       Fail(user, failure.what());
     }
   }));
   // The mouse of the machine must not point at what the script works on.
   QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
-  script->start();
+  thread->start();
   Main();
   if (!desktop.forms.Ended()) QApplication::exec();
   ended.release();
-  script->wait();
-  return finished ? EXIT_SUCCESS : EXIT_FAILURE;
+  thread->wait();
+  return EXIT_SUCCESS;
 }
 
-int RunNamed(const Arguments& arguments) {
-  for (const Session& session : Sessions()) {
-    if (arguments.session == session.name) return RunSession(session, arguments);
+/// One session in a process of its own.
+bool PlayApart(const QString& session, const Arguments& arguments) {
+  std::printf("session %s\n", qPrintable(session));
+  std::fflush(stdout);
+  return QProcess::execute(QCoreApplication::applicationFilePath(),
+                           {"--sim", arguments.sim, "--play", session, arguments.folder}) == 0;
+}
+
+/// The sessions asked for; without a name all of them.
+int Run(const Arguments& arguments) {
+  const std::pair<const char*, int> languages[] = {{"en", 2}, {"ja", 1}};
+  if (arguments.session.isEmpty()) RemoveOldTour(arguments.folder);
+  for (const Script& script : Scripts()) {
+    for (const auto& [name, number] : languages) {
+      const QString session = QString("%1-%2").arg(script.name, name);
+      if (arguments.session == session) return Play(script, number, arguments);
+      const bool wanted = arguments.only.isEmpty() || arguments.only.contains(script.name) ||
+                          arguments.only.contains(session);
+      if (!arguments.session.isEmpty() || !wanted || PlayApart(session, arguments)) continue;
+      std::printf("tour: session %s failed\n", qPrintable(session));
+      return EXIT_FAILURE;
+    }
   }
-  std::printf("tour: there is no session %s\n", qPrintable(arguments.session));
-  return EXIT_FAILURE;
+  const auto pictures = static_cast<int>(Pictures(arguments.folder).size());
+  const bool played = arguments.session.isEmpty() && pictures > 0;
+  std::printf(played ? "tour: every step showed what it should; %d pictures in %s\n"
+                     : "tour: no such session; %d pictures in %s\n",
+              pictures, qPrintable(arguments.folder));
+  return played ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 }  // namespace
 }  // namespace tr7::tour
 
 int main(int argc, char** argv) {
-  using namespace tr7::tour;
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  const Arguments arguments = Parse(application);
-  if (arguments.session.isEmpty()) return RunAll(arguments);
-  try {
-    return RunNamed(arguments);
-  } catch (const TourFailure& failure) {
-    std::printf("tour: FAILED: %s\n", failure.what());
-    return EXIT_FAILURE;
-  }
+  return tr7::tour::Run(tr7::tour::Parse(application));
 }

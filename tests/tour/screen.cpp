@@ -1,37 +1,18 @@
 #include "tests/tour/screen.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QScreen>
 #include <QTest>
 #include <QWindow>
 
 namespace tr7::tour {
 namespace {
 
-QWindow& WindowOf(const QWidget& widget) { return *widget.window()->windowHandle(); }
-
-QPoint InWindow(const QWidget& widget, const QPoint& at) {
-  return widget.mapTo(widget.window(), at);
-}
-
 QString Described(const QWidget& widget) {
   return QString("%1 \"%2\"").arg(widget.metaObject()->className(), widget.objectName());
-}
-
-/// A click brings its window to the front; where there is no window manager, nobody else does it.
-void Activate(const QWidget& widget) {
-  if (QGuiApplication::focusWindow() != &WindowOf(widget)) widget.window()->activateWindow();
-}
-
-template <typename Kind>
-Kind* OpenDialogOf() {
-  return qobject_cast<Kind*>(FrontDialog());
 }
 
 }  // namespace
@@ -48,14 +29,11 @@ QString WhyNotReachable(const QWidget& widget, const QPoint& at) {
   return Described(*hit) + " covers " + Described(widget);
 }
 
+/// A click brings its window to the front; where there is no window manager, nobody else does it.
 void ClickAt(QWidget& widget, const QPoint& at) {
-  Activate(widget);
-  QTest::mouseClick(&WindowOf(widget), Qt::LeftButton, Qt::NoModifier, InWindow(widget, at));
-}
-
-void DoubleClickAt(QWidget& widget, const QPoint& at) {
-  Activate(widget);
-  QTest::mouseDClick(&WindowOf(widget), Qt::LeftButton, Qt::NoModifier, InWindow(widget, at));
+  QWindow& window = *widget.window()->windowHandle();
+  if (QGuiApplication::focusWindow() != &window) widget.window()->activateWindow();
+  QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, widget.mapTo(widget.window(), at));
 }
 
 void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -82,14 +60,5 @@ QString ShownText(const QWidget& widget) {
   if (const auto* box = qobject_cast<const QMessageBox*>(&widget)) return box->text();
   return widget.windowTitle();
 }
-
-QWidget* FrontDialog() {
-  QWidget* modal = QApplication::activeModalWidget();
-  return modal && modal->isVisible() ? modal : nullptr;
-}
-
-QMessageBox* OpenBox() { return OpenDialogOf<QMessageBox>(); }
-
-QFileDialog* OpenFileDialog() { return OpenDialogOf<QFileDialog>(); }
 
 }  // namespace tr7::tour

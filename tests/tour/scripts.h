@@ -1,24 +1,20 @@
 #pragma once
 
-#include "tests/tour/session.h"
+#include <string>
+#include <vector>
+
+#include "tests/tour/user.h"
 
 namespace tr7::tour {
 
-// The scripts, one a file.
+/// One start of the tool, from the splash to its end, beside a simulated controller of its own. It
+/// is played once in each language.
+struct Script {
+  const char* name;
+  QStringList sim_options;  ///< as on the command line of qv-r7-sim
+  void (*run)(User& user);
+};
 
-/// From the splash to a table read from the controller; a controller that is silent, and an alarm.
-void FirstLook(Tour& tour);
-/// The same windows in Japanese.
-void JapaneseLook(Tour& tour);
-
-/// The day of a position table: read, edit, check, save, write, verify, open again.
-void MainJob(Tour& tour);
-/// The same in short with a controller in program mode.
-void ProgramModeJob(Tour& tour);
-/// A start offline, with its mode and its devices, and other devices later on.
-void OfflineDevices(Tour& tour);
-/// The parameters that follow from devices chosen offline, and a controller that differs in mode
-/// and devices.
-void ParametersAndReconcile(Tour& tour);
+const std::vector<Script>& Scripts();
 
 }  // namespace tr7::tour

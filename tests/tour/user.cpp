@@ -1,23 +1,22 @@
 #include "tests/tour/user.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QThread>
 
-#include "state/text.h"
+#include "forms/frm_main.h"
 #include "tests/tour/in_tool.h"
 #include "tests/tour/screen.h"
-#include "tests/tour/spoken_names.h"
+#include "tests/ui/box_button.h"
 #include "ui/grid_table.h"
+#include "ui/lamp.h"
 #include "ui/qt_form_host.h"
 
 namespace tr7::tour {
@@ -25,47 +24,44 @@ namespace {
 
 constexpr int kLookAgainMs = 20;
 
-MsgId CaptionOf(MsgAnswer answer) {
-  switch (answer) {
-    case MsgAnswer::Yes:
-      return 5150;
-    case MsgAnswer::No:
-      return 5151;
-    case MsgAnswer::Ok:
-      return 5152;
-    case MsgAnswer::Cancel:
-      break;
-  }
-  return 5153;
+std::string NameOf(const Control& control) { return control.Owner->Name + ("." + control.Name); }
+
+std::string CellName(int row, int col) {
+  return "row " + std::to_string(row) + " column " + std::to_string(col);
+}
+
+bool PopupIsUp() { return QApplication::activePopupWidget() != nullptr; }
+
+bool Says(const QWidget* widget, const std::string& part) {
+  return widget && widget->isVisible() && ShownText(*widget).contains(QString::fromStdString(part));
 }
 
 }  // namespace
 
-User::User(QtFormHost& forms, QString folder, QString session, int first_picture)
-    : forms_(forms),
+User::User(QtFormHost& forms, SimProcess& sim, QString folder, QString session, int first_picture)
+    : file(folder + "/tour-" + session + ".qvd"),
+      forms_(forms),
+      sim_(sim),
       folder_(std::move(folder)),
       session_(std::move(session)),
       next_picture_(first_picture) {}
 
-QWidget* User::WidgetOf(const Control& control) const { return forms_.WidgetOf(control); }
-
 // Acts.
 
 /// Clicks as soon as the place exists and can be reached.
-void User::ClickPlace(const std::string& what, const Place& place, Press press) {
+void User::ClickPlace(const std::string& what, const std::function<Place()>& find) {
   doing_ = "click " + what;
   QString obstacle;
   for (int waited = 0; waited < kSoonMs; waited += kLookAgainMs) {
     obstacle = InTool([&] {
-      const auto [widget, at] = place();
-      return widget ? WhyNotReachable(*widget, at) : QString("it is not on the screen");
+      const Place place = find();
+      return place.widget ? WhyNotReachable(*place.widget, place.at) : "it is not on the screen";
     });
     if (obstacle.isEmpty()) {
-      Act([place, press] {
-        const auto [widget, at] = place();
-        if (widget) (press ? press : ClickAt)(*widget, at);
+      return Act([find] {
+        const Place place = find();
+        if (place.widget) ClickAt(*place.widget, place.at);
       });
-      return;
     }
     QThread::msleep(kLookAgainMs);
   }
@@ -73,8 +69,8 @@ void User::ClickPlace(const std::string& what, const Place& place, Press press) 
 }
 
 void User::Click(Control& control) {
-  ClickPlace(NameOf(control), [this, &control]() -> std::pair<QWidget*, QPoint> {
-    QWidget* widget = WidgetOf(control);
+  ClickPlace(NameOf(control), [this, &control]() -> Place {
+    QWidget* widget = forms_.WidgetOf(control);
     if (!widget) return {};
     // A check box or option may be wider than what it answers to.
     const int x = dynamic_cast<CommandButton*>(&control) ? widget->width() / 2 : 8;
@@ -83,15 +79,15 @@ void User::Click(Control& control) {
 }
 
 void User::ClickTab(TabStrip& strip, int index) {
-  ClickPlace(NameOf(strip), [this, &strip, index]() -> std::pair<QWidget*, QPoint> {
-    auto* bar = qobject_cast<QTabBar*>(WidgetOf(strip));
+  ClickPlace(NameOf(strip), [this, &strip, index]() -> Place {
+    auto* bar = qobject_cast<QTabBar*>(forms_.WidgetOf(strip));
     if (!bar || !bar->isTabEnabled(index)) return {};
     return {bar, bar->tabRect(index).center()};
   });
 }
 
-void User::OpenMenu(Menu& menu) {
-  ClickPlace(NameOf(menu), [&menu]() -> std::pair<QWidget*, QPoint> {
+void User::Choose(Menu& menu, Menu& command) {
+  ClickPlace(NameOf(menu), [&menu]() -> Place {
     for (QWidget* window : QApplication::topLevelWidgets()) {
       auto* popup = window->findChild<QMenu*>(QString::fromStdString(menu.Name));
       auto* bar = popup ? qobject_cast<QMenuBar*>(popup->parentWidget()) : nullptr;
@@ -100,11 +96,7 @@ void User::OpenMenu(Menu& menu) {
     }
     return {};
   });
-}
-
-void User::Choose(Menu& menu, Menu& command) {
-  OpenMenu(menu);
-  ClickPlace(NameOf(command), [&command]() -> std::pair<QWidget*, QPoint> {
+  ClickPlace(NameOf(command), [&command]() -> Place {
     auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!popup) return {};
     for (QAction* action : popup->actions()) {
@@ -117,40 +109,29 @@ void User::Choose(Menu& menu, Menu& command) {
 
 void User::Pick(ComboBox& list, int index) {
   Click(list);
-  See("the open list of " + NameOf(list),
-      [] { return QApplication::activePopupWidget() != nullptr; });
+  See("the open list of " + NameOf(list), PopupIsUp);
   // As a user does: looks where the mark stands, and goes on from there.
   const auto marked = [this, &list] {
-    const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
+    const auto* combo = qobject_cast<QComboBox*>(forms_.WidgetOf(list));
     return combo ? combo->view()->currentIndex().row() : -1;
   };
   constexpr int kMostKeys = 100;
-  for (int keys = 0; keys < kMostKeys; ++keys) {
-    const int row = InTool(marked);
-    if (row == index) break;
+  for (int keys = 0, row; keys < kMostKeys && (row = InTool(marked)) != index; ++keys) {
     Key(row < index ? Qt::Key_Down : Qt::Key_Up);
   }
   Key(Qt::Key_Return);
-  See(NameOf(list) + " at entry " + std::to_string(index), [this, &list, index] {
-    const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
-    return combo && !QApplication::activePopupWidget() && combo->currentIndex() == index;
+  SeeWidget<QComboBox>(list, "at entry " + std::to_string(index), [index](const QComboBox& combo) {
+    return !PopupIsUp() && combo.currentIndex() == index;
   });
 }
 
-int User::EntryOf(ComboBox& list, const std::string& entry) {
-  return InTool([this, &list, entry] {
-    forms_.Push();  // what was chosen just now may have changed the list
-    const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
-    return combo ? combo->findText(QString::fromStdString(entry)) : -1;
-  });
-}
-
-void User::PickText(ComboBox& list, const std::string& entry) {
-  See(NameOf(list) + " with the entry \"" + entry + "\"", [this, &list, entry] {
-    const auto* combo = qobject_cast<QComboBox*>(WidgetOf(list));
-    return combo && combo->findText(QString::fromStdString(entry)) >= 0;
-  });
-  Pick(list, EntryOf(list, entry));
+void User::Pick(ComboBox& list, const std::string& entry) {
+  SeeEntry(list, entry, true);
+  Pick(list, InTool([this, &list, entry] {
+         forms_.Push();  // what was chosen just now may have changed the list
+         const auto* combo = qobject_cast<QComboBox*>(forms_.WidgetOf(list));
+         return combo ? combo->findText(QString::fromStdString(entry)) : -1;
+       }));
   SeeText(list, entry);
 }
 
@@ -159,23 +140,16 @@ QTabWidget* User::TabsOf(View& view) const {
   return bound ? bound->Window().findChild<QTabWidget*>() : nullptr;
 }
 
-int User::Pages(View& view) {
-  return InTool([this, &view] {
-    const QTabWidget* tabs = TabsOf(view);
-    return tabs ? tabs->count() : 0;
-  });
-}
-
-void User::TurnToPage(View& view, int page) {
-  ClickPlace("page " + std::to_string(page), [this, &view, page]() -> std::pair<QWidget*, QPoint> {
+bool User::TurnToPage(View& view, int page) {
+  if (InTool([&] { return !TabsOf(view) || TabsOf(view)->count() <= page; })) return false;
+  const std::string name = "page " + std::to_string(page);
+  ClickPlace(name, [this, &view, page]() -> Place {
     const QTabWidget* tabs = TabsOf(view);
     if (!tabs) return {};
     return {tabs->tabBar(), tabs->tabBar()->tabRect(page).center()};
   });
-  See("page " + std::to_string(page), [this, &view, page] {
-    const QTabWidget* tabs = TabsOf(view);
-    return tabs && tabs->currentIndex() == page;
-  });
+  See(name, [this, &view, page] { return TabsOf(view) && TabsOf(view)->currentIndex() == page; });
+  return true;
 }
 
 void User::Type(TextBox& field, const std::string& text) {
@@ -184,29 +158,17 @@ void User::Type(TextBox& field, const std::string& text) {
   Keys(text);
 }
 
-void User::PressCell(Grid& grid, int row, int col, Press press) {
-  ClickPlace(
-      CellName(grid, row, col),
-      [this, &grid, row, col]() -> std::pair<QWidget*, QPoint> {
-        auto* table = qobject_cast<GridTable*>(WidgetOf(grid));
-        if (!table) return {};
-        return {table->viewport(), table->CellRect(row, col).center()};
-      },
-      press);
-}
-
-void User::ClickCell(Grid& grid, int row, int col) { PressCell(grid, row, col, ClickAt); }
-
-void User::DoubleClickCell(Grid& grid, int row, int col) {
-  PressCell(grid, row, col, DoubleClickAt);
+void User::ClickCell(Grid& grid, int row, int col) {
+  ClickPlace(CellName(row, col), [this, &grid, row, col]() -> Place {
+    auto* table = qobject_cast<GridTable*>(forms_.WidgetOf(grid));
+    if (!table) return {};
+    return {table->viewport(), table->CellRect(row, col).center()};
+  });
 }
 
 /// Keys go to the window that has the focus, or to a popup.
 void User::SeeFocus() {
-  See("the focus", [] {
-    return QGuiApplication::focusWindow() != nullptr ||
-           QApplication::activePopupWidget() != nullptr;
-  });
+  See("the focus", [] { return QGuiApplication::focusWindow() || PopupIsUp(); });
 }
 
 void User::Keys(const std::string& text) {
@@ -219,22 +181,24 @@ void User::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   Act([key, modifiers] { PressKey(key, modifiers); });
 }
 
-void User::Answer(MsgAnswer answer) {
-  ClickPlace("the box's button", [answer]() -> std::pair<QWidget*, QPoint> {
-    const QString caption = QString::fromStdString(Text(CaptionOf(answer)));
-    const QMessageBox* box = OpenBox();
-    if (!box) return {};
-    for (QAbstractButton* button : box->buttons()) {
-      if (button->text() == caption) return {button, button->rect().center()};
-    }
-    return {};
+void User::AnswerBox(const std::string& part, MsgAnswer answer, const char* picture,
+                     int within_ms) {
+  const auto seen = [part] { return Says(FrontDialog<QMessageBox>(), part); };
+  See("a box with \"" + part + "\"", seen, within_ms);
+  if (picture) Picture(picture);
+  ClickPlace("the box's button", [answer]() -> Place {
+    const auto* box = FrontDialog<QMessageBox>();
+    QAbstractButton* button = box ? ButtonOf(*box, answer) : nullptr;
+    if (!button) return {};
+    return {button, button->rect().center()};
   });
 }
 
-void User::ChooseFile(const QString& path) {
-  SeeFileDialog();
-  ClickPlace("the file's name", []() -> std::pair<QWidget*, QPoint> {
-    const QFileDialog* dialog = OpenFileDialog();
+void User::ChooseFile(const QString& path, const char* picture) {
+  See("the file dialogue", [] { return FrontDialog<QFileDialog>() != nullptr; });
+  Picture(picture);
+  ClickPlace("the file's name", []() -> Place {
+    const auto* dialog = FrontDialog<QFileDialog>();
     auto* name = dialog ? dialog->findChild<QLineEdit*>("fileNameEdit") : nullptr;
     if (!name) return {};
     return {name, name->rect().center()};
@@ -242,9 +206,113 @@ void User::ChooseFile(const QString& path) {
   Key(Qt::Key_A, Qt::ControlModifier);
   Keys(path.toStdString());
   // The list of names that fit what was typed goes first.
-  if (InTool([] { return QApplication::activePopupWidget() != nullptr; })) Key(Qt::Key_Escape);
+  if (InTool(PopupIsUp)) Key(Qt::Key_Escape);
   Key(Qt::Key_Return);
-  See("the file dialogue's end", [] { return OpenFileDialog() == nullptr; });
+  See("the file dialogue's end", [] { return !FrontDialog<QFileDialog>(); });
+}
+
+void User::TellSim(const char* command) {
+  // The program belongs to the tool's thread.
+  const std::string answer = InTool([this, command] { return sim_.Tell(command); });
+  if (!answer.starts_with("ok")) throw TourFailure(command + (" gives \"" + answer + "\""));
+}
+
+// Looks.
+
+void User::See(const std::string& what, const std::function<bool()>& seen, int within_ms) {
+  doing_ = "see " + what;
+  for (int waited = 0; waited < within_ms; waited += kLookAgainMs) {
+    if (InTool(seen)) return;
+    QThread::msleep(kLookAgainMs);
+  }
+  throw TourFailure("the screen does not show " + what);
+}
+
+template <typename Widget, typename Seen>
+void User::SeeWidget(const Control& control, const std::string& what, Seen seen) {
+  See(NameOf(control) + " " + what, [this, &control, seen] {
+    const auto* widget = qobject_cast<const Widget*>(forms_.WidgetOf(control));
+    return widget && widget->isVisible() && seen(*widget);
+  });
+}
+
+void User::SeeOn(Control& control, bool on) {
+  SeeWidget<QWidget>(control, on ? "on" : "off",
+                     [on](const QWidget& widget) { return widget.isEnabled() == on; });
+}
+
+void User::SeeGone(View& view) {
+  See(std::string(view.Name) + " gone", [this, &view] { return !forms_.Find(view); });
+}
+
+void User::SeeLamp(Image& lamp, bool lit) {
+  SeeWidget<Lamp>(lamp, lit ? "lit" : "dark",
+                  [lit](const Lamp& drawn) { return drawn.IsLit() == lit; });
+}
+
+void User::SeeText(Control& control, const std::string& part) {
+  SeeWidget<QWidget>(control, "with \"" + part + "\"",
+                     [part](const QWidget& widget) { return Says(&widget, part); });
+}
+
+void User::SeeEmpty(TextBox& field) {
+  SeeWidget<QLineEdit>(field, "empty", [](const QLineEdit& edit) { return edit.text().isEmpty(); });
+}
+
+void User::SeeCell(Grid& grid, int row, int col, const std::string& text) {
+  SeeWidget<GridTable>(grid, CellName(row, col) + " with \"" + text + "\"",
+                       [&grid, row, col, text](const GridTable& table) {
+                         const auto at =
+                             table.model()->index(row - grid.FixedRows, col - grid.FixedCols);
+                         return table.model()->data(at).toString() == QString::fromStdString(text);
+                       });
+}
+
+void User::SeeCellEditor(Grid& grid, const std::string& text) {
+  SeeWidget<GridTable>(grid, "editing \"" + text + "\"", [text](const GridTable& table) {
+    return table.IsEditing() && table.Editor()->text() == QString::fromStdString(text);
+  });
+}
+
+void User::SeeEntry(ComboBox& list, const std::string& entry, bool offered) {
+  SeeWidget<QComboBox>(list, (offered ? "with \"" : "without \"") + entry + "\"",
+                       [entry, offered](const QComboBox& combo) {
+                         return (combo.findText(QString::fromStdString(entry)) >= 0) == offered;
+                       });
+}
+
+void User::SeeTitle(View& view, const std::string& part) {
+  See("the title \"" + part + "\"", [this, &view, part] {
+    const BoundView* bound = forms_.Find(view);
+    return bound && bound->Window().windowTitle().contains(QString::fromStdString(part));
+  });
+}
+
+void User::SeePanel(int panel, const std::string& part) {
+  SeeWidget<QWidget>(frmMain.sbStatusBar, "with \"" + part + "\"", [panel, part](const auto& bar) {
+    const auto labels = bar.template findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
+    return panel < labels.size() && Says(labels[panel], part);
+  });
+}
+
+void User::SeeReady(int within_ms) {
+  const auto seen = [this] {
+    const QWidget* reset = forms_.WidgetOf(frmMain.cmdReset);
+    return !FrontDialog() && reset && reset->isEnabled();
+  };
+  See("the commands on again", seen, within_ms);
+}
+
+void User::Picture(const std::string& name) {
+  doing_ = "picture " + name;
+  constexpr int kSettleMs = 250;  // what has changed is painted by then
+  QThread::msleep(kSettleMs);
+  const QImage picture = InTool([] { return GrabScreen(); });
+  const QString file = QString("%1/%2-%3-%4.png")
+                           .arg(folder_)
+                           .arg(next_picture_++, 3, 10, QChar('0'))
+                           .arg(QString::fromStdString(name), session_);
+  if (!picture.save(file)) throw TourFailure("cannot save " + file.toStdString());
 }
 
 }  // namespace tr7::tour

@@ -4,11 +4,11 @@
 #include <QString>
 #include <functional>
 #include <string>
-#include <utility>
 
 #include "forms/control.h"
 #include "forms/grid.h"
 #include "platform/form_host.h"
+#include "tests/ui/sim_process.h"
 
 class QTabWidget;
 class QWidget;
@@ -24,35 +24,34 @@ namespace tr7::tour {
 /// each act and each look throws a TourFailure when its time is over.
 class User {
  public:
-  /// Pictures go to `folder` as "NN-name-session.png", numbered from `first_picture`.
-  User(QtFormHost& forms, QString folder, QString session, int first_picture);
+  /// Pictures go to `folder` as "NNN-name-session.png", numbered from `first_picture`.
+  User(QtFormHost& forms, SimProcess& sim, QString folder, QString session, int first_picture);
 
   // Acts.
   void Click(Control& control);
   void ClickTab(TabStrip& strip, int index);
   void Choose(Menu& menu, Menu& command);
-  void OpenMenu(Menu& menu);
   void Pick(ComboBox& list, int index);
-  void PickText(ComboBox& list, const std::string& entry);
-  /// Pages of the view's own tabs, and turning to one, from 0.
-  int Pages(View& view);
-  void TurnToPage(View& view, int page);
+  void Pick(ComboBox& list, const std::string& entry);
+  /// Turns to a page of the view's own tabs, from 0; false when there is none of that number.
+  bool TurnToPage(View& view, int page);
   /// Replaces what the field holds.
   void Type(TextBox& field, const std::string& text);
   void ClickCell(Grid& grid, int row, int col);
-  void DoubleClickCell(Grid& grid, int row, int col);
   void Keys(const std::string& text);
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-  /// Presses that button of the box in front.
-  void Answer(MsgAnswer answer);
-  /// Types the path into the file dialogue in front and confirms.
-  void ChooseFile(const QString& path);
+  /// Waits for a box with this text, takes its picture where that has a name, and presses a button.
+  void AnswerBox(const std::string& part, MsgAnswer answer, const char* picture = nullptr,
+                 int within_ms = kSoonMs);
+  /// Waits for the file dialogue, takes its picture, types the path and confirms.
+  void ChooseFile(const QString& path, const char* picture);
+  /// Gives the simulated controller a command.
+  void TellSim(const char* command);
 
   // Looks.
   /// Waits until `seen`, which runs in the tool's thread, holds.
   void See(const std::string& what, const std::function<bool()>& seen, int within_ms = kSoonMs);
-  void SeeOn(Control& control);
-  void SeeOff(Control& control);
+  void SeeOn(Control& control, bool on = true);
   void SeeGone(View& view);
   void SeeLamp(Image& lamp, bool lit);
   /// A label, button, field or list says this somewhere in its text.
@@ -61,14 +60,12 @@ class User {
   void SeeCell(Grid& grid, int row, int col, const std::string& text);
   /// The grid's cell editor is open and holds this.
   void SeeCellEditor(Grid& grid, const std::string& text);
-  void SeeTitle(View& view, const std::string& title);
-  /// The list offers no such entry.
-  void SeeLacks(ComboBox& list, const std::string& entry);
+  /// The list offers this entry, or does not.
+  void SeeEntry(ComboBox& list, const std::string& entry, bool offered);
+  /// The view's title says this somewhere.
+  void SeeTitle(View& view, const std::string& part);
   /// The status bar's panel says this.
-  void SeePanel(int panel, const std::string& part, int within_ms = kSoonMs);
-  /// A box with this text is in front.
-  void SeeBox(const std::string& part, int within_ms = kSoonMs);
-  void SeeFileDialog();
+  void SeePanel(int panel, const std::string& part);
   /// The commands are on again and nothing is asked.
   void SeeReady(int within_ms = kSoonMs);
 
@@ -77,20 +74,27 @@ class User {
   const std::string& Doing() const { return doing_; }
 
   static constexpr int kSoonMs = 15'000;
+  /// 40 lines, on a slow machine.
+  static constexpr int kTransferMs = 60'000;
+
+  const QString file;  ///< what the session saves
 
  private:
-  using Place = std::function<std::pair<QWidget*, QPoint>()>;
-  using Press = void (*)(QWidget&, const QPoint&);
+  /// Where on the screen; nowhere while there is no widget.
+  struct Place {
+    QWidget* widget = nullptr;
+    QPoint at;
+  };
 
-  void ClickPlace(const std::string& what, const Place& place, Press press = nullptr);
+  void ClickPlace(const std::string& what, const std::function<Place()>& find);
+  /// Waits until the control's widget is shown and `seen` holds for it.
+  template <typename Widget, typename Seen>
+  void SeeWidget(const Control& control, const std::string& what, Seen seen);
   void SeeFocus();
-  /// The list's entry of that text, or -1.
-  int EntryOf(ComboBox& list, const std::string& entry);
   QTabWidget* TabsOf(View& view) const;
-  QWidget* WidgetOf(const Control& control) const;
-  void PressCell(Grid& grid, int row, int col, Press press);
 
   QtFormHost& forms_;
+  SimProcess& sim_;
   QString folder_, session_;
   int next_picture_;
   std::string doing_;

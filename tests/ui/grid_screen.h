@@ -7,11 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "core/main_entry.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
 #include "tests/ui/ui_test.h"
@@ -30,14 +27,7 @@ class GridTest : public UiTest {
 
   /// The tool offline, with the new table of 15 lines that it proposes.
   void Start(bool program_mode) {
-    desktop.settings.Set("Settings", "Language", "2");
-    user.on_modal["frmSelection"] = user.on_modal["frmSelection2"] = [program_mode](View& view) {
-      auto& selection = static_cast<SelectionView&>(view);
-      selection.options[selection.lblPrompt.Caption == Text(74) ? program_mode : 1]->Press();
-      selection.cmdOk.Press();
-    };
-    frmSplash.timerSplash.Interval = 10;
-    Main();
+    StartOffline(program_mode);
     frmPosi.cmdPosiNew.Press();
     ASSERT_EQ(grid.Rows(), kFirst + 15);
     Settle();
@@ -51,21 +41,31 @@ class GridTest : public UiTest {
     grid.SelectCell(row, col);
     Settle();
   }
-  /// To whatever has the keys: the open editor, else the grid.
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWidget* target = table->Editor();
-    QTest::keyClick(target ? target : table, key, modifiers);
-    Settle();
+  /// Keys by their names, "Shift+Down Return", to whatever has them: the open editor, else the
+  /// grid.
+  void Press(const char* keys) {
+    for (const QString& name : QString(keys).split(' ')) {
+      const QKeyCombination key = QKeySequence::fromString(name)[0];
+      QWidget* target = table->Editor();
+      QTest::keyClick(target ? target : table, key.key(), key.keyboardModifiers());
+      Settle();
+    }
   }
-  void Keys(const char* text) {
+  void Type(const char* text) {
     for (; *text; ++text) {
       QWidget* target = table->Editor();
       QTest::keyClick(target ? target : table, *text);
     }
   }
   std::string Cell(int row, int col) const { return grid.Text(row, col); }
-  std::pair<int, int> Current() const { return {grid.Row, grid.Col}; }
-  std::pair<int, int> Corner() const { return {grid.RowSel, grid.ColSel}; }
+  void ClickAt(int row, int col, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers, Middle(row, col));
+  }
+  void DoubleClickAt(int row, int col) {
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, Middle(row, col));
+  }
+  At Current() const { return {grid.Row, grid.Col}; }
+  At Corner() const { return {grid.RowSel, grid.ColSel}; }
   std::string Edited() const { return table->Editor() ? Of(table->Editor()->text()) : "none"; }
   static std::string Of(const QString& text) { return text.toStdString(); }
   QPoint Middle(int row, int col) const { return table->CellRect(row, col).center(); }

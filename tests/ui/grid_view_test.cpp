@@ -14,7 +14,7 @@ TEST_F(GridTest, GrowingALineSelectionScrollsDownAlone) {
   grid.Select(5, 1, 5, kComment);
   Settle();
   table->horizontalScrollBar()->setValue(40);
-  Key(Qt::Key_Down, Qt::ShiftModifier);
+  Press("Shift+Down");
   EXPECT_EQ(Corner(), At(6, kComment));
   EXPECT_EQ(table->horizontalScrollBar()->value(), 40);
 }
@@ -24,20 +24,14 @@ TEST_F(GridTest, DevicesStandOverTheirAxesWhereverTheGridIsScrolledTo) {
   for (const int scrolled : {0, 337, 500, 1000}) {
     Settle();
     table->horizontalScrollBar()->setValue(scrolled);
-    for (int axis = 0; axis < frmPosi.lblDeviceType.size(); ++axis) {
+    for (int axis = 0; axis < kAxes; ++axis) {
       const QWidget& label = *desktop.forms.WidgetOf(*frmPosi.lblDeviceType[axis]);
-      const int left = label.mapTo(table->window(), QPoint()).x();
-      const auto x_of = [this](int col) {
-        return table->viewport()
-            ->mapTo(table->window(), table->CellRect(kFirst, col).topLeft())
-            .x();
-      };
-      const int first = x_of(AxisBase(axis) + kVel);
-      const bool whole = first >= 0 && first + 180 < 800;
-      if (whole) {
-        EXPECT_TRUE(label.isVisible() && left - first >= 0 && left - first < 20)
-            << axis << " at " << left << ", its axis at " << first;
-      }
+      const QPoint cell =
+          table->CellRect(kFirst, AxisBase(axis) + kVel).topLeft();
+      const int first = table->viewport()->mapTo(table->window(), cell).x();
+      if (first < 0 || first + 180 >= 800) continue;  // not in sight as a whole
+      const int beside = label.mapTo(table->window(), QPoint()).x() - first;
+      EXPECT_TRUE(label.isVisible() && beside >= 0 && beside < 20) << axis << " at " << first;
     }
   }
 }
@@ -49,7 +43,7 @@ TEST_F(GridTest, SaveKeepsTheCellAndGivesTheFocusBack) {
   save->setFocus();
   save->click();
   Settle();
-  EXPECT_EQ(frmPosi.Caption.find("saved") != std::string::npos, true) << frmPosi.Caption;
+  EXPECT_NE(frmPosi.Caption.find("saved"), std::string::npos) << frmPosi.Caption;
   EXPECT_EQ(table->window()->focusWidget(), table);
   EXPECT_EQ(Current(), At(kFirst + 3, kPosi));
 }

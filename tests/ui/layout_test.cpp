@@ -8,12 +8,9 @@
 #include <algorithm>
 #include <map>
 
-#include "core/main_entry.h"
 #include "forms/control.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
 #include "state/views.h"
 #include "tests/ui/clipping.h"
 #include "tests/ui/ui_test.h"
@@ -32,66 +29,46 @@ class LayoutTest : public UiTest, public ::testing::WithParamInterface<bool> {
  protected:
   LayoutTest() {
     UseJapanese(GetParam());
-    desktop.settings.Set("Settings", "Language", GetParam() ? "1" : "2");
     frmMain.Width = 15240;  // as at the first start
     frmMain.Height = 11000;
   }
 
-  /// Draws the view as it is before any logic has touched it.
-  const BoundView* Draw(View& view) {
-    ApplyViewCaptions(view);
-    view.Visible = true;
-    desktop.forms.Show(view);
-    Settle();
-    return desktop.forms.Find(view);
-  }
-  /// Draws every view, the frame and its children first.
+  /// Draws every view as it is before any logic has touched it, the frame first.
   std::vector<const BoundView*> DrawAll() {
+    std::vector<View*> views = AllViews();
+    std::stable_partition(views.begin(), views.end(), [](View* view) { return view == &frmMain; });
     std::vector<const BoundView*> drawn;
-    for (const bool frame : {true, false}) {
-      for (View* view : AllViews()) {
-        if ((view == &frmMain) != frame) continue;
-        drawn.push_back(Draw(*view));
-        EXPECT_NE(drawn.back(), nullptr) << view->Name;
-      }
+    for (View* view : views) {
+      ApplyViewCaptions(*view);
+      view->Visible = true;
+      desktop.forms.Show(*view);
+      Settle();
+      drawn.push_back(desktop.forms.Find(*view));
+      EXPECT_NE(drawn.back(), nullptr) << view->Name;
     }
-    Settle();
     return drawn;
+  }
+  void LookAtChoice(View& view) override {
+    Settle();
+    ExpectNothingCut(*desktop.forms.Find(view));
   }
   static void ExpectNothingCut(const BoundView& bound) {
     EXPECT_EQ(Joined(ClippedTexts(bound)), "");
   }
   /// The frame and the position view with all that logic has put into them, tab by tab.
   void ExpectNothingCutAfterTheStart(bool program_mode) {
-    StartTool(program_mode);
+    StartOffline(program_mode);
     TabStrip& strip = program_mode ? frmPosi.tabCmdPrg : frmPosi.tabCmd;
     ASSERT_TRUE(strip.Visible);
     for (int tab = 0; tab < static_cast<int>(strip.Tabs.size()); ++tab) {
       strip.Selected = tab;
       strip.Click();
       Settle();
-      for (const View* view : {static_cast<View*>(&frmMain), static_cast<View*>(&frmPosi)}) {
-        const BoundView* bound = desktop.forms.Find(*view);
-        ASSERT_NE(bound, nullptr);
-        ExpectNothingCut(*bound);
+      for (View* view : std::initializer_list<View*>{&frmMain, &frmPosi}) {
+        ASSERT_NE(desktop.forms.Find(*view), nullptr);
+        ExpectNothingCut(*desktop.forms.Find(*view));
       }
     }
-  }
-  void StartTool(bool program_mode) {
-    user.on_modal["frmSelection"] =
-        user.on_modal["frmSelection2"] = [this, program_mode](View& view) {
-          auto& selection = static_cast<SelectionView&>(view);
-          const bool of_mode = selection.lblPrompt.Caption == Text(74);
-          selection.options[of_mode ? program_mode : 1]->Press();
-          Settle();
-          ExpectNothingCut(*desktop.forms.Find(view));
-          selection.cmdOk.Press();
-        };
-    frmSplash.timerSplash.Interval = 10;
-    Main();
-    ASSERT_TRUE(AppState.Offline);
-    ASSERT_EQ(AppState.CtMode, program_mode);
-    Settle();
   }
 };
 
@@ -99,20 +76,13 @@ INSTANTIATE_TEST_SUITE_P(, LayoutTest, ::testing::Bool(), [](const auto& languag
   return std::string(language.param ? "Japanese" : "English");
 });
 
-TEST_P(LayoutTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
-  EXPECT_GE(AllViews().size(), 14u);
-  for (const BoundView* bound : DrawAll()) {
-    EXPECT_EQ(Joined(bound->Problems()), "") << bound->Record().Name;
-    EXPECT_EQ(bound->Record().Controls.empty(), false);
-  }
-}
-
-TEST_P(LayoutTest, EveryViewFitsTheScreen) {
+TEST_P(LayoutTest, EveryControlHasItsWidgetAndEveryViewFitsTheScreen) {
   const QSize screen = QGuiApplication::primaryScreen()->availableSize();
   for (const BoundView* bound : DrawAll()) {
     const QSize size = bound->Window().window()->size();
-    EXPECT_LE(size.width(), screen.width()) << bound->Record().Name;
-    EXPECT_LE(size.height(), screen.height()) << bound->Record().Name;
+    EXPECT_EQ(Joined(bound->Problems()), "") << bound->Record().Name;
+    EXPECT_FALSE(bound->Record().Controls.empty());
+    EXPECT_EQ(size.boundedTo(screen), size) << bound->Record().Name;
   }
 }
 
@@ -155,56 +125,42 @@ TEST_P(LayoutTest, TheTabKeyFollowsTheRecord) {
   }
 }
 
-/// The letters behind "&", with what they stand on.
-class Mnemonics {
- public:
-  void Add(const QString& text, const std::string& name) {
+/// No two texts have the same letter behind their "&".
+void ExpectOneLetterEach(const QStringList& texts, const std::string& where) {
+  std::map<QChar, QString> taken;
+  for (const QString& text : texts) {
     const auto mark = text.indexOf('&');
-    if (mark < 0 || mark + 1 >= text.size() || text[mark + 1] == '&') return;
-    taken_[text[mark + 1].toUpper()] += " " + name;
+    if (mark < 0 || mark + 1 >= text.size() || text[mark + 1] == '&') continue;
+    QString& other = taken[text[mark + 1].toUpper()];
+    EXPECT_EQ(other.toStdString(), "") << where << ": " << text.toStdString();
+    other = text;
   }
-  std::string Clashes() const {
-    std::string clashes;
-    for (const auto& [letter, names] : taken_) {
-      if (std::count(names.begin(), names.end(), ' ') > 1) {
-        clashes += QString(letter).toStdString() + ":" + names + "\n";
-      }
-    }
-    return clashes;
-  }
+}
 
- private:
-  std::map<QChar, std::string> taken_;
-};
-
-void ExpectNoClashesIn(const QList<QAction*>& actions, const std::string& where) {
-  Mnemonics mnemonics;
+/// Texts of the actions; those of the menus below them are looked at by the way.
+QStringList TextsOf(const QList<QAction*>& actions) {
+  QStringList texts;
   for (const QAction* action : actions) {
-    mnemonics.Add(action->text(), action->objectName().toStdString());
-    if (action->menu()) {
-      ExpectNoClashesIn(action->menu()->actions(), action->text().toStdString());
-    }
+    texts << action->text();
+    if (!action->menu()) continue;
+    ExpectOneLetterEach(TextsOf(action->menu()->actions()), action->text().toStdString());
   }
-  EXPECT_EQ(mnemonics.Clashes(), "") << where;
+  return texts;
 }
 
 TEST_P(LayoutTest, NoTwoMnemonicsOfAViewOrMenuAreTheSame) {
   for (const BoundView* bound : DrawAll()) {
-    Mnemonics mnemonics;
+    QStringList texts;
     for (const Control* control : bound->Record().Controls) {
-      const QWidget* widget = bound->WidgetOf(*control);
-      if (widget) mnemonics.Add(Q(control->Caption), control->Name);
+      if (bound->WidgetOf(*control)) texts << Q(control->Caption);
     }
     // A view inside the frame shares the Alt key with the menu bar.
     for (const QMenuBar* bar : bound->Window().window()->findChildren<QMenuBar*>()) {
-      for (const QAction* menu : bar->actions()) {
-        mnemonics.Add(menu->text(), menu->menu()->objectName().toStdString());
-        ExpectNoClashesIn(menu->menu()->actions(), menu->text().toStdString());
-      }
+      texts << TextsOf(bar->actions());
     }
-    EXPECT_EQ(mnemonics.Clashes(), "") << bound->Record().Name;
+    ExpectOneLetterEach(texts, bound->Record().Name);
     for (const QMenu* menu : bound->Window().findChildren<QMenu*>("mnuPopup")) {
-      ExpectNoClashesIn(menu->actions(), "the popup");
+      ExpectOneLetterEach(TextsOf(menu->actions()), "the popup");
     }
   }
 }

@@ -26,22 +26,18 @@ TEST_F(PumpTest, AWaitTakesItsTimeAndSleepsThroughIt) {
   EXPECT_LE(desktop.pump.sleeps - sleeps, 6u) << "one for the wait, one for the lamp's timer";
 }
 
-TEST_F(PumpTest, APeriodicTimerKeepsItsIntervalWhoeverDrivesTheLoop) {
+TEST_F(PumpTest, APeriodicTimerKeepsItsIntervalInALoopOfAnothersToo) {
   Timer timer(20, true);
   int ticks = 0;
-  std::int64_t start = NowMs();
-  timer.Tick = [&ticks] { ++ticks; };
-  ASSERT_TRUE(Until([&ticks] { return ticks == 5; }));
-  EXPECT_GE(NowMs() - start, 5 * timer.Interval);
+  const std::int64_t start = NowMs();
   QEventLoop loop;  // as a menu or a drag runs one of its own
   timer.Tick = [&ticks, &loop] {
-    if (++ticks == 10) loop.quit();
+    if (++ticks == 5) loop.quit();
   };
-  start = NowMs();
   QTimer::singleShot(5000, &loop, &QEventLoop::quit);
   loop.exec();
-  EXPECT_EQ(ticks, 10);
-  EXPECT_GE(NowMs() - start, 4 * timer.Interval);
+  EXPECT_EQ(ticks, 5);
+  EXPECT_GE(NowMs() - start, 5 * timer.Interval);
 }
 
 TEST_F(PumpTest, ATickThatWaitsLetsTheOthersTick) {
@@ -77,21 +73,17 @@ TEST_F(PumpTest, WorkThatHasBecomePossibleIsServedAtOnceAndCostsNothingBefore) {
   EXPECT_EQ(ticks, 1);
 }
 
-TEST_F(PumpTest, TicksThatNeverPauseStillLetTheUserIn) {
+TEST_F(PumpTest, TicksThatNeverPauseStillLetTheUserInAndHeldTimersWait) {
   Timer busy(2, true);
+  int ticks = 0;
   busy.HasWork = [] { return true; };
-  busy.Tick = [] {};
+  busy.Tick = [&ticks] { ++ticks; };
   bool clicked = false;
   QTimer::singleShot(20, &user, [&clicked] { clicked = true; });
   EXPECT_TRUE(Until([&clicked] { return clicked; }, 1000));
-}
-
-TEST_F(PumpTest, HeldTimersWaitAndThenTick) {
-  Timer timer(10, true);
-  int ticks = 0;
-  timer.Tick = [&ticks] { ++ticks; };
   {
     const QtPump::HoldTimers hold(desktop.pump);
+    ticks = 0;
     WaitMs(60);
     EXPECT_EQ(ticks, 0);
   }

@@ -6,31 +6,15 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
 #include "forms/control.h"
-#include "state/text.h"
 #include "state/views.h"
+#include "tests/ui/box_button.h"
 
 namespace tr7 {
-namespace {
-
-QAbstractButton* ButtonOf(const QMessageBox& box, MsgAnswer answer) {
-  const std::map<MsgAnswer, MsgId> texts{{MsgAnswer::Yes, MsgId(5150)},
-                                         {MsgAnswer::No, MsgId(5151)},
-                                         {MsgAnswer::Ok, MsgId(5152)},
-                                         {MsgAnswer::Cancel, MsgId(5153)}};
-  for (QAbstractButton* button : box.buttons()) {
-    if (button->text().toStdString() == Text(texts.at(answer))) return button;
-  }
-  return nullptr;
-}
-
-}  // namespace
-
 ScreenUser::ScreenUser(const QtFormHost& forms) : forms_(forms) { qApp->installEventFilter(this); }
 
 ScreenUser::~ScreenUser() { qApp->removeEventFilter(this); }

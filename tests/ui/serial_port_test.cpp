@@ -12,15 +12,8 @@
 #include <string>
 #include <thread>
 
-#include "core/main_entry.h"
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
-#include "forms/frm_select_posi_no.h"
-#include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
 #include "link/port.h"
 #include "tests/support/as_ordinary_user.h"
-#include "tests/ui/sim_process.h"
 #include "tests/ui/ui_test.h"
 
 namespace tr7 {
@@ -141,30 +134,17 @@ TEST_F(SerialPortTest, AnExpectedReplyWakesSeldomAndIsThereWithItsLastByte) {
   EXPECT_LE(static_cast<std::int64_t>(desktop.pump.sleeps - sleeps), bytes * 2 / 3 + late_ms);
 }
 
-TEST_F(SerialPortTest, ALineThatIsShorterThanExpectedArrives) {
-  for (const std::string reply : {"\n", "0%%101\r\n", "0RP0010123456789\r\n"}) {
+TEST_F(SerialPortTest, AReplyOfAnotherLengthArrivesWholeAndAPartIsKept) {
+  for (const std::string& reply : {std::string("\n"), std::string("0%%101\r\n"),
+                                   std::string("0RP0010123456789\r\n"), std::string(200, '5')}) {
     Open();
     port.ExpectReply(68);
     line.Send(reply);
-    const std::int64_t start = NowMs();
-    ASSERT_TRUE(Arrives(reply.size())) << reply;
-    EXPECT_LE(NowMs() - start, 2000);
-    EXPECT_EQ(port.ReadAll(), reply);
+    std::string got;
+    ASSERT_TRUE(Until([&] { return (got += port.ReadAll()).size() >= reply.size(); }, 2000));
+    EXPECT_EQ(got, reply);
     port.Close();
   }
-}
-
-TEST_F(SerialPortTest, ALineThatIsLongerThanExpectedArrivesWhole) {
-  Open();
-  const std::string reply(200, '5');
-  port.ExpectReply(20);
-  line.Send(reply);
-  std::string got;
-  EXPECT_TRUE(Until([&] { return (got += port.ReadAll()).size() >= reply.size(); }));
-  EXPECT_EQ(got, reply);
-}
-
-TEST_F(SerialPortTest, APartIsKeptForWhoeverAsksNext) {
   Open();
   port.ExpectReply(68);
   line.Send("0RP0");
@@ -174,72 +154,20 @@ TEST_F(SerialPortTest, APartIsKeptForWhoeverAsksNext) {
   EXPECT_EQ(port.ReadAll(), "0RP0");
 }
 
-// Openings that fail tell which way, to the user as well.
-
-class OpeningTest : public SerialPortTest {
- protected:
-  /// The user's words for the failure to open this device, through the tool's own online command.
-  std::string ToldOf(const std::string& device) {
-    desktop.settings.Set("Settings", "PortDevice1", device);
-    desktop.settings.Set("Settings", "PortNo", "1");
-    AppState.PortNo = 1;
-    user.boxes.clear();
-    frmMain.mnuSettingOnline.Press();
-    EXPECT_TRUE(AppState.Offline);
-    return user.boxes.empty() ? "" : user.boxes.back();
-  }
-  std::string Words(MsgId reason, const std::string& device) const {
-    return Text(109) + "\n\n" + Text(110) + "\n\n" + Text(reason, device);
-  }
-};
-
-TEST_F(OpeningTest, APortThatDoesNotExist) {
+TEST_F(SerialPortTest, APortThatCannotBeOpenedTellsWhy) {
   EXPECT_EQ(port.Open("/dev/tr7-none"), PortFault::NoSuchPort);
   EXPECT_EQ(port.Open("tr7-none"), PortFault::NoSuchPort);
-  EXPECT_EQ(ToldOf("/dev/tr7-none"), Words(5900, "/dev/tr7-none"));
-}
-
-TEST_F(OpeningTest, APortThatAnotherProgramHolds) {
   QSerialPort other;
   other.setPortName(QString::fromStdString(line.Path()));
   ASSERT_TRUE(other.open(QIODevice::ReadWrite));
   EXPECT_EQ(port.Open(line.Path()), PortFault::InUse);
-  EXPECT_EQ(ToldOf(line.Path()), Words(5901, line.Path()));
   other.close();
   EXPECT_EQ(port.Open(line.Path()), PortFault::None);
-}
-
-TEST_F(OpeningTest, APortThatThisUserMayNotOpen) {
+  port.Close();
   ASSERT_EQ(chmod(line.Path().c_str(), 0600), 0);
   const AsOrdinaryUser ordinary;
   if (access(line.Path().c_str(), R_OK) == 0) GTEST_SKIP() << "the terminal is this user's own";
   EXPECT_EQ(port.Open(line.Path()), PortFault::NotPermitted);
-  EXPECT_EQ(ToldOf(line.Path()), Words(5902, line.Path()));
-}
-
-// The whole tool on a real line.
-
-TEST_F(SerialPortTest, TheToolReadsPositionsFromTheSimulatedController) {
-  const SimProcess sim(TR7_SIM_PROGRAM);
-  ASSERT_FALSE(sim.Path().empty());
-  desktop.settings.Set("Settings", "Language", "2");
-  desktop.settings.Set("Settings", "PortDevice1", sim.Path());
-  user.on_modal["frmSelectPosiNo2"] = [](View& view) {
-    auto& range = static_cast<SelectPosiNoView&>(view);
-    range.optRange.Press();
-    range.txtFromNo.Type("3");
-    range.txtToNo.Type("7");
-    range.cmdOk.Press();
-  };
-  frmSplash.timerSplash.Interval = 10;
-  Main();  // the choice box's default is online
-  ASSERT_FALSE(AppState.Offline) << (user.boxes.empty() ? "" : user.boxes.back());
-  frmPosi.cmdPosiRead.Press();
-  EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
-  ASSERT_EQ(frmPosi.flgdData.Rows(), 7);
-  EXPECT_EQ(frmPosi.flgdData.Text(2, 0), "3");
-  EXPECT_EQ(frmPosi.flgdData.Text(6, 0), "7");
-  EXPECT_EQ(user.modals.back(), "frmSelectPosiNo2");
 }
 
 }  // namespace

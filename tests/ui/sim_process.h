@@ -12,10 +12,7 @@ class SimProcess {
  public:
   explicit SimProcess(const QString& program, const QStringList& options = {}) {
     process_.start(program, options + QStringList{"--quit-on-eof"});
-    while (process_.state() != QProcess::NotRunning && !process_.canReadLine()) {
-      if (!process_.waitForReadyRead(5000)) break;
-    }
-    path_ = QString::fromUtf8(process_.readLine()).trimmed().toStdString();
+    path_ = ReadLine();
   }
   ~SimProcess() {
     process_.closeWriteChannel();
@@ -27,8 +24,21 @@ class SimProcess {
 
   /// The pseudo-terminal's path; empty when the program did not start.
   const std::string& Path() const { return path_; }
+  /// Gives a command on its standard input; its answer.
+  std::string Tell(const char* command) {
+    process_.write(command);
+    process_.write("\n");
+    return ReadLine();
+  }
 
  private:
+  std::string ReadLine() {
+    while (process_.state() != QProcess::NotRunning && !process_.canReadLine()) {
+      if (!process_.waitForReadyRead(5000)) break;
+    }
+    return QString::fromUtf8(process_.readLine()).trimmed().toStdString();
+  }
+
   QProcess process_;
   std::string path_;
 };

@@ -3,7 +3,10 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include "core/main_entry.h"
 #include "core/reset_state.h"
+#include "forms/frm_selection.h"
+#include "forms/frm_splash.h"
 
 namespace tr7 {
 
@@ -18,6 +21,22 @@ UiTest::UiTest()
 void UiTest::UseJapanese(bool japanese) {
   AppState.LanguageNo = japanese ? 1 : 2;
   AppState.LangOffset = japanese ? 0 : 10000;
+}
+
+void UiTest::StartOffline(bool program_mode) {
+  desktop.settings.Set("Settings", "Language", AppState.LanguageNo == 1 ? "1" : "2");
+  user.on_modal["frmSelection"] =
+      user.on_modal["frmSelection2"] = [this, program_mode](View& view) {
+        auto& selection = static_cast<SelectionView&>(view);
+        const bool of_mode = selection.lblPrompt.Caption == Text(74);
+        selection.options[of_mode ? program_mode : 1]->Press();
+        LookAtChoice(view);
+        selection.cmdOk.Press();
+      };
+  frmSplash.timerSplash.Interval = 10;
+  Main();
+  ASSERT_TRUE(AppState.Offline && AppState.CtMode == program_mode);
+  Settle();
 }
 
 bool UiTest::Until(const std::function<bool()>& holds, int ms) {

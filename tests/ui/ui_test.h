@@ -18,6 +18,10 @@ class UiTest : public ::testing::Test {
  protected:
   UiTest();
 
+  /// Starts the tool offline, in English unless Japanese is in use, with the devices proposed.
+  void StartOffline(bool program_mode = false);
+  /// What a test has to look at while a choice of the start stands.
+  virtual void LookAtChoice(View&) {}
   /// Texts of the language from here on; views that are shown keep theirs.
   static void UseJapanese(bool japanese);
   /// Serves events and ticks until it holds; false when that takes longer than `ms`.

@@ -6,19 +6,11 @@
 #include "core/install_views.h"
 #include "ui/look.h"
 
-namespace {
-
-/// Without what the plugin for screens that nobody sees has to say of itself.
-void Note(QtMsgType, const QMessageLogContext&, const QString& text) {
-  if (!text.startsWith("This plugin does not support")) {
-    std::fprintf(stderr, "%s\n", qPrintable(text));
-  }
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
-  qInstallMessageHandler(Note);
+  // What the plugin for screens that nobody sees has to say of itself is left out.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith("This plugin does not")) std::fprintf(stderr, "%s\n", qPrintable(text));
+  });
   ::testing::InitGoogleTest(&argc, argv);
   // A screen that nobody sees, of the size that the tool is made for.
   if (qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen") {

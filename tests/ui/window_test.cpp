@@ -4,15 +4,11 @@
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QPointer>
-#include <QPushButton>
 #include <QTest>
 
-#include "core/main_entry.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
-#include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
-#include "forms/frm_splash.h"
 #include "state/message_box.h"
 #include "state/selection.h"
 #include "state/view_instances.h"
@@ -25,20 +21,14 @@ namespace {
 
 class WindowTest : public UiTest {
  protected:
-  void StartOffline() {
-    desktop.settings.Set("Settings", "Language", "2");
-    user.on_modal["frmSelection"] = user.on_modal["frmSelection2"] = [](View& view) {
-      auto& selection = static_cast<SelectionView&>(view);
-      selection.options[selection.lblPrompt.Caption == Text(74) ? 0 : 1]->Press();
-      selection.cmdOk.Press();
-    };
-    frmSplash.timerSplash.Interval = 10;
-    Main();
-    user.boxes.clear();
-    Settle();
-  }
   QWidget& WindowOf(Control& control) const { return *desktop.forms.WidgetOf(control)->window(); }
   QWidget& Frame() const { return WindowOf(frmMain.lblStatus); }
+  /// Keys at the frame, once it is the window that gets them.
+  void KeyInFrame(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    Frame().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Frame()));
+    QTest::keyClick(Frame().windowHandle(), key, modifiers);
+  }
 };
 
 TEST(FirstStart, SpeaksTheLocalesLanguageUntilAnotherIsChosen) {
@@ -55,50 +45,46 @@ TEST(FirstStart, SpeaksTheLocalesLanguageUntilAnotherIsChosen) {
   }
 }
 
-// The frame.
-
-TEST_F(WindowTest, ClosingTheWindowEndsTheTool) {
+TEST_F(WindowTest, ClosingTheWindowEndsTheToolUnlessSomethingSpeaksAgainstIt) {
   StartOffline();
-  Frame().close();
-  EXPECT_TRUE(desktop.forms.Ended());
-  EXPECT_TRUE(user.boxes.empty());
+  const auto close = [this] {
+    user.boxes.clear();
+    Frame().close();
+    return desktop.forms.Ended();
+  };
+  using Boxes = std::vector<std::string>;
+  AppState.ComBusy = True;
+  EXPECT_FALSE(close());
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5941));
+  AppState.ComBusy = False;
+  AppState.TeachingNow = True;
+  EXPECT_FALSE(close());
+  EXPECT_EQ(user.boxes, Boxes{Text(60) + "\n" + Text(61)});
+  AppState.TeachingNow = False;
+  frmPosi.PosiChanged = True;
+  user.on_box = [](const std::string&) { return MsgAnswer::Cancel; };
+  EXPECT_FALSE(close());
+  EXPECT_EQ(user.boxes, Boxes{Text(391)});
+  EXPECT_TRUE(Frame().isVisible() && frmPosi.PosiChanged);
+  user.on_box = [](const std::string&) { return MsgAnswer::No; };
+  EXPECT_TRUE(close());
 }
 
-TEST_F(WindowTest, ClosingTheWindowWhileBusySaysWhyNot) {
+TEST_F(WindowTest, TheToolBarOpensPositionsAndFileCloseSparesThem) {
+  StartOffline();
+  frmMain.mnuViewPara.Press();
+  ASSERT_NE(ActiveView(), &frmPosi);
+  frmMain.tbToolBar.Press("Open");
+  EXPECT_EQ(ActiveView(), &frmPosi) << "whichever view was in front";
+  frmMain.mnuFileClose.Click();
+  EXPECT_TRUE(frmPosi.Visible);
+}
+
+TEST_F(WindowTest, TheMenusExitGoesOnWhileBusy) {
   StartOffline();
   AppState.ComBusy = True;
-  Frame().close();
-  EXPECT_FALSE(desktop.forms.Ended());
-  EXPECT_TRUE(user.boxes.empty());
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5941));
-  EXPECT_TRUE(Frame().isVisible());
   frmMain.mnuFileExit.Press();
-  EXPECT_TRUE(desktop.forms.Ended()) << "the menu's way goes on";
-}
-
-TEST_F(WindowTest, ClosingTheWindowWhileTeachingTellsWhatToDo) {
-  StartOffline();
-  AppState.TeachingNow = True;
-  Frame().close();
-  EXPECT_FALSE(desktop.forms.Ended());
-  ASSERT_EQ(user.boxes.size(), 1u);
-  EXPECT_EQ(user.boxes[0], Text(60) + "\n" + Text(61));
-}
-
-TEST_F(WindowTest, ClosingWithUnsavedDataAsksAndCancelKeepsEverything) {
-  StartOffline();
-  frmPosi.PosiChanged = True;
-  const auto answer = [this](MsgAnswer which) {
-    user.on_box = [which](const std::string&) { return which; };
-  };
-  answer(MsgAnswer::Cancel);
-  Frame().close();
-  EXPECT_FALSE(desktop.forms.Ended());
-  ASSERT_EQ(user.boxes.size(), 1u);
-  EXPECT_EQ(user.boxes[0], Text(391));
-  answer(MsgAnswer::No);
-  Frame().close();
-  EXPECT_TRUE(desktop.forms.Ended());
+  EXPECT_TRUE(desktop.forms.Ended() && user.boxes.empty());
 }
 
 TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
@@ -132,15 +118,15 @@ TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
       << place.x() << "," << place.y() << " " << place.width() << "x" << place.height();
 }
 
-TEST_F(WindowTest, AChildThatFillsTheFrameLeavesTheTitleAlone) {
+TEST_F(WindowTest, AnIdleScreenDrawsNothingAndKeepsItsTitle) {
   StartOffline();
   const QString title = Frame().windowTitle();
   EXPECT_TRUE(title.contains("QV-TR7"));
   WaitMs(300);  // the layout of what has just opened comes to rest
   const std::uint64_t sleeps = desktop.pump.sleeps;
   WaitMs(300);
-  EXPECT_LE(desktop.pump.sleeps - sleeps, 8u) << "an idle screen draws nothing";
-  EXPECT_EQ(Frame().windowTitle(), title);
+  EXPECT_LE(desktop.pump.sleeps - sleeps, 8u);
+  EXPECT_EQ(Frame().windowTitle(), title) << "a child that fills the frame leaves it alone";
 }
 
 /// A kind of view that there may be many of, drawn by a layout that stands for its own.
@@ -159,28 +145,26 @@ struct PageView : View {
 
 TEST_F(WindowTest, ViewsInNumbersShareALayoutAndGoWhenTheyAreClosed) {
   StartOffline();
-  std::vector<PageView*> pages;
   PageView::living = 3;
   bool refuse = true;
+  std::vector<QPointer<QWidget>> windows;
   for (int number = 1; number <= 3; ++number) {
-    PageView& page = *pages.emplace_back(&NewView<PageView>(number));
+    PageView& page = NewView<PageView>(number);
     page.lblProduct.Caption = "page " + std::to_string(number);
     page.QueryUnload = [&refuse](CloseReason) { return refuse; };
     ShowView(page);
-  }
-  frmMain.mnuWindowTileVertical.Press();
-  Settle();
-  std::vector<QPointer<QWidget>> windows;
-  for (const PageView* page : pages) {
-    auto* label = qobject_cast<QLabel*>(desktop.forms.WidgetOf(page->lblProduct));
+    Settle();
+    auto* label = qobject_cast<QLabel*>(desktop.forms.WidgetOf(page.lblProduct));
     ASSERT_NE(label, nullptr);
-    EXPECT_EQ(label->text().toStdString(), page->lblProduct.Caption);
+    EXPECT_EQ(label->text().toStdString(), page.lblProduct.Caption);
     QWidget* window = label->parentWidget();
     while (window && !qobject_cast<QMdiSubWindow*>(window)) window = window->parentWidget();
     ASSERT_NE(window, nullptr);
-    EXPECT_EQ(window->windowTitle().toStdString(), page->Caption);
+    EXPECT_EQ(window->windowTitle().toStdString(), page.Caption);
     windows.emplace_back(window);
   }
+  frmMain.mnuWindowTileVertical.Press();
+  Settle();
   EXPECT_LT(windows[0]->geometry().right(), windows[1]->geometry().left() + 8);
   for (const auto& window : windows) window->close();
   EXPECT_EQ(PageView::living, 3) << "each refuses";
@@ -191,90 +175,78 @@ TEST_F(WindowTest, ViewsInNumbersShareALayoutAndGoWhenTheyAreClosed) {
   EXPECT_EQ(ActiveView(), &frmPosi);
 }
 
-TEST_F(WindowTest, EscapeIsCancelWhileThatIsShown) {
+TEST_F(WindowTest, KeysPressTheirButtons) {
   StartOffline();
-  int cancels = 0;
+  int cancels = 0, news = 0;
   frmMain.cmdComCancel.Click = [&cancels] { ++cancels; };
-  Frame().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Frame()));
+  frmPosi.cmdPosiNew.Click = [&news] { ++news; };
   for (const bool shown : {false, true}) {
     frmMain.cmdComCancel.Visible = frmMain.cmdComCancel.Enabled = shown;
     Settle();
-    QTest::keyClick(Frame().windowHandle(), Qt::Key_Escape);
+    KeyInFrame(Qt::Key_Escape);
     EXPECT_EQ(Until([&cancels] { return cancels > 0; }, shown ? 1000 : 50), shown);
   }
+  KeyInFrame(Qt::Key_N, Qt::AltModifier);
+  Until([&news] { return news > 0; }, 1000);  // the button goes down and up first
+  EXPECT_EQ(news, 1) << frmPosi.cmdPosiNew.Caption;
 }
 
 // Dialogues.
 
-TEST_F(WindowTest, EscapeCancelsADialogueAndEnterIsItsDefault) {
-  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-    user.on_modal["frmSelection"] = [key, this](View& view) {
-      QWidget& window = WindowOf(static_cast<SelectionView&>(view).cmdOk);
-      QTest::keyClick(&window, key);
+TEST_F(WindowTest, KeysAnswerADialogueAndOneWithoutCancelStays) {
+  const struct {
+    Qt::Key key;
+    bool may_cancel;
+    Selection choice;
+  } rows[] = {{Qt::Key_Escape, true, Selection::Cancelled},
+              {Qt::Key_Return, true, Selection::First},
+              {Qt::Key_Escape, false, Selection::Second}};
+  for (const auto& row : rows) {
+    user.on_modal["frmSelection"] = [&row, this](View& view) {
+      auto& selection = static_cast<SelectionView&>(view);
+      QWidget& window = WindowOf(selection.cmdOk);
+      QTest::keyClick(&window, row.key);
+      if (row.may_cancel) return;
+      window.close();
+      EXPECT_TRUE(view.Visible);
+      selection.optChoice2.Press();
+      selection.cmdOk.Press();
     };
-    const Selection choice = SelectionDialog({"title", "prompt", {"one", "two"}});
-    EXPECT_EQ(choice, key == Qt::Key_Escape ? Selection::Cancelled : Selection::First);
+    const SelectionCall call{.Title = "title",
+                             .Prompt = "prompt",
+                             .Choices = {"one", "two"},
+                             .MayCancel = row.may_cancel};
+    EXPECT_EQ(SelectionDialog(call), row.choice);
   }
-}
-
-TEST_F(WindowTest, ADialogueWithoutCancelStaysUntilItIsAnswered) {
-  user.on_modal["frmSelection"] = [this](View& view) {
-    auto& selection = static_cast<SelectionView&>(view);
-    QWidget& window = WindowOf(selection.cmdOk);
-    QTest::keyClick(&window, Qt::Key_Escape);
-    window.close();
-    EXPECT_TRUE(view.Visible);
-    selection.optChoice2.Press();
-    selection.cmdOk.Press();
-  };
-  const SelectionCall call{
-      .Title = "title", .Prompt = "prompt", .Choices = {"one", "two"}, .MayCancel = false};
-  EXPECT_EQ(SelectionDialog(call), Selection::Second);
-  EXPECT_EQ(user.modals.size(), 1u);
-}
-
-TEST_F(WindowTest, AMnemonicPressesItsButton) {
-  StartOffline();
-  int clicks = 0;
-  frmPosi.cmdPosiNew.Click = [&clicks] { ++clicks; };
-  Frame().activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Frame()));
-  QTest::keyClick(Frame().windowHandle(), Qt::Key_N, Qt::AltModifier);
-  Until([&clicks] { return clicks > 0; }, 1000);  // the button goes down and up first
-  EXPECT_EQ(clicks, 1) << frmPosi.cmdPosiNew.Caption;
 }
 
 // Boxes.
 
-TEST_F(WindowTest, ABoxGivesBackTheButtonThatWasPressed) {
-  const std::pair<MsgButtons, std::vector<MsgAnswer>> kinds[] = {
-      {MsgButtons::Ok, {MsgAnswer::Ok}},
-      {MsgButtons::OkCancel, {MsgAnswer::Ok, MsgAnswer::Cancel}},
-      {MsgButtons::YesNo, {MsgAnswer::Yes, MsgAnswer::No}},
-      {MsgButtons::YesNoCancel, {MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel}},
+TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
+  const struct {
+    MsgButtons buttons;
+    std::vector<MsgAnswer> answers;
+    MsgAnswer escaped;
+  } kinds[] = {
+      {MsgButtons::Ok, {MsgAnswer::Ok}, MsgAnswer::Ok},
+      {MsgButtons::OkCancel, {MsgAnswer::Ok, MsgAnswer::Cancel}, MsgAnswer::Cancel},
+      // Escape is no answer to it: the button pressed next is.
+      {MsgButtons::YesNo, {MsgAnswer::Yes, MsgAnswer::No}, MsgAnswer::Yes},
+      {MsgButtons::YesNoCancel,
+       {MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel},
+       MsgAnswer::Cancel},
   };
-  for (const auto& [buttons, answers] : kinds) {
+  for (const auto& [buttons, answers, escaped] : kinds) {
     for (const MsgAnswer expected : answers) {
-      user.on_box = [expected = expected](const std::string&) { return expected; };
+      user.on_box = [expected](const std::string&) { return expected; };
       EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), expected);
     }
+    user.on_box = [](const std::string&) {
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+      return MsgAnswer::Yes;
+    };
+    EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), escaped);
   }
-}
-
-TEST_F(WindowTest, EscapeIsABoxesCancelAndNothingElse) {
-  int escapes = 0;
-  user.on_box = [&escapes](const std::string&) -> std::optional<MsgAnswer> {
-    QWidget* box = QApplication::activeModalWidget();
-    QTest::keyClick(box, Qt::Key_Escape);
-    ++escapes;
-    return MsgAnswer::Yes;  // to one that is still there
-  };
-  EXPECT_EQ(MsgBox("?", MsgButtons::OkCancel), MsgAnswer::Cancel);
-  EXPECT_EQ(MsgBox("?", MsgButtons::YesNoCancel), MsgAnswer::Cancel);
-  EXPECT_EQ(MsgBox("!", MsgButtons::Ok), MsgAnswer::Ok);
-  EXPECT_EQ(MsgBox("?", MsgButtons::YesNo), MsgAnswer::Yes) << "Escape is no answer to it";
-  EXPECT_EQ(escapes, 4);
 }
 
 }  // namespace
