@@ -62,6 +62,9 @@ void InstallRow(std::size_t row) {
 // The view.
 
 void LoadMacros() {
+  for (std::size_t row = 0; row < frmSqMcr.Rows.size(); ++row) {
+    frmSqMcr.Rows[row].lblSmStep.Caption = std::to_string(row + 1) + ".";
+  }
   SmTable = SmTableRecord{};
   frmSqMcr.UpDownSmNo.Value = 1;
   macros_aside.Offer(frmSqMcr.cmdSmRestore);

@@ -11,7 +11,7 @@ FieldTable Column(FrmGrp& f, std::size_t column) {
   FieldTable table{"areaTable" + std::to_string(column + 1),
                    {&head.lblGrpStart, &head.lblGrpEnd},
                    {},
-                   {480, 600, 600, 2500}};
+                   {420, 600, 600, 2400}};
   for (std::size_t i = column * kRows; i < (column + 1) * kRows; ++i) {
     GrpRow& row = f.Rows[i];
     table.Rows.push_back({&row.lblGrpNo, {&row.txtGrpStartNo, &row.txtGrpEndNo, &row.lblGrpCover}});
@@ -23,7 +23,7 @@ FieldTable Column(FrmGrp& f, std::size_t column) {
 
 FrmGrp::FrmGrp() : View("frmGrp", 6490) {
   MdiChild = true;
-  Width = 14400;
+  Width = 15000;
   Height = 8400;
   for (std::size_t column = 0; column < kColumns; ++column) {
     Tables.push_back(Column(*this, column));

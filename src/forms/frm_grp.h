@@ -40,20 +40,20 @@ struct GrpHead {
 struct FrmGrp : View {
   FrmGrp();
   OptionGroup<3> optGrpNo{*this, "optGrpNo", 1, {6470, 6471, 6472}};
-  CommandButton cmdGrpRestore{*this, "cmdGrpRestore"};
+  CommandButton cmdGrpRestore{*this, "cmdGrpRestore", 6489};
   RowArray<GrpHead, 3> Heads{*this};
   RowArray<GrpRow, kGrpPageRows> Rows{*this};
-  Frame framCt{*this, "framCt", 6473};
-  CommandButton cmdReadGrp{*this, "cmdReadGrp", 6474};
-  CommandButton cmdWriteGrp{*this, "cmdWriteGrp", 6475};
-  CommandButton cmdGrpCtVerify{*this, "cmdGrpCtVerify", 6476};
-  Frame framFile{*this, "framFile", 6477};
-  CommandButton cmdGrpFileOpen{*this, "cmdGrpFileOpen", 6478};
-  CommandButton cmdGrpFileSave{*this, "cmdGrpFileSave", 6479};
-  CommandButton cmdGrpFileVerify{*this, "cmdGrpFileVerify", 6480};
-  Frame framPrint{*this, "framPrint", 6481};
-  CommandButton cmdGrpDataPrint{*this, "cmdGrpDataPrint", 6482};
-  CommandButton cmdGrpFilePrint{*this, "cmdGrpFilePrint", 6483};
+  Frame framCt{*this, "framCt", 5230};
+  CommandButton cmdReadGrp{*this, "cmdReadGrp", 5200};
+  CommandButton cmdWriteGrp{*this, "cmdWriteGrp", 5201};
+  CommandButton cmdGrpCtVerify{*this, "cmdGrpCtVerify", 5202};
+  Frame framFile{*this, "framFile", 5231};
+  CommandButton cmdGrpFileOpen{*this, "cmdGrpFileOpen", 5204};
+  CommandButton cmdGrpFileSave{*this, "cmdGrpFileSave", 5206};
+  CommandButton cmdGrpFileVerify{*this, "cmdGrpFileVerify", 5207};
+  Frame framPrint{*this, "framPrint", 6003};
+  CommandButton cmdGrpDataPrint{*this, "cmdGrpDataPrint", 6004};
+  CommandButton cmdGrpFilePrint{*this, "cmdGrpFilePrint", 6005};
   CommandButton cmdClose{*this, "cmdClose", 2202};
 
   int ShownPage = 0;  ///< 0 to 2; it may lag behind the options while their click is on its way

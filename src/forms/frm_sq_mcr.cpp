@@ -19,7 +19,7 @@ FieldTable Column(FrmSqMcr& f, std::size_t column) {
 
 FrmSqMcr::FrmSqMcr() : View("frmSqMcr", 6504) {
   MdiChild = true;
-  Width = 12000;
+  Width = 15000;
   Height = 6600;
   lblSqMacroNo.Visible = false;  // the number is read where it is set
   for (std::size_t column = 0; column < kColumns; ++column) {

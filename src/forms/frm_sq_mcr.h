@@ -13,7 +13,6 @@ struct SmRow {
       : lblSmStep(owner, "lblSmStep" + std::to_string(index + 1)),
         comboMerei(owner, "comboMerei" + std::to_string(index + 1)),
         txtSmData(owner, "txtSmData" + std::to_string(index + 1)) {
-    lblSmStep.Caption = std::to_string(index + 1) + ".";
     txtSmData.MaxLength = 1;
   }
   Label lblSmStep;
@@ -28,19 +27,19 @@ struct FrmSqMcr : View {
   Label lblSqMacroNo{*this, "lblSqMacroNo"};
   UpDown UpDownSmNo{*this, "UpDownSmNo", 1, 20};
   Label lblSmHolds{*this, "lblSmHolds"};
-  CommandButton cmdSmRestore{*this, "cmdSmRestore"};
+  CommandButton cmdSmRestore{*this, "cmdSmRestore", 6489};
   RowArray<SmRow, 16> Rows{*this};
-  Frame framCt{*this, "framCt", 6473};
-  CommandButton cmdReadSMfromCt{*this, "cmdReadSMfromCt", 6474};
-  CommandButton cmdWriteSMtoCt{*this, "cmdWriteSMtoCt", 6475};
-  CommandButton cmdSmCTShogo{*this, "cmdSmCTShogo", 6476};
-  Frame framFile{*this, "framFile", 6477};
-  CommandButton cmdSmFileOpen{*this, "cmdSmFileOpen", 6478};
-  CommandButton cmdSmFileSave{*this, "cmdSmFileSave", 6479};
-  CommandButton cmdSmFileShogo{*this, "cmdSmFileShogo", 6480};
-  Frame framPrint{*this, "framPrint", 6481};
-  CommandButton cmdSMDispPrint{*this, "cmdSMDispPrint", 6482};
-  CommandButton cmdSMFilePrint{*this, "cmdSMFilePrint", 6483};
+  Frame framCt{*this, "framCt", 5230};
+  CommandButton cmdReadSMfromCt{*this, "cmdReadSMfromCt", 5200};
+  CommandButton cmdWriteSMtoCt{*this, "cmdWriteSMtoCt", 5201};
+  CommandButton cmdSmCTShogo{*this, "cmdSmCTShogo", 5202};
+  Frame framFile{*this, "framFile", 5231};
+  CommandButton cmdSmFileOpen{*this, "cmdSmFileOpen", 5204};
+  CommandButton cmdSmFileSave{*this, "cmdSmFileSave", 5206};
+  CommandButton cmdSmFileShogo{*this, "cmdSmFileShogo", 5207};
+  Frame framPrint{*this, "framPrint", 6003};
+  CommandButton cmdSMDispPrint{*this, "cmdSMDispPrint", 6004};
+  CommandButton cmdSMFilePrint{*this, "cmdSMFilePrint", 6005};
   CommandButton cmdClose{*this, "cmdClose", 2202};
 };
 

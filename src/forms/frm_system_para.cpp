@@ -26,7 +26,7 @@ FieldTable Group(FrmSystemPara& f, const std::string& place, std::size_t first, 
 
 FrmSystemPara::FrmSystemPara() : View("frmSystemPara", 6530) {
   MdiChild = true;
-  Width = 12000;
+  Width = 14400;
   Height = 8400;
   Tables = {Group(*this, "areaTable1", 0, 16), Group(*this, "areaTable2", 16, 32),
             Group(*this, "areaTable3", 48, 16), Group(*this, "areaTable4", 64, 8)};

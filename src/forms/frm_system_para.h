@@ -12,7 +12,6 @@ struct SysParaField {
   SysParaField(View& owner, std::size_t index)
       : lblSystemPara(owner, "lblSystemPara" + std::to_string(index + 1)),
         txtSystemPara(owner, "txtSystemPara" + std::to_string(index + 1)) {
-    lblSystemPara.Caption = std::to_string(index + 1);
     txtSystemPara.MaxLength = 5;
     txtSystemPara.AllowedChars = "0123456789";
   }
@@ -23,9 +22,9 @@ struct SysParaField {
 /// The controller's tuning values: field index 0 to 71 stands for slot 1 to 72.
 struct FrmSystemPara : View {
   FrmSystemPara();
-  Frame framCt{*this, "framCt", 6473};
-  CommandButton cmdReadFromCt{*this, "cmdReadFromCt", 6474};
-  CommandButton cmdWritetoCt{*this, "cmdWritetoCt", 6475};
+  Frame framCt{*this, "framCt", 5230};
+  CommandButton cmdReadFromCt{*this, "cmdReadFromCt", 5200};
+  CommandButton cmdWritetoCt{*this, "cmdWritetoCt", 5201};
   CommandButton cmdClose{*this, "cmdClose", 2202};
   Frame framSystemPara{*this, "framSystemPara", 6531};
   Frame framPush{*this, "framPush", 6532};

@@ -76,6 +76,9 @@ bool RefusesToClose(CloseReason) {
 }
 
 void LoadFields() {
+  for (std::size_t index = 0; index < frmSystemPara.Fields.size(); ++index) {
+    frmSystemPara.Fields[index].lblSystemPara.Caption = std::to_string(index + 1);
+  }
   if (SysParaKnown) return SysParaHyoji();
   for (SysParaField& field : frmSystemPara.Fields) field.txtSystemPara.Text.clear();
 }

@@ -116,6 +116,13 @@ void QtFormHost::ShowFrame() {
 }
 
 /// The first view takes the whole frame; later ones open as the one before stands.
+/// Where the frame's `count`-th window opens: a little behind the one before, and whole inside.
+static QPoint PlaceOfChild(const QSize& room, const QSize& size, int count) {
+  constexpr int kStep = 28;
+  const QSize free = (room - size).expandedTo({0, 0});
+  return {kStep * count % (free.width() + 1), kStep * count % (free.height() + 1)};
+}
+
 void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   if (child.mdiArea() == mdi_) {
     if (child.isMinimized()) child.showNormal();
@@ -125,7 +132,9 @@ void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   const QMdiSubWindow* before = mdi_->activeSubWindow();
   mdi_->addSubWindow(&child);
   const QSize wanted(Pixels(view.Width), Pixels(view.Height));
-  child.resize(wanted.boundedTo(mdi_->viewport()->size()));
+  const QSize room = mdi_->viewport()->size();
+  child.resize(wanted.boundedTo(room));
+  child.move(PlaceOfChild(room, child.size(), static_cast<int>(mdi_->subWindowList().size()) - 1));
   if (!before || before->isMaximized()) {
     child.showMaximized();
   } else {

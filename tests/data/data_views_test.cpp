@@ -184,7 +184,7 @@ TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
   CloseView(kind.view, CloseReason::Code);
   kind.menu.Press();
   EXPECT_NE(kind.held(), kind.good);
-  EXPECT_EQ(kind.restore.Caption, "Bring back what was closed at 12:00");
+  EXPECT_EQ(kind.restore.Caption, "Bring back (12:00)");
   kind.restore.Press();
   EXPECT_EQ(kind.held(), kind.good);
   EXPECT_FALSE(kind.restore.Visible);
@@ -241,7 +241,7 @@ TEST_F(GrpViewTest, PagesKeysAndWhatAGroupCovers) {
   const struct {
     const char *start, *end, *cover;
   } rows[] = {{"10", "20", "No. 10 to 20, 11 positions"},
-              {"10", "21", "not in the table on screen"},
+              {"10", "21", "not in the table"},
               {"10", "9", "no range"}};
   for (const auto& row : rows) {
     f.Rows[1].txtGrpStartNo.Type(row.start);
