@@ -2,7 +2,6 @@
 
 #include <QAbstractEventDispatcher>
 #include <QTime>
-#include <QTime>
 #include <algorithm>
 #include <chrono>
 

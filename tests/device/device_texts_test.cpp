@@ -18,8 +18,8 @@ class DeviceTexts : public StateTest {
     Set(2, " 42", "H", 600, 8, 400);
     Set(3, " 50", "L", 100, 12, 400);
   }
-  static void Set(int axis, const char* size, const char* speed, int stroke,
-                  std::int16_t lead, std::int32_t ppr) {
+  static void Set(int axis, const char* size, const char* speed, int stroke, std::int16_t lead,
+                  std::int32_t ppr) {
     SetDevice(DevSetting[axis], size, speed, stroke);
     DevSetting[axis].Lead = lead;
     DevSetting[axis].Ppr = ppr;

@@ -26,8 +26,7 @@ TEST_F(GridTest, DevicesStandOverTheirAxesWhereverTheGridIsScrolledTo) {
     table->horizontalScrollBar()->setValue(scrolled);
     for (int axis = 0; axis < kAxes; ++axis) {
       const QWidget& label = *desktop.forms.WidgetOf(*frmPosi.lblDeviceType[axis]);
-      const QPoint cell =
-          table->CellRect(kFirst, AxisBase(axis) + kVel).topLeft();
+      const QPoint cell = table->CellRect(kFirst, AxisBase(axis) + kVel).topLeft();
       const int first = table->viewport()->mapTo(table->window(), cell).x();
       if (first < 0 || first + 180 >= 800) continue;  // not in sight as a whole
       const int beside = label.mapTo(table->window(), QPoint()).x() - first;
