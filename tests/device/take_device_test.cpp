@@ -69,19 +69,6 @@ TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
   EXPECT_EQ(DevSetting[2].Size, "E35");
 }
 
-TEST_F(TakeDevice, TypeAndPgOfParameters) {
-  FillParameters();
-  for (std::int16_t type = 0; type < 3; ++type) {
-    CtDev[0].Type = type;
-    ParamSet.PgFunction[0] = type;
-    TakeDevFromParam2();
-    EXPECT_EQ(DevSetting[0].SeriesOk, type < 2);
-    for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
-      EXPECT_TRUE(device.Vertical == (type < 2) && device.WithPG == (type > 0)) << type;
-    }
-  }
-}
-
 TEST_F(TakeDevice, TypeAndPgOfTheControllersBlock) {
   const struct {
     int type;
