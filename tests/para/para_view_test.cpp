@@ -372,7 +372,7 @@ TEST_F(ParaView, AFlowHoldsTheViewOpen) {
   EXPECT_FALSE(CloseView(f, CloseReason::ControlMenu));
   AllViewsCmdYuko();
   EXPECT_TRUE(f.cmdSaveParaFile.Enabled);
-  EXPECT_FALSE(f.cmdParaWrite.Enabled);  // not built yet
+  EXPECT_FALSE(f.cmdParaPrint.Enabled);  // not built yet
   EXPECT_TRUE(CloseView(f, CloseReason::ControlMenu));
 }
 
