@@ -12,7 +12,6 @@
 #include "data/sm_table.h"
 #include "forms/frm_device.h"
 #include "forms/frm_parameta2.h"
-#include "para/para_content.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/sys_para.h"
@@ -100,25 +99,19 @@ class Trial : public FlowTest {
     frmPosi.cmdPosiWrite.Press();
   }
   void EditTables() {
-    ASSERT_TRUE(ReadParaFromCt() == Outcome::Done && TakeParamTable() == 0);
-    ParamSet.HomeVel[0] = 33;
     GrpTable.GrpEnd[1] = 77;
     SmTable[0][0] = {3, 3};
     SysPara[1] = 777;
   }
-  /// The parameter view holds the controller's, and a change.
+  /// The parameter view holds the controller's, and a change; the PC another device.
   void ParaView() {
     frmMain.mnuViewPara.Press();
     frmParameta2.cmdParaRead.Press();
     frmParameta2.txtHomePush[0].Type("77");
-  }
-  void ParaViewOfOthers() {
-    ParaView();
-    MarkParaSaved();
     OtherDevice();
   }
   void ReadPara() {
-    forms.answers = {MsgAnswer::Ok};
+    forms.answers = {MsgAnswer::No, MsgAnswer::Ok};
     frmParameta2.cmdParaRead.Press();
   }
   void WritePara() {
@@ -218,7 +211,7 @@ constexpr SweptFlow kFlows[] = {
     {"write devices", &Trial::Nothing, &Trial::WriteDevices, MachineAndParameters, false},
     {"read positions", &Trial::OtherDevice, &Trial::ReadPositions, ShownPositions, false},
     {"write positions", &Trial::EditPositions, &Trial::WritePositions, ShownPositions, false},
-    {"read parameters", &Trial::ParaViewOfOthers, &Trial::ReadPara, MachineAndParameters, false},
+    {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
     {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},
     {"read macros", &Trial::Nothing, &Trial::Transfer<ReadSmFromCt>, Stages, false},

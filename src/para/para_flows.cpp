@@ -71,15 +71,6 @@ void ShowRead() {
   MarkParaSaved();
 }
 
-int ReadForOthers(void (*between)()) {
-  AxesOnTrial axes;
-  if (!AxesAreRead()) return 1;
-  between();
-  if (!ParametersAreRead() || TakeParamTable() != 0) return 1;
-  axes.Keep();
-  return 0;
-}
-
 bool ViewMayBeCompared(FilledCheck& filled) { return filled.Holds() && TakeParaView(1524, 1525); }
 
 void ReportComparison() {
@@ -108,11 +99,6 @@ void GetParametaValue() {
   axes.Keep();
   if (devices == Devices::FromCt) TakeDevices();
   ShowRead();
-}
-
-int GetParametaValue2() { return ReadForOthers(YukoJikuHyojiSettei); }
-int GetParametaValue3() {
-  return ReadForOthers([] {});
 }
 
 void VerifyParaToCt() {

@@ -10,11 +10,6 @@ namespace tr7 {
 /// as they were.
 void GetParametaValue();
 
-/// For other views: the controller's axes become those in use, and its parameters `ParamSet`. The
-/// first has the parameter view follow the axes. 0 done; 1 failed: axes and parameters as before.
-int GetParametaValue2();
-int GetParametaValue3();
-
 /// `cmdParaWrite`: the view into the controller. On the user's wish its axes and devices become
 /// the PC's afterwards. A controller that is to run in the other mode has the tool end, once every
 /// view has been asked about what is not saved.
