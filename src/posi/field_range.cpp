@@ -48,7 +48,7 @@ bool FieldInRange(int col, double value) {
     case kWay:
       return Within(value, 0, 3);
     case kPosi:
-      return LengthInRange(static_cast<std::size_t>(axis), value);
+      return LengthInRange(axis, value);
     case kPf:
       return value == 0 || Within(value, 20, 70);
     default:

@@ -78,7 +78,7 @@ bool KeptEdits::IsUnedited(int row, int axis) const {
 
 /// What the table holds for the line.
 double KeptEdits::Held(int row, int col) const {
-  const auto number = static_cast<std::size_t>(source_[row - kPosiHeaderRows]);
+  const int number = source_[row - kPosiHeaderRows];
   return ValueOf(PosiTable.PosiRec[col][number]);
 }
 

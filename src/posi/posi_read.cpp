@@ -44,7 +44,7 @@ Outcome ReadLine(int number) {
 }
 
 /// True when a loaded position has a comment, and the one that has come in is another move.
-bool CommentsOther(std::size_t number) {
+bool CommentsOther(int number) {
   if (TextOf(PosiTable.PosiRec[kComment][number]).empty()) return false;
   for (const int axis : AxesInUse()) {
     for (const int field : {kWay, kPosi}) {
