@@ -11,6 +11,7 @@
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
 #include "forms/frm_device.h"
+#include "forms/frm_parameta2.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/sys_para.h"
@@ -91,12 +92,26 @@ class Trial : public FlowTest {
     frmPosi.cmdPosiWrite.Press();
   }
   void EditTables() {
-    ASSERT_TRUE(ReadParaFromCt() == Outcome::Done && TakeParamTable() == 0);
-    ParamSet.HomeVel[0] = 33;
     GrpTable.GrpEnd[1] = 77;
     SmTable[0][0] = {3, 3};
     SysPara[1] = 777;
   }
+  /// The parameter view holds the controller's, and a change; the PC another device.
+  void ParaView() {
+    frmMain.mnuViewPara.Press();
+    frmParameta2.cmdParaRead.Press();
+    frmParameta2.txtHomePush[0].Type("77");
+    OtherDevice();
+  }
+  void ReadPara() {
+    forms.answers = {MsgAnswer::No, MsgAnswer::Ok};
+    frmParameta2.cmdParaRead.Press();
+  }
+  void WritePara() {
+    forms.answers = {MsgAnswer::Yes, MsgAnswer::Yes};
+    frmParameta2.cmdParaWrite.Press();
+  }
+  void VerifyPara() { frmParameta2.cmdConpareCT.Press(); }
   template <auto kTransfer>
   void Transfer() {
     const CommandsOff commands_off;
@@ -189,11 +204,12 @@ constexpr SweptFlow kFlows[] = {
     {"write devices", &Trial::Nothing, &Trial::WriteDevices, MachineAndParameters, false},
     {"read positions", &Trial::OtherDevice, &Trial::ReadPositions, ShownPositions, false},
     {"write positions", &Trial::EditPositions, &Trial::WritePositions, ShownPositions, false},
-    {"read parameters", &Trial::Nothing, &Trial::Transfer<ReadParaFromCt>, Stages, false},
+    {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
+    {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},
     {"read macros", &Trial::Nothing, &Trial::Transfer<ReadSmFromCt>, Stages, false},
     {"read tuning", &Trial::Nothing, &Trial::Transfer<ReadSysParaFromCt>, Stages, false},
-    {"write parameters", &Trial::EditTables, &Trial::Transfer<WriteParaToCt>, Stages, false},
+    {"write parameters", &Trial::ParaView, &Trial::WritePara, MachineOfPc, false},
     {"write groups", &Trial::EditTables, &Trial::Transfer<WriteGrpToCt>, Stages, false},
     {"write macros", &Trial::EditTables, &Trial::Transfer<WriteSmToCt>, Stages, false},
     {"write tuning", &Trial::EditTables, &Trial::Transfer<WriteSysParaToCt>, Stages, false},

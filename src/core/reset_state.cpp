@@ -30,6 +30,7 @@ void ResetState() {
   ErrorList = ErrorListRecord{};
   CtDev.fill(CtDeviceRecord{});
   AxisSettingSent = AxisSettingSentRecord{};
+  ParaOfCt = ParaOfCtRecord{};
   DevSetting.fill(DevSettingRecord{});
   DevSettei.fill(DevSettingRecord{});
   FileDevice.fill({});

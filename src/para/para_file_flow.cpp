@@ -2,14 +2,13 @@
 
 #include <string>
 
+#include "forms/frm_parameta2.h"
 #include "para/para_blocks.h"
-#include "para/para_check.h"
 #include "para/para_content.h"
 #include "para/para_file.h"
-#include "para/para_filled.h"
 #include "para/para_show.h"
+#include "para/para_take_view.h"
 #include "para/param_set.h"
-#include "platform/doors.h"
 #include "state/busy_scope.h"
 #include "state/file_kind.h"
 #include "state/message_box.h"
@@ -37,13 +36,17 @@ Attempt Read(const std::string& path) {
   return ReadParaTable(path) == 0 ? Attempt::Good : Attempt::MayPass;
 }
 
-/// What was read into `ParamSet`: all of it, or nothing with `ParaFileBad`.
-bool TakeOver() {
-  if (TakeParamTable() == 0) return true;
+/// True when what was read fits `ParamSet`; else `ParaFileBad`, and which row does not.
+bool TableFits() {
+  const int refused = RefusedParaRow();
+  if (refused == 0) return true;
   ParaFlags.ParaFileBad = True;
-  ParaFlags.FileFaultText = Text(kMsgBadValue, ParaRowName(RefusedParaRow()));
+  ParaFlags.FileFaultText = Text(kMsgBadValue, ParaRowName(refused));
   return false;
 }
+
+/// What was read into `ParamSet`: all of it, or nothing with `ParaFileBad`.
+bool TakeOver() { return TableFits() && TakeParamTable() == 0; }
 
 /// Why the devices of `ParamSet` cannot serve: no position could be converted. Empty: they can.
 std::string DeviceTrouble() {
@@ -67,27 +70,13 @@ bool TakeOverForDevice() {
   return false;
 }
 
-/// Takes the view into `ParamSet`. False after the user has been told what is missing or wrong.
-/// `missing` is then the field that holds nothing.
-bool TakeFromView(Control*& missing) {
-  const MissingParaField empty = FirstMissingParaField();
-  missing = empty.Field;
-  if (missing) {
-    MsgBox(WithReason(TwoLines(7, 8), empty.Name));
-    return false;
-  }
-  TorikomiParametaValue();
-  if (ParametaValueCheck() != 0) {
-    MsgBox(TwoLines(9, 10));
-    return false;
-  }
-  return true;
-}
+}  // namespace
 
-int Save(Control*& missing) {
+int SaveParaToFile() {
+  FilledCheck filled;
   const CommandsOff commands_off;
   const BusyScope busy;
-  if (!TakeFromView(missing)) return 1;
+  if (!filled.Holds() || !TakeParaView(9, 10)) return 1;
   const auto path = AskSavePath(kParaDataFile, 11);
   if (!path) return 1;
   if (WriteParaFile(*path) != 0) {
@@ -97,16 +86,6 @@ int Save(Control*& missing) {
   MarkParaSaved();
   TellDone(14);
   return 0;
-}
-
-}  // namespace
-
-int SaveParaToFile() {
-  Control* missing = nullptr;
-  const int result = Save(missing);
-  // Only now, with the commands on again, can a field take the focus.
-  if (missing) doors.forms->SetFocus(*missing);
-  return result;
 }
 
 void OpenParaFile() {
@@ -120,6 +99,26 @@ void OpenParaFile() {
   }
   ParametaHyoji();
   MarkParaSaved();
+}
+
+bool ReadParaFileToVerify() {
+  const auto path = AskOpenPath(kParaDataFile, 680);
+  if (!path || path->empty()) return false;
+  if (Read(*path) == Attempt::Good && TableFits()) return true;
+  TellFileFault(kMsgOpenFailed);
+  return false;
+}
+
+bool MayDropParaChanges(MsgId question_id) {
+  if (!frmParameta2.Loaded || !ParaIsChanged()) return true;
+  switch (AskYesNoCancel(question_id)) {
+    case MsgAnswer::Yes:
+      return SaveParaToFile() == 0;
+    case MsgAnswer::No:
+      return true;
+    default:
+      return false;
+  }
 }
 
 int OpenParaForDevice() {

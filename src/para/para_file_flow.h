@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/msg_id.h"
+
 namespace tr7 {
 
 // Parameter files as the user saves and opens them. The view's commands are off while one runs.
@@ -10,6 +12,14 @@ int SaveParaToFile();
 
 /// `cmdReadParaFile`: asks for a file, takes it into `ParamSet` and shows it in the view.
 void OpenParaFile();
+
+/// Asks for a file to verify and reads it into `ParaTable`, in a form that `TakeParamTable` takes.
+/// False on Cancel, or after the user has been told.
+[[nodiscard]] bool ReadParaFileToVerify();
+
+/// Offers by this message to save what has been changed in the view. True when nothing stands in
+/// the way of losing it.
+[[nodiscard]] bool MayDropParaChanges(MsgId question_id);
 
 /// Asks for a parameter file from which devices are taken, and reads it into `ParamSet`; up to four
 /// attempts, 100 ms apart. 0 done; 1 cancelled, or failed after message 681. The view is not

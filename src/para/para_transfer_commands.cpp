@@ -20,6 +20,7 @@
 namespace tr7 {
 
 AxisSettingSentRecord AxisSettingSent;
+ParaOfCtRecord ParaOfCt;
 
 namespace {
 
@@ -97,18 +98,23 @@ Outcome ReadBlocks(const AxisList& axes, ParaBlocks& blocks) {
 }  // namespace
 
 Outcome ReadParaFromCt() {
-  const AxisList axes = AxesInUse();
+  const int mask = AxesInUseMask();  // a wait may end with other axes
+  const AxisList axes(mask);
   ParaBlocks blocks;
   const Outcome outcome = ReadBlocks(axes, blocks);
   TusinPortClose();
   if (outcome != Outcome::Done) return outcome;
-  return DecodePara(blocks, axes, ParaTable) ? Outcome::Done : TellBadData();
+  if (!DecodePara(blocks, axes, ParaTable)) return TellBadData();
+  ParaOfCt = {true, mask, ParamSetOfTable().value_or(ParamSetRecord{})};
+  return Outcome::Done;
 }
 
 Outcome WriteParaToCt() {
   const Outcome outcome = WriteBlocks(AxisList(LiveAxisMask()));
   TusinPortClose();
-  if (outcome == Outcome::Done) AxisSettingSent = {};
+  if (outcome != Outcome::Done) return outcome;
+  AxisSettingSent = {};
+  ParaOfCt = {true, LiveAxisMask(), ParamSet};
   return outcome;
 }
 

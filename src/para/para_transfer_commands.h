@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "para/param_set.h"
 #include "steps/outcome.h"
 
 namespace tr7 {
@@ -29,5 +30,14 @@ struct AxisSettingSentRecord {
 };
 
 extern AxisSettingSentRecord AxisSettingSent;
+
+/// The parameters that the controller is last known to hold: as read, or as written and stored.
+struct ParaOfCtRecord {
+  bool Known = false;
+  int AxisMask = 0;  ///< axes whose rows are known: axis i has bit 1 << i
+  ParamSetRecord Set;
+};
+
+extern ParaOfCtRecord ParaOfCt;
 
 }  // namespace tr7

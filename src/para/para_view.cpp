@@ -8,15 +8,14 @@
 #include "para/para_columns.h"
 #include "para/para_content.h"
 #include "para/para_file_flow.h"
+#include "para/para_flows.h"
 #include "para/para_hint.h"
+#include "para/para_marks.h"
 #include "para/para_show.h"
 #include "para/para_sp.h"
 #include "para/para_typing.h"
 #include "para/stroke_calc.h"
-#include "platform/doors.h"
 #include "state/app_state.h"
-#include "state/message_box.h"
-#include "state/text.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -62,6 +61,7 @@ void LoadView() {
     SettleParaColumns();
   }
   MarkParaSaved();
+  MarkParaFields();
 }
 
 void UnloadParaView() {
@@ -69,25 +69,12 @@ void UnloadParaView() {
   ParaFieldLeft();
 }
 
-/// Offers to save what has been changed. True when nothing stands in the way of losing it.
-bool MayDropChanges(MsgId message_id) {
-  if (!frmParameta2.Loaded || !ParaIsChanged()) return true;
-  switch (MsgBox(Text(message_id), MsgButtons::YesNoCancel, MsgIcon::Question)) {
-    case MsgAnswer::Yes:
-      return SaveParaToFile() == 0;
-    case MsgAnswer::No:
-      return true;
-    default:
-      return false;
-  }
-}
-
 bool QueryUnloadView(CloseReason) {
-  return frmParameta2.CommandsAreOff || !MayDropChanges(kMsgSaveBeforeClose);
+  return frmParameta2.CommandsAreOff || !MayDropParaChanges(kMsgSaveBeforeClose);
 }
 
 void OpenParameters() {
-  if (MayDropChanges(kMsgSaveBeforeOpen)) OpenParaFile();
+  if (MayDropParaChanges(kMsgSaveBeforeOpen)) OpenParaFile();
 }
 
 void CommandsGoOff() {
@@ -98,6 +85,7 @@ void CommandsGoOff() {
 void CommandsComeOn() {
   frmParameta2.CommandsAreOff = false;
   SettleParaColumns();  // the flow may have brought other axes
+  MarkParaFields();     // and another word from the controller
 }
 
 }  // namespace
@@ -109,6 +97,10 @@ void InstallParaView() {
   f.QueryUnload = QueryUnloadView;
   f.CmdMuko = CommandsGoOff;
   f.CmdYuko = CommandsComeOn;
+  f.cmdParaRead.Click = GetParametaValue;
+  f.cmdParaWrite.Click = WriteParaFlow;
+  f.cmdConpareCT.Click = VerifyParaToCt;
+  f.cmdConpareFile.Click = VerifyParaToFile;
   f.cmdCalculate.Click = ShowStrokeCalc;
   f.cmdReadParaFile.Click = OpenParameters;
   f.cmdSaveParaFile.Click = [] { SaveParaToFile(); };
@@ -116,6 +108,7 @@ void InstallParaView() {
   InstallParaTyping();
   InstallParaSp();
   InstallActuatorLists();
+  InstallParaMarks();  // behind what the fields do by themselves
   f.Commands.Open = OpenParameters;
   frmMain.mnuViewPara.Click = [] { ShowOrBringToFront(frmParameta2); };
 }

@@ -141,6 +141,11 @@ int TakeParamTable() {
   return 0;
 }
 
+std::optional<ParamSetRecord> ParamSetOfTable() {
+  ParamSetRecord set;
+  return TakeRows(set) == 0 ? std::optional(set) : std::nullopt;
+}
+
 int RefusedParaRow() {
   ParamSetRecord scratch;
   return TakeRows(scratch);

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "base/axes.h"
@@ -120,6 +121,8 @@ extern ParaTableRecord ParaTable;
 int TakeParamTable();
 /// The first row of `ParaTable` with an item that `TakeParamTable` refuses; 0: it takes them all.
 int RefusedParaRow();
+/// `ParaTable` as a set of its own; nothing when `TakeParamTable` refuses it.
+std::optional<ParamSetRecord> ParamSetOfTable();
 /// The rows of `set` as a table; unused slots and columns are empty.
 ParaTableRecord ParaTableOf(const ParamSetRecord& set);
 
@@ -133,6 +136,8 @@ struct ParaFlagsRecord {
   Bool16 OpenParaAfterDevice;  ///< the device dialogue's detail button was pressed
   /// Axes that the parameter view shows by `comboOneAxis`, 1 to 4; 0: the axes in use.
   std::int16_t ShownAxisCount = 0;
+  /// What the last verification found different, a line each for HOME, AXIS, PG, ETC and SP.
+  std::array<std::string, 5> VerifyLines;
 };
 
 extern ParaFlagsRecord ParaFlags;

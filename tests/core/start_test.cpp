@@ -143,16 +143,6 @@ TEST_F(StartTest, TheLanguageChangesAtExitOnly) {
   EXPECT_EQ(Stored("Language"), "1");
 }
 
-TEST_F(StartTest, AMinimisedFrameKeepsTheOldRectangle) {
-  virt.settings.Set("Settings", "MainLeft", "1234.5");
-  StartOffline();
-  EXPECT_EQ(frmMain.Left, 1234.5);
-  frmMain.Left = 7;
-  frmMain.Minimised = true;
-  CloseView(frmMain, CloseReason::Code);
-  EXPECT_EQ(Stored("MainLeft"), "1234.5");
-}
-
 TEST_F(StartTest, AnotherPortEndsTheSessionAndTheNextUseConnects) {
   StartOnline();
   SetOptions([] {
@@ -274,15 +264,6 @@ TEST_F(OfflineStartTest, WithoutTheCatalogueTheStoredDevicesServe) {
     EXPECT_EQ(AppState.MaxPulse[0], 10000);
   }
   EXPECT_TRUE(BoxShown(Text(36))) << "OK on empty lists";
-}
-
-TEST_F(OfflineStartTest, WithoutStandardListsTheStoredDevicesServe) {
-  virt.files.Remove(ProgramFile("tr7nqvstpr.lst"));
-  Start({[] { frmDevice3.cmdSyosai.Press(); }, Cancel});
-  EXPECT_EQ(Boxes(), (Texts{Text(28) + "\n" + Text(29), Text(36), again_}));
-  EXPECT_EQ(AppState.MaxPulse[0], 20000);
-  pump.RunFor(3'000'000);
-  EXPECT_EQ(forms.modals.back(), "frmDevice3") << "details of a failed choice do not come";
 }
 
 TEST_F(OfflineStartTest, DetailsOpenTheParametersOnceTheDialogueHasGone) {

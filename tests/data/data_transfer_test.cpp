@@ -79,14 +79,6 @@ TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
   EXPECT_EQ(Commands(), "0RK0 0RK1 0RK2 0RK3 0RK4 0RK5 0RK6");
 }
 
-TEST_F(DataTest, TheCancelButtonStopsAReadOfGroups) {
-  pump.After(1'000'000, [] { frmMain.cmdComCancel.Press(); });
-  const GrpTableRecord before = GrpStage;
-  EXPECT_EQ(ReadGrpFromCt(), Outcome::Stopped);
-  EXPECT_EQ(GrpStage, before) << "only a whole table is taken";
-  EXPECT_LT(Sent().size(), 90u);
-}
-
 // Failures.
 
 struct Stages {
@@ -121,26 +113,6 @@ TEST_F(DataTest, AnotherRecordsNameEndsTheTransfer) {
   for (const auto& row : {ChangedByte{WriteGrpToCt, "0WG05", 4}, {WriteSysParaToCt, "0WK3", 3}}) {
     Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
     EXPECT_EQ(row.run(), Outcome::Done) << row.prefix;
-  }
-}
-
-/// A cell that was never written may hold anything of the right length.
-TEST_F(DataTest, DigitsThatAreNoneAreTold) {
-  const ChangedByte rows[] = {
-      {ReadGrpFromCt, "0RG02", 8}, {ReadSmFromCt, "0RS01", 9}, {ReadSysParaFromCt, "0RK2", 8}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.prefix);
-    // The byte that a fault puts there is drawn: often another digit, in the end none.
-    Outcome outcome = Outcome::Done;
-    Stages before;
-    for (int attempt = 0; attempt < 50 && outcome == Outcome::Done; ++attempt) {
-      before = Stages();
-      Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
-      outcome = row.run();
-    }
-    EXPECT_EQ(outcome, Outcome::Failed);
-    EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-    EXPECT_EQ(Stages(), before);
   }
 }
 

@@ -112,41 +112,5 @@ TEST_F(DeviceListTest, ARowWithANumberOutOfItsRangeIsLeftOutAndNamedOnce) {
   }
 }
 
-TEST_F(DeviceListTest, AMissingListEndsTheReadAtTheFirstAxis) {
-  virt.files.Remove(ProgramFile(kNew));
-  EXPECT_EQ(ReadDeviceListNew(), 1);
-  EXPECT_EQ(Boxes(), Texts{no_list_});
-  EXPECT_TRUE(DevListMissing[0]);
-  EXPECT_FALSE(DevListMissing[1]);
-  DevSetting[2].Series = "NB";
-  EXPECT_EQ(ReadDeviceListOld(), 1);
-  EXPECT_EQ(Boxes(), Texts{no_list_});
-  EXPECT_FALSE(DevListMissing[0]);
-  EXPECT_TRUE(DevListMissing[2]);
-  EXPECT_EQ(DeviceList[2].RowCount, 0);
-}
-
-TEST_F(DeviceListTest, LookupsReadTheFileAfresh) {
-  PutList(kNew, "2\r\n\" 28L-100\",2,400,1,0\r\n\"E35L-050\",4,192,2,1\r\n");
-  EXPECT_EQ(FindDeviceNew("E35", "L", 50), 0);
-  EXPECT_EQ(GetLeadAndPprNew("E35", "L", 50), 0);
-  EXPECT_EQ(DeviceLookup.Lead, 4);
-  EXPECT_EQ(DeviceLookup.Ppr, 192);
-  EXPECT_EQ(GetPgKindNew("E35", "L", 50), 2);
-  EXPECT_EQ(GetVKindNew("E35", "L", 50), 1);
-  const auto unknown = [](const char* size, const char* speed, int stroke) {
-    return FindDeviceNew(size, speed, stroke) == 1 && GetLeadAndPprNew(size, speed, stroke) == 1 &&
-           GetPgKindNew(size, speed, stroke) == 99 && GetVKindNew(size, speed, stroke) == 99;
-  };
-  EXPECT_TRUE(unknown("28", "L", 100) && unknown(" 28", "L", 101) && unknown(" 28", "H", 100));
-  EXPECT_EQ(Boxes(), Texts{});
-  EXPECT_EQ(DeviceList[0].RowCount, 0) << "the memory copy is not theirs";
-
-  PutList(kNew, "2\r\n\" 28L-100\",6,400,0,0\r\n");
-  EXPECT_TRUE(unknown(" 28", "L", 100));
-  const std::string reason = "\n\n" + Text(6332, "2", kNew), in_short = Text(15) + reason;
-  EXPECT_EQ(Boxes(), (Texts{in_short, no_list_ + reason, in_short, in_short}));
-}
-
 }  // namespace
 }  // namespace tr7

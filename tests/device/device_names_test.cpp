@@ -23,17 +23,6 @@ class DeviceStoreTest : public StateTest {
 
 // Settings.
 
-TEST_F(DeviceStoreTest, FormatBounds) {
-  const auto good = [](const char* size, const char* speed, double stroke) {
-    return CheckDeviceFormat(size, speed, stroke) == 0;
-  };
-  EXPECT_TRUE(good("E35", "A", 10) && good("型28", "Z", 600));
-  EXPECT_FALSE(good(" 28", "L", 9) || good(" 28", "L", 601));
-  EXPECT_FALSE(good("28", "L", 100) || good("  28", "L", 100));
-  EXPECT_FALSE(good(" 28", "", 100) || good(" 28", "LH", 100));
-  EXPECT_FALSE(good(" 28", "@", 100) || good(" 28", "[", 100));
-}
-
 TEST_F(DeviceStoreTest, AnEmptyStoreGivesTheDefaultDevice) {
   EXPECT_EQ(LoadDevSetting(), 0);
   for (const DevSettingRecord& device : {DevSetting[3], DevSettei[3]}) {
@@ -192,19 +181,6 @@ TEST_F(DeviceStoreTest, NamesOfEveryForm) {
     EXPECT_EQ(ParseDeviceNames(), 1) << bad;
     EXPECT_EQ(Boxes(), Texts{Text(4) + "\n" + Text(5)}) << bad;
   }
-}
-
-TEST_F(DeviceStoreTest, AVerticalLetterCountsWhereTheDeviceLeavesAChoice) {
-  const auto parsed = [](const char* name, bool before) {
-    AppState.AxisMuko = MukoOfMask(1);
-    DevSettei[0].Vertical = before;
-    FileDevice[0] = name;
-    EXPECT_EQ(ParseDeviceNames(), 0);
-    return bool(DevSettei[0].Vertical);
-  };
-  EXPECT_TRUE(parsed("QV-28L-100V", false) && parsed("QV-28L-100EV", false));
-  EXPECT_TRUE(parsed("QV-28L-100", true) && !parsed("QV-28L-100", false)) << "it stays";
-  EXPECT_TRUE(!parsed("QV-E35L-100V", true) && parsed("QV-42H-600", false));
 }
 
 TEST_F(DeviceStoreTest, SeriesAndAxesOfNames) {

@@ -48,28 +48,6 @@ TEST_F(DeviceTexts, EveryAxisHasItsRows) {
   }
 }
 
-TEST_F(DeviceTexts, AxesWithoutADevice) {
-  DeviceTextHyoji();
-  AppState.AxisMuko[1] = True;
-  DevSetting[2].SeriesOk = False;
-  DeviceTextHyoji();
-  EXPECT_EQ(frmPosi.DeviceRows[6], "AXIS2:**********");
-  EXPECT_EQ(Caption(1) + Age(1), "");
-  // An unknown series ends the pass: what stood there before must not stand for a device.
-  for (int axis : {2u, 3u}) {
-    EXPECT_EQ(frmPosi.DeviceRows[axis * 6], "");
-    EXPECT_EQ(Caption(axis) + Age(axis), "");
-  }
-}
-
-TEST_F(DeviceTexts, WithoutAListOneBoxIsEnough) {
-  virt.files.Remove(ProgramFile("nqvdevice.lst"));
-  DeviceTextHyoji();
-  ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_EQ(forms.LastBox(), Text(15));
-  EXPECT_EQ(Caption(0), "QV- 28L-100 ");
-}
-
 TEST_F(DeviceTexts, ScaleOfTheFirstAxisInUse) {
   PulseScaleHyoji();
   EXPECT_EQ(Panels(), "<1>1mm = 200.000Pulse|<1>1Pulse= 0.005mm");

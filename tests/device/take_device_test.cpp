@@ -13,27 +13,6 @@ namespace {
 
 class TakeDevice : public StateTest {};
 
-/// Seven characters are a size of three, whatever they hold, and eight are one of two.
-TEST_F(TakeDevice, TheDeviceTextIsCutByItsLength) {
-  using Cuts = std::map<std::string, std::string>;
-  for (const auto& [text, cut] : Cuts{{" 28L100", " 28|L|100"},
-                                      {"28L100", " 28|L|100"},
-                                      {"E35L050", "E35|L|50"},
-                                      {"28L 50", " 28|L|50"},
-                                      {"28 100", " 28||100"},
-                                      {"28L1000", "28L|1|0"},
-                                      {" 28L1000", "  2|8|0"},
-                                      {"28L10", " 28|L|10"},
-                                      {"28Lx00", " 28|L|0"},
-                                      {"", " ||0"}}) {
-    ParamSetRecord set;
-    set.ActStroke[2] = -1;
-    set.Actuator[2] = text;
-    CutActuator(set, 2);
-    EXPECT_EQ(set.ActSize[2] + "|" + set.ActSpeed[2] + "|" + std::to_string(set.ActStroke[2]), cut);
-  }
-}
-
 /// AXIS1 to AXIS3 in the parameters, each with a device of its own.
 void FillParameters() {
   ParamSet.OneAxis = 7;
@@ -67,19 +46,6 @@ TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
   EXPECT_EQ(DevSetting[0].Size, "E35");
   EXPECT_TRUE(DevSetting[1].NotChosen) << "an axis without device text ends it";
   EXPECT_EQ(DevSetting[2].Size, "E35");
-}
-
-TEST_F(TakeDevice, TypeAndPgOfParameters) {
-  FillParameters();
-  for (std::int16_t type = 0; type < 3; ++type) {
-    CtDev[0].Type = type;
-    ParamSet.PgFunction[0] = type;
-    TakeDevFromParam2();
-    EXPECT_EQ(DevSetting[0].SeriesOk, type < 2);
-    for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
-      EXPECT_TRUE(device.Vertical == (type < 2) && device.WithPG == (type > 0)) << type;
-    }
-  }
 }
 
 TEST_F(TakeDevice, TypeAndPgOfTheControllersBlock) {

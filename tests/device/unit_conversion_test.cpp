@@ -111,24 +111,6 @@ TEST_F(UnitConversion, LimitsOfTheAxes) {
   EXPECT_EQ(AppState.StrokeMm[2], 5);
 }
 
-TEST_F(UnitConversion, AFailedLimitStoresNothing) {
-  const auto limits = [] {
-    return std::tuple(AppState.MaxPulse, AppState.StrokePulse, AppState.MaxMm, AppState.MaxVel,
-                      AppState.StrokeMm);
-  };
-  const auto before = limits();
-  DevSetting[3].Lead = 0;
-  EXPECT_EQ(Culc_MaxPulse(), 1);
-  DevSetting[3].Lead = 6;
-  DevSetting[3].Ppr = 0;
-  const auto all = {CalcMaxMm, CalcMaxVel, CalcStrokeMm};
-  for (const auto calculate : all) EXPECT_EQ(calculate(), 1);
-  EXPECT_EQ(limits(), before);
-  AppState.AxisMuko[3] = True;
-  EXPECT_EQ(Culc_MaxPulse(), 0);
-  for (const auto calculate : all) EXPECT_EQ(calculate(), 0);
-}
-
 TEST_F(UnitConversion, SpeedOfAnAxisInUse) {
   const auto speed = [](int lead, int ppr) {
     AppState.MaxVel.fill(5);

@@ -81,7 +81,10 @@ TableState TableNow(const Voyage& voyage) {
   table.file_calls = voyage.virt.files.Calls();
   const Grid& grid = frmPosi.flgdData;
   for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
-    for (int col = 0; col < kPosiColumns; ++col) table.texts.push_back(grid.Text(row, col));
+    for (int col = 0; col < kPosiColumns; ++col) {
+      // A check fills hidden cells in the record; their texts follow when the table is shown anew.
+      table.texts.push_back(grid.ColWidth(col) > 0 ? grid.Text(row, col) : std::string());
+    }
   }
   for (int n = table.first; n <= table.last && n > 0; ++n) {
     for (int axis = 0; axis < kAxes; ++axis) {

@@ -7,6 +7,10 @@
 
 #include "base/code_page.h"
 #include "base/seq_file.h"
+#include "data/grp_file.h"
+#include "data/grp_table.h"
+#include "data/sm_file.h"
+#include "data/sm_table.h"
 #include "forms/frm_posi.h"
 #include "para/para_file.h"
 #include "para/std_lists.h"
@@ -167,6 +171,29 @@ inline void FuzzParaFile(std::string_view bytes) {
     return ParamSet.Actuator == devices ? 0 : 1;
   };
   if (taken) CheckRoundTrip(virt.files, path, save, read);
+}
+
+/// Any bytes as a group file and as a macro file: what is no such file leaves the stage whole, and
+/// what is one comes back from what the writer makes of it.
+inline void FuzzDataFiles(std::string_view bytes) {
+  FuzzDoors virt;
+  const std::string path = "/x";
+  virt.files.Put(path, std::string(bytes));
+  const bool grp = GrpFileRead(path) == 0 && !GrpFlags.GrpFileRefused;
+  const bool sm = OpenSMFile(path) == 0;
+  FuzzCheck(grp || GrpStage == GrpTableRecord{}, "a bad file brings no groups");
+  FuzzCheck(sm || SmStage == SmTableRecord{}, "a bad file brings no macros");
+  FuzzCheck(!(grp && sm), "no file is both");
+  GrpStageCommit();
+  SmStageCommit();
+  if (grp)
+    CheckRoundTrip(
+        virt.files, path, [&] { return GrpFileSave(path); },
+        [&] { return GrpFileRead(path) + (GrpStage == GrpTable ? 0 : 1); });
+  if (sm)
+    CheckRoundTrip(
+        virt.files, path, [&] { return SmFileSave(path); },
+        [&] { return OpenSMFile(path) + (SmStage == SmTable ? 0 : 1); });
 }
 
 /// What a reader has left behind, whatever it was given. True: a file was read.

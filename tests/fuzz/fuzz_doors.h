@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "data/grp_table.h"
+#include "data/sm_table.h"
 #include "device/ct_device.h"
 #include "device/dev_setting.h"
 #include "device/device_list.h"
@@ -58,6 +60,10 @@ struct FuzzDoors {
     FileDevice.fill({});
     CtDev.fill(CtDeviceRecord{});
     AxisSettingSent = AxisSettingSentRecord{};
+    GrpTable = GrpStage = GrpTableRecord{};
+    SmTable = SmStage = SmTableRecord{};
+    GrpFlags = GrpFlagsRecord{};
+    SmFlags = SmFlagsRecord{};
     for (Timer* timer : TimerTable()) timer->DueUs = Timer::kNotArmed;
   }
   FuzzDoors(const FuzzDoors&) = delete;

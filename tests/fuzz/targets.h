@@ -14,8 +14,10 @@ struct FuzzTarget {
 };
 
 inline constexpr FuzzTarget kFuzzTargets[] = {
-    {"code_page", FuzzCodePage},   {"common_list", FuzzCommonList}, {"device_list", FuzzDeviceList},
-    {"error_list", FuzzErrorList}, {"para_file", FuzzParaFile},     {"posi_file", FuzzPosiFile},
-    {"seq_file", FuzzSeqFile},     {"std_list", FuzzStdList},       {"wire", FuzzWire}};
+    {"code_page", FuzzCodePage},   {"common_list", FuzzCommonList},
+    {"data_files", FuzzDataFiles}, {"device_list", FuzzDeviceList},
+    {"error_list", FuzzErrorList}, {"para_file", FuzzParaFile},
+    {"posi_file", FuzzPosiFile},   {"seq_file", FuzzSeqFile},
+    {"std_list", FuzzStdList},     {"wire", FuzzWire}};
 
 }  // namespace tr7

@@ -45,18 +45,6 @@ class ExchangeTest : public StateTest {
   std::string reply;
 };
 
-TEST_F(ExchangeTest, AGoodReplyMakesTheLineOnline) {
-  frmMain.imgAlarm.Visible = true;
-  frmMain.sbStatusBar.Panels[kPanelError] = "old alarm";
-  EXPECT_EQ(Read(), TusinOutcome::Good);
-  EXPECT_EQ(port.sent, "0RP001\r\n");
-  EXPECT_TRUE(reply.starts_with("0RP001"));
-  EXPECT_EQ(port.settings, "9600,N,8,1");
-  EXPECT_FALSE(AppState.Offline);
-  EXPECT_FALSE(frmMain.imgAlarm.Visible);
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], "");
-}
-
 TEST_F(ExchangeTest, ControllerOffFourSendsOneBoxPortShut) {
   AppState.PortOccupy = True;
   port.Ct().SetSilent(true);

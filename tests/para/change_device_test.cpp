@@ -143,24 +143,6 @@ TEST_F(ChangeDeviceTest, AParameterFileBringsItsAxesAndDevices) {
   EXPECT_EQ(AppState.MaxPulse[0], 10000);
 }
 
-TEST_F(ChangeDeviceTest, ParametersWithoutADeviceNameChangeNothing) {
-  Start();
-  const PcState before;
-  const ParamSetRecord parameters = ParamSet;
-  PutList(kStdList,
-          "\"QV-R7\",\"QV-STDPRM\"\r\n1,13\r\n"
-          "\" 28L-100\",400,60,10,5,5,1,20000,2,400,15,0,\"\"\r\n");
-  forms.answers = {MsgAnswer::Yes};
-  const auto one_axis = [] {
-    frmDevice2.comboAxisSelect.Pick(0);
-    Ok();
-  };
-  EXPECT_EQ(Change({0}, {one_axis}), 1);
-  EXPECT_EQ(forms.LastBox(), Text(4) + "\n" + Text(5));
-  EXPECT_TRUE(PcState() == before && ParamSet == parameters && AppState.AxisCount == 4);
-  EXPECT_FALSE(DevSetting[0].NotChosen);
-}
-
 // The parameter view's initial values.
 
 class IniPrmTest : public ChangeDeviceTest {

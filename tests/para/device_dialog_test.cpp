@@ -46,18 +46,6 @@ TEST_F(DeviceDialogTest, OpensWithTheDevicesInUse) {
   });
 }
 
-TEST_F(DeviceDialogTest, AStrokeThatIsNotListedFallsToTheFirst) {
-  const auto shown = [this](const char* size, const char* speed, int stroke) {
-    std::string device;
-    SetDevice(DevSetting[0], size, speed, stroke);
-    Ask(v, [&] { device = Shown(v, 0); });
-    return device;
-  };
-  EXPECT_EQ(shown(" 28", "H", 101), " 28H-50");
-  EXPECT_EQ(shown(" 28", "X", 100), " 28L-100") << "an unknown speed: the first of the size";
-  EXPECT_EQ(shown("28", "H", 150), " 20H-25") << "a size compares as text";
-}
-
 TEST_F(DeviceDialogTest, ASizeOffersItsSpeedsAndTheseTheirStrokes) {
   Ask(v, [&] {
     PickDevice(v, 0, " 42");

@@ -41,18 +41,6 @@ std::string NumberedFile() {
 
 const std::string kLines = NumberedFile();
 
-/// The parameters that it holds.
-void FillParamSet() {
-  for (int row = 1; row <= kParaRows; ++row) {
-    for (int axis = kAxes; axis-- > 0;) {
-      SetParaValue(ParamSet, row, axis, 100.0 * static_cast<double>(axis + 1) + row);
-    }
-  }
-  // A controller row has one slot, which the first axis was the last to fill.
-  ParamSet.Actuator = {" 28L100", "E35H200", "42L050", ""};
-  for (int axis = 0; axis < kAxes; ++axis) CutActuator(ParamSet, axis);
-}
-
 std::string UpTo(const std::string& text, const std::string& part) {
   return text.substr(0, text.find(part));
 }
@@ -69,27 +57,6 @@ class ParaFile : public StateTest {
     return TextOf(ParaTable[column][row]);
   }
 };
-
-TEST_F(ParaFile, WhatIsSavedComesBack) {
-  FillParamSet();
-  AppState.AxisMuko[3] = True;  // an absent axis is written all the same
-  ASSERT_EQ(WriteParaFile(kPath), 0);
-  EXPECT_EQ(Saved(), kLines);
-  EXPECT_FALSE(ParaFlags.ParaFileWriteFailed);
-  ParamSet.HomeOffset = {-0.5, 1e15, 0.001, 262143};
-  ParamSet.PgAlarm[1] = -32768;
-  ParamSet.AxisPulse[2] = -2147483647;
-  ParamSet.Actuator[3] = "\"ｱ,軸";
-  CutActuator(ParamSet, 3);
-  ASSERT_EQ(WriteParaFile(kPath), 0);
-  EXPECT_NE(Saved().find("\r\n-0.5,1000000000000000,0.001,262143\r\n"), std::string::npos);
-  const ParamSetRecord set = ParamSet;
-  ParamSet = ParamSetRecord{};
-  ASSERT_EQ(ReadParaTable(kPath), 0) << ParaFlags.FileFaultText;
-  EXPECT_EQ(Slot(0), kPath);
-  ASSERT_EQ(TakeParamTable(), 0);
-  EXPECT_EQ(ParamSet, set);
-}
 
 TEST_F(ParaFile, TheHeadersSayWhatIsRead) {
   const struct {
@@ -317,14 +284,6 @@ TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
   Open();
   EXPECT_FALSE(ParaFlags.ParaFileBad);
   EXPECT_EQ(f.txtHomeOffset[0].Text, "400");
-}
-
-TEST_F(ParaFileFlow, AnAbsentAxisIsSavedAsItIsKept) {
-  AppState.AxisMuko[3] = True;
-  ParamSet.HomeOffset[3] = 4321;
-  ParametaHyoji();
-  ASSERT_EQ(Save(), 0) << forms.LastBox();
-  EXPECT_NE(Saved().find(",4321\r\n"), std::string::npos);
 }
 
 }  // namespace

@@ -92,22 +92,6 @@ TEST_F(ParaShow, WithoutLeadAndPulseThereIsNoMm) {
   EXPECT_EQ(f.txtAxisMmStroke[1].Text, "55");
 }
 
-TEST_F(ParaShow, ValuesBeyondAList) {
-  const auto show = [](int row, const ComboBox& list, int value, const char* shown, int taken) {
-    SetParaValue(ParamSet, row, 0, value);
-    ParametaHyoji();
-    EXPECT_EQ(list.Text(), shown) << row << " " << value;
-    TorikomiParametaValue();
-    EXPECT_EQ(ParaValue(ParamSet, row, 0), taken) << row << " " << value;
-  };
-  show(14, f.comboPgFunc[0], 2, "2", 2);  // as the check lets it pass
-  show(12, f.comboEtcMaOrXa[0], 4, "4", 4);
-  show(11, f.comboAxisAutoDrv[0], 2, "", 0);
-  show(20, f.comboZoneEnable[0], -1, "", 0);
-  show(20, f.comboZoneEnable[0], 3, "", 0);
-  show(30, f.comboSoftLimit[0], 2, "2", 2);
-}
-
 TEST_F(ParaShow, AxesNotInUseAreEmptyOffAndLeftAlone) {
   AppState.AxisMuko = MukoOfMask(5);
   const ParamSetRecord before = ParamSet;
@@ -162,20 +146,6 @@ TEST_F(ParaShow, EveryFieldOfALiveAxisMustHoldSomething) {
   EXPECT_EQ(ParametaumuKakunin(), 0);
 }
 
-TEST_F(ParaShow, DeviceListsNarrowOneAnother) {
-  ParametaHyoji();
-  f.comboActSize[0].Pick(0);
-  EXPECT_EQ(f.txtActuator[0].Text, " 20L100");  // as far as they are still listed
-  ASSERT_TRUE(f.comboActStroke[0].ShowText("10"));
-  f.comboActSpeed[0].Pick(1);
-  EXPECT_EQ(f.txtActuator[0].Text, " 20H025");  // the first: 10 is not listed for it
-  f.comboActStroke[0].Pick(1);
-  TorikomiParametaValue();
-  EXPECT_EQ(ParamSet.Actuator[0], " 20H050");
-  EXPECT_EQ(ParamSet.ActSize[0] + std::to_string(ParamSet.ActStroke[0]), " 2050");
-  EXPECT_EQ(DevSettei[0].Size + DevSettei[0].Speed + std::to_string(DevSettei[0].Stroke), " 20H50");
-}
-
 TEST_F(ParaShow, ADeviceThatTheListLacksIsKept) {
   ParamSet.Actuator = {" 99Z123", "28L100", "", " 28L100"};  // the second is cut to size " 28"
   for (int axis = 0; axis < 3; ++axis) CutActuator(ParamSet, axis);
@@ -187,15 +157,6 @@ TEST_F(ParaShow, ADeviceThatTheListLacksIsKept) {
   EXPECT_EQ(f.comboActSize[2].ListIndex, -1);
   TorikomiParametaValue();
   EXPECT_EQ(ParamSet.Actuator, (AxisArray<std::string>{" 99Z123", " 28L100", "", " 28L100"}));
-}
-
-TEST_F(ParaShow, AnOldListHasSizesByNumber) {
-  ASSERT_EQ(ReadDeviceListOldAxis(0), 0);
-  ParametaHyoji();
-  EXPECT_EQ(f.comboActSize[0].Text(), " 28");
-  EXPECT_EQ(f.comboActSpeed[0].List.size(), 2u);
-  f.comboActSpeed[0].Pick(1);
-  EXPECT_EQ(f.txtActuator[0].Text.substr(0, 4), " 28H");
 }
 
 }  // namespace

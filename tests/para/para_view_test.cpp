@@ -116,16 +116,6 @@ TEST_F(ParaView, EnterGoesToTheNextFieldThatIsOn) {
   }
 }
 
-TEST_F(ParaView, ALengthBetweenTwoPulsesIsRoundedAsTheUserChose) {
-  f.txtAxisLead[2].Type("8");
-  Enter(f.txtAxisMmStroke[2], "10.03");
-  EXPECT_EQ(f.txtAxisStroke[2].Text, "501");
-  AppState.MmRoundUp = True;
-  Enter(f.txtAxisMmStroke[2], "10.0109");
-  EXPECT_EQ(f.txtAxisStroke[2].Text, "501");
-  EXPECT_EQ(f.txtAxisMmStroke[2].Text, " 10.020");
-}
-
 TEST_F(ParaView, LengthsInMmDemandTheirInputs) {
   const auto told = [this](const char* lead, const char* pulses, TextBox& box) {
     f.txtAxisLead[1].Type(lead);

@@ -89,18 +89,6 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
   EXPECT_EQ(orders(" 35", "H", 200), (Orders{0, 2, 2, 2}));
 }
 
-TEST_F(StdListsTest, TypeAndListFollowTheDevice) {
-  for (auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
-    for (const int type : {0, 1, 2}) {
-      DevSettei[0].NewType = type == 0;
-      DevSettei[0].Vertical = type != 1;
-      EXPECT_EQ(ini(), 0);
-      EXPECT_EQ(ParamSet.AxisType[0], type);
-      EXPECT_EQ(ParamSet.HomeOffset[0], type == 0 ? 101 : 901);
-    }
-  }
-}
-
 TEST_F(StdListsTest, TheAxisMaskIsThatOfTheAxesInUseUnlessAWriteHasFixedIt) {
   for (const bool fixed : {false, true}) {
     AppState.AxisMuko = MukoOfMask(5);

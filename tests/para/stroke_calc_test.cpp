@@ -95,14 +95,5 @@ TEST_F(StrokeCalc, WhatIsNoResultIsNotEntered) {
   EXPECT_EQ(p.txtAxisStroke[0].Text, "123");
 }
 
-TEST_F(StrokeCalc, OnlyAxesInUseTakeAResult) {
-  AppState.AxisMuko[0] = True;
-  YukoJikuHyojiSettei();
-  Open([&] {
-    EXPECT_FALSE(c.optInputSaki[0].Enabled);
-    EXPECT_EQ(c.optInputSaki.Chosen(), 1);
-  });
-}
-
 }  // namespace
 }  // namespace tr7

@@ -54,15 +54,6 @@ TEST_F(StdFilesTest, SavesAndReadsAnyBytesUnderAnyName) {
   }
 }
 
-TEST_F(StdFilesTest, TheLimitIsExact) {
-  Put("f", std::string(65536, 'x'));
-  std::string bytes = "kept";
-  EXPECT_EQ(files.Read(Path("f"), 65535, bytes), FileFault::TooLarge);
-  EXPECT_EQ(bytes, "kept");
-  EXPECT_EQ(files.Read(Path("f"), 65536, bytes), FileFault::None);
-  EXPECT_EQ(bytes.size(), 65536u);
-}
-
 TEST_F(StdFilesTest, FaultsSayWhatIsWrong) {
   std::string bytes;
   FileFault fault = FileFault::None;
@@ -97,17 +88,6 @@ TEST_F(StdFilesTest, AProtectedFileIsNotReplaced) {
   }
   EXPECT_EQ(Content("locked"), "old");
   EXPECT_EQ(Entries(), 1u);
-}
-
-TEST_F(StdFilesTest, TheProgramFolderHoldsTheLists) {
-  fs::create_directories(folder / "bin");
-  const std::string bin = Path("bin");
-  EXPECT_EQ(StdFiles(bin).ProgramFolder(), TR7_SOURCE_LISTS);
-  Put("share/qv-tr7/Command.lst", "");
-  EXPECT_EQ(StdFiles(bin).ProgramFolder(), Path("share/qv-tr7"));
-  Put("bin/Command.lst", "");
-  EXPECT_EQ(StdFiles(bin).ProgramFolder(), bin);
-  EXPECT_EQ(StdFiles(bin + "/").ProgramFolder(), bin);
 }
 
 }  // namespace

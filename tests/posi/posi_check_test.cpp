@@ -138,13 +138,6 @@ TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
   EXPECT_EQ(lines, "1: 1;");
 }
 
-TEST_F(PosiCheck, NoTableIsGood) {
-  ShowTable(1, 2);
-  frmPosi.flgdData.SetRows(2);
-  EXPECT_EQ(PosiDataCheck3(), 0);
-  EXPECT_EQ(LoadedPosiRange(), PosiRange{});
-}
-
 TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLineAndTellsOfSpeeds) {
   ShowTable(1, 5);
   std::string typed = "30.5";

@@ -102,15 +102,6 @@ TEST_F(PosiFile, BadLinesAndLinesOutsideTheRangeAreNotWritten) {
   EXPECT_FALSE(frmPosi.PosiChanged);
 }
 
-TEST_F(PosiFile, TheTableIsNamedAfterItsFile) {
-  PutTwoLines();
-  for (const std::string path : {"C:\\data\\job.QVD", "/data.d/job.text"}) {
-    ASSERT_EQ(SaveFileAs2(path, trouble), 0);
-    EXPECT_EQ(PosiTablePath(), path) << "the next save meets the same file";
-    EXPECT_TRUE(frmPosi.Caption.ends_with(path[0] == 'C' ? "[job]" : "[job.text]"));
-  }
-}
-
 TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
   PutTwoLines();
   Field(kComment, 2) = std::string("ok é");

@@ -249,12 +249,5 @@ TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
   EXPECT_TRUE(frmMain.mnuFileSave.Enabled && frmMain.mnuFileSaveAs.Enabled);
 }
 
-TEST_F(PosiGrid, TeachingRefusesLeaving) {
-  ShowTable(1, 2);
-  AppState.TeachingNow = True;
-  EXPECT_TRUE(frmPosi.QueryUnload(CloseReason::Code));
-  EXPECT_EQ(forms.LastBox(), Text(60) + "\n" + Text(61));
-}
-
 }  // namespace
 }  // namespace tr7

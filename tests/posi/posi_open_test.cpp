@@ -111,20 +111,6 @@ TEST_F(OpenTest, AFileReplacesTheTable) {
   EXPECT_EQ(Boxes(), Texts{Text(6450)});
 }
 
-TEST_F(OpenTest, AnyNumbersGiveTheRangeFromFirstToLast) {
-  own.numbers = {2, 5};
-  Open(own);
-  EXPECT_TRUE(BoxShown(Text(6458, "3-4"))) << "told which lines are not the file's";
-  EXPECT_EQ(LoadedPosiRange(), (PosiRange{2, 5}));
-  own.numbers = {9, 5};
-  Open(own);
-  EXPECT_EQ(AppState.PosiCount, -3);
-  EXPECT_EQ(frmPosi.flgdData.Rows(), 2);
-  AnswerRange("frmSelectPosiNo3", 1, 3);
-  frmPosi.cmdPosiNew.Press();
-  EXPECT_EQ(frmPosi.flgdData.Rows(), 5) << "no table stands in the way of new data";
-}
-
 TEST_F(OpenTest, AgeWordsStandBesideTheFilesOwnDataOnly) {
   own.words.clear();
   Open(own);

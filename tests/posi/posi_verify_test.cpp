@@ -190,20 +190,5 @@ TEST_F(VerifyTest, WithTheController) {
   EXPECT_EQ(seen, "");
 }
 
-TEST_F(VerifyTest, StoppedOrFailedWithTheController) {
-  pump.After(120'000, [] { frmMain.cmdComCancel.Press(); });
-  VerifyWithCt(1, 5);
-  EXPECT_EQ(forms.LastBox(), Text(440));
-  port.Ct().SetSilent(true);
-  VerifyWithCt(1, 5);
-  ASSERT_EQ(forms.boxes.size(), 1u);
-  EXPECT_TRUE(forms.LastBox().starts_with(Text(100)));
-  ExpectOffline();
-  port.Ct().SetSilent(false);
-  VerifyWithCt(1, 5);
-  EXPECT_TRUE(BoxShown(Text(826))) << "it went online again";
-  ExpectOnline();
-}
-
 }  // namespace
 }  // namespace tr7

@@ -340,16 +340,6 @@ TEST_F(ConnectTest, TheMenuGoesOnlineFirstAndTheLampDoesNot) {
 
 // Version and reset.
 
-TEST_F(ConnectTest, VersionsOfTheBoardsInUse) {
-  StartOnline();
-  AppState.AxisMuko[1] = True;
-  Forget();
-  frmMain.mnuContVersion.Press();
-  EXPECT_EQ(SentLines(), "0CM1 0RV 0RV1 0RV2 0RV3 0RV4 ");
-  EXPECT_EQ(forms.LastBox(),
-            Text(426) + "\n\n<" + Text(427) + ">  140\n<AXIS1>  120\n<AXIS3>  120\n<AXIS4>  120");
-}
-
 TEST_F(ConnectTest, ResetOfAnAlarmConnectsAnew) {
   StartOnline();
   port.Ct().RaiseAlarm({'1', '0', '9'}, pump.NowUs());

@@ -189,19 +189,6 @@ TEST_F(BindingTest, WhatIsOffIsNotPressed) {
   EXPECT_EQ(Events(), "reset New Open Save Print Copy Paste PrgEdit PrgExe ");
 }
 
-TEST_F(BindingTest, TheStatusBarsPanelsShowTheirTexts) {
-  auto& bar = Draw<QStatusBar>(frmMain.sbStatusBar);
-  const QList<QLabel*> panels = bar.findChildren<QLabel*>();
-  ASSERT_EQ(panels.size(), 4);
-  frmMain.sbStatusBar.Panels[kPanelError] = std::string(400, 'W');
-  frmMain.sbStatusBar.Panels[kPanelInfo] = "999";
-  Settle();
-  EXPECT_EQ(panels[0]->toolTip(), panels[0]->text()) << "a long text is there in whole";
-  EXPECT_LE(bar.window()->width(), 1280) << "and does not widen the frame";
-  EXPECT_TRUE(panels[3]->isVisible() && panels[3]->text() == "999");
-  EXPECT_FALSE(panels[1]->isVisible()) << "an empty panel takes no room";
-}
-
 TEST_F(BindingTest, TheFrameShowsWhatGoesOn) {
   auto& status = Draw<QLabel>(frmMain.lblStatus);
   auto& mode = Draw<QLabel>(frmMain.lblCtMode);

@@ -174,22 +174,6 @@ TEST_F(GridTest, KeysAndTheMouseSelectCellsLinesAndColumns) {
   expect({kFirst, kVel}, {kFirst + 14, kVel});
 }
 
-TEST_F(GridTest, NothingIsEditedInTheHeaderOrWhileTheGridIsOff) {
-  GoTo(0, 0);
-  Press("5 F2");
-  EXPECT_FALSE(table->IsEditing());
-  GoTo(kFirst, kVel);
-  table->setFocus();
-  ASSERT_TRUE(table->hasFocus() || !table->window()->isActiveWindow());
-  Press("F6");
-  EXPECT_FALSE(table->hasFocus()) << "the way to the other controls";
-  grid.Enabled = false;
-  Settle();
-  Press("5");
-  DoubleClickAt(kFirst, kVel);
-  EXPECT_FALSE(table->IsEditing());
-}
-
 TEST_F(GridTest, TheInputMethodIsOffInNumberCells) {
   for (const int col : {int{kVel}, int{kPosi}, int{kSm}}) {
     GoTo(kFirst, col);

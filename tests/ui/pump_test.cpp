@@ -16,16 +16,6 @@ class PumpTest : public UiTest {
   std::int64_t NowMs() const { return desktop.pump.NowUs() / 1000; }
 };
 
-TEST_F(PumpTest, AWaitTakesItsTimeAndSleepsThroughIt) {
-  WaitMs(50);  // what the making of the desktop has left to do
-  const std::int64_t start = NowMs();
-  const std::uint64_t sleeps = desktop.pump.sleeps;
-  TusinWaitMs(300);
-  EXPECT_GE(NowMs() - start, 300);
-  EXPECT_LE(NowMs() - start, 1000);
-  EXPECT_LE(desktop.pump.sleeps - sleeps, 6u) << "one for the wait, one for the lamp's timer";
-}
-
 TEST_F(PumpTest, APeriodicTimerKeepsItsIntervalInALoopOfAnothersToo) {
   Timer timer(20, true);
   int ticks = 0;

@@ -79,14 +79,6 @@ TEST_F(SerialPortTest, BytesPassUnchangedBothWays) {
   EXPECT_EQ(received, all);
 }
 
-TEST_F(SerialPortTest, SettingsThatMakeNoSenseAreRefused) {
-  ASSERT_EQ(port.Open(line.Path()), PortFault::None);
-  EXPECT_TRUE(port.Configure("38400,N,8,1", 3000));
-  for (const char* wrong : {"", "9600", "9600,X,8,1", "9600,N,9,1", "9600,N,8,3", "x,N,8,1"}) {
-    EXPECT_FALSE(port.Configure(wrong, 3000)) << wrong;
-  }
-}
-
 TEST_F(SerialPortTest, AVanishedDeviceShutsThePortAndLetsTheToolSleep) {
   Open();
   AppState.OpenPortName = line.Path();

@@ -1,0 +1,94 @@
+#include "para/para_verify.h"
+
+#include <array>
+#include <optional>
+
+#include "para/para_blocks.h"
+#include "para/param_set.h"
+#include "state/app_state.h"
+#include "state/text.h"
+
+namespace tr7 {
+namespace {
+
+/// A group of rows, in the order of the box.
+struct VerifyGroup {
+  MsgId TitleId;
+  int FirstRow, LastRow;
+};
+
+constexpr std::array<VerifyGroup, 5> kGroups{
+    {{673, 1, 6}, {675, 7, 13}, {676, 14, 15}, {677, 16, 24}, {678, 25, 34}}};
+
+constexpr int kRowPputWrite = 34;
+constexpr std::size_t kPrintedSizeRow = 36, kPrintedSpeedRow = 37, kPrintedStrokeRow = 38;
+
+bool SameDevice(const ParamSetRecord& a, const ParamSetRecord& b, int axis) {
+  return a.ActSize[axis] == b.ActSize[axis] && a.ActSpeed[axis] == b.ActSpeed[axis] &&
+         a.ActStroke[axis] == b.ActStroke[axis];
+}
+
+bool Same(const ParamSetRecord& other, int row, int axis) {
+  if (row == kRowActuator) return SameDevice(ParamSet, other, axis);
+  return ParaValue(ParamSet, row, axis) == ParaValue(other, row, axis);
+}
+
+/// Meant so: the last row has no comma behind it.
+std::string Label(int row, int axis) {
+  return ParaCellName({row, axis}) + (row == kRowPputWrite ? "" : ",");
+}
+
+std::string LineOf(const VerifyGroup& group, const ParamSetRecord& other) {
+  const AxisList live(LiveAxisMask()), first_alone(1);
+  std::string line;
+  for (int row = group.FirstRow; row <= group.LastRow; ++row) {
+    for (const int axis : IsAxisRow(row) ? live : first_alone) {
+      if (!Same(other, row, axis)) line += Label(row, axis);
+    }
+  }
+  return line;
+}
+
+}  // namespace
+
+int BuildParaVerifyReport() {
+  ParaFlags.VerifyLines.fill({});
+  const std::optional<ParamSetRecord> other = ParamSetOfTable();
+  if (!other) return -1;
+  bool equal = true;
+  for (std::size_t i = 0; i < kGroups.size(); ++i) {
+    ParaFlags.VerifyLines[i] = LineOf(kGroups[i], *other);
+    equal = equal && ParaFlags.VerifyLines[i].empty();
+  }
+  return equal ? 0 : 1;
+}
+
+std::string ParaVerifyText() {
+  std::string text = Text(823) + "\n";
+  for (std::size_t i = 0; i < kGroups.size(); ++i) {
+    const std::string& line = ParaFlags.VerifyLines[i];
+    if (!line.empty()) text += "<" + Text(kGroups[i].TitleId) + "> :" + line + "\n";
+  }
+  return text;
+}
+
+void ParaFromViewToTable() {
+  for (int axis = 0; axis < kAxes; ++axis) {
+    ParamSet.Actuator[axis] =
+        JoinActuator(ParamSet.ActSize[axis], ParamSet.ActSpeed[axis], ParamSet.ActStroke[axis]);
+  }
+  ParaTable = ParaTableOf(ParamSet);
+  for (int axis = 0; axis < kAxes; ++axis) {
+    auto& column = ParaTable[static_cast<std::size_t>(axis)];
+    if (AppState.DispMmUnit) {
+      column[kRowStroke] = ParamSet.MmStrokeText[axis];
+      column[kRowZone1] = ParamSet.MmZone1Text[axis];
+      column[kRowZone2] = ParamSet.MmZone2Text[axis];
+    }
+    column[kPrintedSizeRow] = ParamSet.ActSize[axis];
+    column[kPrintedSpeedRow] = ParamSet.ActSpeed[axis];
+    column[kPrintedStrokeRow] = static_cast<double>(ParamSet.ActStroke[axis]);
+  }
+}
+
+}  // namespace tr7

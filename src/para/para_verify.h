@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace tr7 {
+
+/// Compares `ParamSet` with `ParaTable` by value, over the rows of the controller and of the live
+/// axes, and fills `ParaFlags.VerifyLines`: what differs, in each of the five groups. 0 equal;
+/// 1 not; -1 where `ParaTable` holds what no row can.
+int BuildParaVerifyReport();
+
+/// The report as a box says it: the groups that differ, and what differs in each.
+std::string ParaVerifyText();
+
+/// `ParamSet` into `ParaTable` as it is printed: lengths by the display unit, the device text made
+/// from its parts (which `ParamSet` gets too), and these once more in rows of their own behind the
+/// others.
+void ParaFromViewToTable();
+
+}  // namespace tr7
