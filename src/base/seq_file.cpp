@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "base/text_helpers.h"
@@ -129,6 +130,14 @@ bool SeqReader::ReadInteger(int low, int high, int& value) {
   if (!ReadNumber(number)) return false;
   if (!(number >= low && number <= high) || number != std::trunc(number)) return false;
   value = static_cast<int>(number);
+  return true;
+}
+
+bool SeqReader::ReadInt16(std::int16_t& value) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  int read = 0;
+  if (!ReadInteger(Limits::min(), Limits::max(), read)) return false;
+  value = static_cast<std::int16_t>(read);
   return true;
 }
 

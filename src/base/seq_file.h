@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,8 @@ class SeqReader {
   bool ReadItem(Variant& item);
   /// Like `ReadNumber` for a whole number within low to high; false outside.
   bool ReadInteger(int low, int high, int& value);
+  /// The same for any number of 16 bits.
+  bool ReadInt16(std::int16_t& value);
 
  private:
   bool Next(std::string& text, bool& quoted);

@@ -10,6 +10,7 @@
 #include "link/reply_fields.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
+#include "steps/whole_table.h"
 
 namespace tr7 {
 namespace {
@@ -56,13 +57,7 @@ Outcome SendGroups() {
 
 }  // namespace
 
-Outcome ReadGrpFromCt() {
-  GrpTableRecord read;
-  const Outcome outcome = ReadGroups(read);
-  TusinPortClose();
-  if (outcome == Outcome::Done) GrpStage = read;
-  return outcome;
-}
+Outcome ReadGrpFromCt() { return ReadWholeTable(GrpStage, ReadGroups); }
 
 Outcome WriteGrpToCt() {
   const Outcome outcome = SendGroups();

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <limits>
 #include <string_view>
 
 #include "base/seq_file.h"
@@ -34,21 +32,13 @@ bool IsGroupFile(const std::string& product, const std::string& kind) {
   return kind == kKind && std::find(kProducts.begin(), kProducts.end(), product) != kProducts.end();
 }
 
-bool ReadNumberTo(SeqReader& items, std::int16_t& number) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  int read = 0;
-  if (!items.ReadInteger(Limits::min(), Limits::max(), read)) return false;
-  number = static_cast<std::int16_t>(read);
-  return true;
-}
-
 bool ReadGroup(SeqReader& items, GrpTableRecord& read) {
   std::string text;
   if (!items.ReadText(text)) return false;
   const double number = Val(text);
   if (!(number >= 1 && number <= kGroups)) return false;
   const int n = static_cast<int>(number);
-  return ReadNumberTo(items, read.GrpStart[n]) && ReadNumberTo(items, read.GrpEnd[n]);
+  return items.ReadInt16(read.GrpStart[n]) && items.ReadInt16(read.GrpEnd[n]);
 }
 
 int ReadGroups(SeqReader& items) {

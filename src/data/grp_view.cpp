@@ -1,6 +1,7 @@
 #include "data/grp_view.h"
 
-#include "data/grp_flows.h"
+#include "data/data_view.h"
+#include "data/grp_kind.h"
 #include "data/grp_show.h"
 #include "data/grp_table.h"
 #include "data/kept_aside.h"
@@ -29,13 +30,8 @@ void LoadGroups() {
   GrpShow();
 }
 
-void ForgetGroups() {
-  if (GrpTable != GrpTableRecord{}) groups_aside.Keep(GrpTable);
-}
-
 void BringBack() {
-  if (const auto groups = groups_aside.Take()) GrpTable = *groups;
-  groups_aside.Offer(frmGrp.cmdGrpRestore);
+  groups_aside.BringBack(GrpTable, frmGrp.cmdGrpRestore);
   GrpShow();
 }
 
@@ -61,14 +57,11 @@ bool RefusesToClose(CloseReason) {
 
 void InstallButtons() {
   FrmGrp& f = frmGrp;
-  f.cmdReadGrp.Click = ReadGroups;
-  f.cmdWriteGrp.Click = WriteGroups;
-  f.cmdGrpCtVerify.Click = VerifyGroupsToCt;
-  f.cmdGrpFileOpen.Click = OpenGroupFile;
-  f.cmdGrpFileSave.Click = SaveGroupFile;
-  f.cmdGrpFileVerify.Click = VerifyGroupsToFile;
+  InstallDataButtons(f, frmMain.mnuViewGrp,
+                     {f.cmdReadGrp, f.cmdWriteGrp, f.cmdGrpCtVerify, f.cmdGrpFileOpen,
+                      f.cmdGrpFileSave, f.cmdGrpFileVerify, f.cmdClose},
+                     GrpKind());
   f.cmdGrpRestore.Click = BringBack;
-  f.cmdClose.Click = [] { CloseView(frmGrp, CloseReason::Code); };
 }
 
 }  // namespace
@@ -78,7 +71,7 @@ void InstallGrpView() {
   groups_aside = {};
   f.Load = LoadGroups;
   f.QueryUnload = RefusesToClose;
-  f.Unload = ForgetGroups;
+  f.Unload = [] { groups_aside.Keep(GrpTable); };
   f.Activate = f.LayoutChanged = GrpShow;
   f.CmdMuko = [] { SwitchControls(frmGrp, false); };
   f.CmdYuko = [] { SwitchControls(frmGrp, true); };
@@ -86,8 +79,6 @@ void InstallGrpView() {
   for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
   InstallButtons();
   SwitchControls(f, true);
-  f.Commands.Open = OpenGroupFile;
-  frmMain.mnuViewGrp.Click = [] { ShowOrBringToFront(frmGrp); };
 }
 
 }  // namespace tr7

@@ -15,11 +15,17 @@ namespace tr7 {
 template <typename Table>
 class KeptAside {
  public:
+  /// A table that nothing has been put into is not kept.
   void Keep(const Table& table) {
+    if (table == Table{}) return;
     table_ = table;
     time_ = doors.pump->TimeOfDay();
   }
-  std::optional<Table> Take() { return std::exchange(table_, std::nullopt); }
+  /// What was kept becomes the table, where there is anything; the button follows.
+  void BringBack(Table& table, CommandButton& button) {
+    if (const auto kept = std::exchange(table_, std::nullopt)) table = *kept;
+    Offer(button);
+  }
 
   /// Shows the button that brings it back, with its time, while there is something to bring.
   void Offer(CommandButton& button) const {

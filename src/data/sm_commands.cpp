@@ -10,6 +10,7 @@
 #include "link/reply_fields.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
+#include "steps/whole_table.h"
 
 namespace tr7 {
 namespace {
@@ -68,13 +69,7 @@ Outcome SendMacros() {
 
 }  // namespace
 
-Outcome ReadSmFromCt() {
-  SmTableRecord read{};
-  const Outcome outcome = ReadMacros(read);
-  TusinPortClose();
-  if (outcome == Outcome::Done) SmStage = read;
-  return outcome;
-}
+Outcome ReadSmFromCt() { return ReadWholeTable(SmStage, ReadMacros); }
 
 Outcome WriteSmToCt() {
   const Outcome outcome = SendMacros();

@@ -1,8 +1,5 @@
 #include "data/sm_file.h"
 
-#include <cstdint>
-#include <limits>
-
 #include "base/seq_file.h"
 #include "base/text_helpers.h"
 #include "data/sm_table.h"
@@ -25,21 +22,13 @@ int Bad(const std::string& words) {
   return 1;
 }
 
-bool ReadNumberTo(SeqReader& items, std::int16_t& number) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  int read = 0;
-  if (!items.ReadInteger(Limits::min(), Limits::max(), read)) return false;
-  number = static_cast<std::int16_t>(read);
-  return true;
-}
-
 bool ReadMacro(SeqReader& items, SmTableRecord& read) {
   std::string text;
   if (!items.ReadText(text)) return false;
   const double number = Val(text);
   if (!(number >= 1 && number <= kMacros)) return false;
   for (SmStep& step : read[static_cast<std::size_t>(number) - 1]) {
-    if (!ReadNumberTo(items, step.Command) || !ReadNumberTo(items, step.Value)) return false;
+    if (!items.ReadInt16(step.Command) || !items.ReadInt16(step.Value)) return false;
   }
   return true;
 }

@@ -10,11 +10,6 @@ bool StepIsGood(SmStep& step) {
   return step.Command == kSmEnd || (step.Value >= 1 && step.Value <= SmHighestValue(step.Command));
 }
 
-bool StepDiffers(const SmStep& held, const SmStep& staged) {
-  if (held.Command != staged.Command) return true;
-  return held.Command != kSmEnd && held.Value != staged.Value;
-}
-
 }  // namespace
 
 SmTableRecord SmTable{};
@@ -40,12 +35,17 @@ int SmData_Check() {
   return SmFlags.SmBadList.empty() ? 0 : 1;
 }
 
+bool SmStepDiffers(const SmStep& held, const SmStep& staged) {
+  if (held.Command != staged.Command) return true;
+  return held.Command != kSmEnd && held.Value != staged.Value;
+}
+
 void SmStageCompare() {
   SmFlags.SmSyogoList.clear();
   for (int n = 1; n <= kMacros; ++n) {
     bool differs = false;
     for (int s = 0; s < kMacroSteps; ++s) {
-      differs = differs || StepDiffers(SmTable[n - 1][s], SmStage[n - 1][s]);
+      differs = differs || SmStepDiffers(SmTable[n - 1][s], SmStage[n - 1][s]);
     }
     if (differs) SmFlags.SmSyogoList += std::to_string(n) + ",";
   }

@@ -10,6 +10,10 @@ inline constexpr int kMacros = 20;
 inline constexpr int kMacroSteps = 16;
 inline constexpr int kSmEnd = 0, kSmBlank = 15;
 
+/// The commands by their code, as the controller's own panel names them.
+inline constexpr std::array kSmCommands = {"0. END",     "1. IN-ON", "2. IN-OFF", "3. OUT-ON",
+                                           "4. OUT-OFF", "5. TIMER", "6. TIMER10"};
+
 /// One step of a sequence macro. Commands: 0 end, 1 and 2 wait for an input on or off, 3 and 4
 /// output on or off, 5 timer, 6 timer times ten; 15 is a blank cell of the controller.
 struct SmStep {
@@ -44,7 +48,10 @@ int SmHighestValue(int command);
 /// controller becomes an end, and the value of an end 0.
 int SmData_Check();
 
-/// Compares table and stage into `SmSyogoList`. The values of an end do not count.
+/// True when two steps are not the same. The values of an end do not count.
+bool SmStepDiffers(const SmStep& held, const SmStep& staged);
+
+/// Compares table and stage into `SmSyogoList`.
 void SmStageCompare();
 
 }  // namespace tr7

@@ -1,10 +1,9 @@
 #include "data/sm_view.h"
 
-#include <array>
-
 #include "base/text_helpers.h"
+#include "data/data_view.h"
 #include "data/kept_aside.h"
-#include "data/sm_flows.h"
+#include "data/sm_kind.h"
 #include "data/sm_show.h"
 #include "data/sm_table.h"
 #include "forms/frm_main.h"
@@ -16,9 +15,6 @@
 namespace tr7 {
 namespace {
 
-constexpr std::array kCommands = {"0. END",     "1. IN-ON", "2. IN-OFF", "3. OUT-ON",
-                                  "4. OUT-OFF", "5. TIMER", "6. TIMER10"};
-
 KeptAside<SmTableRecord> macros_aside;
 
 SmStep& StepAt(std::size_t row) { return SmTable[ShownMacro() - 1][row]; }
@@ -27,7 +23,7 @@ SmStep& StepAt(std::size_t row) { return SmTable[ShownMacro() - 1][row]; }
 
 void CommandChosen(std::size_t row) {
   const int code = frmSqMcr.Rows[row].comboMerei.ListIndex;
-  if (code < 0 || code >= static_cast<int>(kCommands.size())) return doors.forms->Beep();
+  if (code < 0 || code >= static_cast<int>(kSmCommands.size())) return doors.forms->Beep();
   StepAt(row).Command = static_cast<std::int16_t>(code);
   if (code == kSmEnd) StepAt(row).Value = 0;
   SmShow();
@@ -48,8 +44,8 @@ void ValueTyped(std::size_t row) {
 
 void InstallRow(std::size_t row) {
   SmRow& shown = frmSqMcr.Rows[row];
-  for (std::size_t code = 0; code < kCommands.size(); ++code) {
-    shown.comboMerei.AddItem(kCommands[code], static_cast<int>(code));
+  for (std::size_t code = 0; code < kSmCommands.size(); ++code) {
+    shown.comboMerei.AddItem(kSmCommands[code], static_cast<int>(code));
   }
   shown.comboMerei.Click = [row] { CommandChosen(row); };
   shown.txtSmData.GotFocus = [row] { ValueEntered(row); };
@@ -71,13 +67,8 @@ void LoadMacros() {
   SmShow();
 }
 
-void ForgetMacros() {
-  if (SmTable != SmTableRecord{}) macros_aside.Keep(SmTable);
-}
-
 void BringBack() {
-  if (const auto macros = macros_aside.Take()) SmTable = *macros;
-  macros_aside.Offer(frmSqMcr.cmdSmRestore);
+  macros_aside.BringBack(SmTable, frmSqMcr.cmdSmRestore);
   SmShow();
 }
 
@@ -88,14 +79,11 @@ void SwitchCommands(bool on) {
 
 void InstallButtons() {
   FrmSqMcr& f = frmSqMcr;
-  f.cmdReadSMfromCt.Click = ReadMacros;
-  f.cmdWriteSMtoCt.Click = WriteMacros;
-  f.cmdSmCTShogo.Click = VerifyMacrosToCt;
-  f.cmdSmFileOpen.Click = OpenMacroFile;
-  f.cmdSmFileSave.Click = SaveMacroFile;
-  f.cmdSmFileShogo.Click = VerifyMacrosToFile;
+  InstallDataButtons(f, frmMain.mnuViewSM,
+                     {f.cmdReadSMfromCt, f.cmdWriteSMtoCt, f.cmdSmCTShogo, f.cmdSmFileOpen,
+                      f.cmdSmFileSave, f.cmdSmFileShogo, f.cmdClose},
+                     SmKind());
   f.cmdSmRestore.Click = BringBack;
-  f.cmdClose.Click = [] { CloseView(frmSqMcr, CloseReason::Code); };
 }
 
 }  // namespace
@@ -105,15 +93,13 @@ void InstallSmView() {
   macros_aside = {};
   f.Load = LoadMacros;
   f.QueryUnload = [](CloseReason) { return AppState.CommandsOffDepth > 0; };
-  f.Unload = ForgetMacros;
+  f.Unload = [] { macros_aside.Keep(SmTable); };
   f.CmdMuko = [] { SwitchCommands(false); };
   f.CmdYuko = [] { SwitchCommands(true); };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   f.UpDownSmNo.Change = SmShow;
   InstallButtons();
   SwitchControls(f, true);
-  f.Commands.Open = OpenMacroFile;
-  frmMain.mnuViewSM.Click = [] { ShowOrBringToFront(frmSqMcr); };
 }
 
 }  // namespace tr7

@@ -12,6 +12,7 @@
 #include "para/sys_para.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
+#include "steps/whole_table.h"
 
 namespace tr7 {
 namespace {
@@ -86,13 +87,7 @@ Outcome SendBlocks() {
 
 }  // namespace
 
-Outcome ReadSysParaFromCt() {
-  SysParaRecord read{};
-  const Outcome outcome = ReadBlocks(read);
-  TusinPortClose();
-  if (outcome == Outcome::Done) SysParaRead = read;
-  return outcome;
-}
+Outcome ReadSysParaFromCt() { return ReadWholeTable(SysParaRead, ReadBlocks); }
 
 Outcome WriteSysParaToCt() {
   const Outcome outcome = SendBlocks();

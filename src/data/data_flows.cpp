@@ -1,0 +1,99 @@
+#include "data/data_flows.h"
+
+#include "session/open_port.h"
+#include "session/session.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/status_panel.h"
+#include "state/text.h"
+#include "steps/held_write.h"
+#include "steps/transfer_scope.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgStopped = 425;
+constexpr int kMsgWritten = 6507;
+constexpr int kMsgSaved = 6508;
+
+/// Asks for a file and reads it. The stage holds the table before: what a file leaves out, and a
+/// file of another kind, bring nothing foreign in.
+bool AskAndReadFile(const DataKind& kind, const DataFile& file, MsgId title_id) {
+  const auto path = AskOpenPath(file, title_id);
+  if (!path || path->empty()) return false;
+  kind.StageFromTable();
+  return ReadDataFileToStage(kind, *path);
+}
+
+void ReportDifferences(const DataKind& kind) {
+  const std::string numbers = kind.Differing();
+  if (numbers.empty()) return TellDone(kind.Equal);
+  // Meant so: the list stands ahead of the words that name it.
+  MsgBox(TwoLines(kind.DifferHead, kind.DifferList) + "\n" + numbers + Text(kind.DifferName));
+}
+
+}  // namespace
+
+Outcome ReadDataToStage(const DataKind& kind) {
+  const WaitCursorScope wait_cursor;
+  const Outcome outcome = kind.ReadFromCt();
+  if (outcome == Outcome::Stopped) TellDone(kMsgStopped);
+  if (outcome == Outcome::Failed && kind.FailureEndsSession) EndSession();
+  return outcome;
+}
+
+bool ReadDataFileToStage(const DataKind& kind, const std::string& path) {
+  const auto read = [&] { return kind.ReadFile(path) == 0 ? Attempt::Good : Attempt::MayPass; };
+  if (TryFourTimes(read)) return true;
+  MsgBox(WithReason(Text(kind.FileNotRead), *kind.FileFault));
+  return false;
+}
+
+void ReadData(const DataKind& kind) {
+  const TransferScope transfer;
+  kind.StoreShown();
+  if (!AskOk(kind.AskRead) || !ConnectOrOpenPort()) return;
+  if (ReadDataToStage(kind) == Outcome::Done) kind.TakeStage();
+}
+
+void WriteData(const DataKind& kind) {
+  const TransferScope transfer;
+  if (!kind.MayBeSent() || !AskYes(kind.AskWrite) || !ConnectOrOpenPort()) return;
+  if (WriteHeld(kind.WriteToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
+}
+
+void VerifyDataToCt(const DataKind& kind) {
+  const TransferScope transfer;
+  if (!kind.MayBeCompared() || !ConnectOrOpenPort()) return;
+  if (ReadDataToStage(kind) == Outcome::Done) ReportDifferences(kind);
+}
+
+void VerifyDataToFile(const DataKind& kind) {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  if (!kind.MayBeCompared()) return;
+  if (AskAndReadFile(kind, kind.File, kind.VerifyTitle)) ReportDifferences(kind);
+}
+
+void OpenDataFile(const DataKind& kind) {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  kind.StoreShown();
+  if (AskAndReadFile(kind, kind.FileToOpen, kind.OpenTitle)) kind.TakeStage();
+}
+
+void SaveDataFile(const DataKind& kind) {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  if (!kind.MayBeCompared()) return;
+  const auto path = AskSavePath(kind.File, kind.SaveTitle);
+  if (!path) return;
+  const auto save = [&] { return kind.SaveFile(*path) == 0 ? Attempt::Good : Attempt::MayPass; };
+  if (!TryFourTimes(save)) {
+    MsgBox(WithReason(Text(kind.FileNotSaved), *kind.FileFault));
+    return;
+  }
+  TellInStatusPanel(Text(kMsgSaved, *path));
+}
+
+}  // namespace tr7

@@ -1,0 +1,19 @@
+#include "data/data_view.h"
+
+#include "state/views.h"
+
+namespace tr7 {
+
+void InstallDataButtons(View& view, Menu& menu, const DataButtons& buttons, const DataKind& kind) {
+  const auto flow = [&kind](void (*run)(const DataKind&)) { return [&kind, run] { run(kind); }; };
+  buttons.Read.Click = flow(ReadData);
+  buttons.Write.Click = flow(WriteData);
+  buttons.VerifyCt.Click = flow(VerifyDataToCt);
+  buttons.Open.Click = view.Commands.Open = flow(OpenDataFile);
+  buttons.Save.Click = flow(SaveDataFile);
+  buttons.VerifyFile.Click = flow(VerifyDataToFile);
+  buttons.Close.Click = [&view] { CloseView(view, CloseReason::Code); };
+  menu.Click = [&view] { ShowOrBringToFront(view); };
+}
+
+}  // namespace tr7
