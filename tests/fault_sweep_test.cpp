@@ -10,6 +10,7 @@
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
+#include "forms/frm_compare.h"
 #include "forms/frm_device.h"
 #include "forms/frm_parameta2.h"
 #include "para/para_transfer_commands.h"
@@ -90,6 +91,11 @@ class Trial : public FlowTest {
     AnswerRange("frmSelectPosiNo3", 2, 4);
     forms.answers = {MsgAnswer::Ok};
     frmPosi.cmdPosiWrite.Press();
+  }
+  void ComparePositions() {
+    InDialog("frmCompare",
+             {[] { frmCompare.cmdCompare.Press(); }, [] { frmCompare.Visible = false; }});
+    frmPosi.cmdPosiCompare.Press();
   }
   void EditTables() {
     GrpTable.GrpEnd[1] = 77;
@@ -204,6 +210,7 @@ constexpr SweptFlow kFlows[] = {
     {"write devices", &Trial::Nothing, &Trial::WriteDevices, MachineAndParameters, false},
     {"read positions", &Trial::OtherDevice, &Trial::ReadPositions, ShownPositions, false},
     {"write positions", &Trial::EditPositions, &Trial::WritePositions, ShownPositions, false},
+    {"compare positions", &Trial::EditPositions, &Trial::ComparePositions, ShownPositions, false},
     {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
     {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},

@@ -1,7 +1,10 @@
 #include "data/grp_kind.h"
 
+#include <array>
+#include <limits>
 #include <string>
 
+#include "data/data_compare.h"
 #include "data/grp_commands.h"
 #include "data/grp_file.h"
 #include "data/grp_show.h"
@@ -11,6 +14,10 @@
 
 namespace tr7 {
 namespace {
+
+constexpr int kMsgTitle = 6490, kMsgGroup = 5338, kMsgNone = 5335;
+/// Start of a group that a file leaves out.
+constexpr std::int16_t kLeftOut = std::numeric_limits<std::int16_t>::min();
 
 bool AllAreGood() {
   StoreShownGroups();
@@ -39,6 +46,30 @@ void TakeStage() {
 std::string Differing() {
   GrpStageCompare();
   return GrpFlags.GrpSyogoList;
+}
+
+bool IsLeftOut(const GrpTableRecord& table, int n) { return table.GrpStart[n] == kLeftOut; }
+
+std::string RangeText(const GrpTableRecord& table, int n) {
+  if (IsLeftOut(table, n)) return Text(kMsgNone);
+  return std::to_string(table.GrpStart[n]) + " - " + std::to_string(table.GrpEnd[n]);
+}
+
+void Rows(const std::array<GrpTableRecord, 2>& sides, CompareList& list) {
+  const auto& [here, there] = sides;
+  for (int n = 1; n <= kGroups; ++n) {
+    const bool differs = here.GrpStart[n] != there.GrpStart[n] || here.GrpEnd[n] != there.GrpEnd[n];
+    if (!list.Counts(differs)) continue;
+    list.Add(
+        {n, Text(kMsgGroup), std::to_string(n), RangeText(here, n), RangeText(there, n), differs});
+  }
+}
+
+bool Take(const GrpTableRecord& there, int n) {
+  if (IsLeftOut(there, n)) return false;
+  GrpTable.GrpStart[n] = there.GrpStart[n];
+  GrpTable.GrpEnd[n] = there.GrpEnd[n];
+  return true;
 }
 
 }  // namespace
@@ -70,6 +101,14 @@ const DataKind& GrpKind() {
                              .DifferList = 824,
                              .DifferName = 825};
   return kind;
+}
+
+void CompareGroups() {
+  GrpTableRecord left_out;
+  left_out.GrpStart.fill(kLeftOut);
+  const auto is_other_kind = [] { return bool(GrpFlags.GrpFileRefused); };
+  CompareData<GrpTableRecord>(
+      {GrpKind(), kMsgTitle, GrpTable, GrpStage, left_out, is_other_kind, Rows, Take, GrpShow});
 }
 
 }  // namespace tr7

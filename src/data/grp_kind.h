@@ -7,4 +7,7 @@ namespace tr7 {
 /// The groups, for the flows of whole tables.
 const DataKind& GrpKind();
 
+/// `cmdGrpCompare`.
+void CompareGroups();
+
 }  // namespace tr7

@@ -61,6 +61,7 @@ void InstallButtons() {
                      {f.cmdReadGrp, f.cmdWriteGrp, f.cmdGrpCtVerify, f.cmdGrpFileOpen,
                       f.cmdGrpFileSave, f.cmdGrpFileVerify, f.cmdClose},
                      GrpKind());
+  f.cmdGrpCompare.Click = CompareGroups;
   f.cmdGrpRestore.Click = BringBack;
 }
 

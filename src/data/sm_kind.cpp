@@ -1,7 +1,10 @@
 #include "data/sm_kind.h"
 
+#include <array>
+#include <limits>
 #include <string>
 
+#include "data/data_compare.h"
 #include "data/sm_commands.h"
 #include "data/sm_file.h"
 #include "data/sm_show.h"
@@ -12,6 +15,10 @@
 
 namespace tr7 {
 namespace {
+
+constexpr int kMsgTitle = 6504, kMsgStep = 5339, kMsgNone = 5335, kMsgBlank = 5340;
+/// Command of a step that a file leaves out.
+constexpr std::int16_t kLeftOut = std::numeric_limits<std::int16_t>::min();
 
 /// The check may have put steps right.
 bool AreGood() {
@@ -35,6 +42,33 @@ std::string Differing() {
 int ReadFile(const std::string& path) {
   const WaitCursorScope wait_cursor;
   return OpenSMFile(path);
+}
+
+/// "1. IN-ON 3"; an end has no value.
+std::string StepText(const SmStep& step) {
+  if (step.Command == kLeftOut) return Text(kMsgNone);
+  if (step.Command == kSmBlank) return Text(kMsgBlank);
+  const bool known = step.Command >= 0 && step.Command < static_cast<int>(kSmCommands.size());
+  const std::string command = known ? kSmCommands[step.Command] : std::to_string(step.Command);
+  return step.Command == kSmEnd ? command : command + " " + std::to_string(step.Value);
+}
+
+void Rows(const std::array<SmTableRecord, 2>& sides, CompareList& list) {
+  for (int at = 0; at < kMacros * kMacroSteps; ++at) {
+    const int n = at / kMacroSteps, s = at % kMacroSteps;
+    const SmStep &here = sides[kHere][n][s], &there = sides[kThere][n][s];
+    const bool differs = SmStepDiffers(here, there);
+    if (!list.Counts(differs)) continue;
+    list.Add({at, Text(kMsgStep, std::to_string(s + 1)), std::to_string(n + 1), StepText(here),
+              StepText(there), differs});
+  }
+}
+
+bool Take(const SmTableRecord& there, int at) {
+  const SmStep& step = there[at / kMacroSteps][at % kMacroSteps];
+  if (step.Command == kLeftOut) return false;
+  SmTable[at / kMacroSteps][at % kMacroSteps] = step;
+  return true;
 }
 
 }  // namespace
@@ -66,6 +100,14 @@ const DataKind& SmKind() {
                              .DifferList = 924,
                              .DifferName = 925};
   return kind;
+}
+
+void CompareMacros() {
+  SmTableRecord left_out{};
+  for (auto& macro : left_out) macro.fill({kLeftOut, 0});
+  const auto is_other_kind = [] { return false; };  // that counts as a failed read
+  CompareData<SmTableRecord>(
+      {SmKind(), kMsgTitle, SmTable, SmStage, left_out, is_other_kind, Rows, Take, SmShow});
 }
 
 }  // namespace tr7

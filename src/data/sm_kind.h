@@ -7,4 +7,7 @@ namespace tr7 {
 /// The sequence macros, for the flows of whole tables.
 const DataKind& SmKind();
 
+/// `cmdSmCompare`.
+void CompareMacros();
+
 }  // namespace tr7

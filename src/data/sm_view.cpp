@@ -83,6 +83,7 @@ void InstallButtons() {
                      {f.cmdReadSMfromCt, f.cmdWriteSMtoCt, f.cmdSmCTShogo, f.cmdSmFileOpen,
                       f.cmdSmFileSave, f.cmdSmFileShogo, f.cmdClose},
                      SmKind());
+  f.cmdSmCompare.Click = CompareMacros;
   f.cmdSmRestore.Click = BringBack;
 }
 

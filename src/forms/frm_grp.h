@@ -40,6 +40,7 @@ struct GrpHead {
 struct FrmGrp : View {
   FrmGrp();
   OptionGroup<3> optGrpNo{*this, "optGrpNo", 1, {6470, 6471, 6472}};
+  CommandButton cmdGrpCompare{*this, "cmdGrpCompare", 5320};
   CommandButton cmdGrpRestore{*this, "cmdGrpRestore", 6489};
   RowArray<GrpHead, 3> Heads{*this};
   RowArray<GrpRow, kGrpPageRows> Rows{*this};

@@ -17,6 +17,7 @@ struct FrmParameta2 : View {
   // Command strip on top: initial values and helpers, the controller, the file, printing.
   CommandButton cmdIniPrm{*this, "cmdIniPrm", 6001};
   CommandButton cmdCalculate{*this, "cmdCalculate", 6002};
+  CommandButton cmdParaCompare{*this, "cmdParaCompare", 5320};
   Frame framController{*this, "framController", 5230};
   CommandButton cmdParaRead{*this, "cmdParaRead", 5200};
   CommandButton cmdParaWrite{*this, "cmdParaWrite", 5201};

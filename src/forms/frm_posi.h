@@ -28,6 +28,7 @@ struct FrmPosi : View {
   CommandButton cmdPosiSave{*this, "cmdPosiSave", 5205};
   CommandButton cmdPosiSaveAs{*this, "cmdPosiSaveAs", 5206};
   CommandButton cmdPosiFileVerify{*this, "cmdPosiFileVerify", 5207};
+  CommandButton cmdPosiCompare{*this, "cmdPosiCompare", 5320};
   CommandButton cmdPosiPrint{*this, "cmdPosiPrint", 5208};
   Frame framEdit{*this, "framEdit", 5232};
   CommandButton cmdInsertLine{*this, "cmdInsertLine", 5209};

@@ -27,6 +27,7 @@ struct FrmSqMcr : View {
   Label lblSqMacroNo{*this, "lblSqMacroNo"};
   UpDown UpDownSmNo{*this, "UpDownSmNo", 1, 20};
   Label lblSmHolds{*this, "lblSmHolds"};
+  CommandButton cmdSmCompare{*this, "cmdSmCompare", 5320};
   CommandButton cmdSmRestore{*this, "cmdSmRestore", 6489};
   RowArray<SmRow, 16> Rows{*this};
   Frame framCt{*this, "framCt", 5230};

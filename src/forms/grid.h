@@ -81,6 +81,8 @@ struct Grid : Control {
   Handler<void()> SelChange;
   /// The Enter or Tab key with no edit open or after one was accepted: moves the current cell.
   Handler<void(bool backwards)> MoveOn;
+  /// The Enter key, the space bar or a double click, for a grid whose cells are chosen, not edited.
+  Handler<void()> Choose;
   Handler<void()> Copy;   ///< Ctrl+C
   Handler<void()> Paste;  ///< Ctrl+V
 

@@ -50,6 +50,7 @@ struct View {
 
   std::vector<Control*> Controls;  ///< in order of construction, which is the tab order
   std::vector<FieldTable> Tables;  ///< the regular parts of the layout
+  Control* FirstFocus = nullptr;   ///< of a dialogue: the focus comes here; null: the first control
 
   Handler<void()> Load;  ///< once, before the view is first shown
   /// Asked before the view closes; true refuses.

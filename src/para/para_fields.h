@@ -14,11 +14,11 @@ namespace tr7 {
 
 /// One control an axis, or one for the whole controller.
 template <typename Kind>
-using ParaPlace = std::variant<PerAxis<Kind> FrmParameta2::*, Kind FrmParameta2::*>;
+using ParaControlPlace = std::variant<PerAxis<Kind> FrmParameta2::*, Kind FrmParameta2::*>;
 
 /// The control of this axis (0 to 3); the axis does not matter where the controller has one.
 template <typename Kind>
-Kind& ParaControl(const ParaPlace<Kind>& place, int axis) {
+Kind& ParaControl(const ParaControlPlace<Kind>& place, int axis) {
   if (const auto* single = std::get_if<Kind FrmParameta2::*>(&place))
     return frmParameta2.*(*single);
   return (frmParameta2.*std::get<PerAxis<Kind> FrmParameta2::*>(place))[axis];
@@ -27,7 +27,7 @@ Kind& ParaControl(const ParaPlace<Kind>& place, int axis) {
 /// A whole number.
 struct ParaTextField {
   int Row;
-  ParaPlace<TextBox> Place;
+  ParaControlPlace<TextBox> Place;
   int MaxLength;     ///< characters; 0: never typed into
   double Low, High;  ///< what may be left in the field; `Low` above `High`: anything
   bool HasRange() const { return Low <= High; }
@@ -37,7 +37,7 @@ const std::vector<ParaTextField>& ParaTextFields();
 /// A choice whose values count from 0.
 struct ParaListField {
   int Row;
-  ParaPlace<ComboBox> Place;
+  ParaControlPlace<ComboBox> Place;
   int Guard;  ///< an index from here on is taken as 0
   std::vector<MsgId> Entries;
 };

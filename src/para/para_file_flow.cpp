@@ -18,8 +18,6 @@
 namespace tr7 {
 namespace {
 
-constexpr DataFile kParaDataFile{1827, "pmt", 12};
-
 constexpr int kMsgOpenFailed = 681;
 constexpr int kMsgBadValue = 6151;
 constexpr int kMsgNoAxis = 6336;
@@ -101,12 +99,15 @@ void OpenParaFile() {
   MarkParaSaved();
 }
 
-bool ReadParaFileToVerify() {
-  const auto path = AskOpenPath(kParaDataFile, 680);
-  if (!path || path->empty()) return false;
-  if (Read(*path) == Attempt::Good && TableFits()) return true;
+bool ParaFileIsRead(const std::string& path) {
+  if (Read(path) == Attempt::Good && TableFits()) return true;
   TellFileFault(kMsgOpenFailed);
   return false;
+}
+
+bool ReadParaFileToVerify() {
+  const auto path = AskOpenPath(kParaDataFile, 680);
+  return path && !path->empty() && ParaFileIsRead(*path);
 }
 
 bool MayDropParaChanges(MsgId question_id) {

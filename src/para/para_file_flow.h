@@ -1,8 +1,14 @@
 #pragma once
 
+#include <string>
+
 #include "base/msg_id.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
+
+/// Parameter files in the file dialogues.
+inline constexpr DataFile kParaDataFile{1827, "pmt", 12};
 
 // Parameter files as the user saves and opens them. The view's commands are off while one runs.
 
@@ -13,8 +19,11 @@ int SaveParaToFile();
 /// `cmdReadParaFile`: asks for a file, takes it into `ParamSet` and shows it in the view.
 void OpenParaFile();
 
-/// Asks for a file to verify and reads it into `ParaTable`, in a form that `TakeParamTable` takes.
-/// False on Cancel, or after the user has been told.
+/// Reads a file into `ParaTable`, in a form that `TakeParamTable` takes. False after the user has
+/// been told.
+[[nodiscard]] bool ParaFileIsRead(const std::string& path);
+
+/// The same for a file to verify, which it asks for. False on Cancel too.
 [[nodiscard]] bool ReadParaFileToVerify();
 
 /// Offers by this message to save what has been changed in the view. True when nothing stands in

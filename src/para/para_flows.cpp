@@ -51,14 +51,6 @@ Devices AgreeOnDevices(bool other_axes) {
   return Devices::Ended;
 }
 
-/// Into `ParaTable`.
-bool ParametersAreRead() {
-  const WaitCursorScope wait_cursor;
-  const Outcome outcome = ReadParaFromCt();
-  if (outcome == Outcome::Stopped) TellDone(425);
-  return outcome == Outcome::Done;
-}
-
 void TakeDevices() {
   TakeDevFromCt();
   RecalcLimits();
@@ -86,6 +78,13 @@ void ReportComparison() {
 }
 
 }  // namespace
+
+bool ParametersAreRead() {
+  const WaitCursorScope wait_cursor;
+  const Outcome outcome = ReadParaFromCt();
+  if (outcome == Outcome::Stopped) TellDone(425);
+  return outcome == Outcome::Done;
+}
 
 void GetParametaValue() {
   if (!MayDropParaChanges(355)) return;

@@ -19,6 +19,10 @@ void WriteParaFlow();
 /// tell.
 int CheckCtAxisAndParaAxis();
 
+/// Reads the controller's parameters into `ParaTable`, over a line that is open. False: `ParaTable`
+/// is as it was.
+[[nodiscard]] bool ParametersAreRead();
+
 /// `cmdConpareCT` and `cmdConpareFile`: what differs between the view and the other side.
 void VerifyParaToCt();
 void VerifyParaToFile();

@@ -8,6 +8,7 @@
 #include "para/para_fields.h"
 #include "para/para_mm.h"
 #include "para/para_transfer_commands.h"
+#include "para/para_value_text.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -42,11 +43,8 @@ void MarkText(const ParaTextField& field, int axis) {
 
 void MarkList(const ParaListField& field, int axis) {
   ComboBox& list = ParaControl(field.Place, axis);
-  const int value = static_cast<int>(KnownValue(field.Row, axis));
-  const bool has_entry = value >= 0 && value < static_cast<int>(field.Entries.size());
-  const auto entry = static_cast<std::size_t>(value);
   Mark(list, IsKnown(IsAxisRow(field.Row), axis), list.Text(),
-       has_entry ? Text(field.Entries[entry]) : std::to_string(value));
+       ParaValueText(Known(), field.Row, axis));
 }
 
 /// The option that is on, or both where none is.
@@ -77,14 +75,9 @@ void MarkDevice(int axis) {
   Mark(f.txtActuator[axis], known, f.txtActuator[axis].Text, Known().Actuator[axis]);
 }
 
-/// An AXIS that no entry stands for is told as the number.
 void MarkAxisList() {
   ComboBox& list = frmParameta2.comboOneAxis;
-  const int count = AxisCountOfMask(Known().OneAxis);
-  const bool has_entry = count > 0 && count <= static_cast<int>(list.List.size());
-  Mark(
-      list, IsKnown(false, 0), list.Text(),
-      has_entry ? list.List[static_cast<std::size_t>(count) - 1] : std::to_string(Known().OneAxis));
+  Mark(list, IsKnown(false, 0), list.Text(), ParaValueText(Known(), kRowOneAxis, 0));
 }
 
 template <typename Field>

@@ -28,11 +28,6 @@ bool SameDevice(const ParamSetRecord& a, const ParamSetRecord& b, int axis) {
          a.ActStroke[axis] == b.ActStroke[axis];
 }
 
-bool Same(const ParamSetRecord& other, int row, int axis) {
-  if (row == kRowActuator) return SameDevice(ParamSet, other, axis);
-  return ParaValue(ParamSet, row, axis) == ParaValue(other, row, axis);
-}
-
 /// Meant so: the last row has no comma behind it.
 std::string Label(int row, int axis) {
   return ParaCellName({row, axis}) + (row == kRowPputWrite ? "" : ",");
@@ -43,13 +38,18 @@ std::string LineOf(const VerifyGroup& group, const ParamSetRecord& other) {
   std::string line;
   for (int row = group.FirstRow; row <= group.LastRow; ++row) {
     for (const int axis : IsAxisRow(row) ? live : first_alone) {
-      if (!Same(other, row, axis)) line += Label(row, axis);
+      if (!SameParaCell(ParamSet, other, {row, axis})) line += Label(row, axis);
     }
   }
   return line;
 }
 
 }  // namespace
+
+bool SameParaCell(const ParamSetRecord& a, const ParamSetRecord& b, const ParaCell& cell) {
+  if (cell.Row == kRowActuator) return SameDevice(a, b, cell.Axis);
+  return ParaValue(a, cell.Row, cell.Axis) == ParaValue(b, cell.Row, cell.Axis);
+}
 
 int BuildParaVerifyReport() {
   ParaFlags.VerifyLines.fill({});

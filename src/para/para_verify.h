@@ -2,7 +2,14 @@
 
 #include <string>
 
+#include "para/para_blocks.h"
+#include "para/param_set.h"
+
 namespace tr7 {
+
+/// True when two sets hold the same there; of a device its size, speed and stroke count.
+[[nodiscard]] bool SameParaCell(const ParamSetRecord& a, const ParamSetRecord& b,
+                                const ParaCell& cell);
 
 /// Compares `ParamSet` with `ParaTable` by value, over the rows of the controller and of the live
 /// axes, and fills `ParaFlags.VerifyLines`: what differs, in each of the five groups. 0 equal;

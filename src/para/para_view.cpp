@@ -6,6 +6,7 @@
 #include "para/para_actuator.h"
 #include "para/para_axis_show.h"
 #include "para/para_columns.h"
+#include "para/para_compare.h"
 #include "para/para_content.h"
 #include "para/para_file_flow.h"
 #include "para/para_flows.h"
@@ -101,6 +102,7 @@ void InstallParaView() {
   f.cmdParaWrite.Click = WriteParaFlow;
   f.cmdConpareCT.Click = VerifyParaToCt;
   f.cmdConpareFile.Click = VerifyParaToFile;
+  f.cmdParaCompare.Click = CompareParameters;
   f.cmdCalculate.Click = ShowStrokeCalc;
   f.cmdReadParaFile.Click = OpenParameters;
   f.cmdSaveParaFile.Click = [] { SaveParaToFile(); };

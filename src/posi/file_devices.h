@@ -32,6 +32,18 @@ class DevicesOnTrial {
   bool kept_ = false;
 };
 
+/// The devices under consideration are those of no file once the flow ends.
+class DevSetteiKept {
+ public:
+  DevSetteiKept() = default;
+  ~DevSetteiKept() { DevSettei = kept_; }
+  DevSetteiKept(const DevSetteiKept&) = delete;
+  DevSetteiKept& operator=(const DevSetteiKept&) = delete;
+
+ private:
+  AxisArray<DevSettingRecord> kept_ = DevSettei;
+};
+
 /// By whose devices the positions of a file are shown. `Refused`: they are not to be shown.
 enum class FileDevices { Refused, OfFile, Others };
 

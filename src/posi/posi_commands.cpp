@@ -22,7 +22,8 @@ void EnableDataButtons(bool on) {
   FrmPosi& f = frmPosi;
   EnableBuilt(
       {&f.cmdPosiRead, &f.cmdPosiWrite, &f.cmdPosiCtVerify, &f.cmdPosiNew, &f.cmdPosiOpen,
-       &f.cmdPosiSave, &f.cmdPosiSaveAs, &f.cmdPosiFileVerify, &f.cmdPosiPrint, &f.cmdPosiCheck},
+       &f.cmdPosiSave, &f.cmdPosiSaveAs, &f.cmdPosiFileVerify, &f.cmdPosiCompare, &f.cmdPosiPrint,
+       &f.cmdPosiCheck},
       on);
 }
 

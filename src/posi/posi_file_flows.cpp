@@ -81,6 +81,24 @@ Attempt AttemptOf(int result, const PosiFileTrouble& trouble) {
   return trouble.may_pass ? Attempt::MayPass : Attempt::Useless;
 }
 
+bool ReadPosiFileToStage(const std::string& path) {
+  PosiFileTrouble trouble;
+  const bool read = TryFourTimes([&] {
+    AppState.PosiFileNotOurs = False;
+    return AttemptOf(ReadPosiFile(path, trouble), trouble);
+  });
+  if (!read) {
+    MsgBox(WithReason(Text(484), trouble.words));
+    return false;
+  }
+  // A file of another kind has been told. The flow goes on with what was there before, and that
+  // is on show as it is, with what the user has typed into it.
+  if (AppState.PosiFileNotOurs) return false;
+  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
+  MsgBox(TwoLines(330, 331));
+  return false;
+}
+
 void PosidataSaveToFile() {
   EditCMD_Muko();
   const CommandsOff commands_off;

@@ -2,6 +2,7 @@
 
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
+#include "posi/posi_compare.h"
 #include "posi/posi_file_flows.h"
 #include "posi/posi_new.h"
 #include "posi/posi_open.h"
@@ -17,6 +18,7 @@ void InstallPosiFlows() {
   f.cmdPosiSave.Click = f.Commands.Save = PosidataSaveToFile;
   f.cmdPosiSaveAs.Click = f.Commands.SaveAs = PosiDataSaveAs;
   f.cmdPosiFileVerify.Click = PosiDataFileShogo2;
+  f.cmdPosiCompare.Click = ComparePositions;
   f.cmdPosiRead.Click = frmMain.mnuContPosiRead.Click = PosidataGetfromCt;
   f.cmdPosiWrite.Click = frmMain.mnuContPosiWrite.Click = PosidataLoadtoCt;
   f.cmdPosiCtVerify.Click = frmMain.mnuContPosiVerify.Click = PosiDataCtShogo;

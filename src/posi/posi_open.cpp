@@ -27,25 +27,6 @@ namespace {
 constexpr int kMsgSaveBeforeOpen = 6450;
 constexpr int kMsgLeftOut = 6458;
 
-/// True when the stage holds a file of the present mode; otherwise the user knows why not.
-bool ReadIntoStage(const std::string& path) {
-  PosiFileTrouble trouble;
-  const bool read = TryFourTimes([&] {
-    AppState.PosiFileNotOurs = False;
-    return AttemptOf(ReadPosiFile(path, trouble), trouble);
-  });
-  if (!read) {
-    MsgBox(WithReason(Text(484), trouble.words));
-    return false;
-  }
-  // A file of another kind has been told. The flow goes on with what was there before, and that
-  // is on show as it is, with what the user has typed into it.
-  if (AppState.PosiFileNotOurs) return false;
-  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
-  MsgBox(TwoLines(330, 331));
-  return false;
-}
-
 /// The first series has the word "QV", which the standard lists go by.
 void NameSeries() {
   for (DevSettingRecord& device : DevSetting) {
@@ -86,7 +67,7 @@ void PosidataFileOpen() {
   if (!path) TellDone(367);
   if (!path || path->empty()) return;
   DevicesOnTrial trial;
-  if (!ReadIntoStage(*path)) return;
+  if (!ReadPosiFileToStage(*path)) return;
   const FileDevices devices = ReconcileFileDevices();
   if (devices == FileDevices::Refused) return;
   trial.Keep();

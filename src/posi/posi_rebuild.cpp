@@ -24,7 +24,7 @@ void ShowPosiTab() {
   for (Control* control : std::initializer_list<Control*>{
            &f.framController, &f.cmdPosiRead, &f.cmdPosiWrite, &f.cmdPosiCtVerify, &f.framFile,
            &f.cmdPosiNew, &f.cmdPosiOpen, &f.cmdPosiSave, &f.cmdPosiSaveAs, &f.cmdPosiFileVerify,
-           &f.cmdPosiPrint, &f.framEdit, &f.cmdInsertLine, &f.cmdDeleteLine, &f.cmdPosiCopy,
+           &f.cmdPosiCompare, &f.cmdPosiPrint, &f.framEdit, &f.cmdInsertLine, &f.cmdDeleteLine, &f.cmdPosiCopy,
            &f.cmdPosiPaste, &f.cmdPosiCheck}) {
     control->Visible = tab == kDataTab;
   }

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "device/dev_setting.h"
+#include "posi/file_devices.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_file.h"
@@ -30,18 +30,6 @@ namespace {
 
 constexpr int kMsgResultGood = 826;
 constexpr int kMsgNotCompared = 6459;
-
-/// The devices under consideration are those of no file once the flow ends.
-class DevSetteiKept {
- public:
-  DevSetteiKept() = default;
-  ~DevSetteiKept() { DevSettei = kept_; }
-  DevSetteiKept(const DevSetteiKept&) = delete;
-  DevSetteiKept& operator=(const DevSetteiKept&) = delete;
-
- private:
-  AxisArray<DevSettingRecord> kept_ = DevSettei;
-};
 
 /// Compares over the operation's range and shows the result. `sides` names the two, `other` the one
 /// that is not the table.

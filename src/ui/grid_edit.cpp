@@ -134,6 +134,17 @@ void GridTable::MoveOn(bool backwards) {
   GoTo(row, backwards ? LastShownCol() : NextShownCol(grid_->FixedCols - 1, 1), false);
 }
 
+/// A key that stands for a choice of the current cell.
+bool GridTable::Chooses(const QKeyEvent& key) const {
+  return grid_->Choose && (IsEnter(key.key()) || key.key() == Qt::Key_Space);
+}
+
+void GridTable::ChooseCell() {
+  if (!InBody(grid_->Row, grid_->Col)) return;
+  grid_->Choose();
+  Push();
+}
+
 /// Left and right leave an edit that was begun by typing, and one in place at the text's ends.
 bool GridTable::LeavesSideways(int key) const {
   if (key != Qt::Key_Left && key != Qt::Key_Right) return false;
@@ -230,6 +241,8 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     focusNextPrevChild(!GoesBack(*event));
   } else if (event->key() == Qt::Key_F2) {
     StartEdit(EditStart::InPlace);
+  } else if (Chooses(*event)) {
+    if (!event->isAutoRepeat()) ChooseCell();  // a key that is held down chooses once
   } else if (IsEnter(event->key())) {
     MoveOn(GoesBack(*event));
   } else if (event->key() == Qt::Key_Backspace) {

@@ -158,6 +158,7 @@ void GridTable::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !FinishEdit()) return;
   if (!CellAt(event->position().toPoint(), row, col)) return;
   GoTo(row, col, false);
+  if (grid_->Choose) return ChooseCell();
   StartEdit(EditStart::InPlace);
 }
 

@@ -65,6 +65,8 @@ class GridTable : public QTableView {
   bool OnEditorKey(const QKeyEvent& key);
   bool LeavesSideways(int key) const;
   void MoveOn(bool backwards);
+  bool Chooses(const QKeyEvent& key) const;
+  void ChooseCell();
 
   // Moving and selecting: grid_moves.cpp.
   bool MoveByKey(const QKeyEvent& key);

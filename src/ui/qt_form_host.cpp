@@ -184,6 +184,7 @@ void QtFormHost::ShowModal(View& view) {
     return;
   }
   ShowDialog(view, *shown->window, true);
+  if (view.FirstFocus) SetFocus(*view.FirstFocus);
   Wait([&view] { return !view.Visible; });
 }
 

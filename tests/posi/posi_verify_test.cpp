@@ -7,6 +7,7 @@
 #include "forms/frm_syogo_kekka.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_range.h"
+#include "posi/posi_side.h"
 #include "posi/posi_syogo.h"
 #include "posi/posi_table.h"
 #include "tests/support/flow_test.h"
@@ -65,6 +66,10 @@ TEST_F(SyogoTest, LinesThatDoNotMoveInProgramMode) {
     Stage(9) = staged_way;
     Stage(10) = staged_pulses;
     EXPECT_EQ(Flagged(), flagged) << way << " " << staged_way;
+    PosiSide held, staged;
+    TakePosiTable(held);
+    TakePosiStage(staged, PosiTable.StageHolds);
+    EXPECT_EQ(PosiCellDiffers(held, staged, 10, 5), *flagged != 0) << "side by side";
   }
 }
 

@@ -1,0 +1,303 @@
+#include "compare/compare.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "forms/frm_compare.h"
+#include "platform/doors.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/message_box.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "state/views.h"
+#include "steps/transfer_scope.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgTitle = 5321, kMsgScreen = 5324, kMsgController = 5230, kMsgFile = 5231;
+constexpr int kMsgName = 5329, kMsgPlace = 5330, kMsgNamedFile = 5334;
+constexpr int kMsgOpenHere = 5341, kMsgOpenThere = 5342;
+constexpr int kMsgTakeHint = 5332, kMsgTakeAllHint = 5333;
+constexpr int kMsgCount = 6560, kMsgNoDifference = 6561, kMsgChoose = 6562, kMsgSameSides = 6563;
+constexpr int kMsgTakeAll = 6564, kMsgNotTaken = 6565, kMsgTaken = 6570;
+
+constexpr int kTitleRow = 0;
+constexpr int kNameCol = 0, kPlaceCol = 1, kHereCol = 2, kThereCol = 3;
+
+Grid& RowsGrid() { return frmCompare.flgdCompare; }
+
+CompareSource SourceIn(const ComboBox& choice) {
+  return static_cast<CompareSource>(choice.ListIndex);
+}
+
+/// One showing of the view, from its first question to its end.
+class Comparison {
+ public:
+  explicit Comparison(const CompareKind& kind) : kind_(kind) {}
+  void Run();
+
+ private:
+  struct Side {
+    CompareSource source;
+    std::string path;
+    std::string Name() const;
+  };
+
+  void Wire();
+  void OfferSides();
+  void AskToCompare();
+  void BringIn();
+  bool AskForFiles();
+  bool Fetch();
+  bool FetchOverLine();
+  bool Holds(CompareSource source) const;
+  void Forget();
+  void ShowRows();
+  void ShowState();
+  bool Differs(int row) const { return differs_[row - RowsGrid().FixedRows]; }
+  void TakeSelected();
+  void TakeAll();
+  void Take(const std::vector<int>& keys);
+  std::string RowWords(int key) const;
+
+  const CompareKind& kind_;
+  HandlersForOnce handlers_;
+  std::array<Side, 2> sides_{};
+  bool wanted_ = false;    ///< the view is away for the line, not for good
+  bool compared_ = false;  ///< both sides are in
+  int count_ = 0, differing_ = 0;
+  // By row on show.
+  std::vector<int> keys_;
+  std::vector<bool> differs_;
+};
+
+std::string Comparison::Side::Name() const {
+  switch (source) {
+    case CompareSource::Screen:
+      return Text(kMsgScreen);
+    case CompareSource::Controller:
+      return Text(kMsgController);
+    default:
+      return Text(kMsgNamedFile, FileTitle(path));
+  }
+}
+
+void Comparison::Run() {
+  Wire();
+  OfferSides();
+  Forget();
+  do {
+    wanted_ = false;
+    ShowViewModal(frmCompare);
+    if (wanted_) BringIn();
+  } while (wanted_);
+  Forget();
+}
+
+void Comparison::Wire() {
+  FrmCompare& f = frmCompare;
+  handlers_.Set(f.Load, [this] {
+    frmCompare.Caption = Text(kMsgTitle, Text(kind_.title_id));
+    frmCompare.cmdTake.ToolTip = Text(kMsgTakeHint);
+    frmCompare.cmdTakeAll.ToolTip = Text(kMsgTakeAllHint);
+    ShowState();
+  });
+  for (ComboBox* choice : {&f.comboHere, &f.comboThere}) {
+    handlers_.Set(choice->Click, [this] { Forget(); });
+  }
+  handlers_.Set(f.cmdCompare.Click, [this] { AskToCompare(); });
+  handlers_.Set(f.chkEqualToo.Click, [this] {
+    if (compared_) ShowRows();
+  });
+  handlers_.Set(f.flgdCompare.IsMarked, [this](int row, int col) {
+    return frmCompare.chkEqualToo.Value && col >= kHereCol && Differs(row);
+  });
+  handlers_.Set(f.flgdCompare.CellToolTip,
+                [](int row, int col) { return RowsGrid().Text(row, col); });
+  handlers_.Set(f.flgdCompare.CanEdit, [](int, int) { return false; });
+  handlers_.Set(f.flgdCompare.Choose, [] { frmCompare.cmdTake.Press(); });
+  handlers_.Set(f.cmdTake.Click, [this] { TakeSelected(); });
+  handlers_.Set(f.cmdTakeAll.Click, [this] { TakeAll(); });
+  handlers_.Set(f.cmdClose.Click, [] { frmCompare.Visible = false; });
+}
+
+/// The screen against the controller, or offline against a file, is what is asked for most.
+void Comparison::OfferSides() {
+  FrmCompare& f = frmCompare;
+  for (ComboBox* choice : {&f.comboHere, &f.comboThere}) {
+    choice->Clear();
+    for (const MsgId id : {MsgId(kMsgScreen), MsgId(kMsgController), MsgId(kMsgFile)}) {
+      choice->AddItem(Text(id), static_cast<int>(choice->List.size()));
+    }
+  }
+  f.comboHere.ListIndex = static_cast<int>(CompareSource::Screen);
+  f.comboThere.ListIndex =
+      static_cast<int>(AppState.Offline ? CompareSource::File : CompareSource::Controller);
+  f.chkEqualToo.Value = false;
+}
+
+void Comparison::AskToCompare() {
+  const CompareSource here = SourceIn(frmCompare.comboHere);
+  const CompareSource there = SourceIn(frmCompare.comboThere);
+  if (here == there && here != CompareSource::File) return Tell(kMsgSameSides);
+  sides_ = {Side{here, {}}, Side{there, {}}};
+  if (Holds(CompareSource::Controller)) {
+    wanted_ = true;
+    frmCompare.Visible = false;
+  } else {
+    BringIn();
+    doors.forms->SetFocus(RowsGrid());
+  }
+}
+
+bool Comparison::Holds(CompareSource source) const {
+  return std::any_of(sides_.begin(), sides_.end(),
+                     [source](const Side& side) { return side.source == source; });
+}
+
+/// What was compared before is gone: where a side does not come in, there is nothing to take from.
+void Comparison::BringIn() {
+  Forget();
+  compared_ = AskForFiles() && (Holds(CompareSource::Controller) ? FetchOverLine() : Fetch());
+  if (!compared_) return;
+  frmCompare.lblNote.Caption = kind_.note ? kind_.note() : std::string();
+  ShowRows();
+  RowsGrid().SelectCell(RowsGrid().FixedRows, kNameCol);
+}
+
+bool Comparison::AskForFiles() {
+  for (const CompareSide side : {kHere, kThere}) {
+    if (sides_[side].source != CompareSource::File) continue;
+    const auto path =
+        AskOpenPath(kind_.file, side == kHere ? MsgId(kMsgOpenHere) : MsgId(kMsgOpenThere));
+    if (!path || path->empty()) return false;
+    sides_[side].path = *path;
+  }
+  return true;
+}
+
+bool Comparison::FetchOverLine() {
+  const TransferScope transfer;
+  return ConnectOrOpenPort() && Fetch();
+}
+
+bool Comparison::Fetch() {
+  const auto of_controller = [this](CompareSide side) {
+    return sides_[side].source == CompareSource::Controller;
+  };
+  const auto fetch = [this](CompareSide side) {
+    return kind_.fetch(side, sides_[side].source, sides_[side].path);
+  };
+  // What the controller is asked for may follow from the other side.
+  return of_controller(kHere) ? fetch(kThere) && fetch(kHere) : fetch(kHere) && fetch(kThere);
+}
+
+void Comparison::Forget() {
+  compared_ = false;
+  count_ = differing_ = 0;
+  keys_.clear();
+  differs_.clear();
+  Grid& grid = RowsGrid();
+  grid.SetRows(grid.FixedRows);
+  for (int col = 0; col < grid.Cols(); ++col) grid.SetText(kTitleRow, col, {});
+  frmCompare.lblNote.Caption.clear();
+  ShowState();
+}
+
+void Comparison::ShowRows() {
+  CompareList list(frmCompare.chkEqualToo.Value);
+  kind_.rows(list);
+  count_ = list.Compared();
+  differing_ = list.Differing();
+  Grid& grid = RowsGrid();
+  grid.SetText(kTitleRow, kNameCol, Text(kMsgName));
+  grid.SetText(kTitleRow, kPlaceCol, Text(kMsgPlace));
+  grid.SetText(kTitleRow, kHereCol, sides_[kHere].Name());
+  grid.SetText(kTitleRow, kThereCol, sides_[kThere].Name());
+  grid.SetRows(grid.FixedRows + static_cast<int>(list.Rows().size()));
+  keys_.clear();
+  differs_.clear();
+  int at = grid.FixedRows;
+  for (CompareRow& row : list.Rows()) {
+    keys_.push_back(row.key);
+    differs_.push_back(row.differs);
+    grid.SetText(at, kNameCol, std::move(row.name));
+    grid.SetText(at, kPlaceCol, std::move(row.place));
+    grid.SetText(at, kHereCol, std::move(row.here));
+    grid.SetText(at++, kThereCol, std::move(row.there));
+  }
+  ShowState();
+}
+
+void Comparison::ShowState() {
+  FrmCompare& f = frmCompare;
+  const std::string count = std::to_string(count_);
+  f.lblCount.Caption = !compared_        ? Text(kMsgChoose)
+                       : differing_ == 0 ? Text(kMsgNoDifference, count)
+                                         : Text(kMsgCount, std::to_string(differing_), count);
+  const bool may_take =
+      compared_ && sides_[kHere].source == CompareSource::Screen && differing_ > 0;
+  f.cmdTake.Enabled = f.cmdTakeAll.Enabled = may_take;
+}
+
+void Comparison::TakeSelected() {
+  const Grid& grid = RowsGrid();
+  const auto [first, last] = std::minmax(grid.Row, grid.RowSel);
+  std::vector<int> keys;
+  for (int row = std::max(first, grid.FixedRows); row <= last; ++row) {
+    if (Differs(row)) keys.push_back(keys_[row - grid.FixedRows]);
+  }
+  if (!keys.empty()) Take(keys);
+}
+
+void Comparison::TakeAll() {
+  const std::string question = Text(kMsgTakeAll, std::to_string(differing_));
+  if (MsgBox(question, MsgButtons::YesNo, MsgIcon::Question) != MsgAnswer::Yes) return;
+  std::vector<int> keys;
+  for (std::size_t i = 0; i < keys_.size(); ++i) {
+    if (differs_[i]) keys.push_back(keys_[i]);
+  }
+  Take(keys);
+}
+
+/// The row that follows the last one taken is the current one: one key takes them one by one.
+void Comparison::Take(const std::vector<int>& keys) {
+  const std::vector<CompareRefusal> refusals = kind_.take(keys);
+  std::string words = Text(kMsgTaken, std::to_string(keys.size() - refusals.size()));
+  if (!refusals.empty()) {
+    const CompareRefusal& first = refusals.front();
+    const std::string reason = RowWords(first.key) + ": " + Text(first.reason_id);
+    words += "\n" + Text(kMsgNotTaken, std::to_string(refusals.size()), reason);
+    doors.forms->Beep();
+  }
+  const int row = std::min(RowsGrid().Row, RowsGrid().RowSel);
+  ShowRows();
+  RowsGrid().SelectCell(std::min(row, RowsGrid().Rows() - 1), kNameCol);
+  frmCompare.lblNote.Caption = words;
+}
+
+std::string Comparison::RowWords(int key) const {
+  const auto at = std::find(keys_.begin(), keys_.end(), key) - keys_.begin();
+  const int row = RowsGrid().FixedRows + static_cast<int>(at);
+  return RowsGrid().Text(row, kNameCol) + " " + RowsGrid().Text(row, kPlaceCol);
+}
+
+}  // namespace
+
+bool CompareList::Counts(bool differs) {
+  ++compared_;
+  differing_ += differs ? 1 : 0;
+  return differs || equal_too_;
+}
+
+void ShowCompare(const CompareKind& kind) {
+  const CommandsOff commands_off;
+  const BusyScope busy;
+  Comparison(kind).Run();
+}
+
+}  // namespace tr7

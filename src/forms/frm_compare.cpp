@@ -1,0 +1,22 @@
+#include "forms/frm_compare.h"
+
+namespace tr7 {
+
+FrmCompare::FrmCompare() : View("frmCompare") {
+  constexpr int kName = 0, kPlace = 1, kHere = 2, kThere = 3;
+  Width = 13000;
+  Height = 8000;
+  FirstFocus = &flgdCompare;
+  cmdCompare.Default = true;
+  cmdClose.Cancel = true;
+  constexpr int kRestOfView = -1;
+  flgdCompare.SetColWidth(kName, 1800);
+  flgdCompare.SetColWidth(kPlace, 850);
+  flgdCompare.SetColWidth(kHere, 2400);
+  flgdCompare.SetColWidth(kThere, kRestOfView);
+  for (const int col : {kName, kPlace, kHere, kThere}) {
+    flgdCompare.SetColAlign(col, col == kPlace ? ColAlign::Centre : ColAlign::Left);
+  }
+}
+
+}  // namespace tr7

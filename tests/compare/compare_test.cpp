@@ -1,0 +1,233 @@
+// What differs between two sides, and what the user takes over: one view for every kind of data.
+
+#include <algorithm>
+
+#include "forms/frm_compare.h"
+#include "forms/frm_grp.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_sq_mcr.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+using enum MsgAnswer;
+using qvr7sim::FaultKind;
+using Visit = std::function<void()>;
+
+enum Source { kScreen, kController, kFile };
+
+/// A kind of data as the user meets it.
+struct Kind {
+  const char* name;
+  CommandButton &compare, &save;
+  const char* read_prefix;  ///< of its frames on the line
+  std::function<void()> load;
+  std::function<void(const char* value)> edit;  ///< types a value into one place
+  std::function<std::string()> held;            ///< what stands there
+  const char *of_controller, *typed;
+  const char *row, *file_row;  ///< of the difference, against the controller and the file
+  int compared;
+};
+
+void Leave(TextBox& box, const char* value) {
+  box.Type(value);
+  box.LostFocus();
+}
+
+class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::size_t> {
+ protected:
+  std::vector<Kind> Kinds() {
+    const auto open_and_read = [this](Menu& menu, CommandButton& read) {
+      menu.Press();
+      forms.answers = {Ok};
+      read.Press();
+    };
+    return {
+        {"positions", frmPosi.cmdPosiCompare, frmPosi.cmdPosiSaveAs, "0RP",
+         [this] { ReadRange(2, 4); },
+         [](const char* value) { frmPosi.flgdData.TypeInto(RowOfPosition(3), kVel, value); },
+         [] { return Cell(3, kVel); }, "30", "45", "VEL1 3: 45 | 30", "VEL1 3: 30 | 45", 81},
+        {"parameters", frmParameta2.cmdParaCompare, frmParameta2.cmdSaveParaFile, "0RD",
+         [=] { open_and_read(frmMain.mnuViewPara, frmParameta2.cmdParaRead); },
+         [](const char* value) { Leave(frmParameta2.txtHomePush[1], value); },
+         [] { return frmParameta2.txtHomePush[1].Text; }, "50", "77", "PUSH AXIS2: 77 | 50",
+         "PUSH AXIS2: 50 | 77", 103},
+        {"groups", frmGrp.cmdGrpCompare, frmGrp.cmdGrpFileSave, "0RG",
+         [=] { open_and_read(frmMain.mnuViewGrp, frmGrp.cmdReadGrp); },
+         [](const char* value) { Leave(frmGrp.Rows[0].txtGrpEndNo, value); },
+         [] { return frmGrp.Rows[0].txtGrpEndNo.Text; }, "4", "99", "Group 1: 1 - 99 | 1 - 4",
+         "Group 1: 1 - 4 | 1 - 99", 99},
+        {"macros", frmSqMcr.cmdSmCompare, frmSqMcr.cmdSmFileSave, "0RS",
+         [=] { open_and_read(frmMain.mnuViewSM, frmSqMcr.cmdReadSMfromCt); },
+         [](const char* value) {
+           frmSqMcr.Rows[1].comboMerei.Pick(3);
+           frmSqMcr.Rows[1].txtSmData.Type(value);
+         },
+         [] { return frmSqMcr.Rows[1].txtSmData.Text; }, "1", "4",
+         "Step 2 1: 3. OUT-ON 4 | 3. OUT-ON 1", "Step 2 1: 3. OUT-ON 1 | 3. OUT-ON 4", 320},
+    };
+  }
+  void SetUp() override {
+    StartOnline();
+    AnswerRange("frmSelectPosiNo3", 2, 4);
+    kind.load();
+    Forget();
+  }
+
+  static Visit Compare(Source here, Source there) {
+    return [=] {
+      frmCompare.comboHere.Pick(here);
+      frmCompare.comboThere.Pick(there);
+      frmCompare.cmdCompare.Press();
+    };
+  }
+  /// Presses the kind's button; the view comes up once for each visit.
+  void Run(std::vector<Visit> visits) {
+    const std::size_t count = visits.size();
+    visits.back() = [last = visits.back()] {
+      last();
+      frmCompare.cmdClose.Press();
+    };
+    forms.modals.clear();
+    InDialog("frmCompare", std::move(visits));
+    kind.compare.Press();
+    EXPECT_EQ(std::count(forms.modals.begin(), forms.modals.end(), "frmCompare"), count);
+  }
+  static std::string Row(int row) {
+    const Grid& grid = frmCompare.flgdCompare;
+    return grid.Text(row, 0) + " " + grid.Text(row, 1) + ": " + grid.Text(row, 2) + " | " +
+           grid.Text(row, 3);
+  }
+  /// The rows on show, and the words above and below them.
+  static Texts Shown() {
+    Texts texts;
+    for (int row = 1; row < frmCompare.flgdCompare.Rows(); ++row) texts.push_back(Row(row));
+    return texts;
+  }
+  static std::string Count(int differing, int compared) {
+    const std::string all = std::to_string(compared);
+    return differing == 0 ? Text(6561, all) : Text(6560, std::to_string(differing), all);
+  }
+
+  Kind kind = Kinds()[GetParam()];
+};
+
+TEST_P(CompareTest, AgainstTheControllerAndTakenOverOneByOne) {
+  kind.edit(kind.typed);
+  Run({Compare(kScreen, kController), [this] {
+         EXPECT_EQ(Shown(), Texts{kind.row});
+         EXPECT_EQ(frmCompare.lblCount.Caption, Count(1, kind.compared));
+         frmCompare.chkEqualToo.Set(true);
+         EXPECT_EQ(Shown().size(), kind.compared);
+         frmCompare.chkEqualToo.Set(false);
+         port.sent.clear();
+         frmCompare.flgdCompare.Choose();
+         EXPECT_EQ(SentLines(), "") << "nothing goes to the controller";
+         EXPECT_EQ(Shown(), Texts());
+         EXPECT_EQ(frmCompare.lblCount.Caption, Count(0, kind.compared));
+         EXPECT_FALSE(frmCompare.cmdTake.Enabled);
+       }});
+  EXPECT_EQ(kind.held(), kind.of_controller);
+  EXPECT_TRUE(GetParam() != 0 || frmPosi.PosiChanged);
+  Run({Compare(kController, kScreen), [] { EXPECT_EQ(Shown(), Texts()); }});
+}
+
+TEST_P(CompareTest, AFileAgainstTheOtherTwoAndTakenOverAtOnce) {
+  kind.edit(kind.typed);
+  forms.file_answers = {"/typed"};
+  forms.answers = {Ok};
+  kind.save.Press();
+  kind.load();
+  forms.file_answers = {"/typed", "/typed", "/typed"};
+  Run({Compare(kFile, kController), [this] {
+         EXPECT_EQ(Shown().size(), 1u);
+         EXPECT_FALSE(frmCompare.cmdTakeAll.Enabled) << "this side is not the screen";
+         Compare(kScreen, kFile)();
+         EXPECT_EQ(Shown(), Texts{kind.file_row});
+         EXPECT_EQ(frmCompare.flgdCompare.Text(0, 3), "File \"typed\"");
+         forms.answers = {No, Yes};
+         frmCompare.cmdTakeAll.Press();
+         EXPECT_EQ(kind.held(), kind.of_controller);
+         frmCompare.cmdTakeAll.Press();
+         EXPECT_EQ(Shown(), Texts());
+       }});
+  EXPECT_EQ(kind.held(), kind.typed);
+}
+
+TEST_P(CompareTest, WhatDoesNotComeInLeavesNothingToTake) {
+  kind.edit(kind.typed);
+  virt.files.Put("/bad", "\"QV-R7\",\"PRG\"\r\n1\r\n");
+  const auto nothing = [this] {
+    EXPECT_EQ(frmCompare.lblCount.Caption, Text(6562));
+    EXPECT_EQ(Shown(), Texts());
+    EXPECT_FALSE(frmCompare.cmdTake.Enabled || frmCompare.cmdTakeAll.Enabled);
+    EXPECT_EQ(kind.held(), kind.typed);
+  };
+  forms.file_answers = {std::nullopt, "/bad"};
+  Run({Compare(kScreen, kController),
+       [&] {
+         EXPECT_EQ(Shown().size(), 1u);
+         Compare(kScreen, kScreen)();  // refused in place
+         EXPECT_EQ(Boxes(), Texts{Text(6563)});
+         Compare(kScreen, kFile)();
+         nothing();
+         Compare(kScreen, kFile)();
+         nothing();
+         EXPECT_FALSE(Boxes().empty());
+         Spoil(FaultKind::kChangedByte, kind.read_prefix, 2, 3);
+         Compare(kScreen, kController)();
+       },
+       nothing});
+  EXPECT_FALSE(Boxes().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, CompareTest, ::testing::Range(std::size_t{0}, std::size_t{4}));
+
+// What a kind has for itself.
+
+using ComparePositions = CompareTest;
+INSTANTIATE_TEST_SUITE_P(, ComparePositions, ::testing::Values(std::size_t{0}));
+
+TEST_P(ComparePositions, PositionsOfOneSideAndValuesThatTheTableRefuses) {
+  forms.file_answers = {"/a.qvd"};
+  forms.answers = {Ok};
+  kind.save.Press();
+  ReadRange(3, 3);
+  Forget();
+  kind.edit("45");
+  forms.file_answers = {"/a.qvd"};
+  Run({[this] {
+    Compare(kScreen, kFile)();
+    EXPECT_EQ(Shown(), (Texts{"Whole position 2: (none) | (data)", "VEL1 3: 45 | 30",
+                              "Whole position 4: (none) | (data)"}));
+    forms.answers = {Yes};
+    frmCompare.cmdTakeAll.Press();
+    EXPECT_EQ(Shown(), Texts{"Whole position 2: (none) | (data)"});
+    EXPECT_EQ(frmCompare.lblNote.Caption,
+              Text(6570, "2") + "\n" + Text(6565, "1", "Whole position 2: " + Text(6568)));
+  }});
+  EXPECT_EQ(AppState.PosiLastNo, 4);
+}
+
+using CompareParameters = CompareTest;
+INSTANTIATE_TEST_SUITE_P(, CompareParameters, ::testing::Values(std::size_t{1}));
+
+TEST_P(CompareParameters, LockedRowsStay) {
+  forms.answers = {Yes};
+  frmParameta2.chkTokuParaChange.Set(true);
+  Leave(frmParameta2.txtAutoStartPrgNo, "9");
+  frmParameta2.chkTokuParaChange.Set(false);
+  Run({Compare(kScreen, kController), [] {
+         EXPECT_EQ(Shown(), Texts{"AUTO START PRG No. : 9 | 0"});
+         frmCompare.cmdTake.Press();
+         EXPECT_EQ(Shown().size(), 1u);
+         EXPECT_NE(frmCompare.lblNote.Caption.find(Text(6567)), std::string::npos);
+       }});
+  EXPECT_EQ(frmParameta2.txtAutoStartPrgNo.Text, "9");
+}
+
+}  // namespace
+}  // namespace tr7
