@@ -8,12 +8,17 @@
 #include "core/install_views.h"
 #include "core/main_entry.h"
 #include "core/reset_state.h"
+#include "forms/frm_grp.h"
+#include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "forms/frm_sq_mcr.h"
 #include "platform/doors.h"
 #include "posi/posi_check.h"
 #include "posi/posi_table.h"
+#include "sim/setup.h"
 #include "tests/support/virtual_doors.h"
 
 namespace tr7bench {
@@ -58,11 +63,12 @@ struct Desk : VirtualDoors {
     button.Press();
     return pump.NowUs() - start;
   }
-  /// The virtual time of the button's flow over the time of its bytes on the line.
-  double LineRatio(CommandButton& button) {
+  /// The virtual time of the button's flow over the time of its bytes on the line, and what the
+  /// controller takes to store beside it.
+  double LineRatio(CommandButton& button, std::int64_t storing_us = 0) {
     counted.TakeLineUs();
     const auto took = static_cast<double>(Press(button));
-    return took / static_cast<double>(counted.TakeLineUs());
+    return took / static_cast<double>(counted.TakeLineUs() + storing_us);
   }
 
   CountingPort counted{port};
@@ -106,6 +112,26 @@ void Write(Desk& desk) {
   if (desk.port.sent.find(commit) == std::string::npos) Fail("nothing was written", desk.forms);
 }
 
+/// Reports the button's line ratio. This frame must have gone out, the last one of its data.
+void Transfer(Desk& desk, const char* figure, CommandButton& button, const std::string& last_frame,
+              std::int64_t storing_us = 0) {
+  desk.port.sent.clear();
+  Report(figure, desk.LineRatio(button, storing_us), 4);
+  if (desk.port.sent.find(last_frame) == std::string::npos) Fail(figure, desk.forms);
+}
+
+void OtherKinds(Desk& desk) {
+  frmMain.mnuViewPara.Press();
+  Transfer(desk, "para_read_virtual_ratio", frmParameta2.cmdParaRead, "0RDD");
+  frmParameta2.txtHomePush[0].Type("77");
+  Transfer(desk, "para_write_virtual_ratio", frmParameta2.cmdParaWrite, "0WE2",
+           qvr7sim::Setup::Useful().commit_us);
+  frmMain.mnuViewGrp.Press();
+  Transfer(desk, "grp_read_virtual_ratio", frmGrp.cmdReadGrp, "0RG63");
+  frmMain.mnuViewSM.Press();
+  Transfer(desk, "sm_read_virtual_ratio", frmSqMcr.cmdReadSMfromCt, "0RS14");
+}
+
 }  // namespace
 }  // namespace tr7bench
 
@@ -114,4 +140,5 @@ int main() {
   tr7bench::Read(desk);
   tr7bench::Check(desk);
   tr7bench::Write(desk);
+  tr7bench::OtherKinds(desk);
 }

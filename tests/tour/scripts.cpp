@@ -1,5 +1,6 @@
 #include "tests/tour/scripts.h"
 
+#include "forms/frm_compare.h"
 #include "forms/frm_device.h"
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
@@ -13,7 +14,7 @@
 namespace tr7::tour {
 namespace {
 
-constexpr int kOfflineText = 5117;
+constexpr int kOfflineText = 5117, kNoDifference = 6561;
 constexpr std::size_t kFirst = 0, kSecond = 1;
 
 // From the splash to a table read from the controller; a controller that is silent, and an alarm.
@@ -96,6 +97,7 @@ void MainJob(User& user) {
   EditCell(user, place, "7000");
   VerifyDifferent(user, "7000", "6667");
   VerifyFile(user, user.file, "7000");
+  CompareFile(user, user.file, "7000", "6667");
   OpenAgain(user, user.file, place, "6667");
   LeaveByMenu(user);
 }
@@ -224,11 +226,60 @@ void OfflineFirst(User& user) {
   LeaveByMenu(user);
 }
 
+// Parameters beside the controller's: one is taken over, another is written.
+
+void ReadParameters(User& user) {
+  user.Choose(frmMain.mnuView, frmMain.mnuViewPara);
+  user.Click(frmParameta2.cmdParaRead);
+  user.SeeText(frmParameta2.txtHomePush[kSecond], "50");
+  user.SeeReady(User::kTransferMs);
+}
+
+void WriteParameters(User& user) {
+  constexpr int kWrite = 470, kReflect = 685, kWritten = 1527;
+  user.Click(frmParameta2.cmdParaWrite);
+  user.AnswerBox(Text(kWrite), MsgAnswer::Yes);
+  user.AnswerBox(Text(kReflect), MsgAnswer::No, nullptr, User::kTransferMs);
+  user.AnswerBox(Text(kWritten), MsgAnswer::Ok);
+  user.SeeReady();
+}
+
+void CompareJob(User& user) {
+  TextBox &push = frmParameta2.txtHomePush[kSecond], &hold = frmParameta2.txtHomeVel[kFirst];
+  PassSplash(user, true);
+  SeeOnline(user, false);
+  ReadParameters(user);
+  user.Type(push, "77");
+  user.Type(hold, "12");
+  user.Key(Qt::Key_Tab);
+  user.Click(frmParameta2.cmdParaCompare);
+  user.SeeOn(frmCompare.cmdCompare);
+  user.Picture("compare-choice");
+  user.Click(frmCompare.cmdCompare);
+  user.SeeCell(frmCompare.flgdCompare, 1, 2, "77");
+  user.Picture("compare-parameters");
+  user.Key(Qt::Key_Return);
+  user.SeeCell(frmCompare.flgdCompare, 1, 2, "12");
+  user.Picture("compare-taken");
+  user.Click(frmCompare.cmdClose);
+  user.SeeGone(frmCompare);
+  user.SeeText(push, "50");
+  WriteParameters(user);
+  user.Click(frmParameta2.cmdParaCompare);
+  user.Click(frmCompare.cmdCompare);
+  user.SeeText(frmCompare.lblCount, Text(kNoDifference, "103"));
+  user.Picture("compare-equal");
+  user.Click(frmCompare.cmdClose);
+  LeaveByMenu(user);
+}
+
 }  // namespace
 
 const std::vector<Script>& Scripts() {
-  static const std::vector<Script> scripts{
-      {"look", {}, FirstLook}, {"job", {}, MainJob}, {"offline", {"--mode", "prg"}, OfflineFirst}};
+  static const std::vector<Script> scripts{{"look", {}, FirstLook},
+                                           {"job", {}, MainJob},
+                                           {"offline", {"--mode", "prg"}, OfflineFirst},
+                                           {"compare", {}, CompareJob}};
   return scripts;
 }
 

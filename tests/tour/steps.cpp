@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "forms/frm_compare.h"
 #include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
@@ -198,6 +199,23 @@ void VerifyFile(User& user, const QString& path, const std::string& own) {
   user.ChooseFile(path, "verify-file-dialogue");
   AcceptRange(user, frmSelectPosiNo4, "verify-file-range");
   SeeResult(user, kDifferentTitle, {own, NameOf(path)}, "verify-file");
+}
+
+void CompareFile(User& user, const QString& path, const std::string& own,
+                 const std::string& other) {
+  constexpr int kFile = 2;
+  user.Click(frmPosi.cmdPosiCompare);
+  user.Pick(frmCompare.comboThere, kFile);
+  user.Click(frmCompare.cmdCompare);
+  user.ChooseFile(path, "compare-file-dialogue");
+  user.SeeCell(frmCompare.flgdCompare, 1, 2, own);
+  user.SeeCell(frmCompare.flgdCompare, 1, 3, other);
+  user.Picture("compare-positions");
+  user.Click(frmCompare.chkEqualToo);
+  user.See("all cells", [] { return frmCompare.flgdCompare.Rows() > 1000; });
+  user.Picture("compare-positions-all");
+  user.Click(frmCompare.cmdClose);
+  user.SeeGone(frmCompare);
 }
 
 void OpenAgain(User& user, const QString& path, const Cell& cell, const std::string& saved) {

@@ -42,6 +42,8 @@ void VerifyEqual(User& user);
 /// One cell was changed since; the result view tells both sides of it.
 void VerifyDifferent(User& user, const std::string& own, const std::string& other);
 void VerifyFile(User& user, const QString& path, const std::string& own);
+/// One cell differs from the file's, in a table of 40 lines.
+void CompareFile(User& user, const QString& path, const std::string& own, const std::string& other);
 /// Opens the file and drops what was changed: `cell` holds `saved` again.
 void OpenAgain(User& user, const QString& path, const Cell& cell, const std::string& saved);
 
