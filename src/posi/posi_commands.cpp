@@ -20,11 +20,10 @@ void EnableBuilt(std::initializer_list<CommandButton*> buttons, bool on) {
 
 void EnableDataButtons(bool on) {
   FrmPosi& f = frmPosi;
-  EnableBuilt(
-      {&f.cmdPosiRead, &f.cmdPosiWrite, &f.cmdPosiCtVerify, &f.cmdPosiNew, &f.cmdPosiOpen,
-       &f.cmdPosiSave, &f.cmdPosiSaveAs, &f.cmdPosiFileVerify, &f.cmdPosiCompare, &f.cmdPosiPrint,
-       &f.cmdPosiCheck},
-      on);
+  EnableBuilt({&f.cmdPosiRead, &f.cmdPosiWrite, &f.cmdPosiCtVerify, &f.cmdPosiNew, &f.cmdPosiOpen,
+               &f.cmdPosiSave, &f.cmdPosiSaveAs, &f.cmdPosiFileVerify, &f.cmdPosiCompare,
+               &f.cmdPosiPrint, &f.cmdPosiCheck},
+              on);
 }
 
 void SetEditCommands(const EditStates& states) {
