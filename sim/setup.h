@@ -77,6 +77,7 @@ struct Setup {
   int home_mm_s = 20;
   std::int64_t home_search_us = 300000;  ///< Search of the sensor, on top of the way home.
   std::array<int, kAxes> start_pulses{};
+  int running_tasks = 0;   ///< Program tasks that "0TN" reports, 0 to 15.
   bool homed = false;      ///< All axes homed at the start.
   bool rest_as_f = false;  ///< "0RA" and "0RH" say "F", not the mask, when it holds for all axes.
 
