@@ -14,6 +14,7 @@
 #include "link/request_queue.h"
 #include "para/device_choice.h"
 #include "platform/doors.h"
+#include "session/followers.h"
 #include "session/session.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
@@ -144,6 +145,7 @@ void StartOnlineOfflineChoice() {
 }
 
 void UnloadFrame() {
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   const std::vector<View*> views = OpenViews();
   for (View* view : views) {
     if (view != &frmMain) UnloadView(*view);

@@ -11,6 +11,7 @@
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
+#include "motion/motion_view.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
@@ -22,6 +23,7 @@
 
 namespace tr7 {
 void ResetState() {
+  ResetMotion();
   ResetViews();
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};

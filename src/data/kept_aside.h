@@ -17,7 +17,7 @@ class KeptAside {
  public:
   void Keep(const Table& table) {
     table_ = table;
-    time_ = doors.pump->TimeOfDay();
+    time_ = doors.pump->TimeOfDay().substr(0, 5);
   }
   std::optional<Table> Take() { return std::exchange(table_, std::nullopt); }
 

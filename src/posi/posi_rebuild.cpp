@@ -10,7 +10,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kDataTab = 0, kTeachingTab = 1, kMoveTab = 2;
+constexpr int kDataTab = 0, kMoveTab = 1, kTeachingTab = 2;
 
 TabStrip& ShownStrip() { return AppState.CtMode ? frmPosi.tabCmdPrg : frmPosi.tabCmd; }
 
@@ -28,8 +28,10 @@ void ShowPosiTab() {
            &f.cmdPosiPaste, &f.cmdPosiCheck}) {
     control->Visible = tab == kDataTab;
   }
-  f.cmdJOGST.Visible = f.cmdJOGend.Visible = tab == kTeachingTab;
-  f.cmdMoveSelect.Visible = f.cmdMoveContinue.Visible = tab == kMoveTab;
+  f.Readout.controls.SetVisible(tab != kDataTab);
+  f.Move.controls.SetVisible(tab == kMoveTab);
+  f.Teach.controls.SetVisible(tab == kTeachingTab);
+  if (f.MotionTabs) f.MotionTabs();
 }
 
 void RebuildPosiView() {

@@ -12,6 +12,8 @@ struct FollowersRecord {
   std::function<void()> PositionsFollowDevices;
   /// The same where the pulses stay whatever the unit: the millimetres follow them.
   std::function<void()> MmFollowsPulses;
+  /// The session is about to end: what this tool has set in motion is stopped first.
+  std::function<void()> StopBeforeTheEnd;
 };
 
 extern FollowersRecord Followers;

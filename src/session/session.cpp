@@ -9,6 +9,7 @@
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "platform/doors.h"
+#include "session/followers.h"
 #include "session/open_port.h"
 #include "session/reconcile.h"
 #include "session/version_check.h"
@@ -34,6 +35,7 @@ constexpr int kMsgGivenUp = 5970;
 bool GivenUp() { return AppState.CancelRequested; }
 
 bool ConnectSteps() {
+  AppState.HomeDone = False;
   SetOnline();
   ProgressScope progress(Text(368), kConnectSteps, true);
   if (CtComStart(1) != 0 || GivenUp()) return false;
@@ -108,12 +110,13 @@ void ChangeToOfflineMenu() {
       MsgBox(Text(432), MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
     return;
   }
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   EndSession();
 }
 
 bool FirstConnection() {
   const auto muko = AppState.AxisMuko;
-  AppState.Offline = False;
+  AppState.Offline = AppState.HomeDone = False;
   if (FirstConnectionSteps()) return true;
   // Half a controller's state is nobody's: the offline start begins with all axes.
   AppState.AxisMuko = muko;
