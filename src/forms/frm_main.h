@@ -80,7 +80,6 @@ struct FrmMain : View {
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   CommandButton cmdComCancel{*this, "cmdComCancel", 5111};
   Image imgMoving{*this, "imgMoving"};  ///< an axis moves by this tool's command, or may do so
-  Label lblMoving{*this, "lblMoving", 5119};
   CommandButton cmdStopNow{*this, "cmdStopNow", 5118};
   Label lblAlarm{*this, "lblAlarm", 5113};
   Image imgAlarm{*this, "imgAlarm"};

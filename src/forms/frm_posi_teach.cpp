@@ -55,6 +55,8 @@ PosiTeaching::PosiTeaching(View& owner)
       lblTeachNote(owner, "lblTeachNote") {
   controls.Close();
   optJOG.Value = true;
+  cmdJOGWrite.Key = "F3";
+  cmdJOGWriteNext.Key = "F4";
   cmdJogSlower.Key = "Ctrl+Down";
   cmdJogFaster.Key = "Ctrl+Up";
 }
