@@ -29,12 +29,11 @@ void LoadGroups() {
   GrpShow();
 }
 
-void ForgetGroups() {
-  if (GrpTable != GrpTableRecord{}) groups_aside.Keep(GrpTable);
-}
+void ForgetGroups() { groups_aside.Keep(GrpTable); }
 
 void BringBack() {
-  if (const auto groups = groups_aside.Take()) GrpTable = *groups;
+  StoreShownGroups();
+  groups_aside.BringBack(GrpTable);
   groups_aside.Offer(frmGrp.cmdGrpRestore);
   GrpShow();
 }

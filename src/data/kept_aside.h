@@ -1,8 +1,9 @@
 #pragma once
 
-#include <optional>
+#include <algorithm>
+#include <cstddef>
+#include <deque>
 #include <string>
-#include <utility>
 
 #include "forms/control.h"
 #include "platform/doors.h"
@@ -10,27 +11,44 @@
 
 namespace tr7 {
 
-/// What a view held when it was closed, until it is taken back or the tool ends. A closed view
-/// forgets its table and asks nothing, so no work dies of it.
+/// What a view held at its last closes, until it is taken back or the tool ends. A closed view
+/// forgets its table and asks nothing, so that no work dies of it.
 template <typename Table>
 class KeptAside {
  public:
+  /// Keeps the table, unless nothing was ever put into it. The oldest of many goes.
   void Keep(const Table& table) {
-    table_ = table;
-    time_ = doors.pump->TimeOfDay();
+    if (table == Table{}) return;
+    std::erase_if(kept_, [&](const Kept& kept) { return kept.table == table; });
+    kept_.push_front({table, doors.pump->TimeOfDay()});
+    if (kept_.size() > kMost) kept_.pop_back();
   }
-  std::optional<Table> Take() { return std::exchange(table_, std::nullopt); }
+
+  /// The newest one comes back, and what stood in its place is kept behind the others: pressing on
+  /// goes round.
+  void BringBack(Table& table) {
+    if (kept_.empty()) return;
+    const Table brought = kept_.front().table;
+    kept_.pop_front();
+    Keep(table);
+    if (table != Table{}) std::rotate(kept_.begin(), kept_.begin() + 1, kept_.end());
+    table = brought;
+  }
 
   /// Shows the button that brings it back, with its time, while there is something to bring.
   void Offer(CommandButton& button) const {
     constexpr int kMsgBringBack = 6489;
-    button.Visible = table_.has_value();
-    button.Caption = Text(kMsgBringBack, time_);
+    button.Visible = !kept_.empty();
+    button.Caption = Text(kMsgBringBack, kept_.empty() ? std::string() : kept_.front().time);
   }
 
  private:
-  std::optional<Table> table_;
-  std::string time_;
+  static constexpr std::size_t kMost = 8;
+  struct Kept {
+    Table table;
+    std::string time;
+  };
+  std::deque<Kept> kept_;
 };
 
 }  // namespace tr7

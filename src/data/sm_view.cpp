@@ -71,12 +71,10 @@ void LoadMacros() {
   SmShow();
 }
 
-void ForgetMacros() {
-  if (SmTable != SmTableRecord{}) macros_aside.Keep(SmTable);
-}
+void ForgetMacros() { macros_aside.Keep(SmTable); }
 
 void BringBack() {
-  if (const auto macros = macros_aside.Take()) SmTable = *macros;
+  macros_aside.BringBack(SmTable);
   macros_aside.Offer(frmSqMcr.cmdSmRestore);
   SmShow();
 }

@@ -185,9 +185,15 @@ TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
   kind.menu.Press();
   EXPECT_NE(kind.held(), kind.good);
   EXPECT_EQ(kind.restore.Caption, "Bring back (12:00)");
+  kind.edit(kind.other);
+  CloseView(kind.view, CloseReason::Code);  // with the offer not taken
+  kind.menu.Press();
   kind.restore.Press();
-  EXPECT_EQ(kind.held(), kind.good);
-  EXPECT_FALSE(kind.restore.Visible);
+  EXPECT_EQ(kind.held(), kind.other);
+  kind.restore.Press();
+  EXPECT_EQ(kind.held(), kind.good) << "the one from before is still there";
+  kind.restore.Press();
+  EXPECT_EQ(kind.held(), kind.other) << "what it took the place of comes back";
 }
 
 TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
