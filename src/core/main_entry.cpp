@@ -93,11 +93,15 @@ bool QueryUnloadFrame(CloseReason reason) {
   // The views inside the frame are asked here too, while all of them can still stay: later on
   // nothing stops the close.
   const std::vector<View*> views = OpenViews();
-  return std::any_of(views.begin(), views.end(), [](View* view) {
+  const bool refused = std::any_of(views.begin(), views.end(), [](View* view) {
     // A question may have closed another view.
     return view != &frmMain && view->Loaded && view->QueryUnload &&
            view->QueryUnload(CloseReason::Code);
   });
+  if (refused) return true;
+  const std::vector<View*> all = AllViews();
+  return std::any_of(all.begin(), all.end(),
+                     [](View* view) { return view->QueryEnd && view->QueryEnd(); });
 }
 
 bool ChooseOnline() {

@@ -66,8 +66,10 @@ bool ReadFileToStage(const std::string& path) {
   return false;
 }
 
-void TakeStage() {
+/// `saved`: what comes in is all there is, and stands in a file or the controller.
+void TakeStage(bool saved) {
   GrpStageCommit();
+  if (saved) GrpSaved = GrpTable;
   GrpShow();
 }
 
@@ -84,13 +86,15 @@ void ReadGroups() {
   const TransferScope transfer;
   StoreShownGroups();
   if (!AskOk(835) || !ConnectOrOpenPort()) return;
-  if (ReadToStage() == Outcome::Done) TakeStage();
+  if (ReadToStage() == Outcome::Done) TakeStage(true);
 }
 
 void WriteGroups() {
   const TransferScope transfer;
   if (!GroupsMayTravel() || !AskYes(839) || !ConnectOrOpenPort()) return;
-  if (WriteHeld(WriteGrpToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
+  if (WriteHeld(WriteGrpToCt) != Outcome::Done) return;
+  GrpSaved = GrpTable;
+  TellInStatusPanel(Text(kMsgWritten));
 }
 
 void VerifyGroupsToCt() {
@@ -112,7 +116,7 @@ void OpenGroupFile() {
   const BusyScope busy;
   StoreShownGroups();
   const auto path = AskOpenPath(kGrpFileToOpen, 827);
-  if (path && !path->empty() && ReadFileToStage(*path)) TakeStage();
+  if (path && !path->empty() && ReadFileToStage(*path)) TakeStage(!GrpFlags.GrpFileRefused);
 }
 
 void SaveGroupFile() {
@@ -126,6 +130,7 @@ void SaveGroupFile() {
     MsgBox(WithReason(Text(18), GrpFlags.GrpFileFaultText));
     return;
   }
+  GrpSaved = GrpTable;
   TellInStatusPanel(Text(kMsgSaved, *path));
 }
 

@@ -29,11 +29,11 @@ void LoadGroups() {
   GrpShow();
 }
 
-void ForgetGroups() { groups_aside.Keep(GrpTable); }
+void ForgetGroups() { groups_aside.Keep(GrpTable, GrpTable == GrpSaved); }
 
 void BringBack() {
   StoreShownGroups();
-  groups_aside.BringBack(GrpTable);
+  groups_aside.BringBack(GrpTable, GrpSaved);
   groups_aside.Offer(frmGrp.cmdGrpRestore);
   GrpShow();
 }
@@ -58,6 +58,12 @@ bool RefusesToClose(CloseReason) {
   return AppState.CommandsOffDepth > 0;
 }
 
+bool RefusesToEnd() {
+  StoreShownGroups();
+  const bool unsaved = frmGrp.Loaded && GrpTable != GrpTableRecord{} && GrpTable != GrpSaved;
+  return groups_aside.RefusesToEnd(unsaved, frmGrp.Tag);
+}
+
 void InstallButtons() {
   FrmGrp& f = frmGrp;
   f.cmdReadGrp.Click = ReadGroups;
@@ -77,6 +83,7 @@ void InstallGrpView() {
   groups_aside = {};
   f.Load = LoadGroups;
   f.QueryUnload = RefusesToClose;
+  f.QueryEnd = RefusesToEnd;
   f.Unload = ForgetGroups;
   f.Activate = f.LayoutChanged = GrpShow;
   f.CmdMuko = [] { SwitchControls(frmGrp, false); };

@@ -7,6 +7,7 @@
 
 #include "forms/control.h"
 #include "platform/doors.h"
+#include "state/message_box.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -17,22 +18,33 @@ template <typename Table>
 class KeptAside {
  public:
   /// Keeps the table, unless nothing was ever put into it. The oldest of many goes.
-  void Keep(const Table& table) {
+  /// `saved`: a file or the controller holds it too.
+  void Keep(const Table& table, bool saved) {
     if (table == Table{}) return;
     std::erase_if(kept_, [&](const Kept& kept) { return kept.table == table; });
-    kept_.push_front({table, doors.pump->TimeOfDay()});
+    kept_.push_front({table, saved, doors.pump->TimeOfDay()});
     if (kept_.size() > kMost) kept_.pop_back();
   }
 
   /// The newest one comes back, and what stood in its place is kept behind the others: pressing on
-  /// goes round.
-  void BringBack(Table& table) {
+  /// goes round. `saved` is the table that a file or the controller holds too.
+  void BringBack(Table& table, Table& saved) {
     if (kept_.empty()) return;
-    const Table brought = kept_.front().table;
+    const Kept brought = kept_.front();
     kept_.pop_front();
-    Keep(table);
+    Keep(table, table == saved);
     if (table != Table{}) std::rotate(kept_.begin(), kept_.begin() + 1, kept_.end());
-    table = brought;
+    table = brought.table;
+    if (brought.saved) saved = table;
+  }
+
+  /// The end of the tool loses what is `unsaved` in the open view of this name, and what is kept
+  /// and stands nowhere else: true when the user, asked about either, would rather stay.
+  bool RefusesToEnd(bool unsaved, MsgId name) const {
+    constexpr int kMsgLost = 6491;
+    for (const Kept& kept : kept_) unsaved = unsaved || !kept.saved;
+    return unsaved && MsgBox(Text(kMsgLost, Text(name)), MsgButtons::OkCancel, MsgIcon::Question) !=
+                          MsgAnswer::Ok;
   }
 
   /// Shows the button that brings it back, with its time, while there is something to bring.
@@ -46,6 +58,7 @@ class KeptAside {
   static constexpr std::size_t kMost = 8;
   struct Kept {
     Table table;
+    bool saved;
     std::string time;
   };
   std::deque<Kept> kept_;

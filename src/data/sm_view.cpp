@@ -71,12 +71,17 @@ void LoadMacros() {
   SmShow();
 }
 
-void ForgetMacros() { macros_aside.Keep(SmTable); }
+void ForgetMacros() { macros_aside.Keep(SmTable, SmTable == SmSaved); }
 
 void BringBack() {
-  macros_aside.BringBack(SmTable);
+  macros_aside.BringBack(SmTable, SmSaved);
   macros_aside.Offer(frmSqMcr.cmdSmRestore);
   SmShow();
+}
+
+bool RefusesToEnd() {
+  const bool unsaved = frmSqMcr.Loaded && SmTable != SmTableRecord{} && SmTable != SmSaved;
+  return macros_aside.RefusesToEnd(unsaved, frmSqMcr.Tag);
 }
 
 void SwitchCommands(bool on) {
@@ -103,6 +108,7 @@ void InstallSmView() {
   macros_aside = {};
   f.Load = LoadMacros;
   f.QueryUnload = [](CloseReason) { return AppState.CommandsOffDepth > 0; };
+  f.QueryEnd = RefusesToEnd;
   f.Unload = ForgetMacros;
   f.CmdMuko = [] { SwitchCommands(false); };
   f.CmdYuko = [] { SwitchCommands(true); };

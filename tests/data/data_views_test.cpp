@@ -196,6 +196,21 @@ TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
   EXPECT_EQ(kind.held(), kind.other) << "what it took the place of comes back";
 }
 
+TEST_P(DataViewsTest, TheEndAsksAboutWhatStandsNowhereElse) {
+  kind.edit(kind.good);
+  CloseView(kind.view, CloseReason::Code);
+  for (const bool saved : {false, true}) {
+    kind.menu.Press();
+    if (saved) kind.restore.Press();
+    if (saved) PressWithFile(kind.save, kind.file);
+    if (!saved) forms.answers = {MsgAnswer::Cancel};
+    frmMain.mnuFileExit.Press();
+    EXPECT_EQ(BoxShown("neither saved nor written"), !saved);
+    EXPECT_EQ(forms.ended, saved);
+    Forget();
+  }
+}
+
 TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
   kind.edit(kind.good);
   struct {
