@@ -22,6 +22,7 @@ struct CtDeviceRecord {
   int MaxPulse = 0;   ///< stroke in pulses
   int Type = 0;
   int PgCode = 0;  ///< 0 none, 1 or 2 fitted
+  bool operator==(const CtDeviceRecord&) const = default;
 };
 
 extern AxisArray<CtDeviceRecord> CtDev;

@@ -15,6 +15,7 @@
 #include "para/para_sp.h"
 #include "para/para_typing.h"
 #include "para/stroke_calc.h"
+#include "session/followers.h"
 #include "state/app_state.h"
 #include "state/views.h"
 
@@ -108,6 +109,7 @@ void InstallParaView() {
   InstallParaTyping();
   InstallParaSp();
   InstallActuatorLists();
+  Followers.AnotherController = ForgetWhatCtHeld;
   InstallParaMarks();  // behind what the fields do by themselves
   f.Commands.Open = OpenParameters;
   frmMain.mnuViewPara.Click = [] { ShowOrBringToFront(frmParameta2); };

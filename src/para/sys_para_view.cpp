@@ -79,7 +79,8 @@ void LoadFields() {
   for (std::size_t index = 0; index < frmSystemPara.Fields.size(); ++index) {
     frmSystemPara.Fields[index].lblSystemPara.Caption = std::to_string(index + 1);
   }
-  if (SysParaKnown) return SysParaHyoji();
+  // Offline the controller may have been changed since it was read.
+  if (SysParaKnown && !AppState.Offline) return SysParaHyoji();
   for (SysParaField& field : frmSystemPara.Fields) field.txtSystemPara.Text.clear();
 }
 
