@@ -31,7 +31,6 @@ namespace tr7 {
 namespace {
 
 constexpr const char* kHelpFile = "qvtr7hlp.chm";
-constexpr int kMsgBusy = 5941;
 
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
@@ -85,9 +84,7 @@ bool QueryUnloadFrame(CloseReason reason) {
     return true;
   }
   if (reason == CloseReason::ControlMenu && AppState.ComBusy) {
-    // In words that stop nothing: the transfer goes on. An alarm stays readable.
-    if (!AppState.AlarmOn) frmMain.sbStatusBar.Panels[kPanelError] = Text(kMsgBusy);
-    doors.forms->Beep();
+    TellFlowRuns();  // in words that stop nothing: the transfer goes on
     return true;
   }
   // The views inside the frame are asked here too, while all of them can still stay: later on

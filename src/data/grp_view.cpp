@@ -7,7 +7,7 @@
 #include "forms/frm_grp.h"
 #include "forms/frm_main.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -55,7 +55,7 @@ void InstallRow(std::size_t row) {
 
 bool RefusesToClose(CloseReason) {
   StoreShownGroups();
-  return AppState.CommandsOffDepth > 0;
+  return FlowKeepsViewsOpen();
 }
 
 bool RefusesToEnd() {

@@ -10,7 +10,7 @@
 #include "forms/frm_main.h"
 #include "forms/frm_sq_mcr.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -107,7 +107,7 @@ void InstallSmView() {
   FrmSqMcr& f = frmSqMcr;
   macros_aside = {};
   f.Load = LoadMacros;
-  f.QueryUnload = [](CloseReason) { return AppState.CommandsOffDepth > 0; };
+  f.QueryUnload = [](CloseReason) { return FlowKeepsViewsOpen(); };
   f.QueryEnd = RefusesToEnd;
   f.Unload = ForgetMacros;
   f.CmdMuko = [] { SwitchCommands(false); };

@@ -17,6 +17,7 @@
 #include "para/stroke_calc.h"
 #include "session/followers.h"
 #include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -71,7 +72,7 @@ void UnloadParaView() {
 }
 
 bool QueryUnloadView(CloseReason) {
-  return frmParameta2.CommandsAreOff || !MayDropParaChanges(kMsgSaveBeforeClose);
+  return FlowKeepsViewsOpen() || !MayDropParaChanges(kMsgSaveBeforeClose);
 }
 
 void OpenParameters() {

@@ -132,8 +132,20 @@ TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   Press(kind.read, {MsgAnswer::Cancel});
   EXPECT_EQ(kind.held(), kind.other);
+  if (GetParam() == 0) {
+    pump.After(1'000'000, [] { frmMain.cmdComCancel.Press(); });
+    Press(kind.read, {MsgAnswer::Ok});
+    EXPECT_EQ(Boxes().back(), Text(425));
+    EXPECT_EQ(kind.held(), kind.other);
+  }
+  std::string refusal;
+  pump.After(100'000, [&] {
+    EXPECT_FALSE(CloseView(kind.view, CloseReason::ControlMenu));
+    refusal = frmMain.sbStatusBar.Panels[kPanelError];
+  });
   Press(kind.read, {MsgAnswer::Ok});
   EXPECT_EQ(kind.held(), kind.good);
+  EXPECT_EQ(refusal, Text(5941));
 }
 
 TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {

@@ -8,6 +8,7 @@
 #include "para/para_fields.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
+#include "state/busy_scope.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -256,7 +257,7 @@ TEST_F(ParaView, OpeningAFileOffersToSave) {
 }
 
 TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
-  AllViewsCmdMuko();
+  std::optional<CommandsOff> flow(std::in_place);
   for (Control* control : f.Controls) {
     const bool can_act = dynamic_cast<CommandButton*>(control) || dynamic_cast<TextBox*>(control) ||
                          dynamic_cast<ComboBox*>(control) || dynamic_cast<CheckBox*>(control);
@@ -264,7 +265,7 @@ TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
   }
   EXPECT_FALSE(CloseView(f, CloseReason::ControlMenu));
   AppState.AxisMuko = MukoOfMask(3);
-  AllViewsCmdYuko();
+  flow.reset();
   EXPECT_EQ(f.txtHomePush[2].Text, "");
   EXPECT_FALSE(ParaIsChanged()) << "nobody typed it";
   AppState.AxisMuko = MukoOfMask(7);
