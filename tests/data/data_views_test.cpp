@@ -343,7 +343,32 @@ TEST_F(SysParaViewTest, AreReadMarkedRefusedAndWritten) {
     Forget();
   }
   EXPECT_EQ(port.Ct().CommittedSystemBlock(2).substr(0, 2), "FF");
+  slot17.Type("0255");
   EXPECT_EQ(slot17.Difference, "");
+  for (const auto& [refused, box] : {std::pair{"0RA", Text(377)},
+                                     {"0CM01", Text(377)},
+                                     {"0WK3", Text(1528)},
+                                     {"0CM00000", Text(1527)}}) {
+    Spoil(FaultKind::kErrorReply, refused);
+    forms.answers = {MsgAnswer::Yes};
+    f.cmdWritetoCt.Press();
+    EXPECT_EQ(Boxes().back(), box) << refused;
+    frmMain.cmdReset.Press();
+  }
+  for (const bool another : {false, true}) {
+    CloseView(f, CloseReason::Code);
+    GoOffline();
+    frmMain.mnuViewSysPara.Press();
+    EXPECT_EQ(slot17.Text, "") << "offline nobody knows what the controller holds";
+    CloseView(f, CloseReason::Code);
+    if (another) AppState.CtVersionText = "000";  // of the one before
+    frmMain.mnuSettingOnline.Press();
+    frmMain.mnuViewSysPara.Press();
+    EXPECT_EQ(slot17.Text.empty(), another);
+  }
+  slot17.Type("7");
+  forms.answers = {MsgAnswer::Cancel};
+  EXPECT_FALSE(CloseView(f, CloseReason::Code)) << "it is in no controller";
 }
 
 }  // namespace
