@@ -1,6 +1,5 @@
 #include "para/para_view.h"
 
-#include "device/dev_setting.h"
 #include "device/device_list.h"
 #include "forms/frm_main.h"
 #include "para/para_actuator.h"
@@ -30,7 +29,7 @@ constexpr int kMsgSaveBeforeOpen = 6450;
 void ReadDeviceLists() {
   for (const int axis : AxisList(LiveAxisMask())) {
     if (DeviceList[axis].RowCount > 0) continue;
-    const bool is_new = DevSetting[axis].NotChosen || DevSetting[axis].NewType;
+    const bool is_new = CatalogueOf(axis) == DeviceListKind::New;
     if ((is_new ? ReadDeviceListNewAxis(axis) : ReadDeviceListOldAxis(axis)) != 0) return;
   }
 }

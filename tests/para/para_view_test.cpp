@@ -1,6 +1,7 @@
 #include <deque>
 
 #include "base/text_helpers.h"
+#include "device/device_list.h"
 #include "forms/frm_main.h"
 #include "para/para_after_device.h"
 #include "para/para_columns.h"
@@ -278,10 +279,14 @@ TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
 TEST_F(ParaView, WithoutParametersTheFieldsAreEmpty) {
   CloseView(f, CloseReason::Code);
   ParamSet = ParamSetRecord{};
+  DeviceList.fill({});
+  AppState.AxisMuko[3] = True;
   frmMain.mnuViewPara.Click();
   EXPECT_EQ(f.txtHomeOffset[0].Text + f.txtSmTimeoutTimer.Text, "");
   EXPECT_EQ(f.optPosPrg.Chosen(), -1);
-  EXPECT_GT(f.comboActSize[0].List.size(), 3u);
+  AppState.AxisMuko[3] = False;
+  AllViewsCmdYuko();
+  for (const int axis : {0, 3}) EXPECT_GT(f.comboActSize[axis].List.size(), 3u) << axis;
   EXPECT_TRUE(f.txtHomeOffset[0].Enabled);
 }
 
