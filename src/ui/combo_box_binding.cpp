@@ -1,5 +1,6 @@
 #include "ui/combo_box_binding.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
 

@@ -306,6 +306,9 @@ TEST_F(GrpViewTest, AMacroStepByItsCommand) {
   f.Rows[15].comboMerei.Pick(2);
   f.Rows[15].txtSmData.GotFocus();
   EXPECT_EQ(SmTable[2][15], (SmStep{2, 1})) << "a value out of range becomes 1";
+  for (const int past_the_end : {1, 0, 2}) f.Rows[15].comboMerei.Pick(past_the_end);
+  f.Rows[15].comboMerei.LostFocus();
+  EXPECT_EQ(SmTable[2][15], (SmStep{2, 1})) << "only the command that is left counts";
   f.Rows[15].txtSmData.Type("5");
   EXPECT_NE(SmTable[2][15].Value, 5) << "IN-OFF takes 1 to 4";
   f.Rows[15].txtSmData.Enter();
