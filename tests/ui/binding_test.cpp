@@ -4,9 +4,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabBar>
@@ -22,6 +25,7 @@
 #include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/lamp.h"
+#include "ui/message_dialog.h"
 
 namespace tr7 {
 namespace {
@@ -162,6 +166,20 @@ TEST_F(BindingTest, TheWheelChoosesNothingAndScrollsWhatIsAround) {
   }
   EXPECT_EQ(record.ListIndex, 0);
   EXPECT_EQ(frmSqMcr.UpDownSmNo.Value, 2);
+}
+
+TEST_F(BindingTest, ABoxWithALongListFitsTheScreen) {
+  std::string numbers;
+  for (int n = 1; n <= 300; ++n) numbers += std::to_string(n) + ",";
+  MessageBoxCall call;
+  call.Text = numbers;
+  AskMessage(call, nullptr, [](const std::function<bool()>&) {
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+      if (!qobject_cast<QMessageBox*>(top)) continue;
+      EXPECT_LE(top->width(), top->screen()->availableSize().width());
+      EXPECT_TRUE(top->findChild<QPlainTextEdit*>());
+    }
+  });
 }
 
 TEST_F(BindingTest, ATabStripGoesBothWaysAndKeepsOffTabsThatAreOff) {
