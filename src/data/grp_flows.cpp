@@ -56,12 +56,14 @@ Outcome ReadToStage() {
   return outcome;
 }
 
-/// Reads into the stage, which holds the table before: what a file leaves out, and a file of
-/// another kind, bring no foreign numbers in.
+/// Reads into the stage, where groups that the file leaves out keep what was read before. A file of
+/// another kind leaves the table in it, so that nothing foreign comes in.
 bool ReadFileToStage(const std::string& path) {
   const auto read = [&] { return GrpFileRead(path) == 0 ? Attempt::Good : Attempt::MayPass; };
-  GrpStageFromTable();
-  if (TryFourTimes(read)) return true;
+  if (TryFourTimes(read)) {
+    if (GrpFlags.GrpFileRefused) GrpStageFromTable();
+    return true;
+  }
   MsgBox(WithReason(Text(484), GrpFlags.GrpFileFaultText));
   return false;
 }

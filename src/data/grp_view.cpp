@@ -85,9 +85,14 @@ void InstallGrpView() {
   f.QueryUnload = RefusesToClose;
   f.QueryEnd = RefusesToEnd;
   f.Unload = ForgetGroups;
-  f.Activate = f.LayoutChanged = GrpShow;
+  // What the groups cover may be other positions now. In program mode an open view stays: only the
+  // menu goes, the data is the user's.
+  f.Activate = f.LayoutChanged = StoreShownGroups;
   f.CmdMuko = [] { SwitchControls(frmGrp, false); };
-  f.CmdYuko = [] { SwitchControls(frmGrp, true); };
+  f.CmdYuko = [] {
+    SwitchControls(frmGrp, true);
+    StoreShownGroups();
+  };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
   InstallButtons();

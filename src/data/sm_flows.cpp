@@ -39,10 +39,9 @@ Outcome ReadToStage() {
   return ReadSmFromCt();
 }
 
-/// The stage holds the table before: what a file leaves out brings no foreign steps in.
+/// Reads into the stage, where macros that the file leaves out keep what was read before.
 bool ReadFileToStage(const std::string& path) {
   const auto read = [&] { return OpenSMFile(path) == 0 ? Attempt::Good : Attempt::MayPass; };
-  SmStageFromTable();
   {
     const WaitCursorScope wait_cursor;
     if (TryFourTimes(read)) return true;

@@ -1,6 +1,7 @@
 // The views of groups, macros and system parameters: from a click to the bytes in the controller
 // or the file, the boxes, and the table that is left.
 
+#include "data/grp_show.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
 #include "forms/frm_grp.h"
@@ -290,12 +291,18 @@ TEST_F(GrpViewTest, FilesOfOlderProductsAndOfOtherKinds) {
   forms.file_answers = {"/old.grp"};
   frmGrp.cmdGrpFileOpen.Press();
   EXPECT_EQ(GrpTable.GrpEnd[7], 9);
+  GrpTable.GrpEnd[7] = 8;
+  GrpShow();
   virt.files.Put("/p.pmt", "\"QV-R7\",\"PRM\"\r\n5\r\n");
   forms.file_answers = {"/p.pmt"};
   frmGrp.cmdGrpFileOpen.Press();
-  EXPECT_EQ(GrpTable.GrpEnd[7], 9);
+  EXPECT_EQ(GrpTable.GrpEnd[7], 8);
   ASSERT_EQ(forms.boxes.size(), 1u);
   EXPECT_TRUE(BoxShown("Not GRP Data file for QV-TR7.\nOpening file is canceled."));
+  forms.file_answers = {"/old.grp"};
+  GrpStage.GrpEnd[8] = 11;  // as read before
+  frmGrp.cmdGrpFileOpen.Press();
+  EXPECT_EQ(GrpTable.GrpEnd[8], 11) << "a file of one group changes that one in the stage";
 }
 
 TEST_F(GrpViewTest, AMacroStepByItsCommand) {
