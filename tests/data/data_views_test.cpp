@@ -42,11 +42,7 @@ void ChooseAndTypeStep(int value) {
   SmRow& row = frmSqMcr.Rows[0];
   row.comboMerei.Pick(5);
   row.txtSmData.GotFocus();
-  if (value == 0) {
-    row.txtSmData.Type("");  // an emptied value counts as 0
-  } else {
-    row.txtSmData.Type(std::to_string(value));
-  }
+  row.txtSmData.Type(value == 0 ? "" : std::to_string(value));  // an emptied value counts as 0
 }
 
 std::vector<Kind> Kinds() {
@@ -163,6 +159,10 @@ TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
   PressWithFile(kind.save, "/again");
   EXPECT_EQ(virt.files.Content("/again"), saved);
+  virt.files.read_only = true;
+  PressWithFile(kind.save, "/again");
+  EXPECT_TRUE(BoxShown(GetParam() == 0 ? "An error occured while saving Group Data."
+                                       : "An error occured while saving SM Data."));
 }
 
 TEST_P(DataViewsTest, BadDataGoNowhere) {
@@ -201,12 +201,10 @@ TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
   kind.edit(kind.other);
   CloseView(kind.view, CloseReason::Code);  // with the offer not taken
   kind.menu.Press();
-  kind.restore.Press();
-  EXPECT_EQ(kind.held(), kind.other);
-  kind.restore.Press();
-  EXPECT_EQ(kind.held(), kind.good) << "the one from before is still there";
-  kind.restore.Press();
-  EXPECT_EQ(kind.held(), kind.other) << "what it took the place of comes back";
+  for (const int held : {kind.other, kind.good, kind.other}) {  // it changes places
+    kind.restore.Press();
+    EXPECT_EQ(kind.held(), held);
+  }
 }
 
 TEST_P(DataViewsTest, TheEndAsksAboutWhatStandsNowhereElse) {
@@ -232,10 +230,19 @@ TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
     const char* box;
   } const rows[] = {{FaultKind::kErrorReply, "0RA", "Communication Error occured."},
                     {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0W", "The writing was not completed."}};
+                    {FaultKind::kErrorReply, "0W", "The writing was not completed."},
+                    {FaultKind::kDeaf, "0RA", "Communication Error occured."}};
+  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
+  port.Ct().Receive("0MP000F\r\n", pump.NowUs());  // somebody sends the machine home
+  pump.RunFor(100'000);
+  port.ReadAll();
+  Press(kind.write, {MsgAnswer::Yes});
+  EXPECT_TRUE(BoxShown("The writing of data is not made during movement."));
+  EXPECT_EQ(SentLines(5).find("0CM01"), std::string::npos);
+  pump.RunFor(10'000'000);
   for (const auto& row : rows) {
     SCOPED_TRACE(row.at);
-    Spoil(row.fault, row.at);
+    Spoil(row.fault, row.at, row.fault == FaultKind::kDeaf ? 0 : 1);
     Press(kind.write, {MsgAnswer::Yes});
     EXPECT_TRUE(BoxShown(row.box));
     EXPECT_EQ(SentLines(4).find("0WE"), std::string::npos);
