@@ -15,6 +15,8 @@ namespace {
 
 using qvr7sim::FaultKind;
 
+constexpr int kGood = 7, kOther = 8, kBad = 0;  ///< values for the first place
+
 /// One of the two kinds that have a file, as the user meets it.
 struct Kind {
   const char* name;
@@ -25,7 +27,6 @@ struct Kind {
   const char* head;
   std::function<void(int value)> edit;  ///< types a value into the first place and leaves it
   std::function<int()> held;            ///< what the table holds there
-  int good, other, bad;
   const char* bad_to_send;
   const char* bad_to_compare;
   const char* differs;
@@ -45,54 +46,28 @@ void ChooseAndTypeStep(int value) {
   row.txtSmData.Type(value == 0 ? "" : std::to_string(value));  // an emptied value counts as 0
 }
 
+constexpr const char* kBadMacros =
+    "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
+    "SM No. in which the invalid value was found is as follows.\n\n<1>,";
+
 std::vector<Kind> Kinds() {
   FrmGrp& g = frmGrp;
   FrmSqMcr& s = frmSqMcr;
   return {
-      {"groups",
-       g,
-       frmMain.mnuViewGrp,
-       g.cmdReadGrp,
-       g.cmdWriteGrp,
-       g.cmdGrpCtVerify,
-       g.cmdGrpFileOpen,
-       g.cmdGrpFileSave,
-       g.cmdGrpFileVerify,
-       g.cmdGrpRestore,
-       "/a.grp",
-       "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n\"2\",1,1\r\n",
-       TypeGroupEnd,
+      {"groups", g, frmMain.mnuViewGrp, g.cmdReadGrp, g.cmdWriteGrp, g.cmdGrpCtVerify,
+       g.cmdGrpFileOpen, g.cmdGrpFileSave, g.cmdGrpFileVerify, g.cmdGrpRestore, "/a.grp",
+       "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,7\r\n\"2\",1,1\r\n", TypeGroupEnd,
        [] { return int{GrpTable.GrpEnd[1]}; },
-       15,
-       16,
-       0,
        "Invalid value in some of group data.\nConfirm the following item ant try it again.\n"
        " 1.Is the value setting the range of 1 to 999?\n"
        " 2.Isn't value of start position larger than one of end position.",
        "Invalid value in some of group data.\nConfirm the value and try it again.",
        "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.",
        "An error occured in Reading file."},
-      {"macros",
-       s,
-       frmMain.mnuViewSM,
-       s.cmdReadSMfromCt,
-       s.cmdWriteSMtoCt,
-       s.cmdSmCTShogo,
-       s.cmdSmFileOpen,
-       s.cmdSmFileSave,
-       s.cmdSmFileShogo,
-       s.cmdSmRestore,
-       "/a.smd",
-       "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n",
-       ChooseAndTypeStep,
-       [] { return int{SmTable[0][0].Value}; },
-       7,
-       8,
-       0,
-       "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
-       "SM No. in which the invalid value was found is as follows.\n\n<1>,",
-       "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
-       "SM No. in which the invalid value was found is as follows.\n\n<1>,",
+      {"macros", s, frmMain.mnuViewSM, s.cmdReadSMfromCt, s.cmdWriteSMtoCt, s.cmdSmCTShogo,
+       s.cmdSmFileOpen, s.cmdSmFileSave, s.cmdSmFileShogo, s.cmdSmRestore, "/a.smd",
+       "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n", ChooseAndTypeStep,
+       [] { return int{SmTable[0][0].Value}; }, kBadMacros, kBadMacros,
        "Result of Verify - NG\n<Unmatched items>\n1,SM No.",
        "An error occured while openig SM Data file."},
   };
@@ -118,22 +93,22 @@ class DataViewsTest : public FlowTest, public ::testing::WithParamInterface<std:
 };
 
 TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   Press(kind.write, {MsgAnswer::Yes});
   EXPECT_LT(SentLines(5).find("0CM01"), SentLines(5).rfind("0WE")) << "the axes are held";
   EXPECT_EQ(Boxes().size(), 1u) << "the question alone";
   Press(kind.verify_ct);
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
-  kind.edit(kind.other);
+  kind.edit(kOther);
   Press(kind.verify_ct);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   Press(kind.read, {MsgAnswer::Cancel});
-  EXPECT_EQ(kind.held(), kind.other);
+  EXPECT_EQ(kind.held(), kOther);
   if (GetParam() == 0) {
     pump.After(1'000'000, [] { frmMain.cmdComCancel.Press(); });
     Press(kind.read, {MsgAnswer::Ok});
     EXPECT_EQ(Boxes().back(), Text(425));
-    EXPECT_EQ(kind.held(), kind.other);
+    EXPECT_EQ(kind.held(), kOther);
   }
   std::string refusal;
   pump.After(100'000, [&] {
@@ -141,20 +116,20 @@ TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
     refusal = frmMain.sbStatusBar.Panels[kPanelError];
   });
   Press(kind.read, {MsgAnswer::Ok});
-  EXPECT_EQ(kind.held(), kind.good);
+  EXPECT_EQ(kind.held(), kGood);
   EXPECT_EQ(refusal, Text(5941));
 }
 
 TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   PressWithFile(kind.save, kind.file);
   const std::string saved = virt.files.Content(kind.file).value();
   EXPECT_TRUE(saved.starts_with(kind.head)) << saved.substr(0, 60);
-  kind.edit(kind.other);
+  kind.edit(kOther);
   PressWithFile(kind.verify_file, kind.file);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   PressWithFile(kind.open, kind.file);
-  EXPECT_EQ(kind.held(), kind.good);
+  EXPECT_EQ(kind.held(), kGood);
   PressWithFile(kind.verify_file, kind.file);
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
   PressWithFile(kind.save, "/again");
@@ -166,7 +141,7 @@ TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
 }
 
 TEST_P(DataViewsTest, BadDataGoNowhere) {
-  kind.edit(kind.bad);
+  kind.edit(kBad);
   for (CommandButton* button : {&kind.verify_ct, &kind.verify_file, &kind.save, &kind.write}) {
     button->Press();
     EXPECT_EQ(Boxes(), Texts{button == &kind.write ? kind.bad_to_send : kind.bad_to_compare});
@@ -175,7 +150,7 @@ TEST_P(DataViewsTest, BadDataGoNowhere) {
 }
 
 TEST_P(DataViewsTest, AFileThatCannotBeReadLeavesTheTable) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   const std::string head = std::string(kind.head).substr(0, std::string(kind.head).find('\n') + 1);
   const std::string body = head + (GetParam() == 0 ? "99,3\r\n" : "16,2,20\r\n");
   for (const std::string& content : {head + "x", body + "\"0\",1,2", body + "\"100\",1,2",
@@ -187,28 +162,28 @@ TEST_P(DataViewsTest, AFileThatCannotBeReadLeavesTheTable) {
     EXPECT_EQ(pump.NowUs() - before, 300'000) << "four tries";
     EXPECT_TRUE(BoxShown(kind.not_read));
     Forget();
-    EXPECT_EQ(kind.held(), kind.good);
+    EXPECT_EQ(kind.held(), kGood);
   }
 }
 
 TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
   EXPECT_FALSE(kind.restore.Visible);
-  kind.edit(kind.good);
+  kind.edit(kGood);
   CloseView(kind.view, CloseReason::Code);
   kind.menu.Press();
-  EXPECT_NE(kind.held(), kind.good);
+  EXPECT_NE(kind.held(), kGood);
   EXPECT_EQ(kind.restore.Caption, "Bring back (12:00)");
-  kind.edit(kind.other);
+  kind.edit(kOther);
   CloseView(kind.view, CloseReason::Code);  // with the offer not taken
   kind.menu.Press();
-  for (const int held : {kind.other, kind.good, kind.other}) {  // it changes places
+  for (const int held : {kOther, kGood, kOther}) {  // it changes places
     kind.restore.Press();
     EXPECT_EQ(kind.held(), held);
   }
 }
 
 TEST_P(DataViewsTest, TheEndAsksAboutWhatStandsNowhereElse) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   CloseView(kind.view, CloseReason::Code);
   for (const bool saved : {false, true}) {
     kind.menu.Press();
@@ -223,7 +198,7 @@ TEST_P(DataViewsTest, TheEndAsksAboutWhatStandsNowhereElse) {
 }
 
 TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   struct {
     FaultKind fault;
     const char* at;
