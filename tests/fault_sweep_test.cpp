@@ -10,8 +10,11 @@
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
+#include "device/ct_device.h"
 #include "forms/frm_device.h"
 #include "forms/frm_parameta2.h"
+#include "link/port.h"
+#include "link/status_commands.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/sys_para.h"
@@ -20,6 +23,8 @@
 #include "posi/posi_table.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
+#include "state/online.h"
+#include "steps/transfer_scope.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -41,6 +46,11 @@ class Trial : public FlowTest {
   using FlowTest::Forget;
   using FlowTest::Spoil;
   void DieAt(int line) { port.writes_until_dead = line; }
+  void LetLineServe() {
+    port.Ct().ClearFaults();
+    port.writes_until_dead = -1;
+    port.open_fault = PortFault::None;
+  }
   void TakePort() { port.open_fault = PortFault::InUse; }
   qvr7sim::Controller& Ct() { return port.Ct(); }
   std::size_t BoxCount() const { return forms.boxes.size(); }
@@ -111,6 +121,18 @@ class Trial : public FlowTest {
     forms.answers = {MsgAnswer::Yes, MsgAnswer::Yes};
     frmParameta2.cmdParaWrite.Press();
   }
+  void AxesInView() {
+    ParaView();
+    AppState.AxisMuko[3] = True;
+    AllViewsCmdYuko();
+    forms.answers = {MsgAnswer::Yes};
+    frmParameta2.chkTokuParaChange.Set(true);
+    frmParameta2.comboOneAxis.Pick(2);
+  }
+  void WriteAxesAndPara() {
+    Choose({0});
+    WritePara();
+  }
   void VerifyPara() { frmParameta2.cmdConpareCT.Press(); }
   template <auto kTransfer>
   void Transfer() {
@@ -162,6 +184,16 @@ Fields Stages() {
   return fields;
 }
 
+/// The axes that the controller's block 0 holds for whoever reads it next.
+Fields AxesAsRead() {
+  const TransferScope transfer;
+  LiftOffline();
+  static_cast<void>(TusinPortOpen());
+  static_cast<void>(AlarmResetToCt());
+  const int result = ReadCtModeAndAxis();
+  return {std::to_string(result) + " " + std::to_string(AppState.AxisPatternOfCt)};
+}
+
 Fields ShownPositions() {
   Fields fields(1);
   for (int row = kPosiHeaderRows; row < frmPosi.flgdData.Rows(); ++row) {
@@ -210,6 +242,7 @@ constexpr SweptFlow kFlows[] = {
     {"read macros", &Trial::Nothing, &Trial::Transfer<ReadSmFromCt>, Stages, false},
     {"read tuning", &Trial::Nothing, &Trial::Transfer<ReadSysParaFromCt>, Stages, false},
     {"write parameters", &Trial::ParaView, &Trial::WritePara, MachineOfPc, false},
+    {"write axes", &Trial::AxesInView, &Trial::WriteAxesAndPara, AxesAsRead, false},
     {"write groups", &Trial::EditTables, &Trial::Transfer<WriteGrpToCt>, Stages, false},
     {"write macros", &Trial::EditTables, &Trial::Transfer<WriteSmToCt>, Stages, false},
     {"write tuning", &Trial::EditTables, &Trial::Transfer<WriteSysParaToCt>, Stages, false},
@@ -231,12 +264,13 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
   AfterFlow Try(const std::function<void(Trial&)>& spoil) {
     const auto run = std::make_unique<Trial>();
     (run.get()->*GetParam().prepare)();
-    run->Forget();
     before_ = {GetParam().look(), Committed(run->Ct())};
+    run->Forget();
     spoil(*run);
     (run.get()->*GetParam().flow)();
     sent_ = run->Lines();
     boxes_ = run->BoxCount();
+    run->LetLineServe();
     AfterFlow outcome{GetParam().look(), Committed(run->Ct())};
     run->End();
     return outcome;
@@ -244,7 +278,8 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
   void ExpectOneOrTheOther(const AfterFlow& now, const AfterFlow& good) {
     EXPECT_TRUE(now.ct == before_.ct || now.ct == good.ct) << "the controller keeps a half";
     for (std::size_t i = 0; i < now.pc.size(); ++i) {
-      EXPECT_TRUE(now.pc[i] == before_.pc[i] || now.pc[i] == good.pc[i]) << "half of field " << i;
+      EXPECT_TRUE(now.pc[i] == before_.pc[i] || now.pc[i] == good.pc[i])
+          << "half of field " << i << ": " << now.pc[i].substr(0, 60);
     }
     EXPECT_TRUE(GetParam().in_steps || now.pc == before_.pc || now.pc == good.pc) << "half taken";
     EXPECT_TRUE(now == good || boxes_ > 0) << "nobody is told";

@@ -47,9 +47,9 @@ void ResetState() {
   CommonTable = CommonTableRecord{};
   SysPara = SysParaRead = SysParaRecord{};
   SysParaKnown = False;
-  GrpTable = GrpStage = GrpTableRecord{};
+  GrpTable = GrpStage = GrpSaved = GrpTableRecord{};
   GrpFlags = GrpFlagsRecord{};
-  SmTable = SmStage = SmTableRecord{};
+  SmTable = SmStage = SmSaved = SmTableRecord{};
   SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
   RenewViews();

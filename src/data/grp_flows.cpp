@@ -56,18 +56,22 @@ Outcome ReadToStage() {
   return outcome;
 }
 
-/// Reads into the stage, which holds the table before: what a file leaves out, and a file of
-/// another kind, bring no foreign numbers in.
+/// Reads into the stage, where groups that the file leaves out keep what was read before. A file of
+/// another kind leaves the table in it, so that nothing foreign comes in.
 bool ReadFileToStage(const std::string& path) {
   const auto read = [&] { return GrpFileRead(path) == 0 ? Attempt::Good : Attempt::MayPass; };
-  GrpStageFromTable();
-  if (TryFourTimes(read)) return true;
+  if (TryFourTimes(read)) {
+    if (GrpFlags.GrpFileRefused) GrpStageFromTable();
+    return true;
+  }
   MsgBox(WithReason(Text(484), GrpFlags.GrpFileFaultText));
   return false;
 }
 
-void TakeStage() {
+/// `saved`: what comes in is all there is, and stands in a file or the controller.
+void TakeStage(bool saved) {
   GrpStageCommit();
+  if (saved) GrpSaved = GrpTable;
   GrpShow();
 }
 
@@ -84,13 +88,15 @@ void ReadGroups() {
   const TransferScope transfer;
   StoreShownGroups();
   if (!AskOk(835) || !ConnectOrOpenPort()) return;
-  if (ReadToStage() == Outcome::Done) TakeStage();
+  if (ReadToStage() == Outcome::Done) TakeStage(true);
 }
 
 void WriteGroups() {
   const TransferScope transfer;
   if (!GroupsMayTravel() || !AskYes(839) || !ConnectOrOpenPort()) return;
-  if (WriteHeld(WriteGrpToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
+  if (WriteHeld(WriteGrpToCt) != Outcome::Done) return;
+  GrpSaved = GrpTable;
+  TellInStatusPanel(Text(kMsgWritten));
 }
 
 void VerifyGroupsToCt() {
@@ -112,7 +118,7 @@ void OpenGroupFile() {
   const BusyScope busy;
   StoreShownGroups();
   const auto path = AskOpenPath(kGrpFileToOpen, 827);
-  if (path && !path->empty() && ReadFileToStage(*path)) TakeStage();
+  if (path && !path->empty() && ReadFileToStage(*path)) TakeStage(!GrpFlags.GrpFileRefused);
 }
 
 void SaveGroupFile() {
@@ -126,6 +132,7 @@ void SaveGroupFile() {
     MsgBox(WithReason(Text(18), GrpFlags.GrpFileFaultText));
     return;
   }
+  GrpSaved = GrpTable;
   TellInStatusPanel(Text(kMsgSaved, *path));
 }
 

@@ -7,7 +7,7 @@
 #include "forms/frm_grp.h"
 #include "forms/frm_main.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -29,12 +29,11 @@ void LoadGroups() {
   GrpShow();
 }
 
-void ForgetGroups() {
-  if (GrpTable != GrpTableRecord{}) groups_aside.Keep(GrpTable);
-}
+void ForgetGroups() { groups_aside.Keep(GrpTable, GrpTable == GrpSaved); }
 
 void BringBack() {
-  if (const auto groups = groups_aside.Take()) GrpTable = *groups;
+  StoreShownGroups();
+  groups_aside.BringBack(GrpTable, GrpSaved);
   groups_aside.Offer(frmGrp.cmdGrpRestore);
   GrpShow();
 }
@@ -56,7 +55,13 @@ void InstallRow(std::size_t row) {
 
 bool RefusesToClose(CloseReason) {
   StoreShownGroups();
-  return AppState.CommandsOffDepth > 0;
+  return FlowKeepsViewsOpen();
+}
+
+bool RefusesToEnd() {
+  StoreShownGroups();
+  const bool unsaved = frmGrp.Loaded && GrpTable != GrpTableRecord{} && GrpTable != GrpSaved;
+  return groups_aside.RefusesToEnd(unsaved, frmGrp.Tag);
 }
 
 void InstallButtons() {
@@ -78,10 +83,16 @@ void InstallGrpView() {
   groups_aside = {};
   f.Load = LoadGroups;
   f.QueryUnload = RefusesToClose;
+  f.QueryEnd = RefusesToEnd;
   f.Unload = ForgetGroups;
-  f.Activate = f.LayoutChanged = GrpShow;
+  // What the groups cover may be other positions now. In program mode an open view stays: only the
+  // menu goes, the data is the user's.
+  f.Activate = f.LayoutChanged = StoreShownGroups;
   f.CmdMuko = [] { SwitchControls(frmGrp, false); };
-  f.CmdYuko = [] { SwitchControls(frmGrp, true); };
+  f.CmdYuko = [] {
+    SwitchControls(frmGrp, true);
+    StoreShownGroups();
+  };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
   InstallButtons();

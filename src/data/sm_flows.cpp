@@ -25,7 +25,9 @@ constexpr int kMsgSaved = 6508;
 
 /// False after the user has been told which macros are bad. The check may have put steps right.
 bool MacrosAreGood() {
+  const bool saved = SmTable == SmSaved;
   const int result = SmData_Check();
+  if (saved) SmSaved = SmTable;
   SmShow();
   if (result == 0) return true;
   MsgBox(Text(921) + "\n\n" + Text(922) + "\n\n" + Text(938) + "\n\n" + SmFlags.SmBadList);
@@ -37,10 +39,9 @@ Outcome ReadToStage() {
   return ReadSmFromCt();
 }
 
-/// The stage holds the table before: what a file leaves out brings no foreign steps in.
+/// Reads into the stage, where macros that the file leaves out keep what was read before.
 bool ReadFileToStage(const std::string& path) {
   const auto read = [&] { return OpenSMFile(path) == 0 ? Attempt::Good : Attempt::MayPass; };
-  SmStageFromTable();
   {
     const WaitCursorScope wait_cursor;
     if (TryFourTimes(read)) return true;
@@ -51,6 +52,7 @@ bool ReadFileToStage(const std::string& path) {
 
 void TakeStage() {
   SmStageCommit();
+  SmSaved = SmTable;
   SmShow();
 }
 
@@ -72,7 +74,9 @@ void ReadMacros() {
 void WriteMacros() {
   const TransferScope transfer;
   if (!MacrosAreGood() || !AskYes(937) || !ConnectOrOpenPort()) return;
-  if (WriteHeld(WriteSmToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
+  if (WriteHeld(WriteSmToCt) != Outcome::Done) return;
+  SmSaved = SmTable;
+  TellInStatusPanel(Text(kMsgWritten));
 }
 
 void VerifyMacrosToCt() {
@@ -107,6 +111,7 @@ void SaveMacroFile() {
     MsgBox(WithReason(Text(935), SmFlags.SmFileFaultText));
     return;
   }
+  SmSaved = SmTable;
   TellInStatusPanel(Text(kMsgSaved, *path));
 }
 

@@ -19,6 +19,7 @@ bool StepDiffers(const SmStep& held, const SmStep& staged) {
 
 SmTableRecord SmTable{};
 SmTableRecord SmStage{};
+SmTableRecord SmSaved{};
 SmFlagsRecord SmFlags;
 
 int SmHighestValue(int command) {

@@ -136,6 +136,7 @@ struct ComboBox : Control {
   std::string TypedText;      ///< stands while nothing is chosen
   Handler<void()> Click;
   Handler<void()> LostFocus;
+  Handler<void()> Enter;  ///< the Enter key
   void Clear();
   void AddItem(const std::string& text, int data);
   /// The chosen text, else the typed one, or empty.

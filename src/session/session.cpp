@@ -31,6 +31,14 @@ constexpr int kConnectSteps = 4;
 constexpr int kMsgPortLost = 5920;
 constexpr int kMsgGivenUp = 5970;
 
+/// What a connection tells one controller from another by.
+struct CtIdentity {
+  std::string version = AppState.CtVersionText, marker = AppState.CtModelMarker;
+  AxisArray<Bool16> muko = AppState.AxisMukoOfCt;
+  AxisArray<CtDeviceRecord> devices = CtDev;
+  bool operator==(const CtIdentity&) const = default;
+};
+
 /// The cancel button ends the sequence after the step that runs.
 bool GivenUp() { return AppState.CancelRequested; }
 
@@ -88,7 +96,10 @@ bool FirstConnectionSteps() {
 
 int fChangeToOnline() {
   if (TusinPortOpen() != 0) return 1;
-  if (ConnectSteps()) return 0;
+  const CtIdentity before;
+  const bool connected = ConnectSteps();
+  if (CtIdentity() != before) Followers.AnotherController();
+  if (connected) return 0;
   FailToOffline();
   return 1;
 }

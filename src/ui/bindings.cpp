@@ -26,6 +26,7 @@
 #include "ui/label_binding.h"
 #include "ui/lamp.h"
 #include "ui/text_box_binding.h"
+#include "ui/wheel_filter.h"
 
 namespace tr7 {
 
@@ -226,6 +227,7 @@ class UpDownBinding : public QObject, public WidgetBinding {
  public:
   UpDownBinding(UpDown& record, QSpinBox& box)
       : WidgetBinding(record, box), record_(record), box_(box) {
+    LetWheelPass(box);
     box.setRange(record.Min, record.Max);
     QObject::connect(&box, &QSpinBox::valueChanged, this, [this](int value) {
       if (value != record_.Value) record_.Set(value);

@@ -137,6 +137,12 @@ TEST_F(ParaFlows, AVerificationNamesWhatDiffers) {
   ASSERT_EQ(WriteParaFile(path), 0);
   EXPECT_EQ(Press(f.cmdConpareCT), Texts{Text(826)});
   EXPECT_EQ(Press(f.cmdConpareFile, {Ok}), (Texts{Text(679), Text(826)}));
+  UseAxes(7);  // the view has an axis more than those in use, which alone are read
+  forms.answers = {Ok};
+  f.comboOneAxis.Pick(3);
+  f.comboOneAxis.LostFocus();
+  EXPECT_EQ(Press(f.cmdConpareCT), Texts{Text(826)});
+  UseAxes(kAllAxes);
   for (const int axis : {0, 2}) Type(f.txtHomeOffset[axis], "123");
   Pick(f.comboActSize[0], " 42");
   f.comboPgFunc[3].Pick(1);
