@@ -38,6 +38,8 @@ struct Controller::Impl {
                      std::int64_t now_us);
   void Reply(const std::string& request, const std::string& reply, const std::vector<Fault>& struck,
              std::int64_t now_us);
+  void StrikeMachine(const std::vector<Fault>& struck, std::int64_t now_us);
+  void PowerCycle(std::int64_t now_us);
   void RaiseDue();
   void SendAlarm(const Alarm& alarm, std::int64_t now_us);
   std::optional<std::int64_t> NextInsideUs() const;
@@ -47,6 +49,7 @@ struct Controller::Impl {
   FaultPlan plan;
   std::vector<TimedAlarm> alarms;  // by time
   bool silent = false;
+  std::int64_t dark_until_us = 0;  // without power
   std::vector<std::string> requests;
 };
 
@@ -86,14 +89,28 @@ void Controller::Impl::Serve(const std::string& line_text, std::int64_t now_us) 
   const std::string request =
       end == std::string::npos ? std::string() : line_text.substr(0, end + 1);
   requests.push_back(request);
-  if (silent) return;
+  if (silent || now_us < dark_until_us) return;
   const std::vector<Fault> struck = plan.Strike(request);
-  if (Find(struck, FaultKind::kDeaf) != nullptr) return;
-  if (const Fault* alarm = Find(struck, FaultKind::kAlarm)) {
-    machine.Settle(now_us);
-    machine.Raise(alarm->error, now_us);
+  if (const Fault* off = Find(struck, FaultKind::kPowerCycle)) {
+    dark_until_us = now_us + off->time_us;
+    return PowerCycle(now_us);
   }
+  if (Find(struck, FaultKind::kDeaf) != nullptr) return;
+  StrikeMachine(struck, now_us);
   Reply(request, Answer(line_text, struck, now_us), struck, now_us);
+}
+
+void Controller::Impl::StrikeMachine(const std::vector<Fault>& struck, std::int64_t now_us) {
+  machine.Settle(now_us);
+  if (const Fault* alarm = Find(struck, FaultKind::kAlarm)) machine.Raise(alarm->error, now_us);
+  const Fault* start = Find(struck, FaultKind::kMoving);
+  if (start != nullptr && !machine.alarm) machine.MoveByInputs(start->time_us, now_us);
+}
+
+void Controller::Impl::PowerCycle(std::int64_t now_us) {
+  line.Drop();
+  machine.Settle(now_us);
+  machine.PowerCycle(now_us);
 }
 
 std::string Controller::Impl::Answer(const std::string& line_text, const std::vector<Fault>& struck,
@@ -151,8 +168,7 @@ void Controller::DropLine() { impl_->line.Drop(); }
 
 void Controller::PowerCycle(std::int64_t now_us) {
   impl_->Advance(now_us);
-  impl_->line.Drop();
-  impl_->machine.PowerCycle(now_us);
+  impl_->PowerCycle(now_us);
 }
 
 void Controller::SetFaults(const Faults& faults) {

@@ -1,5 +1,7 @@
 #include "sim/machine.h"
 
+#include <algorithm>
+
 #include "sim/error_codes.h"
 #include "sim/text.h"
 
@@ -68,6 +70,18 @@ void Machine::PowerCycle(std::int64_t now_us) {
   alarm.reset();
   pc_command = false;
   control_digits = "0000";
+}
+
+void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
+  constexpr double kRise = 0.1;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const double speed = PulseSpeed(axis, setup.jog_mm_s);
+    if (!InUse(axis) || control_digits[axis] != '0' || axes.Moving(axis) || speed <= 0.0) continue;
+    const int here = axes.Pulses(axis, now_us), end = memory.MaxPulses(axis);
+    const int way = static_cast<int>(speed * static_cast<double>(time_us) * 1e-6);
+    const int to = here < end / 2 ? std::min(end, here + way) : std::max(0, here - way);
+    axes.Move(axis, to, speed, kRise, now_us);
+  }
 }
 
 bool Machine::AnyMoving() const {

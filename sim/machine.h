@@ -23,6 +23,8 @@ struct Machine {
   void Settle(std::int64_t now_us);
   void Raise(const Alarm& raised, std::int64_t now_us);
   void PowerCycle(std::int64_t now_us);
+  /// The inputs start every axis in use that the PC does not hold; a move of about `time_us`.
+  void MoveByInputs(std::int64_t time_us, std::int64_t now_us);
   bool AnyMoving() const;
   bool InUse(int axis) const { return ((mask >> axis) & 1U) != 0; }
   /// Pulses a second of an axis at a speed in mm/s; 0 when its device block holds no scale.

@@ -247,15 +247,20 @@ std::string HelpText() {
                                   : "\n" + std::string(kColumn, ' ');
     text += left + std::string(option.help) + "\n";
   }
-  text += "\nA fault FAULT is a name, then settings separated by commas:\n  " + FaultNames() +
-          "\n"
-          "  p=0..1 chance for each request, n=COUNT the n-th request once (default n=1),\n"
-          "  prefix=TEXT only requests that begin so, ms=TIME for delay and split,\n"
-          "  byte=INDEX where it strikes (default at random), unit=C middle=C code=C the error.\n"
-          "  Example: --fault lost-byte,p=0.05,prefix=0RP --fault error-reply,n=3,unit=1,code=2\n"
-          "\nCommands on standard input, one a line, each answered by \"ok\" or \"error\":\n"
-          "  silence on|off, alarm UNIT CODE [line], power-cycle, fault FAULT, faults off,\n"
-          "  fail-homing AXIS, place AXIS PULSES, status, quit\n";
+  text +=
+      "\nA fault FAULT is a name, then settings separated by commas:\n  " + FaultNames() +
+      "\n"
+      "  p=0..1 chance for each request, n=COUNT the n-th request once (default n=1),\n"
+      "  prefix=TEXT only requests that begin so, ms=TIME for delay, split, moving, power-cycle,\n"
+      "  byte=INDEX where it strikes (default at random), unit=C middle=C code=C the error.\n"
+      "  Example: --fault lost-byte,p=0.05,prefix=0RP --fault error-reply,n=3,unit=1,code=2\n"
+      "  What a write may meet: moving,prefix=0RA,ms=3000 (the inputs start every axis that the\n"
+      "  PC does not hold), error-reply,prefix=0WE3 (groups are not stored; 0WA positions, 0WE2\n"
+      "  parameters, 0WE1 macros, 0WF tuning), power-cycle,prefix=0WE3,ms=1000 (the power fails\n"
+      "  before they are stored), --axes 2 and --mode prg (another machine than was expected).\n"
+      "\nCommands on standard input, one a line, each answered by \"ok\" or \"error\":\n"
+      "  silence on|off, alarm UNIT CODE [line], power-cycle, fault FAULT, faults off,\n"
+      "  fail-homing AXIS, place AXIS PULSES, status, quit\n";
   return text;
 }
 

@@ -111,6 +111,22 @@ TEST(Faults, CountAndPrefixChooseTheRequestAndAnAlarmStands) {
        "0RA>0%%134 0RV>0%%134 0AR>0AR 0RA>0RAF");
 }
 
+TEST(Faults, InputsMoveWhatIsNotHeldAndAPowerCycleLosesWhatIsNotStored) {
+  Fault moving = Once(FaultKind::kMoving, -1, "0RA");
+  Fault power = Once(FaultKind::kPowerCycle, -1, "0WE3");
+  moving.time_us = 1'500'000;
+  power.time_us = 500'000;
+  for (const std::string held : {"0000", "1011", "1111"}) {
+    Exchange pc;
+    pc.controller.AddFault(moving);
+    pc.controller.AddFault(power);
+    const std::string rest = held == "0000" ? "0" : held == "1011" ? "D" : "F";
+    Talk(pc, "0CM0" + held + ">0CM0" + held + " 0RA>0RA" + rest + " +2000 0RA>0RAF");
+    Talk(pc, "0WG01005006>0WG01 0WE3> 0RV>0RV140R4M 0RG01>0RG01001004 0WE3>0WE3");
+    EXPECT_EQ(pc.controller.ControlDigits(), "0000");
+  }
+}
+
 TEST(Faults, ATimedAlarmSpeaksUnasked) {
   Exchange pc;
   pc.controller.SetFaults({{}, {{90000, {'2', '0', '7'}, true}, {40000, {'1', '0', '5'}, false}}});
