@@ -25,7 +25,8 @@ void RunAnyFlow(Voyage& voyage) {
     return Run(voyage, random.Chance(60) ? TransferFlows()[0] : FileFlows()[0]);
   }
   std::vector<const Flow*> all;  // each as often as it weighs
-  for (const auto& some : {SessionFlows(), TransferFlows(), FileFlows(), EditFlows()}) {
+  for (const auto& some :
+       {SessionFlows(), TransferFlows(), FileFlows(), EditFlows(), KindFlows()}) {
     for (const Flow& flow : some)
       all.insert(all.end(), static_cast<std::size_t>(flow.weight), &flow);
   }
@@ -34,7 +35,7 @@ void RunAnyFlow(Voyage& voyage) {
 
 /// In the hands of a user who waits for nothing the tool comes to rest all the same.
 void Sail(Voyage& voyage) {
-  constexpr int kFlows = 6;
+  constexpr int kFlows = 8;
   const bool hasty = voyage.random.Chance(30);
   if (hasty) {
     SeatHastyHand(voyage);
