@@ -41,9 +41,17 @@ Outcome ReadBlock(int block, std::string& data) {
   return outcome;
 }
 
+/// A block in the user's words: whose it is.
+std::string BlockName(int block) {
+  const std::string name(1, ParaBlockChar(block));
+  const int of_axes = block - ParaBlockOfAxis(0, 0);
+  if (of_axes < 0) return Text(6520, name);
+  return Text(6521, name, Text(MsgId::At(220, of_axes / 3)));  // AXIS1 to AXIS4
+}
+
 Outcome SendBlock(int block, const std::string& data, int timeout_ms) {
   const std::string frame = std::string("0WD") + ParaBlockChar(block) + data;
-  return SendEchoed({frame, kWriteReplyLength, timeout_ms, kEcho});
+  return SendRecord({frame, kWriteReplyLength, timeout_ms, kEcho}, BlockName(block));
 }
 
 /// Runs `step` for each of these blocks.
@@ -82,7 +90,7 @@ Outcome WriteBlocks(const AxisList& axes) {
     });
   }
   if (outcome == Outcome::Done) {
-    outcome = SendEchoed({"0WE2", kWriteReplyLength, kTimeoutMs, kEcho});
+    outcome = SendStore({"0WE2", kWriteReplyLength, kTimeoutMs, kEcho});
     bulk.Advance();
   }
   return outcome;

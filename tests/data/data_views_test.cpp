@@ -195,10 +195,12 @@ TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
   struct {
     FaultKind fault;
     const char* at;
-    const char* box;
-  } const rows[] = {{FaultKind::kErrorReply, "0RA", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0W", "The writing was not completed."}};
+    std::string box;
+  } const rows[] = {
+      {FaultKind::kErrorReply, "0RA", "Communication Error occured."},
+      {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
+      {FaultKind::kErrorReply, "0W",
+       "The writing was not completed.\nRefused: " + std::string(kind.name).substr(0, 5) + " 1."}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.at);
     Spoil(row.fault, row.at);

@@ -103,6 +103,44 @@ TEST_F(ParaFlows, AWriteStopsWhereItMust) {
   stops({Yes, No}, {}, TwoLines(631, 632) + "\n" + Text(633));
 }
 
+TEST_F(ParaFlows, AWriteThatFailsTellsWhatTheControllerHas) {
+  const struct {
+    qvr7sim::FaultKind fault;
+    const char *at, *told;
+  } rows[] = {
+      {qvr7sim::FaultKind::kErrorReply, "0WD0",
+       "Refused: parameter block 0. What follows was not sent.\n"
+       "The controller's data are as before. Write again."},
+      {qvr7sim::FaultKind::kErrorReply, "0WD5",
+       "Taken by the controller: parameter block 0 to parameter block 4 (AXIS1).\n"
+       "Refused: parameter block 5 (AXIS2). What follows was not sent.\n"
+       "None of it is stored: switched off and on, the controller has its data of before. Write "
+       "again."},
+      {qvr7sim::FaultKind::kDeaf, "0WD1",
+       "Taken by the controller: parameter block 0.\n"
+       "Taken or not, which is not known: parameter block 1. What follows was not sent.\n"
+       "None of it is stored: switched off and on, the controller has its data of before. Write "
+       "again."},
+      {qvr7sim::FaultKind::kErrorReply, "0WE2",
+       "Taken by the controller: parameter block 0 to parameter block D (AXIS4).\n"
+       "The controller refused to store it: switched off and on, it has its data of before. Write "
+       "again."},
+      {qvr7sim::FaultKind::kSilence, "0WE2",
+       "Taken by the controller: parameter block 0 to parameter block D (AXIS4).\n"
+       "Whether the controller has stored it is not known: verify it or write again."}};
+  for (const auto& [fault, at, told] : rows) {
+    SCOPED_TRACE(at);
+    Spoil(fault, at, 0);
+    const Texts boxes = Press(f.cmdParaWrite, {Yes});
+    Ct().ClearFaults();
+    EXPECT_NE(std::find(boxes.begin(), boxes.end(),
+                        std::string("The writing was not completed.\n") + told),
+              boxes.end())
+        << ::testing::PrintToString(boxes);
+    frmMain.cmdReset.Press();
+  }
+}
+
 TEST_F(ParaFlows, TheUserChoosesWhoseAxesAreWritten) {
   for (const int of_ct : {0, 1}) {  // the PC's three, which the controller has then
     UseAxes(of_ct ? kAllAxes : 7);
