@@ -81,6 +81,15 @@ TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
   EXPECT_GT(Cell(7, kPosi).size(), 8u) << "a way that is none counts as absolute";
 }
 
+TEST_F(PosiGrid, NothingIsTypedIntoAGridThatIsOffOrHidden) {
+  ShowTable(7, 7, false, false);
+  for (const auto& [enabled, visible] : {std::pair(true, true), {false, true}, {true, false}}) {
+    frmPosi.flgdData.Enabled = enabled;
+    frmPosi.flgdData.Visible = visible;
+    EXPECT_EQ(frmPosi.flgdData.TypeInto(RowOfPosition(7), kComment, "x") == 0, enabled && visible);
+  }
+}
+
 TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
   const std::tuple<int, bool, const char*> rows[] = {
       {kVel, true, ""},
