@@ -53,10 +53,18 @@ struct TimedAlarm {
   bool send_line = true;  ///< The controller says so on the line unasked.
 };
 
+/// A hand that moves the slide of an axis, where its servo is off.
+struct TimedPush {
+  std::int64_t at_us = 0;
+  int axis = 1;    ///< 1 to 4
+  int pulses = 0;  ///< by so much; it stays within the stroke
+};
+
 /// Everything that goes wrong in a run.
 struct Faults {
   std::vector<Fault> on_requests;
-  std::vector<TimedAlarm> alarms;
+  std::vector<TimedAlarm> alarms = {};
+  std::vector<TimedPush> pushes = {};
 };
 
 /// Name as it is written in options and commands ("silence", "lost-byte", ...).

@@ -44,15 +44,6 @@ TEST(Faults, BendTheReplyOnce) {
   }
 }
 
-/// The good reply with one byte taken out, anywhere, where the other has one as well.
-bool DiffersInOneByte(const std::string& got, bool one_more) {
-  for (std::size_t i = 0; i < kGood.size(); ++i) {
-    const std::string good = one_more ? kGood : kGood.substr(0, i) + kGood.substr(i + 1);
-    if (got.substr(0, i) + got.substr(i + 1) == good) return true;
-  }
-  return false;
-}
-
 TEST(Faults, ChangedAndExtraBytesKeepTheRest) {
   for (std::uint64_t seed = 1; seed <= 200; ++seed) {
     for (const bool extra : {false, true}) {
@@ -60,9 +51,10 @@ TEST(Faults, ChangedAndExtraBytesKeepTheRest) {
       pc.controller.AddFault(Once(extra ? FaultKind::kExtraByte : FaultKind::kChangedByte));
       pc.controller.Receive("0RV\r\n", 0);
       const std::string got = pc.controller.Take(1'000'000);
-      ASSERT_EQ(got.size(), kGood.size() + extra);
-      EXPECT_NE(got, kGood);
-      EXPECT_TRUE(DiffersInOneByte(got, extra)) << seed << ": " << got;
+      std::size_t at = 0;
+      while (at < kGood.size() && got[at] == kGood[at]) ++at;
+      ASSERT_TRUE(extra || at < kGood.size());
+      EXPECT_EQ(got.substr(at + 1), kGood.substr(extra ? at : at + 1)) << seed;
     }
   }
 }
