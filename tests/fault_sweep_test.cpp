@@ -175,11 +175,9 @@ Fields ShownPositions() {
 /// All that the controller keeps through a loss of power.
 std::string Committed(const qvr7sim::Controller& ct) {
   std::string memory;
-  for (int n = 1; n <= 10; ++n) memory += ct.CommittedPosition(n);
-  for (int block = 0; block < 14; ++block) memory += ct.CommittedBlock(block);
-  for (int n = 1; n <= 99; ++n) memory += std::to_string(ct.CommittedGroup(n).second) + ",";
-  for (int n = 1; n <= 20; ++n) memory += ct.CommittedMacro(n);
-  for (int block = 0; block < 7; ++block) memory += ct.CommittedSystemBlock(block);
+  for (const char* frame : {"0WP", "0WD", "0WG", "0WS", "0WK"}) {
+    for (const std::string& cell : ct.Cells(frame, true)) memory += cell;
+  }
   return memory;
 }
 

