@@ -220,11 +220,6 @@ constexpr FaultKind kOnce[] = {
     FaultKind::kExtraByte,   FaultKind::kSplit, FaultKind::kDoubled,  FaultKind::kWrongPrefix,
     FaultKind::kWrongLength, FaultKind::kAlarm};
 
-/// A record of a write: without one of them nothing is stored.
-bool CarriesData(const std::string& line) {
-  return line.starts_with("0W") && line[2] != 'A' && line[2] != 'E' && line[2] != 'F';
-}
-
 /// A long transfer says the same in its middle.
 bool Counts(std::size_t line, std::size_t lines) {
   return lines < 40 || line <= 5 || line + 5 > lines || line % 23 == 0;
@@ -279,7 +274,8 @@ TEST_P(FaultSweep, EveryFaultAtEveryLine) {
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kDeaf, lines[at - 1], 0); }),
                         good);
     EXPECT_GT(boxes_, 0u);
-    if (CarriesData(lines[at - 1])) {
+    const bool carries_data = lines[at - 1].starts_with("0W") && lines[at - 1].size() > 10;
+    if (carries_data) {
       const AfterFlow misheard =
           Try([&](Trial& trial) { trial.Spoil(FaultKind::kChangedByte, lines[at - 1], 1, 3); });
       EXPECT_TRUE(misheard.ct == before_.ct || !bad_data_) << "stored all the same";

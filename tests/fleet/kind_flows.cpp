@@ -9,7 +9,6 @@
 #include "forms/frm_parameta2.h"
 #include "forms/frm_sq_mcr.h"
 #include "forms/frm_system_para.h"
-#include "para/sys_para.h"
 #include "state/text.h"
 #include "tests/fleet/states.h"
 #include "tests/fleet/voyage.h"
@@ -29,8 +28,8 @@ struct Kind {
   const char* file;
 };
 
-const Kind kKinds[] = {{frmGrp, frmMain.mnuViewGrp, {"0WG", 2, "0WE3"}, 6507, kGrpPath},
-                       {frmSqMcr, frmMain.mnuViewSM, {"0WS", 2, "0WE1"}, 6507, kSmPath},
+const Kind kKinds[] = {{frmGrp, frmMain.mnuViewGrp, {"0WG", 2, "0WE3"}, 6507, "/work/p.grp"},
+                       {frmSqMcr, frmMain.mnuViewSM, {"0WS", 2, "0WE1"}, 6507, "/work/p.smd"},
                        {frmParameta2, frmMain.mnuViewPara, {"0WD", 1, "0WE2"}, 1527, kParaPath},
                        {frmSystemPara, frmMain.mnuViewSysPara, {"0WK", 1, "0WF"}, 1527, ""}};
 
@@ -55,7 +54,6 @@ struct Held {
   Cells shown;
   GrpTableRecord groups = GrpTable;
   SmTableRecord macros = SmTable;
-  SysParaRecord tuning = SysParaRead;
 };
 
 /// The view of a kind in front, or nothing where its menu is off. What it shows has settled.

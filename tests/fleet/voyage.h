@@ -66,8 +66,7 @@ void SeatHastyHand(Voyage& voyage);
 /// Some seconds of that. At its end all flows have come to theirs.
 void WorkHastily(Voyage& voyage);
 
-inline constexpr const char *kParaPath = "/work/p.pmt", *kGrpPath = "/work/g.grp",
-                            *kSmPath = "/work/m.smd";
+inline constexpr const char* kParaPath = "/work/p.pmt";
 /// One of the few position files that the user works with.
 std::string AnyPath(Random& random);
 

@@ -8,12 +8,7 @@ namespace qvr7sim {
 namespace {
 
 Fault Once(FaultKind kind, int at_byte = -1, const char* prefix = "", int at_request = 1) {
-  Fault fault;
-  fault.kind = kind;
-  fault.at_request = at_request;
-  fault.at_byte = at_byte;
-  fault.prefix = prefix;
-  return fault;
+  return {.kind = kind, .at_request = at_request, .prefix = prefix, .at_byte = at_byte};
 }
 
 const std::string kGood = "0RV140R4M\r\n";
