@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -69,10 +68,10 @@ const Kind* AnyKind(Voyage& voyage) {
 void Read(Voyage& voyage, const Kind& kind) {
   const Held before(kind);
   ButtonOf(kind, kRead)->Press();
-  const auto& boxes = voyage.virt.forms.boxes;
-  const bool failed = std::any_of(boxes.begin() + voyage.boxes_seen, boxes.end(), [](auto& box) {
-    return box.Buttons == MsgButtons::Ok && box.Icon == MsgIcon::Warning;
-  });
+  bool failed = false;
+  for (const MsgId failure : {MsgId(100), MsgId(104), MsgId(105), MsgId(109), MsgId(384)}) {
+    failed = failed || voyage.WasTold(failure);
+  }
   voyage.Require(!failed || Held(kind) == before, "a read that failed changed the table");
 }
 

@@ -133,13 +133,14 @@ Cells CellWrite::New() const {
   return cells;
 }
 
-void CellWrite::Check(bool told) const {
+void CellWrite::Check(bool told, bool stopped) const {
   if (voyage_.HasSent({"0WE\r\n"})) return;  // a connection on the way has changed the mode
   const Cells now = Now(true), made = New();
   for (std::size_t i = 0; i < now.size(); ++i) {
     voyage_.Require(now[i] == committed_[i] || now[i] == made[i], "a cell is neither old nor new");
   }
-  if (voyage_.power_fails) return;  // between two frames, and nothing on the line tells
+  // The power fails between two frames, and nothing on the line tells.
+  if (stopped || voyage_.power_fails) return;
   voyage_.Require(now == made || (now == committed_ && !told), "half a write is stored");
 }
 

@@ -55,8 +55,9 @@ class CellWrite {
   CellWrite(Voyage& voyage, const CellFrames& frames);
 
   /// Every cell is the old one, or the new where the frame that stores it went out; all are the
-  /// same of the two, and the new where the user was told of the end.
-  void Check(bool told) const;
+  /// same of the two, and the new where the user was told of the end. Of a write that the user has
+  /// stopped nobody knows whether its last frame was heard.
+  void Check(bool told, bool stopped = false) const;
 
  private:
   Cells Now(bool committed) const;

@@ -50,7 +50,7 @@ void Write(Voyage& voyage) {
   const CellWrite write(voyage, kFrames);
   PerhapsCancel(voyage);
   frmPosi.cmdPosiWrite.Press();
-  write.Check(voyage.WasTold(kMsgWritten) || voyage.WasTold(kMsgWriteStopped));
+  write.Check(voyage.WasTold(kMsgWritten), voyage.WasTold(kMsgWriteStopped));
   voyage.Require(table.IsKeptIn(TableNow(voyage)), "a write changed the table");
 }
 
