@@ -23,6 +23,7 @@
 #include "posi/posi_table.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
+#include "state/message_box.h"
 #include "state/online.h"
 #include "steps/transfer_scope.h"
 #include "tests/support/flow_test.h"
@@ -43,6 +44,7 @@ class Trial : public FlowTest {
   }
   void TestBody() override {}
   void End() { TearDown(); }
+  using FlowTest::BoxShown;
   using FlowTest::Forget;
   using FlowTest::Spoil;
   void DieAt(int line) { port.writes_until_dead = line; }
@@ -205,11 +207,9 @@ Fields ShownPositions() {
 /// All that the controller keeps through a loss of power.
 std::string Committed(const qvr7sim::Controller& ct) {
   std::string memory;
-  for (int n = 1; n <= 10; ++n) memory += ct.CommittedPosition(n);
-  for (int block = 0; block < 14; ++block) memory += ct.CommittedBlock(block);
-  for (int n = 1; n <= 99; ++n) memory += std::to_string(ct.CommittedGroup(n).second) + ",";
-  for (int n = 1; n <= 20; ++n) memory += ct.CommittedMacro(n);
-  for (int block = 0; block < 7; ++block) memory += ct.CommittedSystemBlock(block);
+  for (const char* frame : {"0WP", "0WD", "0WG", "0WS", "0WK"}) {
+    for (const std::string& cell : ct.Cells(frame, true)) memory += cell;
+  }
   return memory;
 }
 
@@ -268,9 +268,11 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
     run->Forget();
     spoil(*run);
     (run.get()->*GetParam().flow)();
+    EXPECT_TRUE(run->Ct().ControlDigits() == "0000" || AppState.AxesMayBeHeld) << "left held";
     sent_ = run->Lines();
     boxes_ = run->BoxCount();
     run->LetLineServe();
+    bad_data_ = run->BoxShown(TwoLines(384, 385));
     AfterFlow outcome{GetParam().look(), Committed(run->Ct())};
     run->End();
     return outcome;
@@ -288,6 +290,7 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
   AfterFlow before_;
   Texts sent_;
   std::size_t boxes_ = 0;
+  bool bad_data_ = false;  ///< told of
 };
 
 TEST_P(FaultSweep, EveryFaultAtEveryLine) {
@@ -306,6 +309,12 @@ TEST_P(FaultSweep, EveryFaultAtEveryLine) {
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kDeaf, lines[at - 1], 0); }),
                         good);
     EXPECT_GT(boxes_, 0u);
+    const bool carries_data = lines[at - 1].starts_with("0W") && lines[at - 1].size() > 10;
+    if (carries_data) {
+      const AfterFlow misheard =
+          Try([&](Trial& trial) { trial.Spoil(FaultKind::kChangedByte, lines[at - 1], 1, 3); });
+      EXPECT_TRUE(misheard.ct == before_.ct || !bad_data_) << "stored all the same";
+    }
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.DieAt(n); }), good);
     const FaultKind kind = kOnce[at % std::size(kOnce)];
     SCOPED_TRACE(qvr7sim::FaultName(kind));

@@ -20,6 +20,7 @@
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/views.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 void ResetState() {
@@ -28,6 +29,7 @@ void ResetState() {
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};
   CtDev.fill(CtDeviceRecord{});

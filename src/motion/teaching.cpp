@@ -29,8 +29,9 @@ TeachingSessionRecord TeachingSession;
 namespace {
 
 constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377;
-constexpr int kServosByPc = 1;  // "m" of the control mode: a digit of 1 switches a servo on
-constexpr int kServoOn = 1;
+// The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2 switches
+// its servo off. One frame carries one of the two: beside a servo that is off the others are plain.
+constexpr int kTeaching = 1, kHeld = 1, kServoOff = 2;
 constexpr int kOn = 2225, kOff = 2226;
 constexpr int kActionStart = 5418, kActionEnd = 5419, kActionDirect = 5420, kActionServo = 5421;
 constexpr int kTaken = 5411, kNotTaken = 5412;
@@ -41,7 +42,12 @@ int ServoMask() {
   return mask;
 }
 
-int SendServos(int mask) { return CtControlModeSet(kServoOn, kServosByPc, mask); }
+/// `mask`: the axes whose servos are on.
+int SendServos(int mask) {
+  const int off = AxesInUseMask() & ~mask;
+  return off != 0 ? CtControlModeSet(kServoOff, kTeaching, off)
+                  : CtControlModeSet(kHeld, kTeaching, kAllAxes);
+}
 
 void ShowServoBoxes() {
   PosiTeaching& f = frmPosi.Teach;

@@ -42,9 +42,18 @@ Outcome ReadBlock(int block, std::string& data) {
   return outcome;
 }
 
+/// A block in the user's words: whose it is.
+std::string BlockName(int block) {
+  const std::string name(1, ParaBlockChar(block));
+  const int of_axes = block - ParaBlockOfAxis(0, 0);
+  if (of_axes < 0) return Text(6520, name);
+  return Text(6521, name, Text(MsgId::At(220, of_axes / 3)));  // AXIS1 to AXIS4
+}
+
 Outcome SendBlock(int block, const std::string& data, int timeout_ms) {
   const std::string frame = std::string("0WD") + ParaBlockChar(block) + data;
-  const Outcome outcome = SendEchoed({frame, kWriteReplyLength, timeout_ms, kEcho});
+  const Outcome outcome =
+      SendRecord({frame, kWriteReplyLength, timeout_ms, kEcho}, BlockName(block));
   if (block == 0 && outcome == Outcome::Done) AxisSettingSent = {};
   return outcome;
 }
@@ -79,7 +88,7 @@ Outcome WriteBlocks(const AxisList& axes, Outcome (*ahead)()) {
     });
   }
   if (outcome == Outcome::Done) {
-    outcome = SendEchoed({"0WE2", kWriteReplyLength, kTimeoutMs, kEcho});
+    outcome = SendStore({"0WE2", kWriteReplyLength, kTimeoutMs, kEcho});
     bulk.Advance();
   }
   return outcome;
