@@ -46,7 +46,7 @@ PosiTeaching::PosiTeaching(View& owner)
       cmdJogSlower(owner, "cmdJogSlower", 5283),
       cmdJogFaster(owner, "cmdJogFaster", 5284),
       lblSarvo(owner, "lblSarvo", 5247),
-      chkSarvoOn(owner, "chkSarvoOn"),
+      chkSarvoOn(owner, "chkSarvoOn", 2226),
       chkDirectTeach(owner, "chkDirectTeach", 5248),
       lblPosiNoCaption(owner, "lblPosiNoCaption", 5251),
       lblPosiNo(owner, "lblPosiNo"),

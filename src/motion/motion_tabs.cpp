@@ -7,6 +7,7 @@
 #include "motion/group_range.h"
 #include "motion/home_state.h"
 #include "motion/motion_now.h"
+#include "motion/move_flows.h"
 #include "motion/present_pos.h"
 #include "motion/teach_line.h"
 #include "platform/doors.h"
@@ -65,6 +66,7 @@ void ShowMoveTab() {
     setting->Enabled = MotionNow.Flow == MoveFlow::None;
   }
   if (MotionNow.Flow == MoveFlow::None) f.lblNextNo.Caption = "-";
+  ShowMoveRange();
   ShowGroupRange();
 }
 

@@ -21,7 +21,10 @@ void Couple(Slider& slider, UpDown& updown, Label& label) {
   };
   slider.Change = [show, &slider] { show(slider.Value); };
   updown.Change = [show, &updown] { show(updown.Value); };
-  show(slider.Value);
+}
+
+void ShowNumber(const Slider& slider, Label& label) {
+  label.Caption = std::to_string(slider.Value);
 }
 
 void RefuseLongWait(TextBox& wait) {
@@ -44,6 +47,12 @@ void FillList(Grid& list) {
 }
 
 }  // namespace
+
+void ShowMoveRange() {
+  PosiMoveTest& f = frmPosi.Move;
+  ShowNumber(f.sldrStartPosiNo, f.lblStartPosiNo);
+  ShowNumber(f.sldrEndPosiNo, f.lblEndPosiNo);
+}
 
 void InstallMoveControls() {
   PosiMoveTest& f = frmPosi.Move;

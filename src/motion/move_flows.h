@@ -21,5 +21,7 @@ void cmdGrpMoveStop_Click();
 
 /// Sliders, up-downs, labels and texts of the tab follow one another.
 void InstallMoveControls();
+/// The numbers beside the sliders of the range.
+void ShowMoveRange();
 
 }  // namespace tr7

@@ -29,8 +29,9 @@ TeachingSessionRecord TeachingSession;
 namespace {
 
 constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377;
-// The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2 switches
-// its servo off. One frame carries one of the two: beside a servo that is off the others are plain.
+// The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2
+// switches its servo off. One frame carries one of the two: beside a servo that is off the others
+// are plain.
 constexpr int kTeaching = 1, kHeld = 1, kServoOff = 2;
 constexpr int kOn = 2225, kOff = 2226;
 constexpr int kActionStart = 5418, kActionEnd = 5419, kActionDirect = 5420, kActionServo = 5421;
