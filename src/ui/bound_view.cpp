@@ -1,6 +1,7 @@
 #include "ui/bound_view.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QMenu>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -42,6 +43,12 @@ void ShowPage(QStackedWidget& stack, QWidget& page) {
     other.setSizePolicy(policy);
   }
   stack.setCurrentWidget(&page);
+  // What has come on inside of boxes counts for the page's height at once.
+  for (const QWidget* box : page.findChildren<QWidget*>()) {
+    if (box->layout()) box->layout()->activate();
+  }
+  page.layout()->activate();
+  stack.updateGeometry();
 }
 
 }  // namespace
