@@ -14,8 +14,8 @@ namespace {
 
 bool Every(const TusinRequest&) { return true; }
 
-/// A stop is let through where the line is barred only by a failure that has not been told yet: what
-/// moves must be stopped before anyone is told.
+/// A stop is let through where the line is barred only by a failure that has not been told yet:
+/// what moves must be stopped before anyone is told.
 bool StopMayGo() {
   const bool stop = TusinQueue.StopWaits() || TusinQueue.StopIsServed();
   return stop && !AppState.Closing && !AppState.Offline;

@@ -3,8 +3,8 @@
 namespace tr7 {
 
 /// The door to what watches over a motion in the tool's stead: where the tool ends, or hangs for
-/// half a second during a jog, before it has said that all is at rest, the guard stops the axes over
-/// the line that was open when the motion began.
+/// half a second during a jog, before it has said that all is at rest, the guard stops the axes
+/// over the line that was open when the motion began.
 class MotionGuard {
  public:
   virtual ~MotionGuard() = default;

@@ -203,12 +203,12 @@ TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
     FaultKind fault;
     const char* at;
     std::string box;
-  } const rows[] = {{FaultKind::kErrorReply, "0RA", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0W",
-                     "The writing was not completed.\nRefused: " +
-                         std::string(kind.name).substr(0, 5) + " 1."},
-                    {FaultKind::kDeaf, "0RA", "Communication Error occured."}};
+  } const rows[] = {
+      {FaultKind::kErrorReply, "0RA", "Communication Error occured."},
+      {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
+      {FaultKind::kErrorReply, "0W",
+       "The writing was not completed.\nRefused: " + std::string(kind.name).substr(0, 5) + " 1."},
+      {FaultKind::kDeaf, "0RA", "Communication Error occured."}};
   port.Ct().PlaceAxis(1, 15000, pump.NowUs());
   port.Ct().Receive("0MP000F\r\n", pump.NowUs());  // somebody sends the machine home
   pump.RunFor(100'000);
