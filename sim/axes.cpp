@@ -59,27 +59,42 @@ std::int64_t Motion::EndUs() const {
          after_us;
 }
 
-int Axes::NextToEnd(std::int64_t now_us) const {
+void Axes::State::RestAt(int here) {
+  if (motion) travelled += std::abs(here - motion->from);
+  pulses = here;
+  motion.reset();
+  trip.reset();
+}
+
+int Axes::NextDue() const {
   int next = -1;
   for (int axis = 0; axis < kAxes; ++axis) {
-    const auto& motion = At(axis).motion;
-    if (!motion || motion->EndUs() > now_us) continue;
-    if (next < 0 || motion->EndUs() < At(next).motion->EndUs()) next = axis;
+    if (!Moving(axis)) continue;
+    if (next < 0 || At(axis).DueUs() < At(next).DueUs()) next = axis;
   }
   return next;
 }
 
+std::optional<std::int64_t> Axes::NextRestUs() const {
+  const int axis = NextDue();
+  return axis < 0 ? std::nullopt : std::optional(At(axis).DueUs());
+}
+
 std::optional<Alarm> Axes::Settle(std::int64_t now_us) {
-  for (int axis = NextToEnd(now_us); axis >= 0; axis = NextToEnd(now_us)) {
+  for (int axis = NextDue(); axis >= 0 && At(axis).DueUs() <= now_us; axis = NextDue()) {
     State& state = At(axis);
-    const std::int64_t end_us = state.motion->EndUs();
-    state.pulses = state.motion->to;
-    state.motion.reset();
+    const std::int64_t due_us = state.DueUs();
+    if (state.trip) {
+      const Alarm alarm = state.trip->alarm;
+      Halt(due_us);
+      return alarm;
+    }
+    state.RestAt(state.motion->to);
     if (!state.homing) continue;
     state.homing = false;
     if (state.fail_homing) {
       state.fail_homing = false;
-      Halt(end_us);
+      Halt(due_us);
       return Alarm{static_cast<char>('1' + axis), '3', '4'};
     }
     state.homed = true;
@@ -91,6 +106,40 @@ void Axes::Move(int axis, int to, double speed, double rise_s, std::int64_t now_
   State& state = At(axis);
   if (to == state.pulses) return;
   state.motion = Motion::Between(state.pulses, to, speed, rise_s, now_us);
+}
+
+void Axes::RunInto(int axis, int end, double speed, double rise_s, std::int64_t now_us,
+                   const Alarm& alarm) {
+  State& state = At(axis);
+  const double way = std::abs(end - state.pulses);
+  const int beyond = static_cast<int>(speed * rise_s) + 1;
+  if (way == 0.0) return;
+  Move(axis, end > state.pulses ? end + beyond : end - beyond, speed, rise_s, now_us);
+  const double rise_way = speed * rise_s / 2.0;
+  const double time_s =
+      way < rise_way ? std::sqrt(2.0 * way * rise_s / speed) : rise_s / 2.0 + way / speed;
+  state.trip = Trip{now_us + std::llround(time_s / kMicro), alarm};
+}
+
+void Axes::TripAbove(int axis, double top, const Alarm& alarm) {
+  State& state = At(axis);
+  if (!state.motion || state.motion->peak <= top) return;
+  const double time_s = state.motion->rise_s * top / state.motion->peak;
+  state.trip = Trip{state.motion->start_us + std::llround(time_s / kMicro), alarm};
+}
+
+void Axes::Linger(unsigned mask, std::int64_t time_us, std::int64_t now_us) {
+  int last = -1, lowest = -1;
+  for (int axis = kAxes - 1; axis >= 0; --axis) {
+    if (((mask >> axis) & 1U) == 0) continue;
+    lowest = axis;
+    if (!Moving(axis)) continue;
+    if (last < 0 || At(axis).DueUs() > At(last).DueUs()) last = axis;
+  }
+  if (lowest < 0) return;
+  State& state = At(last < 0 ? lowest : last);
+  if (last < 0) state.motion = Motion{.start_us = now_us, .from = state.pulses, .to = state.pulses};
+  state.motion->after_us += time_us;
 }
 
 void Axes::Home(int axis, double speed, std::int64_t search_us, std::int64_t now_us) {
@@ -105,18 +154,15 @@ void Axes::Home(int axis, double speed, std::int64_t search_us, std::int64_t now
 void Axes::Stop(double fall_s, std::int64_t now_us) {
   for (State& state : states_) {
     if (!state.motion) continue;
-    const Motion& motion = *state.motion;
+    const Motion motion = *state.motion;
     const int here = motion.PulsesAt(now_us);
     const double speed = motion.SpeedAt(now_us);
     const int room = std::abs(motion.to - here);
     const int way = std::min(room, static_cast<int>(std::lround(speed * fall_s / 2.0)));
     const int to = motion.to >= here ? here + way : here - way;
-    state.pulses = here;
+    state.RestAt(here);
     state.homing = false;
-    if (way == 0) {
-      state.motion.reset();
-      continue;
-    }
+    if (way == 0) continue;
     state.motion = Motion{.start_us = now_us, .from = here, .to = to, .peak = speed};
     state.motion->fall_s = 2.0 * way / speed;
   }
@@ -124,21 +170,32 @@ void Axes::Stop(double fall_s, std::int64_t now_us) {
 
 void Axes::Halt(std::int64_t now_us) {
   for (State& state : states_) {
-    if (state.motion) state.pulses = state.motion->PulsesAt(now_us);
-    state.motion.reset();
+    if (state.motion) state.RestAt(state.motion->PulsesAt(now_us));
     state.homing = false;
   }
 }
 
 void Axes::Place(int axis, int pulses) {
   State& state = At(axis);
-  state.motion.reset();
+  if (state.motion) state.RestAt(state.motion->from);
   state.homing = false;
   state.pulses = pulses;
 }
 
 void Axes::LoseHome() {
   for (State& state : states_) state.homed = false;
+}
+
+unsigned Axes::MovingMask() const {
+  unsigned mask = 0;
+  for (int axis = 0; axis < kAxes; ++axis) mask |= Moving(axis) ? 1U << axis : 0U;
+  return mask;
+}
+
+std::int64_t Axes::Travelled(int axis, std::int64_t now_us) const {
+  const State& state = At(axis);
+  return state.travelled +
+         (state.motion ? std::abs(state.motion->PulsesAt(now_us) - state.motion->from) : 0);
 }
 
 int Axes::Pulses(int axis, std::int64_t now_us) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -28,16 +29,29 @@ struct Motion {
   std::int64_t EndUs() const;
 };
 
+/// An axis that reaches this moment stops all with an alarm.
+struct Trip {
+  std::int64_t at_us = 0;
+  Alarm alarm;
+};
+
 /// The four axes, index from 0. A move's end is seen by Settle, which runs before anything else
 /// is asked at a later time.
 class Axes {
  public:
   /// Brings finished moves to their end, in the order of time. Returns the alarm of a homing that
-  /// failed; all axes then stand since that moment.
+  /// failed or of an axis that tripped; all axes then stand since that moment.
   std::optional<Alarm> Settle(std::int64_t now_us);
 
   /// Needs an axis that stands. `speed` in pulses a second, above 0.
   void Move(int axis, int to, double speed, double rise_s, std::int64_t now_us);
+  /// The same with full speed into an end that stops it, with this alarm of all axes.
+  void RunInto(int axis, int end, double speed, double rise_s, std::int64_t now_us,
+               const Alarm& alarm);
+  /// The move just begun trips when it gets faster than `top` pulses a second.
+  void TripAbove(int axis, double top, const Alarm& alarm);
+  /// The axes of a command count as moving for this time behind their last one's arrival.
+  void Linger(unsigned mask, std::int64_t time_us, std::int64_t now_us);
   void Home(int axis, double speed, std::int64_t search_us, std::int64_t now_us);
   /// Brakes every moving axis within `fall_s`; a homing given up leaves the axis without a home.
   void Stop(double fall_s, std::int64_t now_us);
@@ -50,6 +64,11 @@ class Axes {
   void FailNextHoming(int axis) { At(axis).fail_homing = true; }
 
   bool Moving(int axis) const { return At(axis).motion.has_value(); }
+  unsigned MovingMask() const;
+  /// The next moment at which an axis comes to rest by itself.
+  std::optional<std::int64_t> NextRestUs() const;
+  /// Pulses that the axis has moved on its own, in either direction, since it was made.
+  std::int64_t Travelled(int axis, std::int64_t now_us) const;
   bool Homed(int axis) const { return At(axis).homed; }
   int Pulses(int axis, std::int64_t now_us) const;
 
@@ -60,10 +79,18 @@ class Axes {
     bool homing = false;
     bool fail_homing = false;
     std::optional<Motion> motion;
+    std::optional<Trip> trip;  // of the motion
+    std::int64_t travelled = 0;
+
+    std::int64_t DueUs() const {
+      return trip ? std::min(trip->at_us, motion->EndUs()) : motion->EndUs();
+    }
+    /// The motion ends here.
+    void RestAt(int here);
   };
   State& At(int axis) { return states_[axis]; }
   const State& At(int axis) const { return states_[axis]; }
-  int NextToEnd(std::int64_t now_us) const;
+  int NextDue() const;
 
   std::array<State, kAxes> states_;
 };

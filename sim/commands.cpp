@@ -49,6 +49,24 @@ std::string Place(const Words& words, Controller* controller, std::int64_t now_u
   return "ok place " + words[1] + " " + words[2];
 }
 
+std::string Push(const Words& words, Controller* controller, std::int64_t now_us) {
+  constexpr int kFarthest = 262143;
+  const auto axis = words.size() == 3 ? ParseNumber(words[1], 1, kAxes) : std::nullopt;
+  const auto pulses = axis ? ParseNumber(words[2], -kFarthest, kFarthest) : std::nullopt;
+  if (!pulses) return "error push AXIS PULSES";
+  if (!controller->PushAxis(static_cast<int>(*axis), static_cast<int>(*pulses), now_us)) {
+    return "error the servo holds the axis";
+  }
+  return "ok push " + words[1] + " " + words[2];
+}
+
+std::string LoseServo(const Words& words, Controller* controller, std::int64_t now_us) {
+  const auto axis = words.size() == 2 ? ParseNumber(words[1], 1, kAxes) : std::nullopt;
+  if (!axis) return "error lose-servo AXIS, 1 to 4";
+  controller->LoseServo(static_cast<int>(*axis), now_us);
+  return "ok lose-servo " + words[1];
+}
+
 std::string Status(const Controller& controller, std::int64_t now_us) {
   std::string text = "ok mode=";
   text += controller.RunningMode() == Mode::kProgram ? "prg" : "pos";
@@ -62,6 +80,7 @@ std::string Status(const Controller& controller, std::int64_t now_us) {
     text += " axis" + std::to_string(number) + "=" + std::to_string(axis.pulses);
     if (axis.moving) text += ",moving";
     if (axis.homed) text += ",homed";
+    if (!axis.servo_on) text += ",servo-off";
   }
   return text;
 }
@@ -78,6 +97,8 @@ std::string RunCommand(std::string_view line, Controller* controller, std::int64
   if (name == "fault") return AddFault(line, controller);
   if (name == "fail-homing") return FailHoming(words, controller);
   if (name == "place") return Place(words, controller, now_us);
+  if (name == "push") return Push(words, controller, now_us);
+  if (name == "lose-servo") return LoseServo(words, controller, now_us);
   if (name == "faults" && words.size() == 2 && words[1] == "off") {
     controller->ClearFaults();
     return "ok faults off";

@@ -1,6 +1,8 @@
 #include "sim/controller.h"
 
 #include <algorithm>
+#include <functional>
+#include <tuple>
 
 #include "sim/fault_plan.h"
 #include "sim/line.h"
@@ -38,15 +40,23 @@ struct Controller::Impl {
                      std::int64_t now_us);
   void Reply(const std::string& request, const std::string& reply, const std::vector<Fault>& struck,
              std::int64_t now_us);
-  void RaiseDue();
+  void StrikeMachine(const std::vector<Fault>& struck, std::int64_t now_us);
+  void PowerCycle(std::int64_t now_us);
+  /// Has `run` happen at a time; what was planned before for the same time comes first.
+  void Plan(std::int64_t at_us, std::function<void(std::int64_t at_us)> run);
   void SendAlarm(const Alarm& alarm, std::int64_t now_us);
   std::optional<std::int64_t> NextInsideUs() const;
 
   Machine machine;
   Line line;
   FaultPlan plan;
-  std::vector<TimedAlarm> alarms;  // by time
+  struct Due {
+    std::int64_t at_us;
+    std::function<void(std::int64_t at_us)> run;
+  };
+  std::vector<Due> planned;  // by time
   bool silent = false;
+  std::int64_t dark_until_us = 0;  // without power
   std::vector<std::string> requests;
 };
 
@@ -54,8 +64,11 @@ void Controller::Impl::Advance(std::int64_t now_us) {
   for (;;) {
     const auto next = NextInsideUs();
     if (!next || *next > now_us) break;
-    if (!alarms.empty() && alarms.front().at_us <= *next) {
-      RaiseDue();
+    if (!planned.empty() && planned.front().at_us <= *next) {
+      const Due due = planned.front();
+      planned.erase(planned.begin());
+      machine.Settle(due.at_us);
+      due.run(due.at_us);
     } else if (const auto request = line.TakeRequest(*next)) {
       Serve(*request, *next);
     }
@@ -65,16 +78,14 @@ void Controller::Impl::Advance(std::int64_t now_us) {
 
 std::optional<std::int64_t> Controller::Impl::NextInsideUs() const {
   auto next = line.NextRequestUs();
-  if (!alarms.empty() && (!next || alarms.front().at_us < *next)) next = alarms.front().at_us;
+  if (!planned.empty() && (!next || planned.front().at_us < *next)) next = planned.front().at_us;
   return next;
 }
 
-void Controller::Impl::RaiseDue() {
-  const TimedAlarm due = alarms.front();
-  alarms.erase(alarms.begin());
-  machine.Settle(due.at_us);
-  machine.Raise(due.alarm, due.at_us);
-  if (due.send_line) SendAlarm(due.alarm, due.at_us);
+void Controller::Impl::Plan(std::int64_t at_us, std::function<void(std::int64_t at_us)> run) {
+  const auto later = [](std::int64_t at, const Due& due) { return at < due.at_us; };
+  planned.insert(std::upper_bound(planned.begin(), planned.end(), at_us, later),
+                 {at_us, std::move(run)});
 }
 
 void Controller::Impl::SendAlarm(const Alarm& alarm, std::int64_t now_us) {
@@ -86,14 +97,28 @@ void Controller::Impl::Serve(const std::string& line_text, std::int64_t now_us) 
   const std::string request =
       end == std::string::npos ? std::string() : line_text.substr(0, end + 1);
   requests.push_back(request);
-  if (silent) return;
+  if (silent || now_us < dark_until_us) return;
   const std::vector<Fault> struck = plan.Strike(request);
-  if (Find(struck, FaultKind::kDeaf) != nullptr) return;
-  if (const Fault* alarm = Find(struck, FaultKind::kAlarm)) {
-    machine.Settle(now_us);
-    machine.Raise(alarm->error, now_us);
+  if (const Fault* off = Find(struck, FaultKind::kPowerCycle)) {
+    dark_until_us = now_us + off->time_us;
+    return PowerCycle(now_us);
   }
+  if (Find(struck, FaultKind::kDeaf) != nullptr) return;
+  StrikeMachine(struck, now_us);
   Reply(request, Answer(line_text, struck, now_us), struck, now_us);
+}
+
+void Controller::Impl::StrikeMachine(const std::vector<Fault>& struck, std::int64_t now_us) {
+  machine.Settle(now_us);
+  if (const Fault* alarm = Find(struck, FaultKind::kAlarm)) machine.Raise(alarm->error, now_us);
+  const Fault* start = Find(struck, FaultKind::kMoving);
+  if (start != nullptr && !machine.alarm) machine.MoveByInputs(start->time_us, now_us);
+}
+
+void Controller::Impl::PowerCycle(std::int64_t now_us) {
+  line.Drop();
+  machine.Settle(now_us);
+  machine.PowerCycle(now_us);
 }
 
 std::string Controller::Impl::Answer(const std::string& line_text, const std::vector<Fault>& struck,
@@ -151,27 +176,34 @@ void Controller::DropLine() { impl_->line.Drop(); }
 
 void Controller::PowerCycle(std::int64_t now_us) {
   impl_->Advance(now_us);
-  impl_->line.Drop();
-  impl_->machine.PowerCycle(now_us);
+  impl_->PowerCycle(now_us);
 }
 
 void Controller::SetFaults(const Faults& faults) {
   ClearFaults();
   for (const Fault& fault : faults.on_requests) AddFault(fault);
   for (const TimedAlarm& alarm : faults.alarms) AddAlarm(alarm);
+  for (const TimedPush& push : faults.pushes) AddPush(push);
 }
 
 void Controller::AddFault(const Fault& fault) { impl_->plan.Add(fault); }
 
 void Controller::AddAlarm(const TimedAlarm& alarm) {
-  const auto later = [](const TimedAlarm& a, const TimedAlarm& b) { return a.at_us < b.at_us; };
-  auto& alarms = impl_->alarms;
-  alarms.insert(std::upper_bound(alarms.begin(), alarms.end(), alarm, later), alarm);
+  impl_->Plan(alarm.at_us, [impl = impl_.get(), alarm](std::int64_t at_us) {
+    impl->machine.Raise(alarm.alarm, at_us);
+    if (alarm.send_line) impl->SendAlarm(alarm.alarm, at_us);
+  });
+}
+
+void Controller::AddPush(const TimedPush& push) {
+  impl_->Plan(push.at_us, [impl = impl_.get(), push](std::int64_t) {
+    impl->machine.Push(push.axis - 1, push.pulses);
+  });
 }
 
 void Controller::ClearFaults() {
   impl_->plan.Clear();
-  impl_->alarms.clear();
+  impl_->planned.clear();
 }
 
 void Controller::SetSilent(bool silent) { impl_->silent = silent; }
@@ -185,6 +217,16 @@ void Controller::RaiseAlarm(const Alarm& alarm, std::int64_t now_us, bool send_l
 
 void Controller::FailNextHoming(int axis) { impl_->machine.axes.FailNextHoming(axis - 1); }
 
+bool Controller::PushAxis(int axis, int pulses, std::int64_t now_us) {
+  impl_->Advance(now_us);
+  return impl_->machine.Push(axis - 1, pulses);
+}
+
+void Controller::LoseServo(int axis, std::int64_t now_us) {
+  impl_->Advance(now_us);
+  impl_->machine.LoseServo(axis - 1, now_us);
+}
+
 void Controller::PlaceAxis(int axis, int pulses, std::int64_t now_us) {
   impl_->Advance(now_us);
   impl_->machine.axes.Place(axis - 1, pulses);
@@ -192,6 +234,11 @@ void Controller::PlaceAxis(int axis, int pulses, std::int64_t now_us) {
 
 const std::vector<std::string>& Controller::Requests() const { return impl_->requests; }
 void Controller::ClearRequests() { impl_->requests.clear(); }
+
+const std::deque<MotionStart>& Controller::MotionStarts() const { return impl_->machine.starts; }
+std::optional<std::int64_t> Controller::NextRestUs() const {
+  return impl_->machine.axes.NextRestUs();
+}
 
 const std::string& Controller::WrittenPosition(int number) const {
   return impl_->machine.memory.positions.Written(number);
@@ -224,14 +271,35 @@ const std::string& Controller::CommittedSystemBlock(int block) const {
   return impl_->machine.memory.system.Committed(block);
 }
 
+std::vector<std::string> Controller::Cells(std::string_view write_frame, bool committed) const {
+  const Memory& memory = impl_->machine.memory;
+  const std::tuple<std::string_view, const Bank&, int> families[] = {{"0WP", memory.positions, 1},
+                                                                     {"0WD", memory.blocks, 0},
+                                                                     {"0WG", memory.groups, 1},
+                                                                     {"0WS", memory.macros, 1},
+                                                                     {"0WK", memory.system, 0}};
+  std::vector<std::string> cells;
+  for (const auto& [name, bank, first] : families) {
+    for (int cell = first; name == write_frame && cell < bank.size(); ++cell) {
+      cells.push_back(committed ? bank.Committed(cell) : bank.Written(cell));
+    }
+  }
+  return cells;
+}
+
 std::optional<Alarm> Controller::StandingAlarm() const { return impl_->machine.alarm; }
 
 AxisState Controller::Axis(int axis, std::int64_t now_us) const {
   impl_->Advance(now_us);
   const Machine& machine = impl_->machine;
   const int index = axis - 1;
-  return {machine.InUse(index), machine.axes.Moving(index), machine.axes.Homed(index),
-          machine.axes.Pulses(index, now_us), machine.memory.MaxPulses(index)};
+  return {machine.InUse(index),
+          machine.axes.Moving(index),
+          machine.axes.Homed(index),
+          machine.axes.Pulses(index, now_us),
+          machine.memory.MaxPulses(index),
+          machine.ServoOn(index),
+          machine.axes.Travelled(index, now_us) - machine.travelled_at_stop[index]};
 }
 
 bool Controller::AnyMoving(std::int64_t now_us) const {

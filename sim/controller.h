@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "sim/error_codes.h"
 #include "sim/faults.h"
+#include "sim/motion_start.h"
 #include "sim/setup.h"
 
 namespace qvr7sim {
@@ -21,6 +23,8 @@ struct AxisState {
   bool homed = false;
   int pulses = 0;  ///< Present position; negative left of home.
   int max_pulses = 0;
+  bool servo_on = true;
+  std::int64_t since_stop = 0;  ///< Pulses that it has moved since the last "0SP" arrived.
 };
 
 /// A QV-R7 controller on a line. Time is the caller's, in microseconds, and never runs back.
@@ -55,6 +59,7 @@ class Controller {
   void SetFaults(const Faults& faults);
   void AddFault(const Fault& fault);
   void AddAlarm(const TimedAlarm& alarm);
+  void AddPush(const TimedPush& push);
   void ClearFaults();
   /// Silent: as a controller without power on the line, it neither hears nor answers.
   void SetSilent(bool silent);
@@ -64,12 +69,21 @@ class Controller {
   void RaiseAlarm(const Alarm& alarm, std::int64_t now_us, bool send_line = false);
   /// The next homing of this axis (1 to 4) ends in the home sensor alarm.
   void FailNextHoming(int axis);
-  /// Pushes the slide of an axis (1 to 4) by hand to a position in pulses.
+  /// A hand moves the slide of an axis (1 to 4) by so many pulses; false where its servo holds it.
+  bool PushAxis(int axis, int pulses, std::int64_t now_us);
+  /// The servo of an axis (1 to 4) fails, until the alarm that says so is reset.
+  void LoseServo(int axis, std::int64_t now_us);
+  /// An axis (1 to 4) stands at a position in pulses, whatever it did.
   void PlaceAxis(int axis, int pulses, std::int64_t now_us);
 
   /// Every request line that reached the controller, without its line end, also while it is silent.
   const std::vector<std::string>& Requests() const;
   void ClearRequests();
+
+  /// What set axes in motion since the start, in the order of time: the last 10,000.
+  const std::deque<MotionStart>& MotionStarts() const;
+  /// When an axis will come to rest by itself, the next one that does.
+  std::optional<std::int64_t> NextRestUs() const;
 
   /// Digits behind the number in "0RP" (60), for 1 to 999.
   const std::string& WrittenPosition(int number) const;
@@ -86,6 +100,10 @@ class Controller {
   /// Data of system block 0 to 6 (32 characters).
   const std::string& WrittenSystemBlock(int block) const;
   const std::string& CommittedSystemBlock(int block) const;
+
+  /// All cells of the family that a frame writes ("0WP", "0WD", "0WG", "0WS", "0WK"), in rising
+  /// order and as they lie on the line. Empty for other frames.
+  std::vector<std::string> Cells(std::string_view write_frame, bool committed) const;
 
   std::optional<Alarm> StandingAlarm() const;
   /// Axis 1 to 4 at `now_us`; requests that have reached the controller by then are carried out.

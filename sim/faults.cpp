@@ -7,7 +7,7 @@ namespace qvr7sim {
 
 namespace {
 
-constexpr std::array<std::pair<FaultKind, std::string_view>, 12> kNames{{
+constexpr std::array<std::pair<FaultKind, std::string_view>, 14> kNames{{
     {FaultKind::kSilence, "silence"},
     {FaultKind::kDeaf, "deaf"},
     {FaultKind::kDelay, "delay"},
@@ -20,6 +20,8 @@ constexpr std::array<std::pair<FaultKind, std::string_view>, 12> kNames{{
     {FaultKind::kWrongLength, "wrong-length"},
     {FaultKind::kErrorReply, "error-reply"},
     {FaultKind::kAlarm, "alarm"},
+    {FaultKind::kMoving, "moving"},
+    {FaultKind::kPowerCycle, "power-cycle"},
 }};
 
 }  // namespace

@@ -15,8 +15,12 @@ constexpr double kStopFall = 0.05;
 
 std::string BadFrame() { return ErrorText('0', error_code::kBadFrame); }
 std::string BadNumber() { return ErrorText('0', error_code::kBadNumber); }
+std::string ServoOff() { return ErrorText('0', error_code::kMotorPowerOff); }
 std::string AxisError(int axis, char code) {
   return ErrorText(static_cast<char>('1' + axis), code);
+}
+Alarm AxisAlarm(int axis, char middle, char code) {
+  return {static_cast<char>('1' + axis), middle, code};
 }
 
 /// Where one axis goes within a command that moves several.
@@ -34,6 +38,7 @@ std::string Start(Machine& machine, const Steps& steps, std::int64_t now_us) {
     const Step& step = steps[axis];
     if (!step.moves) continue;
     if (!machine.InUse(axis) || step.vel == 0 || step.acc == 0) return BadNumber();
+    if (!machine.ServoOn(axis)) return ServoOff();
     if (machine.PulseSpeed(axis, step.vel) <= 0.0) return BadNumber();
     if (step.to < 0 || step.to > machine.memory.MaxPulses(axis)) {
       return AxisError(axis, error_code::kBeyondStroke);
@@ -44,6 +49,8 @@ std::string Start(Machine& machine, const Steps& steps, std::int64_t now_us) {
     if (!step.moves) continue;
     machine.axes.Move(axis, step.to, machine.PulseSpeed(axis, step.vel),
                       step.acc * kTenMilliseconds, now_us);
+    machine.axes.TripAbove(axis, machine.TopSpeed(axis),
+                           AxisAlarm(axis, '1', error_code::kDeviation));
   }
   return "";
 }
@@ -52,6 +59,7 @@ std::string Home(Machine& machine, unsigned mask, std::int64_t now_us) {
   for (int axis = 0; axis < kAxes; ++axis) {
     if (((mask >> axis) & 1U) == 0) continue;
     if (machine.PulseSpeed(axis, machine.setup.home_mm_s) <= 0.0) return BadNumber();
+    if (!machine.ServoOn(axis)) return ServoOff();
   }
   for (int axis = 0; axis < kAxes; ++axis) {
     if (((mask >> axis) & 1U) == 0) continue;
@@ -67,7 +75,9 @@ int Target(const AxisTarget& target, int here) {
   return target.pulses;
 }
 
-std::string MoveToRecord(Machine& machine, int number, unsigned mask, std::int64_t now_us) {
+/// `with_macro`: the macro of the position runs when the axes have arrived.
+std::string MoveToRecord(Machine& machine, int number, unsigned mask, bool with_macro,
+                         std::int64_t now_us) {
   PositionRecord record;
   DecodePosition(machine.memory.positions.Written(number), &record);
   Steps steps;
@@ -78,7 +88,10 @@ std::string MoveToRecord(Machine& machine, int number, unsigned mask, std::int64
     const int to = Target(target, machine.axes.Pulses(axis, now_us));
     steps[axis] = {true, to, target.vel, target.acc};
   }
-  return Start(machine, steps, now_us);
+  const std::string error = Start(machine, steps, now_us);
+  const std::int64_t macro_us = with_macro ? machine.MacroUs(record.sm) : 0;
+  if (error.empty() && macro_us > 0) machine.axes.Linger(mask, macro_us, now_us);
+  return error;
 }
 
 /// hhh and a mask of one or two digits; number 0 is the home position.
@@ -91,8 +104,9 @@ std::string MoveByNumber(Machine& machine, std::string_view name, std::string_vi
   if (number > kPositions) return BadNumber();
   const auto bits = static_cast<unsigned>(mask);
   if ((bits & ~machine.mask) != 0) return BadNumber();
-  const std::string error =
-      number == 0 ? Home(machine, bits, now_us) : MoveToRecord(machine, number, bits, now_us);
+  const std::string error = number == 0
+                                ? Home(machine, bits, now_us)
+                                : MoveToRecord(machine, number, bits, name == "0MP", now_us);
   return error.empty() ? std::string(name) : error;
 }
 
@@ -124,8 +138,22 @@ std::string MoveDirect(Machine& machine, std::string_view args, std::int64_t now
   return error.empty() ? "0MV" : error;
 }
 
+/// Runs one axis towards home or away from it: to the end of its stroke, or without that limit into
+/// what is behind it.
+void JogAxis(Machine& machine, int axis, bool to_home, double speed, std::int64_t now_us) {
+  constexpr int kBehindTheEnd = 100;  // pulses
+  const int here = machine.axes.Pulses(axis, now_us), stroke = machine.memory.MaxPulses(axis);
+  if (machine.memory.SoftLimit(axis)) {
+    const int end = to_home ? std::min(0, here) : std::max(stroke, here);
+    return machine.axes.Move(axis, end, speed, kJogRise, now_us);
+  }
+  const int end = to_home ? std::min(-kBehindTheEnd, here) : std::max(stroke + kBehindTheEnd, here);
+  const char code = to_home ? error_code::kMinusLimit : error_code::kPlusLimit;
+  machine.axes.RunInto(axis, end, speed, kJogRise, now_us, AxisAlarm(axis, '3', code));
+}
+
 /// Speed digit (tenths of the jog speed, "0" the full one) and for each axis "0" stands, "1" runs
-/// towards home, "2" away from it. The axis stops at the end of its stroke.
+/// towards home, "2" away from it.
 std::string Jog(Machine& machine, std::string_view args, std::int64_t now_us) {
   if (args.size() != 1 + kAxes) return BadFrame();
   if (args[0] < '0' || args[0] > '9') return BadFrame();
@@ -133,21 +161,20 @@ std::string Jog(Machine& machine, std::string_view args, std::int64_t now_us) {
     const char digit = args[1 + axis];
     if (digit < '0' || digit > '2') return BadNumber();
     if (digit != '0' && !machine.InUse(axis)) return BadNumber();
+    if (digit != '0' && !machine.ServoOn(axis)) return ServoOff();
   }
   const int tenths = args[0] == '0' ? 10 : args[0] - '0';
   for (int axis = 0; axis < kAxes; ++axis) {
     const char digit = args[1 + axis];
     const double speed = machine.PulseSpeed(axis, machine.setup.jog_mm_s) * tenths / 10.0;
-    const int here = machine.axes.Pulses(axis, now_us);
-    const int end =
-        digit == '1' ? std::min(0, here) : std::max(machine.memory.MaxPulses(axis), here);
-    if (digit != '0' && speed > 0.0) machine.axes.Move(axis, end, speed, kJogRise, now_us);
+    if (digit != '0' && speed > 0.0) JogAxis(machine, axis, digit == '1', speed, now_us);
   }
   return "0JR";
 }
 
 std::string Stop(Machine& machine, std::string_view args, std::int64_t now_us) {
   if (!args.empty()) return BadFrame();
+  machine.NoteStop(now_us);
   machine.axes.Stop(kStopFall, now_us);
   return "0SP";
 }

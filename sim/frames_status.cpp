@@ -16,14 +16,15 @@ bool DigitsUpTo(std::string_view text, char highest) {
   return true;
 }
 
-/// "0CM" m, or "0CM" m a1 a2 a3 a4. The short form gives or takes the PC's command.
-std::string ControlMode(Machine& machine, std::string_view args, std::int64_t) {
+/// "0CM" m, or "0CM" m a1 a2 a3 a4. The short form gives or takes the PC's command. An axis is
+/// under its normal control by "0", held for the PC by "1", and has its servo off by "2".
+std::string ControlMode(Machine& machine, std::string_view args, std::int64_t now_us) {
   if (args.size() != 1 && args.size() != 5) return BadFrame();
   if (!DigitsUpTo(args, '2')) return BadNumber();
   if (args.size() == 1) {
     machine.pc_command = args[0] == '1';
   } else {
-    machine.control_digits = args.substr(1);
+    machine.TakeControl(args.substr(1), now_us);
   }
   return "0CM" + std::string(args);
 }
@@ -51,6 +52,7 @@ std::string HomeState(Machine& machine, std::string_view args, std::int64_t) {
 
 std::string ResetAlarm(Machine& machine, std::string_view, std::int64_t) {
   machine.alarm.reset();
+  machine.servo_lost = 0;
   return "0AR";
 }
 
@@ -66,11 +68,13 @@ std::string Version(Machine& machine, std::string_view args, std::int64_t) {
   return "0RV" + std::string(args) + setup.axis_versions[axis] + "R7R";
 }
 
-constexpr Command kCommands[] = {{"0CM", ControlMode},
-                                 {"0RA", RestState},
-                                 {"0RH", HomeState},
-                                 {"0AR", ResetAlarm},
-                                 {"0RV", Version}};
+std::string TaskCount(Machine& machine, std::string_view args, std::int64_t) {
+  if (!args.empty()) return BadFrame();
+  return "0TN" + Hex(static_cast<unsigned>(machine.setup.running_tasks), 1);
+}
+
+constexpr Command kCommands[] = {{"0CM", ControlMode}, {"0RA", RestState}, {"0RH", HomeState},
+                                 {"0AR", ResetAlarm},  {"0RV", Version},   {"0TN", TaskCount}};
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "sim/machine.h"
 
+#include <algorithm>
+
 #include "sim/error_codes.h"
 #include "sim/text.h"
 
@@ -44,7 +46,11 @@ std::string Machine::Answer(const std::string& request, std::int64_t now_us) {
   if (command == nullptr) return ErrorText('0', error_code::kUnknownCommand);
   if (!AllPrintable(request)) return ErrorText('0', error_code::kBadFrame);
   if (command->needs_standstill && AnyMoving()) return ErrorText('0', error_code::kMoving);
-  return command->answer(*this, std::string_view(request).substr(kNameLength), now_us);
+  const unsigned moving_before = axes.MovingMask();
+  const std::string reply =
+      command->answer(*this, std::string_view(request).substr(kNameLength), now_us);
+  NoteStart(moving_before, request, now_us);
+  return reply;
 }
 
 void Machine::Settle(std::int64_t now_us) {
@@ -66,15 +72,74 @@ void Machine::PowerCycle(std::int64_t now_us) {
   axes.Halt(now_us);
   axes.LoseHome();
   alarm.reset();
+  servo_lost = 0;
   pc_command = false;
   control_digits = "0000";
 }
 
-bool Machine::AnyMoving() const {
+void Machine::NoteStart(unsigned moving_before, const std::string& request, std::int64_t now_us) {
+  constexpr std::size_t kMostKept = 10000;
+  const unsigned started = axes.MovingMask() & ~moving_before;
+  if (started != 0) starts.push_back({now_us, started, request});
+  if (starts.size() > kMostKept) starts.pop_front();
+}
+
+void Machine::NoteStop(std::int64_t now_us) {
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (axes.Moving(axis)) return true;
+    travelled_at_stop[axis] = axes.Travelled(axis, now_us);
   }
-  return false;
+}
+
+void Machine::TakeControl(std::string_view digits, std::int64_t now_us) {
+  control_digits = digits;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    if (digits[axis] == '2' && axes.Moving(axis)) LoseServo(axis, now_us);
+  }
+}
+
+void Machine::LoseServo(int axis, std::int64_t now_us) {
+  servo_lost |= 1U << axis;
+  Raise({static_cast<char>('1' + axis), '2', error_code::kMotorLine}, now_us);
+}
+
+bool Machine::Push(int axis, int pulses) {
+  if (ServoOn(axis) || axes.Moving(axis)) return false;
+  axes.Place(axis, std::clamp(axes.Pulses(axis, 0) + pulses, 0, memory.MaxPulses(axis)));
+  return true;
+}
+
+std::int64_t Machine::MacroUs(int number) const {
+  constexpr std::int64_t kTimerUs = 100'000, kTimer10Us = 1'000'000;
+  if (number < 1 || number > kMacros) return 0;
+  const std::string& steps = memory.macros.Written(number);
+  std::int64_t time_us = 0;
+  for (std::size_t at = 0; at < steps.size() && steps[at] != '0' && steps[at] != 'F'; at += 2) {
+    const int value = HexValue(std::string_view(steps).substr(at + 1, 1));
+    if (steps[at] == '1' || steps[at] == '2') time_us += setup.input_wait_us;
+    if (steps[at] == '5') time_us += value * kTimerUs;
+    if (steps[at] == '6') time_us += value * kTimer10Us;
+  }
+  return time_us;
+}
+
+double Machine::TopSpeed(int axis) const {
+  constexpr double kTopPulses = 10000.0;  // of the motor, a second
+  constexpr int kFastMmS = 400;
+  return memory.IsFastDevice(axis) ? PulseSpeed(axis, kFastMmS) : kTopPulses;
+}
+
+void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
+  const unsigned moving_before = axes.MovingMask();
+  constexpr double kRise = 0.1;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const double speed = PulseSpeed(axis, setup.jog_mm_s);
+    if (!InUse(axis) || control_digits[axis] != '0' || axes.Moving(axis) || speed <= 0.0) continue;
+    const int here = axes.Pulses(axis, now_us), end = memory.MaxPulses(axis);
+    const int way = static_cast<int>(speed * static_cast<double>(time_us) * 1e-6);
+    const int to = here < end / 2 ? std::min(end, here + way) : std::max(0, here - way);
+    axes.Move(axis, to, speed, kRise, now_us);
+  }
+  NoteStart(moving_before, "inputs", now_us);
 }
 
 double Machine::PulseSpeed(int axis, int mm_s) const {

@@ -32,7 +32,8 @@ int Run(const qvr7sim::Options& options) {
   std::printf("%s\n", pty.path().c_str());
   std::fflush(stdout);
   const std::string failed =
-      qvr7sim::Serve(&pty, &controller, STDIN_FILENO, STDOUT_FILENO, options.quit_on_eof);
+      qvr7sim::Serve(&pty, &controller, STDIN_FILENO, STDOUT_FILENO, options.quit_on_eof,
+                     options.tell_motion ? STDERR_FILENO : -1);
   return failed.empty() ? 0 : Fail(failed, kFailed);
 }
 

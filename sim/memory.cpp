@@ -160,6 +160,13 @@ int Memory::MaxPulses(int axis) const { return HexAt(blocks.Written(DeviceBlock(
 int Memory::Lead(int axis) const { return HexAt(blocks.Written(DeviceBlock(axis)), 7, 2); }
 int Memory::Ppr(int axis) const { return HexAt(blocks.Written(DeviceBlock(axis)), 9, 4); }
 
+bool Memory::SoftLimit(int axis) const {
+  return HexAt(blocks.Written(DeviceBlock(axis) - 2), 35, 2) != 0;
+}
+bool Memory::IsFastDevice(int axis) const {
+  return std::string_view(blocks.Written(DeviceBlock(axis))).substr(16, 3) == "42D";
+}
+
 Mode Memory::CommittedMode() const {
   return HexAt(blocks.Committed(0), 23, 2) == 1 ? Mode::kProgram : Mode::kPosition;
 }

@@ -39,6 +39,10 @@ struct Memory {
   int MaxPulses(int axis) const;
   int Lead(int axis) const;
   int Ppr(int axis) const;
+  /// The axis stops at the ends of its stroke by itself, as written.
+  bool SoftLimit(int axis) const;
+  /// The axis carries the one actuator that is faster than its motor's rule.
+  bool IsFastDevice(int axis) const;
   /// Mode and mask as committed in block 0.
   Mode CommittedMode() const;
   unsigned CommittedMask() const;

@@ -124,6 +124,17 @@ bool TakeAlarmAt(const std::string& value, Options* options) {
   return true;
 }
 
+bool TakePush(const std::string& value, Options* options) {
+  const std::vector<std::string> parts = Split(value, ":");
+  TimedPush push;
+  if (parts.size() != 3 || !TakeInt(parts[0], 1, kAxes, &push.axis)) return false;
+  if (!TakeInt(parts[1], -262143, 262143, &push.pulses) || !TakeMs(parts[2], &push.at_us)) {
+    return false;
+  }
+  options->faults.pushes.push_back(push);
+  return true;
+}
+
 bool TakeFault(const std::string& value, Options* options) {
   std::string error;
   const auto fault = ParseFault(value, &error);
@@ -180,6 +191,8 @@ constexpr std::array kOptions{
            [](Text v, Options* o) { return TakeInt(v, 1, 1000, &o->setup.home_mm_s); }},
     Option{"--home-search-ms", "N", "search of the home sensor (default 300)",
            [](Text v, Options* o) { return TakeMs(v, &o->setup.home_search_us); }},
+    Option{"--input-wait-ms", "N", "until an input that a macro waits for comes (default 300)",
+           [](Text v, Options* o) { return TakeMs(v, &o->setup.input_wait_us); }},
     Option{"--baud", "N", "rate that paces the bytes (default 9600)",
            [](Text v, Options* o) { return TakeInt(v, 300, 1'000'000, &o->setup.baud); }},
     Option{"--no-pace", "", "bytes take no time",
@@ -197,6 +210,11 @@ constexpr std::array kOptions{
     Option{"--fault", "FAULT", "a fault, may be given more than once; see below", TakeFault},
     Option{"--alarm-at", "SECONDS:UNIT:CODE", "an alarm comes up and is told unasked", TakeAlarmAt},
     Option{"--fail-homing", "AXIS", "the next homing of the axis fails", TakeFailHoming},
+    Option{"--push", "AXIS:PULSES:MS",
+           "a hand moves the slide by so much at this time, if its servo is off", TakePush},
+    Option{"--tell-motion", "",
+           "tell on standard error when axes move and rest, and at the end; see below",
+           [](Text, Options* o) { return o->tell_motion = true; }},
     Option{"--quit-on-eof", "", "end when standard input ends",
            [](Text, Options* o) { return o->quit_on_eof = true; }},
     Option{"--help", "", "this text", [](Text, Options* o) { return o->help = true; }},
@@ -247,15 +265,31 @@ std::string HelpText() {
                                   : "\n" + std::string(kColumn, ' ');
     text += left + std::string(option.help) + "\n";
   }
-  text += "\nA fault FAULT is a name, then settings separated by commas:\n  " + FaultNames() +
-          "\n"
-          "  p=0..1 chance for each request, n=COUNT the n-th request once (default n=1),\n"
-          "  prefix=TEXT only requests that begin so, ms=TIME for delay and split,\n"
-          "  byte=INDEX where it strikes (default at random), unit=C middle=C code=C the error.\n"
-          "  Example: --fault lost-byte,p=0.05,prefix=0RP --fault error-reply,n=3,unit=1,code=2\n"
-          "\nCommands on standard input, one a line, each answered by \"ok\" or \"error\":\n"
-          "  silence on|off, alarm UNIT CODE [line], power-cycle, fault FAULT, faults off,\n"
-          "  fail-homing AXIS, place AXIS PULSES, status, quit\n";
+  text +=
+      "\nA fault FAULT is a name, then settings separated by commas:\n  " + FaultNames() +
+      "\n"
+      "  p=0..1 chance for each request, n=COUNT the n-th request once (default n=1),\n"
+      "  prefix=TEXT only requests that begin so, ms=TIME for delay, split, moving, power-cycle,\n"
+      "  byte=INDEX where it strikes (default at random), unit=C middle=C code=C the error.\n"
+      "  Example: --fault lost-byte,p=0.05,prefix=0RP --fault error-reply,n=3,unit=1,code=2\n"
+      "  What a write may meet: moving,prefix=0RA,ms=3000 (the inputs start every axis that the\n"
+      "  PC does not hold), error-reply,prefix=0WE3 (groups are not stored; 0WA positions, 0WE2\n"
+      "  parameters, 0WE1 macros, 0WF tuning), power-cycle,prefix=0WE3,ms=1000 (the power fails\n"
+      "  before they are stored), --axes 2 and --mode prg (another machine than was expected).\n"
+      "\nCommands on standard input, one a line, each answered by \"ok\" or \"error\":\n"
+      "  silence on|off, alarm UNIT CODE [line], power-cycle, fault FAULT, faults off,\n"
+      "  fail-homing AXIS, place AXIS PULSES, push AXIS PULSES (by hand, the servo being off),\n"
+      "  lose-servo AXIS, status, quit\n"
+      "\n--tell-motion writes lines as \"12.345 moving axis1=0 axis2=100 axis3=0 axis4=0\" and\n"
+      "\"12.845 at rest ...\": seconds since the start, and pulses.\n"
+      "\nMotion: an axis is held for the PC by the digit 1 of \"0CM\" and has its servo off by 2: "
+      "it\n"
+      "can then be pushed, and jogs and moves are refused (0%%00C). \"0MP\" runs the macro of its\n"
+      "position when the axes have arrived, \"0MS\" does not. Alarms: 0%%n34 no home sensor, "
+      "0%%n3D\n"
+      "and 0%%n3E a jog ran into the end of an axis whose SOFT LIMIT is off, 0%%n13 faster than "
+      "the\n"
+      "motor's 10000 pulses a second, 0%%n2A the servo was lost or went off in motion.\n";
   return text;
 }
 

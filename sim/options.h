@@ -17,6 +17,7 @@ struct Options {
   std::uint64_t seed = 1;
   bool silent = false;
   bool quit_on_eof = false;
+  bool tell_motion = false;
   bool help = false;
 };
 

@@ -59,12 +59,14 @@ class EndSignals {
 
 class Server {
  public:
-  Server(Pty* pty, Controller* controller, int control_fd, int answer_fd, bool quit_on_eof)
+  Server(Pty* pty, Controller* controller, int control_fd, int answer_fd, bool quit_on_eof,
+         int motion_fd)
       : pty_(pty),
         controller_(controller),
         control_fd_(control_fd),
         answer_fd_(answer_fd),
         quit_on_eof_(quit_on_eof),
+        motion_fd_(motion_fd),
         start_(std::chrono::steady_clock::now()) {}
 
   std::string Run();
@@ -79,24 +81,63 @@ class Server {
   void ServeLine();
   void ReadControl();
   void Answer(const std::string& line);
+  std::optional<std::int64_t> NextUs() const;
+  void TellMotion(bool always);
 
   Pty* pty_;
   Controller* controller_;
   int control_fd_;  // -1 once it has ended; poll leaves it out
   int answer_fd_;
   bool quit_on_eof_;
+  int motion_fd_;
+  bool told_moving_ = false;
   std::chrono::steady_clock::time_point start_;
   std::array<pollfd, 3> polled_{};
   std::string control_;
   bool quit_ = false;
 };
 
+/// Writes all of it, or what the other end takes.
+void WriteAll(int fd, std::string_view left) {
+  while (!left.empty()) {
+    const ssize_t count = write(fd, left.data(), left.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return;
+    left.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+std::optional<std::int64_t> Server::NextUs() const {
+  const auto event = controller_->NextEventUs();
+  const auto rest = motion_fd_ < 0 ? std::nullopt : controller_->NextRestUs();
+  if (!event || !rest) return event ? event : rest;
+  return std::min(*event, *rest);
+}
+
+void Server::TellMotion(bool always) {
+  if (motion_fd_ < 0) return;
+  const std::int64_t now_us = NowUs();
+  const bool moving = controller_->AnyMoving(now_us);
+  if (moving == told_moving_ && !always) return;
+  told_moving_ = moving;
+  constexpr std::int64_t kUsPerMs = 1000, kMsPerSecond = 1000;
+  const std::int64_t ms = now_us / kUsPerMs;
+  const std::string fraction = std::to_string(kMsPerSecond + ms % kMsPerSecond).substr(1);
+  std::string text = std::to_string(ms / kMsPerSecond) + "." + fraction;
+  text += moving ? " moving" : " at rest";
+  for (int axis = 1; axis <= kAxes; ++axis) {
+    text += " axis" + std::to_string(axis) + "=" +
+            std::to_string(controller_->Axis(axis, now_us).pulses);
+  }
+  WriteAll(motion_fd_, text + "\n");
+}
+
 /// Until input comes or the next byte is due. False when the system refuses.
 bool Server::Sleep(const sigset_t* mask) {
   polled_ = {pollfd{pty_->fd(), POLLIN, 0}, pollfd{pty_->watch_fd(), POLLIN, 0},
              pollfd{control_fd_, POLLIN, 0}};
   timespec wait{};
-  const auto next = controller_->NextEventUs();
+  const auto next = NextUs();
   if (next) {
     const std::int64_t us = std::max<std::int64_t>(0, *next - NowUs());
     wait.tv_sec = us / 1'000'000;
@@ -119,14 +160,7 @@ void Server::ServeLine() {
 }
 
 void Server::Answer(const std::string& line) {
-  std::string text = RunCommand(line, controller_, NowUs(), &quit_) + "\n";
-  std::string_view left = text;
-  while (!left.empty()) {
-    const ssize_t count = write(answer_fd_, left.data(), left.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return;
-    left.remove_prefix(static_cast<std::size_t>(count));
-  }
+  WriteAll(answer_fd_, RunCommand(line, controller_, NowUs(), &quit_) + "\n");
 }
 
 void Server::ReadControl() {
@@ -155,15 +189,17 @@ std::string Server::Run() {
     if (!Sleep(signals.before())) return std::string("cannot wait: ") + std::strerror(errno);
     ServeLine();
     ReadControl();
+    TellMotion(false);
   }
+  TellMotion(true);
   return "";
 }
 
 }  // namespace
 
-std::string Serve(Pty* pty, Controller* controller, int control_fd, int answer_fd,
-                  bool quit_on_eof) {
-  return Server(pty, controller, control_fd, answer_fd, quit_on_eof).Run();
+std::string Serve(Pty* pty, Controller* controller, int control_fd, int answer_fd, bool quit_on_eof,
+                  int motion_fd) {
+  return Server(pty, controller, control_fd, answer_fd, quit_on_eof, motion_fd).Run();
 }
 
 }  // namespace qvr7sim

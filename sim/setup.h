@@ -76,7 +76,9 @@ struct Setup {
   int jog_mm_s = 30;               ///< Jog at 100 percent.
   int home_mm_s = 20;
   std::int64_t home_search_us = 300000;  ///< Search of the sensor, on top of the way home.
+  std::int64_t input_wait_us = 300000;   ///< Until an input that a macro waits for comes.
   std::array<int, kAxes> start_pulses{};
+  int running_tasks = 0;   ///< Program tasks that "0TN" reports, 0 to 15.
   bool homed = false;      ///< All axes homed at the start.
   bool rest_as_f = false;  ///< "0RA" and "0RH" say "F", not the mask, when it holds for all axes.
 

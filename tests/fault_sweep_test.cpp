@@ -10,9 +10,12 @@
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
+#include "device/ct_device.h"
 #include "forms/frm_compare.h"
 #include "forms/frm_device.h"
 #include "forms/frm_parameta2.h"
+#include "link/port.h"
+#include "link/status_commands.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/sys_para.h"
@@ -21,6 +24,9 @@
 #include "posi/posi_table.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
+#include "state/message_box.h"
+#include "state/online.h"
+#include "steps/transfer_scope.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -39,9 +45,15 @@ class Trial : public FlowTest {
   }
   void TestBody() override {}
   void End() { TearDown(); }
+  using FlowTest::BoxShown;
   using FlowTest::Forget;
   using FlowTest::Spoil;
   void DieAt(int line) { port.writes_until_dead = line; }
+  void LetLineServe() {
+    port.Ct().ClearFaults();
+    port.writes_until_dead = -1;
+    port.open_fault = PortFault::None;
+  }
   void TakePort() { port.open_fault = PortFault::InUse; }
   qvr7sim::Controller& Ct() { return port.Ct(); }
   std::size_t BoxCount() const { return forms.boxes.size(); }
@@ -117,6 +129,18 @@ class Trial : public FlowTest {
     forms.answers = {MsgAnswer::Yes, MsgAnswer::Yes};
     frmParameta2.cmdParaWrite.Press();
   }
+  void AxesInView() {
+    ParaView();
+    AppState.AxisMuko[3] = True;
+    AllViewsCmdYuko();
+    forms.answers = {MsgAnswer::Yes};
+    frmParameta2.chkTokuParaChange.Set(true);
+    frmParameta2.comboOneAxis.Pick(2);
+  }
+  void WriteAxesAndPara() {
+    Choose({0});
+    WritePara();
+  }
   void VerifyPara() { frmParameta2.cmdConpareCT.Press(); }
   template <auto kTransfer>
   void Transfer() {
@@ -168,6 +192,16 @@ Fields Stages() {
   return fields;
 }
 
+/// The axes that the controller's block 0 holds for whoever reads it next.
+Fields AxesAsRead() {
+  const TransferScope transfer;
+  LiftOffline();
+  static_cast<void>(TusinPortOpen());
+  static_cast<void>(AlarmResetToCt());
+  const int result = ReadCtModeAndAxis();
+  return {std::to_string(result) + " " + std::to_string(AppState.AxisPatternOfCt)};
+}
+
 Fields ShownPositions() {
   Fields fields(1);
   for (int row = kPosiHeaderRows; row < frmPosi.flgdData.Rows(); ++row) {
@@ -179,11 +213,9 @@ Fields ShownPositions() {
 /// All that the controller keeps through a loss of power.
 std::string Committed(const qvr7sim::Controller& ct) {
   std::string memory;
-  for (int n = 1; n <= 10; ++n) memory += ct.CommittedPosition(n);
-  for (int block = 0; block < 14; ++block) memory += ct.CommittedBlock(block);
-  for (int n = 1; n <= 99; ++n) memory += std::to_string(ct.CommittedGroup(n).second) + ",";
-  for (int n = 1; n <= 20; ++n) memory += ct.CommittedMacro(n);
-  for (int block = 0; block < 7; ++block) memory += ct.CommittedSystemBlock(block);
+  for (const char* frame : {"0WP", "0WD", "0WG", "0WS", "0WK"}) {
+    for (const std::string& cell : ct.Cells(frame, true)) memory += cell;
+  }
   return memory;
 }
 
@@ -217,6 +249,7 @@ constexpr SweptFlow kFlows[] = {
     {"read macros", &Trial::Nothing, &Trial::Transfer<ReadSmFromCt>, Stages, false},
     {"read tuning", &Trial::Nothing, &Trial::Transfer<ReadSysParaFromCt>, Stages, false},
     {"write parameters", &Trial::ParaView, &Trial::WritePara, MachineOfPc, false},
+    {"write axes", &Trial::AxesInView, &Trial::WriteAxesAndPara, AxesAsRead, false},
     {"write groups", &Trial::EditTables, &Trial::Transfer<WriteGrpToCt>, Stages, false},
     {"write macros", &Trial::EditTables, &Trial::Transfer<WriteSmToCt>, Stages, false},
     {"write tuning", &Trial::EditTables, &Trial::Transfer<WriteSysParaToCt>, Stages, false},
@@ -238,12 +271,15 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
   AfterFlow Try(const std::function<void(Trial&)>& spoil) {
     const auto run = std::make_unique<Trial>();
     (run.get()->*GetParam().prepare)();
-    run->Forget();
     before_ = {GetParam().look(), Committed(run->Ct())};
+    run->Forget();
     spoil(*run);
     (run.get()->*GetParam().flow)();
+    EXPECT_TRUE(run->Ct().ControlDigits() == "0000" || AppState.AxesMayBeHeld) << "left held";
     sent_ = run->Lines();
     boxes_ = run->BoxCount();
+    run->LetLineServe();
+    bad_data_ = run->BoxShown(TwoLines(384, 385));
     AfterFlow outcome{GetParam().look(), Committed(run->Ct())};
     run->End();
     return outcome;
@@ -251,7 +287,8 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
   void ExpectOneOrTheOther(const AfterFlow& now, const AfterFlow& good) {
     EXPECT_TRUE(now.ct == before_.ct || now.ct == good.ct) << "the controller keeps a half";
     for (std::size_t i = 0; i < now.pc.size(); ++i) {
-      EXPECT_TRUE(now.pc[i] == before_.pc[i] || now.pc[i] == good.pc[i]) << "half of field " << i;
+      EXPECT_TRUE(now.pc[i] == before_.pc[i] || now.pc[i] == good.pc[i])
+          << "half of field " << i << ": " << now.pc[i].substr(0, 60);
     }
     EXPECT_TRUE(GetParam().in_steps || now.pc == before_.pc || now.pc == good.pc) << "half taken";
     EXPECT_TRUE(now == good || boxes_ > 0) << "nobody is told";
@@ -260,6 +297,7 @@ class FaultSweep : public ::testing::TestWithParam<SweptFlow> {
   AfterFlow before_;
   Texts sent_;
   std::size_t boxes_ = 0;
+  bool bad_data_ = false;  ///< told of
 };
 
 TEST_P(FaultSweep, EveryFaultAtEveryLine) {
@@ -278,6 +316,12 @@ TEST_P(FaultSweep, EveryFaultAtEveryLine) {
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kDeaf, lines[at - 1], 0); }),
                         good);
     EXPECT_GT(boxes_, 0u);
+    const bool carries_data = lines[at - 1].starts_with("0W") && lines[at - 1].size() > 10;
+    if (carries_data) {
+      const AfterFlow misheard =
+          Try([&](Trial& trial) { trial.Spoil(FaultKind::kChangedByte, lines[at - 1], 1, 3); });
+      EXPECT_TRUE(misheard.ct == before_.ct || !bad_data_) << "stored all the same";
+    }
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.DieAt(n); }), good);
     const FaultKind kind = kOnce[at % std::size(kOnce)];
     SCOPED_TRACE(qvr7sim::FaultName(kind));

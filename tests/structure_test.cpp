@@ -81,7 +81,7 @@ TEST(Structure, ACircleIsFound) {
 const std::vector<std::string>& Line() {
   static const std::vector<std::string> line{"base",  "forms",  "platform", "state",   "link",
                                              "steps", "device", "session",  "compare", "para",
-                                             "posi",  "data",   "core",     "ui"};
+                                             "posi",  "data",   "motion",   "core",    "ui"};
   return line;
 }
 

@@ -7,6 +7,7 @@
 #include "data/sm_view.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
+#include "motion/motion_view.h"
 #include "para/change_device.h"
 #include "para/device_choice.h"
 #include "para/device_write.h"
@@ -47,6 +48,7 @@ void InstallViews() {
   InstallSysParaView();
   InstallGrpView();
   InstallSmView();
+  InstallMotion();
 }
 
 }  // namespace tr7

@@ -14,6 +14,7 @@
 #include "link/request_queue.h"
 #include "para/device_choice.h"
 #include "platform/doors.h"
+#include "session/followers.h"
 #include "session/session.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
@@ -31,7 +32,6 @@ namespace tr7 {
 namespace {
 
 constexpr const char* kHelpFile = "qvtr7hlp.chm";
-constexpr int kMsgBusy = 5941;
 
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
@@ -85,19 +85,21 @@ bool QueryUnloadFrame(CloseReason reason) {
     return true;
   }
   if (reason == CloseReason::ControlMenu && AppState.ComBusy) {
-    // In words that stop nothing: the transfer goes on. An alarm stays readable.
-    if (!AppState.AlarmOn) frmMain.sbStatusBar.Panels[kPanelError] = Text(kMsgBusy);
-    doors.forms->Beep();
+    TellFlowRuns();  // in words that stop nothing: the transfer goes on
     return true;
   }
   // The views inside the frame are asked here too, while all of them can still stay: later on
   // nothing stops the close.
   const std::vector<View*> views = OpenViews();
-  return std::any_of(views.begin(), views.end(), [](View* view) {
+  const bool refused = std::any_of(views.begin(), views.end(), [](View* view) {
     // A question may have closed another view.
     return view != &frmMain && view->Loaded && view->QueryUnload &&
            view->QueryUnload(CloseReason::Code);
   });
+  if (refused) return true;
+  const std::vector<View*> all = AllViews();
+  return std::any_of(all.begin(), all.end(),
+                     [](View* view) { return view->QueryEnd && view->QueryEnd(); });
 }
 
 bool ChooseOnline() {
@@ -144,6 +146,7 @@ void StartOnlineOfflineChoice() {
 }
 
 void UnloadFrame() {
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   const std::vector<View*> views = OpenViews();
   for (View* view : views) {
     if (view != &frmMain) UnloadView(*view);

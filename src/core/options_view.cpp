@@ -9,6 +9,7 @@
 #include "link/port.h"
 #include "platform/doors.h"
 #include "posi/unit_change.h"
+#include "session/followers.h"
 #include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
@@ -110,6 +111,7 @@ void LoadOptions() {
 
 /// Another port may lead to another machine: nothing that was learned of the former holds there.
 void LeavePort() {
+  Followers.AnotherController();
   if (AppState.Offline) {
     TusinPortCloseForce();
     return;

@@ -11,6 +11,7 @@
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
+#include "motion/motion_view.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/std_table.h"
@@ -19,13 +20,16 @@
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/views.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 void ResetState() {
+  ResetMotion();
   ResetViews();
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};
   CtDev.fill(CtDeviceRecord{});
@@ -45,9 +49,9 @@ void ResetState() {
   CommonTable = CommonTableRecord{};
   SysPara = SysParaRead = SysParaRecord{};
   SysParaKnown = False;
-  GrpTable = GrpStage = GrpTableRecord{};
+  GrpTable = GrpStage = GrpSaved = GrpTableRecord{};
   GrpFlags = GrpFlagsRecord{};
-  SmTable = SmStage = SmTableRecord{};
+  SmTable = SmStage = SmSaved = SmTableRecord{};
   SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
   RenewViews();

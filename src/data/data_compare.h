@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/scope.h"
 #include "compare/compare.h"
 #include "data/data_flows.h"
 
@@ -15,18 +16,19 @@ struct DataComparison {
   const DataKind& kind;
   MsgId title_id;
   Table &held, &stage;
-  Table left_out;           ///< a table that holds nothing
-  bool (*is_other_kind)();  ///< the file read last is of another kind, which has been told
+  Table left_out;  ///< a table that holds nothing
   void (*rows)(const std::array<Table, 2>& sides, CompareList& list);
   /// Takes one row of `there` into the table; false where `there` holds nothing.
   bool (*take)(const Table& there, int key);
   void (*show)();  ///< the table on screen
 };
 
-/// Brings what a source holds in as `side`.
+/// Brings what a source holds in as `side`. The stage holds what it held: files that are opened
+/// later fall back on it.
 template <typename Table>
 [[nodiscard]] bool FetchData(const DataComparison<Table>& data, CompareSource source,
                              const std::string& path, Table& side) {
+  const ScopeExit put_back([&data, before = data.stage] { data.stage = before; });
   switch (source) {
     case CompareSource::Screen:
       data.kind.StoreShown();
@@ -37,7 +39,7 @@ template <typename Table>
       break;
     case CompareSource::File:
       data.stage = data.left_out;
-      if (!ReadDataFileToStage(data.kind, path) || data.is_other_kind()) return false;
+      if (!ReadDataFileToStage(data.kind, path) || data.kind.FileWasRefused()) return false;
       break;
   }
   side = data.stage;

@@ -16,13 +16,14 @@ constexpr int kMsgStopped = 425;
 constexpr int kMsgWritten = 6507;
 constexpr int kMsgSaved = 6508;
 
-/// Asks for a file and reads it. The stage holds the table before: what a file leaves out, and a
-/// file of another kind, bring nothing foreign in.
+/// Asks for a file and reads it. A file of another kind leaves the table in the stage, so that
+/// nothing foreign comes in.
 bool AskAndReadFile(const DataKind& kind, const DataFile& file, MsgId title_id) {
   const auto path = AskOpenPath(file, title_id);
   if (!path || path->empty()) return false;
-  kind.StageFromTable();
-  return ReadDataFileToStage(kind, *path);
+  if (!ReadDataFileToStage(kind, *path)) return false;
+  if (kind.FileWasRefused()) kind.StageFromTable();
+  return true;
 }
 
 void ReportDifferences(const DataKind& kind) {
@@ -53,13 +54,17 @@ void ReadData(const DataKind& kind) {
   const TransferScope transfer;
   kind.StoreShown();
   if (!AskOk(kind.AskRead) || !ConnectOrOpenPort()) return;
-  if (ReadDataToStage(kind) == Outcome::Done) kind.TakeStage();
+  if (ReadDataToStage(kind) != Outcome::Done) return;
+  kind.TakeStage();
+  kind.MarkSaved();
 }
 
 void WriteData(const DataKind& kind) {
   const TransferScope transfer;
   if (!kind.MayBeSent() || !AskYes(kind.AskWrite) || !ConnectOrOpenPort()) return;
-  if (WriteHeld(kind.WriteToCt) == Outcome::Done) TellInStatusPanel(Text(kMsgWritten));
+  if (WriteHeld(kind.WriteToCt) != Outcome::Done) return;
+  kind.MarkSaved();
+  TellInStatusPanel(Text(kMsgWritten));
 }
 
 void VerifyDataToCt(const DataKind& kind) {
@@ -79,7 +84,9 @@ void OpenDataFile(const DataKind& kind) {
   const CommandsOff commands_off;
   const BusyScope busy;
   kind.StoreShown();
-  if (AskAndReadFile(kind, kind.FileToOpen, kind.OpenTitle)) kind.TakeStage();
+  if (!AskAndReadFile(kind, kind.FileToOpen, kind.OpenTitle)) return;
+  kind.TakeStage();
+  if (!kind.FileWasRefused()) kind.MarkSaved();
 }
 
 void SaveDataFile(const DataKind& kind) {
@@ -93,6 +100,7 @@ void SaveDataFile(const DataKind& kind) {
     MsgBox(WithReason(Text(kind.FileNotSaved), *kind.FileFault));
     return;
   }
+  kind.MarkSaved();
   TellInStatusPanel(Text(kMsgSaved, *path));
 }
 

@@ -17,12 +17,14 @@ struct DataKind {
   bool (*MayBeSent)();      ///< the same before a write
   void (*StageFromTable)();
   void (*TakeStage)();         ///< the stage becomes the table and is shown
+  void (*MarkSaved)();         ///< a file or the controller holds the table too
   std::string (*Differing)();  ///< numbers that differ between table and stage: "3,7,"
 
   // The other sides. `FileFault` is why a file could not be read or saved.
   Outcome (*ReadFromCt)();  ///< into the stage
   Outcome (*WriteToCt)();
   int (*ReadFile)(const std::string& path);  ///< into the stage; 0 or 1
+  bool (*FileWasRefused)();  ///< the one read last was of another kind, which has been told
   int (*SaveFile)(const std::string& path);  ///< 0 or 1
   const std::string* FileFault;
   bool FailureEndsSession;  ///< a failed read takes the session offline, whatever has failed
@@ -48,8 +50,8 @@ void SaveDataFile(const DataKind& kind);
 
 /// Reads the controller's table into the stage. What failed or was stopped has been told.
 Outcome ReadDataToStage(const DataKind& kind);
-/// Reads a file into the stage. False after the user has been told; a file of another kind may
-/// count as read.
+/// Reads a file into the stage, where what it leaves out keeps what was read before. False after
+/// the user has been told; a file of another kind may count as read.
 [[nodiscard]] bool ReadDataFileToStage(const DataKind& kind, const std::string& path);
 
 }  // namespace tr7

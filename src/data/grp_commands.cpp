@@ -8,6 +8,7 @@
 #include "data/grp_table.h"
 #include "link/port.h"
 #include "link/reply_fields.h"
+#include "state/text.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
 #include "steps/whole_table.h"
@@ -39,7 +40,8 @@ Outcome ReadGroup(int number, GrpTableRecord& read) {
 Outcome SendGroup(int number) {
   const std::string frame = "0WG" + HexPad(number, 2) + HexPad(GrpTable.GrpStart[number], 3) +
                             HexPad(GrpTable.GrpEnd[number], 3);
-  return SendEchoed({frame, kWriteReplyLength, kTimeoutMs, kEcho});
+  return SendRecord({frame, kWriteReplyLength, kTimeoutMs, kEcho},
+                    Text(6518, std::to_string(number)));
 }
 
 Outcome ReadGroups(GrpTableRecord& read) {
@@ -52,7 +54,7 @@ Outcome SendGroups() {
   Bulk bulk(383, kWriteBarMax, Bulk::Cancel::No);
   const Outcome outcome = bulk.Each(1, kGroups, SendGroup);
   if (outcome != Outcome::Done) return outcome;
-  return SendEchoed({"0WE3", kCommitReplyLength, kTimeoutMs, kEcho});
+  return SendStore({"0WE3", kCommitReplyLength, kTimeoutMs, kEcho});
 }
 
 }  // namespace

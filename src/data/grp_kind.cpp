@@ -80,10 +80,12 @@ const DataKind& GrpKind() {
                              .MayBeSent = MayBeSent,
                              .StageFromTable = GrpStageFromTable,
                              .TakeStage = TakeStage,
+                             .MarkSaved = [] { GrpSaved = GrpTable; },
                              .Differing = Differing,
                              .ReadFromCt = ReadGrpFromCt,
                              .WriteToCt = WriteGrpToCt,
                              .ReadFile = GrpFileRead,
+                             .FileWasRefused = [] { return bool(GrpFlags.GrpFileRefused); },
                              .SaveFile = GrpFileSave,
                              .FileFault = &GrpFlags.GrpFileFaultText,
                              .FailureEndsSession = true,
@@ -106,9 +108,8 @@ const DataKind& GrpKind() {
 void CompareGroups() {
   GrpTableRecord left_out;
   left_out.GrpStart.fill(kLeftOut);
-  const auto is_other_kind = [] { return bool(GrpFlags.GrpFileRefused); };
   CompareData<GrpTableRecord>(
-      {GrpKind(), kMsgTitle, GrpTable, GrpStage, left_out, is_other_kind, Rows, Take, GrpShow});
+      {GrpKind(), kMsgTitle, GrpTable, GrpStage, left_out, Rows, Take, GrpShow});
 }
 
 }  // namespace tr7

@@ -20,6 +20,7 @@ bool GroupDiffers(int n) {
 
 GrpTableRecord GrpTable;
 GrpTableRecord GrpStage;
+GrpTableRecord GrpSaved;
 GrpFlagsRecord GrpFlags;
 
 void GrpStageCommit() { GrpTable = GrpStage; }

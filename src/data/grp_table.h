@@ -28,6 +28,9 @@ extern GrpTableRecord GrpTable;
 /// Where data from the controller or a file lands first.
 extern GrpTableRecord GrpStage;
 
+/// What a file or the controller holds too: as last read, written, opened or saved.
+extern GrpTableRecord GrpSaved;
+
 void GrpStageCommit();     ///< stage to table
 void GrpStageFromTable();  ///< table to stage
 

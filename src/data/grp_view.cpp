@@ -8,7 +8,7 @@
 #include "forms/frm_grp.h"
 #include "forms/frm_main.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -30,8 +30,12 @@ void LoadGroups() {
   GrpShow();
 }
 
+void ForgetGroups() { groups_aside.Keep(GrpTable, GrpTable == GrpSaved); }
+
 void BringBack() {
-  groups_aside.BringBack(GrpTable, frmGrp.cmdGrpRestore);
+  StoreShownGroups();
+  groups_aside.BringBack(GrpTable, GrpSaved);
+  groups_aside.Offer(frmGrp.cmdGrpRestore);
   GrpShow();
 }
 
@@ -52,7 +56,13 @@ void InstallRow(std::size_t row) {
 
 bool RefusesToClose(CloseReason) {
   StoreShownGroups();
-  return AppState.CommandsOffDepth > 0;
+  return FlowKeepsViewsOpen();
+}
+
+bool RefusesToEnd() {
+  StoreShownGroups();
+  const bool unsaved = frmGrp.Loaded && GrpTable != GrpTableRecord{} && GrpTable != GrpSaved;
+  return groups_aside.RefusesToEnd(unsaved, frmGrp.Tag);
 }
 
 void InstallButtons() {
@@ -72,10 +82,16 @@ void InstallGrpView() {
   groups_aside = {};
   f.Load = LoadGroups;
   f.QueryUnload = RefusesToClose;
-  f.Unload = [] { groups_aside.Keep(GrpTable); };
-  f.Activate = f.LayoutChanged = GrpShow;
+  f.QueryEnd = RefusesToEnd;
+  f.Unload = ForgetGroups;
+  // What the groups cover may be other positions now. In program mode an open view stays: only the
+  // menu goes, the data is the user's.
+  f.Activate = f.LayoutChanged = StoreShownGroups;
   f.CmdMuko = [] { SwitchControls(frmGrp, false); };
-  f.CmdYuko = [] { SwitchControls(frmGrp, true); };
+  f.CmdYuko = [] {
+    SwitchControls(frmGrp, true);
+    StoreShownGroups();
+  };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
   InstallButtons();

@@ -1,42 +1,67 @@
 #pragma once
 
-#include <optional>
+#include <algorithm>
+#include <cstddef>
+#include <deque>
 #include <string>
-#include <utility>
 
 #include "forms/control.h"
 #include "platform/doors.h"
+#include "state/message_box.h"
 #include "state/text.h"
 
 namespace tr7 {
 
-/// What a view held when it was closed, until it is taken back or the tool ends. A closed view
-/// forgets its table and asks nothing, so no work dies of it.
+/// What a view held at its last closes, until it is taken back or the tool ends. A closed view
+/// forgets its table and asks nothing, so that no work dies of it.
 template <typename Table>
 class KeptAside {
  public:
-  /// A table that nothing has been put into is not kept.
-  void Keep(const Table& table) {
+  /// Keeps the table, unless nothing was ever put into it. The oldest of many goes.
+  /// `saved`: a file or the controller holds it too.
+  void Keep(const Table& table, bool saved) {
     if (table == Table{}) return;
-    table_ = table;
-    time_ = doors.pump->TimeOfDay();
+    std::erase_if(kept_, [&](const Kept& kept) { return kept.table == table; });
+    kept_.push_front({table, saved, doors.pump->TimeOfDay().substr(0, 5)});
+    if (kept_.size() > kMost) kept_.pop_back();
   }
-  /// What was kept becomes the table, where there is anything; the button follows.
-  void BringBack(Table& table, CommandButton& button) {
-    if (const auto kept = std::exchange(table_, std::nullopt)) table = *kept;
-    Offer(button);
+
+  /// The newest one comes back, and what stood in its place is kept behind the others: pressing on
+  /// goes round. `saved` is the table that a file or the controller holds too.
+  void BringBack(Table& table, Table& saved) {
+    if (kept_.empty()) return;
+    const Kept brought = kept_.front();
+    kept_.pop_front();
+    Keep(table, table == saved);
+    if (table != Table{}) std::rotate(kept_.begin(), kept_.begin() + 1, kept_.end());
+    table = brought.table;
+    if (brought.saved) saved = table;
+  }
+
+  /// The end of the tool loses what is `unsaved` in the open view of this name, and what is kept
+  /// and stands nowhere else: true when the user, asked about either, would rather stay.
+  bool RefusesToEnd(bool unsaved, MsgId name) const {
+    constexpr int kMsgLost = 6491;
+    for (const Kept& kept : kept_) unsaved = unsaved || !kept.saved;
+    return unsaved && MsgBox(Text(kMsgLost, Text(name)), MsgButtons::OkCancel, MsgIcon::Question) !=
+                          MsgAnswer::Ok;
   }
 
   /// Shows the button that brings it back, with its time, while there is something to bring.
   void Offer(CommandButton& button) const {
     constexpr int kMsgBringBack = 6489;
-    button.Visible = table_.has_value();
-    button.Caption = Text(kMsgBringBack, time_);
+    button.Visible = !kept_.empty();
+    button.Caption = Text(kMsgBringBack, kept_.empty() ? std::string() : kept_.front().time);
   }
 
  private:
-  std::optional<Table> table_;
-  std::string time_;
+  static constexpr std::size_t kMost = 8;
+  struct Kept {
+    Table table;
+    bool saved;
+    std::string time;
+  };
+  std::deque<Kept> kept_;
 };
 
 }  // namespace tr7

@@ -8,6 +8,7 @@
 #include "data/sm_table.h"
 #include "link/port.h"
 #include "link/reply_fields.h"
+#include "state/text.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
 #include "steps/whole_table.h"
@@ -51,7 +52,8 @@ Outcome SendMacro(int number) {
   for (const SmStep& step : SmTable[number - 1]) {
     frame += HexPad(step.Command, 1) + HexPad(step.Value, 1);
   }
-  return SendEchoed({frame, kWriteReplyLength, kWriteTimeoutMs, kEcho});
+  return SendRecord({frame, kWriteReplyLength, kWriteTimeoutMs, kEcho},
+                    Text(6519, std::to_string(number)));
 }
 
 Outcome ReadMacros(SmTableRecord& read) {
@@ -64,7 +66,7 @@ Outcome SendMacros() {
   Bulk bulk(383, kMacros + 1, Bulk::Cancel::No);
   const Outcome outcome = bulk.Each(1, kMacros, SendMacro);
   if (outcome != Outcome::Done) return outcome;
-  return SendEchoed({"0WE1", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
+  return SendStore({"0WE1", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
 }
 
 }  // namespace

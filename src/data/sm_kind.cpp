@@ -20,9 +20,11 @@ constexpr int kMsgTitle = 6504, kMsgStep = 5339, kMsgNone = 5335, kMsgBlank = 53
 /// Command of a step that a file leaves out.
 constexpr std::int16_t kLeftOut = std::numeric_limits<std::int16_t>::min();
 
-/// The check may have put steps right.
+/// The check may have put steps right, which does not count as a change by the user.
 bool AreGood() {
+  const bool saved = SmTable == SmSaved;
   const int result = SmData_Check();
+  if (saved) SmSaved = SmTable;
   SmShow();
   if (result == 0) return true;
   MsgBox(Text(921) + "\n\n" + Text(922) + "\n\n" + Text(938) + "\n\n" + SmFlags.SmBadList);
@@ -74,15 +76,17 @@ bool Take(const SmTableRecord& there, int at) {
 }  // namespace
 
 const DataKind& SmKind() {
-  static const DataKind kind{.StoreShown = [] {},  // every key goes to the table at once
+  static const DataKind kind{.StoreShown = [] {},  // done when the commands go off
                              .MayBeCompared = AreGood,
                              .MayBeSent = AreGood,
                              .StageFromTable = SmStageFromTable,
                              .TakeStage = TakeStage,
+                             .MarkSaved = [] { SmSaved = SmTable; },
                              .Differing = Differing,
                              .ReadFromCt = ReadSmFromCt,
                              .WriteToCt = WriteSmToCt,
                              .ReadFile = ReadFile,
+                             .FileWasRefused = [] { return false; },  // counts as a failed read
                              .SaveFile = SmFileSave,
                              .FileFault = &SmFlags.SmFileFaultText,
                              .FailureEndsSession = false,
@@ -105,9 +109,7 @@ const DataKind& SmKind() {
 void CompareMacros() {
   SmTableRecord left_out{};
   for (auto& macro : left_out) macro.fill({kLeftOut, 0});
-  const auto is_other_kind = [] { return false; };  // that counts as a failed read
-  CompareData<SmTableRecord>(
-      {SmKind(), kMsgTitle, SmTable, SmStage, left_out, is_other_kind, Rows, Take, SmShow});
+  CompareData<SmTableRecord>({SmKind(), kMsgTitle, SmTable, SmStage, left_out, Rows, Take, SmShow});
 }
 
 }  // namespace tr7

@@ -33,13 +33,18 @@ void ShowStep(const SmStep& step, SmRow& row) {
   if (code < 0 || code >= static_cast<int>(row.comboMerei.List.size())) return;
   row.comboMerei.ListIndex = code;
   row.txtSmData.Text = code == kSmEnd ? "" : std::to_string(step.Value);
-  row.txtSmData.AllowedChars = SmHighestValue(code) > 4 ? "123456789" : "1234";
-  row.txtSmData.Enabled = code != kSmEnd && AppState.CommandsOffDepth == 0;
+  ShowWhatValueTakes(row);
 }
 
 }  // namespace
 
 int ShownMacro() { return frmSqMcr.UpDownSmNo.Value; }
+
+void ShowWhatValueTakes(SmRow& row) {
+  const int code = row.comboMerei.ListIndex;
+  row.txtSmData.AllowedChars = SmHighestValue(code) > 4 ? "123456789" : "1234";
+  row.txtSmData.Enabled = code != kSmEnd && AppState.CommandsOffDepth == 0;
+}
 
 void SmShow() {
   FrmSqMcr& f = frmSqMcr;

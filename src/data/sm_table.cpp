@@ -14,6 +14,7 @@ bool StepIsGood(SmStep& step) {
 
 SmTableRecord SmTable{};
 SmTableRecord SmStage{};
+SmTableRecord SmSaved{};
 SmFlagsRecord SmFlags;
 
 int SmHighestValue(int command) {

@@ -29,6 +29,9 @@ extern SmTableRecord SmTable;
 /// Where data from the controller or a file lands first.
 extern SmTableRecord SmStage;
 
+/// What a file or the controller holds too: as last read, written, opened or saved.
+extern SmTableRecord SmSaved;
+
 void SmStageCommit();     ///< stage to table
 void SmStageFromTable();  ///< table to stage
 

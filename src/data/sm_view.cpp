@@ -1,5 +1,10 @@
 #include "data/sm_view.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
 #include "base/text_helpers.h"
 #include "data/data_view.h"
 #include "data/kept_aside.h"
@@ -9,7 +14,7 @@
 #include "forms/frm_main.h"
 #include "forms/frm_sq_mcr.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -21,16 +26,43 @@ SmStep& StepAt(std::size_t row) { return SmTable[ShownMacro() - 1][row]; }
 
 // The rows.
 
-void CommandChosen(std::size_t row) {
+/// A command that has been picked and not left yet: going through the list must not cost the step
+/// its value on the way past END.
+struct PickedCommand {
+  std::size_t macro, row;
+};
+std::optional<PickedCommand> picked;
+
+void TakePicked() {
+  if (!picked) return;
+  const auto [macro, row] = *std::exchange(picked, std::nullopt);
+  SmStep& step = SmTable[macro][row];
+  step.Command = static_cast<std::int16_t>(frmSqMcr.Rows[row].comboMerei.ListIndex);
+  if (step.Command == kSmEnd) step.Value = 0;
+  SmShow();
+}
+
+void CommandPicked(std::size_t row) {
+  const PickedCommand now{static_cast<std::size_t>(ShownMacro()) - 1, row};
+  if (picked && picked->row != row) TakePicked();
+  picked = now;
+  ShowWhatValueTakes(frmSqMcr.Rows[row]);
+}
+
+void CommandLeft(std::size_t row) {
   const int code = frmSqMcr.Rows[row].comboMerei.ListIndex;
   if (code < 0 || code >= static_cast<int>(kSmCommands.size())) return doors.forms->Beep();
-  StepAt(row).Command = static_cast<std::int16_t>(code);
-  if (code == kSmEnd) StepAt(row).Value = 0;
+  TakePicked();
+}
+
+void ShowOtherMacro() {
+  TakePicked();
   SmShow();
 }
 
 /// A value out of its command's range becomes 1.
 void ValueEntered(std::size_t row) {
+  TakePicked();
   SmStep& step = StepAt(row);
   if (step.Command == kSmEnd) return;
   if (step.Value >= 1 && step.Value <= SmHighestValue(step.Command)) return;
@@ -47,7 +79,8 @@ void InstallRow(std::size_t row) {
   for (std::size_t code = 0; code < kSmCommands.size(); ++code) {
     shown.comboMerei.AddItem(kSmCommands[code], static_cast<int>(code));
   }
-  shown.comboMerei.Click = [row] { CommandChosen(row); };
+  shown.comboMerei.Click = [row] { CommandPicked(row); };
+  shown.comboMerei.LostFocus = shown.comboMerei.Enter = [row] { CommandLeft(row); };
   shown.txtSmData.GotFocus = [row] { ValueEntered(row); };
   shown.txtSmData.Change = [row] { ValueTyped(row); };
   shown.txtSmData.Enter = [row] {
@@ -58,6 +91,7 @@ void InstallRow(std::size_t row) {
 // The view.
 
 void LoadMacros() {
+  picked.reset();
   for (std::size_t row = 0; row < frmSqMcr.Rows.size(); ++row) {
     frmSqMcr.Rows[row].lblSmStep.Caption = std::to_string(row + 1) + ".";
   }
@@ -67,12 +101,26 @@ void LoadMacros() {
   SmShow();
 }
 
+void ForgetMacros() {
+  TakePicked();
+  macros_aside.Keep(SmTable, SmTable == SmSaved);
+}
+
 void BringBack() {
-  macros_aside.BringBack(SmTable, frmSqMcr.cmdSmRestore);
+  TakePicked();
+  macros_aside.BringBack(SmTable, SmSaved);
+  macros_aside.Offer(frmSqMcr.cmdSmRestore);
   SmShow();
 }
 
+bool RefusesToEnd() {
+  TakePicked();
+  const bool unsaved = frmSqMcr.Loaded && SmTable != SmTableRecord{} && SmTable != SmSaved;
+  return macros_aside.RefusesToEnd(unsaved, frmSqMcr.Tag);
+}
+
 void SwitchCommands(bool on) {
+  TakePicked();
   SwitchControls(frmSqMcr, on);
   SmShow();  // an end takes no value
 }
@@ -92,13 +140,15 @@ void InstallButtons() {
 void InstallSmView() {
   FrmSqMcr& f = frmSqMcr;
   macros_aside = {};
+  picked.reset();
   f.Load = LoadMacros;
-  f.QueryUnload = [](CloseReason) { return AppState.CommandsOffDepth > 0; };
-  f.Unload = [] { macros_aside.Keep(SmTable); };
+  f.QueryUnload = [](CloseReason) { return FlowKeepsViewsOpen(); };
+  f.QueryEnd = RefusesToEnd;
+  f.Unload = ForgetMacros;
   f.CmdMuko = [] { SwitchCommands(false); };
   f.CmdYuko = [] { SwitchCommands(true); };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
-  f.UpDownSmNo.Change = SmShow;
+  f.UpDownSmNo.Change = ShowOtherMacro;
   InstallButtons();
   SwitchControls(f, true);
 }

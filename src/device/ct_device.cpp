@@ -16,6 +16,7 @@
 namespace tr7 {
 
 AxisArray<CtDeviceRecord> CtDev;
+AxisSettingSentRecord AxisSettingSent;
 
 namespace {
 
@@ -69,15 +70,32 @@ bool DeviceDiffers(const DevSettingRecord& pc, const CtDeviceRecord& ct, double 
 
 /// Writes block 0 as it stands in `data` (32 characters).
 int WriteBlock0(const std::string& data) {
-  return SendEchoed({"0WD0" + data, 6, kBlockTimeoutMs, 4}) == Outcome::Done ? 0 : 1;
+  if (SendEchoed({"0WD0" + data, 6, kBlockTimeoutMs, 4}) != Outcome::Done) return 1;
+  AxisSettingSent = {};
+  return 0;
 }
 
 }  // namespace
 
+void MendBlock0(std::string& data) {
+  const AxisSettingSentRecord& sent = AxisSettingSent;
+  if (!sent.Block0Before.empty() && data == sent.Block0Sent) data = sent.Block0Before;
+}
+
+void PutBlock0Back() {
+  if (AxisSettingSent.Block0Before.empty() || AppState.Offline || AppState.AlarmOn) return;
+  static_cast<void>(WriteBlock0(AxisSettingSent.Block0Before));  // a failure has been told
+}
+
 int ReadParaBlock(char block, int timeout_ms, std::string& reply) {
   // All blocks have one length and one prefix: another block's late reply must not pass for this.
   const RecordFrame frame{std::string("0RD") + block, kBlockReplyLength, timeout_ms};
-  return ReadNamed(frame, reply) == Outcome::Done ? 0 : 1;
+  if (ReadNamed(frame, reply) != Outcome::Done) return 1;
+  if (block != '0') return 0;
+  std::string data(ReplyField(reply, kParaDataAt, kParaBlockLength));
+  MendBlock0(data);
+  reply.replace(kParaDataAt - 1, kParaBlockLength, data);
+  return 0;
 }
 
 int ReadCtAxisFromCt() {

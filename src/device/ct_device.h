@@ -22,11 +22,27 @@ struct CtDeviceRecord {
   int MaxPulse = 0;   ///< stroke in pulses
   int Type = 0;
   int PgCode = 0;  ///< 0 none, 1 or 2 fitted
+  bool operator==(const CtDeviceRecord&) const = default;
 };
 
 extern AxisArray<CtDeviceRecord> CtDev;
 
-/// "0RD": one block; `reply` is the whole line.
+/// What a form of the axis mask that spoils block 0 leaves, until a whole block 0 follows it.
+struct AxisSettingSentRecord {
+  std::string Block0Before;  ///< data of block 0 as read; empty: nothing is pending
+  std::string Block0Sent;    ///< the data that took its place
+};
+
+extern AxisSettingSentRecord AxisSettingSent;
+
+/// Every reader of block 0 puts its data (32 characters) through this: where it is the spoilt one,
+/// what that replaced counts.
+void MendBlock0(std::string& data);
+/// Puts back into the controller what `AxisSettingSent` replaced there, where anything is pending
+/// and the line serves; else it stays pending.
+void PutBlock0Back();
+
+/// "0RD": one block; `reply` is the whole line, block 0 mended.
 int ReadParaBlock(char block, int timeout_ms, std::string& reply);
 
 /// Takes command, which opens the port, and reads block 0 into `AxisPattern` and `AxisMuko`. Also

@@ -16,6 +16,10 @@ Control* View::Find(std::string_view name) const {
   return nullptr;
 }
 
+void ControlSpan::SetVisible(bool on) {
+  for (std::size_t i = first_; i < end_; ++i) owner_.Controls[i]->Visible = on;
+}
+
 void TextBox::Type(const std::string& typed) {
   if (!Enabled || !Visible) return;
   std::string taken;
@@ -74,6 +78,12 @@ void ComboBox::Type(const std::string& typed) {
   if (!Enabled || !Visible || !Editable) return;
   TypedText = typed;
   if (!ShowText(typed)) ListIndex = -1;
+}
+
+void Slider::Set(int value) {
+  if (!Enabled || !Visible || value == Value || value < Min || value > Max) return;
+  Value = value;
+  if (Change) Change();
 }
 
 void UpDown::Set(int value) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,6 +34,19 @@ struct Control {
   bool Visible = true;
 };
 
+/// The controls that a part of a view has built: those from the making of this to `Close`.
+class ControlSpan {
+ public:
+  explicit ControlSpan(View& owner) : owner_(owner), first_(owner.Controls.size()) {}
+  void Close() { end_ = owner_.Controls.size(); }
+  void SetVisible(bool on);
+
+ private:
+  View& owner_;
+  std::size_t first_;
+  std::size_t end_ = 0;
+};
+
 struct Label : Control {
   Label(View& owner, const std::string& name, MsgId tag = {})
       : Control(owner, "Label", name, tag) {}
@@ -56,6 +70,7 @@ struct CommandButton : Control {
       : Control(owner, "CommandButton", name, tag) {}
   bool Default = false;  ///< Enter presses it
   bool Cancel = false;   ///< Escape presses it
+  std::string Key;       ///< presses it wherever the focus is in its window, "Ctrl+Up"; empty: none
   Handler<void()> Click;
   /// Presses the button as a user does: nothing when it is off or hidden.
   void Press() {
@@ -121,6 +136,7 @@ struct ComboBox : Control {
   std::string TypedText;      ///< stands while nothing is chosen
   Handler<void()> Click;
   Handler<void()> LostFocus;
+  Handler<void()> Enter;  ///< the Enter key
   void Clear();
   void AddItem(const std::string& text, int data);
   /// The chosen text, else the typed one, or empty.
@@ -146,6 +162,18 @@ struct UpDown : Control {
   UpDown(View& owner, const std::string& name, int min, int max)
       : Control(owner, "UpDown", name), Min(min), Max(max), Value(min) {}
   int Min, Max;
+  int Value;  ///< `Min` to `Max`
+  Handler<void()> Change;
+  /// Sets the value as a user does, where it is allowed and another.
+  void Set(int value);
+};
+
+/// A number on a scale.
+struct Slider : Control {
+  Slider(View& owner, const std::string& name, int min, int max, int step = 1)
+      : Control(owner, "Slider", name), Min(min), Max(max), Step(step), Value(min) {}
+  int Min, Max;
+  int Step;   ///< of a key and of the wheel
   int Value;  ///< `Min` to `Max`
   Handler<void()> Change;
   /// Sets the value as a user does, where it is allowed and another.

@@ -55,6 +55,7 @@ struct FrmMain : View {
   Menu mnuWindowTileVertical{*this, "mnuWindowTileVertical", 5063};
   Menu mnuHelp{*this, "mnuHelp", 5070};
   Menu mnuHelpContents{*this, "mnuHelpContents", 5071};
+  Menu mnuHelpMotionLog{*this, "mnuHelpMotionLog", 5297};
   Menu mnuHelpAbout{*this, "mnuHelpAbout", 5072};
 
   Toolbar tbToolBar{*this,
@@ -78,6 +79,8 @@ struct FrmMain : View {
   Label lblStatus{*this, "lblStatus"};
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   CommandButton cmdComCancel{*this, "cmdComCancel", 5111};
+  Image imgMoving{*this, "imgMoving"};  ///< an axis moves by this tool's command, or may do so
+  CommandButton cmdStopNow{*this, "cmdStopNow", 5118};
   Label lblAlarm{*this, "lblAlarm", 5113};
   Image imgAlarm{*this, "imgAlarm"};
   CommandButton cmdReset{*this, "cmdReset", 5110};
@@ -96,6 +99,9 @@ struct FrmMain : View {
   Timer TimerClosedViews{1, true};  ///< ends the records of views that were closed
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
+  /// The Escape key, wherever the focus is and whatever box stands. True: it has stopped something,
+  /// and means nothing else.
+  Handler<bool()> Escape;
 };
 
 inline Standing<FrmMain> frmMain;

@@ -11,11 +11,8 @@ FrmPosi::FrmPosi() : View("frmPosi") {
     strip->Tabs[1].Enabled = false;
     strip->Tabs[2].Enabled = false;
   }
-  // These commands come with motion and printing; until then they are shown switched off.
-  for (CommandButton* button :
-       {&cmdPosiPrint, &cmdJOGST, &cmdJOGend, &cmdMoveSelect, &cmdMoveContinue}) {
-    button->Enabled = false;
-  }
+  // It comes with printing; until then it is shown switched off.
+  cmdPosiPrint.Enabled = false;
 }
 
 }  // namespace tr7

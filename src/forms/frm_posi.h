@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "base/bool16.h"
+#include "forms/frm_posi_move.h"
+#include "forms/frm_posi_teach.h"
 #include "forms/grid.h"
 
 namespace tr7 {
@@ -14,9 +16,11 @@ namespace tr7 {
 struct FrmPosi : View {
   FrmPosi();
 
-  // The command strip of each mode: tab 0 data, tab 1 teaching, tab 2 move. One strip is on show.
-  TabStrip tabCmd{*this, "tabCmd", {{5220}, {5221}, {5222}}};
-  TabStrip tabCmdPrg{*this, "tabCmdPrg", {{5220}, {5221}, {5222}}};
+  // The command strip of each mode (SSTabCommand): tab 0 data, tab 1 move, tab 2 teaching. One
+  // strip is on show.
+  TabStrip tabCmd{*this, "tabCmd", {{5220}, {5222}, {5221}}};
+  TabStrip tabCmdPrg{*this, "tabCmdPrg", {{5220}, {5222}, {5221}}};
+  TabStrip& SSTabCommand() { return tabCmdPrg.Visible ? tabCmdPrg : tabCmd; }
 
   Frame framController{*this, "framController", 5230};
   CommandButton cmdPosiRead{*this, "cmdPosiRead", 5200};
@@ -36,11 +40,9 @@ struct FrmPosi : View {
   CommandButton cmdPosiCopy{*this, "cmdPosiCopy", 5211};
   CommandButton cmdPosiPaste{*this, "cmdPosiPaste", 5212};
   CommandButton cmdPosiCheck{*this, "cmdPosiCheck", 5213};
-  // Teaching and move, tabs 1 and 2.
-  CommandButton cmdJOGST{*this, "cmdJOGST", 5214};
-  CommandButton cmdJOGend{*this, "cmdJOGend", 5215};
-  CommandButton cmdMoveSelect{*this, "cmdMoveSelect", 5216};
-  CommandButton cmdMoveContinue{*this, "cmdMoveContinue", 5217};
+  PosiReadout Readout{*this};
+  PosiMoveTest Move{*this};
+  PosiTeaching Teach{*this};
 
   // Popup of the grid.
   Menu mnuPopup{*this, "mnuPopup"};
@@ -84,6 +86,10 @@ struct FrmPosi : View {
   Bool16 SaveCancelled;
   std::string RoundedNote;  ///< what became of the text just typed, for the next hint
   std::string OldCellText;
+
+  /// The tab on show, the session or what runs is another: who fills the move and the teaching tab
+  /// shows what holds on them.
+  Handler<void()> MotionTabs;
 };
 
 inline Standing<FrmPosi> frmPosi;

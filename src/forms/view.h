@@ -55,6 +55,8 @@ struct View {
   Handler<void()> Load;  ///< once, before the view is first shown
   /// Asked before the view closes; true refuses.
   Handler<bool(CloseReason)> QueryUnload;
+  /// Asked before the tool ends, also of a view that is closed; true refuses.
+  Handler<bool()> QueryEnd;
   Handler<void()> Unload;
   Handler<void()> Activate;       ///< the view became the active one
   Handler<void()> CmdMuko;        ///< commands off while a long sequence runs

@@ -31,13 +31,23 @@ std::string DirectMoveField(const DirectMoveAxis& axis) {
   return HexPad(axis.velocity, 3) + HexPad(axis.acceleration, 2) + "1" + HexPad(axis.position, 5);
 }
 
+constexpr int kBareReply = 5;  // the command's prefix and CR LF
+
+int Send(const std::string& command, int timeout_ms, const TusinOptions& options) {
+  std::string reply;
+  const TusinOutcome outcome = TusinWait(command, kBareReply, timeout_ms, reply, options);
+  return outcome == TusinOutcome::Good ? 0 : 1;
+}
+
 }  // namespace
 
-int MoveAxesToCt(int position_no, int kind) {
-  std::string reply;
+std::string MoveAxesFrame(int position_no, int kind) {
   const std::string command = kind == 1 ? "0MS" : "0MP";
-  return TusinCommand(command + PositionField(position_no) + Hex(AxesInUseMask()), 5, 1000, reply,
-                      TusinPriority::Start);
+  return command + PositionField(position_no) + Hex(AxesInUseMask());
+}
+
+int MoveAxesToCt(int position_no, int kind) {
+  return Send(MoveAxesFrame(position_no, kind), 1000, {TusinPriority::Start, true});
 }
 
 int StartProgToCt(int program_no) {
@@ -47,27 +57,37 @@ int StartProgToCt(int program_no) {
   return TusinCommand("0MG" + number, 7, 0, reply, TusinPriority::Start);
 }
 
-int StopToCt(int timeout_ms) {
-  std::string reply;
-  return TusinCommand("0SP", 5, timeout_ms, reply, TusinPriority::Next);
+int StopToCt(int timeout_ms, TusinFailure& failure) {
+  return Send("0SP", timeout_ms, {TusinPriority::Next, false, &failure});
 }
 
-int JogStartToCt(int speed_percent, int direction_code) {
+std::string JogStartFrame(int speed_percent, int direction_code) {
   const bool in_range = speed_percent >= 10 && speed_percent <= 90;
   std::string command = "0JR" + std::to_string(in_range ? speed_percent / 10 : 0);
   for (int axis = 0; axis < kAxes; ++axis) {
     command += axis == direction_code / 2 ? std::to_string(direction_code % 2 + 1) : "0";
   }
-  std::string reply;
-  return TusinCommand(command, 5, 1000, reply, TusinPriority::Start);
+  return command;
+}
+
+int JogStartToCt(int speed_percent, int direction_code, TusinFailure& failure) {
+  return Send(JogStartFrame(speed_percent, direction_code), 1000,
+              {TusinPriority::Start, false, &failure});
+}
+
+std::string MoveDirectFrame(const AxisArray<DirectMoveAxis>& axes) {
+  std::string command = "0MV";
+  for (const DirectMoveAxis& axis : axes) command += DirectMoveField(axis);
+  return command;
 }
 
 int MoveDirectToCt(const AxisArray<DirectMoveAxis>& axes, const std::string& tail) {
-  std::string command = "0MV";
-  for (const DirectMoveAxis& axis : axes) command += DirectMoveField(axis);
-  last_move_direct_text = command + tail;
-  std::string reply;
-  return TusinCommand(last_move_direct_text, 5, 1000, reply, TusinPriority::Start);
+  return MoveDirectTextToCt(MoveDirectFrame(axes) + tail);
+}
+
+int MoveDirectTextToCt(const std::string& text) {
+  last_move_direct_text = text;
+  return Send(text, 1000, {TusinPriority::Start, true});
 }
 
 const std::string& LastMoveDirectText() { return last_move_direct_text; }

@@ -12,7 +12,7 @@ RequestQueue TusinQueue;
 
 namespace {
 
-bool IsOrdinary(const TusinRequest& request) { return request.priority != TusinPriority::Next; }
+bool IsNoStop(const TusinRequest& request) { return request.priority != TusinPriority::Next; }
 bool IsStart(const TusinRequest& request) { return request.priority == TusinPriority::Start; }
 
 }  // namespace
@@ -21,7 +21,7 @@ bool RequestQueue::Put(TusinRequest& request) {
   if (request.priority == TusinPriority::Next) {
     EndWaiting(TusinEnd::Withdrawn, IsStart);
     waiting.insert(std::find_if(waiting.begin(), waiting.end(),
-                                [](const TusinRequest* row) { return IsOrdinary(*row); }),
+                                [](const TusinRequest* row) { return IsNoStop(*row); }),
                    &request);
     return true;
   }
@@ -66,11 +66,15 @@ bool RequestQueue::StopWaits() const {
   return !waiting.empty() && waiting.front()->priority == TusinPriority::Next;
 }
 
-void TusinQueueClear() { TusinQueue.EndWaiting(TusinEnd::GivenUp, IsOrdinary); }
+void TusinQueueClear() { TusinQueue.EndWaiting(TusinEnd::GivenUp, IsNoStop); }
 
 bool IsCancelled(const TusinRequest& request) {
   return request.may_cancel && AppState.CancelRequested && AppState.ProgressWriting &&
          frmMain.cmdComCancel.Visible;
+}
+
+bool RequestQueue::StopIsServed() const {
+  return on_line && on_line->priority == TusinPriority::Next;
 }
 
 bool LineIsBarred() { return AppState.Offline || AppState.Closing || TusinQueue.untold != nullptr; }

@@ -26,6 +26,7 @@ struct TusinRequest {
   TusinPriority priority = TusinPriority::Ordinary;
   bool may_cancel = false;  ///< the cancel button, when it is pressed from now on, ends it
 
+  int sends = 0;  ///< how often it has been handed to the port
   bool done = false;
   TusinEnd end = TusinEnd::GivenUp;
   std::string reply;  ///< with CR LF; of `TusinEnd::Good`
@@ -53,6 +54,7 @@ struct RequestQueue {
   /// Ends the waiting requests that the condition picks; they are done.
   void EndWaiting(TusinEnd end, bool (*picks)(const TusinRequest& request));
   bool StopWaits() const;
+  bool StopIsServed() const;
 };
 
 extern RequestQueue TusinQueue;

@@ -60,9 +60,10 @@ int CtControlModeSet(int mode, int m, int mask) {
   return 0;
 }
 
-int ReadAlarmFromCt() {
+int ReadAlarmFromCt(TusinFailure* failure) {
   std::string reply;
-  if (TusinCommand("0RA", 6, 2000, reply) != 0) return -1;
+  const TusinOptions options{.failure = failure};
+  if (TusinWait("0RA", 6, 2000, reply, options) != TusinOutcome::Good) return -1;
   const std::string digit = reply.substr(3, 1);
   // The digit is read as a decimal one: a mask above 9 never equals it, and only "F" says that all
   // axes of such a controller stand still.

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "link/tusin_wait.h"
+
 namespace tr7 {
 
 // Commands on the controller's state. 0 success, 1 failure, unless told otherwise; the exchange has
@@ -17,8 +19,9 @@ int CtComStart(int show_message = 1);
 /// state.
 int CtControlModeSet(int mode, int m, int mask);
 
-/// "0RA": 1 all axes stand still, 0 an axis moves, -1 failure.
-int ReadAlarmFromCt();
+/// "0RA": 1 all axes stand still, 0 an axis moves, -1 failure. Where `failure` is given it takes a
+/// failure, and nobody is told.
+int ReadAlarmFromCt(TusinFailure* failure = nullptr);
 
 /// "0RH": sets `AllHomed`.
 int ReadHomeStateFromCt();

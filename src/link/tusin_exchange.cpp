@@ -33,17 +33,19 @@ constexpr const char* kErrorPrefix = "0%%";
 
 // What the sequence asks and waits for.
 
-/// A stop waits, and this start of a movement is not to follow it.
+/// A stop waits: this start of a movement is not to follow it, and nothing else holds it up.
 bool IsOvertaken(const TusinRequest& request) {
-  return request.priority == TusinPriority::Start && TusinQueue.StopWaits();
+  return request.priority != TusinPriority::Next && TusinQueue.StopWaits();
 }
 /// It must not go out, or not once more.
 bool IsWithdrawn(const TusinRequest& request) {
   return IsCancelled(request) || IsOvertaken(request);
 }
-/// Its reply is not waited for any longer: what has no time-out must not hold a stop up.
+/// Its reply is not waited for any longer. A start of a movement is given its time: what it has
+/// set in motion is known only by its reply. What has no time-out must not hold a stop up.
 bool IsCutShort(const TusinRequest& request) {
-  return IsCancelled(request) || (request.timeout_ms == 0 && IsOvertaken(request));
+  const bool start = request.priority == TusinPriority::Start && request.timeout_ms != 0;
+  return IsCancelled(request) || (!start && IsOvertaken(request));
 }
 
 bool IsTimedOut(const TusinRequest&) { return AppState.TusinTimedOut; }
@@ -84,6 +86,21 @@ std::string_view LastLine(std::string_view lines) {
   return end == std::string_view::npos ? lines : lines.substr(end + 2);
 }
 
+/// A stop that cut something short may meet the reply to that first, ahead of its own or alone.
+/// True: its own is still to come.
+bool DropLateReply(const TusinRequest& request) {
+  if (request.priority != TusinPriority::Next || !TusinQueue.late_reply_possible ||
+      !AppState.TusinReplyReady) {
+    return false;
+  }
+  const std::string prefix = request.message.substr(0, kPrefixLength);
+  if (AppState.TusinReplyText.starts_with(prefix)) return false;
+  TusinQueue.late_reply_possible = false;
+  AppState.TusinReplyText = LastLine(AppState.TusinReplyText);
+  AppState.TusinReplyReady = AppState.TusinReplyText.starts_with(prefix);
+  return !AppState.TusinReplyReady;
+}
+
 TusinEnd JudgeReply(TusinRequest& request) {
   const std::string& reply = AppState.TusinReplyText;
   if (reply.starts_with(kErrorPrefix)) return TusinEnd::ErrorReply;
@@ -122,10 +139,12 @@ Exchange TusinExchange(TusinRequest& request) {
     }
 
     for (int sends = 1;; ++sends) {
+      ++request.sends;
       if (!SendLine(request.message, request.timeout_ms, request.reply_length)) {
         co_return PortLost();
       }
       co_await Until{IsAnsweredOrCutShort};
+      if (DropLateReply(request)) co_await Until{IsAnswered};
       if (IsCutShort(request)) {
         StartTimeout(kCutShortMs);
         co_await Until{IsAnswered};

@@ -14,9 +14,31 @@ namespace {
 
 bool Every(const TusinRequest&) { return true; }
 
-void GiveUpAll() {
-  if (TusinQueue.on_line) TusinQueue.FinishOnLine(TusinEnd::GivenUp);
-  TusinQueue.EndWaiting(TusinEnd::GivenUp, Every);
+/// A stop is let through where the line is barred only by a failure that has not been told yet:
+/// what moves must be stopped before anyone is told.
+bool StopMayGo() {
+  const bool stop = TusinQueue.StopWaits() || TusinQueue.StopIsServed();
+  return stop && !AppState.Closing && !AppState.Offline;
+}
+
+bool IsNoStop(const TusinRequest* request) {
+  return request && request->priority != TusinPriority::Next;
+}
+
+/// There is a request that must not go out.
+bool MustGiveUp() {
+  const RequestQueue& queue = TusinQueue;
+  if (!LineIsBarred() || queue.IsEmpty()) return false;
+  return !StopMayGo() || IsNoStop(queue.on_line) ||
+         std::any_of(queue.waiting.begin(), queue.waiting.end(), IsNoStop);
+}
+
+void GiveUp() {
+  const bool all = !StopMayGo();
+  if (TusinQueue.on_line && (all || IsNoStop(TusinQueue.on_line))) {
+    TusinQueue.FinishOnLine(TusinEnd::GivenUp);
+  }
+  all ? TusinQueue.EndWaiting(TusinEnd::GivenUp, Every) : TusinQueueClear();
 }
 
 /// A good reply means that the line is online and that no alarm stands.
@@ -52,7 +74,8 @@ void NoteFailure(const TusinRequest& request) {
   }
   // The others' requests were meant for a line in order.
   TusinQueueClear();
-  if (LineIsBarred()) GiveUpAll();
+  if (TusinQueue.StopWaits()) LiftOffline();
+  if (MustGiveUp()) GiveUp();
 }
 
 void Settle(TusinRequest& request, TusinEnd end) {
@@ -67,14 +90,14 @@ void Settle(TusinRequest& request, TusinEnd end) {
 bool TimerTusinHasWork() {
   const RequestQueue& queue = TusinQueue;
   if (queue.IsEmpty()) return false;
-  if (LineIsBarred() || !queue.on_line || queue.exchange.IsReady(*queue.on_line)) return true;
+  if (MustGiveUp() || !queue.on_line || queue.exchange.IsReady(*queue.on_line)) return true;
   return std::any_of(queue.waiting.begin(), queue.waiting.end(),
                      [](const TusinRequest* row) { return IsCancelled(*row); });
 }
 
 void TimerTusinTick() {
   RequestQueue& queue = TusinQueue;
-  if (LineIsBarred()) return GiveUpAll();
+  if (MustGiveUp()) GiveUp();
   queue.EndWaiting(TusinEnd::Withdrawn, IsCancelled);
   if (queue.IsEmpty()) return;
   if (!queue.on_line) queue.exchange = TusinExchange(queue.TakeNext());
@@ -99,6 +122,7 @@ void TimerJusinTick() {
   buffer.clear();
   if (AppState.TusinReplyText.starts_with("0%%")) {
     AppState.AlarmOn = True;
+    AppState.HomeDone = False;
     AppState.LastCtErrorText = AppState.TusinReplyText;
     ErrorHyoji();
   }

@@ -57,9 +57,10 @@ std::string FailureText(TusinEnd end) {
 }
 
 /// Tells the user; where the line is shut until then, the state goes offline behind the box.
-void TellFailure(const TusinRequest& request, bool show_message) {
+void TellFailure(const TusinRequest& request, const TusinOptions& options) {
   const std::string text = FailureText(request.end);
-  if (show_message && !text.empty()) MsgBox(text);
+  if (options.failure) options.failure->text = text;
+  if (options.show_message && !options.failure && !text.empty()) MsgBox(text);
   if (TusinQueue.untold != &request) return;
   TusinPortCloseForce();
   SetOffline();
@@ -79,6 +80,7 @@ TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout
   const Queued queued(request);
   if (!queued) return TusinOutcome::QueueFull;
   while (!request.done) Pump();
+  if (options.failure) *options.failure = {request.end, request.sends, {}};
   switch (request.end) {
     case TusinEnd::Good:
       reply = request.reply;
@@ -88,8 +90,8 @@ TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout
     case TusinEnd::GivenUp:
       return TusinOutcome::Failed;
     default:
-      TellFailure(request, options.show_message);
-      TusinAbort();
+      TellFailure(request, options);
+      if (!options.failure) TusinAbort();
       return TusinOutcome::Failed;
   }
 }

@@ -14,9 +14,18 @@ enum class TusinOutcome {
   Withdrawn,  ///< the user cancelled it, or a stop overtook it; nobody has been told
 };
 
+/// What became of a request that failed, for a caller that has something to do before it tells.
+struct TusinFailure {
+  TusinEnd end = TusinEnd::Good;
+  int sends = 0;     ///< how often the request has been handed to the port
+  std::string text;  ///< the words for the user; empty where there is nothing to tell
+};
+
 struct TusinOptions {
   TusinPriority priority = TusinPriority::Ordinary;
   bool show_message = true;  ///< the user is told of a failure of this request
+  /// Where given, it takes the failure: nobody is told, and the call returns at once.
+  TusinFailure* failure = nullptr;
 };
 
 /// Queues one request and pumps until it is done. It may be called from any handler, also inside

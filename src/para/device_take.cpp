@@ -25,8 +25,8 @@ void TakeNewType() {
 }  // namespace
 
 bool TakeDeviceFieldsOfParam() {
-  // What a controller reported earlier says nothing of devices chosen here, so type and PG come
-  // from the choice.
+  // What a controller reported earlier says nothing of devices chosen here, nor of those that a
+  // write has just put in their place: type and PG come from the parameters' side.
   CtDev.fill(CtDeviceRecord{});
   TakeDevFromParam2();
   ParaFlags.ShownAxisCount = 0;

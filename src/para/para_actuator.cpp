@@ -112,6 +112,11 @@ void SizePicked(int axis) {
 
 }  // namespace
 
+DeviceListKind CatalogueOf(int axis) {
+  const DevSettingRecord& device = DevSetting[axis];
+  return device.NotChosen || device.NewType ? DeviceListKind::New : DeviceListKind::Old;
+}
+
 void ShowActuator(int axis) {
   FrmParameta2& f = frmParameta2;
   ClearActuator(axis);

@@ -11,7 +11,7 @@ namespace tr7 {
 bool ParaRowInRange(const ParamSetRecord& set, int row, int axis);
 
 /// Range check of `ParamSet` over the live axes and the controller rows: 0 good, 1 some value is
-/// out of range. Shows nothing: callers show messages 9 and 10.
+/// out of range. Shows nothing: callers show messages 1524 and 1525.
 int ParametaValueCheck();
 
 }  // namespace tr7

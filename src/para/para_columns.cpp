@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "device/device_list.h"
+#include "device/device_list_file.h"
 #include "forms/frm_parameta2.h"
 #include "para/para_actuator.h"
 #include "para/para_axis_show.h"
@@ -48,6 +50,13 @@ void EnableButtons(bool on) {
   }
 }
 
+/// An axis that was not in use may have no list in memory yet. Here columns are drawn anew, often
+/// within a flow, so nothing is told: what is wrong with the file was told with the first column.
+void NeedDeviceList(int axis) {
+  if (DeviceList[axis].RowCount > 0) return;
+  DevListMissing[axis] = !ReadDeviceListFile(CatalogueOf(axis), DeviceList[axis]).Read;
+}
+
 }  // namespace
 
 void EnableParaControls() {
@@ -73,6 +82,7 @@ void SettleParaColumns() {
     bool& shown = frmParameta2.LiveColumns[axis];
     if (!live) ClearParaAxis(axis);
     if (live && !shown) {
+      NeedDeviceList(axis);
       ParamSet.Actuator[axis].empty() ? ShowActuator(axis) : ShowParaAxis(axis);
     }
     shown = live;

@@ -16,6 +16,7 @@
 #include "para/para_flows.h"
 #include "para/para_show.h"
 #include "para/para_take_view.h"
+#include "para/para_transfer_commands.h"
 #include "para/para_value_text.h"
 #include "para/para_verify.h"
 #include "para/param_set.h"
@@ -61,7 +62,7 @@ bool Fetch(CompareSource source, const std::string& path, FilledCheck& filled, P
   }
   if (!FetchTable(source, path)) return false;
   side = {ParamSetOfTable().value_or(ParamSetRecord{}),
-          source == CompareSource::Controller ? AxesInUseMask() : kAllAxesMask};
+          source == CompareSource::Controller ? ParaOfCt.AxisMask : kAllAxesMask};
   return true;
 }
 

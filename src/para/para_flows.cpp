@@ -65,8 +65,9 @@ void ShowRead() {
 
 bool ViewMayBeCompared(FilledCheck& filled) { return filled.Holds() && TakeParaView(1524, 1525); }
 
-void ReportComparison() {
-  switch (BuildParaVerifyReport()) {
+/// `mask`: the axes that the other side has.
+void ReportComparison(int mask) {
+  switch (BuildParaVerifyReport(mask)) {
     case 0:
       return TellDone(826);
     case 1:
@@ -104,7 +105,7 @@ void VerifyParaToCt() {
   FilledCheck filled;
   const TransferScope transfer;
   if (!ViewMayBeCompared(filled) || !ConnectOrOpenPort()) return;
-  if (ParametersAreRead()) ReportComparison();
+  if (ParametersAreRead()) ReportComparison(ParaOfCt.AxisMask);
 }
 
 void VerifyParaToFile() {
@@ -112,7 +113,7 @@ void VerifyParaToFile() {
   const CommandsOff commands_off;
   const BusyScope busy;
   if (!ViewMayBeCompared(filled) || !AskOk(679)) return;
-  if (ReadParaFileToVerify()) ReportComparison();
+  if (ReadParaFileToVerify()) ReportComparison(LiveAxisMask());
 }
 
 }  // namespace tr7

@@ -5,10 +5,13 @@
 
 #include "base/text_helpers.h"
 #include "device/unit_conversion.h"
+#include "forms/frm_system_para.h"
 #include "para/para_fields.h"
 #include "para/para_mm.h"
 #include "para/para_transfer_commands.h"
 #include "para/para_value_text.h"
+#include "para/sys_para.h"
+#include "para/sys_para_show.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -103,6 +106,14 @@ void MarkParaFields() {
   for (const ParaOptionField& field : ParaOptionFields()) MarkOptions(field);
   for (int axis = 0; axis < kAxes; ++axis) MarkDevice(axis);
   MarkAxisList();
+}
+
+void ForgetWhatCtHeld() {
+  ParaOfCt = {};
+  SysParaRead = {};
+  SysParaKnown = False;
+  if (frmParameta2.Loaded) MarkParaFields();
+  if (frmSystemPara.Loaded) MarkSysParaFields();
 }
 
 void InstallParaMarks() {

@@ -19,7 +19,6 @@
 
 namespace tr7 {
 
-AxisSettingSentRecord AxisSettingSent;
 ParaOfCtRecord ParaOfCt;
 
 namespace {
@@ -37,13 +36,26 @@ Outcome ReadBlock(int block, std::string& data) {
   std::string reply;
   const std::string frame = std::string("0RD") + ParaBlockChar(block);
   const Outcome outcome = ReadNamed({frame, kReadReplyLength, kTimeoutMs}, reply);
-  if (outcome == Outcome::Done) data = ReplyField(reply, kParaDataAt, kParaBlockLength);
+  if (outcome != Outcome::Done) return outcome;
+  data = ReplyField(reply, kParaDataAt, kParaBlockLength);
+  if (block == 0) MendBlock0(data);
   return outcome;
+}
+
+/// A block in the user's words: whose it is.
+std::string BlockName(int block) {
+  const std::string name(1, ParaBlockChar(block));
+  const int of_axes = block - ParaBlockOfAxis(0, 0);
+  if (of_axes < 0) return Text(6520, name);
+  return Text(6521, name, Text(MsgId::At(220, of_axes / 3)));  // AXIS1 to AXIS4
 }
 
 Outcome SendBlock(int block, const std::string& data, int timeout_ms) {
   const std::string frame = std::string("0WD") + ParaBlockChar(block) + data;
-  return SendEchoed({frame, kWriteReplyLength, timeout_ms, kEcho});
+  const Outcome outcome =
+      SendRecord({frame, kWriteReplyLength, timeout_ms, kEcho}, BlockName(block));
+  if (block == 0 && outcome == Outcome::Done) AxisSettingSent = {};
+  return outcome;
 }
 
 /// Runs `step` for each of these blocks.
@@ -52,37 +64,31 @@ Outcome EachBlock(Bulk& bulk, const std::vector<int>& wanted,
   return bulk.Each(0, static_cast<int>(wanted.size()) - 1, [&](int i) { return step(wanted[i]); });
 }
 
-/// The axis mask's own form has spoilt what block 0 keeps beside the rows: what it replaced counts.
-void MendBlock0(std::string& data) {
-  if (!AxisSettingSent.Block0Before.empty() && data == AxisSettingSent.Block0Sent) {
-    data = AxisSettingSent.Block0Before;
-  }
-}
-
 /// `ParamSet` into the blocks. A row that does not fit has been told.
 Outcome Fill(const AxisList& axes, ParaBlocks& blocks) {
-  MendBlock0(blocks[0]);
   const std::optional<ParaCell> misfit = EncodePara(ParamSet, axes, blocks);
   if (!misfit) return Outcome::Done;
   MsgBox(Text(kMsgMisfit, ParaCellName(*misfit)));
   return Outcome::Failed;
 }
 
-/// Reads the blocks, fills and sends them, and has the controller store them.
-Outcome WriteBlocks(const AxisList& axes) {
+/// Reads the blocks, fills and sends them behind what `ahead` sends, and has the controller store
+/// them.
+Outcome WriteBlocks(const AxisList& axes, Outcome (*ahead)()) {
   const std::vector<int> wanted = ParaBlocksFor(axes);
   ParaBlocks blocks;
   Bulk bulk(383, 2 * static_cast<int>(wanted.size()) + 1, Bulk::Cancel::No);
   Outcome outcome =
       EachBlock(bulk, wanted, [&](int block) { return ReadBlock(block, DataOf(blocks, block)); });
   if (outcome == Outcome::Done) outcome = Fill(axes, blocks);
+  if (outcome == Outcome::Done && ahead) outcome = ahead();
   if (outcome == Outcome::Done) {
     outcome = EachBlock(bulk, wanted, [&](int block) {
       return SendBlock(block, DataOf(blocks, block), kTimeoutMs);
     });
   }
   if (outcome == Outcome::Done) {
-    outcome = SendEchoed({"0WE2", kWriteReplyLength, kTimeoutMs, kEcho});
+    outcome = SendStore({"0WE2", kWriteReplyLength, kTimeoutMs, kEcho});
     bulk.Advance();
   }
   return outcome;
@@ -93,6 +99,13 @@ Outcome ReadBlocks(const AxisList& axes, ParaBlocks& blocks) {
   Bulk bulk(368, static_cast<int>(wanted.size()), Bulk::Cancel::Yes);
   return EachBlock(bulk, wanted,
                    [&](int block) { return ReadBlock(block, DataOf(blocks, block)); });
+}
+
+Outcome WritePara(Outcome (*ahead)()) {
+  const Outcome outcome = WriteBlocks(AxisList(LiveAxisMask()), ahead);
+  TusinPortClose();
+  if (outcome == Outcome::Done) ParaOfCt = {true, LiveAxisMask(), ParamSet};
+  return outcome;
 }
 
 }  // namespace
@@ -109,26 +122,26 @@ Outcome ReadParaFromCt() {
   return Outcome::Done;
 }
 
-Outcome WriteParaToCt() {
-  const Outcome outcome = WriteBlocks(AxisList(LiveAxisMask()));
-  TusinPortClose();
-  if (outcome != Outcome::Done) return outcome;
-  AxisSettingSent = {};
-  ParaOfCt = {true, LiveAxisMask(), ParamSet};
+Outcome WriteParaToCt() { return WritePara(nullptr); }
+
+Outcome WriteAxesAndParaToCt() {
+  const Outcome outcome = WritePara(WriteAxisSettingToCt);
+  if (outcome != Outcome::Done) PutBlock0Back();
   return outcome;
 }
 
 Outcome WriteAxisSettingToCt() {
   std::string reply;
   if (ReadParaBlock('0', kAxisTimeoutMs, reply) != 0) return Outcome::Failed;
-  std::string before(ReplyField(reply, kParaDataAt, kParaBlockLength));
-  MendBlock0(before);
+  const std::string before(ReplyField(reply, kParaDataAt, kParaBlockLength));
   // Meant so: the block character stands at the head of the data as well, and the mask lands away
   // from its place in the block. The parameters that follow put the block right.
   const std::string data = std::string(ReplyField(reply, 4, 12)) + HexPad(AxesInUseMask(), 2) +
                            std::string(ReplyField(reply, 18, 18));
+  const Outcome outcome = SendBlock(0, data, kAxisTimeoutMs);
+  // An answer that is lost does not say whether the block was taken.
   AxisSettingSent = {before, data};
-  return SendBlock(0, data, kAxisTimeoutMs);
+  return outcome;
 }
 
 }  // namespace tr7

@@ -19,17 +19,13 @@ Outcome ReadParaFromCt();
 /// A row that its place cannot hold is named in a box, and nothing is written.
 Outcome WriteParaToCt();
 
-/// The axis mask by `AxisMuko` as the parameter write sends it ahead of the blocks: a form of its
-/// own, which `WriteParaToCt` must follow.
+/// The same, with the axis mask by `AxisMuko` ahead of the blocks (`WriteAxisSettingToCt`). Nothing
+/// is sent before every row is known to fit, and block 0 is put back where it would stay spoilt.
+Outcome WriteAxesAndParaToCt();
+
+/// The axis mask by `AxisMuko` in a form of its own, which spoils block 0 (`AxisSettingSent`): a
+/// whole one must follow.
 Outcome WriteAxisSettingToCt();
-
-/// What the form of `WriteAxisSettingToCt` leaves for the write behind it.
-struct AxisSettingSentRecord {
-  std::string Block0Before;  ///< data of block 0 as read; empty: nothing is pending
-  std::string Block0Sent;    ///< the data that took its place
-};
-
-extern AxisSettingSentRecord AxisSettingSent;
 
 /// The parameters that the controller is last known to hold: as read, or as written and stored.
 struct ParaOfCtRecord {

@@ -33,11 +33,11 @@ std::string Label(int row, int axis) {
   return ParaCellName({row, axis}) + (row == kRowPputWrite ? "" : ",");
 }
 
-std::string LineOf(const VerifyGroup& group, const ParamSetRecord& other) {
-  const AxisList live(LiveAxisMask()), first_alone(1);
+std::string LineOf(const VerifyGroup& group, const AxisList& axes, const ParamSetRecord& other) {
+  const AxisList first_alone(1);
   std::string line;
   for (int row = group.FirstRow; row <= group.LastRow; ++row) {
-    for (const int axis : IsAxisRow(row) ? live : first_alone) {
+    for (const int axis : IsAxisRow(row) ? axes : first_alone) {
       if (!SameParaCell(ParamSet, other, {row, axis})) line += Label(row, axis);
     }
   }
@@ -51,13 +51,13 @@ bool SameParaCell(const ParamSetRecord& a, const ParamSetRecord& b, const ParaCe
   return ParaValue(a, cell.Row, cell.Axis) == ParaValue(b, cell.Row, cell.Axis);
 }
 
-int BuildParaVerifyReport() {
+int BuildParaVerifyReport(int mask) {
   ParaFlags.VerifyLines.fill({});
   const std::optional<ParamSetRecord> other = ParamSetOfTable();
   if (!other) return -1;
   bool equal = true;
   for (std::size_t i = 0; i < kGroups.size(); ++i) {
-    ParaFlags.VerifyLines[i] = LineOf(kGroups[i], *other);
+    ParaFlags.VerifyLines[i] = LineOf(kGroups[i], AxisList(mask), *other);
     equal = equal && ParaFlags.VerifyLines[i].empty();
   }
   return equal ? 0 : 1;

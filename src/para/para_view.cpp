@@ -1,6 +1,5 @@
 #include "para/para_view.h"
 
-#include "device/dev_setting.h"
 #include "device/device_list.h"
 #include "forms/frm_main.h"
 #include "para/para_actuator.h"
@@ -16,7 +15,9 @@
 #include "para/para_sp.h"
 #include "para/para_typing.h"
 #include "para/stroke_calc.h"
+#include "session/followers.h"
 #include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -29,7 +30,7 @@ constexpr int kMsgSaveBeforeOpen = 6450;
 void ReadDeviceLists() {
   for (const int axis : AxisList(LiveAxisMask())) {
     if (DeviceList[axis].RowCount > 0) continue;
-    const bool is_new = DevSetting[axis].NotChosen || DevSetting[axis].NewType;
+    const bool is_new = CatalogueOf(axis) == DeviceListKind::New;
     if ((is_new ? ReadDeviceListNewAxis(axis) : ReadDeviceListOldAxis(axis)) != 0) return;
   }
 }
@@ -71,7 +72,7 @@ void UnloadParaView() {
 }
 
 bool QueryUnloadView(CloseReason) {
-  return frmParameta2.CommandsAreOff || !MayDropParaChanges(kMsgSaveBeforeClose);
+  return FlowKeepsViewsOpen() || !MayDropParaChanges(kMsgSaveBeforeClose);
 }
 
 void OpenParameters() {
@@ -110,6 +111,7 @@ void InstallParaView() {
   InstallParaTyping();
   InstallParaSp();
   InstallActuatorLists();
+  Followers.AnotherController = ForgetWhatCtHeld;
   InstallParaMarks();  // behind what the fields do by themselves
   f.Commands.Open = OpenParameters;
   frmMain.mnuViewPara.Click = [] { ShowOrBringToFront(frmParameta2); };

@@ -81,22 +81,12 @@ bool ViewIsTaken(AxesOf axes) {
   return true;
 }
 
-/// The form of the axes goes ahead of the parameters, which put it right: only here nothing can
-/// come between the two.
-Outcome Send(AxesOf axes) {
-  if (axes == AxesOf::Pc) {
-    const Outcome sent = WriteAxisSettingToCt();
-    if (sent != Outcome::Done) return sent;
-  }
-  return WriteParaToCt();
-}
-
 /// False after the user has been told. Parameters that are stored count, whatever became of the
 /// axes' release behind them.
 bool Write(AxesOf axes) {
   std::optional<Outcome> sent;
   static_cast<void>(WriteHeld([&] {
-    sent = Send(axes);
+    sent = axes == AxesOf::Pc ? WriteAxesAndParaToCt() : WriteParaToCt();
     return *sent;
   }));
   if (sent && *sent != Outcome::Done) Tell(kMsgWriteFailed);

@@ -10,6 +10,7 @@
 #include "link/port.h"
 #include "link/reply_fields.h"
 #include "para/sys_para.h"
+#include "state/text.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
 #include "steps/whole_table.h"
@@ -67,8 +68,9 @@ Outcome SendBlock(std::size_t number) {
     const double value = std::nearbyint(SysPara[block.FirstSlot + i]);
     frame += HexPad(static_cast<std::int64_t>(value), static_cast<int>(block.Width));
   }
-  return SendEchoed(
-      {frame, kWriteReplyLength, kWriteTimeoutMs, number < kComparedBlocks ? kEcho : 0});
+  return SendRecord(
+      {frame, kWriteReplyLength, kWriteTimeoutMs, number < kComparedBlocks ? kEcho : 0},
+      Text(6522, NameOf(number)));
 }
 
 Outcome ReadBlocks(SysParaRecord& read) {
@@ -82,7 +84,7 @@ Outcome SendBlocks() {
   const Outcome outcome =
       bulk.Each(0, kBlockCount - 1, [](int number) { return SendBlock(number); });
   if (outcome != Outcome::Done) return outcome;
-  return SendEchoed({"0WF", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
+  return SendStore({"0WF", kCommitReplyLength, kWriteTimeoutMs, kCommitEcho});
 }
 
 }  // namespace

@@ -38,9 +38,9 @@ int SysParaFieldsFilled() {
 void MarkSysParaFields() {
   for (std::size_t slot = 1; slot <= kSysParaSlots; ++slot) {
     TextBox& box = FieldOf(slot);
-    const std::string read = PlainDecimal(SysParaRead[slot]);
-    const bool differs = SysParaKnown && box.Text != read;
-    box.Difference = differs ? Text(kMsgOfController, read) : std::string();
+    const bool differs = SysParaKnown && !box.Text.empty() && Val(box.Text) != SysParaRead[slot];
+    box.Difference =
+        differs ? Text(kMsgOfController, PlainDecimal(SysParaRead[slot])) : std::string();
   }
 }
 

@@ -1,5 +1,7 @@
 #include "para/sys_para_view.h"
 
+#include <optional>
+
 #include "forms/frm_main.h"
 #include "forms/frm_system_para.h"
 #include "para/para_hint.h"
@@ -47,24 +49,28 @@ bool TakeFields() {
 void WriteSysParaFlow() {
   const TransferScope transfer;
   if (!AskYes(475) || !ConnectOrOpenPort() || !TakeFields()) return;
-  const Outcome outcome = WriteHeld([] {
-    const Outcome written = WriteSysParaToCt();
-    if (written != Outcome::Done) return written;
-    SysParaRead = SysPara;
-    SysParaKnown = True;
-    return written;
-  });
+  std::optional<Outcome> sent;  // nothing: why it was not begun has been told
+  static_cast<void>(WriteHeld([&] {
+    sent = WriteSysParaToCt();
+    return *sent;
+  }));
+  if (!sent) return;
+  if (*sent != Outcome::Done) return Tell(1528);
+  SysParaRead = SysPara;
+  SysParaKnown = True;
   MarkSysParaFields();
-  outcome == Outcome::Done ? TellDone(1527) : Tell(1528);
+  TellDone(1527);
 }
 
 void FieldEntered(std::size_t slot) {
   TellInStatusPanel(ParaRangeText("0", std::to_string(SysParaHighest(slot))));
 }
 
-bool AnyFieldIsMarked() {
+/// Before anything is known of the controller all that is typed is the user's alone.
+bool AnyFieldIsTheUsersAlone() {
   for (const SysParaField& field : frmSystemPara.Fields) {
-    if (!field.txtSystemPara.Difference.empty()) return true;
+    const TextBox& box = field.txtSystemPara;
+    if (SysParaKnown ? !box.Difference.empty() : !box.Text.empty()) return true;
   }
   return false;
 }
@@ -72,14 +78,15 @@ bool AnyFieldIsMarked() {
 /// What has been typed is in no file: the user decides whether it goes.
 bool RefusesToClose(CloseReason) {
   constexpr int kMsgDropEdits = 6536;
-  return AppState.CommandsOffDepth > 0 || (AnyFieldIsMarked() && !AskOk(kMsgDropEdits));
+  return FlowKeepsViewsOpen() || (AnyFieldIsTheUsersAlone() && !AskOk(kMsgDropEdits));
 }
 
 void LoadFields() {
   for (std::size_t index = 0; index < frmSystemPara.Fields.size(); ++index) {
     frmSystemPara.Fields[index].lblSystemPara.Caption = std::to_string(index + 1);
   }
-  if (SysParaKnown) return SysParaHyoji();
+  // Offline the controller may have been changed since it was read.
+  if (SysParaKnown && !AppState.Offline) return SysParaHyoji();
   for (SysParaField& field : frmSystemPara.Fields) field.txtSystemPara.Text.clear();
 }
 

@@ -9,9 +9,7 @@
 namespace tr7 {
 namespace {
 
-enum class PgSource { DeviceBlock, Function };
-
-void TakeAxis(int axis, PgSource source) {
+void TakeAxis(int axis) {
   DevSettingRecord& device = DevSetting[axis];
   DevSettingRecord& pending = DevSettei[axis];
   device.Size = ParamSet.ActSize[axis];
@@ -24,31 +22,25 @@ void TakeAxis(int axis, PgSource source) {
   AppState.StrokePulse[axis] = ParamSet.AxisStroke[axis];
 
   const int type = CtDev[axis].Type;
-  const int pg = source == PgSource::DeviceBlock ? CtDev[axis].PgCode : ParamSet.PgFunction[axis];
   device.SeriesOk = type == 0 || type == 1;
   pending.Vertical = type == 0 || type == 1;
-  pending.WithPG = pg != 0;
+  pending.WithPG = ParamSet.PgFunction[axis] != 0;
   device.Vertical = pending.Vertical;
   device.WithPG = pending.WithPG;
 }
 
-void Take(PgSource source) {
-  for (int axis = 0; axis < kAxes; ++axis) {
-    AppState.AxisMuko[axis] = (ParamSet.OneAxis >> axis & 1) == 0;
-  }
+}  // namespace
+
+void TakeDevFromParam2() {
+  AppState.AxisMuko = MukoOfMask(ParamSet.OneAxis);
   for (const int axis : AxesInUse()) {
     if (ParamSet.Actuator[axis].empty()) {
       DevSetting[axis].NotChosen = True;
       return;
     }
-    TakeAxis(axis, source);
+    TakeAxis(axis);
   }
   CalcStrokeMm();
 }
-
-}  // namespace
-
-void TakeDevFromParam() { Take(PgSource::DeviceBlock); }
-void TakeDevFromParam2() { Take(PgSource::Function); }
 
 }  // namespace tr7

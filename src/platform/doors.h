@@ -5,6 +5,7 @@
 #include "platform/files.h"
 #include "platform/form_host.h"
 #include "platform/help_viewer.h"
+#include "platform/motion_guard.h"
 #include "platform/serial_port.h"
 #include "platform/settings_store.h"
 
@@ -20,6 +21,7 @@ struct Doors {
   Clipboard* clipboard = nullptr;
   Files* files = nullptr;
   HelpViewer* help = nullptr;
+  MotionGuard* guard = nullptr;  ///< null: there is none
 };
 
 extern Doors doors;

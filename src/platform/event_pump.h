@@ -15,7 +15,7 @@ class EventPump {
   /// Monotonic clock, microseconds.
   virtual std::int64_t NowUs() const = 0;
 
-  /// The local time of day for the user to read: "16:05".
+  /// The local time of day for the user to read: "16:05:33".
   virtual std::string TimeOfDay() const = 0;
 
   /// Serves what is due. When nothing is, sleeps until something is, and serves that.

@@ -54,7 +54,6 @@ void Show(bool program_mode) {
 void QvDataHyoji_3() { Show(false); }
 void QvDataHyoji_3Prg() { Show(true); }
 void FG_ShowTable() { Show(AppState.CtMode); }
-void FillPosiRow(int row, int number) { FillRow(row, number, AppState.CtMode); }
 
 void FG_HighSyoriStart() { frmPosi.flgdData.Redraw = false; }
 

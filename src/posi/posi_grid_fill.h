@@ -8,9 +8,6 @@ void QvDataHyoji_3Prg();
 /// The one of the two that the mode asks for.
 void FG_ShowTable();
 
-/// Fills one grid row from the table.
-void FillPosiRow(int row, int number);
-
 // Bracket a bulk fill: painting off and on.
 void FG_HighSyoriStart();
 void FG_HighSyoriEnd();

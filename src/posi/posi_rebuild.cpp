@@ -10,7 +10,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kDataTab = 0, kTeachingTab = 1, kMoveTab = 2;
+constexpr int kDataTab = 0, kMoveTab = 1, kTeachingTab = 2;
 
 TabStrip& ShownStrip() { return AppState.CtMode ? frmPosi.tabCmdPrg : frmPosi.tabCmd; }
 
@@ -24,12 +24,14 @@ void ShowPosiTab() {
   for (Control* control : std::initializer_list<Control*>{
            &f.framController, &f.cmdPosiRead, &f.cmdPosiWrite, &f.cmdPosiCtVerify, &f.framFile,
            &f.cmdPosiNew, &f.cmdPosiOpen, &f.cmdPosiSave, &f.cmdPosiSaveAs, &f.cmdPosiFileVerify,
-           &f.cmdPosiCompare, &f.cmdPosiPrint, &f.framEdit, &f.cmdInsertLine, &f.cmdDeleteLine, &f.cmdPosiCopy,
-           &f.cmdPosiPaste, &f.cmdPosiCheck}) {
+           &f.cmdPosiCompare, &f.cmdPosiPrint, &f.framEdit, &f.cmdInsertLine, &f.cmdDeleteLine,
+           &f.cmdPosiCopy, &f.cmdPosiPaste, &f.cmdPosiCheck}) {
     control->Visible = tab == kDataTab;
   }
-  f.cmdJOGST.Visible = f.cmdJOGend.Visible = tab == kTeachingTab;
-  f.cmdMoveSelect.Visible = f.cmdMoveContinue.Visible = tab == kMoveTab;
+  f.Readout.controls.SetVisible(tab != kDataTab);
+  f.Move.controls.SetVisible(tab == kMoveTab);
+  f.Teach.controls.SetVisible(tab == kTeachingTab);
+  if (f.MotionTabs) f.MotionTabs();
 }
 
 void RebuildPosiView() {

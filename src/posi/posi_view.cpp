@@ -51,17 +51,22 @@ bool QueryUnloadPosiView(CloseReason) {
   return frmPosi.PosiChanged;  // the save did not happen: nothing is thrown away
 }
 
+void ShowMotionState() {
+  if (frmPosi.MotionTabs) frmPosi.MotionTabs();
+}
+
 /// Tabs 1 and 2 of the command strips: on when online, unless the controller waits for the power
-/// cycle of a mode change.
+/// cycle of a mode change. A teaching session keeps its tab until it is completed.
 void SetOnlineTabs() {
   const bool on = !AppState.Offline && !AppState.CtModePending;
   for (TabStrip* strip : {&frmPosi.tabCmd, &frmPosi.tabCmdPrg}) {
     for (std::size_t tab : {1u, 2u}) strip->Tabs[tab].Enabled = on;
-    if (!on && strip->Selected != 0) {
+    if (!on && strip->Selected != 0 && !AppState.TeachingNow) {
       strip->Selected = 0;
       ShowPosiTab();
     }
   }
+  ShowMotionState();
 }
 
 void SelectionChanged() {
@@ -73,6 +78,7 @@ void SelectionChanged() {
   } else {
     PulseScaleHyoji();
   }
+  ShowMotionState();
 }
 
 }  // namespace
@@ -85,8 +91,12 @@ void InstallPosiView() {
   f.CmdMuko = [] {
     PosCMDBTN_Muko();
     EditCMD_Muko();
+    ShowMotionState();
   };
-  f.CmdYuko = PosCMDBTN_Yuko;
+  f.CmdYuko = [] {
+    PosCMDBTN_Yuko();
+    ShowMotionState();
+  };
   f.Activate = EditCommandsBySelection;
   f.OnlineChanged = SetOnlineTabs;
   f.LayoutChanged = RebuildPosiViewKeepingEdits;

@@ -4,14 +4,19 @@
 
 namespace tr7 {
 
-/// What follows when devices are taken from the controller or from parameters. The session cannot
-/// reach the tables of higher floors; the position view registers here.
+/// What follows when devices are taken from the controller or from parameters, or when it is
+/// another controller. The session cannot reach the tables of higher floors; they register here.
 struct FollowersRecord {
   /// Limits of the loaded table, its check, and pulses from millimetres or millimetres from pulses
   /// by the display unit; then the view is rebuilt.
   std::function<void()> PositionsFollowDevices;
   /// The same where the pulses stay whatever the unit: the millimetres follow them.
   std::function<void()> MmFollowsPulses;
+  /// The session is about to end: what this tool has set in motion is stopped first.
+  std::function<void()> StopBeforeTheEnd;
+  /// The line leads, or may lead, to another controller: nothing that was learned of the former
+  /// holds.
+  std::function<void()> AnotherController;
 };
 
 extern FollowersRecord Followers;

@@ -9,6 +9,7 @@
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "platform/doors.h"
+#include "session/followers.h"
 #include "session/open_port.h"
 #include "session/reconcile.h"
 #include "session/version_check.h"
@@ -30,10 +31,19 @@ constexpr int kConnectSteps = 4;
 constexpr int kMsgPortLost = 5920;
 constexpr int kMsgGivenUp = 5970;
 
+/// What a connection tells one controller from another by.
+struct CtIdentity {
+  std::string version = AppState.CtVersionText, marker = AppState.CtModelMarker;
+  AxisArray<Bool16> muko = AppState.AxisMukoOfCt;
+  AxisArray<CtDeviceRecord> devices = CtDev;
+  bool operator==(const CtIdentity&) const = default;
+};
+
 /// The cancel button ends the sequence after the step that runs.
 bool GivenUp() { return AppState.CancelRequested; }
 
 bool ConnectSteps() {
+  AppState.HomeDone = False;
   SetOnline();
   ProgressScope progress(Text(368), kConnectSteps, true);
   if (CtComStart(1) != 0 || GivenUp()) return false;
@@ -86,7 +96,10 @@ bool FirstConnectionSteps() {
 
 int fChangeToOnline() {
   if (TusinPortOpen() != 0) return 1;
-  if (ConnectSteps()) return 0;
+  const CtIdentity before;
+  const bool connected = ConnectSteps();
+  if (CtIdentity() != before) Followers.AnotherController();
+  if (connected) return 0;
   FailToOffline();
   return 1;
 }
@@ -108,12 +121,13 @@ void ChangeToOfflineMenu() {
       MsgBox(Text(432), MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
     return;
   }
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   EndSession();
 }
 
 bool FirstConnection() {
   const auto muko = AppState.AxisMuko;
-  AppState.Offline = False;
+  AppState.Offline = AppState.HomeDone = False;
   if (FirstConnectionSteps()) return true;
   // Half a controller's state is nobody's: the offline start begins with all axes.
   AppState.AxisMuko = muko;

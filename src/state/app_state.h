@@ -35,6 +35,9 @@ struct AppStateRecord {
   std::int16_t CtAxisDigit = 0;
   AxisArray<std::string> AxisVersionText;
   Bool16 AllHomed;
+  /// Homing has been done since power-on: forgotten at an alarm, a servo switched off and a new
+  /// connection.
+  Bool16 HomeDone;
 
   // Settings
   std::int16_t PortNo = 1;     ///< 1 to 9

@@ -4,6 +4,8 @@
 #include "state/app_state.h"
 #include "state/frame_menus.h"
 #include "state/online.h"
+#include "state/status_panel.h"
+#include "state/text.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -24,6 +26,18 @@ CommandsOff::~CommandsOff() {
 
 BusyScope::BusyScope() : was_busy_(AppState.ComBusy) { AppState.ComBusy = True; }
 BusyScope::~BusyScope() { AppState.ComBusy = was_busy_; }
+
+void TellFlowRuns() {
+  constexpr int kMsgBusy = 5941;
+  TellInStatusPanel(Text(kMsgBusy));
+  doors.forms->Beep();
+}
+
+bool FlowKeepsViewsOpen() {
+  if (AppState.CommandsOffDepth == 0) return false;
+  TellFlowRuns();
+  return true;
+}
 
 WaitCursorScope::WaitCursorScope() { doors.forms->WaitCursor(true); }
 WaitCursorScope::~WaitCursorScope() { doors.forms->WaitCursor(false); }

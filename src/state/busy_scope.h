@@ -25,6 +25,11 @@ class BusyScope {
   bool was_busy_;
 };
 
+/// Tells in the status panel, with a beep, that a flow runs and must come to its end first.
+void TellFlowRuns();
+/// For a view that may not close while a flow runs: true where one does, which is told.
+[[nodiscard]] bool FlowKeepsViewsOpen();
+
 class WaitCursorScope {
  public:
   WaitCursorScope();

@@ -28,8 +28,8 @@ TextFileResult ReadTextFile(const std::string& path, std::string& utf8,
 
 /// Saves to a new file in the same folder, flushes it to the disk, then gives it the old one's
 /// name: a failed save leaves the old file whole and no new one behind, and a power cut leaves one
-/// of the two whole under that name. A character that the code
-/// page does not hold refuses the save before anything is written.
+/// of the two whole under that name. A character that the code page does not hold refuses the save
+/// before anything is written.
 TextFileResult SaveTextFile(const std::string& path, const std::string& utf8);
 
 /// The file's title: the path without its folders ("/" and "\\" both part them).

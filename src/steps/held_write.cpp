@@ -4,13 +4,13 @@
 #include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "steps/held_axes.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgMoving = 424;
 constexpr int kMsgLineFailed = 377;
-constexpr int kMsgMayBePartly = 6485;
 
 /// Unlike elsewhere the exchange's own failure has a box of its own here.
 bool StandStill() {
@@ -27,9 +27,10 @@ Outcome WriteHeld(const std::function<Outcome()>& write) {
   if (!StandStill()) return Outcome::Failed;
   HeldAxes held;
   if (!held.Hold()) return Outcome::Failed;
+  WriteTaken = {};
   const Outcome outcome = write();
   if (outcome != Outcome::Done) {
-    Tell(kMsgMayBePartly);
+    MsgBox(WriteTakenText());
     return outcome;
   }
   return held.Release() ? Outcome::Done : Outcome::Failed;

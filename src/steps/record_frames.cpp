@@ -2,7 +2,9 @@
 
 #include "link/port.h"
 #include "link/tusin_wait.h"
+#include "state/app_state.h"
 #include "state/message_box.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -29,6 +31,25 @@ Outcome SendEchoed(const RecordFrame& frame) {
   if (reply.substr(0, frame.echo) == frame.text.substr(0, frame.echo)) return Outcome::Done;
   TusinPortClose();
   return TellBadData();
+}
+
+Outcome SendRecord(const RecordFrame& frame, const std::string& name) {
+  const Outcome outcome = SendEchoed(frame);
+  if (outcome == Outcome::Done) {
+    if (WriteTaken.First.empty()) WriteTaken.First = name;
+    WriteTaken.Last = name;
+  } else {
+    WriteTaken.Failed = name;
+    WriteTaken.FailedIsRefused = AppState.AlarmOn;
+  }
+  return outcome;
+}
+
+Outcome SendStore(const RecordFrame& frame) {
+  using enum WriteTakenRecord::Storing;
+  const Outcome outcome = SendEchoed(frame);
+  WriteTaken.Stored = outcome == Outcome::Done ? Done : AppState.AlarmOn ? Refused : NotKnown;
+  return outcome;
 }
 
 Outcome TellBadData() {

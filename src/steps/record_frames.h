@@ -27,6 +27,11 @@ Outcome ReadNamed(const RecordFrame& frame, std::string& reply);
 /// and the user told.
 Outcome SendEchoed(const RecordFrame& frame);
 
+/// The same of a record of a write, which `WriteTaken` knows by this name.
+Outcome SendRecord(const RecordFrame& frame, const std::string& name);
+/// The same of the frame at which the controller stores the records that it has taken.
+Outcome SendStore(const RecordFrame& frame);
+
 /// Tells that what came or came back makes no sense; `Failed`.
 Outcome TellBadData();
 

@@ -13,16 +13,20 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QSlider>
 #include <QSpinBox>
 #include <QTabBar>
+#include <algorithm>
 #include <vector>
 
 #include "ui/combo_box_binding.h"
 #include "ui/command_bindings.h"
 #include "ui/grid_table.h"
+#include "ui/hold_button_binding.h"
 #include "ui/label_binding.h"
 #include "ui/lamp.h"
 #include "ui/text_box_binding.h"
+#include "ui/wheel_filter.h"
 
 namespace tr7 {
 
@@ -104,11 +108,39 @@ class CommandButtonBinding : public ButtonBinding {
       // Cancel takes nothing, so an edit that is refused does not hold it up.
       if (record.Cancel || gate()) record.Press();
     });
+    if (!record.Key.empty()) {
+      auto* key = new QShortcut(QKeySequence(Q(record.Key)), &button);
+      QObject::connect(key, &QShortcut::activated, &button, [&button] { button.click(); });
+    }
     // In a dialogue the window has the key; in the frame it goes wherever the focus is.
     if (!record.Cancel || !qobject_cast<QMainWindow*>(button.window())) return;
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &button);
     QObject::connect(escape, &QShortcut::activated, &button, [&button] { button.click(); });
   }
+};
+
+class SliderBinding : public QObject, public WidgetBinding {
+ public:
+  SliderBinding(Slider& record, QSlider& slider)
+      : WidgetBinding(record, slider), record_(record), slider_(slider) {
+    slider.setRange(record.Min, record.Max);
+    slider.setSingleStep(record.Step);
+    slider.setPageStep(std::max(record.Step, (record.Max - record.Min) / 10));
+    QObject::connect(&slider, &QSlider::valueChanged, this, [this](int value) {
+      value -= (value - record_.Min) % record_.Step;
+      if (value != record_.Value) record_.Set(value);
+    });
+  }
+  void Push() override {
+    WidgetBinding::Push();
+    if (slider_.value() != record_.Value && !slider_.isSliderDown()) {
+      slider_.setValue(record_.Value);
+    }
+  }
+
+ private:
+  Slider& record_;
+  QSlider& slider_;
 };
 
 class CheckBoxBinding : public ButtonBinding {
@@ -195,6 +227,7 @@ class UpDownBinding : public QObject, public WidgetBinding {
  public:
   UpDownBinding(UpDown& record, QSpinBox& box)
       : WidgetBinding(record, box), record_(record), box_(box) {
+    LetWheelPass(box);
     box.setRange(record.Min, record.Max);
     QObject::connect(&box, &QSpinBox::valueChanged, this, [this](int value) {
       if (value != record_.Value) record_.Set(value);
@@ -277,6 +310,8 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
       Tie<Frame, QWidget, FrameBinding>(made, control, target) ||
       Tie<CommandButton, QPushButton, CommandButtonBinding>(made, control, target, gate) ||
       Tie<TextBox, QLineEdit, TextBoxBinding>(made, control, target) ||
+      Tie<HoldButton, QPushButton, HoldButtonBinding>(made, control, target, gate) ||
+      Tie<Slider, QSlider, SliderBinding>(made, control, target) ||
       Tie<CheckBox, QCheckBox, CheckBoxBinding>(made, control, target) ||
       Tie<ComboBox, QComboBox, ComboBoxBinding>(made, control, target) ||
       Tie<ListBox, QListWidget, ListBoxBinding>(made, control, target) ||

@@ -1,6 +1,7 @@
 #include "ui/bound_view.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QMenu>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -33,6 +34,23 @@ void KeepPlaces(const QWidget& area) {
   }
 }
 
+/// The stack is as high as the page on show; the others take no room.
+void ShowPage(QStackedWidget& stack, QWidget& page) {
+  for (int i = 0; i < stack.count(); ++i) {
+    QWidget& other = *stack.widget(i);
+    QSizePolicy policy = other.sizePolicy();
+    policy.setVerticalPolicy(&other == &page ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+    other.setSizePolicy(policy);
+  }
+  stack.setCurrentWidget(&page);
+  // What has come on inside of boxes counts for the page's height at once.
+  for (const QWidget* box : page.findChildren<QWidget*>()) {
+    if (box->layout()) box->layout()->activate();
+  }
+  page.layout()->activate();
+  stack.updateGeometry();
+}
+
 }  // namespace
 
 BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const CommandGate& gate)
@@ -43,7 +61,9 @@ BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const Co
   for (Control* control : view.Controls) Tie(*control, gate);
   FindAreas();
   FindTabs();
-  for (auto* captions : window.findChildren<ColumnCaptions*>()) captions->Follow(*grids_.front());
+  for (auto* captions : window.findChildren<ColumnCaptions*>()) {
+    captions->Follow(*window.findChild<GridTable*>(captions->property("follows").toString()));
+  }
   TiePopup();
   SetTabOrder();
 }
@@ -84,13 +104,14 @@ void BoundView::FindAreas() {
     if (!area->objectName().startsWith("area")) continue;
     Area entry{area, {}, nullptr};
     for (const auto& [control, widget] : widgets_) {
-      if (area->isAncestorOf(widget)) entry.controls.push_back(control);
+      // A lamp's `Visible` lights it: it says nothing of the area.
+      const bool lamp = dynamic_cast<const Image*>(control) != nullptr;
+      if (!lamp && area->isAncestorOf(widget)) entry.controls.push_back(control);
     }
     // A page's parent is the stack itself.
     auto* stack = qobject_cast<QStackedWidget*>(area->parentWidget());
     if (stack && qobject_cast<QTabWidget*>(stack->parentWidget())) continue;
     entry.stack = stack;
-    // The pages of a stack are as large as the largest, whichever is on show.
     if (stack) KeepPlaces(*area);
     if (!entry.controls.empty()) areas_.push_back(std::move(entry));
   }
@@ -160,7 +181,7 @@ void BoundView::PushAreas() {
     if (!area.stack) {
       area.widget->setVisible(any);
     } else if (any) {
-      area.stack->setCurrentWidget(area.widget);
+      ShowPage(*area.stack, *area.widget);
     }
   }
 }

@@ -1,13 +1,17 @@
 #include "ui/combo_box_binding.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
+
+#include "ui/wheel_filter.h"
 
 namespace tr7 {
 
 ComboBoxBinding::ComboBoxBinding(ComboBox& record, QComboBox& combo)
     : WidgetBinding(record, combo), record_(record), combo_(combo) {
   combo.installEventFilter(this);
+  LetWheelPass(combo);
   QObject::connect(&combo, &QComboBox::activated, this, [this](int index) { record_.Pick(index); });
   if (!record.Editable) return;
   combo.setEditable(true);
@@ -41,9 +45,12 @@ void ComboBoxBinding::Push() {
 }
 
 bool ComboBoxBinding::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Wheel) {
-    event->ignore();  // so that it scrolls what the list stands on
-    return true;
+  if (event->type() == QEvent::KeyPress && record_.Enter) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      record_.Enter();
+      return true;
+    }
   }
   const bool done = QObject::eventFilter(watched, event);
   if (!FocusMoves(*event, QEvent::FocusOut) || !record_.LostFocus) return done;

@@ -49,6 +49,7 @@ Desktop::Desktop(const Profile& profile)
   doors.clipboard = &clipboard;
   doors.files = &files;
   doors.help = &help;
+  doors.guard = &guard;
 }
 
 Desktop::~Desktop() { doors = Doors{}; }

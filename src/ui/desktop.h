@@ -6,6 +6,8 @@
 
 #include "platform/ini_settings_store.h"
 #include "platform/std_files.h"
+#include "ui/escape_key.h"
+#include "ui/guard_process.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_form_host.h"
 #include "ui/qt_help_viewer.h"
@@ -32,7 +34,9 @@ class Desktop {
 
   QtPump pump;
   QtSerialPort serial;
+  GuardProcess guard{serial};
   QtFormHost forms{pump};
+  EscapeKey escape;
   QtClipboard clipboard;
   QtHelpViewer help;
   StdFiles files;

@@ -1,12 +1,18 @@
 #include "ui/message_dialog.h"
 
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <algorithm>
 #include <vector>
 
 #include "state/text.h"
 #include "ui/binding.h"
+#include "ui/dialog_room.h"
 #include "ui/icons.h"
 
 namespace tr7 {
@@ -58,6 +64,37 @@ QPixmap PictureOf(MsgIcon icon) {
   return {};
 }
 
+/// The height of a text that is broken wherever it must be.
+int HeightOf(const QString& text, int width, const QFont& font) {
+  QTextDocument document(text);
+  document.setDefaultFont(font);
+  QTextOption wrap;
+  wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  document.setDefaultTextOption(wrap);
+  document.setTextWidth(width);
+  return static_cast<int>(document.size().height());
+}
+
+/// A text that the screen has no room for scrolls in a field of its own. A list of numbers has no
+/// blanks to be broken at, so it is broken anywhere.
+void FoldLongText(QMessageBox& box) {
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  if (!label) return;
+  constexpr int kWidth = 480;
+  const QSize room = RoomForDialog(box) - QSize(150, 150);  // beside picture, margins and buttons
+  const QRect asked =
+      QFontMetrics(label->font())
+          .boundingRect(QRect({}, QSize(kWidth, QWIDGETSIZE_MAX)), Qt::TextWordWrap, label->text());
+  if (asked.width() <= room.width() && asked.height() <= room.height()) return;
+  auto* field = new QPlainTextEdit(label->text(), &box);
+  field->setReadOnly(true);
+  field->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  const int height = HeightOf(label->text(), kWidth, label->font());
+  field->setFixedSize(kWidth + 40, std::min(height + 10, room.height()));
+  delete box.layout()->replaceWidget(label, field);
+  label->hide();
+}
+
 }  // namespace
 
 MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor& wait) {
@@ -75,6 +112,7 @@ MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor&
     if (answer.answer == MsgAnswer::Cancel || answers.size() == 1) box.setEscapeButton(button);
     if (&answer == &answers.front()) box.setDefaultButton(button);
   }
+  FoldLongText(box);
   box.show();
   box.raise();
   box.activateWindow();

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "forms/control.h"
+#include "forms/hold_button.h"
 #include "state/app_state.h"
 #include "state/views.h"
 #include "ui/dialog_room.h"
@@ -115,7 +116,6 @@ void QtFormHost::ShowFrame() {
   frame_->ShowByRecord();
 }
 
-/// The first view takes the whole frame; later ones open as the one before stands.
 /// Where the frame's `count`-th window opens: a little behind the one before, and whole inside.
 static QPoint PlaceOfChild(const QSize& room, const QSize& size, int count) {
   constexpr int kStep = 28;
@@ -123,6 +123,7 @@ static QPoint PlaceOfChild(const QSize& room, const QSize& size, int count) {
   return {kStep * count % (free.width() + 1), kStep * count % (free.height() + 1)};
 }
 
+/// The first view takes the whole frame; later ones open as the one before stands.
 void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   if (child.mdiArea() == mdi_) {
     if (child.isMinimized()) child.showNormal();
@@ -178,6 +179,7 @@ void QtFormHost::Show(View& view) {
 }
 
 void QtFormHost::ShowModal(View& view) {
+  LetGoOfHeldButton();
   Shown* shown = ended_ ? nullptr : Build(view, true);
   if (!shown) {
     view.Visible = false;  // a view that cannot be drawn counts as closed at once
@@ -298,8 +300,9 @@ void QtFormHost::Push() {
 }
 
 /// Before the loop sleeps: what handlers and ticks have changed is drawn, not more often than an
-/// eye can follow.
+/// eye can follow. A button that can be held no longer is let go of at once.
 std::optional<std::int64_t> QtFormHost::PushWhenDue() {
+  LetGoOfLostButton();
   if (pump_.NowUs() - last_push_us_ < kPushEveryUs) return last_push_us_ + kPushEveryUs;
   Push();
   return std::nullopt;
@@ -351,6 +354,7 @@ void QtFormHost::Wait(const std::function<bool()>& answered) {
 }
 
 MsgAnswer QtFormHost::MessageBox(const MessageBoxCall& call) {
+  LetGoOfHeldButton();
   if (ended_) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
   Push();
   const int cursors = wait_cursors_;
@@ -362,6 +366,7 @@ MsgAnswer QtFormHost::MessageBox(const MessageBoxCall& call) {
 }
 
 std::optional<std::string> QtFormHost::FileDialog(const FileDialogCall& call) {
+  LetGoOfHeldButton();
   if (ended_) return std::nullopt;
   Push();
   return AskFile(call, ParentForDialogs(), [this](const auto& answered) { Wait(answered); });

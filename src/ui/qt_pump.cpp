@@ -33,7 +33,7 @@ std::int64_t QtPump::NowUs() const {
 }
 
 std::string QtPump::TimeOfDay() const {
-  return QTime::currentTime().toString(QStringLiteral("HH:mm")).toStdString();
+  return QTime::currentTime().toString(QStringLiteral("HH:mm:ss")).toStdString();
 }
 
 void QtPump::Arm() {

@@ -201,4 +201,8 @@ std::vector<std::string> QtSerialPort::PortNames() const {
   return names;
 }
 
+int QtSerialPort::Handle() const {
+  return port_.isOpen() && !dead_ ? static_cast<int>(port_.handle()) : -1;
+}
+
 }  // namespace tr7

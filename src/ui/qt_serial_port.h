@@ -31,6 +31,9 @@ class QtSerialPort : public SerialPort {
   std::optional<std::int64_t> NextEventUs() override;
   std::vector<std::string> PortNames() const override;
 
+  /// The system's handle of the open port; -1: shut, or the simulated one.
+  int Handle() const;
+
   /// The controller behind "sim".
   SimPort& Sim() { return sim_; }
 

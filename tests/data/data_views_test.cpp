@@ -1,6 +1,7 @@
 // The views of groups, macros and system parameters: from a click to the bytes in the controller
 // or the file, the boxes, and the table that is left.
 
+#include "data/grp_show.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
 #include "forms/frm_grp.h"
@@ -14,6 +15,8 @@ namespace {
 
 using qvr7sim::FaultKind;
 
+constexpr int kGood = 7, kOther = 8, kBad = 0;  ///< values for the first place
+
 /// One of the two kinds that have a file, as the user meets it.
 struct Kind {
   const char* name;
@@ -24,7 +27,6 @@ struct Kind {
   const char* head;
   std::function<void(int value)> edit;  ///< types a value into the first place and leaves it
   std::function<int()> held;            ///< what the table holds there
-  int good, other, bad;
   const char* bad_to_send;
   const char* bad_to_compare;
   const char* differs;
@@ -41,61 +43,31 @@ void ChooseAndTypeStep(int value) {
   SmRow& row = frmSqMcr.Rows[0];
   row.comboMerei.Pick(5);
   row.txtSmData.GotFocus();
-  if (value == 0) {
-    row.txtSmData.Type("");  // an emptied value counts as 0
-  } else {
-    row.txtSmData.Type(std::to_string(value));
-  }
+  row.txtSmData.Type(value == 0 ? "" : std::to_string(value));  // an emptied value counts as 0
 }
+
+constexpr const char* kBadMacros =
+    "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
+    "SM No. in which the invalid value was found is as follows.\n\n<1>,";
 
 std::vector<Kind> Kinds() {
   FrmGrp& g = frmGrp;
   FrmSqMcr& s = frmSqMcr;
   return {
-      {"groups",
-       g,
-       frmMain.mnuViewGrp,
-       g.cmdReadGrp,
-       g.cmdWriteGrp,
-       g.cmdGrpCtVerify,
-       g.cmdGrpFileOpen,
-       g.cmdGrpFileSave,
-       g.cmdGrpFileVerify,
-       g.cmdGrpRestore,
-       "/a.grp",
-       "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n\"2\",1,1\r\n",
-       TypeGroupEnd,
+      {"groups", g, frmMain.mnuViewGrp, g.cmdReadGrp, g.cmdWriteGrp, g.cmdGrpCtVerify,
+       g.cmdGrpFileOpen, g.cmdGrpFileSave, g.cmdGrpFileVerify, g.cmdGrpRestore, "/a.grp",
+       "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,7\r\n\"2\",1,1\r\n", TypeGroupEnd,
        [] { return int{GrpTable.GrpEnd[1]}; },
-       15,
-       16,
-       0,
        "Invalid value in some of group data.\nConfirm the following item ant try it again.\n"
        " 1.Is the value setting the range of 1 to 999?\n"
        " 2.Isn't value of start position larger than one of end position.",
        "Invalid value in some of group data.\nConfirm the value and try it again.",
        "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.",
        "An error occured in Reading file."},
-      {"macros",
-       s,
-       frmMain.mnuViewSM,
-       s.cmdReadSMfromCt,
-       s.cmdWriteSMtoCt,
-       s.cmdSmCTShogo,
-       s.cmdSmFileOpen,
-       s.cmdSmFileSave,
-       s.cmdSmFileShogo,
-       s.cmdSmRestore,
-       "/a.smd",
-       "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n",
-       ChooseAndTypeStep,
-       [] { return int{SmTable[0][0].Value}; },
-       7,
-       8,
-       0,
-       "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
-       "SM No. in which the invalid value was found is as follows.\n\n<1>,",
-       "Invalid data in some of SM Data.\n\nConfirm the value and try it again.\n\n"
-       "SM No. in which the invalid value was found is as follows.\n\n<1>,",
+      {"macros", s, frmMain.mnuViewSM, s.cmdReadSMfromCt, s.cmdWriteSMtoCt, s.cmdSmCTShogo,
+       s.cmdSmFileOpen, s.cmdSmFileSave, s.cmdSmFileShogo, s.cmdSmRestore, "/a.smd",
+       "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n", ChooseAndTypeStep,
+       [] { return int{SmTable[0][0].Value}; }, kBadMacros, kBadMacros,
        "Result of Verify - NG\n<Unmatched items>\n1,SM No.",
        "An error occured while openig SM Data file."},
   };
@@ -121,39 +93,55 @@ class DataViewsTest : public FlowTest, public ::testing::WithParamInterface<std:
 };
 
 TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   Press(kind.write, {MsgAnswer::Yes});
   EXPECT_LT(SentLines(5).find("0CM01"), SentLines(5).rfind("0WE")) << "the axes are held";
   EXPECT_EQ(Boxes().size(), 1u) << "the question alone";
   Press(kind.verify_ct);
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
-  kind.edit(kind.other);
+  kind.edit(kOther);
   Press(kind.verify_ct);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   Press(kind.read, {MsgAnswer::Cancel});
-  EXPECT_EQ(kind.held(), kind.other);
+  EXPECT_EQ(kind.held(), kOther);
+  if (GetParam() == 0) {
+    pump.After(1'000'000, [] { frmMain.cmdComCancel.Press(); });
+    Press(kind.read, {MsgAnswer::Ok});
+    EXPECT_EQ(Boxes().back(), Text(425));
+    EXPECT_EQ(kind.held(), kOther);
+  }
+  std::string refusal;
+  pump.After(100'000, [&] {
+    EXPECT_FALSE(CloseView(kind.view, CloseReason::ControlMenu));
+    refusal = frmMain.sbStatusBar.Panels[kPanelError];
+  });
   Press(kind.read, {MsgAnswer::Ok});
-  EXPECT_EQ(kind.held(), kind.good);
+  EXPECT_EQ(kind.held(), kGood);
+  EXPECT_EQ(refusal, Text(5941));
 }
 
 TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   PressWithFile(kind.save, kind.file);
   const std::string saved = virt.files.Content(kind.file).value();
   EXPECT_TRUE(saved.starts_with(kind.head)) << saved.substr(0, 60);
-  kind.edit(kind.other);
+  kind.edit(kOther);
   PressWithFile(kind.verify_file, kind.file);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   PressWithFile(kind.open, kind.file);
-  EXPECT_EQ(kind.held(), kind.good);
+  EXPECT_EQ(kind.held(), kGood);
   PressWithFile(kind.verify_file, kind.file);
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
   PressWithFile(kind.save, "/again");
   EXPECT_EQ(virt.files.Content("/again"), saved);
+  virt.files.read_only = true;
+  PressWithFile(kind.save, "/again");
+  EXPECT_TRUE(BoxShown(GetParam() == 0 ? "An error occured while saving Group Data."
+                                       : "An error occured while saving SM Data."));
 }
 
 TEST_P(DataViewsTest, BadDataGoNowhere) {
-  kind.edit(kind.bad);
+  kind.edit(kBad);
   for (CommandButton* button : {&kind.verify_ct, &kind.verify_file, &kind.save, &kind.write}) {
     button->Press();
     EXPECT_EQ(Boxes(), Texts{button == &kind.write ? kind.bad_to_send : kind.bad_to_compare});
@@ -162,7 +150,7 @@ TEST_P(DataViewsTest, BadDataGoNowhere) {
 }
 
 TEST_P(DataViewsTest, AFileThatCannotBeReadLeavesTheTable) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   const std::string head = std::string(kind.head).substr(0, std::string(kind.head).find('\n') + 1);
   const std::string body = head + (GetParam() == 0 ? "99,3\r\n" : "16,2,20\r\n");
   for (const std::string& content : {head + "x", body + "\"0\",1,2", body + "\"100\",1,2",
@@ -174,34 +162,64 @@ TEST_P(DataViewsTest, AFileThatCannotBeReadLeavesTheTable) {
     EXPECT_EQ(pump.NowUs() - before, 300'000) << "four tries";
     EXPECT_TRUE(BoxShown(kind.not_read));
     Forget();
-    EXPECT_EQ(kind.held(), kind.good);
+    EXPECT_EQ(kind.held(), kGood);
   }
 }
 
 TEST_P(DataViewsTest, ACloseForgetsAndTheNextVisitOffersItBack) {
   EXPECT_FALSE(kind.restore.Visible);
-  kind.edit(kind.good);
+  kind.edit(kGood);
   CloseView(kind.view, CloseReason::Code);
   kind.menu.Press();
-  EXPECT_NE(kind.held(), kind.good);
+  EXPECT_NE(kind.held(), kGood);
   EXPECT_EQ(kind.restore.Caption, "Bring back (12:00)");
-  kind.restore.Press();
-  EXPECT_EQ(kind.held(), kind.good);
-  EXPECT_FALSE(kind.restore.Visible);
+  kind.edit(kOther);
+  CloseView(kind.view, CloseReason::Code);  // with the offer not taken
+  kind.menu.Press();
+  for (const int held : {kOther, kGood, kOther}) {  // it changes places
+    kind.restore.Press();
+    EXPECT_EQ(kind.held(), held);
+  }
+}
+
+TEST_P(DataViewsTest, TheEndAsksAboutWhatStandsNowhereElse) {
+  kind.edit(kGood);
+  CloseView(kind.view, CloseReason::Code);
+  for (const bool saved : {false, true}) {
+    kind.menu.Press();
+    if (saved) kind.restore.Press();
+    if (saved) PressWithFile(kind.save, kind.file);
+    if (!saved) forms.answers = {MsgAnswer::Cancel};
+    frmMain.mnuFileExit.Press();
+    EXPECT_EQ(BoxShown("neither saved nor written"), !saved);
+    EXPECT_EQ(forms.ended, saved);
+    Forget();
+  }
 }
 
 TEST_P(DataViewsTest, NothingIsWrittenWhileAnAxisMovesOrTheLineIsDead) {
-  kind.edit(kind.good);
+  kind.edit(kGood);
   struct {
     FaultKind fault;
     const char* at;
-    const char* box;
-  } const rows[] = {{FaultKind::kErrorReply, "0RA", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
-                    {FaultKind::kErrorReply, "0W", "The writing was not completed."}};
+    std::string box;
+  } const rows[] = {
+      {FaultKind::kErrorReply, "0RA", "Communication Error occured."},
+      {FaultKind::kErrorReply, "0CM01", "Communication Error occured."},
+      {FaultKind::kErrorReply, "0W",
+       "The writing was not completed.\nRefused: " + std::string(kind.name).substr(0, 5) + " 1."},
+      {FaultKind::kDeaf, "0RA", "Communication Error occured."}};
+  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
+  port.Ct().Receive("0MP000F\r\n", pump.NowUs());  // somebody sends the machine home
+  pump.RunFor(100'000);
+  port.ReadAll();
+  Press(kind.write, {MsgAnswer::Yes});
+  EXPECT_TRUE(BoxShown("The writing of data is not made during movement."));
+  EXPECT_EQ(SentLines(5).find("0CM01"), std::string::npos);
+  pump.RunFor(10'000'000);
   for (const auto& row : rows) {
     SCOPED_TRACE(row.at);
-    Spoil(row.fault, row.at);
+    Spoil(row.fault, row.at, row.fault == FaultKind::kDeaf ? 0 : 1);
     Press(kind.write, {MsgAnswer::Yes});
     EXPECT_TRUE(BoxShown(row.box));
     EXPECT_EQ(SentLines(4).find("0WE"), std::string::npos);
@@ -257,12 +275,18 @@ TEST_F(GrpViewTest, FilesOfOlderProductsAndOfOtherKinds) {
   forms.file_answers = {"/old.grp"};
   frmGrp.cmdGrpFileOpen.Press();
   EXPECT_EQ(GrpTable.GrpEnd[7], 9);
+  GrpTable.GrpEnd[7] = 8;
+  GrpShow();
   virt.files.Put("/p.pmt", "\"QV-R7\",\"PRM\"\r\n5\r\n");
   forms.file_answers = {"/p.pmt"};
   frmGrp.cmdGrpFileOpen.Press();
-  EXPECT_EQ(GrpTable.GrpEnd[7], 9);
+  EXPECT_EQ(GrpTable.GrpEnd[7], 8);
   ASSERT_EQ(forms.boxes.size(), 1u);
   EXPECT_TRUE(BoxShown("Not GRP Data file for QV-TR7.\nOpening file is canceled."));
+  forms.file_answers = {"/old.grp"};
+  GrpStage.GrpEnd[8] = 11;  // as read before
+  frmGrp.cmdGrpFileOpen.Press();
+  EXPECT_EQ(GrpTable.GrpEnd[8], 11) << "a file of one group changes that one in the stage";
 }
 
 TEST_F(GrpViewTest, AMacroStepByItsCommand) {
@@ -273,6 +297,9 @@ TEST_F(GrpViewTest, AMacroStepByItsCommand) {
   f.Rows[15].comboMerei.Pick(2);
   f.Rows[15].txtSmData.GotFocus();
   EXPECT_EQ(SmTable[2][15], (SmStep{2, 1})) << "a value out of range becomes 1";
+  for (const int past_the_end : {1, 0, 2}) f.Rows[15].comboMerei.Pick(past_the_end);
+  f.Rows[15].comboMerei.LostFocus();
+  EXPECT_EQ(SmTable[2][15], (SmStep{2, 1})) << "only the command that is left counts";
   f.Rows[15].txtSmData.Type("5");
   EXPECT_NE(SmTable[2][15].Value, 5) << "IN-OFF takes 1 to 4";
   f.Rows[15].txtSmData.Enter();
@@ -310,7 +337,32 @@ TEST_F(SysParaViewTest, AreReadMarkedRefusedAndWritten) {
     Forget();
   }
   EXPECT_EQ(port.Ct().CommittedSystemBlock(2).substr(0, 2), "FF");
+  slot17.Type("0255");
   EXPECT_EQ(slot17.Difference, "");
+  for (const auto& [refused, box] : {std::pair{"0RA", Text(377)},
+                                     {"0CM01", Text(377)},
+                                     {"0WK3", Text(1528)},
+                                     {"0CM00000", Text(1527)}}) {
+    Spoil(FaultKind::kErrorReply, refused);
+    forms.answers = {MsgAnswer::Yes};
+    f.cmdWritetoCt.Press();
+    EXPECT_EQ(Boxes().back(), box) << refused;
+    frmMain.cmdReset.Press();
+  }
+  for (const bool another : {false, true}) {
+    CloseView(f, CloseReason::Code);
+    GoOffline();
+    frmMain.mnuViewSysPara.Press();
+    EXPECT_EQ(slot17.Text, "") << "offline nobody knows what the controller holds";
+    CloseView(f, CloseReason::Code);
+    if (another) AppState.CtVersionText = "000";  // of the one before
+    frmMain.mnuSettingOnline.Press();
+    frmMain.mnuViewSysPara.Press();
+    EXPECT_EQ(slot17.Text.empty(), another);
+  }
+  slot17.Type("7");
+  forms.answers = {MsgAnswer::Cancel};
+  EXPECT_FALSE(CloseView(f, CloseReason::Code)) << "it is in no controller";
 }
 
 }  // namespace

@@ -59,8 +59,9 @@ void SaveBy(Voyage& voyage, CommandButton& button) {
 void Save(Voyage& voyage) { SaveBy(voyage, frmPosi.cmdPosiSave); }
 void SaveAs(Voyage& voyage) { SaveBy(voyage, frmPosi.cmdPosiSaveAs); }
 
-/// Damages one of the user's files, as a bad disk or another program may.
-void Damage(Voyage& voyage, const std::string& path) {
+}  // namespace
+
+void DamageFile(Voyage& voyage, const std::string& path) {
   const auto content = voyage.virt.files.Content(path);
   if (!content || content->empty()) return;
   Random& random = voyage.random;
@@ -76,6 +77,8 @@ void Damage(Voyage& voyage, const std::string& path) {
   voyage.virt.files.Put(path, bytes);
 }
 
+namespace {
+
 /// What is opened and saved at once is the same file, where nobody was asked about its devices.
 void CheckSavedAgain(Voyage& voyage) {
   const std::string path = PosiTablePath();
@@ -87,7 +90,7 @@ void CheckSavedAgain(Voyage& voyage) {
 }
 
 void Open(Voyage& voyage) {
-  if (voyage.random.Chance(20)) Damage(voyage, AnyPath(voyage.random));
+  if (voyage.random.Chance(20)) DamageFile(voyage, AnyPath(voyage.random));
   const TableState before = TableNow(voyage);
   if (voyage.random.Chance(20)) SpoilFiles(voyage);
   frmPosi.cmdPosiOpen.Press();
@@ -113,7 +116,7 @@ void NewData(Voyage& voyage) {
 void VerifyWithFile(Voyage& voyage) {
   const TableState before = TableNow(voyage);
   const std::size_t sent = voyage.virt.port.sent.size();
-  if (voyage.random.Chance(20)) Damage(voyage, AnyPath(voyage.random));
+  if (voyage.random.Chance(20)) DamageFile(voyage, AnyPath(voyage.random));
   if (voyage.random.Chance(20)) SpoilFiles(voyage);
   frmPosi.cmdPosiFileVerify.Press();
   voyage.virt.files.PowerOn();

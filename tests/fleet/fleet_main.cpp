@@ -25,7 +25,8 @@ void RunAnyFlow(Voyage& voyage) {
     return Run(voyage, random.Chance(60) ? TransferFlows()[0] : FileFlows()[0]);
   }
   std::vector<const Flow*> all;  // each as often as it weighs
-  for (const auto& some : {SessionFlows(), TransferFlows(), FileFlows(), EditFlows()}) {
+  for (const auto& some :
+       {SessionFlows(), TransferFlows(), FileFlows(), EditFlows(), KindFlows()}) {
     for (const Flow& flow : some)
       all.insert(all.end(), static_cast<std::size_t>(flow.weight), &flow);
   }
@@ -34,8 +35,8 @@ void RunAnyFlow(Voyage& voyage) {
 
 /// In the hands of a user who waits for nothing the tool comes to rest all the same.
 void Sail(Voyage& voyage) {
-  constexpr int kFlows = 6;
   const bool hasty = voyage.random.Chance(30);
+  const int rounds = hasty ? 6 : 8;
   if (hasty) {
     SeatHastyHand(voyage);
     Main();
@@ -43,7 +44,7 @@ void Sail(Voyage& voyage) {
   } else {
     Run(voyage, {"start", 1, StartTool});
   }
-  for (int i = 0; i < kFlows && !voyage.virt.forms.ended; ++i) {
+  for (int i = 0; i < rounds && !voyage.virt.forms.ended; ++i) {
     if (hasty) CheckRest(voyage);
     if (voyage.random.Chance(30)) ChangeWeather(voyage);
     hasty ? WorkHastily(voyage) : RunAnyFlow(voyage);

@@ -85,7 +85,9 @@ void CheckLink(Voyage& voyage) {
   voyage.Require(!frmMain.timerTimeout.Enabled, "time-out armed");
   voyage.Require(HeldAxesAreKnown(voyage) && (AppState.Offline || !AppState.AxesMayBeHeld),
                  "axes stay held");
-  voyage.Require(!voyage.HasSent({"0MP", "0MS", "0MV", "0MG", "0JR"}), "a motion nobody asked for");
+  for (const qvr7sim::MotionStart& start : port.Ct().MotionStarts()) {
+    voyage.Require(start.request == "inputs", "a motion nobody asked for");
+  }
   voyage.Require(voyage.flow == "write" || !voyage.HasSent({"0WP", "0WA"}),
                  "positions are written unasked");
   const std::size_t sent = port.sent.size();

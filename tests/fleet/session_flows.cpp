@@ -19,7 +19,7 @@ bool SameAxes(const MachineState& a, const MachineState& b) { return a.in_use ==
 
 /// What a connect leaves, whatever was asked and answered on the way.
 void CheckConnect(Voyage& voyage, const MachineState& before, const MachineState& of_ct) {
-  if (voyage.line_lies) return;
+  if (voyage.line_lies || voyage.power_fails) return;
   const MachineState now = MachineOfPc();
   const auto of_either = [&](auto part) { return part(before) || part(of_ct); };
   voyage.Require(

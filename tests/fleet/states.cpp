@@ -1,5 +1,8 @@
 #include "tests/fleet/states.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_grid_layout.h"
@@ -99,17 +102,46 @@ TableState TableNow(const Voyage& voyage) {
   return table;
 }
 
-CtMemory MemoryOf(const qvr7sim::Controller& controller) {
-  CtMemory memory;
-  for (int n = 1; n <= qvr7sim::kPositions; ++n) {
-    memory.committed.push_back(controller.CommittedPosition(n));
-    memory.written.push_back(controller.WrittenPosition(n));
+CellWrite::CellWrite(Voyage& voyage, const CellFrames& frames)
+    : voyage_(voyage), frames_(frames), committed_(Now(true)), written_(Now(false)) {}
+
+Cells CellWrite::Now(bool committed) const {
+  return voyage_.virt.port.Ct().Cells(frames_.write, committed);
+}
+
+/// What was sent, over what an earlier write has left unstored: positions are stored in the range
+/// that their frame names, the others all at once.
+Cells CellWrite::New() const {
+  const std::string& sent = voyage_.virt.port.sent;
+  Cells cells = committed_, written = written_;
+  const std::size_t first = frames_.digits > 1 ? 1 : 0;
+  for (std::size_t at = voyage_.sent_at_begin, end; at < sent.size(); at = end + 2) {
+    end = std::min(sent.find("\r\n", at), sent.size());
+    const std::string_view line = std::string_view(sent).substr(at, end - at);
+    const auto number = [&](std::size_t from) {
+      return static_cast<std::size_t>(HexValue(line.substr(from, frames_.digits))) - first;
+    };
+    if (line.starts_with(frames_.write)) {
+      written[number(3)] = line.substr(3 + frames_.digits);
+    } else if (line.starts_with(frames_.commit)) {
+      const bool range = line.size() > 3 + frames_.digits;
+      for (std::size_t i = range ? number(3) : 0; i < cells.size(); ++i) {
+        if (!range || i <= number(3 + frames_.digits)) cells[i] = written[i];
+      }
+    }
   }
-  for (int block = 0; block < qvr7sim::kParameterBlocks; ++block) {
-    memory.committed_blocks.push_back(controller.CommittedBlock(block));
-    memory.written_blocks.push_back(controller.WrittenBlock(block));
+  return cells;
+}
+
+void CellWrite::Check(bool told, bool stopped) const {
+  if (voyage_.HasSent({"0WE\r\n"})) return;  // a connection on the way has changed the mode
+  const Cells now = Now(true), made = New();
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    voyage_.Require(now[i] == committed_[i] || now[i] == made[i], "a cell is neither old nor new");
   }
-  return memory;
+  // The power fails between two frames, and nothing on the line tells.
+  if (stopped || voyage_.power_fails) return;
+  voyage_.Require(now == made || (now == committed_ && !told), "half a write is stored");
 }
 
 }  // namespace tr7

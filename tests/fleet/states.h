@@ -40,13 +40,32 @@ struct TableState {
 
 TableState TableNow(const Voyage& voyage);
 
-/// The controller's positions and parameter blocks.
-struct CtMemory {
-  std::vector<std::string> committed, written;  ///< [number - 1]
-  std::vector<std::string> committed_blocks, written_blocks;
-  bool operator==(const CtMemory&) const = default;
+using Cells = std::vector<std::string>;
+
+/// The frames that write a family of the controller's cells, and store them.
+struct CellFrames {
+  const char* write;
+  std::size_t digits;  ///< of a cell's number; with one digit they count from 0
+  const char* commit;
 };
 
-CtMemory MemoryOf(const qvr7sim::Controller& controller);
+/// What a write makes of the controller's memory, from the moment that this is made.
+class CellWrite {
+ public:
+  CellWrite(Voyage& voyage, const CellFrames& frames);
+
+  /// Every cell is the old one, or the new where the frame that stores it went out; all are the
+  /// same of the two, and the new where the user was told of the end. Of a write that the user has
+  /// stopped nobody knows whether its last frame was heard.
+  void Check(bool told, bool stopped = false) const;
+
+ private:
+  Cells Now(bool committed) const;
+  Cells New() const;
+
+  Voyage& voyage_;
+  const CellFrames& frames_;
+  Cells committed_, written_;
+};
 
 }  // namespace tr7

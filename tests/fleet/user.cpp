@@ -115,7 +115,7 @@ void SeatUser(Voyage& voyage) {
   };
   forms.on_file_dialog = [&voyage](const FileDialogCall& call) -> std::optional<std::string> {
     if (voyage.random.Chance(15)) return std::nullopt;
-    if (call.DefaultExtension == "pmt") return kParaPath;
+    if (call.DefaultExtension != "qvd") return "/work/p." + call.DefaultExtension;
     std::string path = AnyPath(voyage.random);
     for (int look = 3; !call.Save && look > 0 && !voyage.virt.files.Exists(path); --look) {
       path = AnyPath(voyage.random);

@@ -41,6 +41,7 @@ struct Voyage {
   std::vector<std::string> failures;
 
   bool line_lies = false;              ///< a byte may be another one, and nothing on the line tells
+  bool power_fails = false;            ///< between two frames, and nothing on the line tells
   bool hasty = false;                  ///< the user presses while flows run: see hasty_hand
   int presses_open = 0;                ///< presses whose flows have not ended
   std::string last_path;               ///< that the user chose in a file dialogue for positions
@@ -80,6 +81,8 @@ void PlanFaults(Voyage& voyage);
 void ChangeWeather(Voyage& voyage);
 /// One of the next calls of the file door fails.
 void SpoilFiles(Voyage& voyage);
+/// Damages one of the user's files, as a bad disk or another program may.
+void DamageFile(Voyage& voyage, const std::string& path);
 /// Position files of earlier days, made for whatever machines there were: of either mode, with
 /// devices that the catalogue knows, or does not.
 void PutWorkFiles(Voyage& voyage);
@@ -98,6 +101,7 @@ std::span<const Flow> SessionFlows();
 std::span<const Flow> TransferFlows();  ///< reading first
 std::span<const Flow> FileFlows();      ///< new data first
 std::span<const Flow> EditFlows();
+std::span<const Flow> KindFlows();  ///< of parameters, groups, macros and tuning values
 
 /// The start of the tool, with its choice between online and offline.
 void StartTool(Voyage& voyage);

@@ -24,7 +24,8 @@ Fault AnyFault(Random& random) {
   fault.kind = random.OneOf({FaultKind::kSilence, FaultKind::kDeaf, FaultKind::kDelay,
                              FaultKind::kLostByte, FaultKind::kChangedByte, FaultKind::kExtraByte,
                              FaultKind::kSplit, FaultKind::kDoubled, FaultKind::kWrongPrefix,
-                             FaultKind::kWrongLength, FaultKind::kErrorReply, FaultKind::kAlarm});
+                             FaultKind::kWrongLength, FaultKind::kErrorReply, FaultKind::kAlarm,
+                             FaultKind::kMoving, FaultKind::kPowerCycle});
   if (random.Chance(60)) {
     fault.at_request = random.Between(1, 120);
   } else {
@@ -32,6 +33,8 @@ Fault AnyFault(Random& random) {
   }
   // The longest outlasts the time-outs of some commands: the late reply meets the next request.
   fault.time_us = random.OneOf({200'000, 200'000, 1'500'000, 6'000'000});
+  // No inputs move an axis for longer than the tool is then left alone.
+  if (fault.kind == FaultKind::kMoving) fault.time_us = 1'500'000;
   fault.error = {random.OneOf({'0', '1', '2', '4', '7'}), '0', random.OneOf({'1', '9', 'Z'})};
   return fault;
 }
@@ -48,7 +51,7 @@ void AnotherController(Voyage& voyage) {
   voyage.Note("another-controller");
   const std::uint64_t seed = voyage.seed * 31 + static_cast<std::uint64_t>(voyage.random.Below(99));
   voyage.virt.port.Ct() = qvr7sim::Controller(AnyController(voyage.random), seed);
-  voyage.line_lies = false;
+  voyage.line_lies = voyage.power_fails = false;
   PlanFaults(voyage);
 }
 
@@ -76,6 +79,7 @@ void PlanFaults(Voyage& voyage) {
   for (int kinds = voyage.random.Between(1, 3); kinds > 0; --kinds) {
     const Fault fault = AnyFault(voyage.random);
     voyage.line_lies = voyage.line_lies || fault.kind == FaultKind::kChangedByte;
+    voyage.power_fails = voyage.power_fails || fault.kind == FaultKind::kPowerCycle;
     voyage.Note(std::string(qvr7sim::FaultName(fault.kind)));
     voyage.virt.port.Ct().AddFault(fault);
   }

@@ -12,6 +12,7 @@
 #include "link/motion_commands.h"
 #include "link/port.h"
 #include "link/status_commands.h"
+#include "link/task_commands.h"
 #include "para/sys_para.h"
 #include "para/sys_para_commands.h"
 #include "posi/posi_table.h"
@@ -35,7 +36,8 @@ inline int ReadThenWrite() {
 inline constexpr int (*kFuzzCommands[])() = {
     [] { return GetVersionNo() == 0 ? GetAxisVersionNo(kAxes) : 1; },
     [] { return std::min(GetVersionNoAxis(), 1); },
-    ReadAlarmFromCt,
+    [] { return ReadAlarmFromCt(); },
+    ReadTaskCountFromCt,
     ReadHomeStateFromCt,
     AlarmResetToCt,
     [] { return CtControlModeSet(1, 0, 15); },

@@ -32,12 +32,13 @@ TEST_F(CommandsTest, ControlModeText) {
 TEST_F(CommandsTest, MotionTexts) {
   AxisArray<DirectMoveAxis> axes;
   axes[1] = {true, 20, 3, 10000};
+  TusinFailure failure;
   const std::pair<std::function<int()>, const char*> rows[] = {
       {[] { return MoveAxesToCt(5, 0); }, "0MP0059"},
       {[] { return MoveAxesToCt(0x3E7, 1); }, "0MS3E79"},
-      {[] { return JogStartToCt(90, 7); }, "0JR90002"},
-      {[] { return JogStartToCt(5, 1); }, "0JR02000"},
-      {[] { return JogStartToCt(100, 0); }, "0JR01000"},
+      {[&] { return JogStartToCt(90, 7, failure); }, "0JR90002"},
+      {[&] { return JogStartToCt(5, 1, failure); }, "0JR02000"},
+      {[&] { return JogStartToCt(100, 0, failure); }, "0JR01000"},
       {[] { return StartProgToCt(7); }, "0MG07"},
       {[] { return StartProgToCt(100); }, "0MG64"},
       {[&] { return MoveDirectToCt(axes, "00"); },

@@ -35,6 +35,7 @@ class ExchangeTest : public StateTest {
     SetOnline();
     ReadErrorList();
   }
+  TusinFailure failure;
   /// One read of position 1, the request that the tests spoil.
   TusinOutcome Read() { return ReadNumber(1, reply); }
   void ExpectOffline(bool port_open) {
@@ -186,7 +187,7 @@ TEST_F(ExchangeTest, APortThatVanishesIsToldOnceByWhoeverNeedsIt) {
 
 TEST_F(ExchangeTest, AStopEndsTheWaitOfACommandWithoutTimeout) {
   Spoil(FaultKind::kSilence, "0MG", 0);
-  pump.After(3'600'000'000, [] { EXPECT_EQ(StopToCt(1000), 0); });
+  pump.After(3'600'000'000, [this] { EXPECT_EQ(StopToCt(1000, failure), 0); });
   EXPECT_NE(StartProgToCt(1), 0);
   EXPECT_EQ(port.sent, "0MG01\r\n0SP\r\n");
   EXPECT_TRUE(forms.boxes.empty());
@@ -263,7 +264,7 @@ class FullQueueTest : public ExchangeTest {
       pump.After(i * 1'000, [this, i] {
         std::string text;
         if (i != 6) return Count(ReadNumber(i, text));
-        Count(JogStartToCt(50, 0) == 0 ? TusinOutcome::Good : TusinOutcome::Withdrawn);
+        Count(JogStartToCt(50, 0, failure) == 0 ? TusinOutcome::Good : TusinOutcome::Withdrawn);
       });
     }
   }
@@ -275,7 +276,7 @@ TEST_F(FullQueueTest, AStopOvertakesWhatWaitsAndNoStartFollowsIt) {
   pump.After(20'000, [this] {
     std::string text;
     EXPECT_EQ(ReadNumber(12, text), TusinOutcome::QueueFull);
-    EXPECT_EQ(StopToCt(1000), 0);
+    EXPECT_EQ(StopToCt(1000, failure), 0);
   });
   EXPECT_EQ(Read(), TusinOutcome::Good);
   EXPECT_EQ(ends[TusinOutcome::Good], 9);

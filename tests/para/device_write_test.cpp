@@ -72,6 +72,12 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   frmMain.mnuSettingOnline.Press();
   EXPECT_EQ(asked, Texts{}) << "the controller says what was written";
   ExpectOnline();
+  InDialog("frmDevice3", {[] {
+             frmDevice3.chkDevPgUse[1].Set(true);
+             frmDevice3.cmdDeviceSet.Press();
+           }});
+  frmMain.mnuSettingDeviceOnline.Press();
+  EXPECT_TRUE(DevSetting[1].WithPG) << "a PG is a device's as well";
 }
 
 TEST_F(DeviceWriteTest, AFailedStepSaysWhatTheControllerMayHold) {

@@ -103,6 +103,32 @@ TEST_F(ParaFlows, AWriteStopsWhereItMust) {
   stops({Yes, No}, {}, TwoLines(631, 632) + "\n" + Text(633));
 }
 
+TEST_F(ParaFlows, AWriteThatFailsTellsWhatTheControllerHas) {
+  using enum qvr7sim::FaultKind;
+  const std::string all = Text(6511, Text(6520, "0"), Text(6521, "D", "AXIS4"));
+  const std::string some = Text(6511, Text(6520, "0"), Text(6521, "4", "AXIS1"));
+  const struct {
+    qvr7sim::FaultKind fault;
+    const char* at;
+    std::string told;
+  } rows[] = {
+      {kErrorReply, "0WD0", Text(6512, Text(6520, "0")) + "\n" + Text(6514)},
+      {kErrorReply, "0WD5",
+       Text(6510, some) + "\n" + Text(6512, Text(6521, "5", "AXIS2")) + "\n" + Text(6515)},
+      {kDeaf, "0WD1",
+       Text(6510, Text(6520, "0")) + "\n" + Text(6513, Text(6520, "1")) + "\n" + Text(6515)},
+      {kErrorReply, "0WE2", Text(6510, all) + "\n" + Text(6516)},
+      {kSilence, "0WE2", Text(6510, all) + "\n" + Text(6517)}};
+  for (const auto& [fault, at, told] : rows) {
+    SCOPED_TRACE(at);
+    Spoil(fault, at, 0);
+    const Texts boxes = Press(f.cmdParaWrite, {Yes});
+    Ct().ClearFaults();
+    EXPECT_EQ(std::count(boxes.begin(), boxes.end(), Text(6485) + "\n" + told), 1);
+    frmMain.cmdReset.Press();
+  }
+}
+
 TEST_F(ParaFlows, TheUserChoosesWhoseAxesAreWritten) {
   for (const int of_ct : {0, 1}) {  // the PC's three, which the controller has then
     UseAxes(of_ct ? kAllAxes : 7);
@@ -137,6 +163,12 @@ TEST_F(ParaFlows, AVerificationNamesWhatDiffers) {
   ASSERT_EQ(WriteParaFile(path), 0);
   EXPECT_EQ(Press(f.cmdConpareCT), Texts{Text(826)});
   EXPECT_EQ(Press(f.cmdConpareFile, {Ok}), (Texts{Text(679), Text(826)}));
+  UseAxes(7);  // the view has an axis more than those in use, which alone are read
+  forms.answers = {Ok};
+  f.comboOneAxis.Pick(3);
+  f.comboOneAxis.LostFocus();
+  EXPECT_EQ(Press(f.cmdConpareCT), Texts{Text(826)});
+  UseAxes(kAllAxes);
   for (const int axis : {0, 2}) Type(f.txtHomeOffset[axis], "123");
   Pick(f.comboActSize[0], " 42");
   f.comboPgFunc[3].Pick(1);

@@ -191,7 +191,7 @@ TEST_F(BlocksTest, WhatEndsAWriteIsTold) {
   EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
   EXPECT_TRUE(Commands().ends_with("0WD5"));
   ParamSet.JogVel[2] = -1;
-  EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
+  EXPECT_EQ(WriteAxesAndParaToCt(), Outcome::Failed);
   EXPECT_EQ(Boxes(), Texts{Text(6180, "JOGVEL(3)")});
   EXPECT_EQ(Commands().find("0WD"), std::string::npos) << "nothing goes out";
   Spoil(FaultKind::kChangedByte, "0WD0", 3);
@@ -206,6 +206,9 @@ TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {
   Axes(true, true, false, false);
   EXPECT_EQ(WriteAxisSettingToCt(), Outcome::Done);
   EXPECT_EQ(Sent(), (std::vector<std::string>{"0RD0", "0WD00010F01001E003000000000000000000"}));
+  Spoil(FaultKind::kChangedByte, "0WD00010F", 3);
+  EXPECT_EQ(WriteAxesAndParaToCt(), Outcome::Failed);
+  EXPECT_EQ(port.Ct().WrittenBlock(0), block0) << "put back where the line serves";
   // Twice in a row, and then the parameters: the block is whole again, with what no row holds.
   EXPECT_EQ(WriteAxisSettingToCt(), Outcome::Done);
   EXPECT_EQ(WriteParaToCt(), Outcome::Done);

@@ -1,6 +1,7 @@
 #include <deque>
 
 #include "base/text_helpers.h"
+#include "device/device_list.h"
 #include "forms/frm_main.h"
 #include "para/para_after_device.h"
 #include "para/para_columns.h"
@@ -8,6 +9,7 @@
 #include "para/para_fields.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
+#include "state/busy_scope.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -256,7 +258,7 @@ TEST_F(ParaView, OpeningAFileOffersToSave) {
 }
 
 TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
-  AllViewsCmdMuko();
+  std::optional<CommandsOff> flow(std::in_place);
   for (Control* control : f.Controls) {
     const bool can_act = dynamic_cast<CommandButton*>(control) || dynamic_cast<TextBox*>(control) ||
                          dynamic_cast<ComboBox*>(control) || dynamic_cast<CheckBox*>(control);
@@ -264,7 +266,7 @@ TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
   }
   EXPECT_FALSE(CloseView(f, CloseReason::ControlMenu));
   AppState.AxisMuko = MukoOfMask(3);
-  AllViewsCmdYuko();
+  flow.reset();
   EXPECT_EQ(f.txtHomePush[2].Text, "");
   EXPECT_FALSE(ParaIsChanged()) << "nobody typed it";
   AppState.AxisMuko = MukoOfMask(7);
@@ -277,10 +279,14 @@ TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
 TEST_F(ParaView, WithoutParametersTheFieldsAreEmpty) {
   CloseView(f, CloseReason::Code);
   ParamSet = ParamSetRecord{};
+  DeviceList.fill({});
+  AppState.AxisMuko[3] = True;
   frmMain.mnuViewPara.Click();
   EXPECT_EQ(f.txtHomeOffset[0].Text + f.txtSmTimeoutTimer.Text, "");
   EXPECT_EQ(f.optPosPrg.Chosen(), -1);
-  EXPECT_GT(f.comboActSize[0].List.size(), 3u);
+  AppState.AxisMuko[3] = False;
+  AllViewsCmdYuko();
+  for (const int axis : {0, 3}) EXPECT_GT(f.comboActSize[axis].List.size(), 3u) << axis;
   EXPECT_TRUE(f.txtHomeOffset[0].Enabled);
 }
 

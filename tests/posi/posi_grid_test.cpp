@@ -106,6 +106,9 @@ TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {
   ShowTable(3, 4);
   Store(4);
   Type(3, kVel, "31");
+  frmPosi.flgdData.Enabled = false;
+  EXPECT_NE(Type(4, kVel, "32"), 0);
+  frmPosi.flgdData.Enabled = true;
   forms.on_modal["frmSelectPosiNo3"] = [this](View& view) {
     auto& range = static_cast<SelectPosiNoView&>(view);
     EXPECT_EQ(range.txtFromNo.Text + "-" + range.txtToNo.Text, "1-15");

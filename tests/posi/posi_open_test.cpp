@@ -139,6 +139,18 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
                    "\" 20L-010\",192,40,10,5,5,1,960,2,192,15,0,\" 20L010\"\r\n");
   };
   const auto no_para = [&] { forms.file_answers = {std::nullopt}; };
+  // Its strokes have been taken when it turns out that an axis has no device.
+  const auto no_actuator = [&] {
+    const ParamSetRecord good = ParamSet;
+    ParamSet.OneAxis = 15;
+    ParamSet.Actuator[0] = " 28H200";
+    ParamSet.AxisLead.fill(6);
+    ParamSet.AxisPulse.fill(400);
+    ParamSet.AxisStroke.fill(12345);
+    EXPECT_EQ(WriteParaFile(kParaPath), 0);
+    ParamSet = good;
+    forms.file_answers = {kParaPath};
+  };
   const struct {
     const char* what;
     std::string bytes;
@@ -155,6 +167,7 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
       {"choice cancelled", otherwise, Text(367), -1},
       {"no standard parameters", otherwise, Text(36), 1, short_list},
       {"no parameter file chosen", otherwise, Text(367), 2, no_para},
+      {"parameters without a device", otherwise, Text(4) + "\n" + Text(5), 2, no_actuator},
   };
   const ParamSetRecord params = ParamSet;
   const std::string before = Everything();

@@ -121,6 +121,39 @@ TEST(Motion, WhileMovingWritesAndMovesAreRefusedAndReadsAnswer) {
   Talk(pc, "0RA>0RAE 0RV>0RV140R4M 0CM1>0CM1 0RG01>0RG01001004");
 }
 
+TEST(Motion, AServoThatIsOffYieldsToAHandAndMovesNothing) {
+  Exchange pc(HomedSetup());
+  pc.controller.AddPush({.at_us = 100'000, .axis = 2, .pulses = 700});
+  pc.controller.AddPush({.at_us = 1'500'000, .axis = 2, .pulses = 300});
+  Talk(pc,
+       "+200 0RC2>0RC200000 0CM10200>0CM10200 0JR00200>0%%00C 0MP002F>0%%00C 0MP000F>0%%00C "
+       "0JR02000>0JR 0SP>0SP +2000 0RC2>0RC20012C 0CM00000>0CM00000 0JR00200>0JR");
+  EXPECT_FALSE(pc.controller.PushAxis(2, 1, pc.now_us));
+}
+
+TEST(Motion, APositionsMacroBelongsToTheMoveThatRunsIt) {
+  qvr7sim::Setup setup = HomedSetup();
+  setup.start_pulses[0] = 15000;  // of position 3, whose macro waits for an input and 0.5 s
+  Exchange pc(setup);
+  Talk(pc,
+       "0MP0031>0MP +700 0RA>0RAE 0WE3>0%%004 +150 0RA>0RAF 0MS0031>0MS 0RA>0RAF "
+       "0MP0031>0MP 0RA>0RAE 0SP>0SP 0RA>0RAF");
+}
+
+TEST(Motion, StartsAreKeptAndWhatMovesBehindAStopIsCounted) {
+  Exchange pc(HomedSetup());
+  pc.controller.AddFault({.kind = FaultKind::kMoving, .at_request = 1, .prefix = "0RV"});
+  Talk(pc, "0JR00200>0JR +1000 0JR02000>0%%004 0SP>0SP +500 0MP000F>0MP +9000 0RV>0RV140R4M");
+  std::string starts;
+  for (const MotionStart& start : pc.controller.MotionStarts()) {
+    starts += start.request + ":" + std::to_string(start.mask) + " ";
+  }
+  EXPECT_EQ(starts, "0JR00200:2 0MP000F:15 inputs:15 ");
+  Talk(pc, "+1000 0JR00200>0JR +1000 0SP>0SP +500");
+  EXPECT_NEAR(static_cast<double>(pc.Axis(2).since_stop), 50, 1) << "2000 pulses a second, 50 ms";
+  EXPECT_EQ(pc.Axis(1).since_stop, 0);
+}
+
 TEST(Motion, AStoppedHomingLeavesNoHome) {
   qvr7sim::Setup setup = HomedSetup();
   setup.start_pulses = {10000, 0, 0, 0};
@@ -149,6 +182,24 @@ TEST(Alarm, StopsTheAxesAndAnswersEverythingButReset) {
        "0RA>0%%207 0RV>0%%207 0CM0>0%%207 0RD0>0%%207 0SP>0%%207 0XX>0%%207 0AR0>0%%207 "
        "0AR>0AR 0RA>0RAF");
   EXPECT_EQ(pc.Axis(1).pulses, stopped);
+}
+
+TEST(Alarm, WhatAnAxisRunsInto) {
+  const struct {
+    const char* talk;
+    int pulses;
+  } rows[] = {{"0JR01000>0JR +1000 0RA>0%%13E", -100},
+              {"0JR02000>0JR +9000 0RA>0%%13D", 20100},
+              {"0JR02000>0JR +500 0CM12000>0CM12000 0RA>0%%12A 0AR>0AR 0CM00000>0CM00000", 2794},
+              {"0MV06403102000001010000000010100000000101000000>0MV +100 0RA>0%%113", 75}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.talk);
+    Exchange pc(HomedSetup());
+    Talk(pc, "0WD2" + pc.Ask("0RD2").substr(4, 30) + "00>0WD2");  // without SOFT LIMIT
+    Talk(pc, row.talk);
+    EXPECT_FALSE(pc.controller.AnyMoving(pc.now_us));
+    EXPECT_NEAR(pc.Axis(1).pulses, row.pulses, 1);
+  }
 }
 
 TEST(Alarm, AFailedHomingStopsAllAxesWithTheSensorAlarm) {

@@ -16,7 +16,8 @@ TEST(Options, FillTheSetup) {
       "--marker R9X --main-version 2.0 --axis-version 3:777 --empty --group 99:10:20 "
       "--macro 20:1135 --start 2:-50 --homed --rest-f --baud 38400 --processing-ms 7 "
       "--commit-ms 0 --no-pace --seed 99 --silent --quit-on-eof "
-      "--fault lost-byte,p=0.5,prefix=0RP,byte=3 --alarm-at 2.5:1:4 --fail-homing 2 "
+      "--push 2:-50:1500 --input-wait-ms 9 --tell-motion --fault lost-byte,p=0.5,prefix=0RP,byte=3 "
+      "--alarm-at 2.5:1:4 --fail-homing 2 "
       "--position 999:" +
       record;
   ASSERT_EQ(ParseOptions(Split(line, " "), &options), "");
@@ -34,7 +35,10 @@ TEST(Options, FillTheSetup) {
   EXPECT_EQ(setup.start_pulses[1], -50);
   EXPECT_TRUE(setup.homed && setup.rest_as_f && !setup.paced);
   EXPECT_TRUE(setup.baud == 38400 && setup.processing_us == 7000 && setup.commit_us == 0);
-  EXPECT_TRUE(options.seed == 99 && options.silent && options.quit_on_eof);
+  EXPECT_TRUE(options.seed == 99 && options.silent && options.quit_on_eof && options.tell_motion);
+  const TimedPush& push = options.faults.pushes.at(0);
+  EXPECT_TRUE(push.axis == 2 && push.pulses == -50 && push.at_us == 1'500'000);
+  EXPECT_EQ(setup.input_wait_us, 9000);
   const Fault& fault = options.faults.on_requests.at(0);
   EXPECT_TRUE(fault.kind == FaultKind::kLostByte && fault.probability == 0.5 &&
               fault.at_request == 0 && fault.prefix == "0RP" && fault.at_byte == 3);
@@ -85,20 +89,24 @@ TEST(Commands, AnswerAndAct) {
       {"silence off", "ok silence off"},
       {"alarm 1 4", "ok alarm 1 4"},
       {"alarm 1 4 line\r", "ok alarm 1 4"},
+      {"push 1 5", "error the servo holds the axis"},
+      {"lose-servo 1", "ok lose-servo 1"},
+      {"push 1 5", "ok push 1 5"},
       {"power-cycle", "ok power-cycle"},
       {"fault lost-byte p=0.5", "ok fault lost-byte"},
       {"faults off", "ok faults off"},
       {"fail-homing 3", "ok fail-homing 3"},
       {"place 2 100", "ok place 2 100"},
-      {"status", "ok mode=pos mask=15 silent=off alarm=none axis1=0 axis2=100 axis3=0 axis4=0"}};
+      {"status", "ok mode=pos mask=15 silent=off alarm=none axis1=5 axis2=100 axis3=0 axis4=0"}};
   Controller controller(qvr7sim::Setup::Useful());
   bool quit = false;
   for (const auto& [line, answer] : cases) {
     EXPECT_EQ(RunCommand(line, &controller, 0, &quit), answer);
   }
-  for (const char* line : {"", " ", "silence", "silence maybe", "alarm", "alarm 5 1", "alarm 1 12",
-                           "alarm 1 4 loud", "fault", "fault sulk", "faults on", "fail-homing 5",
-                           "place 1", "place 5 1", "power-cycle now", "quit now", "dance"}) {
+  for (const char* line :
+       {"", " ", "silence", "silence maybe", "alarm", "alarm 5 1", "alarm 1 12", "alarm 1 4 loud",
+        "fault", "fault sulk", "faults on", "fail-homing 5", "place 1", "place 5 1", "push 1",
+        "lose-servo 9", "power-cycle now", "quit now", "dance"}) {
     EXPECT_TRUE(RunCommand(line, &controller, 0, &quit).starts_with("error ")) << line;
   }
   EXPECT_FALSE(quit || controller.StandingAlarm());

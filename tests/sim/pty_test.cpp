@@ -37,17 +37,19 @@ class PtyTest : public testing::Test {
     ASSERT_EQ(pty_.Open(), "");
     ASSERT_EQ(pipe(control_.data()), 0);
     ASSERT_EQ(pipe(answer_.data()), 0);
+    ASSERT_EQ(pipe(motion_.data()), 0);
     controller_ = std::make_unique<Controller>(setup);
     ServeInThread();
   }
   void ServeInThread() {
-    thread_ = std::thread(
-        [this] { failed_ = Serve(&pty_, controller_.get(), control_[0], answer_[1], true); });
+    thread_ = std::thread([this] {
+      failed_ = Serve(&pty_, controller_.get(), control_[0], answer_[1], true, motion_[1]);
+    });
   }
   void TearDown() override {
     if (control_[1] >= 0) close(control_[1]);
     if (thread_.joinable()) thread_.join();
-    for (int fd : {control_[0], answer_[0], answer_[1]}) {
+    for (int fd : {control_[0], answer_[0], answer_[1], motion_[0], motion_[1]}) {
       if (fd >= 0) close(fd);
     }
     EXPECT_EQ(failed_, "");
@@ -65,6 +67,7 @@ class PtyTest : public testing::Test {
   std::unique_ptr<Controller> controller_;
   std::array<int, 2> control_{-1, -1};
   std::array<int, 2> answer_{-1, -1};
+  std::array<int, 2> motion_{-1, -1};
   std::thread thread_;
   std::string failed_;
 };
@@ -100,6 +103,21 @@ TEST_F(PtyTest, ServesPortsOpenedAgainAndControlLines) {
   EXPECT_EQ(Command("power-cycle\nstatus"), "ok power-cycle\n");
   EXPECT_TRUE(ReadUntil(answer_[0], '\n').starts_with("ok mode=pos"));
   close(port);
+}
+
+TEST_F(PtyTest, TellsMotionAndRestWhenTheyComeAndAtTheEnd) {
+  Start(qvr7sim::Setup::Useful());
+  const int port = OpenPort();
+  for (const char* request : {"0JR02000\r\n", "0SP\r\n"}) {
+    Send(port, request);
+    const std::string told = ReadUntil(motion_[0], '\n');
+    EXPECT_NE(told.find(request[1] == 'J' ? " moving axis1=" : " at rest axis1="),
+              std::string::npos)
+        << told;
+  }
+  close(port);
+  Command("quit");
+  EXPECT_NE(ReadUntil(motion_[0], '\n').find(" at rest axis1="), std::string::npos);
 }
 
 TEST_F(PtyTest, WhatAClosedPortHadNotReadIsGone) {

@@ -76,13 +76,7 @@ std::string StateTest::SentLines(std::size_t characters) const {
 
 void StateTest::Spoil(qvr7sim::FaultKind kind, const std::string& prefix, int at_request,
                       int at_byte) {
-  qvr7sim::Fault fault;
-  fault.kind = kind;
-  fault.prefix = prefix;
-  fault.at_request = at_request;
-  fault.probability = at_request == 0 ? 1 : 0;
-  fault.at_byte = at_byte;
-  port.Ct().AddFault(fault);
+  port.Ct().AddFault({kind, at_request == 0 ? 1.0 : 0.0, at_request, prefix, 200'000, at_byte});
 }
 
 void StateTest::PutList(const char* name, const std::string& content) {

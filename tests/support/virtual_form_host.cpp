@@ -1,6 +1,7 @@
 #include "tests/support/virtual_form_host.h"
 
 #include "forms/control.h"
+#include "forms/hold_button.h"
 #include "forms/view.h"
 #include "platform/doors.h"
 #include "state/views.h"
@@ -10,6 +11,7 @@ namespace tr7 {
 void VirtualFormHost::Show(View& view) { view.Visible = true; }
 
 void VirtualFormHost::ShowModal(View& view) {
+  LetGoOfHeldButton();
   if (ended) return;
   view.Visible = true;
   modals.emplace_back(view.Name);
@@ -26,13 +28,17 @@ void VirtualFormHost::ShowModal(View& view) {
   view.Visible = false;
 }
 
-void VirtualFormHost::Hide(View& view) { view.Visible = false; }
+void VirtualFormHost::Hide(View& view) {
+  view.Visible = false;
+  LetGoOfLostButton();
+}
 
 void VirtualFormHost::BringToFront(View& view) {
   if (view.MdiChild) SetActiveView(&view);
 }
 
 MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
+  LetGoOfHeldButton();
   if (ended) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
   boxes.push_back(call);
   if (while_box) {
@@ -53,6 +59,7 @@ MsgAnswer VirtualFormHost::MessageBox(const MessageBoxCall& call) {
 }
 
 std::optional<std::string> VirtualFormHost::FileDialog(const FileDialogCall& call) {
+  LetGoOfHeldButton();
   if (ended) return std::nullopt;
   file_dialogs.push_back(call);
   if (on_file_dialog) return on_file_dialog(call);

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "forms/hold_button.h"
 #include "platform/due_timers.h"
 
 namespace tr7 {
@@ -24,6 +25,7 @@ bool VirtualPump::RunActs() {
 }
 
 void VirtualPump::Run() {
+  LetGoOfLostButton();
   if (RunActs() || ServeDueTimers()) return;
   std::optional<std::int64_t> next = NextDueUs();
   if (!acts_.empty()) {

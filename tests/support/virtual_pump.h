@@ -18,7 +18,7 @@ struct VirtualTimeExceeded : std::runtime_error {
 class VirtualPump : public EventPump {
  public:
   std::int64_t NowUs() const override { return now_us_; }
-  std::string TimeOfDay() const override { return "12:00"; }
+  std::string TimeOfDay() const override { return "12:00:00"; }
   void Run() override;
 
   /// Runs `what` when the clock reaches `at_us`, as a user's act would come: from inside a pump.

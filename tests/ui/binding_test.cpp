@@ -4,9 +4,13 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
@@ -17,9 +21,11 @@
 #include "forms/frm_options2.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
+#include "forms/frm_sq_mcr.h"
 #include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/lamp.h"
+#include "ui/message_dialog.h"
 
 namespace tr7 {
 namespace {
@@ -147,15 +153,33 @@ TEST_F(BindingTest, TheWheelChoosesNothingAndScrollsWhatIsAround) {
   ComboBox& record = frmDevice2.comboAxisSelect;
   for (const char* entry : {"one", "two"}) record.AddItem(entry, 0);
   record.ListIndex = 0;
-  auto& combo = Draw<QComboBox>(record);
-  for (const bool focused : {false, true}) {
-    focused ? combo.setFocus() : combo.clearFocus();
-    QWheelEvent turn({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&combo, &turn);
-    EXPECT_EQ(record.ListIndex, 0);
-    EXPECT_FALSE(turn.isAccepted());
+  frmSqMcr.UpDownSmNo.Set(2);
+  for (QWidget* widget : {static_cast<QWidget*>(&Draw<QComboBox>(record)),
+                          static_cast<QWidget*>(&Draw<QSpinBox>(frmSqMcr.UpDownSmNo))}) {
+    for (const bool focused : {false, true}) {
+      focused ? widget->setFocus() : widget->clearFocus();
+      QWheelEvent turn({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
+      QCoreApplication::sendEvent(widget, &turn);
+      EXPECT_FALSE(turn.isAccepted());
+    }
   }
+  EXPECT_EQ(record.ListIndex, 0);
+  EXPECT_EQ(frmSqMcr.UpDownSmNo.Value, 2);
+}
+
+TEST_F(BindingTest, ABoxWithALongListFitsTheScreen) {
+  std::string numbers;
+  for (int n = 1; n <= 300; ++n) numbers += std::to_string(n) + ",";
+  MessageBoxCall call;
+  call.Text = numbers;
+  AskMessage(call, nullptr, [](const std::function<bool()>&) {
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+      if (!qobject_cast<QMessageBox*>(top)) continue;
+      EXPECT_LE(top->width(), top->screen()->availableSize().width());
+      EXPECT_TRUE(top->findChild<QPlainTextEdit*>());
+    }
+  });
 }
 
 TEST_F(BindingTest, ATabStripGoesBothWaysAndKeepsOffTabsThatAreOff) {

@@ -1,0 +1,89 @@
+#include <string>
+
+#include "base/text_helpers.h"
+#include "forms/frm_posi.h"
+#include "link/port.h"
+#include "motion/home_state.h"
+#include "motion/motion_log.h"
+#include "motion/move_flows.h"
+#include "motion/move_prologue.h"
+#include "motion/move_steps.h"
+#include "motion/running_flow.h"
+#include "state/message_box.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgRange = 569;
+constexpr int kFirstNo = 1, kLastNo = 999;
+constexpr int kActionStart = 5416, kStarted = 5414;
+
+std::int16_t NumberIn(const Label& label) { return static_cast<std::int16_t>(Val(label.Caption)); }
+std::int16_t StartNo() { return NumberIn(frmPosi.Move.lblStartPosiNo); }
+bool IsSingle() { return frmPosi.Move.optMoveWay[1].Value; }
+std::int16_t EndNo() { return IsSingle() ? StartNo() : NumberIn(frmPosi.Move.lblEndPosiNo); }
+
+bool IsEnded() { return frmPosi.Move.MoveStop2Req || frmPosi.Move.MoveTempStop2; }
+
+/// Past the range's end a repeat begins anew. True: there is a number to move to.
+bool BackToStartAtEnd() {
+  PosiMoveTest& f = frmPosi.Move;
+  if (f.MoveContNo <= EndNo()) return true;
+  f.MoveContNo = StartNo();
+  return f.chkRepeat2.Value;
+}
+
+/// One number. False: the flow ends.
+bool MoveToNext(const MotionScope& motion) {
+  PosiMoveTest& f = frmPosi.Move;
+  if (f.MoveContNo < kFirstNo || f.MoveContNo > kLastNo) {
+    TusinPortClose();
+    Tell(kMsgRange);
+    return false;
+  }
+  f.lblNextNo.Caption = std::to_string(f.MoveContNo);
+  if (!MoveToPosition(motion, f.MoveContNo, f.chkNoSqMcr2.Value)) return false;
+  ShowHomeState();
+  frmPosi.Readout.lblkanryoNo.Caption = std::to_string(f.MoveContNo);
+  ++f.MoveContNo;
+  return true;
+}
+
+void Steps() {
+  PosiMoveTest& f = frmPosi.Move;
+  const MotionScope motion(Motion::Move);
+  const auto ended = [&motion] { return IsEnded() || motion.StopAsked(); };
+  while (BackToStartAtEnd()) {
+    if (!MoveToNext(motion) || IsEnded() || IsSingle()) break;
+    if (f.chkTimerUse2.Value && (f.MoveContNo <= EndNo() || f.chkRepeat2.Value)) {
+      WaitBetweenSteps(f.txtTimer2.Text, ended);
+    }
+    if (ended()) break;
+  }
+  // Stopped on the way, the place is kept: the next start goes on there.
+  if (motion.StopAsked()) f.MoveTempStop2 = True;
+}
+
+}  // namespace
+
+void cmdMove_Click() {
+  PosiMoveTest& f = frmPosi.Move;
+  const RunningFlow flow(MoveFlow::Continue);
+  LogMotion(kActionStart, "", kStarted);
+  const bool goes_on = f.MoveTempStop2 && !IsSingle() && f.MoveContNo >= StartNo();
+  f.MoveStop2Req = f.MoveTempStop2 = False;
+  if (!MovePrologue()) {
+    f.MoveTempStop2 = goes_on && !f.MoveStop2Req;
+    return;
+  }
+  if (!goes_on) f.MoveContNo = StartNo();
+  Steps();
+  if (f.MoveContNo > EndNo()) f.MoveContNo = StartNo();
+  if (f.MoveStop2Req) f.MoveTempStop2 = False;
+  f.MoveStop2Req = False;
+}
+
+void cmdTempStop2_Click() { frmPosi.Move.MoveTempStop2 = True; }
+void cmdStop2_Click() { frmPosi.Move.MoveStop2Req = True; }
+
+}  // namespace tr7

@@ -1,0 +1,100 @@
+#include "motion/homing.h"
+
+#include <string>
+
+#include "forms/frm_posi.h"
+#include "link/motion_commands.h"
+#include "link/port.h"
+#include "link/status_commands.h"
+#include "motion/home_state.h"
+#include "motion/motion_log.h"
+#include "motion/motion_now.h"
+#include "motion/move_steps.h"
+#include "motion/present_pos.h"
+#include "motion/running_flow.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/text.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kHomePosition = 0;
+constexpr int kActionHome = 5406, kTaken = 5411, kNotTaken = 5412;
+constexpr int kFirstHomeLine = 562, kHomeLines = 7;
+constexpr const char* kHomeSensorAlarm = "0%%134";
+
+int StartHoming() {
+  const int started = MoveAxesToCt(kHomePosition, 0);
+  LogMotion(kActionHome, MoveAxesFrame(kHomePosition, 0),
+            started == 0 ? MsgId(kTaken) : MsgId(kNotTaken));
+  return started;
+}
+
+void HomingIsDone() {
+  AppState.HomeDone = True;
+  ShowHomeState();
+}
+
+std::string HomeSensorText() {
+  std::string text = Text(kFirstHomeLine);
+  for (int i = 1; i < kHomeLines; ++i) text += "\n" + Text(MsgId::At(kFirstHomeLine, i));
+  return text;
+}
+
+/// Why the homing has failed: the sensor has its own advice.
+void TellHomingFailure(const TusinFailure& failure) {
+  const bool sensor =
+      failure.end == TusinEnd::ErrorReply && AppState.LastCtErrorText.starts_with(kHomeSensorAlarm);
+  const std::string text = sensor ? HomeSensorText() : failure.text;
+  if (!text.empty()) MsgBox(text);
+}
+
+}  // namespace
+
+void HomeRun() {
+  if (!ConnectOrOpenPort() || CtComStart() != 0 || !AxesAreAtRest()) return;
+  const MotionScope motion(Motion::Homing);
+  // Until the axes are home there is nothing to go on from.
+  AppState.HomeDone = False;
+  ShowHomeState();
+  if (StartHoming() != 0) return;
+  TusinFailure failure;
+  switch (WaitForRest(motion, &failure)) {
+    case Rest::Standing:
+      frmPosi.Readout.lblkanryoNo.Caption = "H0";
+      HomingIsDone();
+      static_cast<void>(ReadnDisp_PresentPos());  // its failure has been told
+      break;
+    case Rest::Failed:
+      TusinPortClose();
+      TellHomingFailure(failure);
+      break;
+    case Rest::Stopped:
+      break;
+  }
+}
+
+void cmdHome_Click() {
+  const RunningFlow flow(MoveFlow::Home);
+  HomeRun();
+}
+
+int GentenHukki() {
+  const MotionScope motion(Motion::Homing);
+  AppState.HomeDone = False;
+  ShowHomeState();
+  if (StartHoming() != 0) {
+    TusinPortClose();
+    return -1;
+  }
+  TusinFailure failure;
+  const Rest rest = WaitForRest(motion, &failure);
+  if (rest == Rest::Failed) TellHomingFailure(failure);
+  if (rest != Rest::Standing) return -1;
+  HomingIsDone();
+  return 0;
+}
+
+}  // namespace tr7

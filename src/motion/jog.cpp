@@ -1,0 +1,190 @@
+#include "motion/jog.h"
+
+#include <string>
+
+#include "forms/frm_posi.h"
+#include "link/motion_commands.h"
+#include "link/request_queue.h"
+#include "motion/inching.h"
+#include "motion/motion_log.h"
+#include "motion/motion_now.h"
+#include "motion/motion_tabs.h"
+#include "motion/move_steps.h"
+#include "motion/present_pos.h"
+#include "motion/stop.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+#include "state/online.h"
+#include "state/status_panel.h"
+#include "state/text.h"
+
+namespace tr7 {
+namespace {
+
+constexpr std::size_t kMostPending = 9;
+constexpr int kReleaseStopMs = 5000;  // while the axis runs
+constexpr int kEarlyStopMs = 1000;    // of a start that is still in flight
+constexpr int kMostStopTicks = 100;
+constexpr int kMsgAtTheEnd = 5293;
+constexpr int kActionJog = 5407, kActionInching = 5408, kActionRelease = 5422;
+constexpr int kTaken = 5411, kNotTaken = 5412, kNotSent = 5413;
+
+std::size_t RequestsPending() { return TusinQueue.waiting.size() + (TusinQueue.on_line ? 1 : 0); }
+
+void FocusAway() { doors.forms->SetFocus(frmPosi.Teach.Frame1); }
+
+/// The buttons serve the next press.
+void EndPress() {
+  PosiTeaching& f = frmPosi.Teach;
+  f.JogPending = f.JogRunning = False;
+  JogButtonsOn();
+  FocusAway();
+}
+
+/// The axis has been stopped, or the user told that it could not be: shows where it came to rest.
+void StopJog(int timeout_ms) {
+  PosiTeaching& f = frmPosi.Teach;
+  const bool stopped = StopAxes(timeout_ms);
+  f.JogPending = f.JogRunning = False;
+  f.timerJogStop.Stop();
+  if (stopped) {
+    // The stop button stays on until the axis stands.
+    const MotionScope motion(Motion::Jog);
+    if (WaitForRest(motion) == Rest::Standing) static_cast<void>(ReadnDisp_PresentPos());
+  }
+  EndMotion();
+  EndPress();
+}
+
+int InchingStep() {
+  const PosiTeaching& f = frmPosi.Teach;
+  return f.optInching1.Value ? 1 : f.optInching10.Value ? 10 : f.optInching100.Value ? 100 : 0;
+}
+
+/// The controller may have taken a start all the same where an answer was lost. Only the refusal of
+/// the one that was sent says that nothing runs: a second one is refused because the first does.
+bool MayRun(const TusinFailure& failure) {
+  return failure.sends > 1 || (failure.sends == 1 && failure.end != TusinEnd::ErrorReply);
+}
+
+/// What a start that was not taken leaves behind: a stop, before anyone is told.
+void StartFailed(const TusinFailure& failure) {
+  if (MayRun(failure)) StopAxes(kEarlyStopMs);
+  EndMotion();
+  EndPress();
+  if (!failure.text.empty()) MsgBox(failure.text);
+}
+
+void StartJog(int index) {
+  PosiTeaching& f = frmPosi.Teach;
+  const int percent = f.sldrJogVEL.Value;
+  BeginMotion(Motion::Jog);
+  f.StartInFlight = True;
+  TusinFailure failure;
+  const bool taken = JogStartToCt(percent, index, failure) == 0;
+  f.StartInFlight = False;
+  LogMotion(kActionJog, JogStartFrame(percent, index), taken ? MsgId(kTaken) : MsgId(kNotTaken));
+  // A release in the meantime has sent its stop behind the start, and has shown the end of it.
+  if (!f.JogPending) return EndPress();
+  if (!taken) return StartFailed(failure);
+  f.JogRunning = True;
+  // The release was seen and given up on, or the hand left with no stop on its way.
+  if (f.JogReleased) StopJog(kEarlyStopMs);
+}
+
+bool SendInching(int index) {
+  const auto frame = BuildInchingCommand(InchingStep(), index);
+  if (!frame) {
+    TellInStatusPanel(Text(kMsgAtTheEnd));
+    LogMotion(kActionInching, "", kNotSent);
+    return false;
+  }
+  const bool taken = MoveDirectTextToCt(*frame) == 0;
+  LogMotion(kActionInching, *frame, taken ? MsgId(kTaken) : MsgId(kNotTaken));
+  return taken;
+}
+
+void Inch(int index) {
+  if (ReadnDisp_PresentPos() == 0) {
+    const MotionScope motion(Motion::Inching);
+    if (SendInching(index) && WaitForRest(motion) != Rest::Failed) {
+      static_cast<void>(ReadnDisp_PresentPos());
+    }
+  }
+  EndPress();
+}
+
+}  // namespace
+
+void JogButtonsOff() {
+  frmPosi.Teach.JogButtonsAreOn = False;
+  ShowMotionTabs();
+}
+
+void JogButtonsOn() {
+  frmPosi.Teach.JogButtonsAreOn = True;
+  ShowMotionTabs();
+}
+
+void cmdJOG_MouseDown(int index) {
+  PosiTeaching& f = frmPosi.Teach;
+  if (!f.JogArmed || RequestsPending() > kMostPending) {
+    f.JogPressIgnored = True;
+    return;
+  }
+  f.JogPending = True;
+  f.JogPressIgnored = f.JogReleased = f.JogArmed = False;
+  f.TimerDelay.Start();
+  f.JogIsContinuous = f.optJOG.Value;
+  if (!f.JogIsContinuous) JogButtonsOff();
+  const bool at_rest = AxesAreAtRest();
+  // The hand may have left while the controller was asked: then nothing is to move.
+  if (!at_rest || (f.JogIsContinuous && f.JogReleased)) {
+    LogMotion(f.JogIsContinuous ? MsgId(kActionJog) : MsgId(kActionInching), "", kNotSent);
+    EndPress();
+    return SettleOnlineState();
+  }
+  f.JogIsContinuous ? StartJog(index) : Inch(index);
+}
+
+void cmdJOG_MouseUp(int /*index*/) {
+  PosiTeaching& f = frmPosi.Teach;
+  f.JogReleased = True;
+  // An inching step ends by itself, and its buttons come on with that.
+  if (f.JogPressIgnored || !f.JogIsContinuous) return;
+  LogMotion(kActionRelease, "", kTaken);
+  JogButtonsOff();
+  if (!f.JogPending) return EndPress();
+  if (f.JogRunning) return StopJog(kReleaseStopMs);
+  // The start is still on its way, or has not been sent yet.
+  f.JogStopTicks = 0;
+  f.timerJogStop.Start();
+  if (f.StartInFlight) StopJog(kEarlyStopMs);
+}
+
+void timerJogStop_Tick() {
+  PosiTeaching& f = frmPosi.Teach;
+  if (f.JogRunning && f.JogReleased) {
+    f.timerJogStop.Stop();
+    StopJog(kEarlyStopMs);
+  } else if (!f.JogPending || ++f.JogStopTicks > kMostStopTicks) {
+    f.timerJogStop.Stop();
+  }
+}
+
+void TimerDelay_Tick() {
+  frmPosi.Teach.TimerDelay.Stop();
+  frmPosi.Teach.JogArmed = True;
+}
+
+void ClearJog() {
+  PosiTeaching& f = frmPosi.Teach;
+  f.TimerDelay.Stop();
+  f.timerJogStop.Stop();
+  f.JogArmed = f.JogPressIgnored = f.JogReleased = f.JogPending = f.JogRunning = False;
+  f.StartInFlight = False;
+  f.JogStopTicks = 0;
+}
+
+}  // namespace tr7

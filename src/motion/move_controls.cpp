@@ -1,0 +1,80 @@
+#include <string>
+
+#include "base/text_helpers.h"
+#include "forms/frm_posi.h"
+#include "motion/group_range.h"
+#include "motion/move_flows.h"
+#include "state/message_box.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgWaitRange = 6547;
+constexpr int kMostWait = 999;
+constexpr int kNumberWidth = 900;  // twips
+
+/// A number that a slider and an up-down both set, and a label shows.
+void Couple(Slider& slider, UpDown& updown, Label& label) {
+  const auto show = [&slider, &updown, &label](int value) {
+    slider.Value = updown.Value = value;
+    label.Caption = std::to_string(value);
+  };
+  slider.Change = [show, &slider] { show(slider.Value); };
+  updown.Change = [show, &updown] { show(updown.Value); };
+}
+
+void ShowNumber(const Slider& slider, Label& label) {
+  label.Caption = std::to_string(slider.Value);
+}
+
+void RefuseLongWait(TextBox& wait) {
+  if (Val(wait.Text) <= kMostWait) return;
+  Tell(kMsgWaitRange);
+  wait.Text = std::to_string(kMostWait);
+}
+
+void FillList(Grid& list) {
+  list.SetText(0, 1, "No.");
+  for (int row = 1; row <= kSelectRows; ++row) list.SetText(row, 0, std::to_string(row));
+  list.SetColWidth(0, kNumberWidth / 2);
+  list.SetColWidth(1, kNumberWidth);
+  list.CanEdit = [](int row, int col) { return row > 0 && col == 1; };
+  list.MaxLength = [](int) { return 4; };
+  list.MoveOn = [&list](bool backwards) {
+    const int next = list.Row + (backwards ? -1 : 1);
+    list.SelectCell(next < 1 ? kSelectRows : next > kSelectRows ? 1 : next, 1);
+  };
+}
+
+}  // namespace
+
+void ShowMoveRange() {
+  PosiMoveTest& f = frmPosi.Move;
+  ShowNumber(f.sldrStartPosiNo, f.lblStartPosiNo);
+  ShowNumber(f.sldrEndPosiNo, f.lblEndPosiNo);
+}
+
+void InstallMoveControls() {
+  PosiMoveTest& f = frmPosi.Move;
+  FillList(f.flgdProgram);
+  Couple(f.sldrStartPosiNo, f.updownStartPosiNo, f.lblStartPosiNo);
+  Couple(f.sldrEndPosiNo, f.updownEndPosiNo, f.lblEndPosiNo);
+  for (TextBox* wait : {&f.txtTimer, &f.txtTimer2}) {
+    wait->Enter = [wait] { RefuseLongWait(*wait); };
+  }
+  f.timerMove.Tick = [] {
+    frmPosi.Move.timerMove.Stop();
+    frmPosi.Move.MoveTimerUp = True;
+  };
+  f.sldrGrpNo.Change = ShowGroupRange;
+  f.cmdSelectMove.Click = cmdSelectMove_Click;
+  f.cmdTmpStop.Click = cmdTmpStop_Click;
+  f.cmdStop.Click = cmdStop_Click;
+  f.cmdMove.Click = cmdMove_Click;
+  f.cmdTempStop2.Click = cmdTempStop2_Click;
+  f.cmdStop2.Click = cmdStop2_Click;
+  f.cmdGrpMove.Click = cmdGrpMove_Click;
+  f.cmdGrpMoveStop.Click = cmdGrpMoveStop_Click;
+}
+
+}  // namespace tr7

@@ -1,0 +1,27 @@
+#pragma once
+
+namespace tr7 {
+
+// The flows of the move tab. Nothing in the table changes.
+
+/// Up to 16 positions from a list.
+void cmdSelectMove_Click();
+/// A range of positions, or one of them.
+void cmdMove_Click();
+/// The positions of a group.
+void cmdGrpMove_Click();
+
+// Their stops and pauses set a flag: the running flow sees it at the end of its step, and a wait
+// ends at once.
+void cmdTmpStop_Click();
+void cmdStop_Click();
+void cmdTempStop2_Click();
+void cmdStop2_Click();
+void cmdGrpMoveStop_Click();
+
+/// Sliders, up-downs, labels and texts of the tab follow one another.
+void InstallMoveControls();
+/// The numbers beside the sliders of the range.
+void ShowMoveRange();
+
+}  // namespace tr7

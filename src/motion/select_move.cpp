@@ -1,0 +1,95 @@
+#include <string>
+
+#include "base/text_helpers.h"
+#include "forms/frm_posi.h"
+#include "link/port.h"
+#include "motion/motion_log.h"
+#include "motion/move_flows.h"
+#include "motion/move_prologue.h"
+#include "motion/move_steps.h"
+#include "motion/present_pos.h"
+#include "motion/running_flow.h"
+#include "state/message_box.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgRange = 561;
+constexpr int kNumberColumn = 1;
+constexpr int kFirstNo = 1, kLastNo = 999;
+constexpr int kActionStart = 5415, kStarted = 5414;
+
+const std::string& CellOf(int index) {
+  return frmPosi.Move.flgdProgram.Text(1 + index, kNumberColumn);
+}
+
+bool IsEnded() { return frmPosi.Move.MoveStopReq || frmPosi.Move.MoveTempStop; }
+
+/// One row. False: the flow ends.
+bool MoveToRow(const MotionScope& motion) {
+  PosiMoveTest& f = frmPosi.Move;
+  const double number = Val(CellOf(f.MoveSelectIndex));
+  if (number < kFirstNo || number > kLastNo) {
+    TusinPortClose();
+    Tell(kMsgRange);
+    return false;
+  }
+  f.MovePosiNo = static_cast<std::int16_t>(number);
+  f.lblNextNo.Caption = std::to_string(f.MovePosiNo);
+  f.flgdProgram.SelectCell(1 + f.MoveSelectIndex, kNumberColumn);
+  if (!MoveToPosition(motion, f.MovePosiNo, f.chkNoSqMcr1.Value)) return false;
+  frmPosi.Readout.lblkanryoNo.Caption = std::to_string(f.MovePosiNo);
+  return ReadnDisp_PresentPos() == 0;
+}
+
+/// True while there is a row to move to: past the list's end a repeat begins anew.
+bool HasRow() {
+  PosiMoveTest& f = frmPosi.Move;
+  const bool row = f.MoveSelectIndex < kSelectRows && !CellOf(f.MoveSelectIndex).empty();
+  if (row || !f.chkRepeat.Value) return row;
+  f.MoveSelectIndex = 0;
+  return !CellOf(0).empty();
+}
+
+void Steps() {
+  PosiMoveTest& f = frmPosi.Move;
+  const MotionScope motion(Motion::Move);
+  while (HasRow() && !IsEnded()) {
+    if (!MoveToRow(motion)) {
+      // Stopped on the way, the row is not reached: the next start goes to it.
+      f.MoveTempStop = motion.StopAsked();
+      return;
+    }
+    ++f.MoveSelectIndex;
+    if (IsEnded()) return;
+    if (f.chkTimerUse.Value && HasRow())
+      WaitBetweenSteps(f.txtTimer.Text, [&motion] { return IsEnded() || motion.StopAsked(); });
+    if (motion.StopAsked()) {
+      f.MoveTempStop = True;
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+void cmdSelectMove_Click() {
+  PosiMoveTest& f = frmPosi.Move;
+  const RunningFlow flow(MoveFlow::Select);
+  LogMotion(kActionStart, "", kStarted);
+  const bool goes_on = f.MoveTempStop && f.MoveSelectIndex < kSelectRows;
+  f.MoveStopReq = f.MoveTempStop = False;
+  if (!MovePrologue() || (f.chkRepeat.Value && CellOf(0).empty())) {
+    f.MoveTempStop = goes_on && !f.MoveStopReq;
+    return;
+  }
+  if (!goes_on) f.MoveSelectIndex = 0;
+  Steps();
+  if (f.MoveStopReq) f.MoveTempStop = False;
+  f.MoveStopReq = False;
+}
+
+void cmdTmpStop_Click() { frmPosi.Move.MoveTempStop = True; }
+void cmdStop_Click() { frmPosi.Move.MoveStopReq = True; }
+
+}  // namespace tr7

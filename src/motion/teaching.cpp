@@ -1,0 +1,210 @@
+#include "motion/teaching.h"
+
+#include "device/ct_device.h"
+#include "forms/frm_posi.h"
+#include "link/port.h"
+#include "link/request_queue.h"
+#include "link/status_commands.h"
+#include "link/task_commands.h"
+#include "motion/home_state.h"
+#include "motion/homing.h"
+#include "motion/jog.h"
+#include "motion/motion_log.h"
+#include "motion/motion_tabs.h"
+#include "motion/present_pos.h"
+#include "motion/teach_line.h"
+#include "platform/doors.h"
+#include "posi/posi_check.h"
+#include "posi/posi_grid_fill.h"
+#include "session/session.h"
+#include "state/app_state.h"
+#include "state/axes_in_use.h"
+#include "state/message_box.h"
+#include "state/text.h"
+
+namespace tr7 {
+
+TeachingSessionRecord TeachingSession;
+
+namespace {
+
+constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377;
+// The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2
+// switches its servo off. One frame carries one of the two: beside a servo that is off the others
+// are plain.
+constexpr int kTeaching = 1, kHeld = 1, kServoOff = 2;
+constexpr int kOn = 2225, kOff = 2226;
+constexpr int kActionStart = 5418, kActionEnd = 5419, kActionDirect = 5420, kActionServo = 5421;
+constexpr int kTaken = 5411, kNotTaken = 5412;
+
+int ServoMask() {
+  int mask = 0;
+  for (const int axis : AxesInUse()) mask |= frmPosi.Teach.ServoOn[axis] ? 1 << axis : 0;
+  return mask;
+}
+
+/// `mask`: the axes whose servos are on.
+int SendServos(int mask) {
+  const int off = AxesInUseMask() & ~mask;
+  return off != 0 ? CtControlModeSet(kServoOff, kTeaching, off)
+                  : CtControlModeSet(kHeld, kTeaching, kAllAxes);
+}
+
+void ShowServoBoxes() {
+  PosiTeaching& f = frmPosi.Teach;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    f.chkSarvoOn[axis].Value = f.ServoOn[axis];
+    f.chkSarvoOn[axis].Caption = Text(f.ServoOn[axis] ? MsgId(kOn) : MsgId(kOff));
+  }
+}
+
+/// False after the user has been told: a program runs, or nobody knows.
+bool NoProgramRuns() {
+  if (!AppState.CtMode) return true;
+  const int tasks = ReadTaskCountFromCt();
+  if (tasks > 0) {
+    Tell(kMsgProgramRuns);
+    Tell(kMsgStopPrograms);
+  }
+  return tasks == 0;
+}
+
+void ClearTeaching() {
+  PosiTeaching& f = frmPosi.Teach;
+  ClearJog();
+  f.timerTeaching.Stop();
+  f.DirectTeaching = False;
+  f.chkDirectTeach.Value = false;
+  for (int axis = 0; axis < kAxes; ++axis) f.ServoOn[axis] = f.SarvoEnable[axis] = False;
+}
+
+bool EnterTeachingMode() {
+  if (SendServos(kAllAxes) == 0) return true;
+  Tell(kMsgLineFailed);
+  return false;
+}
+
+bool ReadWhereItStands() {
+  if (ReadCtModeAndAxis() != 0 || ReadHomeStateFromCt() != 0) return false;
+  if (!AppState.AllHomed) AppState.HomeDone = False;
+  if (!AppState.HomeDone && GentenHukki() != 0) return false;
+  if (ReadnDisp_PresentPos() != 0) return false;
+  return ReadCtDeviceFromCt() == 0;  // the axes' data
+}
+
+/// The steps to a session. False: there is none, and the user knows why.
+bool StartTeaching() {
+  {
+    const KeepPlace place;
+    if (!PosiDataCheckAll()) return false;
+  }
+  if (!ConnectOrOpenPort() || !NoProgramRuns() || !OpenPortOrTell()) return false;
+  ClearTeaching();
+  if (!EnterTeachingMode()) return false;
+  if (ReadWhereItStands()) return true;
+  // Back to the controller's own: not over a line that has just failed.
+  if (!AppState.Offline) static_cast<void>(CtControlModeSet(0, 0, 0));
+  return false;
+}
+
+}  // namespace
+
+void cmdJOGST_Click() {
+  if (AppState.TeachingNow) return;
+  PosiTeaching& f = frmPosi.Teach;
+  TeachingSession.commands_off.emplace();
+  bool started;
+  {
+    const BusyScope busy;
+    started = StartTeaching();
+  }
+  LogMotion(kActionStart, "", started ? MsgId(kTaken) : MsgId(kNotTaken));
+  if (!started) {
+    TusinPortClose();
+    TeachingSession.commands_off.reset();
+    return;
+  }
+  AppState.TeachingNow = True;
+  f.JogArmed = f.JogButtonsAreOn = True;
+  for (const int axis : AxesInUse()) f.SarvoEnable[axis] = f.ServoOn[axis] = True;
+  ShowServoBoxes();
+  frmPosi.flgdData.Enabled = true;
+  ShowTeachLine();
+  ShowMotionTabs();
+}
+
+void cmdJOGend_Click() {
+  if (!AppState.TeachingNow) return;
+  ClearTeaching();
+  ShowServoBoxes();
+  const bool normal = CtControlModeSet(0, 0, 0) == 0;
+  LogMotion(kActionEnd, "", normal ? MsgId(kTaken) : MsgId(kNotTaken));
+  if (!normal) {
+    AppState.AxesMayBeHeld = True;
+    Tell(kMsgLineFailed);
+  }
+  AppState.TeachingNow = False;
+  TusinPortClose();
+  TeachingSession.commands_off.reset();
+  ShowMotionTabs();
+}
+
+int ServoApplyToCt() {
+  const int mask = ServoMask();
+  if (mask != AxesInUseMask()) AppState.HomeDone = False;
+  ShowHomeState();
+  const int sent = SendServos(mask);
+  LogMotion(kActionServo, "", sent == 0 ? MsgId(kTaken) : MsgId(kNotTaken));
+  return sent;
+}
+
+void chkSarvoOn_Click(int axis) {
+  PosiTeaching& f = frmPosi.Teach;
+  f.ServoOn[axis] = f.chkSarvoOn[axis].Value;
+  ShowServoBoxes();
+  if (AppState.Offline || f.DirectTeaching) return;
+  if (ServoApplyToCt() != 0) {
+    f.ServoOn[axis] = !f.ServoOn[axis];
+    ShowServoBoxes();
+  }
+  ShowMotionTabs();
+}
+
+namespace {
+
+/// All servos off: the user pushes the slides, and the read-outs follow.
+bool DirectTeachStart() {
+  AppState.HomeDone = False;
+  ShowHomeState();
+  if (SendServos(0) != 0) return false;
+  frmPosi.Teach.DirectTeaching = True;
+  frmPosi.Teach.timerTeaching.Start();
+  return true;
+}
+
+void DirectTeachEnd() {
+  frmPosi.Teach.timerTeaching.Stop();
+  frmPosi.Teach.DirectTeaching = False;
+  if (!AppState.Offline) static_cast<void>(ServoApplyToCt());  // its failure has been told
+}
+
+}  // namespace
+
+void chkDirectTeach_Click() {
+  PosiTeaching& f = frmPosi.Teach;
+  if (!f.chkDirectTeach.Value) {
+    DirectTeachEnd();
+  } else if (!DirectTeachStart()) {
+    f.chkDirectTeach.Value = false;
+  }
+  LogMotion(kActionDirect, "", f.DirectTeaching ? MsgId(kOn) : MsgId(kOff));
+  ShowMotionTabs();
+}
+
+void timerTeaching_Tick() {
+  // A tick while something else has the line is none.
+  if (!TusinQueue.IsEmpty()) return;
+  if (AppState.Offline || ReadnDisp_PresentPos() != 0) frmPosi.Teach.timerTeaching.Stop();
+}
+
+}  // namespace tr7

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace tr7 {
+
+/// How far the running write has come. The controller takes its records one by one, and stores them
+/// at a frame of its own behind the last.
+struct WriteTakenRecord {
+  enum class Storing { NotAsked, Refused, NotKnown, Done };
+  std::string First, Last;  ///< records taken, in the user's words; empty: none
+  std::string Failed;       ///< the record whose frame failed; empty: none
+  bool FailedIsRefused = false;
+  Storing Stored = Storing::NotAsked;
+};
+
+extern WriteTakenRecord WriteTaken;
+
+/// What a write that failed has left in the controller: what it has taken and what not, and whether
+/// it has stored it.
+std::string WriteTakenText();
+
+}  // namespace tr7

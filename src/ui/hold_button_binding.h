@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "forms/hold_button.h"
+#include "ui/binding.h"
+
+namespace tr7 {
+
+/// A button that is held by the mouse or by its key. It listens to the whole program, since what
+/// takes the hand away need not happen to the button: the release may go elsewhere, another window
+/// may come in front, the program may lose the screen.
+class HoldButtonBinding : public QObject, public WidgetBinding {
+ public:
+  HoldButtonBinding(HoldButton& record, QPushButton& button, const CommandGate& gate);
+  ~HoldButtonBinding() override;
+  void Push() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  enum class Hand { None, Mouse, Key };
+  bool MayBePressed() const;
+  bool IsOurKey(const QEvent& event) const;
+  bool TakesHandAway(const QObject& watched, const QEvent& event) const;
+  bool Press(Hand hand);
+  void LetGo();
+
+  HoldButton& record_;
+  QPushButton& button_;
+  CommandGate gate_;
+  Hand hand_ = Hand::None;
+  int key_ = 0;
+  std::optional<std::string> caption_;
+};
+
+}  // namespace tr7

@@ -1,0 +1,163 @@
+// Homing and the moves of the table: their frames, their stops, and what a failing step leaves.
+
+#include "data/grp_table.h"
+#include "forms/frm_main.h"
+#include "tests/motion/motion_user.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+class MoveTest : public MotionTest {
+ protected:
+  void SetUp() override {
+    MotionTest::SetUp();
+    ShowTab(1);
+  }
+
+  static void List(const std::vector<std::string>& numbers) {
+    for (int row = 0; row < kSelectRows; ++row) {
+      const auto at = static_cast<std::size_t>(row);
+      frmPosi.Move.flgdProgram.SetText(1 + row, 1, at < numbers.size() ? numbers[at] : "");
+    }
+  }
+  static const std::string& Reached() { return frmPosi.Readout.lblkanryoNo.Caption; }
+  std::string Moved() const {
+    std::string moved;
+    for (const std::string& line : Lines()) {
+      if (line.starts_with("0M")) moved += line + " ";
+    }
+    return moved;
+  }
+};
+
+TEST_F(MoveTest, HomingIsDoneOnceAndAskedForAgainAfterAnAlarm) {
+  AppState.HomeDone = False;
+  List({"1"});
+  frmPosi.Move.cmdSelectMove.Press();
+  EXPECT_EQ(Moved(), "0MP000F 0MP001F ");
+  EXPECT_TRUE(AppState.HomeDone && frmPosi.Readout.imgHomeGreen.Visible);
+  port.sent.clear();
+  frmPosi.Move.cmdHome.Press();
+  EXPECT_EQ(Moved(), "0MP000F ");
+  EXPECT_EQ(Reached(), "H0");
+  Spoil(FaultKind::kErrorReply, "0RA");
+  frmPosi.Move.cmdSelectMove.Press();
+  EXPECT_FALSE(AppState.HomeDone);
+}
+
+TEST_F(MoveTest, AHomeSensorThatFailsIsToldWithAdvice) {
+  port.Ct().FailNextHoming(1);
+  frmPosi.Move.cmdHome.Press();
+  const Texts boxes = Boxes();
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].substr(0, 54), "Home sensor could not be detected at homing.\nConfirm t");
+  EXPECT_EQ(std::count(boxes[0].begin(), boxes[0].end(), '\n'), 6);
+  EXPECT_FALSE(AppState.HomeDone);
+}
+
+TEST_F(MoveTest, TheListEndsAtAnEmptyRowAndAtARowThatIsNoNumber) {
+  const struct {
+    std::vector<std::string> list;
+    const char* moved;
+    const char* box;
+  } rows[] = {{{"1", "2", "", "3"}, "0MP001F 0MP002F ", ""},
+              {{"2", "1000"}, "0MP002F ", "Input position No. by decimal(Using 1 to 999)"},
+              {{"0"}, "", "Input position No. by decimal(Using 1 to 999)"},
+              {{}, "", ""}};
+  for (const auto& row : rows) {
+    port.sent.clear();
+    List(row.list);
+    frmPosi.Move.cmdSelectMove.Press();
+    EXPECT_EQ(Moved(), row.moved);
+    EXPECT_EQ(Boxes(), *row.box ? Texts{row.box} : Texts{});
+  }
+}
+
+TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
+  const struct {
+    CommandButton& end;
+    const char* then;
+  } rows[] = {{frmPosi.Move.cmdTmpStop, "0MS002F 0MS003F "},
+              {frmPosi.Move.cmdStop, "0MS001F 0MS002F 0MS003F "},
+              {frmMain.cmdStopNow, "0MS001F 0MS002F 0MS003F "}};
+  frmPosi.Move.chkNoSqMcr1.Set(true);
+  List({"1", "2", "3"});
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.end.Name);
+    pump.After(120'000, [&row] { row.end.Press(); });
+    frmPosi.Move.cmdSelectMove.Press();
+    EXPECT_FALSE(Moves()) << Acts() << forms.LastBox();
+    port.sent.clear();
+    frmPosi.Move.cmdSelectMove.Press();
+    EXPECT_EQ(Moved(), row.then);
+    EXPECT_EQ(Reached(), "3");
+  }
+}
+
+TEST_F(MoveTest, ARangeRepeatsUntilItIsStoppedAndGoesOnAfterAPause) {
+  PosiMoveTest& f = frmPosi.Move;
+  f.updownStartPosiNo.Set(2);
+  f.updownEndPosiNo.Set(3);
+  f.cmdMove.Press();
+  EXPECT_EQ(Moved(), "0MP002F 0MP003F ");
+  port.sent.clear();
+  f.chkRepeat2.Set(true);
+  f.chkTimerUse2.Set(true);
+  f.txtTimer2.Type("5");
+  pump.After(30'000'000, [&f] { f.cmdTempStop2.Press(); });
+  f.cmdMove.Press();
+  EXPECT_TRUE(Moved().starts_with("0MP002F 0MP003F 0MP002F 0MP003F ")) << Moved();
+  const std::string last = Moved().substr(Moved().size() - 8);
+  port.sent.clear();
+  f.chkRepeat2.Set(false);
+  f.cmdMove.Press();
+  EXPECT_TRUE(Moved().ends_with("0MP003F "));
+  EXPECT_EQ(Moved().starts_with("0MP003F"), last == "0MP002F ");
+  port.sent.clear();
+  f.optMoveWay[1].Press();
+  f.cmdMove.Press();
+  EXPECT_EQ(Moved(), "0MP002F ");
+}
+
+TEST_F(MoveTest, AGroupMovesThroughItsRange) {
+  GrpTable.GrpStart[7] = 2;
+  GrpTable.GrpEnd[7] = 3;
+  GrpTable.GrpStart[8] = 0;
+  PosiMoveTest& f = frmPosi.Move;
+  f.sldrGrpNo.Set(7);
+  f.cmdGrpMove.Press();
+  EXPECT_EQ(Moved(), "0MP002F 0MP003F ");
+  f.sldrGrpNo.Set(8);
+  f.cmdGrpMove.Press();
+  EXPECT_EQ(Boxes(), Texts{"The range of group 8 (No. 0 to 1) is not valid."});
+  AppState.CtMode = True;
+  f.cmdGrpMove.Press();
+  AppState.CtMode = False;
+  EXPECT_EQ(Boxes(), Texts{"The Group Move cannot be executed in the program mode."});
+}
+
+/// Whatever fails on the way ends the flow: nothing is sent after it but what sets things right.
+TEST_F(MoveTest, AFailingStepEndsTheFlow) {
+  List({"1", "2"});
+  for (const char* prefix : {"0RA", "0RD0", "0RH", "0MP001", "0MP002", "0RC"}) {
+    for (const FaultKind kind : {FaultKind::kSilence, FaultKind::kErrorReply}) {
+      SCOPED_TRACE(prefix);
+      Spoil(kind, prefix, kind == FaultKind::kSilence ? 0 : 1);
+      frmPosi.Move.cmdSelectMove.Press();
+      EXPECT_FALSE(Boxes().empty());
+      EXPECT_EQ(MotionNow.Flow, MoveFlow::None);
+      port.Ct().ClearFaults();
+      pump.RunFor(2'000'000);
+      if (AppState.AlarmOn) frmMain.cmdReset.Press();
+      if (AppState.Offline) frmMain.mnuSettingOnline.Press();
+      AppState.HomeDone = True;
+      ShowTab(1);
+      frmPosi.Move.MoveTempStop = False;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tr7

@@ -1,0 +1,101 @@
+// Teaching from its start to its end.
+
+#include "forms/frm_main.h"
+#include "motion/present_pos.h"
+#include "state/message_box.h"
+#include "tests/motion/motion_user.h"
+
+namespace tr7 {
+namespace {
+
+using qvr7sim::FaultKind;
+
+class TeachingTest : public MotionTest {};
+
+class TeachingInProgramMode : public MotionTest {
+ protected:
+  TeachingInProgramMode() : MotionTest(WithATask()) {}
+  static qvr7sim::Setup WithATask() {
+    qvr7sim::Setup setup = InProgramMode();
+    setup.running_tasks = 1;
+    return setup;
+  }
+};
+
+TEST_F(TeachingTest, ASessionTakesPositionsLineByLine) {
+  StartTeaching();
+  EXPECT_FALSE(frmMain.mnuFile.Enabled);
+  EXPECT_FALSE(frmPosi.tabCmd.Tabs[0].Enabled || frmPosi.tabCmd.Tabs[1].Enabled);
+  EXPECT_EQ(frmPosi.Teach.lblPosiNo.Caption, "1");
+  port.Ct().PlaceAxis(1, 1234, pump.NowUs());
+  ASSERT_EQ(ReadnDisp_PresentPos(), 0);
+  frmPosi.Teach.cmdJOGWriteNext.Press();
+  EXPECT_EQ(Cell(1, 4), "1234");
+  EXPECT_TRUE(frmPosi.PosiChanged);
+  EXPECT_EQ(frmPosi.Teach.lblPosiNo.Caption, "2");
+  EXPECT_TRUE(CloseView(frmMain, CloseReason::ControlMenu) == false);
+  EXPECT_EQ(Boxes(), Texts{TwoLines(60, 61)});
+  port.sent.clear();
+  frmPosi.Teach.cmdJOGend.Press();
+  EXPECT_EQ(Acts(), "0CM00000 ");
+  EXPECT_FALSE(AppState.TeachingNow);
+  EXPECT_TRUE(frmMain.mnuFile.Enabled);
+}
+
+TEST_F(TeachingTest, ServosAndTheSlideByHand) {
+  StartTeaching();
+  PosiTeaching& f = frmPosi.Teach;
+  f.chkSarvoOn[1].Set(false);
+  EXPECT_EQ(Acts(), "0CM10200 ");
+  EXPECT_EQ(f.chkSarvoOn[1].Caption, "OFF");
+  EXPECT_FALSE(AppState.HomeDone);
+  EXPECT_FALSE(f.cmdJOG[2].Enabled);
+  port.sent.clear();
+  f.chkDirectTeach.Set(true);
+  EXPECT_EQ(Acts(), "0CM12222 ");
+  port.Ct().PlaceAxis(1, 777, pump.NowUs());
+  pump.RunFor(700'000);
+  EXPECT_EQ(frmPosi.Readout.lblPosi[0].Caption, "777");
+  port.sent.clear();
+  f.chkDirectTeach.Set(false);
+  EXPECT_EQ(Acts(), "0CM10200 ");
+  Spoil(FaultKind::kErrorReply, "0CM1");
+  f.chkSarvoOn[1].Set(true);
+  EXPECT_FALSE(f.chkSarvoOn[1].Value) << "the box goes back";
+}
+
+/// What keeps a session from starting leaves everything as it was.
+TEST_F(TeachingTest, AStartThatFailsIsNone) {
+  for (const char* prefix : {"0CM1", "0RD0", "0RH", "0RC", "0RD3"}) {
+    SCOPED_TRACE(prefix);
+    Spoil(FaultKind::kErrorReply, prefix);
+    frmPosi.Teach.cmdJOGST.Press();
+    EXPECT_FALSE(AppState.TeachingNow);
+    EXPECT_TRUE(frmMain.mnuFile.Enabled);
+    EXPECT_FALSE(Boxes().empty());
+    port.Ct().ClearFaults();
+    if (AppState.AlarmOn) frmMain.cmdReset.Press();
+    if (AppState.Offline) frmMain.mnuSettingOnline.Press();
+    AppState.HomeDone = True;
+    ShowTab(2);
+  }
+}
+
+TEST_F(TeachingTest, ATableThatFailsTheCheckIsNotTaughtInto) {
+  Put(1, 1, "0");
+  frmPosi.Teach.cmdJOGST.Press();
+  EXPECT_EQ(forms.modals, Texts{"frmSyogoKekka"});
+  EXPECT_FALSE(AppState.TeachingNow);
+  allow_unanswered = true;
+}
+
+TEST_F(TeachingInProgramMode, ARunningProgramRefusesIt) {
+  frmPosi.Teach.cmdJOGST.Press();
+  EXPECT_EQ(Boxes(), (Texts{"The program is being executed.",
+                            "Please execute it again after stopping all programs."}));
+  EXPECT_FALSE(AppState.TeachingNow);
+  EXPECT_EQ(SentLines(3), "0CM 0TN ");
+}
+
+}  // namespace
+}  // namespace tr7
