@@ -8,6 +8,7 @@
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/text.h"
+#include "tests/tour/motion_script.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -228,7 +229,11 @@ void OfflineFirst(User& user) {
 
 const std::vector<Script>& Scripts() {
   static const std::vector<Script> scripts{
-      {"look", {}, FirstLook}, {"job", {}, MainJob}, {"offline", {"--mode", "prg"}, OfflineFirst}};
+      {"look", {}, FirstLook},
+      {"job", {}, MainJob},
+      {"offline", {"--mode", "prg"}, OfflineFirst},
+      {"motion", {}, MoveAndTeach},
+      {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram}};
   return scripts;
 }
 
