@@ -56,7 +56,7 @@ bool IsAnsweredOrCutShort(const TusinRequest& request) {
   return IsAnswered(request) || IsCutShort(request);
 }
 bool IsResyncOver(const TusinRequest& request) {
-  return IsAnswered(request) || AppState.GroupMoveStop;
+  return IsAnswered(request) || AppState.GroupMoveStop || IsOvertaken(request);
 }
 
 // Its steps.
@@ -158,10 +158,15 @@ Exchange TusinExchange(TusinRequest& request) {
     const TusinEnd verdict = JudgeReply(request);
     if (verdict != TusinEnd::BadPrefix && verdict != TusinEnd::BadLength) co_return verdict;
 
-    // A sign of sense is asked for after a bad reply. The wait for it is bounded: a tool that hangs
-    // beside a machine is worse than one that gives up.
+    // A sign of sense is asked for after a bad reply, but not ahead of a stop. The wait for it is
+    // bounded: a tool that hangs beside a machine is worse than one that gives up.
+    if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
     if (!SendLine(kResyncCommand, kResyncTimeoutMs, 0)) co_return verdict;
     co_await Until{IsResyncOver};
+    if (IsOvertaken(request)) {
+      TusinQueue.late_reply_possible |= !AppState.TusinReplyReady;
+      co_return TusinEnd::Withdrawn;
+    }
     const std::string& reply = AppState.TusinReplyText;
     if (AppState.GroupMoveStop) co_return TusinEnd::GroupMoveStopped;
     if (!AppState.TusinReplyReady) co_return verdict;

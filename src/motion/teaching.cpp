@@ -29,8 +29,9 @@ TeachingSessionRecord TeachingSession;
 namespace {
 
 constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377;
-// The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2 switches
-// its servo off. One frame carries one of the two: beside a servo that is off the others are plain.
+// The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2
+// switches its servo off. One frame carries one of the two: beside a servo that is off the others
+// are plain.
 constexpr int kTeaching = 1, kHeld = 1, kServoOff = 2;
 constexpr int kOn = 2225, kOff = 2226;
 constexpr int kActionStart = 5418, kActionEnd = 5419, kActionDirect = 5420, kActionServo = 5421;
@@ -134,6 +135,8 @@ void cmdJOGST_Click() {
 
 void cmdJOGend_Click() {
   if (!AppState.TeachingNow) return;
+  // Its key may come while a jog is held: the axis is stopped while the session still knows of it.
+  LetGoOfHeldButton();
   ClearTeaching();
   ShowServoBoxes();
   const bool normal = CtControlModeSet(0, 0, 0) == 0;
