@@ -48,7 +48,9 @@ bool IsCutShort(const TusinRequest& request) {
   return IsCancelled(request) || (!start && IsOvertaken(request));
 }
 
-bool IsTimedOut(const TusinRequest&) { return AppState.TusinTimedOut; }
+bool IsPauseOver(const TusinRequest& request) {
+  return AppState.TusinTimedOut || IsOvertaken(request);
+}
 bool IsAnswered(const TusinRequest&) {
   return AppState.TusinReplyReady || AppState.TusinTimedOut || PortIsLost();
 }
@@ -118,7 +120,8 @@ Exchange TusinExchange(TusinRequest& request) {
     for (int attempt = 1; TusinPortOpen() != 0; ++attempt) {
       if (attempt == kOpenAttempts) co_return TusinEnd::PortFailed;
       StartTimeout(kPauseMs);
-      co_await Until{IsTimedOut};
+      co_await Until{IsPauseOver};
+      if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
     }
     if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
 
