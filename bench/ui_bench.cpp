@@ -148,6 +148,8 @@ class Bench {
     frmPosi.SSTabCommand().Selected = 2;
     frmPosi.SSTabCommand().Click();
     frmPosi.Teach.cmdJOGST.Press();
+    // There may be no window manager that does.
+    desktop_.forms.WidgetOf(frmPosi.Teach.cmdJOG[1])->window()->activateWindow();
     WaitMs(400);
     const auto stops = [this](int presses, bool in_flight) {
       std::vector<double> all;

@@ -14,7 +14,7 @@ constexpr std::int64_t kRampUs = 100'000 + kSlackUs;
 constexpr std::int64_t kStartTimeoutUs = 1'000'000;
 constexpr std::int64_t kStopTimeoutUs = 1'000'000, kLongStopTimeoutUs = 5'000'000;
 constexpr std::int64_t kLetInUs = 150'000;   // a reply that is under way ahead of the stop
-constexpr std::int64_t kReopenUs = 300'000;  // four attempts at the port
+constexpr std::int64_t kReopenUs = 600'000;  // four attempts at the port, and four more
 constexpr std::int64_t kResyncUs = 100'000;  // the sign of sense after a bad reply to the stop
 
 std::int64_t Now() { return doors.pump->NowUs(); }
@@ -109,6 +109,8 @@ void JogWatch::Sent(const std::string& line, std::int64_t now) {
   }
   if (Is(line, "0JR") || Is(line, "0MV")) {
     if (!may_start_ || Is(line, "0MV") != (step_ > 0)) Fail("a start without a hand: " + line);
+    // What an earlier press owed is paid where the axes stand, whatever became of its answer.
+    if (!port_.Ct().AnyMoving(now)) owed_ = jog_out_ = false;
     jog_out_ = jog_out_ || Is(line, "0JR");
   }
   if (Is(line, "0MP") || Is(line, "0MS")) Fail("a motion nobody asked for: " + line);
