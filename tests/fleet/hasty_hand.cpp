@@ -61,11 +61,9 @@ void AddPresses(Control& control, std::vector<Press>& presses) {
 /// What starts a motion is for hands that let go of it again.
 bool Moves(const Control& control) {
   const PosiMoveTest& move = frmPosi.Move;
-  for (const CommandButton* start : {&move.cmdHome, &move.cmdSelectMove, &move.cmdMove,
-                                     &move.cmdGrpMove, &frmPosi.Teach.cmdJOGST}) {
-    if (&control == start) return true;
-  }
-  return false;
+  return &control == &move.cmdHome || &control == &move.cmdSelectMove ||
+         &control == &move.cmdMove || &control == &move.cmdGrpMove ||
+         &control == &frmPosi.Teach.cmdJOGST;
 }
 
 /// Everything that the views in front offer: a dialogue keeps the hand off all others.
