@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,12 +22,14 @@ class CountingPort : public tr7::SerialPort {
   bool IsOpen() const override { return port_.IsOpen(); }
   bool Write(std::string_view bytes) override {
     bytes_ += static_cast<std::int64_t>(bytes.size());
+    if (on_write) on_write(bytes);
     return port_.Write(bytes);
   }
   void ExpectReply(std::size_t bytes) override { port_.ExpectReply(bytes); }
   std::size_t InBufferCount() override { return port_.InBufferCount(); }
   std::string ReadAll() override {
     std::string bytes = port_.ReadAll();
+    if (on_read) on_read(bytes);
     bytes_ += static_cast<std::int64_t>(bytes.size());
     return bytes;
   }
@@ -34,6 +37,9 @@ class CountingPort : public tr7::SerialPort {
   bool IsSimulated() const override { return port_.IsSimulated(); }
   std::optional<std::int64_t> NextEventUs() override { return port_.NextEventUs(); }
   std::vector<std::string> PortNames() const override { return port_.PortNames(); }
+
+  // Sees what is about to be handed to the port, and what has been taken from it.
+  std::function<void(std::string_view bytes)> on_write, on_read;
 
   /// What the bytes in both directions since the last call take at 9600 baud, 10 bits a byte, us.
   std::int64_t TakeLineUs() {

@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -54,7 +56,7 @@ Options OptionsOf(const QApplication& application) {
 class Bench {
  public:
   Bench(const Options& options, const QString& settings_file)
-      : paced_(options.sim),
+      : paced_(options.sim, {"--homed"}),
         quick_(options.sim, {"--no-pace"}),
         desktop_({settings_file, false}),
         file_(QFileInfo(settings_file).absolutePath() + "/full.qvd") {
@@ -84,7 +86,7 @@ class Bench {
     frmMain.mnuSettingOnline.Press();
     if (AppState.Offline) return Failed("going online");
     Report("idle_online_cpu_percent", IdlePercent(), 2);
-    return ReadPaced() || ReadFull() || OpenFull() || CompareFull() ? 1 : 0;
+    return Jog() || ReadPaced() || ReadFull() || OpenFull() || CompareFull() ? 1 : 0;
   }
 
  private:
@@ -105,6 +107,69 @@ class Bench {
     const CpuMeter meter;
     WaitMs(kIdleMs);
     return meter.Percent();
+  }
+
+  void Mouse(QEvent::Type type, const HoldButton& button) const {
+    QWidget& widget = *desktop_.forms.WidgetOf(button);
+    const QPointF at = widget.rect().center();
+    const bool down = type == QEvent::MouseButtonPress;
+    QMouseEvent event(type, at, widget.mapToGlobal(at), Qt::LeftButton,
+                      down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+  }
+
+  /// One press and its release, once the axis runs or while the start is in flight: the time from
+  /// the release, or from the answer to the start, until the stop is handed to the port. Below 0:
+  /// none.
+  double StopMs(const HoldButton& button, bool in_flight) {
+    std::chrono::steady_clock::time_point since;
+    double ms = -1;
+    const auto release = [&] {
+      since = std::chrono::steady_clock::now();
+      Mouse(QEvent::MouseButtonRelease, button);
+    };
+    port_.on_write = [&](std::string_view line) {
+      if (line.starts_with("0SP") && ms < 0) ms = MsSince(since);
+      if (line.starts_with("0JR") && in_flight) QTimer::singleShot(1, &user_, release);
+    };
+    port_.on_read = [&](std::string_view) {
+      if (in_flight && ms < 0) since = std::chrono::steady_clock::now();
+    };
+    Mouse(QEvent::MouseButtonPress, button);
+    if (!in_flight) WaitMs(30);
+    if (!in_flight) release();
+    WaitMs(350);  // a press counts again
+    port_.on_write = port_.on_read = nullptr;
+    return ms;
+  }
+
+  int Jog() {
+    constexpr int kPresses = 200, kInFlight = 50;
+    AppState.HomeDone = True;
+    frmPosi.SSTabCommand().Selected = 2;
+    frmPosi.SSTabCommand().Click();
+    frmPosi.Teach.cmdJOGST.Press();
+    // There may be no window manager that does.
+    desktop_.forms.WidgetOf(frmPosi.Teach.cmdJOG[1])->window()->activateWindow();
+    WaitMs(400);
+    const auto stops = [this](int presses, bool in_flight) {
+      std::vector<double> all;
+      for (int i = 0; i < presses; ++i) {
+        all.push_back(StopMs(frmPosi.Teach.cmdJOG[i % 2 ? 0 : 1], in_flight));
+      }
+      return all;
+    };
+    const std::vector<double> free = stops(kPresses, false), behind = stops(kInFlight, true);
+    for (const auto* all : {&free, &behind}) {
+      if (*std::min_element(all->begin(), all->end()) < 0) return Failed("a jog");
+    }
+    Report("jog_stop_ms", Median(free), 3);
+    Report("jog_stop_worst_ms", *std::max_element(free.begin(), free.end()), 3);
+    Report("jog_stop_behind_reply_ms", Median(behind), 3);
+    frmPosi.Teach.cmdJOGend.Press();
+    frmPosi.SSTabCommand().Selected = 0;
+    frmPosi.SSTabCommand().Click();
+    return 0;
   }
 
   /// 0 when lines 1 to `last` stand in the grid.

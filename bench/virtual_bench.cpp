@@ -132,6 +132,26 @@ void OtherKinds(Desk& desk) {
   Transfer(desk, "sm_read_virtual_ratio", frmSqMcr.cmdReadSMfromCt, "0RS14");
 }
 
+/// From the axes at rest to the next command of a continuous move.
+void MoveOn(Desk& desk) {
+  PosiMoveTest& f = frmPosi.Move;
+  frmPosi.SSTabCommand().Selected = 1;
+  frmPosi.SSTabCommand().Click();
+  f.updownStartPosiNo.Set(1);
+  f.updownEndPosiNo.Set(20);
+  std::int64_t rest_us = 0;
+  std::vector<double> waits_ms;
+  desk.counted.on_write = [&](std::string_view line) {
+    const std::int64_t now = desk.pump.NowUs();
+    if (line.starts_with("0MP")) waits_ms.push_back(static_cast<double>(now - rest_us) / 1000);
+    rest_us = desk.port.Ct().NextRestUs().value_or(rest_us);
+  };
+  f.cmdMove.Press();
+  desk.counted.on_write = nullptr;
+  if (waits_ms.size() < 20) Fail("the move did not go its way", desk.forms);
+  Report("move_step_overhead_ms", Median(waits_ms), 1);
+}
+
 }  // namespace
 }  // namespace tr7bench
 
@@ -140,5 +160,6 @@ int main() {
   tr7bench::Read(desk);
   tr7bench::Check(desk);
   tr7bench::Write(desk);
+  tr7bench::MoveOn(desk);
   tr7bench::OtherKinds(desk);
 }

@@ -181,6 +181,8 @@ constexpr std::array kOptions{
     Option{"--group", "NUMBER:START:END", "a group", TakeGroup},
     Option{"--macro", "NUMBER:DIGITS", "a macro, 2 digits a step", TakeMacro},
     Option{"--start", "AXIS:PULSES", "where an axis stands", TakeStart},
+    Option{"--tasks", "N", "program tasks that run, 0 to 15 (default 0)",
+           [](Text value, Options* o) { return TakeInt(value, 0, 15, &o->setup.running_tasks); }},
     Option{"--homed", "", "all axes are homed at the start",
            [](Text, Options* o) { return o->setup.homed = true; }},
     Option{"--rest-f", "", "say F, not the mask, when all axes rest or are homed",

@@ -48,7 +48,9 @@ bool IsCutShort(const TusinRequest& request) {
   return IsCancelled(request) || (!start && IsOvertaken(request));
 }
 
-bool IsTimedOut(const TusinRequest&) { return AppState.TusinTimedOut; }
+bool IsPauseOver(const TusinRequest& request) {
+  return AppState.TusinTimedOut || IsOvertaken(request);
+}
 bool IsAnswered(const TusinRequest&) {
   return AppState.TusinReplyReady || AppState.TusinTimedOut || PortIsLost();
 }
@@ -56,7 +58,7 @@ bool IsAnsweredOrCutShort(const TusinRequest& request) {
   return IsAnswered(request) || IsCutShort(request);
 }
 bool IsResyncOver(const TusinRequest& request) {
-  return IsAnswered(request) || AppState.GroupMoveStop;
+  return IsAnswered(request) || AppState.GroupMoveStop || IsOvertaken(request);
 }
 
 // Its steps.
@@ -118,7 +120,8 @@ Exchange TusinExchange(TusinRequest& request) {
     for (int attempt = 1; TusinPortOpen() != 0; ++attempt) {
       if (attempt == kOpenAttempts) co_return TusinEnd::PortFailed;
       StartTimeout(kPauseMs);
-      co_await Until{IsTimedOut};
+      co_await Until{IsPauseOver};
+      if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
     }
     if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
 
@@ -158,10 +161,15 @@ Exchange TusinExchange(TusinRequest& request) {
     const TusinEnd verdict = JudgeReply(request);
     if (verdict != TusinEnd::BadPrefix && verdict != TusinEnd::BadLength) co_return verdict;
 
-    // A sign of sense is asked for after a bad reply. The wait for it is bounded: a tool that hangs
-    // beside a machine is worse than one that gives up.
+    // A sign of sense is asked for after a bad reply, but not ahead of a stop. The wait for it is
+    // bounded: a tool that hangs beside a machine is worse than one that gives up.
+    if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
     if (!SendLine(kResyncCommand, kResyncTimeoutMs, 0)) co_return verdict;
     co_await Until{IsResyncOver};
+    if (IsOvertaken(request)) {
+      TusinQueue.late_reply_possible |= !AppState.TusinReplyReady;
+      co_return TusinEnd::Withdrawn;
+    }
     const std::string& reply = AppState.TusinReplyText;
     if (AppState.GroupMoveStop) co_return TusinEnd::GroupMoveStopped;
     if (!AppState.TusinReplyReady) co_return verdict;

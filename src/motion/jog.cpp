@@ -1,5 +1,6 @@
 #include "motion/jog.h"
 
+#include <cstdint>
 #include <string>
 
 #include "forms/frm_posi.h"
@@ -93,8 +94,8 @@ void StartJog(int index) {
   if (f.JogReleased) StopJog(kEarlyStopMs);
 }
 
-bool SendInching(int index) {
-  const auto frame = BuildInchingCommand(InchingStep(), index);
+bool SendInching(int step, int index) {
+  const auto frame = BuildInchingCommand(step, index);
   if (!frame) {
     TellInStatusPanel(Text(kMsgAtTheEnd));
     LogMotion(kActionInching, "", kNotSent);
@@ -105,10 +106,15 @@ bool SendInching(int index) {
   return taken;
 }
 
-void Inch(int index) {
-  if (ReadnDisp_PresentPos() == 0) {
+/// The session is over, or the user has asked for rest since: then nothing is to move.
+bool GivenUp(std::int32_t stops_before) {
+  return !frmPosi.Teach.JogPending || MotionNow.StopsAsked != stops_before;
+}
+
+void Inch(int step, int index, std::int32_t stops_before) {
+  if (ReadnDisp_PresentPos() == 0 && !GivenUp(stops_before)) {
     const MotionScope motion(Motion::Inching);
-    if (SendInching(index) && WaitForRest(motion) != Rest::Failed) {
+    if (SendInching(step, index) && WaitForRest(motion) != Rest::Failed) {
       static_cast<void>(ReadnDisp_PresentPos());
     }
   }
@@ -138,14 +144,17 @@ void cmdJOG_MouseDown(int index) {
   f.TimerDelay.Start();
   f.JogIsContinuous = f.optJOG.Value;
   if (!f.JogIsContinuous) JogButtonsOff();
+  const int step = InchingStep();  // a choice made under the hand is for the next press
+  const std::int32_t stops_before = MotionNow.StopsAsked;
   const bool at_rest = AxesAreAtRest();
-  // The hand may have left while the controller was asked: then nothing is to move.
-  if (!at_rest || (f.JogIsContinuous && f.JogReleased)) {
+  // The hand may have left while the controller was asked.
+  const bool released = f.JogIsContinuous && f.JogReleased;
+  if (!at_rest || released || GivenUp(stops_before)) {
     LogMotion(f.JogIsContinuous ? MsgId(kActionJog) : MsgId(kActionInching), "", kNotSent);
     EndPress();
     return SettleOnlineState();
   }
-  f.JogIsContinuous ? StartJog(index) : Inch(index);
+  f.JogIsContinuous ? StartJog(index) : Inch(step, index, stops_before);
 }
 
 void cmdJOG_MouseUp(int /*index*/) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kMsgWaitRange = 6547;
 constexpr int kMostWait = 999;
-constexpr int kNumberWidth = 900;  // twips
+constexpr int kNumberWidth = 800;  // twips
 
 /// A number that a slider and an up-down both set, and a label shows.
 void Couple(Slider& slider, UpDown& updown, Label& label) {
@@ -38,6 +38,7 @@ void FillList(Grid& list) {
   for (int row = 1; row <= kSelectRows; ++row) list.SetText(row, 0, std::to_string(row));
   list.SetColWidth(0, kNumberWidth / 2);
   list.SetColWidth(1, kNumberWidth);
+  list.SetColAlign(1, ColAlign::Left);
   list.CanEdit = [](int row, int col) { return row > 0 && col == 1; };
   list.MaxLength = [](int) { return 4; };
   list.MoveOn = [&list](bool backwards) {

@@ -1,6 +1,8 @@
 #include "motion/stop.h"
 
 #include "base/scope.h"
+#include "forms/frm_posi.h"
+#include "forms/hold_button.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
 #include "motion/motion_log.h"
@@ -44,8 +46,12 @@ bool StopAxes(int timeout_ms) {
 }
 
 bool StopAtOnce() {
-  if (MotionNow.Kind == Motion::None && !MotionNow.MayRunOn) return false;
+  const bool pressed = frmPosi.Teach.JogPending;
+  if (MotionNow.Kind == Motion::None && !MotionNow.MayRunOn && !pressed) return false;
   ++MotionNow.StopsAsked;
+  // A press that is on its way to its start comes to none.
+  LetGoOfHeldButton();
+  if (MotionNow.Kind == Motion::None && !MotionNow.MayRunOn) return true;
   if (!MotionNow.Stopping) StopAxes(kStopTimeoutMs);
   return true;
 }

@@ -135,6 +135,8 @@ void cmdJOGST_Click() {
 
 void cmdJOGend_Click() {
   if (!AppState.TeachingNow) return;
+  // Its key may come while a jog is held: the axis is stopped while the session still knows of it.
+  LetGoOfHeldButton();
   ClearTeaching();
   ShowServoBoxes();
   const bool normal = CtControlModeSet(0, 0, 0) == 0;

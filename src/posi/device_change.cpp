@@ -50,18 +50,28 @@ void FindMissingMm() {
   }
 }
 
-/// The other mode stores other speeds and accelerations: saving must not replace the file unasked.
-void LeaveFileOfOtherMode() {
+/// The other mode stores other speeds and accelerations, and an axis that goes out of use is stored
+/// as fillers.
+bool StoresLessThanItShowed() {
+  if (AppState.PosiFirstNo < 1) return false;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    if (!frmPosi.ShownMuko[axis] && AppState.AxisMuko[axis]) return true;
+  }
+  return frmPosi.ShownPrgMode != AppState.CtMode;
+}
+
+/// Saving must not replace the file unasked.
+void LeaveFile() {
   if (PosiTableHasFile()) SetPosiTableName(Text(213));
   frmPosi.PosiChanged = True;
 }
 
 void Rebuild(KeptEdits::Unedited keeps) {
-  const bool other_mode = AppState.PosiFirstNo >= 1 && frmPosi.ShownPrgMode != AppState.CtMode;
+  const bool stores_less = StoresLessThanItShowed();
   const KeptEdits edits;
   RebuildPosiView();
   edits.PutBack(keeps);
-  if (other_mode) LeaveFileOfOtherMode();
+  if (stores_less) LeaveFile();
 }
 
 bool Recalc() { return (AppState.DispMmUnit ? RecalcPulseFromMm() : RecalcMmFromPulse()) == 0; }

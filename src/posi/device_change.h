@@ -5,8 +5,8 @@ namespace tr7 {
 // The loaded table after devices, axes or the mode changed. All rebuild the view; what the user has
 // typed and not committed stays.
 
-/// The view in the layout of `CtMode`. A table whose mode changes under it is no more the one of
-/// its file: it loses the file's name and counts as changed.
+/// The view in the layout of `CtMode`. A table whose mode changes under it, or that loses an axis,
+/// is no more the one of its file: it loses the file's name and counts as changed.
 void RebuildPosiViewKeepingEdits();
 
 /// Checks the table against the new limits. Good: in the millimetre view the millimetres stand and

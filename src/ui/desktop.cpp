@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QStandardPaths>
 
+#include "motion/motion_view.h"
 #include "platform/doors.h"
 #include "ui/binding.h"
 
@@ -52,6 +53,9 @@ Desktop::Desktop(const Profile& profile)
   doors.guard = &guard;
 }
 
-Desktop::~Desktop() { doors = Doors{}; }
+Desktop::~Desktop() {
+  ResetMotion();  // a teaching session that is still open holds commands of views
+  doors = Doors{};
+}
 
 }  // namespace tr7

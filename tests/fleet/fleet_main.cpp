@@ -1,12 +1,13 @@
-// tr7_fleet [--seeds N] [--from S]: seeded runs of a tool, a controller, a user who clicks at
-// random, and a line, a disk and a machine that fail at random. Each failing one prints its seed,
-// which replays it.
+// tr7_fleet [--only jog] [--seeds N] [--from S]: seeded runs of a tool, a controller, a user who
+// clicks at random, and a line, a disk and a machine that fail at random. Each failing one prints
+// its seed, which replays it.
 
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 
 #include "core/main_entry.h"
+#include "tests/fleet/jog_runs.h"
 #include "tests/fleet/voyage.h"
 
 namespace tr7 {
@@ -72,19 +73,27 @@ bool Holds(std::uint64_t seed) {
 
 int main(int argc, char** argv) {
   std::uint64_t seeds = 2000, from = 1;
+  bool jog = false, good = true;
   for (int i = 1; i < argc; i += 2) {
-    const std::string option = argv[i];
+    const std::string option = argv[i], value = i + 1 < argc ? argv[i + 1] : "";
     char* end = nullptr;
-    const std::uint64_t value = i + 1 < argc ? std::strtoull(argv[i + 1], &end, 10) : 0;
-    if (!end || *end != '\0' || (option != "--seeds" && option != "--from")) {
-      std::fprintf(stderr, "usage: tr7_fleet [--seeds N] [--from S]\n");
-      return 2;
-    }
-    (option == "--seeds" ? seeds : from) = value;
+    const std::uint64_t number = std::strtoull(value.c_str(), &end, 10);
+    jog = jog || (option == "--only" && value == "jog");
+    if (option == "--seeds") seeds = number;
+    if (option == "--from") from = number;
+    const bool counts = option == "--seeds" || option == "--from";
+    good = good && (counts ? !value.empty() && *end == '\0' : option == "--only" && value == "jog");
+  }
+  if (!good) {
+    std::fprintf(stderr, "usage: tr7_fleet [--only jog] [--seeds N] [--from S]\n");
+    return 2;
   }
   std::uint64_t failed = 0;
-  for (std::uint64_t seed = from; seed < from + seeds; ++seed) failed += tr7::Holds(seed) ? 0 : 1;
-  std::printf("fleet: %llu seeds from %llu, %llu failed\n", static_cast<unsigned long long>(seeds),
-              static_cast<unsigned long long>(from), static_cast<unsigned long long>(failed));
+  for (std::uint64_t seed = from; seed < from + seeds; ++seed) {
+    failed += (jog ? tr7::NoAxisRunsOn(seed) : tr7::Holds(seed)) ? 0 : 1;
+  }
+  std::printf("%s: %llu seeds from %llu, %llu %s\n", jog ? "jog" : "fleet",
+              static_cast<unsigned long long>(seeds), static_cast<unsigned long long>(from),
+              static_cast<unsigned long long>(failed), jog ? "runaways" : "failed");
   return failed == 0 ? 0 : 1;
 }

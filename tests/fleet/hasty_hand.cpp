@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "forms/frm_main.h"
+#include "forms/frm_posi.h"
 #include "forms/grid.h"
 #include "tests/fleet/voyage.h"
 
@@ -57,6 +58,14 @@ void AddPresses(Control& control, std::vector<Press>& presses) {
   }
 }
 
+/// What starts a motion is for hands that let go of it again.
+bool Moves(const Control& control) {
+  const PosiMoveTest& move = frmPosi.Move;
+  return &control == &move.cmdHome || &control == &move.cmdSelectMove ||
+         &control == &move.cmdMove || &control == &move.cmdGrpMove ||
+         &control == &frmPosi.Teach.cmdJOGST;
+}
+
 /// Everything that the views in front offer: a dialogue keeps the hand off all others.
 std::vector<Press> Offered(const Voyage& voyage, bool may_exit) {
   std::vector<Press> presses;
@@ -65,6 +74,7 @@ std::vector<Press> Offered(const Voyage& voyage, bool may_exit) {
     if (!view->Visible || !view->Loaded || (modal && view != modal)) continue;
     for (Control* control : view->Controls) {
       // Leaving the tool ends the run: that comes late, if at all.
+      if (Moves(*control)) continue;
       if (control != &frmMain.mnuFileExit || may_exit) AddPresses(*control, presses);
     }
   }

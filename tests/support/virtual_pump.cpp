@@ -25,7 +25,9 @@ bool VirtualPump::RunActs() {
 }
 
 void VirtualPump::Run() {
+  const HoldButton* held = HoldButton::Held();
   LetGoOfLostButton();
+  if (held != HoldButton::Held()) return;  // its release may have waited for whatever was due
   if (RunActs() || ServeDueTimers()) return;
   std::optional<std::int64_t> next = NextDueUs();
   if (!acts_.empty()) {

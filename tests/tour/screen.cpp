@@ -36,6 +36,13 @@ void ClickAt(QWidget& widget, const QPoint& at) {
   QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, widget.mapTo(widget.window(), at));
 }
 
+void PressAt(QWidget& widget, const QPoint& at, bool down) {
+  QWindow& window = *widget.window()->windowHandle();
+  const QPoint place = widget.mapTo(widget.window(), at);
+  down ? QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, place)
+       : QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, place);
+}
+
 void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   const QWidget* popup = QApplication::activePopupWidget();
   QWindow* window = popup ? popup->windowHandle() : QGuiApplication::focusWindow();

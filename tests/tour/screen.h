@@ -14,6 +14,8 @@ namespace tr7::tour {
 /// Empty when a click at `at` (of the widget) reaches it; else what is in the way.
 QString WhyNotReachable(const QWidget& widget, const QPoint& at);
 void ClickAt(QWidget& widget, const QPoint& at);
+/// The left button goes down there, or comes up.
+void PressAt(QWidget& widget, const QPoint& at, bool down);
 
 /// To the widget that has the focus, or to the popup that is open.
 void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers);

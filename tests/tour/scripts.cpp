@@ -9,6 +9,7 @@
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/text.h"
+#include "tests/tour/motion_script.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -276,10 +277,13 @@ void CompareJob(User& user) {
 }  // namespace
 
 const std::vector<Script>& Scripts() {
-  static const std::vector<Script> scripts{{"look", {}, FirstLook},
-                                           {"job", {}, MainJob},
-                                           {"offline", {"--mode", "prg"}, OfflineFirst},
-                                           {"compare", {}, CompareJob}};
+  static const std::vector<Script> scripts{
+      {"look", {}, FirstLook},
+      {"job", {}, MainJob},
+      {"offline", {"--mode", "prg"}, OfflineFirst},
+      {"motion", {}, MoveAndTeach},
+      {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
+      {"compare", {}, CompareJob}};
   return scripts;
 }
 

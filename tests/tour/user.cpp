@@ -78,6 +78,19 @@ void User::Click(Control& control) {
   });
 }
 
+void User::Hold(HoldButton& button, int ms, const char* picture) {
+  SeeOn(button);
+  doing_ = "hold " + NameOf(button);
+  const auto press = [this, &button](bool down) {
+    QWidget* widget = forms_.WidgetOf(button);
+    if (widget) PressAt(*widget, widget->rect().center(), down);
+  };
+  Act([press] { press(true); });
+  QThread::msleep(static_cast<unsigned>(ms));
+  if (picture) Picture(picture);
+  Act([press] { press(false); });
+}
+
 void User::ClickTab(TabStrip& strip, int index) {
   ClickPlace(NameOf(strip), [this, &strip, index]() -> Place {
     auto* bar = qobject_cast<QTabBar*>(forms_.WidgetOf(strip));

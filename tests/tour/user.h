@@ -7,6 +7,7 @@
 
 #include "forms/control.h"
 #include "forms/grid.h"
+#include "forms/hold_button.h"
 #include "platform/form_host.h"
 #include "tests/ui/sim_process.h"
 
@@ -29,6 +30,8 @@ class User {
 
   // Acts.
   void Click(Control& control);
+  /// Holds a button for this long, and takes a picture of it where that has a name.
+  void Hold(HoldButton& button, int ms, const char* picture = nullptr);
   void ClickTab(TabStrip& strip, int index);
   void Choose(Menu& menu, Menu& command);
   void Pick(ComboBox& list, int index);

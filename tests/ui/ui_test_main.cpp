@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <cstdio>
+#include <string_view>
 
 #include "core/install_views.h"
+#include "tests/ui/killed_tool.h"
 #include "ui/look.h"
 
 int main(int argc, char** argv) {
@@ -20,5 +22,8 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   tr7::look::Apply(*qApp);
   tr7::InstallViews();
+  if (argc == 4 && std::string_view(argv[1]) == "--jog-until-killed") {
+    return tr7::JogUntilKilled(argv + 2);
+  }
   return RUN_ALL_TESTS();
 }
