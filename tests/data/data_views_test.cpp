@@ -4,6 +4,7 @@
 #include "data/grp_show.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
+#include "forms/frm_compare.h"
 #include "forms/frm_grp.h"
 #include "forms/frm_sq_mcr.h"
 #include "forms/frm_system_para.h"
@@ -283,8 +284,14 @@ TEST_F(GrpViewTest, FilesOfOlderProductsAndOfOtherKinds) {
   EXPECT_EQ(GrpTable.GrpEnd[7], 8);
   ASSERT_EQ(forms.boxes.size(), 1u);
   EXPECT_TRUE(BoxShown("Not GRP Data file for QV-TR7.\nOpening file is canceled."));
-  forms.file_answers = {"/old.grp"};
-  GrpStage.GrpEnd[8] = 11;  // as read before
+  forms.file_answers = {"/old.grp", "/old.grp"};
+  GrpStage.GrpEnd[8] = 11;  // as read before, and a comparison in between leaves it
+  InDialog("frmCompare", {[] {
+             frmCompare.comboThere.Pick(2);
+             frmCompare.cmdCompare.Press();
+             frmCompare.cmdClose.Press();
+           }});
+  frmGrp.cmdGrpCompare.Press();
   frmGrp.cmdGrpFileOpen.Press();
   EXPECT_EQ(GrpTable.GrpEnd[8], 11) << "a file of one group changes that one in the stage";
 }
