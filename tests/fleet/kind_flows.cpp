@@ -16,7 +16,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kRead = 5200, kWrite = 5201, kVerify = 5202;
-constexpr int kOpen = 5204, kSave = 5206, kVerifyFile = 5207;
+constexpr int kOpen = 5204, kSave = 5206, kVerifyFile = 5207, kCompare = 5320;
 
 /// A kind of data with a view of its own. What serves all kinds is found by its caption.
 struct Kind {
@@ -83,9 +83,11 @@ void Write(Voyage& voyage, const Kind& kind) {
   write.Check(panel == Text(kind.told_id) || voyage.WasTold(kind.told_id));
 }
 
+/// Or compares, where only what the user takes over changes anything.
 void Verify(Voyage& voyage, const Kind& kind) {
-  CommandButton* button = ButtonOf(kind, voyage.random.Chance(50) ? kVerify : kVerifyFile);
+  CommandButton* button = ButtonOf(kind, voyage.random.OneOf({kVerify, kVerifyFile, kCompare}));
   if (!button) return;
+  voyage.took = false;
   const auto memory = [&] { return voyage.virt.port.Ct().Cells(kind.frames.write, true); };
   const Cells before = memory();
   const Held held(kind);
@@ -93,7 +95,7 @@ void Verify(Voyage& voyage, const Kind& kind) {
   // A connection on the way may write what the user chooses.
   voyage.Require(!voyage.choices.empty() || memory() == before,
                  "a verification changed the controller");
-  voyage.Require(Held(kind) == held, "a verification changed the table");
+  voyage.Require(voyage.took || Held(kind) == held, "a verification changed the table");
 }
 
 void Save(Voyage& voyage, const Kind& kind) {
@@ -134,7 +136,10 @@ void Edit(Voyage& voyage, const Kind& kind) {
         *kind.view.Controls[voyage.random.Below(static_cast<int>(kind.view.Controls.size()))];
     if (!control.Enabled || !control.Visible) continue;
     auto* combo = dynamic_cast<ComboBox*>(&control);
-    if (combo && !combo->List.empty()) combo->Pick(voyage.random.Below(2));
+    if (combo && !combo->List.empty()) {
+      combo->Pick(voyage.random.Below(2));
+      if (combo->LostFocus) combo->LostFocus();
+    }
     if (auto* box = dynamic_cast<TextBox*>(&control)) {
       if (box->GotFocus) box->GotFocus();
       box->Type(voyage.random.OneOf({"1", "2", "3", "4", "5", "10", "100", "999", ""}));
@@ -152,7 +157,7 @@ void WithAnyKind(Voyage& voyage) {
 
 constexpr Flow kFlows[] = {
     {"kind-read", 8, WithAnyKind<Read>},   {"kind-edit", 5, WithAnyKind<Edit>},
-    {"kind-write", 9, WithAnyKind<Write>}, {"kind-verify", 4, WithAnyKind<Verify>},
+    {"kind-write", 9, WithAnyKind<Write>}, {"kind-verify", 6, WithAnyKind<Verify>},
     {"kind-save", 3, WithAnyKind<Save>},   {"kind-open", 3, WithAnyKind<Open>},
     {"kind-close", 1, WithAnyKind<Close>},
 };

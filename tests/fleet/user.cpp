@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "forms/frm_compare.h"
 #include "forms/frm_device.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_select_posi_no.h"
@@ -83,6 +84,23 @@ void AnswerOptions(Random& random) {
   (random.Chance(80) ? f.cmdOk : f.cmdCancel).Press();
 }
 
+/// Compares any two sides, takes over this and that, and comes back where the line was asked.
+void AnswerCompare(Voyage& voyage) {
+  Random& random = voyage.random;
+  FrmCompare& f = frmCompare;
+  for (int acts = random.Below(6); acts > 0 && f.Visible; --acts) {
+    Pick(random, random.Chance(20) ? f.comboHere : f.comboThere);
+    f.cmdCompare.Press();
+    if (random.Chance(20)) f.chkEqualToo.Set(!f.chkEqualToo.Value);
+    f.flgdCompare.SelectCell(random.Below(f.flgdCompare.Rows()), 0);
+    CommandButton& take = random.Chance(20) ? f.cmdTakeAll : f.cmdTake;
+    if (!f.Visible || !take.Enabled || random.Chance(50)) continue;
+    voyage.took = true;
+    take.Press();
+  }
+  if (f.Visible) f.cmdClose.Press();
+}
+
 MsgAnswer AnswerBox(Voyage& voyage, const MessageBoxCall& call) {
   Random& random = voyage.random;
   if (call.Buttons == MsgButtons::Ok) {
@@ -133,6 +151,8 @@ void SeatUser(Voyage& voyage) {
       AnswerDevices(voyage, *devices);
     } else if (&view == &frmOptions2) {
       AnswerOptions(random);
+    } else if (&view == &frmCompare) {
+      AnswerCompare(voyage);
     }
   };
 }

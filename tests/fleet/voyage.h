@@ -43,6 +43,7 @@ struct Voyage {
   bool line_lies = false;              ///< a byte may be another one, and nothing on the line tells
   bool power_fails = false;            ///< between two frames, and nothing on the line tells
   bool hasty = false;                  ///< the user presses while flows run: see hasty_hand
+  bool took = false;                   ///< the user took something over from a comparison
   int presses_open = 0;                ///< presses whose flows have not ended
   std::string last_path;               ///< that the user chose in a file dialogue for positions
   std::set<std::string> damaged;       ///< paths of files that this tool did not write so

@@ -9,6 +9,7 @@
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/text.h"
+#include "tests/tour/data_script.h"
 #include "tests/tour/motion_script.h"
 #include "tests/tour/steps.h"
 
@@ -283,7 +284,8 @@ const std::vector<Script>& Scripts() {
       {"offline", {"--mode", "prg"}, OfflineFirst},
       {"motion", {}, MoveAndTeach},
       {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
-      {"compare", {}, CompareJob}};
+      {"compare", {}, CompareJob},
+      {"data", {}, WorkOnData}};
   return scripts;
 }
 

@@ -209,7 +209,7 @@ void User::AnswerBox(const std::string& part, MsgAnswer answer, const char* pict
 
 void User::ChooseFile(const QString& path, const char* picture) {
   See("the file dialogue", [] { return FrontDialog<QFileDialog>() != nullptr; });
-  Picture(picture);
+  if (picture) Picture(picture);
   ClickPlace("the file's name", []() -> Place {
     const auto* dialog = FrontDialog<QFileDialog>();
     auto* name = dialog ? dialog->findChild<QLineEdit*>("fileNameEdit") : nullptr;

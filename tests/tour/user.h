@@ -46,8 +46,9 @@ class User {
   /// Waits for a box with this text, takes its picture where that has a name, and presses a button.
   void AnswerBox(const std::string& part, MsgAnswer answer, const char* picture = nullptr,
                  int within_ms = kSoonMs);
-  /// Waits for the file dialogue, takes its picture, types the path and confirms.
-  void ChooseFile(const QString& path, const char* picture);
+  /// Waits for the file dialogue, takes its picture where that has a name, types the path and
+  /// confirms.
+  void ChooseFile(const QString& path, const char* picture = nullptr);
   /// Gives the simulated controller a command.
   void TellSim(const char* command);
 
