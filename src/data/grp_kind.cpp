@@ -29,12 +29,14 @@ bool AllAreGood() {
 bool MayBeCompared() {
   if (AllAreGood()) return true;
   MsgBox(TwoLines(820, 821));
+  ShowFirstBadGroup();
   return false;
 }
 
 bool MayBeSent() {
   if (AllAreGood()) return true;
   MsgBox(TwoLines(820, 836) + "\n" + TwoLines(837, 838));
+  ShowFirstBadGroup();
   return false;
 }
 

@@ -5,6 +5,7 @@
 #include "base/text_helpers.h"
 #include "data/grp_table.h"
 #include "forms/frm_grp.h"
+#include "platform/doors.h"
 #include "posi/posi_range.h"
 #include "state/text.h"
 
@@ -42,6 +43,16 @@ void GrpShow() {
     shown.txtGrpEndNo.Text = std::to_string(GrpTable.GrpEnd[n]);
     shown.lblGrpCover.Caption = CoverText(n);
   }
+}
+
+void ShowFirstBadGroup() {
+  int n = 1;
+  while (n <= kGroups && GroupIsGood(n)) ++n;
+  if (n > kGroups) return;
+  frmGrp.ShownPage = (n - 1) / kGrpPageRows;
+  frmGrp.optGrpNo[frmGrp.ShownPage].Choose();
+  GrpShow();
+  doors.forms->SetFocus(frmGrp.Rows[(n - 1) % kGrpPageRows].txtGrpStartNo);
 }
 
 void StoreShownGroups() {

@@ -7,11 +7,6 @@ constexpr int kLowestNo = 1, kHighestNo = 999;
 
 bool InRange(int number) { return number >= kLowestNo && number <= kHighestNo; }
 
-bool GroupIsGood(int n) {
-  const int start = GrpTable.GrpStart[n], end = GrpTable.GrpEnd[n];
-  return InRange(start) && InRange(end) && start <= end;
-}
-
 bool GroupDiffers(int n) {
   return GrpTable.GrpStart[n] != GrpStage.GrpStart[n] || GrpTable.GrpEnd[n] != GrpStage.GrpEnd[n];
 }
@@ -25,6 +20,11 @@ GrpFlagsRecord GrpFlags;
 
 void GrpStageCommit() { GrpTable = GrpStage; }
 void GrpStageFromTable() { GrpStage = GrpTable; }
+
+bool GroupIsGood(int n) {
+  const int start = GrpTable.GrpStart[n], end = GrpTable.GrpEnd[n];
+  return InRange(start) && InRange(end) && start <= end;
+}
 
 int GrpData_Check() {
   int result = 0;

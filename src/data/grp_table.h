@@ -46,6 +46,9 @@ struct GrpFlagsRecord {
 
 extern GrpFlagsRecord GrpFlags;
 
+/// Both numbers of the group lie in 1 to 999, the start not behind the end.
+bool GroupIsGood(int n);
+
 /// Both values of every group within 1 to 999, and no start behind its end. 0 good, 1 bad.
 int GrpData_Check();
 

@@ -43,8 +43,7 @@ class KeptAside {
   bool RefusesToEnd(bool unsaved, MsgId name) const {
     constexpr int kMsgLost = 6491;
     for (const Kept& kept : kept_) unsaved = unsaved || !kept.saved;
-    return unsaved && MsgBox(Text(kMsgLost, Text(name)), MsgButtons::OkCancel, MsgIcon::Question) !=
-                          MsgAnswer::Ok;
+    return unsaved && !AskToLose(Text(kMsgLost, Text(name)));
   }
 
   /// Shows the button that brings it back, with its time, while there is something to bring.

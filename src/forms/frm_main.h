@@ -110,6 +110,5 @@ inline Standing<FrmMain> frmMain;
 inline constexpr int kPanelError = 0;  ///< the last alarm, version, input hint
 inline constexpr int kPanelScale1 = 1;
 inline constexpr int kPanelScale2 = 2;
-inline constexpr int kPanelInfo = 3;
 
 }  // namespace tr7

@@ -1,10 +1,9 @@
 #include "para/sys_para_show.h"
 
-#include <algorithm>
-
 #include "base/text_helpers.h"
 #include "forms/frm_system_para.h"
 #include "para/sys_para.h"
+#include "platform/doors.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -13,6 +12,19 @@ namespace {
 constexpr int kMsgOfController = 6535;
 
 TextBox& FieldOf(std::size_t slot) { return frmSystemPara.Fields[slot - 1].txtSystemPara; }
+
+bool IsFilled(std::size_t slot) { return !FieldOf(slot).Text.empty(); }
+bool IsInRange(std::size_t slot) {
+  return SysPara[slot] >= 0 && SysPara[slot] <= SysParaHighest(slot);
+}
+
+/// The first slot that does not pass, or 0.
+std::size_t FirstRefused(bool (*passes)(std::size_t slot)) {
+  for (std::size_t slot = 1; slot <= kSysParaSlots; ++slot) {
+    if (!passes(slot)) return slot;
+  }
+  return 0;
+}
 
 }  // namespace
 
@@ -27,12 +39,12 @@ void TorikomiSystemParametaValue() {
   for (std::size_t slot = 1; slot <= kSysParaSlots; ++slot) SysPara[slot] = Val(FieldOf(slot).Text);
 }
 
-int SysParaFieldsFilled() {
-  const auto& fields = frmSystemPara.Fields.items;
-  return std::all_of(fields.begin(), fields.end(),
-                     [](const SysParaField& field) { return !field.txtSystemPara.Text.empty(); })
-             ? 0
-             : 1;
+int SysParaFieldsFilled() { return FirstRefused(IsFilled) == 0 ? 0 : 1; }
+
+void GoToRefusedSysPara() {
+  const std::size_t empty = FirstRefused(IsFilled);
+  const std::size_t slot = empty != 0 ? empty : FirstRefused(IsInRange);
+  if (slot != 0) doors.forms->SetFocus(FieldOf(slot));
 }
 
 void MarkSysParaFields() {

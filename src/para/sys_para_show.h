@@ -11,6 +11,9 @@ void TorikomiSystemParametaValue();
 /// All 72 fields hold text: 0, else 1.
 int SysParaFieldsFilled();
 
+/// Puts the focus on the first field that is empty, else on the first out of its range.
+void GoToRefusedSysPara();
+
 /// Marks the fields that differ from what the controller last gave; none before it gave any.
 void MarkSysParaFields();
 

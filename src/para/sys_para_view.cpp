@@ -14,6 +14,7 @@
 #include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
+#include "state/text.h"
 #include "state/views.h"
 #include "steps/held_write.h"
 #include "steps/transfer_scope.h"
@@ -38,11 +39,13 @@ void GetSystemParametaValue() {
 bool TakeFields() {
   if (SysParaFieldsFilled() != 0) {
     MsgBox(TwoLines(7, 8));
+    GoToRefusedSysPara();
     return false;
   }
   TorikomiSystemParametaValue();
   if (SystemParametaValueCheck() == 0) return true;
   MsgBox(TwoLines(1524, 1525));
+  GoToRefusedSysPara();
   return false;
 }
 
@@ -78,7 +81,7 @@ bool AnyFieldIsTheUsersAlone() {
 /// What has been typed is in no file: the user decides whether it goes.
 bool RefusesToClose(CloseReason) {
   constexpr int kMsgDropEdits = 6536;
-  return FlowKeepsViewsOpen() || (AnyFieldIsTheUsersAlone() && !AskOk(kMsgDropEdits));
+  return FlowKeepsViewsOpen() || (AnyFieldIsTheUsersAlone() && !AskToLose(Text(kMsgDropEdits)));
 }
 
 void LoadFields() {

@@ -17,6 +17,7 @@ struct MessageBoxCall {
   std::string Title;
   MsgButtons Buttons = MsgButtons::Ok;
   MsgIcon Icon = MsgIcon::None;
+  bool Loses = false;  ///< the first answer loses something: Enter means the last one
 };
 
 struct FileDialogCall {

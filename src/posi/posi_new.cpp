@@ -4,6 +4,7 @@
 
 #include "device/device_texts.h"
 #include "forms/frm_posi.h"
+#include "platform/doors.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_grid_fill.h"
@@ -57,6 +58,7 @@ void SinkiSakusei() {
   DeviceTextHyoji();  // a file's word on the age of its devices goes with the file
   frmPosi.PosiChanged = False;
   SetPosiTableName(Text(213));
+  doors.forms->SetFocus(frmPosi.flgdData);
 }
 
 }  // namespace tr7

@@ -108,7 +108,10 @@ void InstallPosiView() {
   f.mnuPopupPaste.Click = f.Commands.Paste;
   f.mnuPopupInsert.Click = f.Commands.InsertLine;
   f.mnuPopupLineDelete.Click = f.Commands.DeleteLine;
-  frmMain.mnuViewPosi.Click = [] { doors.forms->BringToFront(frmPosi); };
+  frmMain.mnuViewPosi.Click = [] {
+    doors.forms->BringToFront(frmPosi);
+    doors.forms->SetFocus(frmPosi.flgdData);
+  };
   Followers.PositionsFollowDevices = [] { PositionsFollowDevices(); };
   Followers.MmFollowsPulses = MmFollowsPulses;
 }

@@ -26,6 +26,7 @@
 #include "steps/held_axes.h"
 #include "steps/record_frames.h"
 #include "steps/transfer_scope.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -33,6 +34,7 @@ namespace {
 constexpr int kMsgStopped = 6456;
 constexpr int kMsgStrokeOfCt = 6457;
 constexpr int kMsgFillers = 6364;
+constexpr int kMsgLine = 6523;
 constexpr int kMsgAxis1 = 220;  ///< AXIS2 to AXIS4 follow
 constexpr int kTimeoutMs = 5000;
 constexpr int kCommitTimeoutMs = 10000;  // the controller writes its flash memory
@@ -55,7 +57,8 @@ void BuildLines(const PosiRange& range) {
 
 Outcome SendLine(int number) {
   if (IsBad(number)) return Outcome::Done;
-  return SendEchoed({LineOf(number), kReplyLength, kTimeoutMs, kEcho, 384});
+  return SendRecord({LineOf(number), kReplyLength, kTimeoutMs, kEcho, 384},
+                    Text(kMsgLine, std::to_string(number)));
 }
 
 Outcome SendLines(const PosiRange& range, int& next) {
@@ -69,7 +72,7 @@ Outcome SendLines(const PosiRange& range, int& next) {
   if (sent == Outcome::Failed) return sent;
   // The controller keeps lines only when it is told to: also those before a cancel.
   const std::string commit = "0WA" + HexPad(range.first, 3) + HexPad(range.last, 3);
-  const Outcome stored = SendEchoed({commit, kCommitReplyLength, kCommitTimeoutMs, kCommitEcho});
+  const Outcome stored = SendStore({commit, kCommitReplyLength, kCommitTimeoutMs, kCommitEcho});
   return stored == Outcome::Done ? sent : stored;
 }
 
@@ -138,6 +141,7 @@ bool StateIsHeard() {
 
 Outcome WritePosidataToCt(const PosiRange& range, int& next) {
   BuildLines(range);
+  WriteTaken = {};
   const Outcome outcome = SendLines(range, next);
   TusinPortClose();
   return outcome;
@@ -175,7 +179,10 @@ void PosidataLoadtoCt() {
   if (PosiKakikomimaeParaCheck(*range) != 0) return;
   int next = 0;
   const Outcome outcome = WritePosidataToCt(*range, next);
-  if (outcome == Outcome::Failed) return;
+  if (outcome == Outcome::Failed) {
+    MsgBox(WriteTakenText());
+    return;
+  }
   static_cast<void>(held.Release());  // a failure has been told; the positions are stored
   if (outcome == Outcome::Done) {
     TellDone(376);

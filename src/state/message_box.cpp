@@ -27,6 +27,11 @@ bool AskOk(MsgId id) {
   return MsgBox(Text(id), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
+bool AskToLose(const std::string& question) {
+  return doors.forms->MessageBox(
+             {question, Text(201), MsgButtons::OkCancel, MsgIcon::Question, true}) == MsgAnswer::Ok;
+}
+
 bool AskYes(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNo, MsgIcon::Question) == MsgAnswer::Yes;
 }

@@ -28,6 +28,8 @@ void Tell(MsgId id);
 void TellDone(MsgId id);
 /// A question with OK and Cancel: true for OK.
 [[nodiscard]] bool AskOk(MsgId id);
+/// The same, where OK loses what is not kept anywhere: Enter is a Cancel.
+[[nodiscard]] bool AskToLose(const std::string& question);
 /// A question with Yes and No: true for Yes.
 [[nodiscard]] bool AskYes(MsgId id);
 /// A question with Yes, No and Cancel.

@@ -5,6 +5,8 @@
 #include "forms/control.h"
 #include "forms/frm_main.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 #include "state/view_instances.h"
 
@@ -34,6 +36,8 @@ const std::vector<View*>& OpenViews() { return open_views; }
 View* ActiveView() { return active_view; }
 void SetActiveView(View* view) {
   if (active_view == view) return;
+  // A hint, or what was told last, is of the view that is left.
+  if (active_view && AppState.CommandsOffDepth == 0) TellInStatusPanel({});
   active_view = view;
   if (frmMain.FrontChanged) frmMain.FrontChanged();
   if (view && view->Activate) view->Activate();

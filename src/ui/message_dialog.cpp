@@ -110,7 +110,7 @@ MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor&
     QPushButton* button = box.addButton(Q(Text(answer.text)), answer.role);
     // Without a Cancel the box stays until it is answered; OK alone is its own cancel.
     if (answer.answer == MsgAnswer::Cancel || answers.size() == 1) box.setEscapeButton(button);
-    if (&answer == &answers.front()) box.setDefaultButton(button);
+    if (&answer == (call.Loses ? &answers.back() : &answers.front())) box.setDefaultButton(button);
   }
   FoldLongText(box);
   box.show();

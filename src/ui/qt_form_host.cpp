@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -20,6 +21,7 @@
 #include "ui/grid_table.h"
 #include "ui/look.h"
 #include "ui/twips.h"
+#include "ui/window_list.h"
 #include "ui/windows.h"
 
 namespace tr7 {
@@ -106,6 +108,9 @@ QtFormHost::Shown* QtFormHost::Build(View& view, bool modal) {
 void QtFormHost::ShowFrame() {
   if (!mdi_) {
     mdi_ = frame_->findChild<QMdiArea*>();
+    if (auto* windows = frame_->findChild<QMenu*>(QStringLiteral("mnuWindow"))) {
+      ListWindowsIn(*windows, *mdi_, [this] { return MayCommand(); });
+    }
     QObject::connect(mdi_, &QMdiArea::subWindowActivated, frame_, [this](QMdiSubWindow* window) {
       for (const auto& [view, shown] : shown_) {
         if (shown.window == window) SetActiveView(&shown.bound->Record());

@@ -58,7 +58,7 @@ bool Apply(QSerialPort& port, const std::string& settings) {
 QtSerialPort::QtSerialPort() {
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
                    [this](QSerialPort::SerialPortError error) {
-                     if (error == QSerialPort::ResourceError) Vanish(port_.errorString());
+                     if (error == QSerialPort::ResourceError) Vanish(qt_error_string(ENODEV));
                    });
   QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { OnBytes(); });
   rest_.setSingleShot(true);

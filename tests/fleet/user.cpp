@@ -90,6 +90,7 @@ void AnswerCompare(Voyage& voyage) {
   FrmCompare& f = frmCompare;
   for (int acts = random.Below(6); acts > 0 && f.Visible; --acts) {
     Pick(random, random.Chance(20) ? f.comboHere : f.comboThere);
+    voyage.sent_at_refusal.reset();  // a command of its own
     f.cmdCompare.Press();
     if (random.Chance(20)) f.chkEqualToo.Set(!f.chkEqualToo.Value);
     f.flgdCompare.SelectCell(random.Below(f.flgdCompare.Rows()), 0);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QMdiArea>
+#include <QMenu>
+
+#include "ui/binding.h"
+
+namespace tr7 {
+
+/// The windows of the frame, below the menu's own commands whenever it opens. A window that was
+/// chosen comes to the front, while `gate` lets a command through.
+void ListWindowsIn(QMenu& menu, QMdiArea& area, const CommandGate& gate);
+
+}  // namespace tr7
