@@ -70,6 +70,7 @@ struct CommandButton : Control {
       : Control(owner, "CommandButton", name, tag) {}
   bool Default = false;  ///< Enter presses it
   bool Cancel = false;   ///< Escape presses it
+  bool Urgent = false;   ///< acts when it goes down, whatever edit is open: a stop
   std::string Key;       ///< presses it wherever the focus is in its window, "Ctrl+Up"; empty: none
   Handler<void()> Click;
   /// Presses the button as a user does: nothing when it is off or hidden.

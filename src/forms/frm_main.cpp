@@ -3,6 +3,7 @@
 namespace tr7 {
 
 FrmMain::FrmMain() : View("frmMain") {
+  cmdStopNow.Urgent = true;
   imgAlarm.Visible = false;
   imgComPort.Visible = false;
   imgOnline.Visible = false;

@@ -53,6 +53,9 @@ PosiMoveTest::PosiMoveTest(View& owner)
       cmdGrpMoveStop(owner, "cmdGrpMoveStop", 5266) {
   controls.Close();
   optMoveWay[0].Value = true;
+  for (CommandButton* stop : {&cmdTmpStop, &cmdStop, &cmdTempStop2, &cmdStop2, &cmdGrpMoveStop}) {
+    stop->Urgent = true;
+  }
   for (TextBox* wait : {&txtTimer, &txtTimer2}) {
     wait->AllowedChars = kDigits;
     wait->MaxLength = kMostWait;

@@ -104,10 +104,14 @@ class CommandButtonBinding : public ButtonBinding {
     // Enter presses the button that has the focus, and the default one from a field.
     button.setAutoDefault(true);
     button.setDefault(record.Default);
-    QObject::connect(&button, &QPushButton::clicked, &button, [&record, gate] {
-      // Cancel takes nothing, so an edit that is refused does not hold it up.
-      if (record.Cancel || gate()) record.Press();
-    });
+    if (record.Urgent) {
+      QObject::connect(&button, &QPushButton::pressed, &button, [&record] { record.Press(); });
+    } else {
+      QObject::connect(&button, &QPushButton::clicked, &button, [&record, gate] {
+        // Cancel takes nothing, so an edit that is refused does not hold it up.
+        if (record.Cancel || gate()) record.Press();
+      });
+    }
     if (!record.Key.empty()) {
       auto* key = new QShortcut(QKeySequence(Q(record.Key)), &button);
       QObject::connect(key, &QShortcut::activated, &button, [&button] { button.click(); });
@@ -123,6 +127,7 @@ class SliderBinding : public QObject, public WidgetBinding {
  public:
   SliderBinding(Slider& record, QSlider& slider)
       : WidgetBinding(record, slider), record_(record), slider_(slider) {
+    LetWheelPass(slider);
     slider.setRange(record.Min, record.Max);
     slider.setSingleStep(record.Step);
     slider.setPageStep(std::max(record.Step, (record.Max - record.Min) / 10));

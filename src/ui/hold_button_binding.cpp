@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMouseEvent>
 
 namespace tr7 {
@@ -29,11 +31,20 @@ void HoldButtonBinding::Push() {
   if (hand_ != Hand::None && !record_.IsHeld()) LetGo();
 }
 
+/// Not in a view that stands behind another one of the frame.
+bool HoldButtonBinding::IsInFront() const {
+  for (QWidget* above = button_.parentWidget(); above; above = above->parentWidget()) {
+    const auto* child = qobject_cast<QMdiSubWindow*>(above);
+    if (child) return child->mdiArea()->activeSubWindow() == child;
+  }
+  return true;
+}
+
 /// Where a user could reach it: the record's own state counts once it has been drawn.
 bool HoldButtonBinding::MayBePressed() const {
   const QWidget* modal = QApplication::activeModalWidget();
   return button_.isEnabled() && button_.isVisible() && button_.window()->isActiveWindow() &&
-         (!modal || modal == button_.window()) && !QApplication::activePopupWidget();
+         IsInFront() && (!modal || modal == button_.window()) && !QApplication::activePopupWidget();
 }
 
 bool HoldButtonBinding::Press(Hand hand) {
@@ -56,6 +67,14 @@ bool HoldButtonBinding::IsOurKey(const QEvent& event) const {
   const auto& key = static_cast<const QKeyEvent&>(event);
   if (key.key() == key_ && key_ != 0) return true;
   return key.key() == Qt::Key_Space && button_.hasFocus();
+}
+
+/// A held key repeats as releases and presses in pairs. Where the window system does not say so,
+/// the first release ends the hold, and no press this close behind a release begins another.
+bool HoldButtonBinding::Bounces(const QEvent& event) const {
+  constexpr std::uint64_t kPairMs = 20;
+  const std::uint64_t down_ms = static_cast<const QKeyEvent&>(event).timestamp();
+  return key_up_ms_ != 0 && down_ms - key_up_ms_ < kPairMs;
 }
 
 /// What ends a hold though no button and no key goes up.
@@ -102,11 +121,14 @@ bool HoldButtonBinding::eventFilter(QObject* watched, QEvent* event) {
       return watched == &button_;
     case QEvent::KeyPress:
       if (!watched->isWidgetType() || !IsOurKey(*event)) return false;
-      if (!repeats() && Press(Hand::Key)) return true;
+      if (!repeats() && !Bounces(*event) && Press(Hand::Key)) return true;
       return hand_ == Hand::Key || watched == &button_;
     case QEvent::KeyRelease:
       if (!watched->isWidgetType() || !IsOurKey(*event)) return false;
-      if (hand_ == Hand::Key && !repeats()) LetGo();
+      if (!repeats()) {
+        key_up_ms_ = static_cast<const QKeyEvent*>(event)->timestamp();
+        if (hand_ == Hand::Key) LetGo();
+      }
       return watched == &button_;
     default:
       if (hand_ != Hand::None && TakesHandAway(*watched, *event)) LetGo();

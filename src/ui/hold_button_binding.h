@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <cstdint>
 
 #include "forms/hold_button.h"
 #include "ui/binding.h"
@@ -19,7 +20,9 @@ class HoldButtonBinding : public QObject, public WidgetBinding {
 
  private:
   enum class Hand { None, Mouse, Key };
+  bool IsInFront() const;
   bool MayBePressed() const;
+  bool Bounces(const QEvent& event) const;
   bool IsOurKey(const QEvent& event) const;
   bool TakesHandAway(const QObject& watched, const QEvent& event) const;
   bool Press(Hand hand);
@@ -30,6 +33,7 @@ class HoldButtonBinding : public QObject, public WidgetBinding {
   CommandGate gate_;
   Hand hand_ = Hand::None;
   int key_ = 0;
+  std::uint64_t key_up_ms_ = 0;  ///< when the key last went up, by the window system's clock
   std::optional<std::string> caption_;
 };
 

@@ -70,6 +70,16 @@ TEST_F(GridTest, ARefusedEditStaysOpenWithTheOldTextAndTheReason) {
   EXPECT_EQ(grid.Rows(), kFirst + 16) << "a good edit is taken first, then the command runs";
   EXPECT_EQ(Cell(kFirst + 1, kVel), "31");
   EXPECT_TRUE(table->Refusal().isEmpty());
+  // A stop gets past a refused one, as soon as the mouse goes down.
+  Type("99999");
+  int stops = 0;
+  frmMain.cmdStopNow.Click = [&stops] { ++stops; };
+  frmMain.cmdStopNow.Enabled = true;
+  desktop.forms.Refresh();
+  QTest::mousePress(desktop.forms.WidgetOf(frmMain.cmdStopNow), Qt::LeftButton);
+  EXPECT_EQ(stops, 1);
+  QTest::mouseRelease(desktop.forms.WidgetOf(frmMain.cmdStopNow), Qt::LeftButton);
+  EXPECT_EQ(stops, 1);
 }
 
 TEST_F(GridTest, ClosingTakesAnOpenEditOrStaysForARefusedOne) {
