@@ -299,7 +299,8 @@ AxisState Controller::Axis(int axis, std::int64_t now_us) const {
           machine.axes.Pulses(index, now_us),
           machine.memory.MaxPulses(index),
           machine.ServoOn(index),
-          machine.axes.Travelled(index, now_us) - machine.travelled_at_stop[index]};
+          machine.axes.Travelled(index, now_us) - machine.travelled_at_stop[index],
+          machine.PulseSpeed(index, 1)};
 }
 
 bool Controller::AnyMoving(std::int64_t now_us) const {

@@ -25,6 +25,7 @@ struct AxisState {
   int max_pulses = 0;
   bool servo_on = true;
   std::int64_t since_stop = 0;  ///< Pulses that it has moved since the last "0SP" arrived.
+  double pulses_per_mm = 0.0;   ///< 0 when the axis's device block holds no scale.
 };
 
 /// A QV-R7 controller on a line. Time is the caller's, in microseconds, and never runs back.

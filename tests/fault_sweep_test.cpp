@@ -16,6 +16,7 @@
 #include "forms/frm_parameta2.h"
 #include "link/port.h"
 #include "link/status_commands.h"
+#include "motion/motion_tabs.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
 #include "para/sys_para.h"
@@ -142,6 +143,44 @@ class Trial : public FlowTest {
     WritePara();
   }
   void VerifyPara() { frmParameta2.cmdConpareCT.Press(); }
+  void ShowTab(int tab) {
+    TabStrip& strip = frmPosi.SSTabCommand();
+    strip.Selected = tab;
+    strip.Click();
+  }
+  void MoveTab() {
+    ReadRange(1, 5);
+    ShowTab(1);
+  }
+  /// All three moves end at position 3.
+  void HomedOnMoveTab() {
+    MoveTab();
+    Home();
+    PosiMoveTest& f = frmPosi.Move;
+    f.flgdProgram.SetText(1, 1, "1");
+    f.flgdProgram.SetText(2, 1, "3");
+    f.updownStartPosiNo.Set(2);
+    f.updownEndPosiNo.Set(3);
+    GrpTable.GrpStart[1] = 2;
+    GrpTable.GrpEnd[1] = 3;
+    ShowMotionTabs();
+  }
+  void TeachingTab() {
+    MoveTab();
+    Home();
+    ShowTab(2);
+    frmPosi.flgdData.SelectCell(RowOfPosition(1), 1);
+    port.Ct().PlaceAxis(1, 1234, pump.NowUs());
+  }
+  void Home() { frmPosi.Move.cmdHome.Press(); }
+  void MoveByList() { frmPosi.Move.cmdSelectMove.Press(); }
+  void MoveByRange() { frmPosi.Move.cmdMove.Press(); }
+  void MoveGroup() { frmPosi.Move.cmdGrpMove.Press(); }
+  void Teach() {
+    frmPosi.Teach.cmdJOGST.Press();
+    frmPosi.Teach.cmdJOGWrite.Press();
+    frmPosi.Teach.cmdJOGend.Press();
+  }
   template <auto kTransfer>
   void Transfer() {
     const CommandsOff commands_off;
@@ -210,6 +249,9 @@ Fields ShownPositions() {
   return fields;
 }
 
+Fields HomeState() { return {AppState.HomeDone ? "home" : ""}; }
+Fields ReachedLast() { return {frmPosi.Readout.lblkanryoNo.Caption == "3" ? "reached" : ""}; }
+
 /// All that the controller keeps through a loss of power.
 std::string Committed(const qvr7sim::Controller& ct) {
   std::string memory;
@@ -243,6 +285,11 @@ constexpr SweptFlow kFlows[] = {
     {"read positions", &Trial::OtherDevice, &Trial::ReadPositions, ShownPositions, false},
     {"write positions", &Trial::EditPositions, &Trial::WritePositions, ShownPositions, false},
     {"compare positions", &Trial::EditPositions, &Trial::ComparePositions, ShownPositions, false},
+    {"homing", &Trial::MoveTab, &Trial::Home, HomeState, false},
+    {"selective move", &Trial::HomedOnMoveTab, &Trial::MoveByList, ReachedLast, false},
+    {"continuous move", &Trial::HomedOnMoveTab, &Trial::MoveByRange, ReachedLast, false},
+    {"group move", &Trial::HomedOnMoveTab, &Trial::MoveGroup, ReachedLast, false},
+    {"teach", &Trial::TeachingTab, &Trial::Teach, ShownPositions, false},
     {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
     {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},

@@ -66,14 +66,15 @@ struct PosiTeaching {
   Timer timerTeaching{300};
 
   // One press, from the hand's down to the axis at rest.
-  Bool16 JogArmed;         ///< a press may start a move
-  Bool16 JogPressIgnored;  ///< the press was refused: its release does nothing
-  Bool16 JogReleased;      ///< the release has been seen
-  Bool16 JogPending;       ///< a press is being served and has not been stopped yet
-  Bool16 JogIsContinuous;  ///< jog, not inching
-  Bool16 JogRunning;       ///< the start has been acknowledged: the axis runs until a stop
-  Bool16 StartInFlight;    ///< the start has been handed to the queue and is not answered yet
-  Bool16 JogButtonsAreOn;  ///< no press holds them off
+  Bool16 JogArmed;            ///< a press may start a move
+  Bool16 JogPressIgnored;     ///< the press was refused: its release does nothing
+  Bool16 JogReleased;         ///< the release has been seen
+  Bool16 JogPending;          ///< a press is being served and has not been stopped yet
+  Bool16 JogIsContinuous;     ///< jog, not inching
+  std::int32_t JogIndex = 0;  ///< the button of the press
+  Bool16 JogRunning;          ///< the start has been acknowledged: the axis runs until a stop
+  Bool16 StartInFlight;       ///< the start has been handed to the queue and is not answered yet
+  Bool16 JogButtonsAreOn;     ///< no press holds them off
   std::int32_t JogStopTicks = 0;  ///< ticks of `timerJogStop` since the release
 
   // The session.

@@ -35,6 +35,11 @@ std::size_t RequestsPending() { return TusinQueue.waiting.size() + (TusinQueue.o
 
 void FocusAway() { doors.forms->SetFocus(frmPosi.Teach.Frame1); }
 
+/// A button towards an end at which the axis stands can move nothing: its user is told why.
+void SayAtTheEnd() {
+  if (StandsAtEnd(frmPosi.Teach.JogIndex)) TellInStatusPanel(Text(kMsgAtTheEnd));
+}
+
 /// The buttons serve the next press.
 void EndPress() {
   PosiTeaching& f = frmPosi.Teach;
@@ -52,7 +57,7 @@ void StopJog(int timeout_ms) {
   if (stopped) {
     // The stop button stays on until the axis stands.
     const MotionScope motion(Motion::Jog);
-    if (WaitForRest(motion) == Rest::Standing) static_cast<void>(ReadnDisp_PresentPos());
+    if (WaitForRest(motion) == Rest::Standing && ReadnDisp_PresentPos() == 0) SayAtTheEnd();
   }
   EndMotion();
   EndPress();
@@ -91,13 +96,13 @@ void StartJog(int index) {
   if (!taken) return StartFailed(failure);
   f.JogRunning = True;
   // The release was seen and given up on, or the hand left with no stop on its way.
-  if (f.JogReleased) StopJog(kEarlyStopMs);
+  f.JogReleased ? StopJog(kEarlyStopMs) : SayAtTheEnd();
 }
 
 bool SendInching(int step, int index) {
   const auto frame = BuildInchingCommand(step, index);
   if (!frame) {
-    TellInStatusPanel(Text(kMsgAtTheEnd));
+    SayAtTheEnd();
     LogMotion(kActionInching, "", kNotSent);
     return false;
   }
@@ -114,8 +119,9 @@ bool GivenUp(std::int32_t stops_before) {
 void Inch(int step, int index, std::int32_t stops_before) {
   if (ReadnDisp_PresentPos() == 0 && !GivenUp(stops_before)) {
     const MotionScope motion(Motion::Inching);
-    if (SendInching(step, index) && WaitForRest(motion) != Rest::Failed) {
-      static_cast<void>(ReadnDisp_PresentPos());
+    if (SendInching(step, index) && WaitForRest(motion) != Rest::Failed &&
+        ReadnDisp_PresentPos() == 0) {
+      SayAtTheEnd();
     }
   }
   EndPress();
@@ -142,6 +148,7 @@ void cmdJOG_MouseDown(int index) {
   f.JogPending = True;
   f.JogPressIgnored = f.JogReleased = f.JogArmed = False;
   f.TimerDelay.Start();
+  f.JogIndex = index;
   f.JogIsContinuous = f.optJOG.Value;
   if (!f.JogIsContinuous) JogButtonsOff();
   const int step = InchingStep();  // a choice made under the hand is for the next press

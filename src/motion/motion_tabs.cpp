@@ -19,7 +19,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kHoldTip = 5287, kNoSessionTip = 5288, kOfflineTip = 5289, kMovingTip = 5290;
-constexpr int kNoServoTip = 5294, kNoGuardNote = 5286, kEmergencyNote = 5285;
+constexpr int kAtTheEndTip = 5293, kNoServoTip = 5294, kNoGuardNote = 5286, kEmergencyNote = 5285;
 constexpr int kAxis1 = 220;
 constexpr int kMoveTab = 1, kTeachingTab = 2;
 
@@ -79,6 +79,7 @@ void ShowJogButtons(bool session) {
     button.Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
     button.Enabled = on && f.ServoOn[axis];
     button.ToolTip = session ? Text(kHoldTip, button.Key) : Text(kNoSessionTip);
+    if (session && StandsAtEnd(i)) button.ToolTip = Text(kAtTheEndTip) + "\n" + button.ToolTip;
   }
 }
 

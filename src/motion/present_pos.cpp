@@ -36,6 +36,12 @@ void ShowPresentPos() {
   r.lblPosiUnit.Caption = Text(5278) + " " + Text(AppState.DispMmUnit ? MsgId(5259) : MsgId(5258));
 }
 
+bool StandsAtEnd(int jog_button) {
+  const int axis = jog_button / 2;
+  const std::int32_t here = PresentPos.Pulses[axis];
+  return PresentPos.Known && (jog_button % 2 == 0 ? here <= 0 : here >= AppState.MaxPulse[axis]);
+}
+
 int ReadnDisp_PresentPos() {
   if (ReadPresentPosFromCt(PresentPos.Pulses) != 0) return 1;
   PresentPos.Known = true;

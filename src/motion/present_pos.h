@@ -17,6 +17,9 @@ extern PresentPosRecord PresentPos;
 /// 0 good, 1 failure, which the user has been told.
 int ReadnDisp_PresentPos();
 
+/// The axis of a direction button (0 to 7) stands at the end that the button leads to.
+bool StandsAtEnd(int jog_button);
+
 /// Shows what is known, in the display unit.
 void ShowPresentPos();
 

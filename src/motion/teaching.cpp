@@ -28,7 +28,8 @@ TeachingSessionRecord TeachingSession;
 
 namespace {
 
-constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377;
+constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377,
+              kMsgMayBeHeld = 6363;
 // The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2
 // switches its servo off. One frame carries one of the two: beside a servo that is off the others
 // are plain.
@@ -84,6 +85,15 @@ bool EnterTeachingMode() {
   return false;
 }
 
+/// A start that came to none gives the axes back to the controller: at the next connection where
+/// the line has just failed.
+void LeaveTeachingMode() {
+  const bool line_serves = !AppState.Offline && !AppState.AlarmOn;
+  if (line_serves && CtControlModeSet(0, 0, 0) == 0) return;
+  AppState.AxesMayBeHeld = True;
+  Tell(kMsgMayBeHeld);
+}
+
 bool ReadWhereItStands() {
   if (ReadCtModeAndAxis() != 0 || ReadHomeStateFromCt() != 0) return false;
   if (!AppState.AllHomed) AppState.HomeDone = False;
@@ -100,10 +110,10 @@ bool StartTeaching() {
   }
   if (!ConnectOrOpenPort() || !NoProgramRuns() || !OpenPortOrTell()) return false;
   ClearTeaching();
-  if (!EnterTeachingMode()) return false;
-  if (ReadWhereItStands()) return true;
-  // Back to the controller's own: not over a line that has just failed.
-  if (!AppState.Offline) static_cast<void>(CtControlModeSet(0, 0, 0));
+  const bool entered = EnterTeachingMode();
+  if (entered && ReadWhereItStands()) return true;
+  const bool refused = !entered && AppState.AlarmOn;
+  if (!refused) LeaveTeachingMode();
   return false;
 }
 
@@ -143,7 +153,7 @@ void cmdJOGend_Click() {
   LogMotion(kActionEnd, "", normal ? MsgId(kTaken) : MsgId(kNotTaken));
   if (!normal) {
     AppState.AxesMayBeHeld = True;
-    Tell(kMsgLineFailed);
+    MsgBox(WithReason(Text(kMsgLineFailed), Text(kMsgMayBeHeld)));
   }
   AppState.TeachingNow = False;
   TusinPortClose();

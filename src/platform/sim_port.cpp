@@ -48,6 +48,20 @@ bool SimPort::Write(std::string_view bytes) {
   return true;
 }
 
+AxisArray<SimAxis> SimPort::Axes() {
+  AxisArray<SimAxis> axes;
+  for (int i = 0; i < kAxes; ++i) {
+    const qvr7sim::AxisState now = controller_.Axis(i + 1, doors.pump->NowUs());
+    axes[i] = {now.in_use, now.moving,     now.homed,        now.servo_on,
+               now.pulses, now.max_pulses, now.pulses_per_mm};
+  }
+  return axes;
+}
+
+void SimPort::Push(int axis, int pulses) {
+  controller_.PushAxis(axis + 1, pulses, doors.pump->NowUs());
+}
+
 void SimPort::Collect() {
   if (open_) in_buffer_ += controller_.Take(doors.pump->NowUs());
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "base/axes.h"
 #include "platform/serial_port.h"
+#include "platform/sim_axis.h"
 #include "sim/controller.h"
 
 namespace tr7 {
@@ -26,6 +28,13 @@ class SimPort : public SerialPort {
   void Vanish();
 
   qvr7sim::Controller& Ct() { return controller_; }
+
+  // The simulated machine, for who looks at it.
+
+  /// Its axes now, also while the port is shut.
+  AxisArray<SimAxis> Axes();
+  /// A hand moves the slide of an axis (from 0), as far as it goes. Nothing where its servo is on.
+  void Push(int axis, int pulses);
 
   // For tests: what the line does wrong, and what went over it.
   PortFault open_fault = PortFault::None;  ///< the next openings fail so

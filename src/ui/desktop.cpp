@@ -9,6 +9,7 @@
 #include "motion/motion_view.h"
 #include "platform/doors.h"
 #include "ui/binding.h"
+#include "ui/sim_dock.h"
 
 namespace tr7 {
 namespace {
@@ -51,6 +52,8 @@ Desktop::Desktop(const Profile& profile)
   doors.files = &files;
   doors.help = &help;
   doors.guard = &guard;
+  if (!profile.demo) return;
+  forms.frame_built = [this](QMainWindow& frame) { SimDock::AddTo(frame, serial.Sim()); };
 }
 
 Desktop::~Desktop() {

@@ -116,6 +116,7 @@ void QtFormHost::ShowFrame() {
         if (shown.window == window) SetActiveView(&shown.bound->Record());
       }
     });
+    if (frame_built) frame_built(*frame_);
   }
   if (frame_->isVisible()) return;
   frame_->ShowByRecord();

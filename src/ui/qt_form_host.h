@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,6 +14,7 @@
 #include "ui/message_dialog.h"
 #include "ui/qt_pump.h"
 
+class QMainWindow;
 class QMdiArea;
 class QMdiSubWindow;
 
@@ -40,6 +42,9 @@ class QtFormHost : public FormHost {
   void SetFocus(Control& control) override;
   void ArrangeWindows(WindowArrangement how) override;
   void EndProcess() override;
+
+  /// Called once the frame has been built, before it is first shown.
+  std::function<void(QMainWindow& frame)> frame_built;
 
   /// True once the process is to end: nothing more is shown and nobody is asked.
   bool Ended() const { return ended_; }

@@ -137,6 +137,8 @@ void JogWatch::Heard(const std::string& line, std::int64_t now) {
   }
   if (Is(flight_, "0JR") && Is(line, "0JR") && hand_on_) acknowledged_ = true;
   const bool of_stop = Is(flight_, "0SP");
+  // Another's reply has stood in for its own, which is still to come.
+  if (other && !of_stop) ++late_[flight_.substr(0, 3)];
   flight_.clear();
   if (of_stop) return HeardOfStop(line, now);
   if (owed_) due_us_ = std::min(due_us_, now);

@@ -148,5 +148,28 @@ TEST_F(JogTest, InchingGoesByStepsWithinTheStroke) {
   EXPECT_FALSE(BuildInchingCommand(7, 0));
 }
 
+/// In the display unit too, and though the axis came there unseen.
+TEST_F(JogTest, AtTheEndOfTheStrokeAButtonSaysSo) {
+  std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
+  for (const bool mm : {false, true}) {
+    AppState.DispMmUnit = mm;
+    for (OptionButton* mode : {&frmPosi.Teach.optJOG, &frmPosi.Teach.optInching10}) {
+      for (const int index : {0, 1}) {
+        SCOPED_TRACE(mode->Name + std::to_string(index));
+        mode->Press();
+        port.Ct().PlaceAxis(1, index == 0 ? 0 : AppState.MaxPulse[0], pump.NowUs());
+        pump.RunFor(400'000);
+        Jog(index, 300'000);
+        EXPECT_EQ(panel, "The end of the stroke.");
+        EXPECT_TRUE(frmPosi.Teach.cmdJOG[index].ToolTip.starts_with(panel));
+        EXPECT_FALSE(frmPosi.Teach.cmdJOG[1 - index].ToolTip.starts_with(panel));
+        pump.RunFor(400'000);
+        Jog(1 - index, 30'000);
+        EXPECT_EQ(panel, "");
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tr7

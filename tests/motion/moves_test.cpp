@@ -138,26 +138,5 @@ TEST_F(MoveTest, AGroupMovesThroughItsRange) {
   EXPECT_EQ(Boxes(), Texts{"The Group Move cannot be executed in the program mode."});
 }
 
-/// Whatever fails on the way ends the flow: nothing is sent after it but what sets things right.
-TEST_F(MoveTest, AFailingStepEndsTheFlow) {
-  List({"1", "2"});
-  for (const char* prefix : {"0RA", "0RD0", "0RH", "0MP001", "0MP002", "0RC"}) {
-    for (const FaultKind kind : {FaultKind::kSilence, FaultKind::kErrorReply}) {
-      SCOPED_TRACE(prefix);
-      Spoil(kind, prefix, kind == FaultKind::kSilence ? 0 : 1);
-      frmPosi.Move.cmdSelectMove.Press();
-      EXPECT_FALSE(Boxes().empty());
-      EXPECT_EQ(MotionNow.Flow, MoveFlow::None);
-      port.Ct().ClearFaults();
-      pump.RunFor(2'000'000);
-      if (AppState.AlarmOn) frmMain.cmdReset.Press();
-      if (AppState.Offline) frmMain.mnuSettingOnline.Press();
-      AppState.HomeDone = True;
-      ShowTab(1);
-      frmPosi.Move.MoveTempStop = False;
-    }
-  }
-}
-
 }  // namespace
 }  // namespace tr7

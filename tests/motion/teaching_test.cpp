@@ -64,23 +64,6 @@ TEST_F(TeachingTest, ServosAndTheSlideByHand) {
   EXPECT_FALSE(f.chkSarvoOn[1].Value) << "the box goes back";
 }
 
-/// What keeps a session from starting leaves everything as it was.
-TEST_F(TeachingTest, AStartThatFailsIsNone) {
-  for (const char* prefix : {"0CM1", "0RD0", "0RH", "0RC", "0RD3"}) {
-    SCOPED_TRACE(prefix);
-    Spoil(FaultKind::kErrorReply, prefix);
-    frmPosi.Teach.cmdJOGST.Press();
-    EXPECT_FALSE(AppState.TeachingNow);
-    EXPECT_TRUE(frmMain.mnuFile.Enabled);
-    EXPECT_FALSE(Boxes().empty());
-    port.Ct().ClearFaults();
-    if (AppState.AlarmOn) frmMain.cmdReset.Press();
-    if (AppState.Offline) frmMain.mnuSettingOnline.Press();
-    AppState.HomeDone = True;
-    ShowTab(2);
-  }
-}
-
 TEST_F(TeachingTest, ATableThatFailsTheCheckIsNotTaughtInto) {
   Put(1, 1, "0");
   frmPosi.Teach.cmdJOGST.Press();

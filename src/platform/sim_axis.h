@@ -1,0 +1,18 @@
+#pragma once
+
+namespace tr7 {
+
+/// An axis of the simulated machine at one moment.
+struct SimAxis {
+  bool in_use = false;
+  bool moving = false;
+  bool homed = false;
+  bool servo_on = false;
+  int pulses = 0;      ///< where the slide stands; below 0: on the far side of home
+  int max_pulses = 0;  ///< the other end of the stroke
+  double pulses_per_mm = 0.0;
+
+  bool operator==(const SimAxis&) const = default;
+};
+
+}  // namespace tr7

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDockWidget>
+#include <QTimer>
+#include <array>
+
+#include "base/axes.h"
+#include "platform/sim_port.h"
+
+class QMainWindow;
+class QToolButton;
+
+namespace tr7 {
+
+class SimPicture;
+
+/// The simulated machine below the frame's views: its axes with the hand that pushes them. It looks
+/// at the machine whenever the program wakes, and by itself only while an axis moves.
+class SimDock : public QDockWidget {
+  Q_OBJECT
+
+ public:
+  /// Puts it into the frame, which owns it, with a button that shuts and opens it.
+  static void AddTo(QMainWindow& frame, SimPort& machine);
+
+ private:
+  struct Row {
+    SimPicture* picture = nullptr;
+    std::array<QToolButton*, 2> push{};  ///< towards home, away from it
+  };
+
+  SimDock(QMainWindow& frame, SimPort& machine);
+  QWidget* MakeAxes();
+  QToolButton* MakePushButton(int axis, int direction);
+  void Push(int axis, int pulses);
+  static void Show(const Row& row, const SimAxis& axis);
+  void Look();
+
+  SimPort& machine_;
+  AxisArray<Row> rows_;
+  QTimer next_look_;  ///< while it runs nobody looks
+};
+
+}  // namespace tr7

@@ -1,0 +1,52 @@
+// The picture of the simulated machine: it follows what moves, and costs nothing at rest.
+
+#include "ui/sim_dock.h"
+
+#include <QMainWindow>
+#include <QTest>
+#include <QToolButton>
+
+#include "tests/ui/ui_test.h"
+#include "ui/sim_picture.h"
+
+namespace tr7 {
+namespace {
+
+class SimDockTest : public UiTest {
+ protected:
+  SimDockTest() {
+    SimDock::AddTo(frame_, machine_);
+    frame_.show();
+    machine_.Open("sim");
+    WaitMs(300);
+  }
+  const SimAxis& Shown() const { return frame_.findChildren<SimPicture*>().at(1)->Shown(); }
+  bool Follows() const { return Shown() == machine_.Axes()[1]; }
+
+  SimPort& machine_ = desktop.serial.Sim();
+  QMainWindow frame_;
+};
+
+TEST_F(SimDockTest, ItFollowsAJogAndRestsWithIt) {
+  machine_.Write("0JR00200\r\n");
+  EXPECT_TRUE(Until([this] { return Shown().moving && Shown().pulses > 100; }));
+  machine_.Write("0SP\r\n");
+  EXPECT_TRUE(Until([this] { return !Shown().moving; }));
+  EXPECT_TRUE(Follows());
+  const std::uint64_t sleeps = desktop.pump.sleeps;
+  WaitMs(300);
+  EXPECT_LE(desktop.pump.sleeps - sleeps, 8u);
+}
+
+TEST_F(SimDockTest, AHandMovesASlideWhoseServoIsOff) {
+  QToolButton* away = frame_.findChildren<QToolButton*>("push2+").at(0);
+  EXPECT_FALSE(away->isEnabled());
+  machine_.Write("0CM10200\r\n");
+  EXPECT_TRUE(Until([away] { return away->isEnabled(); }));
+  QTest::mouseClick(away, Qt::LeftButton);
+  EXPECT_EQ(machine_.Axes()[1].pulses, 50);
+  EXPECT_TRUE(Follows());
+}
+
+}  // namespace
+}  // namespace tr7
