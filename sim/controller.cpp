@@ -240,6 +240,36 @@ std::optional<std::int64_t> Controller::NextRestUs() const {
   return impl_->machine.axes.NextRestUs();
 }
 
+std::optional<std::int64_t> Controller::NextInsideUs() const {
+  return impl_->machine.NextInsideUs();
+}
+
+void Controller::SetInput(int number, bool on, std::int64_t now_us) {
+  impl_->Advance(now_us);
+  impl_->machine.SetInput(number, on, now_us);
+}
+
+const ProgramValues& Controller::Values(std::int64_t now_us) const {
+  impl_->Advance(now_us);
+  return impl_->machine.values;
+}
+
+std::array<std::pair<int, int>, kTasks> Controller::RunningSteps(std::int64_t now_us) const {
+  impl_->Advance(now_us);
+  std::array<std::pair<int, int>, kTasks> steps{};
+  for (int slot = 0; slot < kTasks; ++slot) {
+    const Task* task = impl_->machine.tasks.Slot(slot);
+    if (task != nullptr) steps[slot] = {task->program, task->at + 1};
+  }
+  return steps;
+}
+
+std::int64_t Controller::StepsDone() const { return impl_->machine.tasks.StepsDone(); }
+std::pair<int, int> Controller::FailedStep() const { return impl_->machine.failed_step; }
+const AxisSettings& Controller::Settings(int axis) const {
+  return impl_->machine.settings[axis - 1];
+}
+
 const std::string& Controller::WrittenPosition(int number) const {
   return impl_->machine.memory.positions.Written(number);
 }

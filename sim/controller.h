@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <memory>
@@ -9,10 +10,13 @@
 #include <utility>
 #include <vector>
 
+#include "sim/axis_settings.h"
 #include "sim/error_codes.h"
 #include "sim/faults.h"
 #include "sim/motion_start.h"
+#include "sim/program_values.h"
 #include "sim/setup.h"
+#include "sim/tasks.h"
 
 namespace qvr7sim {
 
@@ -84,6 +88,21 @@ class Controller {
   const std::deque<MotionStart>& MotionStarts() const;
   /// When an axis will come to rest by itself, the next one that does.
   std::optional<std::int64_t> NextRestUs() const;
+  /// When an axis comes to rest, an input changes or a program does a step, the next of them.
+  std::optional<std::int64_t> NextInsideUs() const;
+
+  /// Switches input 1 to 18 of the programs, as a person at the machine would.
+  void SetInput(int number, bool on, std::int64_t now_us);
+  /// Inputs, outputs, flags and variables at `now_us`.
+  const ProgramValues& Values(std::int64_t now_us) const;
+  /// Program and step (from 1) of each slot, 0 where none runs.
+  std::array<std::pair<int, int>, kTasks> RunningSteps(std::int64_t now_us) const;
+  /// Program steps carried out since the start.
+  std::int64_t StepsDone() const;
+  /// Program and step (from 1) that the last alarm of a program came from.
+  std::pair<int, int> FailedStep() const;
+  /// What programs have set for axis 1 to 4.
+  const AxisSettings& Settings(int axis) const;
 
   /// Digits behind the number in "0RP" (60), for 1 to 999.
   const std::string& WrittenPosition(int number) const;

@@ -110,6 +110,7 @@ std::string Jog(Machine& machine, std::string_view args, std::int64_t now_us) {
 std::string Stop(Machine& machine, std::string_view args, std::int64_t now_us) {
   if (!args.empty()) return BadFrame();
   machine.NoteStop(now_us);
+  machine.tasks.StopAll(machine, now_us);
   machine.axes.Stop(kStopFall, now_us);
   return "0SP";
 }
@@ -127,11 +128,12 @@ std::string PresentPositions(Machine& machine, std::string_view args, std::int64
   return reply;
 }
 
-/// Accepted in program mode alone; the program itself has nothing to run on here.
-std::string StartProgram(Machine& machine, std::string_view args, std::int64_t) {
+/// As "0DM", but refused while an axis moves, and with the number in the reply.
+std::string StartProgram(Machine& machine, std::string_view args, std::int64_t now_us) {
   if (args.size() != 2 || !AllHex(args)) return BadFrame();
-  if (machine.mode != Mode::kProgram) return BadNumber();
-  return "0MG" + std::string(args);
+  const int program = HexValue(args);
+  if (program < 1 || program > kPrograms) return BadNumber();
+  return machine.StartProgram(program, now_us) ? "0MG" + std::string(args) : BadNumber();
 }
 
 constexpr Command kCommands[] = {{"0MP", MoveWithMacro, false, true},

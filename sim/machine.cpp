@@ -11,6 +11,17 @@ namespace {
 
 constexpr std::size_t kNameLength = 3;
 constexpr std::string_view kAlarmReset = "0AR";
+/// LB 1, TIM 1, JUMP 1.
+constexpr std::string_view kIdleLoop =
+    "0B0003E800000000000"
+    "0A0003E800000000000"
+    "0C0003E800000000000";
+
+/// To the nearest whole number; `divisor` above 0.
+std::int64_t RoundedRatio(std::int64_t value, std::int64_t divisor) {
+  const std::int64_t half = divisor / 2;
+  return (value + (value < 0 ? -half : half)) / divisor;
+}
 
 }  // namespace
 
@@ -37,6 +48,13 @@ Machine::Machine(const Setup& start)
     axes.Place(axis, start.start_pulses[axis]);
     if (start.homed) axes.SetHomed(axis);
   }
+  std::stable_sort(setup.inputs.begin(), setup.inputs.end(),
+                   [](const auto& a, const auto& b) { return a.at_us < b.at_us; });
+  for (int program = 1; program <= start.running_tasks; ++program) {
+    if (memory.programs.Written(program).empty())
+      memory.programs.Write(program, std::string(kIdleLoop));
+    tasks.Start(*this, program, 0);
+  }
 }
 
 std::string Machine::Answer(const std::string& request, std::int64_t now_us) {
@@ -50,17 +68,46 @@ std::string Machine::Answer(const std::string& request, std::int64_t now_us) {
   const std::string reply =
       command->answer(*this, std::string_view(request).substr(kNameLength), now_us);
   NoteStart(moving_before, request, now_us);
+  tasks.Poke(now_us);  // an axis may be free again
   return reply;
 }
 
+std::optional<std::int64_t> Machine::NextInsideUs() const {
+  auto next = axes.NextRestUs();
+  const auto earlier = [&next](std::int64_t us) {
+    if (!next || us < *next) next = us;
+  };
+  if (const auto step = tasks.NextUs()) earlier(*step);
+  if (inputs_done_ < setup.inputs.size()) earlier(setup.inputs[inputs_done_].at_us);
+  return next;
+}
+
 void Machine::Settle(std::int64_t now_us) {
-  const auto failed = axes.Settle(now_us);
-  if (failed) Raise(*failed, now_us);
+  for (auto next = NextInsideUs(); next && *next <= now_us; next = NextInsideUs()) {
+    const std::int64_t at_us = *next;
+    if (const auto failed = axes.Settle(at_us)) Raise(*failed, at_us);
+    for (; inputs_done_ < setup.inputs.size(); ++inputs_done_) {
+      const TimedInput& input = setup.inputs[inputs_done_];
+      if (input.at_us > at_us) break;
+      SetInput(input.input, input.on, at_us);
+    }
+    tasks.Run(*this, at_us);
+  }
 }
 
 void Machine::Raise(const Alarm& raised, std::int64_t now_us) {
   axes.Halt(now_us);
+  tasks.Drop();
   alarm = raised;
+}
+
+void Machine::SetInput(int number, bool on, std::int64_t now_us) {
+  values.SetInput(number, on);
+  tasks.Poke(now_us);
+}
+
+bool Machine::StartProgram(int program, std::int64_t now_us) {
+  return mode == Mode::kProgram && tasks.Start(*this, program, now_us) != Tasks::Started::kNoRoom;
 }
 
 void Machine::PowerCycle(std::int64_t now_us) {
@@ -71,16 +118,19 @@ void Machine::PowerCycle(std::int64_t now_us) {
   if (stored != 0) mask = stored;
   axes.Halt(now_us);
   axes.LoseHome();
+  tasks.Drop();
+  values.Clear();
+  settings = {};
   alarm.reset();
   servo_lost = 0;
   pc_command = false;
   control_digits = "0000";
 }
 
-void Machine::NoteStart(unsigned moving_before, const std::string& request, std::int64_t now_us) {
+void Machine::NoteStart(unsigned moving_before, const std::string& cause, std::int64_t now_us) {
   constexpr std::size_t kMostKept = 10000;
   const unsigned started = axes.MovingMask() & ~moving_before;
-  if (started != 0) starts.push_back({now_us, started, request});
+  if (started != 0) starts.push_back({now_us, started, cause});
   if (starts.size() > kMostKept) starts.pop_front();
 }
 
@@ -104,7 +154,8 @@ void Machine::LoseServo(int axis, std::int64_t now_us) {
 
 bool Machine::Push(int axis, int pulses) {
   if (ServoOn(axis) || axes.Moving(axis)) return false;
-  axes.Place(axis, std::clamp(axes.Pulses(axis, 0) + pulses, 0, memory.MaxPulses(axis)));
+  const int here = axes.Pulses(axis, 0);
+  axes.Shift(axis, std::clamp(here + pulses, 0, memory.MaxPulses(axis)) - here);
   return true;
 }
 
@@ -140,6 +191,16 @@ void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
     axes.Move(axis, to, speed, kRise, now_us);
   }
   NoteStart(moving_before, "inputs", now_us);
+}
+
+std::int64_t Machine::ToThousandths(int axis, std::int64_t pulses) const {
+  const int ppr = memory.Ppr(axis);
+  return ppr == 0 ? 0 : RoundedRatio(pulses * memory.Lead(axis) * 1000, ppr);
+}
+
+std::int64_t Machine::ToPulses(int axis, std::int64_t thousandths) const {
+  const int lead = memory.Lead(axis);
+  return lead == 0 ? 0 : RoundedRatio(thousandths * memory.Ppr(axis), std::int64_t{lead} * 1000);
 }
 
 double Machine::PulseSpeed(int axis, int mm_s) const {

@@ -9,9 +9,12 @@
 #include <string_view>
 
 #include "sim/axes.h"
+#include "sim/axis_settings.h"
 #include "sim/memory.h"
 #include "sim/motion_start.h"
+#include "sim/program_values.h"
 #include "sim/setup.h"
+#include "sim/tasks.h"
 
 namespace qvr7sim {
 
@@ -21,10 +24,17 @@ struct Machine {
 
   /// Reply to a request, both without line end. Time must not run back.
   std::string Answer(const std::string& request, std::int64_t now_us);
-  /// Brings moves to their end; a failed homing raises its alarm.
+  /// Brings moves to their end and carries out program steps, in the order of time; a failed homing
+  /// raises its alarm.
   void Settle(std::int64_t now_us);
   void Raise(const Alarm& raised, std::int64_t now_us);
   void PowerCycle(std::int64_t now_us);
+  /// When a move ends, an input changes or a program does a step.
+  std::optional<std::int64_t> NextInsideUs() const;
+  /// Input 1 to 18 of the programs.
+  void SetInput(int number, bool on, std::int64_t now_us);
+  /// Programs run in program mode alone; false elsewhere, and where no task is free.
+  bool StartProgram(int program, std::int64_t now_us);
   /// The inputs start every axis in use that the PC does not hold; a move of about `time_us`.
   void MoveByInputs(std::int64_t time_us, std::int64_t now_us);
   /// Marks what the axes have moved until now: a stop has arrived.
@@ -46,6 +56,11 @@ struct Machine {
   bool InUse(int axis) const { return ((mask >> axis) & 1U) != 0; }
   /// Pulses a second of an axis at a speed in mm/s; 0 when its device block holds no scale.
   double PulseSpeed(int axis, int mm_s) const;
+  /// Thousandths of a mm and pulses of an axis, rounded; 0 when it holds no scale.
+  std::int64_t ToThousandths(int axis, std::int64_t pulses) const;
+  std::int64_t ToPulses(int axis, std::int64_t thousandths) const;
+  /// Keeps a start: what has begun to move since `moving_before`, and why.
+  void NoteStart(unsigned moving_before, const std::string& cause, std::int64_t now_us);
 
   Setup setup;
   Memory memory;
@@ -58,9 +73,13 @@ struct Machine {
   unsigned servo_lost = 0;         ///< until the alarm is reset
   std::deque<MotionStart> starts;  ///< the last ones
   std::array<std::int64_t, kAxes> travelled_at_stop{};
+  ProgramValues values;
+  Tasks tasks;
+  std::array<AxisSettings, kAxes> settings;
+  std::pair<int, int> failed_step{};  ///< program and step (from 1) of the last program alarm
 
  private:
-  void NoteStart(unsigned moving_before, const std::string& request, std::int64_t now_us);
+  std::size_t inputs_done_ = 0;  // of the setup's, which are in the order of time
 };
 
 /// The text of an error reply without line end.

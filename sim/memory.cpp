@@ -162,6 +162,17 @@ int Memory::MaxPulses(int axis) const { return HexAt(blocks.Written(DeviceBlock(
 int Memory::Lead(int axis) const { return HexAt(blocks.Written(DeviceBlock(axis)), 7, 2); }
 int Memory::Ppr(int axis) const { return HexAt(blocks.Written(DeviceBlock(axis)), 9, 4); }
 
+int Memory::ZoneBound(int axis, int bound) const {
+  return HexAt(blocks.Written(SecondBlock(axis)), bound == 1 ? 5 : 11, 6);
+}
+int Memory::InPositionWidth(int axis) const {
+  return HexAt(blocks.Written(DeviceBlock(axis) - 2), 31, 2);
+}
+bool Memory::HasPulseGenerator(int axis) const {
+  return HexAt(blocks.Written(SecondBlock(axis)), 21, 2) != 0;
+}
+bool Memory::StoresPput() const { return HexAt(blocks.Written(0), 25, 2) != 0; }
+
 bool Memory::SoftLimit(int axis) const {
   return HexAt(blocks.Written(DeviceBlock(axis) - 2), 35, 2) != 0;
 }

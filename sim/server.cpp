@@ -109,7 +109,7 @@ void WriteAll(int fd, std::string_view left) {
 
 std::optional<std::int64_t> Server::NextUs() const {
   const auto event = controller_->NextEventUs();
-  const auto rest = motion_fd_ < 0 ? std::nullopt : controller_->NextRestUs();
+  const auto rest = motion_fd_ < 0 ? std::nullopt : controller_->NextInsideUs();
   if (!event || !rest) return event ? event : rest;
   return std::min(*event, *rest);
 }

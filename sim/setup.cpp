@@ -113,6 +113,7 @@ std::string Setup::Check() const {
   }
   if (!AllPrintable(marker + version)) return "marker and version must be printable ASCII";
   if (!Within(baud, 300, 1'000'000)) return "the baud rate must be 300 to 1000000";
+  if (step_us < 1 || !Within(running_tasks, 0, 10)) return "1 us a step, 10 tasks";
   if (processing_us < 0 || commit_us < 0 || home_search_us < 0 || input_wait_us < 0)
     return "a time must not be negative";
   if (!Within(jog_mm_s, 1, 1000) || !Within(home_mm_s, 1, 1000)) {
