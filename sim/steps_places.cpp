@@ -65,7 +65,8 @@ StepOutcome ReadPlace(StepRun& run) {
   return StepOutcome::Done();
 }
 
-/// Whether all axes of the pattern stand at the position, within their in-position width.
+/// Whether all axes of the pattern that the position moves stand there, within their in-position
+/// width. A way by so much has no place.
 StepOutcome TestPlace(StepRun& run) {
   const auto mask = AxesOf(run);
   const auto number = WholeNumber(run, run.step.op2, 1, kPositions);
@@ -73,7 +74,8 @@ StepOutcome TestPlace(StepRun& run) {
   const PositionRecord record = RecordOf(run, *number);
   bool there = true;
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (!Has(*mask, axis)) continue;
+    if (!Has(*mask, axis) || record.axis[axis].way == 0) continue;
+    if (record.axis[axis].way != 1) return BadValue();
     const int off = run.machine.axes.Pulses(axis, run.now_us) - record.axis[axis].pulses;
     there = there && std::abs(off) <= run.machine.memory.InPositionWidth(axis);
   }

@@ -1,5 +1,7 @@
 // Programs that run.
 
+#include <fstream>
+
 #include "sim/input_script.h"
 #include "sim/parse.h"
 #include "sim/program_text.h"
@@ -200,7 +202,7 @@ TEST(Program, AxesThatThePcHoldsOrAnotherTaskMovesAreWaitedFor) {
   Exchange pc(setup);
   Talk(pc, "0CM11000>0CM11000 0DM01>0DM 0DM02>0DM +500 0RC1>0RC100000 0CM00000>0CM00000 +100");
   EXPECT_GT(pc.Axis(1).pulses, 300);
-  EXPECT_EQ(Facts((pc.Wait(240'000), pc), "F1 F2 A1"), "F1=1 F2=0 A1=2000");
+  EXPECT_EQ(Facts((pc.Wait(240'000), pc), "F1 F2"), "F1=1 F2=0");
   EXPECT_EQ(Facts((pc.Wait(300'000), pc), "F1 F2 A1"), "F1=1 F2=1 A1=1000");
   EXPECT_EQ(pc.controller.MotionStarts().back().request, "program 2 step 1");
 }
@@ -214,6 +216,34 @@ TEST(Program, AHandsPushIsMadeGood) {
   EXPECT_EQ(Facts(pc, "A2 O1 T"), "A2=3500 O1=0 T=1");
   Talk(pc, "0CM00000>0CM00000 0DM01>0DM +1000");
   EXPECT_EQ(Facts(pc, "A2 O1 T"), "A2=4000 O1=1 T=0");
+}
+
+TEST(Program, TheSamplesDoWhatTheySay) {
+  const struct {
+    std::vector<std::string> files;
+    int seconds;
+    const char* facts;
+  } rows[] = {{{"pick_and_place"}, 60, "R1=2 O1=0 O2=0 O3=0 A1=400 A2=0 A3=0 A4=12000 T=0"},
+              {{"palletising"}, 600, "R1=12 R2=41 O1=0 O3=1 A1=400 A2=0 A3=0 A4=12000 T=0"},
+              {{"handshake_a", "handshake_b"}, 120, "R1=3 F1=0 F2=0 O1=1 O2=0 A4=12000 T=0"},
+              {{"handshake_a"}, 120, "R1=0 F1=0 O1=0 O2=1 T=0"}};
+  for (const auto& [files, seconds, facts] : rows) {
+    SCOPED_TRACE(files[0]);
+    qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+    setup.mode = Mode::kProgram;
+    setup.inputs = {{0, 1, true}, {20'000'000, 2, true}};
+    std::string error;
+    for (const std::string& file : files) {
+      std::ifstream stream(TR7_SOURCE_DIR "/samples/" + file + ".prg", std::ios::binary);
+      const std::string text{std::istreambuf_iterator<char>(stream), {}};
+      const auto digits = AssembleProgramFile(text, &error);
+      ASSERT_TRUE(digits) << error;
+      setup.programs[++setup.running_tasks] = *digits;
+    }
+    Exchange pc(setup);
+    pc.Wait(seconds * 1'000'000);
+    EXPECT_EQ(Facts(pc, facts), facts);
+  }
 }
 
 }  // namespace
