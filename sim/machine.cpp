@@ -17,12 +17,6 @@ constexpr std::string_view kIdleLoop =
     "0A0003E800000000000"
     "0C0003E800000000000";
 
-/// To the nearest whole number; `divisor` above 0.
-std::int64_t RoundedRatio(std::int64_t value, std::int64_t divisor) {
-  const std::int64_t half = divisor / 2;
-  return (value + (value < 0 ? -half : half)) / divisor;
-}
-
 }  // namespace
 
 std::string ErrorText(const Alarm& error) {
@@ -42,12 +36,7 @@ const Command* FindCommand(std::string_view request) {
   return nullptr;
 }
 
-Machine::Machine(const Setup& start)
-    : setup(start), memory(start), mode(start.mode), mask(start.mask) {
-  for (int axis = 0; axis < kAxes; ++axis) {
-    axes.Place(axis, start.start_pulses[axis]);
-    if (start.homed) axes.SetHomed(axis);
-  }
+Machine::Machine(const Setup& start) : Plant(start) {
   std::stable_sort(setup.inputs.begin(), setup.inputs.end(),
                    [](const auto& a, const auto& b) { return a.at_us < b.at_us; });
   for (int program = 1; program <= start.running_tasks; ++program) {
@@ -91,7 +80,7 @@ void Machine::Settle(std::int64_t now_us) {
       if (input.at_us > at_us) break;
       SetInput(input.input, input.on, at_us);
     }
-    tasks.Run(*this, at_us);
+    if (const auto failed = tasks.Run(*this, at_us)) Raise(*failed, at_us);
   }
 }
 
@@ -127,13 +116,6 @@ void Machine::PowerCycle(std::int64_t now_us) {
   control_digits = "0000";
 }
 
-void Machine::NoteStart(unsigned moving_before, const std::string& cause, std::int64_t now_us) {
-  constexpr std::size_t kMostKept = 10000;
-  const unsigned started = axes.MovingMask() & ~moving_before;
-  if (started != 0) starts.push_back({now_us, started, cause});
-  if (starts.size() > kMostKept) starts.pop_front();
-}
-
 void Machine::NoteStop(std::int64_t now_us) {
   for (int axis = 0; axis < kAxes; ++axis) {
     travelled_at_stop[axis] = axes.Travelled(axis, now_us);
@@ -152,13 +134,6 @@ void Machine::LoseServo(int axis, std::int64_t now_us) {
   Raise({static_cast<char>('1' + axis), '2', error_code::kMotorLine}, now_us);
 }
 
-bool Machine::Push(int axis, int pulses) {
-  if (ServoOn(axis) || axes.Moving(axis)) return false;
-  const int here = axes.Pulses(axis, 0);
-  axes.Shift(axis, std::clamp(here + pulses, 0, memory.MaxPulses(axis)) - here);
-  return true;
-}
-
 std::int64_t Machine::MacroUs(int number) const {
   constexpr std::int64_t kTimerUs = 100'000, kTimer10Us = 1'000'000;
   if (number < 1 || number > kMacros) return 0;
@@ -173,12 +148,6 @@ std::int64_t Machine::MacroUs(int number) const {
   return time_us;
 }
 
-double Machine::TopSpeed(int axis) const {
-  constexpr double kTopPulses = 10000.0;  // of the motor, a second
-  constexpr int kFastMmS = 400;
-  return memory.IsFastDevice(axis) ? PulseSpeed(axis, kFastMmS) : kTopPulses;
-}
-
 void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
   const unsigned moving_before = axes.MovingMask();
   constexpr double kRise = 0.1;
@@ -191,21 +160,6 @@ void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
     axes.Move(axis, to, speed, kRise, now_us);
   }
   NoteStart(moving_before, "inputs", now_us);
-}
-
-std::int64_t Machine::ToThousandths(int axis, std::int64_t pulses) const {
-  const int ppr = memory.Ppr(axis);
-  return ppr == 0 ? 0 : RoundedRatio(pulses * memory.Lead(axis) * 1000, ppr);
-}
-
-std::int64_t Machine::ToPulses(int axis, std::int64_t thousandths) const {
-  const int lead = memory.Lead(axis);
-  return lead == 0 ? 0 : RoundedRatio(thousandths * memory.Ppr(axis), std::int64_t{lead} * 1000);
-}
-
-double Machine::PulseSpeed(int axis, int mm_s) const {
-  const int lead = memory.Lead(axis);
-  return lead == 0 ? 0.0 : static_cast<double>(mm_s) * memory.Ppr(axis) / lead;
 }
 
 }  // namespace qvr7sim

@@ -1,25 +1,18 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "sim/axes.h"
-#include "sim/axis_settings.h"
-#include "sim/memory.h"
-#include "sim/motion_start.h"
-#include "sim/program_values.h"
-#include "sim/setup.h"
+#include "sim/plant.h"
 #include "sim/tasks.h"
 
 namespace qvr7sim {
 
-/// The controller behind its line: what it keeps, what moves, what stands.
-struct Machine {
+/// The controller behind its line: the plant, the programs that run, and what answers requests.
+struct Machine : Plant {
   explicit Machine(const Setup& start);
 
   /// Reply to a request, both without line end. Time must not run back.
@@ -43,40 +36,9 @@ struct Machine {
   void TakeControl(std::string_view digits, std::int64_t now_us);
   /// The servo of an axis fails: it can be pushed, and all axes stop with the alarm.
   void LoseServo(int axis, std::int64_t now_us);
-  bool ServoOn(int axis) const {
-    return control_digits[axis] != '2' && (servo_lost & (1U << axis)) == 0;
-  }
-  /// A hand moves the slide, as far as it goes; false where the servo holds it.
-  bool Push(int axis, int pulses);
   /// How long a macro runs; 0 where there is none of that number.
   std::int64_t MacroUs(int number) const;
-  /// The fastest that an axis can run, in pulses a second.
-  double TopSpeed(int axis) const;
-  bool AnyMoving() const { return axes.MovingMask() != 0; }
-  bool InUse(int axis) const { return ((mask >> axis) & 1U) != 0; }
-  /// Pulses a second of an axis at a speed in mm/s; 0 when its device block holds no scale.
-  double PulseSpeed(int axis, int mm_s) const;
-  /// Thousandths of a mm and pulses of an axis, rounded; 0 when it holds no scale.
-  std::int64_t ToThousandths(int axis, std::int64_t pulses) const;
-  std::int64_t ToPulses(int axis, std::int64_t thousandths) const;
-  /// Keeps a start: what has begun to move since `moving_before`, and why.
-  void NoteStart(unsigned moving_before, const std::string& cause, std::int64_t now_us);
-
-  Setup setup;
-  Memory memory;
-  Axes axes;
-  Mode mode;
-  unsigned mask;
-  std::optional<Alarm> alarm;
-  bool pc_command = false;
-  std::string control_digits = "0000";
-  unsigned servo_lost = 0;         ///< until the alarm is reset
-  std::deque<MotionStart> starts;  ///< the last ones
-  std::array<std::int64_t, kAxes> travelled_at_stop{};
-  ProgramValues values;
   Tasks tasks;
-  std::array<AxisSettings, kAxes> settings;
-  std::pair<int, int> failed_step{};  ///< program and step (from 1) of the last program alarm
 
  private:
   std::size_t inputs_done_ = 0;  // of the setup's, which are in the order of time

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "sim/machine.h"
+#include "sim/plant.h"
 
 namespace qvr7sim {
 
@@ -20,13 +20,13 @@ struct AxisMove {
 using AxisMoves = std::array<AxisMove, kAxes>;
 
 /// Starts all axes of a command that stand, or none and returns why.
-std::optional<Alarm> StartMoves(Machine& machine, const AxisMoves& moves, std::int64_t now_us);
+std::optional<Alarm> StartMoves(Plant& plant, const AxisMoves& moves, std::int64_t now_us);
 /// The same for a homing of the axes in the mask.
-std::optional<Alarm> StartHoming(Machine& machine, unsigned mask, std::int64_t now_us);
+std::optional<Alarm> StartHoming(Plant& plant, unsigned mask, std::int64_t now_us);
 /// Why the axis cannot jog at all.
-std::optional<Alarm> JogRefusal(const Machine& machine, int axis);
+std::optional<Alarm> JogRefusal(const Plant& plant, int axis);
 /// Runs one axis towards home or away from it: to the end of its stroke, or without that limit into
 /// what is behind it. `speed` in pulses a second, above 0.
-void JogAxis(Machine& machine, int axis, bool to_home, double speed, std::int64_t now_us);
+void JogAxis(Plant& plant, int axis, bool to_home, double speed, std::int64_t now_us);
 
 }  // namespace qvr7sim

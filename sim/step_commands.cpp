@@ -26,7 +26,7 @@ std::optional<int> WholeNumber(const StepRun& run, const Operand& operand, int l
   const bool good = operand.kind == RefKind::kNumber || operand.kind == RefKind::kVariable ||
                     operand.kind == RefKind::kLocalVariable;
   if (!good) return std::nullopt;
-  const std::int64_t value = run.machine.values.Thousandths(operand, run.task.program) / kThousand;
+  const std::int64_t value = run.plant.values.Thousandths(operand, run.task.program) / kThousand;
   if (value < low || value > high) return std::nullopt;
   return static_cast<int>(value);
 }
@@ -35,18 +35,18 @@ std::optional<unsigned> AxesOf(const StepRun& run) {
   const auto pattern = WholeNumber(run, run.step.op1, 1, (1 << kAxes) - 1);
   if (!pattern) return std::nullopt;
   const auto mask = static_cast<unsigned>(*pattern);
-  return (mask & ~run.machine.mask) == 0 ? std::optional(mask) : std::nullopt;
+  return (mask & ~run.plant.mask) == 0 ? std::optional(mask) : std::nullopt;
 }
 
 /// From 0; an axis in use.
 std::optional<int> AxisOf(const StepRun& run) {
   const auto axis = WholeNumber(run, run.step.op1, 1, kAxes);
-  return axis && run.machine.InUse(*axis - 1) ? std::optional(*axis - 1) : std::nullopt;
+  return axis && run.plant.InUse(*axis - 1) ? std::optional(*axis - 1) : std::nullopt;
 }
 
 PositionRecord RecordOf(const StepRun& run, int number) {
   PositionRecord record;
-  DecodePosition(run.machine.memory.positions.Written(number), &record);
+  DecodePosition(run.plant.memory.positions.Written(number), &record);
   return record;
 }
 

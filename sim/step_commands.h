@@ -4,7 +4,7 @@
 #include <span>
 
 #include "sim/error_codes.h"
-#include "sim/machine.h"
+#include "sim/tasks.h"
 
 namespace qvr7sim {
 

@@ -61,7 +61,7 @@ bool TimeIsOver(StepRun& run, std::int64_t thousandths) {
 
 StepOutcome Timer(StepRun& run) {
   if (!WholeNumber(run, run.step.op1, 0, 999)) return BadValue();
-  const std::int64_t time = run.machine.values.Thousandths(run.step.op1, run.task.program);
+  const std::int64_t time = run.plant.values.Thousandths(run.step.op1, run.task.program);
   return TimeIsOver(run, time) ? StepOutcome::Done() : StepOutcome::Waits();
 }
 
@@ -69,7 +69,7 @@ StepOutcome Timer(StepRun& run) {
 template <bool on>
 StepOutcome WaitFor(StepRun& run) {
   if (!IsSignal(run.step.op1) || run.step.op2.kind != RefKind::kNumber) return BadStep();
-  if (run.machine.values.IsOn(run.step.op1, run.task.program) == on) return StepOutcome::Done();
+  if (run.plant.values.IsOn(run.step.op1, run.task.program) == on) return StepOutcome::Done();
   const int time = run.step.op2.value;
   if (time > 0 && TimeIsOver(run, time)) return StepOutcome::Result(false);
   return StepOutcome::Waits();
@@ -77,8 +77,8 @@ StepOutcome WaitFor(StepRun& run) {
 
 StepOutcome StartOther(StepRun& run) {
   const auto program = WholeNumber(run, run.step.op1, 1, kPrograms);
-  if (!program || run.machine.memory.programs.Written(*program).empty()) return BadStep();
-  const Tasks::Started started = run.machine.tasks.Start(run.machine, *program, run.now_us);
+  if (!program || run.plant.memory.programs.Written(*program).empty()) return BadStep();
+  const Tasks::Started started = run.tasks.Start(run.plant, *program, run.now_us);
   const bool no_room = started == Tasks::Started::kNoRoom;
   if (no_room && !run.step.HasResult()) return BadStep();
   return StepOutcome::Result(started == Tasks::Started::kNow);
@@ -88,14 +88,14 @@ StepOutcome EndOther(StepRun& run) {
   const auto program = WholeNumber(run, run.step.op1, 1, kPrograms);
   if (!program) return BadStep();
   if (*program == run.task.program) return StepOutcome::Ends();
-  return StepOutcome::Result(run.machine.tasks.Stop(run.machine, *program, run.now_us));
+  return StepOutcome::Result(run.tasks.Stop(run.plant, *program, run.now_us));
 }
 
 /// Brakes what the program has set in motion, and waits for its rest.
 StepOutcome StopAxes(StepRun& run) {
-  if (run.task.phase++ == 0) run.machine.axes.Stop(kStopFall, run.now_us, run.task.moving);
+  if (run.task.phase++ == 0) run.plant.axes.Stop(kStopFall, run.now_us, run.task.moving);
   run.task.arrival = {};
-  const bool rests = (run.task.moving & run.machine.axes.MovingMask()) == 0;
+  const bool rests = (run.task.moving & run.plant.axes.MovingMask()) == 0;
   return rests ? StepOutcome::Done() : StepOutcome::Waits();
 }
 

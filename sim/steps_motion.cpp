@@ -21,22 +21,20 @@ enum class Way { kAsStored, kAbsolute, kRelative };
 bool AreTaken(const StepRun& run, unsigned mask) {
   for (int axis = 0; axis < kAxes; ++axis) {
     if (!Has(mask, axis)) continue;
-    if (run.machine.axes.Moving(axis) || run.machine.control_digits[axis] == '1') return true;
+    if (run.plant.axes.Moving(axis) || run.plant.control_digits[axis] == '1') return true;
   }
   return false;
 }
 
 /// The axes that this step has set in motion rest.
-bool Arrived(const StepRun& run) {
-  return (run.task.step_axes & run.machine.axes.MovingMask()) == 0;
-}
+bool Arrived(const StepRun& run) { return (run.task.step_axes & run.plant.axes.MovingMask()) == 0; }
 
 /// What has begun to move is the step's.
 void Begun(StepRun& run, unsigned moving_before) {
-  const unsigned started = run.machine.axes.MovingMask() & ~moving_before;
+  const unsigned started = run.plant.axes.MovingMask() & ~moving_before;
   run.task.step_axes = started;
   run.task.moving |= started;
-  run.machine.NoteStart(
+  run.plant.NoteStart(
       moving_before,
       "program " + std::to_string(run.task.program) + " step " + std::to_string(run.task.at + 1),
       run.now_us);
@@ -44,7 +42,7 @@ void Begun(StepRun& run, unsigned moving_before) {
 
 /// Speed and rise that the program, its push settings and a position's own values make.
 AxisMove MoveTo(const StepRun& run, int axis, int to, int own_vel, double own_rise_s) {
-  const AxisSettings& settings = run.machine.settings[axis];
+  const AxisSettings& settings = run.plant.settings[axis];
   int vel = run.task.vel != 0 ? run.task.vel : own_vel;
   if (settings.push_force != 0 && settings.push_speed != 0) {
     vel = std::max(1, vel * settings.push_speed / kPercent);
@@ -58,12 +56,12 @@ StepOutcome Start(StepRun& run, const AxisMoves& moves) {
   for (int axis = 0; axis < kAxes; ++axis) mask |= moves[axis].moves ? 1U << axis : 0U;
   if (AreTaken(run, mask)) return StepOutcome::Waits();
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (moves[axis].moves && !run.machine.axes.Homed(axis)) {
+    if (moves[axis].moves && !run.plant.axes.Homed(axis)) {
       return AxisFails(axis, '0', error_code::kNotHomed);
     }
   }
-  const unsigned moving_before = run.machine.axes.MovingMask();
-  const auto refused = StartMoves(run.machine, moves, run.now_us);
+  const unsigned moving_before = run.plant.axes.MovingMask();
+  const auto refused = StartMoves(run.plant, moves, run.now_us);
   if (refused) return StepOutcome::Fails(*refused);
   ++run.task.phase;
   Begun(run, moving_before);
@@ -82,8 +80,8 @@ StepOutcome StartPosition(StepRun& run, int number, Way way) {
   AxisMoves moves;
   for (int axis = 0; axis < kAxes; ++axis) {
     const AxisTarget& target = record.axis[axis];
-    if (!run.machine.InUse(axis) || target.way == 0) continue;
-    const int to = Target(way, target, run.machine.axes.Pulses(axis, run.now_us));
+    if (!run.plant.InUse(axis) || target.way == 0) continue;
+    const int to = Target(way, target, run.plant.axes.Pulses(axis, run.now_us));
     moves[axis] = MoveTo(run, axis, to, target.vel, target.acc * kTenMilliseconds);
   }
   return Start(run, moves);
@@ -110,10 +108,11 @@ StepOutcome MoveAlong(StepRun& run) {
 StepOutcome MoveAside(StepRun& run) {
   const auto number = WholeNumber(run, run.step.op1, 1, kPositions);
   if (!number) return BadValue();
-  if (run.task.moving != 0) return StepOutcome::Waits();
+  if (run.task.aside != 0) return StepOutcome::Waits();
   const StepOutcome outcome = StartPosition(run, *number, Way::kAsStored);
   if (outcome.kind == StepOutcome::Kind::kAlarm || run.task.phase == 0) return outcome;
   if (Arrived(run)) return StepOutcome::Done();
+  run.task.aside = run.task.step_axes;
   run.task.arrival = run.step.result;
   return StepOutcome::Result(false);
 }
@@ -123,8 +122,8 @@ StepOutcome Home(StepRun& run) {
   if (!mask) return BadValue();
   if (run.task.phase > 0) return Arrived(run) ? StepOutcome::Done() : StepOutcome::Waits();
   if (AreTaken(run, *mask)) return StepOutcome::Waits();
-  const unsigned moving_before = run.machine.axes.MovingMask();
-  const auto refused = StartHoming(run.machine, *mask, run.now_us);
+  const unsigned moving_before = run.plant.axes.MovingMask();
+  const auto refused = StartHoming(run.plant, *mask, run.now_us);
   if (refused) return StepOutcome::Fails(*refused);
   ++run.task.phase;
   Begun(run, moving_before);
@@ -149,8 +148,8 @@ StepOutcome MoveToVariables(StepRun& run) {
   const auto mask = AxesOf(run);
   if (!mask) return BadValue();
   return MoveEach(run, *mask, [&run](int axis) {
-    return static_cast<int>(run.machine.ToPulses(
-        axis, run.machine.values.Thousandths(PositionVariable(axis), run.task.program)));
+    return static_cast<int>(run.plant.ToPulses(
+        axis, run.plant.values.Thousandths(PositionVariable(axis), run.task.program)));
   });
 }
 
@@ -159,25 +158,25 @@ StepOutcome MoveBack(StepRun& run) {
   const auto mask = AxesOf(run);
   if (!mask) return BadValue();
   for (int axis = 0; axis < kAxes; ++axis) {
-    if (Has(*mask, axis) && !run.machine.memory.HasPulseGenerator(axis)) {
+    if (Has(*mask, axis) && !run.plant.memory.HasPulseGenerator(axis)) {
       return AxisFails(axis, '1', error_code::kEncoder);
     }
   }
-  return MoveEach(run, *mask, [&run](int axis) { return run.machine.axes.Sent(axis); });
+  return MoveEach(run, *mask, [&run](int axis) { return run.plant.axes.Sent(axis); });
 }
 
 StepOutcome StartJog(StepRun& run, unsigned mask, bool to_home) {
   if (AreTaken(run, mask)) return StepOutcome::Waits();
-  const int mm_s = run.task.vel != 0 ? run.task.vel : run.machine.setup.jog_mm_s;
+  const int mm_s = run.task.vel != 0 ? run.task.vel : run.plant.setup.jog_mm_s;
   for (int axis = 0; axis < kAxes; ++axis) {
     if (!Has(mask, axis)) continue;
-    if (const auto refused = JogRefusal(run.machine, axis)) return StepOutcome::Fails(*refused);
-    if (run.machine.PulseSpeed(axis, mm_s) <= 0.0) return BadValue();
+    if (const auto refused = JogRefusal(run.plant, axis)) return StepOutcome::Fails(*refused);
+    if (run.plant.PulseSpeed(axis, mm_s) <= 0.0) return BadValue();
   }
-  const unsigned moving_before = run.machine.axes.MovingMask();
+  const unsigned moving_before = run.plant.axes.MovingMask();
   for (int axis = 0; axis < kAxes; ++axis) {
     if (Has(mask, axis)) {
-      JogAxis(run.machine, axis, to_home, run.machine.PulseSpeed(axis, mm_s), run.now_us);
+      JogAxis(run.plant, axis, to_home, run.plant.PulseSpeed(axis, mm_s), run.now_us);
     }
   }
   ++run.task.phase;
@@ -194,8 +193,8 @@ StepOutcome Jog(StepRun& run) {
   const RefKind kind = run.step.op2.kind;
   if (!mask) return BadValue();
   if (kind < RefKind::kInput || kind > RefKind::kLocalFlag) return BadStep();
-  if (run.task.phase < kBrakes && run.machine.values.IsOn(run.step.op2, run.task.program)) {
-    run.machine.axes.Stop(kStopFall, run.now_us, run.task.step_axes);
+  if (run.task.phase < kBrakes && run.plant.values.IsOn(run.step.op2, run.task.program)) {
+    run.plant.axes.Stop(kStopFall, run.now_us, run.task.step_axes);
     run.task.phase = kBrakes;
   }
   if (run.task.phase == 0) {

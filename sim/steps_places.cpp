@@ -37,31 +37,31 @@ StepOutcome PlaceOfPosition(StepRun& run) {
   if (!axis || !number) return BadValue();
   PositionRecord record = RecordOf(run, *number);
   AxisTarget& target = record.axis[*axis];
-  ProgramValues& values = run.machine.values;
+  ProgramValues& values = run.plant.values;
   const Operand variable = PositionVariable(*axis);
   if (!put) {
     const int pulses = target.way == 3 ? -target.pulses : target.pulses;
-    values.Store(variable, run.task.program, run.machine.ToThousandths(*axis, pulses));
+    values.Store(variable, run.task.program, run.plant.ToThousandths(*axis, pulses));
     return StepOutcome::Done();
   }
-  const auto pulses = run.machine.ToPulses(*axis, values.Thousandths(variable, run.task.program));
-  if (pulses < 0 || pulses > run.machine.memory.MaxPulses(*axis)) {
+  const auto pulses = run.plant.ToPulses(*axis, values.Thousandths(variable, run.task.program));
+  if (pulses < 0 || pulses > run.plant.memory.MaxPulses(*axis)) {
     return AxisFails(*axis, '0', error_code::kBeyondStroke);
   }
   target.way = 1;
   target.pulses = static_cast<int>(pulses);
-  Bank& positions = run.machine.memory.positions;
+  Bank& positions = run.plant.memory.positions;
   positions.Write(*number, EncodePosition(record));
-  if (run.machine.memory.StoresPput()) positions.Commit(*number, *number);
+  if (run.plant.memory.StoresPput()) positions.Commit(*number, *number);
   return StepOutcome::Done();
 }
 
 StepOutcome ReadPlace(StepRun& run) {
   const auto axis = AxisOf(run);
   if (!axis) return BadValue();
-  const int pulses = run.machine.axes.Pulses(*axis, run.now_us);
-  run.machine.values.Store(PositionVariable(*axis), run.task.program,
-                           run.machine.ToThousandths(*axis, pulses));
+  const int pulses = run.plant.axes.Pulses(*axis, run.now_us);
+  run.plant.values.Store(PositionVariable(*axis), run.task.program,
+                         run.plant.ToThousandths(*axis, pulses));
   return StepOutcome::Done();
 }
 
@@ -76,8 +76,8 @@ StepOutcome TestPlace(StepRun& run) {
   for (int axis = 0; axis < kAxes; ++axis) {
     if (!Has(*mask, axis) || record.axis[axis].way == 0) continue;
     if (record.axis[axis].way != 1) return BadValue();
-    const int off = run.machine.axes.Pulses(axis, run.now_us) - record.axis[axis].pulses;
-    there = there && std::abs(off) <= run.machine.memory.InPositionWidth(axis);
+    const int off = run.plant.axes.Pulses(axis, run.now_us) - record.axis[axis].pulses;
+    there = there && std::abs(off) <= run.plant.memory.InPositionWidth(axis);
   }
   return StepOutcome::Result(there);
 }
@@ -87,11 +87,11 @@ StepOutcome TestZone(StepRun& run) {
   const auto axis = AxisOf(run);
   const auto kind = WholeNumber(run, run.step.op2, 0, 2);
   if (!axis || !kind) return BadValue();
-  const Memory& memory = run.machine.memory;
-  const auto& set = run.machine.settings[*axis].zone;
+  const Memory& memory = run.plant.memory;
+  const auto& set = run.plant.settings[*axis].zone;
   const int first = set ? set->first : memory.ZoneBound(*axis, 1);
   const int second = set ? set->second : memory.ZoneBound(*axis, 2);
-  const int here = run.machine.axes.Pulses(*axis, run.now_us);
+  const int here = run.plant.axes.Pulses(*axis, run.now_us);
   const bool inside = here >= std::min(first, second) && here <= std::max(first, second);
   return StepOutcome::Result(*kind != 0 && inside == (*kind == 1));
 }
@@ -104,9 +104,8 @@ StepOutcome SetZone(StepRun& run) {
     return op.kind != RefKind::kNumber || op.value < 0 || op.value > kFarthest;
   };
   if (bad(run.step.op1) || bad(run.step.op2)) return BadValue();
-  run.machine.settings[axis].zone = {
-      static_cast<int>(run.machine.ToPulses(axis, run.step.op1.value)),
-      static_cast<int>(run.machine.ToPulses(axis, run.step.op2.value))};
+  run.plant.settings[axis].zone = {static_cast<int>(run.plant.ToPulses(axis, run.step.op1.value)),
+                                   static_cast<int>(run.plant.ToPulses(axis, run.step.op2.value))};
   return StepOutcome::Done();
 }
 
@@ -116,7 +115,7 @@ StepOutcome SetPush(StepRun& run) {
   const auto force = WholeNumber(run, run.step.op1, 0, kMostForce);
   const auto speed = WholeNumber(run, run.step.op2, 0, kPercent);
   if (!force || !speed || (*force != 0 && *force < kLeastForce)) return BadValue();
-  AxisSettings& settings = run.machine.settings[run.step.code - step_code::kPust1];
+  AxisSettings& settings = run.plant.settings[run.step.code - step_code::kPust1];
   settings.push_force = *force;
   settings.push_speed = *speed;
   return StepOutcome::Done();

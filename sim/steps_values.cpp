@@ -31,8 +31,8 @@ template <bool on>
 StepOutcome Switch(StepRun& run) {
   const auto& [op1, op2] = std::tie(run.step.op1, run.step.op2);
   if (!IsOutput(op1) || !(IsOutput(op2) || IsNothing(op2))) return BadStep();
-  run.machine.values.Switch(op1, run.task.program, on);
-  run.machine.values.Switch(op2, run.task.program, on);
+  run.plant.values.Switch(op1, run.task.program, on);
+  run.plant.values.Switch(op2, run.task.program, on);
   return StepOutcome::Done();
 }
 
@@ -40,7 +40,7 @@ int ReadBits(const StepRun& run, Operand first, int bits) {
   int value = 0;
   for (int bit = 0; bit < bits; ++bit) {
     const Operand signal{first.kind, first.value + bit};
-    if (run.machine.values.IsOn(signal, run.task.program)) value |= 1 << bit;
+    if (run.plant.values.IsOn(signal, run.task.program)) value |= 1 << bit;
   }
   return value;
 }
@@ -58,7 +58,7 @@ StepOutcome In(StepRun& run) {
   const int byte = ReadBits(run, run.step.op2, kByteBits);
   const int value = digits ? FromDigits(byte) : byte;
   if (value < 0) return BadValue();
-  run.machine.values.Store(run.step.op1, run.task.program, std::int64_t{value} * kThousand);
+  run.plant.values.Store(run.step.op1, run.task.program, std::int64_t{value} * kThousand);
   return StepOutcome::Done();
 }
 
@@ -70,8 +70,8 @@ StepOutcome Out(StepRun& run) {
   if (!value) return BadValue();
   const int byte = digits ? ToDigits(*value) : *value;
   for (int bit = 0; bit < kByteBits; ++bit) {
-    run.machine.values.Switch({first.kind, first.value + bit}, run.task.program,
-                              ((byte >> bit) & 1) != 0);
+    run.plant.values.Switch({first.kind, first.value + bit}, run.task.program,
+                            ((byte >> bit) & 1) != 0);
   }
   return StepOutcome::Done();
 }
@@ -128,7 +128,7 @@ bool TakesNumbers(const StepRun& run) {
 /// tells, or the alarm where there is none.
 StepOutcome Calculate(StepRun& run) {
   if (!TakesNumbers(run)) return BadStep();
-  ProgramValues& values = run.machine.values;
+  ProgramValues& values = run.plant.values;
   const int program = run.task.program;
   const auto value = Calculated(run.step.code, values.Thousandths(run.step.op1, program),
                                 values.Thousandths(run.step.op2, program));
@@ -138,7 +138,7 @@ StepOutcome Calculate(StepRun& run) {
 
 StepOutcome Compare(StepRun& run) {
   if (!TakesNumbers(run)) return BadStep();
-  const ProgramValues& values = run.machine.values;
+  const ProgramValues& values = run.plant.values;
   return StepOutcome::Result(Compares(run.step.code,
                                       values.Thousandths(run.step.op1, run.task.program),
                                       values.Thousandths(run.step.op2, run.task.program)));
@@ -150,7 +150,7 @@ StepOutcome Clear(StepRun& run) {
   const Operand& last = run.step.op2;
   if (!IsVariable(first) || first.kind != last.kind || first.value > last.value) return BadStep();
   for (int index = first.value; index <= last.value; ++index) {
-    run.machine.values.Store({first.kind, index}, run.task.program, 0);
+    run.plant.values.Store({first.kind, index}, run.task.program, 0);
   }
   return StepOutcome::Done();
 }

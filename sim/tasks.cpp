@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "sim/error_codes.h"
-#include "sim/machine.h"
 #include "sim/moves.h"
+#include "sim/plant.h"
 
 namespace qvr7sim {
 
@@ -32,7 +32,7 @@ LoadedProgram::LoadedProgram(const std::string& digits) : steps(DecodeProgram(di
   Index(steps, step_code::kSr, &subroutine_at);
 }
 
-Tasks::Started Tasks::Start(Machine& machine, int program, std::int64_t now_us) {
+Tasks::Started Tasks::Start(Plant& plant, int program, std::int64_t now_us) {
   if (std::optional<Task>* running = SlotOf(program)) {
     (*running)->resumed = true;
     Poke(now_us);
@@ -41,23 +41,23 @@ Tasks::Started Tasks::Start(Machine& machine, int program, std::int64_t now_us) 
   const auto slot =
       std::find_if(slots_.begin(), slots_.end(), [](const auto& s) { return !s.has_value(); });
   if (slot == slots_.end()) return Started::kNoRoom;
-  const std::string& digits = machine.memory.programs.Written(program);
-  machine.values.Local(program) = LocalValues();
-  if (!digits.empty()) slot->emplace(program, digits, now_us + machine.setup.step_us);
+  const std::string& digits = plant.memory.programs.Written(program);
+  plant.values.Local(program) = LocalValues();
+  if (!digits.empty()) slot->emplace(program, digits, now_us + plant.setup.step_us);
   return Started::kNow;
 }
 
-bool Tasks::Stop(Machine& machine, int program, std::int64_t now_us) {
+bool Tasks::Stop(Plant& plant, int program, std::int64_t now_us) {
   std::optional<Task>* slot = SlotOf(program);
   if (slot == nullptr) return false;
-  machine.axes.Stop(kStopFall, now_us, (*slot)->moving);
+  plant.axes.Stop(kStopFall, now_us, (*slot)->moving);
   slot->reset();
   return true;
 }
 
-void Tasks::StopAll(Machine& machine, std::int64_t now_us) {
+void Tasks::StopAll(Plant& plant, std::int64_t now_us) {
   for (std::optional<Task>& slot : slots_) {
-    if (slot) Stop(machine, slot->program, now_us);
+    if (slot) Stop(plant, slot->program, now_us);
   }
 }
 
@@ -76,32 +76,38 @@ std::optional<std::int64_t> Tasks::NextUs() const {
   return next;
 }
 
-void Tasks::Run(Machine& machine, std::int64_t now_us) {
+std::optional<Alarm> Tasks::Run(Plant& plant, std::int64_t now_us) {
   const std::int64_t done_before = steps_done_;
   bool waits = false;
   if (poke_us_ && *poke_us_ <= now_us) poke_us_.reset();
   for (std::optional<Task>& slot : slots_) {
+    if (slot && slot->moving != 0) SeeArrival(plant, *slot);
+  }
+  for (std::optional<Task>& slot : slots_) {
     if (!slot) continue;
-    if (slot->moving != 0) SeeArrival(machine, *slot);
-    if (slot->waiting || slot->ready_us <= now_us) RunStep(machine, slot, now_us);
+    const bool due = slot->waiting || slot->ready_us <= now_us;
+    const auto failed = due ? RunStep(plant, slot, now_us) : std::nullopt;
+    if (failed) return failed;
     waits = waits || (slot && slot->waiting);
   }
   // What a step has changed is seen by those that wait when the next steps run.
-  if (waits && steps_done_ != done_before && !poke_us_) poke_us_ = now_us + machine.setup.step_us;
+  if (waits && steps_done_ != done_before && !poke_us_) poke_us_ = now_us + plant.setup.step_us;
+  return std::nullopt;
 }
 
-void Tasks::SeeArrival(Machine& machine, Task& task) {
-  task.moving &= machine.axes.MovingMask();
-  if (task.moving != 0) return;
-  machine.values.Switch(task.arrival, task.program, true);
+void Tasks::SeeArrival(Plant& plant, Task& task) {
+  task.moving &= plant.axes.MovingMask();
+  if (task.aside == 0 || (task.aside & task.moving) != 0) return;
+  task.aside = 0;
+  plant.values.Switch(task.arrival, task.program, true);
   task.arrival = {};
 }
 
-void Tasks::RunStep(Machine& machine, std::optional<Task>& slot, std::int64_t now_us) {
+std::optional<Alarm> Tasks::RunStep(Plant& plant, std::optional<Task>& slot, std::int64_t now_us) {
   Task& task = *slot;
   if (task.AtEnd()) {
     if (task.moving == 0) slot.reset();
-    return;
+    return std::nullopt;
   }
   const ProgramStep& step = task.Step();
   if (!task.waiting) {
@@ -115,43 +121,47 @@ void Tasks::RunStep(Machine& machine, std::optional<Task>& slot, std::int64_t no
   const StepCommand command = FindStepCommand(step.code);
   const bool bad = command == nullptr || step.condition.kind == RefKind::kBad ||
                    step.result.kind == RefKind::kBad;
-  if (bad) return Finish(machine, slot, StepOutcome::Fails(error_code::kProgramStep), now_us);
+  if (bad) return Finish(plant, slot, StepOutcome::Fails(error_code::kProgramStep), now_us);
   const bool skipped = !task.waiting && step.HasCondition() &&
-                       machine.values.IsOn(step.condition, task.program) == step.negated;
-  if (skipped) return GoOn(machine, slot, now_us);
-  StepRun run{machine, task, step, now_us};
-  Finish(machine, slot, command(run), now_us);
+                       plant.values.IsOn(step.condition, task.program) == step.negated;
+  if (skipped) {
+    GoOn(plant, slot, now_us);
+    return std::nullopt;
+  }
+  StepRun run{*this, plant, task, step, now_us};
+  return Finish(plant, slot, command(run), now_us);
 }
 
-void Tasks::Finish(Machine& machine, std::optional<Task>& slot, const StepOutcome& outcome,
-                   std::int64_t now_us) {
+std::optional<Alarm> Tasks::Finish(Plant& plant, std::optional<Task>& slot,
+                                   const StepOutcome& outcome, std::int64_t now_us) {
   Task& task = *slot;
   const Operand& result = task.Step().result;
   switch (outcome.kind) {
     case StepOutcome::Kind::kWaits:
-      if (!task.waiting) machine.values.Switch(result, task.program, false);
+      if (!task.waiting) plant.values.Switch(result, task.program, false);
       task.waiting = true;
-      return;
+      return std::nullopt;
     case StepOutcome::Kind::kEnds:
       task.next = static_cast<int>(task.code.steps.size());
-      return GoOn(machine, slot, now_us);
+      break;
     case StepOutcome::Kind::kAlarm:
-      machine.failed_step = {task.program, task.at + 1};
-      return machine.Raise(outcome.alarm, now_us);  // which drops the task
+      plant.failed_step = {task.program, task.at + 1};
+      return outcome.alarm;
     case StepOutcome::Kind::kDone:
     case StepOutcome::Kind::kFailed:
-      machine.values.Switch(result, task.program, outcome.kind == StepOutcome::Kind::kDone);
-      GoOn(machine, slot, now_us);
+      plant.values.Switch(result, task.program, outcome.kind == StepOutcome::Kind::kDone);
   }
+  GoOn(plant, slot, now_us);
+  return std::nullopt;
 }
 
-void Tasks::GoOn(Machine& machine, std::optional<Task>& slot, std::int64_t now_us) {
+void Tasks::GoOn(Plant& plant, std::optional<Task>& slot, std::int64_t now_us) {
   Task& task = *slot;
   ++steps_done_;
   task.at = task.next;
   task.waiting = task.AtEnd();
   task.wake_us.reset();
-  task.ready_us = now_us + machine.setup.step_us;
+  task.ready_us = now_us + plant.setup.step_us;
   if (task.AtEnd() && task.moving == 0) slot.reset();
 }
 

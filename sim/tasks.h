@@ -6,13 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "sim/faults.h"
+#include "sim/plant.h"
 #include "sim/program_step.h"
-#include "sim/setup.h"
 
 namespace qvr7sim {
-
-struct Machine;
 
 inline constexpr int kTasks = 10;        ///< Programs that run at once.
 inline constexpr int kCallDepth = 8;     ///< Calls within calls.
@@ -51,13 +48,17 @@ struct Task {
   int vel = 0;                          ///< mm/s; 0: each position's own
   double rise_s = 0.0;                  ///< 0: each position's own
   unsigned step_axes = 0;               ///< Axes that the step has set in motion last.
-  unsigned moving = 0;  ///< Axes that it has set in motion and not seen at rest since.
-  Operand arrival;      ///< Goes on when they rest, where it is an output or flag.
+  unsigned moving = 0;  ///< Axes that the task has set in motion and not seen at rest since.
+  unsigned aside = 0;   ///< Those of them that move while the program goes on.
+  Operand arrival;      ///< Goes on when `aside` rests, where it is an output or flag.
 };
+
+class Tasks;
 
 /// A step and all that it may touch.
 struct StepRun {
-  Machine& machine;
+  Tasks& tasks;
+  Plant& plant;
   Task& task;
   const ProgramStep& step;
   std::int64_t now_us;
@@ -96,10 +97,10 @@ class Tasks {
 
   /// Starts a program at its first step, or lets it go on behind a pause. One without steps has
   /// ended at once.
-  Started Start(Machine& machine, int program, std::int64_t now_us);
+  Started Start(Plant& plant, int program, std::int64_t now_us);
   /// Ends a program; axes that it moves brake. False where it does not run.
-  bool Stop(Machine& machine, int program, std::int64_t now_us);
-  void StopAll(Machine& machine, std::int64_t now_us);
+  bool Stop(Plant& plant, int program, std::int64_t now_us);
+  void StopAll(Plant& plant, std::int64_t now_us);
   /// All tasks are gone; what the axes do is not theirs any more.
   void Drop();
 
@@ -107,8 +108,9 @@ class Tasks {
   std::optional<std::int64_t> NextUs() const;
   /// Something may have happened that a step waits for.
   void Poke(std::int64_t now_us) { poke_us_ = Count() > 0 ? std::optional(now_us) : std::nullopt; }
-  /// Carries out the steps that are due, one of each task.
-  void Run(Machine& machine, std::int64_t now_us);
+  /// Carries out the steps that are due, one of each task, up to one that fails: with its alarm all
+  /// tasks have to go.
+  std::optional<Alarm> Run(Plant& plant, std::int64_t now_us);
 
   /// The task of a slot from 0, null where none runs.
   const Task* Slot(int slot) const { return slots_[slot] ? &*slots_[slot] : nullptr; }
@@ -120,11 +122,11 @@ class Tasks {
 
  private:
   using Slots = std::array<std::optional<Task>, kTasks>;
-  void RunStep(Machine& machine, std::optional<Task>& slot, std::int64_t now_us);
-  void Finish(Machine& machine, std::optional<Task>& slot, const StepOutcome& outcome,
-              std::int64_t now_us);
-  void GoOn(Machine& machine, std::optional<Task>& slot, std::int64_t now_us);
-  void SeeArrival(Machine& machine, Task& task);
+  std::optional<Alarm> RunStep(Plant& plant, std::optional<Task>& slot, std::int64_t now_us);
+  std::optional<Alarm> Finish(Plant& plant, std::optional<Task>& slot, const StepOutcome& outcome,
+                              std::int64_t now_us);
+  void GoOn(Plant& plant, std::optional<Task>& slot, std::int64_t now_us);
+  void SeeArrival(Plant& plant, Task& task);
   std::optional<Task>* SlotOf(int program);
 
   Slots slots_;

@@ -5,6 +5,8 @@
 #include "sim/input_script.h"
 #include "sim/parse.h"
 #include "sim/program_text.h"
+#include "sim/random.h"
+#include "sim/text.h"
 #include "tests/sim/exchange.h"
 
 namespace qvr7sim {
@@ -24,7 +26,7 @@ std::string Assemble(const std::string& text) {
   return digits;
 }
 
-/// Program mode, homed axes; positions 50 to 53 by axis 1, 54 by axes 1 and 2.
+/// Program mode, homed axes; positions 50 to 53 by axis 1, 54 by axes 1 and 2, 55 by 2.
 qvr7sim::Setup ProgramSetup() {
   qvr7sim::Setup setup = qvr7sim::Setup::Useful();
   setup.mode = Mode::kProgram;
@@ -38,6 +40,7 @@ qvr7sim::Setup ProgramSetup() {
   place(53, 0, 1, 20001);
   place(54, 0, 1, 1000);
   place(54, 1, 1, 4000);
+  place(55, 1, 1, 4000);
   return setup;
 }
 
@@ -140,6 +143,8 @@ TEST(Program, EveryCommandDoesWhatTheTableOfMeaningsSays) {
       {"PMOV,51,,,F1 ON,O1 WTON,F1 ON,O2", 200, "O1=1 O2=0 F1=0 T=1"},
       {"PMOV,51,,,F1 ON,O1 WTON,F1 ON,O2", 330, "A1=2000 O2=1 F1=1 T=0"},
       {"PMOV,51,,,F1", 200, "T=1"},
+      {"PMOV,51,,,F1 MVP,55 ON,O1", 400, "F1=1 O1=0"},
+      {"STPG,2 WTON,F8 ON,O1", 400, "O1=1"},
       {"PMOV,51,,,F1 TIM,0.1 STOP,,,,F2 ON,O1", 500, "A1=770 F1=0 F2=1 O1=1"},
       {"MVP,54 HOME,2 CPRD,2", 5500, "A1=1000 A2=0 PR2=0 T=0"},
       {"JOG+,1,I1,,F1 ON,O1", 1200, "A1=5800 F1=1 O1=1", "1000 1 1"},
@@ -155,7 +160,7 @@ TEST(Program, EveryCommandDoesWhatTheTableOfMeaningsSays) {
     std::string error;
     setup.inputs = ParseInputScript(row.inputs, &error).value();
     setup.programs[1] = Assemble(row.program);
-    setup.programs[2] = Assemble("ON,F9 TIM,9");
+    setup.programs[2] = Assemble("ON,F9 PMOV,51,,,F8 TIM,9");
     Exchange pc(setup);
     EXPECT_EQ(pc.Ask("0DM01"), "0DM");
     pc.now_us = row.wait_ms * 1000;
@@ -216,6 +221,28 @@ TEST(Program, AHandsPushIsMadeGood) {
   EXPECT_EQ(Facts(pc, "A2 O1 T"), "A2=3500 O1=0 T=1");
   Talk(pc, "0CM00000>0CM00000 0DM01>0DM +1000");
   EXPECT_EQ(Facts(pc, "A2 O1 T"), "A2=4000 O1=1 T=0");
+}
+
+TEST(Program, AnyStepsEndInAnAlarmOrGoOn) {
+  const char* operands[] = {"000000", "0003E8", "0007D0", "3FF001", "3FF015", "3FF064",
+                            "3FF12C", "3FF190", "3FF1F5", "3FF000", "FFFFFF", "200001"};
+  Random random(10);
+  qvr7sim::Setup setup = ProgramSetup();
+  setup.paced = false;
+  Exchange pc(setup);
+  for (int round = 0; round < 2000; ++round) {
+    std::string steps;
+    for (int step = 0; step < 4; ++step) {
+      steps += Hex(static_cast<unsigned>(random.Below(59)), 2) + operands[random.Below(12)] +
+               operands[random.Below(12)] + Hex(random.Chance(0.5) ? 0U : 1U, 3) +
+               Hex(random.Chance(0.5) ? 0U : 100U, 2);
+    }
+    pc.Ask("0AR");
+    Talk(pc, "0PN>0PN +100 0WM01" + steps + ">0WM01 0DM01>0DM +300 0AR>0AR");
+    const AxisState axis = pc.Axis(1);
+    ASSERT_TRUE(axis.pulses >= 0 && axis.pulses <= axis.max_pulses) << steps;
+  }
+  EXPECT_GT(pc.controller.StepsDone(), 2000);
 }
 
 TEST(Program, TheSamplesDoWhatTheySay) {
