@@ -74,7 +74,8 @@ std::string SetInput(const Words& words, Controller* controller, std::int64_t no
   return "ok input " + words[1] + " " + words[2];
 }
 
-/// " tasks=3:12,5:1 out=1,4": programs with their step, and the outputs that are on.
+/// " tasks=3:12,5:1 out=1,4 failed=2:7": programs with their step, the outputs that are on, and the
+/// step that the last alarm came from.
 std::string ProgramStatus(const Controller& controller, std::int64_t now_us) {
   std::string tasks, outputs;
   for (const auto& [program, step] : controller.RunningSteps(now_us)) {
@@ -85,8 +86,11 @@ std::string ProgramStatus(const Controller& controller, std::int64_t now_us) {
     if (!controller.Values(now_us).IsOn({RefKind::kOutput, output}, 0)) continue;
     outputs += (outputs.empty() ? "" : ",") + std::to_string(output);
   }
-  return " tasks=" + (tasks.empty() ? "none" : tasks) +
-         " out=" + (outputs.empty() ? "none" : outputs);
+  std::string text = " tasks=" + (tasks.empty() ? "none" : tasks);
+  text += " out=" + (outputs.empty() ? "none" : outputs);
+  const auto [program, step] = controller.FailedStep();
+  if (program != 0) text += " failed=" + std::to_string(program) + ":" + std::to_string(step);
+  return text;
 }
 
 std::string Status(const Controller& controller, std::int64_t now_us) {

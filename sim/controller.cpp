@@ -266,9 +266,6 @@ std::array<std::pair<int, int>, kTasks> Controller::RunningSteps(std::int64_t no
 
 std::int64_t Controller::StepsDone() const { return impl_->machine.tasks.StepsDone(); }
 std::pair<int, int> Controller::FailedStep() const { return impl_->machine.failed_step; }
-const AxisSettings& Controller::Settings(int axis) const {
-  return impl_->machine.settings[axis - 1];
-}
 
 const std::string& Controller::WrittenPosition(int number) const {
   return impl_->machine.memory.positions.Written(number);

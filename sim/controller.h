@@ -10,7 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include "sim/axis_settings.h"
 #include "sim/error_codes.h"
 #include "sim/faults.h"
 #include "sim/motion_start.h"
@@ -99,10 +98,8 @@ class Controller {
   std::array<std::pair<int, int>, kTasks> RunningSteps(std::int64_t now_us) const;
   /// Program steps carried out since the start.
   std::int64_t StepsDone() const;
-  /// Program and step (from 1) that the last alarm of a program came from.
+  /// Program and step (from 1) that the last alarm came from, 0 where it was none.
   std::pair<int, int> FailedStep() const;
-  /// What programs have set for axis 1 to 4.
-  const AxisSettings& Settings(int axis) const;
 
   /// Digits behind the number in "0RP" (60), for 1 to 999.
   const std::string& WrittenPosition(int number) const;

@@ -80,7 +80,10 @@ void Machine::Settle(std::int64_t now_us) {
       if (input.at_us > at_us) break;
       SetInput(input.input, input.on, at_us);
     }
-    if (const auto failed = tasks.Run(*this, at_us)) Raise(*failed, at_us);
+    if (const auto failed = tasks.Run(*this, at_us)) {
+      Raise(failed->alarm, at_us);
+      failed_step = {failed->program, failed->step};
+    }
   }
 }
 
@@ -88,6 +91,7 @@ void Machine::Raise(const Alarm& raised, std::int64_t now_us) {
   axes.Halt(now_us);
   tasks.Drop();
   alarm = raised;
+  failed_step = {};
 }
 
 void Machine::SetInput(int number, bool on, std::int64_t now_us) {

@@ -50,7 +50,7 @@ struct Plant {
   std::array<std::int64_t, kAxes> travelled_at_stop{};
   ProgramValues values;
   std::array<AxisSettings, kAxes> settings;
-  std::pair<int, int> failed_step{};  ///< program and step (from 1) of the last program alarm
+  std::pair<int, int> failed_step{};  ///< program and step (from 1) that the last alarm came from
 };
 
 }  // namespace qvr7sim

@@ -67,8 +67,6 @@ std::vector<std::string> Fields(std::string_view text) {
 
 }  // namespace
 
-std::string_view StepName(int code) { return kNames[code]; }
-
 std::optional<std::string> AssembleStep(const StepCells& cells) {
   constexpr int kThousandths = 1000, kHundredths = 100;
   int code = 0;

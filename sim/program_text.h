@@ -7,11 +7,9 @@
 
 namespace qvr7sim {
 
-/// Command, two operations, condition and result as they are typed.
+/// Command (a name of our sample list), two operations, condition and result as they are typed.
 using StepCells = std::array<std::string, 5>;
 
-/// The name of a command, by its code; as in our sample list.
-std::string_view StepName(int code);
 /// The step's 19 digits; none when a cell is not understood.
 std::optional<std::string> AssembleStep(const StepCells& cells);
 /// All steps of a program file; none, with what is wrong, when it is no program.

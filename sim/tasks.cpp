@@ -76,7 +76,7 @@ std::optional<std::int64_t> Tasks::NextUs() const {
   return next;
 }
 
-std::optional<Alarm> Tasks::Run(Plant& plant, std::int64_t now_us) {
+std::optional<StepFailure> Tasks::Run(Plant& plant, std::int64_t now_us) {
   const std::int64_t done_before = steps_done_;
   bool waits = false;
   if (poke_us_ && *poke_us_ <= now_us) poke_us_.reset();
@@ -103,7 +103,8 @@ void Tasks::SeeArrival(Plant& plant, Task& task) {
   task.arrival = {};
 }
 
-std::optional<Alarm> Tasks::RunStep(Plant& plant, std::optional<Task>& slot, std::int64_t now_us) {
+std::optional<StepFailure> Tasks::RunStep(Plant& plant, std::optional<Task>& slot,
+                                          std::int64_t now_us) {
   Task& task = *slot;
   if (task.AtEnd()) {
     if (task.moving == 0) slot.reset();
@@ -132,8 +133,8 @@ std::optional<Alarm> Tasks::RunStep(Plant& plant, std::optional<Task>& slot, std
   return Finish(plant, slot, command(run), now_us);
 }
 
-std::optional<Alarm> Tasks::Finish(Plant& plant, std::optional<Task>& slot,
-                                   const StepOutcome& outcome, std::int64_t now_us) {
+std::optional<StepFailure> Tasks::Finish(Plant& plant, std::optional<Task>& slot,
+                                         const StepOutcome& outcome, std::int64_t now_us) {
   Task& task = *slot;
   const Operand& result = task.Step().result;
   switch (outcome.kind) {
@@ -145,8 +146,7 @@ std::optional<Alarm> Tasks::Finish(Plant& plant, std::optional<Task>& slot,
       task.next = static_cast<int>(task.code.steps.size());
       break;
     case StepOutcome::Kind::kAlarm:
-      plant.failed_step = {task.program, task.at + 1};
-      return outcome.alarm;
+      return StepFailure{outcome.alarm, task.program, task.at + 1};
     case StepOutcome::Kind::kDone:
     case StepOutcome::Kind::kFailed:
       plant.values.Switch(result, task.program, outcome.kind == StepOutcome::Kind::kDone);

@@ -90,6 +90,13 @@ using StepCommand = StepOutcome (*)(StepRun& run);
 /// The command of a code, null for a code that there is not.
 StepCommand FindStepCommand(int code);
 
+/// A step that ended its program with an alarm.
+struct StepFailure {
+  Alarm alarm;
+  int program = 0;
+  int step = 0;  ///< from 1
+};
+
 /// The programs that run, each in a slot of its own.
 class Tasks {
  public:
@@ -110,7 +117,7 @@ class Tasks {
   void Poke(std::int64_t now_us) { poke_us_ = Count() > 0 ? std::optional(now_us) : std::nullopt; }
   /// Carries out the steps that are due, one of each task, up to one that fails: with its alarm all
   /// tasks have to go.
-  std::optional<Alarm> Run(Plant& plant, std::int64_t now_us);
+  std::optional<StepFailure> Run(Plant& plant, std::int64_t now_us);
 
   /// The task of a slot from 0, null where none runs.
   const Task* Slot(int slot) const { return slots_[slot] ? &*slots_[slot] : nullptr; }
@@ -122,9 +129,9 @@ class Tasks {
 
  private:
   using Slots = std::array<std::optional<Task>, kTasks>;
-  std::optional<Alarm> RunStep(Plant& plant, std::optional<Task>& slot, std::int64_t now_us);
-  std::optional<Alarm> Finish(Plant& plant, std::optional<Task>& slot, const StepOutcome& outcome,
-                              std::int64_t now_us);
+  std::optional<StepFailure> RunStep(Plant& plant, std::optional<Task>& slot, std::int64_t now_us);
+  std::optional<StepFailure> Finish(Plant& plant, std::optional<Task>& slot,
+                                    const StepOutcome& outcome, std::int64_t now_us);
   void GoOn(Plant& plant, std::optional<Task>& slot, std::int64_t now_us);
   void SeeArrival(Plant& plant, Task& task);
   std::optional<Task>* SlotOf(int program);
