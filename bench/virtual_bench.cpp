@@ -18,7 +18,9 @@
 #include "platform/doors.h"
 #include "posi/posi_check.h"
 #include "posi/posi_table.h"
+#include "sim/program_text.h"
 #include "sim/setup.h"
+#include "sim/tasks.h"
 #include "tests/support/virtual_doors.h"
 
 namespace tr7bench {
@@ -152,6 +154,22 @@ void MoveOn(Desk& desk) {
   Report("move_step_overhead_ms", Median(waits_ms), 1);
 }
 
+/// Ten programs that calculate and jump, on virtual time.
+void ProgramSteps() {
+  constexpr std::int64_t kVirtualUs = 100'000'000;
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.mode = qvr7sim::Mode::kProgram;
+  setup.running_tasks = qvr7sim::kTasks;
+  const qvr7sim::StepCells steps[] = {
+      {"LB", "1"}, {"+", "r1", "1"}, {"==", "r1", "R1", "", "f1"}, {"%", "r1", "7"}, {"JUMP", "1"}};
+  for (int program = 1; program <= qvr7sim::kTasks; ++program) {
+    for (const auto& step : steps) setup.programs[program] += *qvr7sim::AssembleStep(step);
+  }
+  qvr7sim::Controller controller(setup);
+  const double ms = MsOf([&controller] { controller.Values(kVirtualUs); });
+  Report("sim_steps_per_s", static_cast<double>(controller.StepsDone()) * 1000 / ms, 0);
+}
+
 }  // namespace
 }  // namespace tr7bench
 
@@ -162,4 +180,5 @@ int main() {
   tr7bench::Write(desk);
   tr7bench::MoveOn(desk);
   tr7bench::OtherKinds(desk);
+  tr7bench::ProgramSteps();
 }

@@ -62,6 +62,7 @@ std::int64_t Motion::EndUs() const {
 void Axes::State::RestAt(int here) {
   if (motion) travelled += std::abs(here - motion->from);
   pulses = here;
+  sent = here;
   motion.reset();
   trip.reset();
 }
@@ -151,9 +152,10 @@ void Axes::Home(int axis, double speed, std::int64_t search_us, std::int64_t now
   state.motion->after_us = search_us;
 }
 
-void Axes::Stop(double fall_s, std::int64_t now_us) {
-  for (State& state : states_) {
-    if (!state.motion) continue;
+void Axes::Stop(double fall_s, std::int64_t now_us, unsigned mask) {
+  for (int axis = 0; axis < kAxes; ++axis) {
+    State& state = At(axis);
+    if (!state.motion || ((mask >> axis) & 1U) == 0) continue;
     const Motion motion = *state.motion;
     const int here = motion.PulsesAt(now_us);
     const double speed = motion.SpeedAt(now_us);
@@ -180,6 +182,7 @@ void Axes::Place(int axis, int pulses) {
   if (state.motion) state.RestAt(state.motion->from);
   state.homing = false;
   state.pulses = pulses;
+  state.sent = pulses;
 }
 
 void Axes::LoseHome() {

@@ -53,12 +53,17 @@ class Axes {
   /// The axes of a command count as moving for this time behind their last one's arrival.
   void Linger(unsigned mask, std::int64_t time_us, std::int64_t now_us);
   void Home(int axis, double speed, std::int64_t search_us, std::int64_t now_us);
-  /// Brakes every moving axis within `fall_s`; a homing given up leaves the axis without a home.
-  void Stop(double fall_s, std::int64_t now_us);
+  /// Brakes the moving axes of the mask within `fall_s`; a homing given up leaves the axis without
+  /// a home.
+  void Stop(double fall_s, std::int64_t now_us, unsigned mask = ~0U);
   /// All axes stand at once.
   void Halt(std::int64_t now_us);
   /// The axis stands at `pulses`, whatever it did.
   void Place(int axis, int pulses);
+  /// A hand moves the standing slide: where it was sent stays known.
+  void Shift(int axis, int pulses) { At(axis).pulses += pulses; }
+  /// Where its last motion ended, whatever a hand has done since.
+  int Sent(int axis) const { return At(axis).sent; }
   void LoseHome();
   void SetHomed(int axis) { At(axis).homed = true; }
   void FailNextHoming(int axis) { At(axis).fail_homing = true; }
@@ -75,6 +80,7 @@ class Axes {
  private:
   struct State {
     int pulses = 0;
+    int sent = 0;
     bool homed = false;
     bool homing = false;
     bool fail_homing = false;

@@ -67,6 +67,32 @@ std::string LoseServo(const Words& words, Controller* controller, std::int64_t n
   return "ok lose-servo " + words[1];
 }
 
+std::string SetInput(const Words& words, Controller* controller, std::int64_t now_us) {
+  const auto input = words.size() == 3 ? ParseNumber(words[1], 1, kInputs) : std::nullopt;
+  if (!input || (words[2] != "on" && words[2] != "off")) return "error input INPUT on|off, 1 to 18";
+  controller->SetInput(static_cast<int>(*input), words[2] == "on", now_us);
+  return "ok input " + words[1] + " " + words[2];
+}
+
+/// " tasks=3:12,5:1 out=1,4 failed=2:7": programs with their step, the outputs that are on, and the
+/// step that the last alarm came from.
+std::string ProgramStatus(const Controller& controller, std::int64_t now_us) {
+  std::string tasks, outputs;
+  for (const auto& [program, step] : controller.RunningSteps(now_us)) {
+    if (program == 0) continue;
+    tasks += (tasks.empty() ? "" : ",") + std::to_string(program) + ":" + std::to_string(step);
+  }
+  for (int output = 1; output <= kOutputs; ++output) {
+    if (!controller.Values(now_us).IsOn({RefKind::kOutput, output}, 0)) continue;
+    outputs += (outputs.empty() ? "" : ",") + std::to_string(output);
+  }
+  std::string text = " tasks=" + (tasks.empty() ? "none" : tasks);
+  text += " out=" + (outputs.empty() ? "none" : outputs);
+  const auto [program, step] = controller.FailedStep();
+  if (program != 0) text += " failed=" + std::to_string(program) + ":" + std::to_string(step);
+  return text;
+}
+
 std::string Status(const Controller& controller, std::int64_t now_us) {
   std::string text = "ok mode=";
   text += controller.RunningMode() == Mode::kProgram ? "prg" : "pos";
@@ -82,7 +108,7 @@ std::string Status(const Controller& controller, std::int64_t now_us) {
     if (axis.homed) text += ",homed";
     if (!axis.servo_on) text += ",servo-off";
   }
-  return text;
+  return text + ProgramStatus(controller, now_us);
 }
 
 }  // namespace
@@ -98,6 +124,7 @@ std::string RunCommand(std::string_view line, Controller* controller, std::int64
   if (name == "fail-homing") return FailHoming(words, controller);
   if (name == "place") return Place(words, controller, now_us);
   if (name == "push") return Push(words, controller, now_us);
+  if (name == "input") return SetInput(words, controller, now_us);
   if (name == "lose-servo") return LoseServo(words, controller, now_us);
   if (name == "faults" && words.size() == 2 && words[1] == "off") {
     controller->ClearFaults();

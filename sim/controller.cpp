@@ -240,6 +240,33 @@ std::optional<std::int64_t> Controller::NextRestUs() const {
   return impl_->machine.axes.NextRestUs();
 }
 
+std::optional<std::int64_t> Controller::NextInsideUs() const {
+  return impl_->machine.NextInsideUs();
+}
+
+void Controller::SetInput(int number, bool on, std::int64_t now_us) {
+  impl_->Advance(now_us);
+  impl_->machine.SetInput(number, on, now_us);
+}
+
+const ProgramValues& Controller::Values(std::int64_t now_us) const {
+  impl_->Advance(now_us);
+  return impl_->machine.values;
+}
+
+std::array<std::pair<int, int>, kTasks> Controller::RunningSteps(std::int64_t now_us) const {
+  impl_->Advance(now_us);
+  std::array<std::pair<int, int>, kTasks> steps{};
+  for (int slot = 0; slot < kTasks; ++slot) {
+    const Task* task = impl_->machine.tasks.Slot(slot);
+    if (task != nullptr) steps[slot] = {task->program, task->at + 1};
+  }
+  return steps;
+}
+
+std::int64_t Controller::StepsDone() const { return impl_->machine.tasks.StepsDone(); }
+std::pair<int, int> Controller::FailedStep() const { return impl_->machine.failed_step; }
+
 const std::string& Controller::WrittenPosition(int number) const {
   return impl_->machine.memory.positions.Written(number);
 }
@@ -271,13 +298,18 @@ const std::string& Controller::CommittedSystemBlock(int block) const {
   return impl_->machine.memory.system.Committed(block);
 }
 
+const std::string& Controller::WrittenProgram(int number) const {
+  return impl_->machine.memory.programs.Written(number);
+}
+const std::string& Controller::CommittedProgram(int number) const {
+  return impl_->machine.memory.programs.Committed(number);
+}
+
 std::vector<std::string> Controller::Cells(std::string_view write_frame, bool committed) const {
   const Memory& memory = impl_->machine.memory;
-  const std::tuple<std::string_view, const Bank&, int> families[] = {{"0WP", memory.positions, 1},
-                                                                     {"0WD", memory.blocks, 0},
-                                                                     {"0WG", memory.groups, 1},
-                                                                     {"0WS", memory.macros, 1},
-                                                                     {"0WK", memory.system, 0}};
+  const std::tuple<std::string_view, const Bank&, int> families[] = {
+      {"0WP", memory.positions, 1}, {"0WD", memory.blocks, 0}, {"0WG", memory.groups, 1},
+      {"0WS", memory.macros, 1},    {"0WK", memory.system, 0}, {"0WM", memory.programs, 1}};
   std::vector<std::string> cells;
   for (const auto& [name, bank, first] : families) {
     for (int cell = first; name == write_frame && cell < bank.size(); ++cell) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <memory>
@@ -12,7 +13,9 @@
 #include "sim/error_codes.h"
 #include "sim/faults.h"
 #include "sim/motion_start.h"
+#include "sim/program_values.h"
 #include "sim/setup.h"
+#include "sim/tasks.h"
 
 namespace qvr7sim {
 
@@ -85,6 +88,19 @@ class Controller {
   const std::deque<MotionStart>& MotionStarts() const;
   /// When an axis will come to rest by itself, the next one that does.
   std::optional<std::int64_t> NextRestUs() const;
+  /// When an axis comes to rest, an input changes or a program does a step, the next of them.
+  std::optional<std::int64_t> NextInsideUs() const;
+
+  /// Switches input 1 to 18 of the programs, as a person at the machine would.
+  void SetInput(int number, bool on, std::int64_t now_us);
+  /// Inputs, outputs, flags and variables at `now_us`.
+  const ProgramValues& Values(std::int64_t now_us) const;
+  /// Program and step (from 1) of each slot, 0 where none runs.
+  std::array<std::pair<int, int>, kTasks> RunningSteps(std::int64_t now_us) const;
+  /// Program steps carried out since the start.
+  std::int64_t StepsDone() const;
+  /// Program and step (from 1) that the last alarm came from, 0 where it was none.
+  std::pair<int, int> FailedStep() const;
 
   /// Digits behind the number in "0RP" (60), for 1 to 999.
   const std::string& WrittenPosition(int number) const;
@@ -102,8 +118,12 @@ class Controller {
   const std::string& WrittenSystemBlock(int block) const;
   const std::string& CommittedSystemBlock(int block) const;
 
-  /// All cells of the family that a frame writes ("0WP", "0WD", "0WG", "0WS", "0WK"), in rising
-  /// order and as they lie on the line. Empty for other frames.
+  /// The steps' digits of program 1 to 100, without the empty step that ends it.
+  const std::string& WrittenProgram(int number) const;
+  const std::string& CommittedProgram(int number) const;
+
+  /// All cells of the family that a frame writes ("0WP", "0WD", "0WG", "0WS", "0WK", "0WM"), in
+  /// rising order and as they lie on the line. Empty for other frames.
   std::vector<std::string> Cells(std::string_view write_frame, bool committed) const;
 
   std::optional<Alarm> StandingAlarm() const;

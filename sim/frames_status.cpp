@@ -68,13 +68,11 @@ std::string Version(Machine& machine, std::string_view args, std::int64_t) {
   return "0RV" + std::string(args) + setup.axis_versions[axis] + "R7R";
 }
 
-std::string TaskCount(Machine& machine, std::string_view args, std::int64_t) {
-  if (!args.empty()) return BadFrame();
-  return "0TN" + Hex(static_cast<unsigned>(machine.setup.running_tasks), 1);
-}
-
-constexpr Command kCommands[] = {{"0CM", ControlMode}, {"0RA", RestState}, {"0RH", HomeState},
-                                 {"0AR", ResetAlarm},  {"0RV", Version},   {"0TN", TaskCount}};
+constexpr Command kCommands[] = {{"0CM", ControlMode},
+                                 {"0RA", RestState},
+                                 {"0RH", HomeState},
+                                 {"0AR", ResetAlarm},
+                                 {"0RV", Version}};
 
 }  // namespace
 

@@ -11,6 +11,11 @@ namespace {
 
 constexpr std::size_t kNameLength = 3;
 constexpr std::string_view kAlarmReset = "0AR";
+/// LB 1, TIM 1, JUMP 1.
+constexpr std::string_view kIdleLoop =
+    "0B0003E800000000000"
+    "0A0003E800000000000"
+    "0C0003E800000000000";
 
 }  // namespace
 
@@ -22,8 +27,8 @@ std::string ErrorText(char unit, char code) { return ErrorText(Alarm{unit, '0', 
 
 const Command* FindCommand(std::string_view request) {
   const std::string_view name = request.substr(0, kNameLength);
-  for (const auto& family :
-       {StatusCommands(), MotionCommands(), PositionCommands(), BlockCommands()}) {
+  for (const auto& family : {StatusCommands(), MotionCommands(), PositionCommands(),
+                             BlockCommands(), ProgramCommands()}) {
     for (const Command& command : family) {
       if (command.name == name) return &command;
     }
@@ -31,11 +36,13 @@ const Command* FindCommand(std::string_view request) {
   return nullptr;
 }
 
-Machine::Machine(const Setup& start)
-    : setup(start), memory(start), mode(start.mode), mask(start.mask) {
-  for (int axis = 0; axis < kAxes; ++axis) {
-    axes.Place(axis, start.start_pulses[axis]);
-    if (start.homed) axes.SetHomed(axis);
+Machine::Machine(const Setup& start) : Plant(start) {
+  std::stable_sort(setup.inputs.begin(), setup.inputs.end(),
+                   [](const auto& a, const auto& b) { return a.at_us < b.at_us; });
+  for (int program = 1; program <= start.running_tasks; ++program) {
+    if (memory.programs.Written(program).empty())
+      memory.programs.Write(program, std::string(kIdleLoop));
+    tasks.Start(*this, program, 0);
   }
 }
 
@@ -50,17 +57,50 @@ std::string Machine::Answer(const std::string& request, std::int64_t now_us) {
   const std::string reply =
       command->answer(*this, std::string_view(request).substr(kNameLength), now_us);
   NoteStart(moving_before, request, now_us);
+  tasks.Poke(now_us);  // an axis may be free again
   return reply;
 }
 
+std::optional<std::int64_t> Machine::NextInsideUs() const {
+  auto next = axes.NextRestUs();
+  const auto earlier = [&next](std::int64_t us) {
+    if (!next || us < *next) next = us;
+  };
+  if (const auto step = tasks.NextUs()) earlier(*step);
+  if (inputs_done_ < setup.inputs.size()) earlier(setup.inputs[inputs_done_].at_us);
+  return next;
+}
+
 void Machine::Settle(std::int64_t now_us) {
-  const auto failed = axes.Settle(now_us);
-  if (failed) Raise(*failed, now_us);
+  for (auto next = NextInsideUs(); next && *next <= now_us; next = NextInsideUs()) {
+    const std::int64_t at_us = *next;
+    if (const auto failed = axes.Settle(at_us)) Raise(*failed, at_us);
+    for (; inputs_done_ < setup.inputs.size(); ++inputs_done_) {
+      const TimedInput& input = setup.inputs[inputs_done_];
+      if (input.at_us > at_us) break;
+      SetInput(input.input, input.on, at_us);
+    }
+    if (const auto failed = tasks.Run(*this, at_us)) {
+      Raise(failed->alarm, at_us);
+      failed_step = {failed->program, failed->step};
+    }
+  }
 }
 
 void Machine::Raise(const Alarm& raised, std::int64_t now_us) {
   axes.Halt(now_us);
+  tasks.Drop();
   alarm = raised;
+  failed_step = {};
+}
+
+void Machine::SetInput(int number, bool on, std::int64_t now_us) {
+  values.SetInput(number, on);
+  tasks.Poke(now_us);
+}
+
+bool Machine::StartProgram(int program, std::int64_t now_us) {
+  return mode == Mode::kProgram && tasks.Start(*this, program, now_us) != Tasks::Started::kNoRoom;
 }
 
 void Machine::PowerCycle(std::int64_t now_us) {
@@ -71,17 +111,13 @@ void Machine::PowerCycle(std::int64_t now_us) {
   if (stored != 0) mask = stored;
   axes.Halt(now_us);
   axes.LoseHome();
+  tasks.Drop();
+  values.Clear();
+  settings = {};
   alarm.reset();
   servo_lost = 0;
   pc_command = false;
   control_digits = "0000";
-}
-
-void Machine::NoteStart(unsigned moving_before, const std::string& request, std::int64_t now_us) {
-  constexpr std::size_t kMostKept = 10000;
-  const unsigned started = axes.MovingMask() & ~moving_before;
-  if (started != 0) starts.push_back({now_us, started, request});
-  if (starts.size() > kMostKept) starts.pop_front();
 }
 
 void Machine::NoteStop(std::int64_t now_us) {
@@ -102,12 +138,6 @@ void Machine::LoseServo(int axis, std::int64_t now_us) {
   Raise({static_cast<char>('1' + axis), '2', error_code::kMotorLine}, now_us);
 }
 
-bool Machine::Push(int axis, int pulses) {
-  if (ServoOn(axis) || axes.Moving(axis)) return false;
-  axes.Place(axis, std::clamp(axes.Pulses(axis, 0) + pulses, 0, memory.MaxPulses(axis)));
-  return true;
-}
-
 std::int64_t Machine::MacroUs(int number) const {
   constexpr std::int64_t kTimerUs = 100'000, kTimer10Us = 1'000'000;
   if (number < 1 || number > kMacros) return 0;
@@ -122,12 +152,6 @@ std::int64_t Machine::MacroUs(int number) const {
   return time_us;
 }
 
-double Machine::TopSpeed(int axis) const {
-  constexpr double kTopPulses = 10000.0;  // of the motor, a second
-  constexpr int kFastMmS = 400;
-  return memory.IsFastDevice(axis) ? PulseSpeed(axis, kFastMmS) : kTopPulses;
-}
-
 void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
   const unsigned moving_before = axes.MovingMask();
   constexpr double kRise = 0.1;
@@ -140,11 +164,6 @@ void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {
     axes.Move(axis, to, speed, kRise, now_us);
   }
   NoteStart(moving_before, "inputs", now_us);
-}
-
-double Machine::PulseSpeed(int axis, int mm_s) const {
-  const int lead = memory.Lead(axis);
-  return lead == 0 ? 0.0 : static_cast<double>(mm_s) * memory.Ppr(axis) / lead;
 }
 
 }  // namespace qvr7sim

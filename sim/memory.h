@@ -39,6 +39,13 @@ struct Memory {
   int MaxPulses(int axis) const;
   int Lead(int axis) const;
   int Ppr(int axis) const;
+  /// Zone bound 1 or 2 and the in-position width of an axis in pulses, as written.
+  int ZoneBound(int axis, int bound) const;
+  int InPositionWidth(int axis) const;
+  /// Whether a pulse generator is fitted to the axis, as written.
+  bool HasPulseGenerator(int axis) const;
+  /// A place that a program puts into a position is stored at once, as written.
+  bool StoresPput() const;
   /// The axis stops at the ends of its stroke by itself, as written.
   bool SoftLimit(int axis) const;
   /// The axis carries the one actuator that is faster than its motor's rule.
@@ -52,6 +59,7 @@ struct Memory {
   Bank groups;     ///< start and end, 3 digits each
   Bank macros;     ///< 16 pairs of digits
   Bank system;     ///< 32 digits
+  Bank programs;   ///< 19 digits a step, up to the first empty step
 };
 
 /// Cell of a block character "0" to "9", "A" to "D"; -1 for others.

@@ -1,9 +1,14 @@
 #include "sim/options.h"
 
 #include <array>
+#include <fstream>
+#include <sstream>
 #include <string_view>
 
+#include "sim/input_script.h"
 #include "sim/parse.h"
+#include "sim/program_text.h"
+#include "sim/tasks.h"
 #include "sim/text.h"
 
 namespace qvr7sim {
@@ -135,6 +140,43 @@ bool TakePush(const std::string& value, Options* options) {
   return true;
 }
 
+std::optional<std::string> ContentOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+bool TakeProgram(const std::string& value, Options* options) {
+  const std::size_t colon = std::min(value.find(':'), value.size());
+  int number = 0;
+  if (colon == value.size() || !TakeInt(value.substr(0, colon), 1, kPrograms, &number)) {
+    return false;
+  }
+  const auto text = ContentOf(value.substr(colon + 1));
+  const auto digits = text ? AssembleProgramFile(*text, &options->wrong) : std::nullopt;
+  if (digits) options->setup.programs[number] = *digits;
+  return digits.has_value();
+}
+
+bool TakeInputs(const std::string& text, Options* options) {
+  const auto inputs = ParseInputScript(text, &options->wrong);
+  if (!inputs) return false;
+  auto& all = options->setup.inputs;
+  all.insert(all.end(), inputs->begin(), inputs->end());
+  return true;
+}
+
+/// "3=1": from the start on.
+bool TakeInput(const std::string& value, Options* options) {
+  const std::vector<std::string> parts = Split(value, "=");
+  return parts.size() == 2 && TakeInputs("0 " + parts[0] + " " + parts[1], options);
+}
+
+bool TakeInputFile(const std::string& value, Options* options) {
+  const auto text = ContentOf(value);
+  return text && TakeInputs(*text, options);
+}
+
 bool TakeFault(const std::string& value, Options* options) {
   std::string error;
   const auto fault = ParseFault(value, &error);
@@ -181,8 +223,19 @@ constexpr std::array kOptions{
     Option{"--group", "NUMBER:START:END", "a group", TakeGroup},
     Option{"--macro", "NUMBER:DIGITS", "a macro, 2 digits a step", TakeMacro},
     Option{"--start", "AXIS:PULSES", "where an axis stands", TakeStart},
-    Option{"--tasks", "N", "program tasks that run, 0 to 15 (default 0)",
-           [](Text value, Options* o) { return TakeInt(value, 0, 15, &o->setup.running_tasks); }},
+    Option{"--program", "NUMBER:FILE", "a program from its file (.prg)", TakeProgram},
+    Option{
+        "--tasks", "N", "programs 1 to N run from the start, 0 to 10 (default 0); see below",
+        [](Text value, Options* o) { return TakeInt(value, 0, kTasks, &o->setup.running_tasks); }},
+    Option{"--step-us", "N", "time of a program step in microseconds (default 1000)",
+           [](Text v, Options* o) {
+             const auto us = ParseNumber(v, 1, 1'000'000);
+             if (us) o->setup.step_us = *us;
+             return us.has_value();
+           }},
+    Option{"--input", "INPUT=0|1", "an input of programs, 1 to 18, from the start on", TakeInput},
+    Option{"--inputs", "FILE", "what inputs do: lines of ms, input, 0 or 1; # begins a remark",
+           TakeInputFile},
     Option{"--homed", "", "all axes are homed at the start",
            [](Text, Options* o) { return o->setup.homed = true; }},
     Option{"--rest-f", "", "say F, not the mask, when all axes rest or are homed",
@@ -249,7 +302,7 @@ std::string ParseOptions(const std::vector<std::string>& arguments, Options* opt
     }
     if (!option->take(value, options)) {
       return "bad value \"" + value + "\" for " + name + ": " + std::string(option->value) + ", " +
-             std::string(option->help);
+             std::string(option->help) + (options->wrong.empty() ? "" : ": " + options->wrong);
     }
   }
   return options->setup.Check();
@@ -278,10 +331,13 @@ std::string HelpText() {
       "  PC does not hold), error-reply,prefix=0WE3 (groups are not stored; 0WA positions, 0WE2\n"
       "  parameters, 0WE1 macros, 0WF tuning), power-cycle,prefix=0WE3,ms=1000 (the power fails\n"
       "  before they are stored), --axes 2 and --mode prg (another machine than was expected).\n"
+      "\nPrograms run in program mode, up to 10 at once; docs/simulator.md tells what each "
+      "command\n"
+      "does. --tasks starts them at power-on; one without steps is a loop that only waits.\n"
       "\nCommands on standard input, one a line, each answered by \"ok\" or \"error\":\n"
       "  silence on|off, alarm UNIT CODE [line], power-cycle, fault FAULT, faults off,\n"
       "  fail-homing AXIS, place AXIS PULSES, push AXIS PULSES (by hand, the servo being off),\n"
-      "  lose-servo AXIS, status, quit\n"
+      "  lose-servo AXIS, input INPUT on|off, status, quit\n"
       "\n--tell-motion writes lines as \"12.345 moving axis1=0 axis2=100 axis3=0 axis4=0\" and\n"
       "\"12.845 at rest ...\": seconds since the start, and pulses.\n"
       "\nMotion: an axis is held for the PC by the digit 1 of \"0CM\" and has its servo off by 2: "

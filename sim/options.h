@@ -19,6 +19,7 @@ struct Options {
   bool quit_on_eof = false;
   bool tell_motion = false;
   bool help = false;
+  std::string wrong;  ///< What an option found wrong in a file, after ParseOptions.
 };
 
 /// Arguments without the program's name. Empty result: good; else what is wrong.

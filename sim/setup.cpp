@@ -34,10 +34,25 @@ std::string CheckContent(const Setup& setup) {
   for (const auto& entry : setup.macros) {
     if (!Within(entry.first, 1, kMacros)) return "macro numbers run from 1 to 20";
   }
+  for (const auto& [number, digits] : setup.programs) {
+    if (!Within(number, 1, kPrograms)) return "program numbers run from 1 to 100";
+    const bool whole = digits.size() % kStepDigits == 0 && AllHex(digits);
+    if (!whole) return "a program step has 19 digits";
+    const auto limit = static_cast<std::size_t>(ProgramLimit(number));
+    if (digits.size() > limit * kStepDigits) {
+      return "program " + std::to_string(number) + " has at most " + std::to_string(limit) +
+             " steps";
+    }
+  }
   return "";
 }
 
 }  // namespace
+
+int ProgramLimit(int number) {
+  constexpr int kLong = 7, kMiddle = 20;  // the last program of the class
+  return number <= kLong ? 100 : number <= kMiddle ? 50 : 20;
+}
 
 int MaxPulses(const Device& device) {
   return (device.stroke_mm * device.ppr + device.lead - 1) / device.lead;
@@ -98,6 +113,7 @@ std::string Setup::Check() const {
   }
   if (!AllPrintable(marker + version)) return "marker and version must be printable ASCII";
   if (!Within(baud, 300, 1'000'000)) return "the baud rate must be 300 to 1000000";
+  if (step_us < 1 || !Within(running_tasks, 0, 10)) return "1 us a step, 10 tasks";
   if (processing_us < 0 || commit_us < 0 || home_search_us < 0 || input_wait_us < 0)
     return "a time must not be negative";
   if (!Within(jog_mm_s, 1, 1000) || !Within(home_mm_s, 1, 1000)) {

@@ -10,12 +10,17 @@
 namespace qvr7sim {
 
 inline constexpr int kAxes = 4;
-inline constexpr int kPositions = 999;       ///< Position numbers run from 1 to 999.
-inline constexpr int kGroups = 99;           ///< Group numbers run from 1 to 99.
-inline constexpr int kMacros = 20;           ///< Macro numbers run from 1 to 20.
-inline constexpr int kMacroSteps = 16;       ///< Steps of one macro, index from 0.
-inline constexpr int kParameterBlocks = 14;  ///< Blocks "0" to "9" and "A" to "D".
-inline constexpr int kSystemBlocks = 7;      ///< Blocks "0" to "6".
+inline constexpr int kPositions = 999;          ///< Position numbers run from 1 to 999.
+inline constexpr int kGroups = 99;              ///< Group numbers run from 1 to 99.
+inline constexpr int kMacros = 20;              ///< Macro numbers run from 1 to 20.
+inline constexpr int kMacroSteps = 16;          ///< Steps of one macro, index from 0.
+inline constexpr int kParameterBlocks = 14;     ///< Blocks "0" to "9" and "A" to "D".
+inline constexpr int kSystemBlocks = 7;         ///< Blocks "0" to "6".
+inline constexpr int kPrograms = 100;           ///< Program numbers run from 1 to 100.
+inline constexpr std::size_t kStepDigits = 19;  ///< Of one program step on the line.
+
+/// Steps that a program of this number (1 to 100) may have.
+int ProgramLimit(int number);
 
 enum class Mode { kPosition = 0, kProgram = 1 };
 
@@ -55,6 +60,13 @@ std::string EncodePosition(const PositionRecord& record);
 /// False when `digits` is not 60 upper-case hexadecimal digits.
 bool DecodePosition(const std::string& digits, PositionRecord* record);
 
+/// An input of programs changes by itself.
+struct TimedInput {
+  std::int64_t at_us = 0;
+  int input = 1;  ///< 1 to 18
+  bool on = false;
+};
+
 /// What stands in the controller when it starts.
 struct Setup {
   int axis_count = 4;   ///< Axis boards fitted, 1 to 4; the digit inside the model marker.
@@ -68,6 +80,7 @@ struct Setup {
   std::map<int, PositionRecord> positions;    ///< By number 1 to 999; others hold defaults.
   std::map<int, std::pair<int, int>> groups;  ///< Start and end by number 1 to 99.
   std::map<int, std::vector<std::pair<int, int>>> macros;  ///< Command and value by number.
+  std::map<int, std::string> programs;  ///< By number 1 to 100: the steps' digits, without end.
 
   int baud = 9600;
   bool paced = true;               ///< False: bytes take no time on the line.
@@ -78,7 +91,10 @@ struct Setup {
   std::int64_t home_search_us = 300000;  ///< Search of the sensor, on top of the way home.
   std::int64_t input_wait_us = 300000;   ///< Until an input that a macro waits for comes.
   std::array<int, kAxes> start_pulses{};
-  int running_tasks = 0;   ///< Program tasks that "0TN" reports, 0 to 15.
+  std::int64_t step_us = 1000;     ///< Time of one program step, above 0.
+  std::vector<TimedInput> inputs;  ///< What the inputs do, in any order.
+  int running_tasks = 0;   ///< Programs 1 to this one run from the start, 0 to 10. Those without
+                           ///< steps are filled with a loop that does nothing.
   bool homed = false;      ///< All axes homed at the start.
   bool rest_as_f = false;  ///< "0RA" and "0RH" say "F", not the mask, when it holds for all axes.
 

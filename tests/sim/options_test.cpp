@@ -17,7 +17,7 @@ TEST(Options, FillTheSetup) {
       "--macro 20:1135 --start 2:-50 --homed --rest-f --baud 38400 --processing-ms 7 "
       "--commit-ms 0 --no-pace --seed 99 --silent --quit-on-eof "
       "--push 2:-50:1500 --input-wait-ms 9 --tell-motion --fault lost-byte,p=0.5,prefix=0RP,byte=3 "
-      "--alarm-at 2.5:1:4 --fail-homing 2 "
+      "--alarm-at 2.5:1:4 --fail-homing 2 --input 3=1 --tasks 2 --step-us 50 "
       "--position 999:" +
       record;
   ASSERT_EQ(ParseOptions(Split(line, " "), &options), "");
@@ -44,6 +44,9 @@ TEST(Options, FillTheSetup) {
               fault.at_request == 0 && fault.prefix == "0RP" && fault.at_byte == 3);
   EXPECT_EQ(options.faults.alarms.at(0).at_us, 2500000);
   EXPECT_EQ(options.faults.alarms[0].alarm, (Alarm{'1', '0', '4'}));
+  const TimedInput& input = setup.inputs.at(0);
+  EXPECT_TRUE(input.at_us == 0 && input.input == 3 && input.on);
+  EXPECT_TRUE(setup.running_tasks == 2 && setup.step_us == 50);
   EXPECT_EQ(options.failing_homings, std::vector<int>{2});
 }
 
@@ -57,6 +60,8 @@ TEST(Options, WrongOnesSayWhatIsWrong) {
       {"--fault sulk", "--fault"},
       {"--alarm-at 1:5:1", "--alarm-at"},
       {"--axes 2 --mask 4", "mask"},
+      {"--input 19=1", "--input"},
+      {"--program 1:/dev/null", "no program file"},
   };
   for (const auto& [line, part] : cases) {
     Options options;
@@ -97,16 +102,35 @@ TEST(Commands, AnswerAndAct) {
       {"faults off", "ok faults off"},
       {"fail-homing 3", "ok fail-homing 3"},
       {"place 2 100", "ok place 2 100"},
-      {"status", "ok mode=pos mask=15 silent=off alarm=none axis1=5 axis2=100 axis3=0 axis4=0"}};
+      {"input 18 on", "ok input 18 on"},
+      {"status",
+       "ok mode=pos mask=15 silent=off alarm=none axis1=5 axis2=100 axis3=0 axis4=0 "
+       "tasks=none out=none"}};
   Controller controller(qvr7sim::Setup::Useful());
   bool quit = false;
   for (const auto& [line, answer] : cases) {
     EXPECT_EQ(RunCommand(line, &controller, 0, &quit), answer);
   }
-  for (const char* line :
-       {"", " ", "silence", "silence maybe", "alarm", "alarm 5 1", "alarm 1 12", "alarm 1 4 loud",
-        "fault", "fault sulk", "faults on", "fail-homing 5", "place 1", "place 5 1", "push 1",
-        "lose-servo 9", "power-cycle now", "quit now", "dance"}) {
+  for (const char* line : {"",
+                           " ",
+                           "silence",
+                           "silence maybe",
+                           "alarm",
+                           "alarm 5 1",
+                           "alarm 1 12",
+                           "alarm 1 4 loud",
+                           "fault",
+                           "fault sulk",
+                           "faults on",
+                           "fail-homing 5",
+                           "place 1",
+                           "place 5 1",
+                           "push 1",
+                           "lose-servo 9",
+                           "input 19 on",
+                           "power-cycle now",
+                           "quit now",
+                           "dance"}) {
     EXPECT_TRUE(RunCommand(line, &controller, 0, &quit).starts_with("error ")) << line;
   }
   EXPECT_FALSE(quit || controller.StandingAlarm());

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "sim/axes.h"
+#include "sim/axis_settings.h"
+#include "sim/memory.h"
+#include "sim/motion_start.h"
+#include "sim/program_values.h"
+#include "sim/setup.h"
+
+namespace qvr7sim {
+
+/// What the controller keeps, what moves and what stands: all that requests and programs act on.
+struct Plant {
+  explicit Plant(const Setup& start);
+
+  bool ServoOn(int axis) const {
+    return control_digits[axis] != '2' && (servo_lost & (1U << axis)) == 0;
+  }
+  /// A hand moves the slide, as far as it goes; false where the servo holds it.
+  bool Push(int axis, int pulses);
+  /// The fastest that an axis can run, in pulses a second.
+  double TopSpeed(int axis) const;
+  bool AnyMoving() const { return axes.MovingMask() != 0; }
+  bool InUse(int axis) const { return ((mask >> axis) & 1U) != 0; }
+  /// Pulses a second of an axis at a speed in mm/s; 0 when its device block holds no scale.
+  double PulseSpeed(int axis, int mm_s) const;
+  /// Thousandths of a mm and pulses of an axis, rounded; 0 when it holds no scale.
+  std::int64_t ToThousandths(int axis, std::int64_t pulses) const;
+  std::int64_t ToPulses(int axis, std::int64_t thousandths) const;
+  /// Keeps a start: what has begun to move since `moving_before`, and why.
+  void NoteStart(unsigned moving_before, const std::string& cause, std::int64_t now_us);
+
+  Setup setup;
+  Memory memory;
+  Axes axes;
+  Mode mode;
+  unsigned mask;
+  std::optional<Alarm> alarm;
+  bool pc_command = false;
+  std::string control_digits = "0000";
+  unsigned servo_lost = 0;         ///< until the alarm is reset
+  std::deque<MotionStart> starts;  ///< the last ones
+  std::array<std::int64_t, kAxes> travelled_at_stop{};
+  ProgramValues values;
+  std::array<AxisSettings, kAxes> settings;
+  std::pair<int, int> failed_step{};  ///< program and step (from 1) that the last alarm came from
+};
+
+}  // namespace qvr7sim
