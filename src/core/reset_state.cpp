@@ -17,6 +17,7 @@
 #include "para/std_table.h"
 #include "para/sys_para.h"
 #include "posi/posi_table.h"
+#include "prog/command_list.h"
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/views.h"
@@ -54,6 +55,7 @@ void ResetState() {
   SmTable = SmStage = SmSaved = SmTableRecord{};
   SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
+  CommandList = CommandListRecord{};
   RenewViews();
   InstallViews();
 }
