@@ -271,13 +271,18 @@ const std::string& Controller::CommittedSystemBlock(int block) const {
   return impl_->machine.memory.system.Committed(block);
 }
 
+const std::string& Controller::WrittenProgram(int number) const {
+  return impl_->machine.memory.programs.Written(number);
+}
+const std::string& Controller::CommittedProgram(int number) const {
+  return impl_->machine.memory.programs.Committed(number);
+}
+
 std::vector<std::string> Controller::Cells(std::string_view write_frame, bool committed) const {
   const Memory& memory = impl_->machine.memory;
-  const std::tuple<std::string_view, const Bank&, int> families[] = {{"0WP", memory.positions, 1},
-                                                                     {"0WD", memory.blocks, 0},
-                                                                     {"0WG", memory.groups, 1},
-                                                                     {"0WS", memory.macros, 1},
-                                                                     {"0WK", memory.system, 0}};
+  const std::tuple<std::string_view, const Bank&, int> families[] = {
+      {"0WP", memory.positions, 1}, {"0WD", memory.blocks, 0}, {"0WG", memory.groups, 1},
+      {"0WS", memory.macros, 1},    {"0WK", memory.system, 0}, {"0WM", memory.programs, 1}};
   std::vector<std::string> cells;
   for (const auto& [name, bank, first] : families) {
     for (int cell = first; name == write_frame && cell < bank.size(); ++cell) {

@@ -101,8 +101,12 @@ class Controller {
   const std::string& WrittenSystemBlock(int block) const;
   const std::string& CommittedSystemBlock(int block) const;
 
-  /// All cells of the family that a frame writes ("0WP", "0WD", "0WG", "0WS", "0WK"), in rising
-  /// order and as they lie on the line. Empty for other frames.
+  /// The steps' digits of program 1 to 100, without the empty step that ends it.
+  const std::string& WrittenProgram(int number) const;
+  const std::string& CommittedProgram(int number) const;
+
+  /// All cells of the family that a frame writes ("0WP", "0WD", "0WG", "0WS", "0WK", "0WM"), in
+  /// rising order and as they lie on the line. Empty for other frames.
   std::vector<std::string> Cells(std::string_view write_frame, bool committed) const;
 
   std::optional<Alarm> StandingAlarm() const;

@@ -6,7 +6,7 @@ namespace qvr7sim {
 
 namespace {
 
-constexpr std::size_t kLongestRequest = 256;
+constexpr std::size_t kLongestRequest = 2048;  // a program of 100 steps has 1905
 constexpr std::size_t kMostWaiting = 65536;
 constexpr std::int64_t kBitsTimesMicroseconds =
     10'000'000;  // 10 bits a byte, a million us a second

@@ -18,8 +18,8 @@ class Line {
   void FromPc(std::string_view bytes, std::int64_t now_us);
   /// When the next complete request line will have reached the controller.
   std::optional<std::int64_t> NextRequestUs() const;
-  /// The request line, with its line end, that is complete by `until_us`. Longer than 256
-  /// characters: only the first 256 and the line end are kept.
+  /// The request line, with its line end, that is complete by `until_us`. Longer than 2048
+  /// characters: only the first 2048 and the line end are kept.
   std::optional<std::string> TakeRequest(std::int64_t until_us);
 
   /// The controller sends from `start_us` on, or when the wire is free.

@@ -22,8 +22,8 @@ std::string ErrorText(char unit, char code) { return ErrorText(Alarm{unit, '0', 
 
 const Command* FindCommand(std::string_view request) {
   const std::string_view name = request.substr(0, kNameLength);
-  for (const auto& family :
-       {StatusCommands(), MotionCommands(), PositionCommands(), BlockCommands()}) {
+  for (const auto& family : {StatusCommands(), MotionCommands(), PositionCommands(),
+                             BlockCommands(), ProgramCommands()}) {
     for (const Command& command : family) {
       if (command.name == name) return &command;
     }

@@ -80,6 +80,7 @@ std::span<const Command> StatusCommands();
 std::span<const Command> MotionCommands();
 std::span<const Command> PositionCommands();
 std::span<const Command> BlockCommands();
+std::span<const Command> ProgramCommands();
 /// The command that a request begins with, or null.
 const Command* FindCommand(std::string_view request);
 

@@ -131,7 +131,8 @@ Memory::Memory(const Setup& setup)
       blocks(kParameterBlocks, Zeros()),
       groups(kGroups + 1, "001001"),
       macros(kMacros + 1, MacroData({})),
-      system(kSystemBlocks, Zeros()) {
+      system(kSystemBlocks, Zeros()),
+      programs(kPrograms + 1, "") {
   for (const auto& [number, record] : setup.positions) {
     positions.Write(number, EncodePosition(record));
   }
@@ -140,6 +141,7 @@ Memory::Memory(const Setup& setup)
                              Hex(static_cast<unsigned>(range.second), 3));
   }
   for (const auto& [number, steps] : setup.macros) macros.Write(number, MacroData(steps));
+  for (const auto& [number, digits] : setup.programs) programs.Write(number, digits);
   blocks.Write(0, CommonBlock(setup));
   blocks.Write(1, OrderBlock());
   for (int axis = 0; axis < kAxes; ++axis) {
@@ -149,11 +151,11 @@ Memory::Memory(const Setup& setup)
     blocks.Write(DeviceBlock(axis), DeviceData(device));
   }
   for (int block = 0; block < kSystemBlocks; ++block) system.Write(block, SystemData(block));
-  for (Bank* bank : {&positions, &blocks, &groups, &macros, &system}) bank->CommitAll();
+  for (Bank* bank : {&positions, &blocks, &groups, &macros, &system, &programs}) bank->CommitAll();
 }
 
 void Memory::Revert() {
-  for (Bank* bank : {&positions, &blocks, &groups, &macros, &system}) bank->Revert();
+  for (Bank* bank : {&positions, &blocks, &groups, &macros, &system, &programs}) bank->Revert();
 }
 
 int Memory::MaxPulses(int axis) const { return HexAt(blocks.Written(DeviceBlock(axis)), 13, 6); }

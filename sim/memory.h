@@ -52,6 +52,7 @@ struct Memory {
   Bank groups;     ///< start and end, 3 digits each
   Bank macros;     ///< 16 pairs of digits
   Bank system;     ///< 32 digits
+  Bank programs;   ///< 19 digits a step, up to the first empty step
 };
 
 /// Cell of a block character "0" to "9", "A" to "D"; -1 for others.

@@ -34,10 +34,25 @@ std::string CheckContent(const Setup& setup) {
   for (const auto& entry : setup.macros) {
     if (!Within(entry.first, 1, kMacros)) return "macro numbers run from 1 to 20";
   }
+  for (const auto& [number, digits] : setup.programs) {
+    if (!Within(number, 1, kPrograms)) return "program numbers run from 1 to 100";
+    const bool whole = digits.size() % kStepDigits == 0 && AllHex(digits);
+    if (!whole) return "a program step has 19 digits";
+    const auto limit = static_cast<std::size_t>(ProgramLimit(number));
+    if (digits.size() > limit * kStepDigits) {
+      return "program " + std::to_string(number) + " has at most " + std::to_string(limit) +
+             " steps";
+    }
+  }
   return "";
 }
 
 }  // namespace
+
+int ProgramLimit(int number) {
+  constexpr int kLong = 7, kMiddle = 20;  // the last program of the class
+  return number <= kLong ? 100 : number <= kMiddle ? 50 : 20;
+}
 
 int MaxPulses(const Device& device) {
   return (device.stroke_mm * device.ppr + device.lead - 1) / device.lead;

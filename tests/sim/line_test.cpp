@@ -42,7 +42,7 @@ TEST(Line, WaitingBytesAndRequestsAreLimited) {
   EXPECT_EQ(line.NextRequestUs(), std::nullopt);
   Line unpaced(9600, false);
   unpaced.FromPc(std::string(3000, 'x') + "\r\n", 0);
-  EXPECT_EQ(unpaced.TakeRequest(0)->size(), 258u);
+  EXPECT_EQ(unpaced.TakeRequest(0)->size(), 2050u);
 }
 
 TEST(Pacing, AReplyStartsWhenTheRequestIsInAndTakesItsBytes) {
