@@ -18,6 +18,7 @@
 #include "para/sys_para.h"
 #include "posi/posi_table.h"
 #include "prog/command_list.h"
+#include "prog/prog_store.h"
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/views.h"
@@ -56,6 +57,7 @@ void ResetState() {
   SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
   CommandList = CommandListRecord{};
+  ProgCt = ProgCtRecord{};
   RenewViews();
   InstallViews();
 }

@@ -100,12 +100,8 @@ void ChangeMenuDisp(Bool16 mode) {
   FrmMain& f = frmMain;
   ShowAndEnable({&f.mnuFileNewProg, &f.mnuFileOpenProg}, mode);
   ShowAndEnable({&f.mnuViewGrp, &f.mnuViewSM}, !mode);
-  if (mode) {
-    f.mnuContProg.Visible = true;
-    Enable({&f.mnuContProgRead, &f.mnuContProgTask}, true);
-  } else {
-    ShowAndEnable({&f.mnuContProg}, false);
-  }
+  if (mode) Enable({&f.mnuContProgRead, &f.mnuContProgTask}, true);
+  ShowAndEnable({&f.mnuContProg}, mode);
   f.mnuSettingOnline.Enabled = AppState.Offline;
   f.mnuSettingOffline.Enabled = !AppState.Offline;
   f.mnuSettingDeviceOnline.Enabled = !AppState.Offline;
@@ -122,13 +118,13 @@ void DispControlerMode() {
 void SwitchOffUnbuiltCommands() {
   FrmMain& f = frmMain;
   for (Menu* menu : {&f.mnuFileNewProg, &f.mnuFileOpenProg, &f.mnuFilePrint, &f.mnuViewSysPara,
-                     &f.mnuViewGrp, &f.mnuViewSM, &f.mnuContProg, &f.mnuContProgRead,
-                     &f.mnuContProgTask, &f.mnuMonitorIO, &f.mnuMonitorHensu}) {
+                     &f.mnuViewGrp, &f.mnuViewSM, &f.mnuContProgRead, &f.mnuContProgTask,
+                     &f.mnuMonitorIO, &f.mnuMonitorHensu}) {
     if (!menu->Click) menu->Enabled = false;
   }
-  for (int place : {kToolPrint, kToolCut, kToolPrgEdit, kToolPrgExe}) {
-    f.tbToolBar.At(place).Enabled = false;
-  }
+  EnableTools({kToolPrint, kToolCut}, false);
+  if (!f.mnuFileOpenProg.Click) EnableTools({kToolPrgEdit}, false);
+  if (!f.mnuContProgTask.Click) EnableTools({kToolPrgExe}, false);
 }
 
 }  // namespace tr7
