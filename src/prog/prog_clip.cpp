@@ -9,6 +9,7 @@
 #include "prog/prog_hint.h"
 #include "prog/prog_lines.h"
 #include "prog/prog_listing.h"
+#include "prog/prog_undo.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -85,6 +86,7 @@ void TellPasted(const Refused& refused, int beyond) {
 /// From a cell on, downwards; the listing grows up to its limit.
 void PasteFrom(ProgView& view, int step, int column, const ClipMatrix& lines) {
   if (ReadCommandLst() != 0) return;
+  RememberForUndo(view);
   Refused refused;
   int beyond = 0;
   {

@@ -6,6 +6,7 @@
 #include "platform/doors.h"
 #include "prog/command_list.h"
 #include "prog/prog_listing.h"
+#include "prog/prog_undo.h"
 #include "state/message_box.h"
 
 namespace tr7 {
@@ -60,11 +61,14 @@ int Check_flgdProgLineNo(const ProgView& view) {
 int Check_NullLineAndDelete(ProgView& view) {
   Grid& listing = view.flgdProg;
   const ListingQuiet quiet(listing);
+  bool remembered = false;
   for (int row = 2; row < listing.Rows();) {
     if (!IsEmptyStep(listing, row)) {
       ++row;
       continue;
     }
+    if (!remembered) RememberForUndo(view);
+    remembered = true;
     if (listing.Row > row) listing.Row = listing.RowSel = listing.Row - 1;
     listing.RemoveRow(row);
   }
@@ -105,6 +109,7 @@ void cmdInsLineProg_Click(ProgView& view) {
     MsgBox(TwoLines(388, 389));
     return;
   }
+  RememberForUndo(view);
   {
     const ListingQuiet quiet(listing);
     while (ListingSteps(listing) >= most && listing.Rows() > 1) {
@@ -125,6 +130,7 @@ void cmdDelLineProg_Click(ProgView& view) {
     return;
   }
   const int at = first;
+  RememberForUndo(view);
   {
     const ListingQuiet quiet(listing);
     const bool all = last - first + 1 == ListingSteps(listing);

@@ -17,6 +17,12 @@ struct ProgError {
   std::string text;
 };
 
+/// A listing and its cursor as they stood before an edit.
+struct ListingShot {
+  std::vector<ProgCells> steps;
+  int row, column;
+};
+
 /// What belongs to the one program of a view. The text form is the view's listing, the master copy;
 /// comments stand there alone. Step n stands at index n - 1.
 struct ProgStore {
@@ -28,7 +34,8 @@ struct ProgStore {
   Bool16 ProgSyntaxNg;                ///< the last check found errors that stay on show
   Bool16 ProgCmdBad;                  ///< the command typed last is none
   std::vector<ProgError> ProgErrList;
-  std::string FileFault;  ///< why a file could not be read or saved
+  std::vector<ListingShot> Undo, Redo;  ///< the newest at the end
+  std::string FileFault;                ///< why a file could not be read or saved
 };
 
 /// A program view: its controls and its program.

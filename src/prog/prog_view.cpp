@@ -13,6 +13,7 @@
 #include "prog/prog_lines.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
+#include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
@@ -86,7 +87,10 @@ void WireListing(ProgView& view) {
     if (SetDataForFlexProg(view, row, col, text) != 0) {
       return {false, CellFault(-1, kProgCommand, text)};
     }
-    view.Store.ProgChanged = True;
+    if (text != view.flgdProg.Text(row, col)) {
+      RememberForUndo(view);
+      view.Store.ProgChanged = True;
+    }
     return {};
   };
   listing.IsMarked = [&listing](int row, int col) { return IsDoubtful(listing, row, col); };
@@ -183,6 +187,7 @@ void NewProgram() {
 void OpenProgram() {
   ProgView& view = NewProgView();
   if (!ProgDataFileOpen(view)) return UnloadView(view);
+  ForgetUndo(view);
   ShowView(view);
 }
 

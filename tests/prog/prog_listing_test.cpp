@@ -3,6 +3,8 @@
 #include "forms/frm_main.h"
 #include "prog/prog_clip.h"
 #include "prog/prog_lines.h"
+#include "prog/prog_targets.h"
+#include "prog/prog_undo.h"
 #include "tests/prog/prog_user.h"
 
 namespace tr7 {
@@ -81,6 +83,17 @@ TEST_F(ProgListing, LinesTravelOverTheClipboard) {
   to.flgdProg.SelectCell(1, 1);
   frmMain.mnuEditPaste.Press();
   EXPECT_EQ(Steps(to)[0], "LB 5") << "a command that is none keeps the old one";
+  EXPECT_TRUE(ProgUndo(to) && ProgUndo(to) && !ProgUndo(to));
+  EXPECT_EQ(Steps(to), (Texts{"LB 1", "LB 2"}));
+  EXPECT_TRUE(ProgRedo(to));
+  EXPECT_EQ(Steps(to).size(), 3u);
+}
+
+TEST_F(ProgListing, JumpsAndCallsFindTheirTargets) {
+  const Grid& listing = Program({"JUMP 2", "JUMP R2", "CALL 2", "LB 2", "SR 2", "CALL 3"}).flgdProg;
+  std::string targets;
+  for (int step = 1; step <= 6; ++step) targets += std::to_string(TargetOfStep(listing, step));
+  EXPECT_EQ(targets, "405000");
 }
 
 TEST_F(ProgListing, AFileKeepsEveryCell) {

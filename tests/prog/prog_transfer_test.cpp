@@ -1,8 +1,13 @@
 // Programs over the line: every byte, the boxes, and what a failure leaves.
 
+#include <random>
+#include <set>
+
 #include "forms/frm_main.h"
 #include "forms/frm_prog_syogokekka.h"
+#include "prog/prog_check.h"
 #include "prog/prog_commands.h"
+#include "prog/step_encode.h"
 #include "tests/prog/prog_user.h"
 
 namespace tr7 {
@@ -45,6 +50,37 @@ TEST_F(ProgTransfer, AProgramGoesOutAndComesBack) {
   EXPECT_FALSE(view.Store.ProgChanged);
   EXPECT_EQ(view.Caption, "Program 12");
   EXPECT_EQ(Steps(Read(12)), (Texts{"MVP 1 R1 /I1 O1", "= R1 1.500", "VEL 400"}));
+}
+
+// What may be typed and passes the check is the same in the controller.
+TEST_F(ProgTransfer, AnyLegalStepsTravelUnchanged) {
+  ASSERT_EQ(ReadCommandLst(), 0);
+  std::mt19937 random(7);
+  const auto cell = [&random] {
+    constexpr const char* kTexts[] = {"0",  "1",  "2",   "20", "70",  "0.5", "R1",   "r50", "PR4",
+                                      "I1", "O1", "O16", "F1", "f50", "/I1", "/f50", "999", "1.5"};
+    return kTexts[random() % std::size(kTexts)];
+  };
+  std::set<std::int32_t> commands;
+  for (int round = 0; round < 20; ++round) {
+    ProgStore store;
+    std::vector<ProgStep> program, back;
+    while (program.size() < 100) {
+      ProgStep step;
+      step[kProgCommand] = 1 + static_cast<int>(random() % 57);
+      for (int col = 2; col <= 5; ++col) {
+        step[col] = seekInputData(step[kProgCommand], col, cell()).value_or(0);
+      }
+      store.ProgDA = {step};
+      if (programCheckProc(store) != 0) continue;
+      program.push_back(step);
+      commands.insert(step[kProgCommand]);
+    }
+    ASSERT_EQ(WriteProgdataToCt(1 + round % 7, program), ProgWrite::Done);
+    ASSERT_EQ(ReadProgDataFromCt(1 + round % 7, back), Outcome::Done);
+    EXPECT_EQ(back, program);
+  }
+  EXPECT_GT(commands.size(), 50u) << "all but jumps and subroutines";
 }
 
 TEST_F(ProgTransfer, EachClassOfNumbersHasItsLimit) {
