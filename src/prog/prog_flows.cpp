@@ -12,6 +12,7 @@
 #include "prog/prog_file.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
+#include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
 #include "session/session.h"
 #include "state/busy_scope.h"
@@ -183,6 +184,7 @@ bool ProgDataFileOpen(ProgView& view) {
   ShowProgFileName(*path, view);
   view.Store.ProgCmdBad = view.Store.ProgChanged = False;
   ProgDataHyoji2(view);
+  ForgetUndo(view);
   TellTooManySteps(view);
   return true;
 }

@@ -20,6 +20,15 @@ bool IsEmptyStep(const Grid& listing, int step) {
   return CellsOfStep(listing, step) == ProgCells();
 }
 
+bool MayGrow(const ProgView& view) { return ListingSteps(view.flgdProg) < ListingLimit(view); }
+
+/// The same by a key, which is an edit of its own.
+bool AppendByKey(ProgView& view) {
+  if (!MayGrow(view)) return false;
+  RememberForUndo(view);
+  return AppendProgLine(view);
+}
+
 }  // namespace
 
 bool IsWholeLine(const Grid& listing) {
@@ -78,7 +87,7 @@ int Check_NullLineAndDelete(ProgView& view) {
 
 bool AppendProgLine(ProgView& view) {
   Grid& listing = view.flgdProg;
-  if (ListingSteps(listing) >= ListingLimit(view)) return false;
+  if (!MayGrow(view)) return false;
   listing.SetRows(listing.Rows() + 1);
   FGProg_ReNumber(listing);
   view.Store.ProgChanged = True;
@@ -89,13 +98,13 @@ void ProgEnterKey(ProgView& view) {
   Grid& listing = view.flgdProg;
   if (!IsStep(listing, listing.Row)) return;
   if (listing.Col < kProgComment) return listing.SelectCell(listing.Row, listing.Col + 1);
-  if (listing.Row == ListingSteps(listing) && !AppendProgLine(view)) return;
+  if (listing.Row == ListingSteps(listing) && !AppendByKey(view)) return;
   listing.SelectCell(listing.Row + 1, kProgCommand);
 }
 
 bool ProgDownKey(ProgView& view) {
   Grid& listing = view.flgdProg;
-  if (listing.Row != ListingSteps(listing) || !AppendProgLine(view)) return false;
+  if (listing.Row != ListingSteps(listing) || !AppendByKey(view)) return false;
   listing.SelectCell(listing.Row + 1, listing.Col);
   return true;
 }

@@ -187,7 +187,6 @@ void NewProgram() {
 void OpenProgram() {
   ProgView& view = NewProgView();
   if (!ProgDataFileOpen(view)) return UnloadView(view);
-  ForgetUndo(view);
   ShowView(view);
 }
 

@@ -182,6 +182,10 @@ TEST_F(ProgTransfer, VerifyTellsEqualOrWhereItDiffers) {
            }});
   view.cmdProgVerifyCt.Press();
   EXPECT_EQ(rows, "1OXOOO2XXXXX");
+  Spoil(FaultKind::kSilence, "0RM", 0);
+  ChooseProgram(3);
+  view.cmdProgVerifyCt.Press();
+  EXPECT_NE(ActiveView(), &view) << "a failed read closes the view";
 }
 
 TEST_F(ProgTransfer, AFailedReadOpensNoView) {

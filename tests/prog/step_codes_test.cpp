@@ -1,6 +1,7 @@
 // Cells to codes and back, by the vocabulary.
 
 #include <random>
+#include <sstream>
 
 #include "base/text_helpers.h"
 #include "prog/command_list.h"
@@ -89,43 +90,18 @@ TEST_F(StepCodes, TypedTextsBecomeCodes) {
 }
 
 TEST_F(StepCodes, CodesBecomeTexts) {
-  const struct {
-    const char* command;
-    int column;
-    std::int32_t code;
-    const char* text;
-  } rows[] = {
-      {"VEL", 2, 500, "500"},
-      {"VEL", 2, 1500, "1.5"},
-      {"MVP", 2, 500, ""},
-      {"MVP", 3, 0, ""},
-      {"LB", 2, 51000, ""},
-      {"STPG", 2, 101000, "101000"},
-      {"ACC", 2, 255000, "2550"},
-      {"ACC", 2, 999, ""},
-      {"PUST1", 2, 2000, "2"},
-      {"PUST1", 2, 1999, ""},
-      {"PUST1", 2, 0, "0"},
-      {"=", 3, 1500, "1.500"},
-      {"=", 3, 2098652, "-1.500"},
-      {"=", 3, 4190207, "-2093.055"},
-      {"=", 3, 2000001, "2000001"},
-      {"=", 2, 4190708, "4190708"},
-      {"=", 2, 4190712, "PR4"},
-      {"ON", 3, 0, ""},
-      {"WTON", 2, 4190245, "4190245"},
-      {"WTON", 2, 4190457, "f50"},
-      {"MVP", 4, 1036, "/O16"},
-      {"MVP", 4, 19, "19"},
-      {"MVP", 5, 18, "18"},
-      {"MVP", 5, 249, "f50"},
-      {"LB", 4, 1, ""},
-      {"NOP", 2, 5, ""},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(Shown(row.command, row.column, row.code), row.text)
-        << row.command << " column " << row.column << " code " << row.code;
+  std::istringstream rows(
+      "VEL 2 500 500  VEL 2 1500 1.5  MVP 2 500 _  MVP 3 0 _  LB 2 51000 _  STPG 2 101000 101000 "
+      "ACC 2 255000 2550  ACC 2 999 _  PUST1 2 2000 2  PUST1 2 1999 _  PUST1 2 0 0  = 3 1500 1.500 "
+      "= 3 2098652 -1.500  = 3 4190207 -2093.055  = 3 2000001 2000001  = 2 4190708 4190708 "
+      "= 2 4190712 PR4  ON 3 0 _  WTON 2 4190245 4190245  WTON 2 4190457 f50  MVP 4 1036 /O16 "
+      "MVP 4 19 19  MVP 5 18 18  MVP 5 249 f50  LB 4 1 _  NOP 2 5 _");
+  std::string command, text;
+  int column = 0, code = 0, count = 0;
+  for (; rows >> command >> column >> code >> text; ++count) {
+    EXPECT_EQ(Shown(command.c_str(), column, code), text == "_" ? "" : text) << command << code;
   }
+  EXPECT_EQ(count, 26);
 }
 
 // Whatever a controller holds is shown, and what is not marked as doubtful reads back as it was.
