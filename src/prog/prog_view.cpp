@@ -13,6 +13,7 @@
 #include "prog/prog_lines.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
+#include "prog/prog_popup.h"
 #include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
 #include "state/app_state.h"
@@ -120,6 +121,7 @@ void WireButtons(ProgView& view) {
   view.cmdProgLinePaste.Click = [&view] { ProgDataLinePaste(view); };
   view.Commands.New = NewProgram;
   view.Commands.Open = OpenProgram;
+  view.List1.Click = [&view] { PickCommand(view); };
   view.cmdCloseSyntaxErr.Click = [&view] {
     view.Store.ProgSyntaxNg = False;
     ProgErrPaneClose(view);

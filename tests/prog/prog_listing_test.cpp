@@ -3,6 +3,7 @@
 #include "forms/frm_main.h"
 #include "prog/prog_clip.h"
 #include "prog/prog_lines.h"
+#include "prog/prog_popup.h"
 #include "prog/prog_targets.h"
 #include "prog/prog_undo.h"
 #include "tests/prog/prog_user.h"
@@ -36,6 +37,15 @@ TEST_F(ProgListing, LinesComeAndGo) {
   EXPECT_EQ(listing.TypeInto(1, 1, "lb"), 1);
   EXPECT_TRUE(view.Store.ProgCmdBad && forms.beeps == 1);
   EXPECT_EQ(listing.Text(1, 1), "LB");
+  listing.SelectCell(1, 1);
+  ASSERT_TRUE(ShowCommandList(view));
+  EXPECT_EQ(view.List1.List.at(view.List1.ListIndex), "LB");
+  FilterCommandList(view, "mv");
+  EXPECT_EQ(view.List1.List, (Texts{"MVP", "MVA", "MVI", "MVD"}));
+  view.List1.ListIndex = 2;
+  view.List1.Click();
+  EXPECT_EQ(listing.Text(1, 1), "MVI");
+  EXPECT_TRUE(ProgUndo(view) && !view.List1.Visible);
   listing.SelectCell(2, 2);
   cmdInsLineProg_Click(view);
   EXPECT_EQ(Boxes(), Texts{Text(388) + "\n" + Text(389)});
