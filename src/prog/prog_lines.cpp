@@ -102,6 +102,15 @@ void ProgEnterKey(ProgView& view) {
   listing.SelectCell(listing.Row + 1, kProgCommand);
 }
 
+void ProgDeleteKey(ProgView& view) {
+  Grid& listing = view.flgdProg;
+  if (listing.Col < kProgCommand || !listing.MayEdit(listing.Row, listing.Col)) return;
+  if (listing.Text(listing.Row, listing.Col).empty()) return;
+  RememberForUndo(view);
+  listing.SetText(listing.Row, listing.Col, "");
+  view.Store.ProgChanged = True;
+}
+
 bool ProgDownKey(ProgView& view) {
   Grid& listing = view.flgdProg;
   if (listing.Row != ListingSteps(listing) || !AppendByKey(view)) return false;

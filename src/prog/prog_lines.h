@@ -27,6 +27,8 @@ bool AppendProgLine(ProgView& view);
 
 /// Enter: to the next column; behind the last one to the next step, which is added at the end.
 void ProgEnterKey(ProgView& view);
+/// Delete empties the current cell, a command's too, which an edit may not.
+void ProgDeleteKey(ProgView& view);
 /// The down arrow on the last step adds one. True: it has.
 bool ProgDownKey(ProgView& view);
 

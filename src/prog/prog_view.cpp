@@ -149,7 +149,8 @@ void WireView(ProgView& view) {
     InitSize_FGPrgErr(view.flgdPrgErr);
     SetStr_FGProgErr(view.flgdPrgErr);
     ProgErrClear(view.flgdPrgErr);
-    ProgCMDBTN_Yuko(view);
+    // A view that a flow opens stays off until the flow ends.
+    AppState.CommandsOffDepth == 0 ? ProgCMDBTN_Yuko(view) : ProgCMDBTN_Muko(view);
   };
   view.QueryUnload = [&view](CloseReason) { return AskAndLeave(view); };
   view.Activate = [&view] { SwitchLineCommands(view); };

@@ -47,6 +47,8 @@ TEST_F(ProgListing, LinesComeAndGo) {
   EXPECT_EQ(listing.Text(1, 1), "MVI");
   EXPECT_TRUE(ProgUndo(view) && !view.List1.Visible);
   listing.SelectCell(2, 2);
+  ProgDeleteKey(view);
+  EXPECT_TRUE(listing.Text(2, 2).empty() && ProgUndo(view));
   cmdInsLineProg_Click(view);
   EXPECT_EQ(Boxes(), Texts{Text(388) + "\n" + Text(389)});
   listing.Select(2, 1, 2, 6);
