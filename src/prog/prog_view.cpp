@@ -1,9 +1,11 @@
 #include "prog/prog_view.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "forms/frm_main.h"
+#include "platform/doors.h"
 #include "prog/command_list.h"
 #include "prog/prog_check_flow.h"
 #include "prog/prog_clip.h"
@@ -14,8 +16,10 @@
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
 #include "prog/prog_popup.h"
+#include "prog/prog_targets.h"
 #include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
+#include "prog/vocabulary.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
@@ -29,17 +33,66 @@
 namespace tr7 {
 namespace {
 
-constexpr int kMsgCaption = 7059;
+constexpr int kMsgCaption = 7059, kMsgGoTo = 7062;
+constexpr Colour kEditColour = 0xC0FFFF;
 
 void SwitchLineCommands(ProgView& view) {
+  const bool free = AppState.CommandsOffDepth == 0;
   const bool line = IsWholeLine(view.flgdProg);
   const bool paste = line && ClipHoldsProgLines();
-  view.Edit = {true, paste || !line, line, line};
-  const bool free = AppState.CommandsOffDepth == 0;
+  view.Edit = {true,
+               paste || !line,
+               line,
+               line,
+               free && !view.Store.Undo.empty(),
+               free && !view.Store.Redo.empty()};
   view.cmdInsLineProg.Enabled = view.cmdDelLineProg.Enabled = view.cmdProgLineCopy.Enabled =
       free && line;
   view.cmdProgLinePaste.Enabled = free && paste;
   FollowActiveView();
+}
+
+bool GoToStep(Grid& listing, int step, int column) {
+  if (step < 1 || step >= listing.Rows()) return false;
+  listing.SelectCell(step, column);
+  return true;
+}
+
+/// By the mouse only the operand of a jump leads away.
+bool GoToTarget(Grid& listing, bool by_key) {
+  if (!by_key && listing.Col != kProgOperand1) return false;
+  return GoToStep(listing, TargetOfStep(listing, listing.Row), kProgOperand1);
+}
+
+/// The step of an error, and the hand at it.
+void GoToError(ProgView& view) {
+  const auto row = static_cast<std::size_t>(view.flgdPrgErr.Row);
+  if (row < 1 || row > view.Store.ProgErrList.size()) return;
+  if (GoToStep(view.flgdProg, view.Store.ProgErrList[row - 1].step, kProgCommand)) {
+    doors.forms->SetFocus(view.flgdProg);
+  }
+}
+
+RowMark MarkOfRow(const Grid& listing, int row) {
+  switch (MarkOfStep(listing, row)) {
+    case StepMark::Label:
+    case StepMark::Subroutine:
+      return RowMark::Target;
+    case StepMark::Jump:
+    case StepMark::Call:
+      return RowMark::Jump;
+    case StepMark::None:
+      break;
+  }
+  return RowMark::None;
+}
+
+bool IsUnusedCell(const Grid& listing, int row, int column) {
+  if (row < 1 || row >= listing.Rows() || column < kProgOperand1 || column > kProgResult) {
+    return false;
+  }
+  const int code = CodeOfStep(listing, row);
+  return code >= 0 && !ColumnIsUsed(code, column);
 }
 
 /// Whole lines, or the cells that are selected.
@@ -58,8 +111,10 @@ std::string HintText(const Grid& listing) {
   const std::string meaning = CommandMeaning(code);
   if (listing.Col <= kProgCommand) return meaning;
   const std::string fault = CellFault(code, listing.Col, listing.Text(listing.Row, listing.Col));
+  const int target = TargetOfStep(listing, listing.Row);
   return (fault.empty() ? "" : fault + "  ") + ProgHint(code, listing.Col) +
-         (meaning.empty() ? "" : "  [" + meaning + "]");
+         (meaning.empty() ? "" : "  [" + meaning + "]") +
+         (target == 0 ? "" : "  " + Text(kMsgGoTo, std::to_string(target)));
 }
 
 bool IsDoubtful(const Grid& listing, int row, int column) {
@@ -74,6 +129,27 @@ bool AskAndLeave(ProgView& view) {
     ProgDataSaveAs(view);
   }
   return false;  // the view closes in any case
+}
+
+void WireKeys(ProgView& view) {
+  Grid& listing = view.flgdProg;
+  listing.FoldKey = ProgKey;
+  listing.MoveOn = [&view, &listing](bool backwards) {
+    if (!backwards) return ProgEnterKey(view);
+    GoToStep(listing, listing.Row, std::max(listing.Col - 1, static_cast<int>(kProgCommand)));
+  };
+  listing.DeleteKey = [&view] {
+    ProgDeleteKey(view);
+    ProgSelectionMoved(view);
+  };
+  listing.DownAtEnd = [&view] { return ProgDownKey(view); };
+  listing.GoToTarget = [&listing](bool by_key) { return GoToTarget(listing, by_key); };
+  listing.List.Box = &view.List1;
+  listing.List.Col = kProgCommand;
+  listing.List.Show = [&view] { return ShowCommandList(view); };
+  listing.List.Filter = [&view](const std::string& typed) { FilterCommandList(view, typed); };
+  view.Commands.Undo = [&view] { ProgUndo(view); };
+  view.Commands.Redo = [&view] { ProgRedo(view); };
 }
 
 void WireListing(ProgView& view) {
@@ -91,18 +167,20 @@ void WireListing(ProgView& view) {
     if (text != view.flgdProg.Text(row, col)) {
       RememberForUndo(view);
       view.Store.ProgChanged = True;
+      SwitchLineCommands(view);
     }
     return {};
   };
+  listing.EditColour = kEditColour;
+  listing.IsUnused = [&listing](int row, int col) { return IsUnusedCell(listing, row, col); };
+  listing.MarkOfRow = [&listing](int row) { return MarkOfRow(listing, row); };
   listing.IsMarked = [&listing](int row, int col) { return IsDoubtful(listing, row, col); };
   listing.CellToolTip = [&listing](int row, int col) {
     const bool cell = row >= 1 && row < listing.Rows() && col >= kProgCommand;
     return cell ? CellFault(CodeOfStep(listing, row), col, listing.Text(row, col)) : "";
   };
   listing.SelChange = [&view] { ProgSelectionMoved(view); };
-  listing.MoveOn = [&view](bool backwards) {
-    if (!backwards) ProgEnterKey(view);
-  };
+  WireKeys(view);
   listing.Copy = view.Commands.Copy = [&view] { CopyFromListing(view); };
   listing.Paste = view.Commands.Paste = [&view] { PasteToListing(view); };
 }
@@ -132,6 +210,7 @@ void WireButtons(ProgView& view) {
 void ProgCMDBTN_Yuko(ProgView& view) {
   SwitchControls(view, true);
   view.flgdProg.Enabled = true;
+  view.cmdProgPrint.Enabled = view.cmdProgPrint.Click != nullptr;
   view.cmdProgWrite.Enabled = view.cmdProgVerifyCt.Enabled = !AppState.Offline;
   SwitchLineCommands(view);
 }
@@ -159,6 +238,7 @@ void WireView(ProgView& view) {
     if (AppState.CommandsOffDepth == 0) ProgCMDBTN_Yuko(view);
   };
   view.flgdPrgErr.CanEdit = [](int, int) { return false; };
+  view.flgdPrgErr.Choose = [&view] { GoToError(view); };
 }
 
 }  // namespace

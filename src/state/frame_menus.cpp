@@ -50,11 +50,12 @@ void ToolBar_Yuko() {
 
 void Menyu_Muko() {
   FrmMain& f = frmMain;
-  Enable({&f.mnuFile, &f.mnuFileNew, &f.mnuFileOpen, &f.mnuFileSave, &f.mnuFileSaveAs,
-          &f.mnuFileClose, &f.mnuFilePrint, &f.mnuEdit, &f.mnuEditCopy, &f.mnuEditPaste,
-          &f.mnuEditInsert, &f.mnuEditLineDelete, &f.mnuView, &f.mnuCont, &f.mnuMonitor,
-          &f.mnuSetting, &f.mnuWindow, &f.mnuHelp},
-         false);
+  Enable(
+      {&f.mnuFile,      &f.mnuFileNew,   &f.mnuFileOpen,   &f.mnuFileSave,       &f.mnuFileSaveAs,
+       &f.mnuFileClose, &f.mnuFilePrint, &f.mnuEdit,       &f.mnuEditUndo,       &f.mnuEditRedo,
+       &f.mnuEditCopy,  &f.mnuEditPaste, &f.mnuEditInsert, &f.mnuEditLineDelete, &f.mnuView,
+       &f.mnuCont,      &f.mnuMonitor,   &f.mnuSetting,    &f.mnuWindow,         &f.mnuHelp},
+      false);
 }
 
 void Menyu_Yuko() {
@@ -71,11 +72,14 @@ View& FrontView() { return ActiveView() ? *ActiveView() : frmPosi; }
 void SwitchEditCommands() {
   FrmMain& f = frmMain;
   const EditStates& edit = FrontView().Edit;
+  f.mnuEditUndo.Enabled = edit.Undo;
+  f.mnuEditRedo.Enabled = edit.Redo;
   f.mnuEditCopy.Enabled = edit.Copy;
   f.mnuEditPaste.Enabled = edit.Paste;
   f.mnuEditInsert.Enabled = edit.Insert;
   f.mnuEditLineDelete.Enabled = edit.Delete;
-  f.mnuEdit.Enabled = edit.Copy || edit.Paste || edit.Insert || edit.Delete;
+  f.mnuEdit.Enabled =
+      edit.Undo || edit.Redo || edit.Copy || edit.Paste || edit.Insert || edit.Delete;
 }
 
 void FollowActiveView() {

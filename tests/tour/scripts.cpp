@@ -10,6 +10,7 @@
 #include "state/app_state.h"
 #include "state/text.h"
 #include "tests/tour/motion_script.h"
+#include "tests/tour/prog_script.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -283,6 +284,7 @@ const std::vector<Script>& Scripts() {
       {"offline", {"--mode", "prg"}, OfflineFirst},
       {"motion", {}, MoveAndTeach},
       {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
+      {"prog", {"--mode", "prg"}, EditProgram},
       {"compare", {}, CompareJob}};
   return scripts;
 }
