@@ -75,6 +75,8 @@ void InstallFileAndEditMenus() {
   f.mnuFileSaveAs.Click = OfFront(&ViewCommands::SaveAs);
   f.mnuFileClose.Click = CloseFrontView;
   f.mnuFileExit.Click = [] { CloseView(frmMain, CloseReason::Code); };
+  f.mnuEditUndo.Click = OfFront(&ViewCommands::Undo);
+  f.mnuEditRedo.Click = OfFront(&ViewCommands::Redo);
   f.mnuEditCopy.Click = OfFront(&ViewCommands::Copy);
   f.mnuEditPaste.Click = OfFront(&ViewCommands::Paste);
   f.mnuEditInsert.Click = OfFront(&ViewCommands::InsertLine);

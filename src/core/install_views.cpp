@@ -17,6 +17,7 @@
 #include "para/sys_para_view.h"
 #include "posi/posi_view.h"
 #include "posi/result_view.h"
+#include "prog/prog_view.h"
 #include "state/wait.h"
 
 namespace tr7 {
@@ -49,6 +50,7 @@ void InstallViews() {
   InstallGrpView();
   InstallSmView();
   InstallMotion();
+  InstallProgViews();
 }
 
 }  // namespace tr7

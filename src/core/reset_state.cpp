@@ -17,6 +17,8 @@
 #include "para/std_table.h"
 #include "para/sys_para.h"
 #include "posi/posi_table.h"
+#include "prog/command_list.h"
+#include "prog/prog_store.h"
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/views.h"
@@ -54,6 +56,8 @@ void ResetState() {
   SmTable = SmStage = SmSaved = SmTableRecord{};
   SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
+  CommandList = CommandListRecord{};
+  ProgCt = ProgCtRecord{};
   RenewViews();
   InstallViews();
 }

@@ -20,6 +20,8 @@ struct FrmMain : View {
   Menu mnuFilePrint{*this, "mnuFilePrint", 5008};
   Menu mnuFileExit{*this, "mnuFileExit", 5009};
   Menu mnuEdit{*this, "mnuEdit", 5010};
+  Menu mnuEditUndo{*this, "mnuEditUndo", 7060};
+  Menu mnuEditRedo{*this, "mnuEditRedo", 7061};
   Menu mnuEditCopy{*this, "mnuEditCopy", 5011};
   Menu mnuEditPaste{*this, "mnuEditPaste", 5012};
   Menu mnuEditInsert{*this, "mnuEditInsert", 5013};

@@ -25,6 +25,17 @@ struct EditVerdict {
   std::string reason = {};  ///< of a refusal, for the user
 };
 
+/// What a row is to the others, for a mark in the fixed column.
+enum class RowMark { None, Target, Jump };
+
+/// A list of texts that pops up at the current cell of one column.
+struct CellList {
+  ListBox* Box = nullptr;  ///< on show while `Visible`; its `Click` picks
+  int Col = 0;
+  Handler<bool()> Show;  ///< false: the current cell has none
+  Handler<void(const std::string& typed)> Filter;
+};
+
 /// A grid of texts with fixed header rows and columns. Rows and columns count from 0 and include
 /// the fixed ones. The texts are the editing buffer: what the user types lands here.
 /// `Revision` rises with every change that a drawing of the grid must show.
@@ -67,6 +78,7 @@ struct Grid : Control {
   int TopRow = 0;              ///< first body row on show
   bool Redraw = true;          ///< false: painting waits
   std::uint64_t Revision = 0;
+  Colour EditColour = kWindowColour;  ///< ground of the cell that is edited
   /// Columns share the width that the view has, each at least as wide as its longest text.
   bool FitsView = false;
 
@@ -74,15 +86,25 @@ struct Grid : Control {
   Handler<bool(int row, int col)> CanEdit;
   /// Asked when an edit ends, with the text to show in `text` where it accepts.
   Handler<EditVerdict(int row, int col, std::string& text)> AcceptEdit;
-  Handler<int(int col)> MaxLength;           ///< characters; 0: no limit
+  Handler<int(int col)> MaxLength;  ///< characters; 0: no limit
+  /// What an edit puts in for a typed character of ASCII; 0 drops it. Others pass where the column
+  /// takes composed text.
+  Handler<char(int col, char typed)> FoldKey;
   Handler<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
   Handler<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
+  Handler<bool(int row, int col)> IsUnused;  ///< what stands there counts for nothing: drawn grey
+  Handler<RowMark(int row)> MarkOfRow;
   Handler<std::string(int row, int col)> CellToolTip;
   Handler<void()> SelChange;
   /// The Enter or Tab key with no edit open or after one was accepted: moves the current cell.
   Handler<void(bool backwards)> MoveOn;
   /// The Enter key, the space bar or a double click, for a grid whose cells are chosen, not edited.
   Handler<void()> Choose;
+  Handler<void()> DeleteKey;  ///< in place of an edit that ends with an empty text
+  Handler<bool()> DownAtEnd;  ///< the down arrow on the last row; true: it has moved the cell
+  /// F12, and a double click in a cell: to the row that the current one names. True: it went.
+  Handler<bool(bool by_key)> GoToTarget;
+  CellList List;
   Handler<void()> Copy;   ///< Ctrl+C
   Handler<void()> Paste;  ///< Ctrl+V
 

@@ -16,12 +16,13 @@ namespace tr7 {
 /// switched off while that view is in front.
 struct ViewCommands {
   Handler<void()> New, Open, Save, SaveAs, Print;
-  Handler<void()> Copy, Paste, InsertLine, DeleteLine;
+  Handler<void()> Undo, Redo, Copy, Paste, InsertLine, DeleteLine;
 };
 
 /// Which edit commands the selection of a view allows; the frame's menus follow it.
 struct EditStates {
   bool Copy = false, Paste = false, Insert = false, Delete = false;
+  bool Undo = false, Redo = false;
 };
 
 /// Who asks a view to close.

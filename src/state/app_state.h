@@ -21,6 +21,7 @@ struct AppStateRecord {
   Bool16 CtMode;         ///< False position mode, True program mode
   Bool16 CtModeOfCt;     ///< the mode that the controller reported last
   Bool16 AxesMayBeHeld;  ///< a write could not release its axes: the next connection does
+  Bool16 ProgStepsRead;  ///< the step counts of the controller's programs are known
   Bool16 CtModePending;  ///< a mode was written that the controller takes at its next power cycle
   /// Axis not in use on the PC side; the same fact is called AxisAbsent where devices are meant.
   AxisArray<Bool16> AxisMuko;

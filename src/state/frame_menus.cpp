@@ -50,11 +50,12 @@ void ToolBar_Yuko() {
 
 void Menyu_Muko() {
   FrmMain& f = frmMain;
-  Enable({&f.mnuFile, &f.mnuFileNew, &f.mnuFileOpen, &f.mnuFileSave, &f.mnuFileSaveAs,
-          &f.mnuFileClose, &f.mnuFilePrint, &f.mnuEdit, &f.mnuEditCopy, &f.mnuEditPaste,
-          &f.mnuEditInsert, &f.mnuEditLineDelete, &f.mnuView, &f.mnuCont, &f.mnuMonitor,
-          &f.mnuSetting, &f.mnuWindow, &f.mnuHelp},
-         false);
+  Enable(
+      {&f.mnuFile,      &f.mnuFileNew,   &f.mnuFileOpen,   &f.mnuFileSave,       &f.mnuFileSaveAs,
+       &f.mnuFileClose, &f.mnuFilePrint, &f.mnuEdit,       &f.mnuEditUndo,       &f.mnuEditRedo,
+       &f.mnuEditCopy,  &f.mnuEditPaste, &f.mnuEditInsert, &f.mnuEditLineDelete, &f.mnuView,
+       &f.mnuCont,      &f.mnuMonitor,   &f.mnuSetting,    &f.mnuWindow,         &f.mnuHelp},
+      false);
 }
 
 void Menyu_Yuko() {
@@ -71,11 +72,14 @@ View& FrontView() { return ActiveView() ? *ActiveView() : frmPosi; }
 void SwitchEditCommands() {
   FrmMain& f = frmMain;
   const EditStates& edit = FrontView().Edit;
+  f.mnuEditUndo.Enabled = edit.Undo;
+  f.mnuEditRedo.Enabled = edit.Redo;
   f.mnuEditCopy.Enabled = edit.Copy;
   f.mnuEditPaste.Enabled = edit.Paste;
   f.mnuEditInsert.Enabled = edit.Insert;
   f.mnuEditLineDelete.Enabled = edit.Delete;
-  f.mnuEdit.Enabled = edit.Copy || edit.Paste || edit.Insert || edit.Delete;
+  f.mnuEdit.Enabled =
+      edit.Undo || edit.Redo || edit.Copy || edit.Paste || edit.Insert || edit.Delete;
 }
 
 void FollowActiveView() {
@@ -100,12 +104,8 @@ void ChangeMenuDisp(Bool16 mode) {
   FrmMain& f = frmMain;
   ShowAndEnable({&f.mnuFileNewProg, &f.mnuFileOpenProg}, mode);
   ShowAndEnable({&f.mnuViewGrp, &f.mnuViewSM}, !mode);
-  if (mode) {
-    f.mnuContProg.Visible = true;
-    Enable({&f.mnuContProgRead, &f.mnuContProgTask}, true);
-  } else {
-    ShowAndEnable({&f.mnuContProg}, false);
-  }
+  if (mode) Enable({&f.mnuContProgRead, &f.mnuContProgTask}, true);
+  ShowAndEnable({&f.mnuContProg}, mode);
   f.mnuSettingOnline.Enabled = AppState.Offline;
   f.mnuSettingOffline.Enabled = !AppState.Offline;
   f.mnuSettingDeviceOnline.Enabled = !AppState.Offline;
@@ -122,13 +122,13 @@ void DispControlerMode() {
 void SwitchOffUnbuiltCommands() {
   FrmMain& f = frmMain;
   for (Menu* menu : {&f.mnuFileNewProg, &f.mnuFileOpenProg, &f.mnuFilePrint, &f.mnuViewSysPara,
-                     &f.mnuViewGrp, &f.mnuViewSM, &f.mnuContProg, &f.mnuContProgRead,
-                     &f.mnuContProgTask, &f.mnuMonitorIO, &f.mnuMonitorHensu}) {
+                     &f.mnuViewGrp, &f.mnuViewSM, &f.mnuContProgRead, &f.mnuContProgTask,
+                     &f.mnuMonitorIO, &f.mnuMonitorHensu}) {
     if (!menu->Click) menu->Enabled = false;
   }
-  for (int place : {kToolPrint, kToolCut, kToolPrgEdit, kToolPrgExe}) {
-    f.tbToolBar.At(place).Enabled = false;
-  }
+  EnableTools({kToolPrint, kToolCut}, false);
+  if (!f.mnuFileOpenProg.Click) EnableTools({kToolPrgEdit}, false);
+  if (!f.mnuContProgTask.Click) EnableTools({kToolPrgExe}, false);
 }
 
 }  // namespace tr7

@@ -8,6 +8,7 @@ namespace tr7 {
 
 void SetOffline() {
   AppState.Offline = True;
+  AppState.ProgStepsRead = False;
   frmMain.imgOnline.Visible = false;
   frmMain.lblOnline.Caption = Text(5117);
 }

@@ -188,8 +188,9 @@ class ListBoxBinding : public QObject, public WidgetBinding {
   ListBoxBinding(ListBox& record, QListWidget& list)
       : WidgetBinding(record, list), record_(record), list_widget_(list) {
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this](int row) {
-      if (pushing_ || row < 0 || record_.ListIndex == row) return;
-      record_.ListIndex = row;
+      if (!pushing_ && row >= 0) record_.ListIndex = row;
+    });
+    QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
       if (record_.Click) record_.Click();
     });
   }

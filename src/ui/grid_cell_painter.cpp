@@ -38,6 +38,7 @@ QColor GridCellPainter::Ground(int row, int col, bool enabled) const {
   QColor ground = colour == kWindowColour   ? look::kBase
                   : colour == kHeaderColour ? look::kHeader
                                             : QColor::fromRgb(static_cast<QRgb>(colour));
+  if (grid_.IsUnused && grid_.IsUnused(row, col)) ground = look::kUnusedCell;
   if (IsMarked(row, col)) ground = look::kMarkedCell;
   if (!enabled) ground = Mixed(ground, look::kWindow, 0.55);
   return ground;
@@ -50,6 +51,18 @@ void GridCellPainter::PaintMark(QPainter& painter, const QRect& cell) const {
   painter.setPen(Qt::NoPen);
   painter.setBrush(look::kText);
   painter.drawPolygon(QPolygon({corner, corner + QPoint(kSide, 0), corner + QPoint(0, kSide)}));
+  painter.setBrush(Qt::NoBrush);
+}
+
+/// The current cell has a list.
+void GridCellPainter::PaintArrow(QPainter& painter, const QRect& field) const {
+  constexpr int kHalf = 4;
+  painter.fillRect(field, look::kHeader);
+  const QPoint centre = field.center();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(look::kText);
+  painter.drawPolygon(QPolygon(
+      {centre + QPoint(-kHalf, -2), centre + QPoint(kHalf, -2), centre + QPoint(0, kHalf - 2)}));
   painter.setBrush(Qt::NoBrush);
 }
 
@@ -82,6 +95,7 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   painter->drawText(option.rect.adjusted(3, 0, -4, 0), Qt::AlignVCenter | AlignmentOf(col, text),
                     text.trimmed());
   if (!current || !enabled) return;
+  if (grid_.List.Box && col == grid_.List.Col) PaintArrow(*painter, ListArrowIn(option.rect));
   painter->setPen(QPen(look::kSelection, 2));
   painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
 }

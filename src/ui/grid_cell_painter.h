@@ -1,12 +1,19 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "forms/grid.h"
 
 namespace tr7 {
 
 class GridModel;
+
+/// The field of the arrow that opens a cell's list.
+inline QRect ListArrowIn(const QRect& cell) {
+  constexpr int kWidth = 16;
+  return cell.adjusted(std::max(cell.width() - kWidth, 0), 2, -2, -2);
+}
 
 /// Paints body cells straight from the record: column colour, mark, selection, current cell, text.
 class GridCellPainter : public QStyledItemDelegate {
@@ -22,6 +29,7 @@ class GridCellPainter : public QStyledItemDelegate {
   bool IsSelected(int row, int col) const;
   bool IsMarked(int row, int col) const;
   QColor Ground(int row, int col, bool enabled) const;
+  void PaintArrow(QPainter& painter, const QRect& field) const;
   void PaintMark(QPainter& painter, const QRect& cell) const;
   Qt::Alignment AlignmentOf(int col, const QString& text) const;
 

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 
 #include "ui/cell_bubble.h"
+#include "ui/folding_validator.h"
 #include "ui/grid_table.h"
 
 namespace tr7 {
@@ -17,6 +18,10 @@ bool IsTab(int key) { return key == Qt::Key_Tab || key == Qt::Key_Backtab; }
 
 bool GoesBack(const QKeyEvent& key) {
   return key.key() == Qt::Key_Backtab || key.modifiers() & Qt::ShiftModifier;
+}
+
+bool OpensList(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Space && key.modifiers() == Qt::ControlModifier;
 }
 
 /// A key that puts a character: those start an edit.
@@ -43,9 +48,20 @@ void GridTable::StartEdit(EditStart start, const QString& typed) {
                                                                      : Qt::AlignLeft);
   const int longest = grid_->MaxLength ? grid_->MaxLength(edit_col_) : 0;
   if (longest > 0) editor_->setMaxLength(longest);
+  if (grid_->FoldKey) editor_->setValidator(new FoldingValidator(*grid_, edit_col_, editor_));
+  if (grid_->EditColour != kWindowColour) {
+    QPalette palette = editor_->palette();
+    palette.setColor(QPalette::Base, QColor::fromRgb(static_cast<QRgb>(grid_->EditColour)));
+    editor_->setPalette(palette);
+  }
   const bool composes = grid_->InputMethodOn && grid_->InputMethodOn(edit_col_);
   editor_->setAttribute(Qt::WA_InputMethodEnabled, composes);
   editor_->installEventFilter(this);
+  connect(editor_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (!ListIsOpen()) return;
+    grid_->List.Filter(text.toStdString());
+    PlaceList();
+  });
   if (start == EditStart::Typed) {
     editor_->setText(typed);
   } else {
@@ -59,6 +75,7 @@ void GridTable::StartEdit(EditStart start, const QString& typed) {
 
 void GridTable::PlaceEditor() {
   if (bubble_->isVisible()) bubble_->PlaceAt(ViewRect(refused_));
+  PlaceList();
   if (!editor_) return;
   const QRect cell = CellRect(edit_row_, edit_col_);
   editor_->setGeometry(cell.adjusted(1, 1, -1, -1));
@@ -100,6 +117,10 @@ bool GridTable::FinishEdit() {
 /// The Delete key, where the cell's rule takes an empty text.
 void GridTable::EmptyCell() {
   if (!grid_->MayEdit(grid_->Row, grid_->Col)) return;
+  if (grid_->DeleteKey) {
+    grid_->DeleteKey();
+    return Push();
+  }
   grid_->SelectCell(grid_->Row, grid_->Col);
   const EditVerdict verdict = grid_->EndEdit(grid_->Row, grid_->Col, "");
   Push();
@@ -156,6 +177,11 @@ bool GridTable::LeavesSideways(int key) const {
 
 /// True when the key was one that ends or changes the edit.
 bool GridTable::OnEditorKey(const QKeyEvent& key) {
+  if (OnListKey(key)) return true;
+  if (OpensList(key)) {
+    OpenList();
+    return true;
+  }
   if (key.key() == Qt::Key_Escape) {
     CloseEditor();
     return true;
@@ -201,6 +227,7 @@ bool GridTable::eventFilter(QObject* watched, QEvent* event) {
       const bool asks = next == this || qobject_cast<const QAbstractButton*>(next);
       const bool stays = asks || reason == Qt::PopupFocusReason ||
                          reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
+      if (next != this) CloseList();
       if (!stays) FinishEdit();
       return false;
     }
@@ -210,7 +237,10 @@ bool GridTable::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool GridTable::event(QEvent* event) {
-  if (event->type() == QEvent::FocusOut && !editor_) bubble_->hide();
+  if (event->type() == QEvent::FocusOut && grid_ && !editor_) {
+    bubble_->hide();
+    CloseList();
+  }
   if (grid_ && event->type() == QEvent::KeyPress) {
     auto* key = static_cast<QKeyEvent*>(event);
     const bool control = key->modifiers() & Qt::ControlModifier;
@@ -222,7 +252,8 @@ bool GridTable::event(QEvent* event) {
   if (grid_ && event->type() == QEvent::ShortcutOverride) {
     auto* key = static_cast<QKeyEvent*>(event);
     const bool ours = (grid_->Copy && key->matches(QKeySequence::Copy)) ||
-                      (grid_->Paste && key->matches(QKeySequence::Paste));
+                      (grid_->Paste && key->matches(QKeySequence::Paste)) ||
+                      (ListIsOpen() && (key->key() == Qt::Key_Escape || IsEnter(key->key())));
     if (ours) {
       event->accept();
       return true;
@@ -232,7 +263,8 @@ bool GridTable::event(QEvent* event) {
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {
-  if (!grid_) return;
+  if (!grid_ || OnListKey(*event)) return;
+  if (OpensList(*event)) return OpenList();
   if (grid_->Copy && event->matches(QKeySequence::Copy)) return grid_->Copy();
   if (grid_->Paste && event->matches(QKeySequence::Paste)) return grid_->Paste();
   if (event->matches(QKeySequence::SelectAll)) return SelectAll();
@@ -241,6 +273,8 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     focusNextPrevChild(!GoesBack(*event));
   } else if (event->key() == Qt::Key_F2) {
     StartEdit(EditStart::InPlace);
+  } else if (event->key() == Qt::Key_F12 && grid_->GoToTarget) {
+    GoToTarget(true);
   } else if (Chooses(*event)) {
     if (!event->isAutoRepeat()) ChooseCell();  // a key that is held down chooses once
   } else if (IsEnter(event->key())) {
@@ -252,7 +286,9 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
   } else if (MoveByKey(*event)) {
     return;
   } else if (Types(*event)) {
-    StartEdit(EditStart::Typed, event->text());
+    // A key that the column does not take leaves the cell alone.
+    const QString typed = FoldingValidator::Folded(*grid_, grid_->Col, event->text());
+    if (!typed.isEmpty()) StartEdit(EditStart::Typed, typed);
   } else {
     event->ignore();
   }

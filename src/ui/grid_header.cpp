@@ -81,6 +81,24 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
   painter->restore();
 }
 
+/// A place that can be gone to is a disc, and a step that goes there an arrow.
+void GridRowHeader::PaintMark(QPainter& painter, const QRect& rect, RowMark mark) const {
+  constexpr double kHalf = 3.5;
+  if (mark == RowMark::None) return;
+  const QPointF at(rect.left() + kRowMarkWidth / 2.0 + 1, rect.center().y() + 0.5);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(isEnabled() ? look::kSelection : look::kFaintText);
+  if (mark == RowMark::Target) {
+    painter.drawEllipse(at, kHalf, kHalf);
+  } else {
+    painter.drawPolygon(QPolygonF(
+        {at + QPointF(-kHalf, -kHalf), at + QPointF(kHalf, 0), at + QPointF(-kHalf, kHalf)}));
+  }
+  painter.restore();
+}
+
 void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
   if (!grid_ || !rect.isValid() || grid_->FixedCols == 0) return;
   const int row = section + grid_->FixedRows;
@@ -91,6 +109,7 @@ void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int secti
   painter->setPen(look::kHeaderLine);
   painter->drawLine(rect.bottomLeft(), rect.bottomRight());
   painter->drawLine(rect.topRight(), rect.bottomRight());
+  if (grid_->MarkOfRow) PaintMark(*painter, rect, grid_->MarkOfRow(row));
   painter->setPen(isEnabled() ? look::kText : look::kFaintText);
   painter->drawText(rect, Qt::AlignCenter, Q(grid_->Text(row, grid_->FixedCols - 1)));
 }

@@ -31,6 +31,9 @@ class GridHeader : public QHeaderView {
   const Grid* grid_ = nullptr;
 };
 
+/// Room beside the number of a row for its mark, pixels.
+inline constexpr int kRowMarkWidth = 12;
+
 /// The fixed column: one text a row, shaded where the selection runs.
 class GridRowHeader : public QHeaderView {
   Q_OBJECT
@@ -45,6 +48,8 @@ class GridRowHeader : public QHeaderView {
   void paintSection(QPainter* painter, const QRect& rect, int section) const override;
 
  private:
+  void PaintMark(QPainter& painter, const QRect& rect, RowMark mark) const;
+
   const Grid* grid_ = nullptr;
 };
 

@@ -56,6 +56,13 @@ void GridTable::ShowCurrent() {
   if (InBody(grid_->Row, grid_->Col)) scrollTo(IndexOf(grid_->Row, grid_->Col));
 }
 
+/// False: the current cell names no row.
+bool GridTable::GoToTarget(bool by_key) {
+  if (!grid_->GoToTarget || !grid_->GoToTarget(by_key)) return false;
+  Push();
+  return true;
+}
+
 void GridTable::SelectAll() {
   if (grid_->Rows() <= grid_->FixedRows) return;
   grid_->Select(grid_->FixedRows, grid_->FixedCols, grid_->Rows() - 1, grid_->Cols() - 1);
@@ -101,6 +108,10 @@ bool GridTable::MoveByKey(const QKeyEvent& key) {
       GoTo(far ? first_row : row - 1, col, extend);
       return true;
     case Qt::Key_Down:
+      if (!extend && !far && row == last_row && grid_->DownAtEnd && grid_->DownAtEnd()) {
+        Push();
+        return true;
+      }
       GoTo(far ? last_row : row + 1, col, extend);
       return true;
     case Qt::Key_Left:
@@ -128,7 +139,13 @@ bool GridTable::MoveByKey(const QKeyEvent& key) {
 
 void GridTable::mousePressEvent(QMouseEvent* event) {
   int row = 0, col = 0;
-  if (!FinishEdit() || !CellAt(event->position().toPoint(), row, col)) return;
+  const bool list_was_open = ListIsOpen();
+  if (!FinishEdit()) return;
+  CloseList();
+  if (event->button() == Qt::LeftButton && ListArrow().contains(event->position().toPoint())) {
+    return list_was_open ? CloseList() : OpenList();
+  }
+  if (!CellAt(event->position().toPoint(), row, col)) return;
   const auto [top, bottom] = std::minmax(grid_->Row, grid_->RowSel);
   const auto [left, right] = std::minmax(grid_->Col, grid_->ColSel);
   const bool inside = row >= top && row <= bottom && col >= left && col <= right;
@@ -159,6 +176,7 @@ void GridTable::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!CellAt(event->position().toPoint(), row, col)) return;
   GoTo(row, col, false);
   if (grid_->Choose) return ChooseCell();
+  if (GoToTarget(false)) return;
   StartEdit(EditStart::InPlace);
 }
 

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -57,6 +58,9 @@ void GridTable::Attach(Grid& grid) {
   static_cast<GridRowHeader*>(verticalHeader())->Attach(&grid);
   // By the size of the letters: the line height of a Japanese font would cost every fifth line.
   verticalHeader()->setDefaultSectionSize(qRound(QFontInfo(font()).pixelSize() * kLineInEms));
+  list_ = findChild<QListWidget*>();
+  // A click on the list picks in place of what is typed.
+  if (list_) connect(list_, &QListWidget::itemPressed, this, [this] { CloseEditor(); });
   verticalHeader()->setVisible(grid.FixedCols > 0);
   header_->setVisible(grid.FixedRows > 0);
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
@@ -137,7 +141,8 @@ void GridTable::FillWidth() {
   }
   if (grid_->FixedCols > 0) {
     const int least = fontMetrics().horizontalAdvance("9999") + 6;
-    verticalHeader()->setFixedWidth(std::max(scaled(grid_->ColWidth(0)), least));
+    const int mark = grid_->MarkOfRow ? 2 * kRowMarkWidth : 0;
+    verticalHeader()->setFixedWidth(std::max(scaled(grid_->ColWidth(0)), least) + mark);
   }
   if (rest_col >= 0) {
     header_->resizeSection(rest_col,
@@ -192,6 +197,7 @@ void GridTable::Push() {
   const std::pair current{grid_->Row, grid_->Col};
   if (shown_current_ != current) {
     shown_current_ = current;
+    CloseList();
     ShowCurrent();
   }
   PlaceEditor();

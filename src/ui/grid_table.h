@@ -8,6 +8,7 @@
 #include "ui/binding.h"
 
 class QLineEdit;
+class QListWidget;
 
 namespace tr7 {
 
@@ -68,8 +69,18 @@ class GridTable : public QTableView {
   bool Chooses(const QKeyEvent& key) const;
   void ChooseCell();
 
+  // The list at the current cell: grid_list.cpp.
+  bool ListIsOpen() const;
+  void OpenList();
+  void CloseList();
+  void PickFromList();
+  void PlaceList();
+  bool OnListKey(const QKeyEvent& key);
+  QRect ListArrow() const;
+
   // Moving and selecting: grid_moves.cpp.
   bool MoveByKey(const QKeyEvent& key);
+  bool GoToTarget(bool by_key);
   int NextShownCol(int col, int step) const;
   int LastShownCol() const;
   int PageRows() const;
@@ -101,6 +112,7 @@ class GridTable : public QTableView {
   int edit_row_ = 0, edit_col_ = 0;
   EditStart edit_start_ = EditStart::Typed;
   bool finishing_ = false;
+  QListWidget* list_ = nullptr;  ///< the layout's, above the cells
   CellBubble* bubble_;
   std::pair<int, int> refused_{};  ///< the cell that the bubble stands at
   bool dragging_ = false;

@@ -17,6 +17,7 @@ inline const QColor kHeader{0xe3, 0xe9, 0xef};
 inline const QColor kHeaderSelected{0xc4, 0xd8, 0xea};
 inline const QColor kHeaderLine{0xc2, 0xcc, 0xd6};
 inline const QColor kGridLine{0xd9, 0xdf, 0xe5};
+inline const QColor kUnusedCell{0xe9, 0xeb, 0xed};
 inline const QColor kMarkedCell{0xff, 0xc9, 0xc4};
 
 /// Style, palette and fonts of the whole program.

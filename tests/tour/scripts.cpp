@@ -11,6 +11,7 @@
 #include "state/text.h"
 #include "tests/tour/data_script.h"
 #include "tests/tour/motion_script.h"
+#include "tests/tour/prog_script.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -284,6 +285,7 @@ const std::vector<Script>& Scripts() {
       {"offline", {"--mode", "prg"}, OfflineFirst},
       {"motion", {}, MoveAndTeach},
       {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
+      {"prog", {"--mode", "prg"}, EditProgram},
       {"compare", {}, CompareJob},
       {"data", {}, WorkOnData}};
   return scripts;

@@ -109,11 +109,21 @@ void User::Choose(Menu& menu, Menu& command) {
     }
     return {};
   });
+  ClickEntry(command);
+}
+
+void User::Choose(Menu& menu, Menu& submenu, Menu& command) {
+  Choose(menu, submenu);
+  ClickEntry(command);
+}
+
+void User::ClickEntry(Menu& command) {
   ClickPlace(NameOf(command), [&command]() -> Place {
     auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!popup) return {};
     for (QAction* action : popup->actions()) {
-      const bool it = action->objectName() == QString::fromStdString(command.Name);
+      const QString& name = action->menu() ? action->menu()->objectName() : action->objectName();
+      const bool it = name == QString::fromStdString(command.Name);
       if (it && action->isEnabled()) return {popup, popup->actionGeometry(action).center()};
     }
     return {};

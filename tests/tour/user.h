@@ -34,6 +34,7 @@ class User {
   void Hold(HoldButton& button, int ms, const char* picture = nullptr);
   void ClickTab(TabStrip& strip, int index);
   void Choose(Menu& menu, Menu& command);
+  void Choose(Menu& menu, Menu& submenu, Menu& command);
   void Pick(ComboBox& list, int index);
   void Pick(ComboBox& list, const std::string& entry);
   /// Turns to a page of the view's own tabs, from 0; false when there is none of that number.
@@ -94,6 +95,7 @@ class User {
   /// Waits until the control's widget is shown and `seen` holds for it.
   template <typename Widget, typename Seen>
   void SeeWidget(const Control& control, const std::string& what, Seen seen);
+  void ClickEntry(Menu& command);
   void SeeFocus();
   QTabWidget* TabsOf(View& view) const;
 

@@ -11,6 +11,7 @@
 #include "forms/control.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
+#include "prog/prog_view.h"
 #include "state/views.h"
 #include "tests/ui/clipping.h"
 #include "tests/ui/ui_test.h"
@@ -35,6 +36,7 @@ class LayoutTest : public UiTest, public ::testing::WithParamInterface<bool> {
 
   /// Draws every view as it is before any logic has touched it, the frame first.
   std::vector<const BoundView*> DrawAll() {
+    NewProgView();
     std::vector<View*> views = AllViews();
     std::stable_partition(views.begin(), views.end(), [](View* view) { return view == &frmMain; });
     std::vector<const BoundView*> drawn;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "prog/prog_store.h"
+
+namespace tr7 {
+
+/// Writes the listing as it stands. 0; 1 with `FileFault`, and the old file is whole.
+int SaveFileProgAs2(const std::string& path, ProgView& view);
+
+/// Reads a program file into `ProgFileDA`, which stays whole unless all is read. 0; 1 with
+/// `FileFault`, or after a file of another kind has been told. Rows that the file's count announces
+/// and that it lacks are empty; rows beyond the count refuse it.
+int OpenProgFile(const std::string& path, ProgStore& store);
+
+/// The view's caption after the file: "Program [name]".
+void ShowProgFileName(const std::string& path, ProgView& view);
+
+}  // namespace tr7

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "prog/prog_store.h"
+
+namespace tr7 {
+
+// The flows of a program view. Each tells the user how it ended.
+
+/// `cmdProgWrite`.
+void ProgDataWrite2Ct(ProgView& view);
+/// `cmdProgVerifyCt`. A failed read closes the view, which asks for what is not saved.
+void cmdProgVerifyCt_Click(ProgView& view);
+/// Save As, of a program with errors too where the user says so.
+void ProgDataSaveAs(ProgView& view);
+
+/// Asks for a program of the controller and reads it; false where there is none to show.
+[[nodiscard]] bool ProgDataGetfromCt(int& program, std::vector<ProgStep>& steps);
+/// Asks for a file and reads it into the view; false where nothing has come.
+bool ProgDataFileOpen(ProgView& view);
+
+/// The 100 step counts, unless they are known.
+[[nodiscard]] bool KnowProgStepCounts();
+
+}  // namespace tr7

@@ -1,0 +1,62 @@
+#include "prog/prog_undo.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "prog/prog_listing.h"
+
+namespace tr7 {
+namespace {
+
+constexpr std::size_t kMostEdits = 200;
+
+ListingShot ShotOf(const Grid& listing) {
+  ListingShot shot{{}, listing.Row, listing.Col};
+  for (int step = 1; step <= ListingSteps(listing); ++step) {
+    shot.steps.push_back(CellsOfStep(listing, step));
+  }
+  return shot;
+}
+
+void Show(Grid& listing, const ListingShot& shot) {
+  {
+    const ListingQuiet quiet(listing);
+    listing.SetRows(static_cast<int>(shot.steps.size()) + 1);
+    FGProg_ReNumber(listing);
+    for (std::size_t i = 0; i < shot.steps.size(); ++i) {
+      PutCells(listing, static_cast<int>(i) + 1, shot.steps[i]);
+    }
+  }
+  listing.SelectCell(std::min(shot.row, ListingSteps(listing)), shot.column);
+}
+
+/// What stands at the end of `from` comes back, and what it replaces can be brought back from `to`.
+bool BringBack(ProgView& view, std::vector<ListingShot>& from, std::vector<ListingShot>& to) {
+  if (from.empty()) return false;
+  const ListingShot shot = std::move(from.back());
+  from.pop_back();
+  to.push_back(ShotOf(view.flgdProg));
+  Show(view.flgdProg, shot);
+  view.Store.ProgChanged = True;
+  return true;
+}
+
+}  // namespace
+
+void RememberForUndo(ProgView& view) {
+  auto& done = view.Store.Undo;
+  done.push_back(ShotOf(view.flgdProg));
+  if (done.size() > kMostEdits) done.erase(done.begin());
+  view.Store.Redo.clear();
+}
+
+bool ProgUndo(ProgView& view) { return BringBack(view, view.Store.Undo, view.Store.Redo); }
+
+bool ProgRedo(ProgView& view) { return BringBack(view, view.Store.Redo, view.Store.Undo); }
+
+void ForgetUndo(ProgView& view) {
+  view.Store.Undo.clear();
+  view.Store.Redo.clear();
+}
+
+}  // namespace tr7

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "prog/prog_store.h"
+
+namespace tr7 {
+
+// Undo and redo of edits in a listing, each view for itself. A load forgets them.
+
+/// Before an edit: what the listing shows can be brought back. What was undone is gone for good.
+void RememberForUndo(ProgView& view);
+
+/// Take back the last edit, or the last taking back. False: there is none.
+bool ProgUndo(ProgView& view);
+bool ProgRedo(ProgView& view);
+
+void ForgetUndo(ProgView& view);
+
+}  // namespace tr7

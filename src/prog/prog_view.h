@@ -1,0 +1,23 @@
+#pragma once
+
+#include "prog/prog_store.h"
+
+namespace tr7 {
+
+/// A new program view with one empty step, wired and not shown yet.
+ProgView& NewProgView();
+
+/// The frame's commands: an empty program for a number, a file and a program of the controller,
+/// each in a view of its own.
+void NewProgram();
+void OpenProgram();
+void ReadProgramData();
+
+/// `SelChange` of the listing: what the cell takes and what its command does in the status panel,
+/// and which line commands there are.
+void ProgSelectionMoved(ProgView& view);
+
+/// Wires the frame's program commands and the views that there is one of.
+void InstallProgViews();
+
+}  // namespace tr7

@@ -1,0 +1,166 @@
+// The listing under the user's hands, and the file that keeps it.
+
+#include "forms/frm_main.h"
+#include "prog/prog_clip.h"
+#include "prog/prog_lines.h"
+#include "prog/prog_popup.h"
+#include "prog/prog_targets.h"
+#include "prog/prog_undo.h"
+#include "tests/prog/prog_user.h"
+
+namespace tr7 {
+namespace {
+
+class ProgListing : public ProgUser {
+ protected:
+  ProgListing() { StartOffline(true); }
+
+  static std::string KeysOf(int col, const std::string& typed) {
+    std::string taken;
+    for (const char c : typed) {
+      if (const char key = ProgKey(col, c)) taken += key;
+    }
+    return taken;
+  }
+};
+
+TEST_F(ProgListing, KeysAreDroppedAndFoldedByColumn) {
+  const char* const kTyped = "mvP4i5opfr./-!\"";
+  const char* const kTaken[] = {"MVP4IOPFR/-!", "P4I5OPfr.", "P4I5OPfr.-",
+                                "P4I5OPfr/-",   "P4I5OPfr",  "mvP4i5opfr./-!\""};
+  for (int col = 1; col <= 6; ++col) EXPECT_EQ(KeysOf(col, kTyped), kTaken[col - 1]) << col;
+}
+
+TEST_F(ProgListing, LinesComeAndGo) {
+  ProgView& view = Program({"LB 1", "LB 2", "LB 3"});
+  Grid& listing = view.flgdProg;
+  EXPECT_EQ(listing.TypeInto(1, 1, "lb"), 1);
+  EXPECT_TRUE(view.Store.ProgCmdBad && forms.beeps == 1);
+  EXPECT_EQ(listing.Text(1, 1), "LB");
+  listing.SelectCell(1, 1);
+  ASSERT_TRUE(ShowCommandList(view));
+  EXPECT_EQ(view.List1.List.at(view.List1.ListIndex), "LB");
+  FilterCommandList(view, "mv");
+  EXPECT_EQ(view.List1.List, (Texts{"MVP", "MVA", "MVI", "MVD"}));
+  view.List1.ListIndex = 2;
+  view.List1.Click();
+  EXPECT_EQ(listing.Text(1, 1), "MVI");
+  EXPECT_TRUE(ProgUndo(view) && !view.List1.Visible);
+  listing.SelectCell(2, 2);
+  ProgDeleteKey(view);
+  EXPECT_TRUE(listing.Text(2, 2).empty() && ProgUndo(view));
+  cmdInsLineProg_Click(view);
+  EXPECT_EQ(Boxes(), Texts{Text(388) + "\n" + Text(389)});
+  listing.Select(2, 1, 2, 6);
+  view.cmdInsLineProg.Press();
+  EXPECT_EQ(Steps(view), (Texts{"LB 1", "", "LB 2", "LB 3"}));
+  EXPECT_EQ(listing.Text(4, 0), "4");
+  listing.Select(3, 6, 2, 1);
+  view.cmdDelLineProg.Press();
+  EXPECT_EQ(Steps(view), (Texts{"LB 1", "LB 3"}));
+  listing.SelectCell(2, 6);
+  ProgEnterKey(view);
+  EXPECT_EQ(listing.Row * 10 + listing.Col, 31);
+  EXPECT_TRUE(ProgDownKey(view));
+  listing.Select(1, 0, 4, 0);
+  view.cmdDelLineProg.Press();
+  EXPECT_EQ(Steps(view), Texts{""}) << "the last line stays";
+  view.Store.ProgCopyNo = 100;
+  Put(view, Repeat(20, "LB 9"));
+  listing.SelectCell(20, 6);
+  ProgEnterKey(view);
+  EXPECT_FALSE(ProgDownKey(view));
+  listing.Select(1, 1, 1, 6);
+  view.cmdInsLineProg.Press();
+  EXPECT_EQ(Steps(view).size(), 20u) << "a full program loses its last step";
+}
+
+TEST_F(ProgListing, LinesTravelOverTheClipboard) {
+  ProgView& from = Program({"MVP 1 _ I1 O1 say\"so", "VEL 400"});
+  from.flgdProg.SelectCell(1, 2);
+  PrgDataLineCopy(from);
+  EXPECT_EQ(Boxes(), Texts{Text(392)});
+  EXPECT_FALSE(ClipHoldsProgLines());
+  from.flgdProg.Select(1, 1, 2, 6);
+  from.cmdProgLineCopy.Press();
+  ProgView& to = Program({"LB 1", "LB 2"});
+  to.flgdProg.SelectCell(2, 3);
+  ProgDataLinePaste(to);
+  EXPECT_EQ(Boxes(), Texts{Text(337)});
+  to.flgdProg.Select(2, 1, 2, 6);
+  ASSERT_TRUE(to.cmdProgLinePaste.Enabled);
+  to.cmdProgLinePaste.Press();
+  EXPECT_EQ(Steps(to), (Texts{"LB 1", "MVP 1 _ I1 O1 say\"so", "VEL 400"}));
+  doors.clipboard->SetText("XYZ\t5");
+  to.flgdProg.SelectCell(1, 1);
+  frmMain.mnuEditPaste.Press();
+  EXPECT_EQ(Steps(to)[0], "LB 5") << "a command that is none keeps the old one";
+  EXPECT_TRUE(ProgUndo(to) && ProgUndo(to) && !ProgUndo(to));
+  EXPECT_EQ(Steps(to), (Texts{"LB 1", "LB 2"}));
+  EXPECT_TRUE(ProgRedo(to));
+  EXPECT_EQ(Steps(to).size(), 3u);
+}
+
+TEST_F(ProgListing, JumpsAndCallsFindTheirTargets) {
+  const Grid& listing = Program({"JUMP 2", "JUMP R2", "CALL 2", "LB 2", "SR 2", "CALL 3"}).flgdProg;
+  std::string targets;
+  for (int step = 1; step <= 6; ++step) targets += std::to_string(TargetOfStep(listing, step));
+  EXPECT_EQ(targets, "405000");
+}
+
+TEST_F(ProgListing, AFileKeepsEveryCell) {
+  ProgView& view = Program({"MVP 1 _ _ O1 a,\"b\"", "VEL 500"});
+  forms.answers = {MsgAnswer::Ok};
+  forms.file_answers = {"/d/job.prg"};
+  view.Store.ProgChanged = True;
+  view.cmdProgSaveAs.Press();
+  EXPECT_EQ(Boxes(), (Texts{Text(134), Text(441)}));
+  EXPECT_EQ(view.Caption, "Program [job]");
+  EXPECT_FALSE(view.Store.ProgChanged);
+  std::string file;
+  ASSERT_TRUE(ReadTextFile("/d/job.prg", file).ok);
+  EXPECT_EQ(file,
+            "\"QV-R7\"\r\n\"Program\"\r\n2\r\n\"MVP\",\"1\",\"\",\"\",\"O1\",\"a,\"\"b\"\"\"\r\n"
+            "\"VEL\",\"500\",\"\",\"\",\"\",\"\"\r\n");
+  forms.file_answers = {"/d/job.prg"};
+  frmMain.mnuFileOpenProg.Press();
+  auto* opened = dynamic_cast<ProgView*>(ActiveView());
+  ASSERT_TRUE(opened && opened != &view);
+  EXPECT_EQ(Steps(*opened), Steps(view));
+}
+
+TEST_F(ProgListing, ABadFileIsRefused) {
+  const std::string head = "\"QV-R7\",\"Program\",";
+  const std::string step = "\"LB\",\"1\",\"\",\"\",\"\",\"\"\r\n";
+  const struct {
+    std::string file;
+    const char* said;  ///< empty: it opens
+  } rows[] = {{head + "3\r\n" + step, ""},
+              {head + "1\r\n" + step + step, "Not Program Data file"},
+              {head + "99999\r\n", "Not Program Data file"},
+              {"\"QV-R7\",\"program\",1\r\n" + step, "Not Program Data file"},
+              {"\"QV-R7\",\"PRM\"", "is a parameter file"},
+              {head + "1\r\n\"LB\",\"1\"", "damaged"},
+              {head + "101\r\n" + step, "1 steps too many for program No. 1 - 7"}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.file);
+    ASSERT_TRUE(SaveTextFile("/d/bad.prg", row.file).ok);
+    forms.file_answers = {"/d/bad.prg"};
+    frmMain.mnuFileOpenProg.Press();
+    EXPECT_EQ(forms.boxes.empty(), !*row.said);
+    EXPECT_TRUE(!*row.said || BoxShown(row.said)) << forms.LastBox();
+    Boxes();
+  }
+}
+
+TEST_F(ProgListing, ClosingAsksForWhatIsNotSaved) {
+  ProgView& view = Program({"LB 1"});
+  view.flgdProg.TypeInto(1, 2, "2");
+  forms.answers = {MsgAnswer::No};
+  frmMain.mnuFileClose.Press();
+  EXPECT_EQ(Boxes(), Texts{Text(1033) + "\n" + Text(1034)});
+  EXPECT_NE(ActiveView(), &view);
+}
+
+}  // namespace
+}  // namespace tr7

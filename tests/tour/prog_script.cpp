@@ -1,0 +1,165 @@
+#include "tests/tour/prog_script.h"
+
+#include <QFileInfo>
+
+#include "forms/frm_main.h"
+#include "forms/frm_prog_no.h"
+#include "forms/frm_prog_syogokekka.h"
+#include "prog/prog_store.h"
+#include "state/text.h"
+#include "state/views.h"
+#include "tests/tour/in_tool.h"
+#include "tests/tour/steps.h"
+
+namespace tr7::tour {
+namespace {
+
+constexpr int kProgram = 3;
+
+ProgView& ProgramInFront(User& user) {
+  const auto front = [] { return dynamic_cast<ProgView*>(ActiveView()); };
+  user.See("a program view", [front] { return front() != nullptr; });
+  return *InTool(front);
+}
+
+void ChooseProgram(User& user, const char* picture = nullptr) {
+  user.See(
+      "the list of programs", [] { return frmProgNo.Visible; }, User::kTransferMs);
+  user.ClickCell(frmProgNo.flgdProgNo, kProgram, 1);
+  user.SeeText(frmProgNo.lblProgNo, std::to_string(kProgram));
+  if (picture) user.Picture(picture);
+  user.Click(frmProgNo.cmdOk);
+}
+
+void TypeCell(User& user, const char* text) {
+  user.Keys(text);
+  user.Key(Qt::Key_Return);
+}
+
+void ToNextStep(User& user, int columns) {
+  while (columns-- > 0) user.Key(Qt::Key_Return);
+}
+
+void SeeListed(User& user, const ProgView& view, std::size_t names) {
+  user.See(std::to_string(names) + " commands in the list",
+           [&view, names] { return view.List1.Visible && view.List1.List.size() == names; });
+}
+
+/// "mvq" is no command; the list offers those that begin with "MV".
+void TypeSteps(User& user, ProgView& view) {
+  constexpr std::size_t kAll = 58, kMoves = 4;
+  Grid& listing = view.flgdProg;
+  user.ClickCell(listing, 1, kProgCommand);
+  TypeCell(user, "mvq");
+  user.Picture("command-refused");
+  user.Key(Qt::Key_Escape);
+  user.SeeCell(listing, 1, kProgCommand, "");
+  user.Key(Qt::Key_Space, Qt::ControlModifier);
+  SeeListed(user, view, kAll);
+  user.Picture("command-list");
+  user.Keys("mv");
+  SeeListed(user, view, kMoves);
+  user.Picture("command-list-filtered");
+  user.Key(Qt::Key_Return);
+  user.SeeCell(listing, 1, kProgCommand, "MVP");
+  user.Key(Qt::Key_Return);
+  TypeCell(user, "1000");
+  ToNextStep(user, 4);
+  TypeCell(user, "JUMP");
+  TypeCell(user, "7");
+  ToNextStep(user, 4);
+  TypeCell(user, "LB");
+  TypeCell(user, "8");
+  user.SeeCell(listing, 3, kProgOperand1, "8");
+}
+
+void CheckAndMend(User& user, ProgView& view) {
+  constexpr int kErrors = 134, kGood = 133;
+  user.ClickCell(view.flgdProg, 1, kProgOperand1);
+  user.Click(view.cmdProgCheck);
+  user.AnswerBox(Text(kErrors), MsgAnswer::Ok);
+  user.SeeOn(view.cmdCloseSyntaxErr);
+  user.Picture("error-pane");
+  user.ClickCell(view.flgdPrgErr, 2, 1);
+  user.Key(Qt::Key_Return);
+  user.See("the jump's step", [&view] { return view.flgdProg.Row == 2; });
+  user.Click(view.cmdCloseSyntaxErr);
+  user.ClickCell(view.flgdProg, 1, kProgOperand1);
+  TypeCell(user, "1");
+  user.ClickCell(view.flgdProg, 3, kProgOperand1);
+  TypeCell(user, "7");
+  user.ClickCell(view.flgdProg, 2, kProgOperand1);
+  user.Picture("mended");
+  user.Key(Qt::Key_F12);
+  user.See("the label's step", [&view] { return view.flgdProg.Row == 3; });
+  user.Click(view.cmdProgCheck);
+  user.AnswerBox(Text(kGood), MsgAnswer::Ok, "program-good");
+  user.SeeReady();
+}
+
+void Save(User& user, ProgView& view) {
+  constexpr int kWriteToFile = 405;
+  const QString path =
+      QFileInfo(user.file).path() + "/" + QFileInfo(user.file).completeBaseName() + ".prg";
+  user.Choose(frmMain.mnuFile, frmMain.mnuFileSaveAs);
+  user.AnswerBox(Text(kWriteToFile), MsgAnswer::Ok);
+  user.ChooseFile(path, "save-program");
+  user.SeeReady();
+  user.See("the saved program",
+           [&view, path] { return QFileInfo(path).size() > 0 && !view.Store.ProgChanged; });
+}
+
+void WriteAndRead(User& user, ProgView& view) {
+  constexpr int kSent = 376;
+  user.Click(view.cmdProgWrite);
+  ChooseProgram(user, "program-list");
+  user.AnswerBox(Text(kSent), MsgAnswer::Ok, "program-written", User::kTransferMs);
+  user.SeeReady();
+  user.Choose(frmMain.mnuCont, frmMain.mnuContProg, frmMain.mnuContProgRead);
+  ChooseProgram(user);
+  user.See("another view", [&view] {
+    const auto* front = dynamic_cast<ProgView*>(ActiveView());
+    return front && front != &view;
+  });
+  user.SeeReady();
+  user.SeeCell(ProgramInFront(user).flgdProg, 2, kProgCommand, "JUMP");
+  user.Picture("program-read");
+}
+
+void Verify(User& user, ProgView& view) {
+  constexpr int kEqual = 826;
+  user.Click(view.cmdProgVerifyCt);
+  ChooseProgram(user);
+  user.AnswerBox(Text(kEqual), MsgAnswer::Ok, "program-equal", User::kTransferMs);
+  user.SeeReady();
+  user.ClickCell(view.flgdProg, 1, kProgOperand1);
+  TypeCell(user, "2");
+  user.Click(view.cmdProgVerifyCt);
+  ChooseProgram(user);
+  user.SeeCell(frmProgSyogokekka.flgdProgSyogoKekka, 1, kProgOperand1, "X");
+  user.Picture("program-differs");
+  user.Click(frmProgSyogokekka.cmdClose);
+  user.SeeReady();
+  user.Choose(frmMain.mnuEdit, frmMain.mnuEditUndo);
+  user.SeeCell(view.flgdProg, 1, kProgOperand1, "1");
+}
+
+}  // namespace
+
+void EditProgram(User& user) {
+  constexpr int kProgramChanged = 1033;
+  PassSplash(user, true);
+  SeeOnline(user, true);
+  user.Choose(frmMain.mnuFile, frmMain.mnuFileNewProg);
+  ChooseProgram(user);
+  ProgView& view = ProgramInFront(user);
+  TypeSteps(user, view);
+  CheckAndMend(user, view);
+  Save(user, view);
+  WriteAndRead(user, view);
+  Verify(user, ProgramInFront(user));
+  user.Choose(frmMain.mnuFile, frmMain.mnuFileExit);
+  user.AnswerBox(Text(kProgramChanged), MsgAnswer::No);
+}
+
+}  // namespace tr7::tour
