@@ -1,4 +1,5 @@
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -112,6 +113,21 @@ TusinEnd JudgeReply(TusinRequest& request) {
   return TusinEnd::Good;
 }
 
+/// How an exchange ends whose bad reply (`verdict`) the controller was asked for sense about;
+/// nothing: it answered, and the command may go out once more.
+std::optional<TusinEnd> JudgeResync(const TusinRequest& request, TusinEnd verdict) {
+  if (IsOvertaken(request)) {
+    TusinQueue.late_reply_possible |= !AppState.TusinReplyReady;
+    return TusinEnd::Withdrawn;
+  }
+  const std::string& reply = AppState.TusinReplyText;
+  if (AppState.GroupMoveStop) return TusinEnd::GroupMoveStopped;
+  if (!AppState.TusinReplyReady) return verdict;
+  if (reply.starts_with(kErrorPrefix)) return TusinEnd::ErrorInResync;
+  if (!reply.starts_with(kResyncPrefix)) return verdict;
+  return std::nullopt;
+}
+
 }  // namespace
 
 Exchange TusinExchange(TusinRequest& request) {
@@ -166,15 +182,7 @@ Exchange TusinExchange(TusinRequest& request) {
     if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
     if (!SendLine(kResyncCommand, kResyncTimeoutMs, 0)) co_return verdict;
     co_await Until{IsResyncOver};
-    if (IsOvertaken(request)) {
-      TusinQueue.late_reply_possible |= !AppState.TusinReplyReady;
-      co_return TusinEnd::Withdrawn;
-    }
-    const std::string& reply = AppState.TusinReplyText;
-    if (AppState.GroupMoveStop) co_return TusinEnd::GroupMoveStopped;
-    if (!AppState.TusinReplyReady) co_return verdict;
-    if (reply.starts_with(kErrorPrefix)) co_return TusinEnd::ErrorInResync;
-    if (!reply.starts_with(kResyncPrefix)) co_return verdict;
+    if (const auto end = JudgeResync(request, verdict)) co_return *end;
     if (resent) co_return TusinEnd::BadTwice;
   }
 }

@@ -107,7 +107,8 @@ int fChangeToOnline() {
 bool ChangeToOnlineFromCommand() { return OpenPortOrTell() && fChangeToOnline() == 0; }
 
 bool ConnectOrOpenPort() {
-  return AppState.Offline ? ChangeToOnlineFromCommand() : OpenPortOrTell();
+  // What answers on a port that was lost may be another controller.
+  return AppState.Offline || PortIsLost() ? ChangeToOnlineFromCommand() : OpenPortOrTell();
 }
 
 void ChangeToOnlineMenu() {
