@@ -25,8 +25,8 @@ struct FrmProg : View {
   CommandButton cmdProgLinePaste{*this, "cmdProgLinePaste", 5212};
   CommandButton cmdProgCheck{*this, "cmdProgCheck", 5213};
 
-  Grid flgdProg{*this, "flgdProg", 2, 7, 1, 1};  ///< row n is step n
   ListBox List1{*this, "List1"};                 ///< command names, popped up at a command cell
+  Grid flgdProg{*this, "flgdProg", 2, 7, 1, 1};  ///< row n is step n
   Grid flgdPrgErr{*this, "flgdPrgErr", 11, 3, 1, 1};
   CommandButton cmdCloseSyntaxErr{*this, "cmdCloseSyntaxErr", 2202};
   bool ErrPaneIsOpen = false;

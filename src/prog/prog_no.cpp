@@ -16,7 +16,9 @@ void Load() {
   Grid& list = frmProgNo.flgdProgNo;
   list.SetText(0, 0, Text(711));
   list.SetColWidth(0, 400);
-  list.SetColWidth(1, -1);
+  list.SetColWidth(1, 1200);
+  list.SetColAlign(1, ColAlign::Centre);
+  list.FitsView = true;
   list.SetRowHeight(0, 300);
   for (int program = 1; program <= kPrograms; ++program) {
     list.SetRowHeight(program, 250);

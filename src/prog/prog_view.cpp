@@ -33,7 +33,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kMsgCaption = 7059, kMsgGoTo = 7062;
+constexpr int kMsgCaption = 7059, kMsgGoTo = 7062, kMsgListKey = 7063, kMsgGoToError = 7064;
 constexpr Colour kEditColour = 0xC0FFFF;
 
 void SwitchLineCommands(ProgView& view) {
@@ -109,7 +109,9 @@ std::string HintText(const Grid& listing) {
   if (listing.Row < 1 || listing.Row >= listing.Rows()) return {};
   const int code = CodeOfStep(listing, listing.Row);
   const std::string meaning = CommandMeaning(code);
-  if (listing.Col <= kProgCommand) return meaning;
+  if (listing.Col <= kProgCommand) {
+    return ProgHeading(kProgCommand) + "  [" + Text(kMsgListKey) + "]  " + meaning;
+  }
   const std::string fault = CellFault(code, listing.Col, listing.Text(listing.Row, listing.Col));
   const int target = TargetOfStep(listing, listing.Row);
   return (fault.empty() ? "" : fault + "  ") + ProgHint(code, listing.Col) +
@@ -238,6 +240,9 @@ void WireView(ProgView& view) {
     if (AppState.CommandsOffDepth == 0) ProgCMDBTN_Yuko(view);
   };
   view.flgdPrgErr.CanEdit = [](int, int) { return false; };
+  view.flgdPrgErr.CellToolTip = [&view](int row, int col) {
+    return row >= 1 && !view.flgdPrgErr.Text(row, col).empty() ? Text(kMsgGoToError) : "";
+  };
   view.flgdPrgErr.Choose = [&view] { GoToError(view); };
 }
 

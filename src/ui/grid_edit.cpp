@@ -58,9 +58,7 @@ void GridTable::StartEdit(EditStart start, const QString& typed) {
   editor_->setAttribute(Qt::WA_InputMethodEnabled, composes);
   editor_->installEventFilter(this);
   connect(editor_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!ListIsOpen()) return;
-    grid_->List.Filter(text.toStdString());
-    PlaceList();
+    if (ListIsOpen()) grid_->List.Filter(text.toStdString());
   });
   if (start == EditStart::Typed) {
     editor_->setText(typed);

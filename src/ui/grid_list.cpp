@@ -20,7 +20,6 @@ bool GridTable::ListIsOpen() const { return grid_ && grid_->List.Box && grid_->L
 void GridTable::OpenList() {
   if (!grid_->List.Show || !grid_->List.Show()) return;
   if (editor_) grid_->List.Filter(editor_->text().toStdString());
-  PlaceList();
 }
 
 void GridTable::CloseList() {

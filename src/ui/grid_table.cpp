@@ -136,8 +136,9 @@ void GridTable::FillWidth() {
     header_->setSectionHidden(section, twips == 0);
     if (twips == kRestOfWidth) rest_col = section;
     if (twips <= 0) continue;
-    header_->resizeSection(section, scaled(twips));
-    used += scaled(twips);
+    const int width = std::max(scaled(twips), TitleWidth(col));
+    header_->resizeSection(section, width);
+    used += width;
   }
   if (grid_->FixedCols > 0) {
     const int least = fontMetrics().horizontalAdvance("9999") + 6;
@@ -148,6 +149,14 @@ void GridTable::FillWidth() {
     header_->resizeSection(rest_col,
                            std::max(viewport()->width() - used, scaled(kRestWidthAtLeast)));
   }
+}
+
+/// Room for a title that has but one line; 0 where it may wrap.
+int GridTable::TitleWidth(int col) const {
+  constexpr int kBeside = 8;
+  const bool wraps = header_->LevelHeight(0) >= 2 * fontMetrics().height();
+  if (grid_->FixedRows != 1 || wraps) return 0;
+  return fontMetrics().horizontalAdvance(Q(grid_->Text(0, col))) + kBeside;
 }
 
 int GridTable::TextWidth(int col) const {
@@ -189,6 +198,7 @@ void GridTable::Push() {
   if (!grid_ || !grid_->Redraw) return;
   if (editor_ && (!grid_->Enabled || edit_row_ >= grid_->Rows())) CloseEditor();
   PushRefusal();
+  PlaceList();  // what it offers has been drawn before
   if (shown_revision_ == grid_->Revision) return PushScroll();
   shown_revision_ = grid_->Revision;
   if (model_->FollowCounts()) shown_widths_.clear();

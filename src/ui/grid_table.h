@@ -96,6 +96,7 @@ class GridTable : public QTableView {
   void PushWidths();
   void FillWidth();
   void ShareWidth();
+  int TitleWidth(int col) const;
   int TextWidth(int col) const;
   void PushScroll();
   int BodyRow(int section) const { return section + grid_->FixedRows; }
