@@ -111,6 +111,7 @@ void PutBack(JogRun& run, std::uint64_t seed) {
   ClearJog();
   TusinQueue = RequestQueue{};
   AppState = run.online;
+  AppState.OpenPortName.clear();  // shut, not lost
   AppState.HomeDone = True;
   AppState.AxisPattern = static_cast<std::int16_t>(setup.mask);
   for (int i = 0; i < kAxes; ++i) AppState.AxisMuko[i] = !((setup.mask >> i) & 1);
