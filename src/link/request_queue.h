@@ -39,6 +39,7 @@ struct RequestQueue {
   Exchange exchange;  ///< of the request on the line
   /// A failed request whose waiter has not told the user and gone offline yet: the line is shut.
   const TusinRequest* untold = nullptr;
+  bool refused_at_once = false;  ///< the last failed request, by an error reply to its first send
   /// A request was withdrawn while its reply may be on the way.
   bool late_reply_possible = false;
 

@@ -88,10 +88,12 @@ TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout
     case TusinEnd::Withdrawn:
       return TusinOutcome::Withdrawn;
     case TusinEnd::GivenUp:
+      TusinQueue.refused_at_once = false;
       return TusinOutcome::Failed;
     default:
       TellFailure(request, options);
       if (!options.failure) TusinAbort();
+      TusinQueue.refused_at_once = request.end == TusinEnd::ErrorReply && request.sends == 1;
       return TusinOutcome::Failed;
   }
 }
@@ -102,6 +104,8 @@ int TusinCommand(const std::string& command, int reply_length, int timeout_ms, s
       TusinWait(command, reply_length, timeout_ms, reply, {priority, true});
   return outcome == TusinOutcome::Good ? 0 : 1;
 }
+
+bool TusinRefusedAtOnce() { return TusinQueue.refused_at_once; }
 
 void TusinAbort() {
   TusinWaitMs(kRestMs);

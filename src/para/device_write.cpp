@@ -6,6 +6,7 @@
 #include "device/ct_device.h"
 #include "forms/frm_device.h"
 #include "forms/frm_posi.h"
+#include "link/tusin_wait.h"
 #include "para/device_dialog.h"
 #include "para/device_take.h"
 #include "para/para_check.h"
@@ -110,7 +111,7 @@ bool MakeParameters() {
 }
 
 WriteResult WriteHeld() {
-  if (!WriteAxes()) return AppState.AlarmOn ? WriteResult::Refused : WriteResult::Cut;
+  if (!WriteAxes()) return TusinRefusedAtOnce() ? WriteResult::Refused : WriteResult::Cut;
   if (ReadCtAxisFromCt() != 0 || ReadParaFromCt() != Outcome::Done) return WriteResult::Cut;
   if (!MakeParameters()) return WriteResult::Refused;
   return WriteParaToCt() == Outcome::Done ? WriteResult::Done : WriteResult::Failed;

@@ -11,9 +11,13 @@ int SysParaHighest(std::size_t slot) {
   return slot >= kFirstByte && slot <= kLastByte ? 255 : 65535;
 }
 
+bool SysParaIsInRange(std::size_t slot) {
+  return SysPara[slot] >= 0 && SysPara[slot] <= SysParaHighest(slot);
+}
+
 int SystemParametaValueCheck() {
   for (std::size_t slot = 1; slot <= kSysParaSlots; ++slot) {
-    if (SysPara[slot] < 0 || SysPara[slot] > SysParaHighest(slot)) return 1;
+    if (!SysParaIsInRange(slot)) return 1;
   }
   return 0;
 }

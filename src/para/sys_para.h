@@ -23,6 +23,8 @@ extern Bool16 SysParaKnown;
 /// The highest value of a slot (1 to 72); the lowest is 0.
 int SysParaHighest(std::size_t slot);
 
+bool SysParaIsInRange(std::size_t slot);
+
 /// `SysPara` within its ranges: 0, or 1 on a breach.
 int SystemParametaValueCheck();
 

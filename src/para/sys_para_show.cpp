@@ -14,9 +14,6 @@ constexpr int kMsgOfController = 6535;
 TextBox& FieldOf(std::size_t slot) { return frmSystemPara.Fields[slot - 1].txtSystemPara; }
 
 bool IsFilled(std::size_t slot) { return !FieldOf(slot).Text.empty(); }
-bool IsInRange(std::size_t slot) {
-  return SysPara[slot] >= 0 && SysPara[slot] <= SysParaHighest(slot);
-}
 
 /// The first slot that does not pass, or 0.
 std::size_t FirstRefused(bool (*passes)(std::size_t slot)) {
@@ -43,7 +40,7 @@ int SysParaFieldsFilled() { return FirstRefused(IsFilled) == 0 ? 0 : 1; }
 
 void GoToRefusedSysPara() {
   const std::size_t empty = FirstRefused(IsFilled);
-  const std::size_t slot = empty != 0 ? empty : FirstRefused(IsInRange);
+  const std::size_t slot = empty != 0 ? empty : FirstRefused(SysParaIsInRange);
   if (slot != 0) doors.forms->SetFocus(FieldOf(slot));
 }
 

@@ -7,6 +7,7 @@
 
 #include "base/text_helpers.h"
 #include "link/port.h"
+#include "link/tusin_wait.h"
 #include "prog/prog_hint.h"
 #include "prog/prog_store.h"
 #include "state/app_state.h"
@@ -132,7 +133,9 @@ ProgWrite WriteProgdataToCt(int program, const std::vector<ProgStep>& steps) {
   ProgressScope progress(Text(383), 2, true);
   const Outcome sent =
       SendEchoed({FrameOf("0WM", program) + digits, kWriteReplyLength, kTimeoutMs, kEcho});
-  if (sent != Outcome::Done) return AppState.AlarmOn ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
+  if (sent != Outcome::Done) {
+    return TusinRefusedAtOnce() ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
+  }
   progress.Set(1);
   const Outcome ended = SendEchoed({FrameOf("0MW", program), kWriteReplyLength, kTimeoutMs, kEcho});
   if (ended != Outcome::Done) return ProgWrite::HalfWritten;

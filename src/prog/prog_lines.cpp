@@ -147,19 +147,18 @@ void cmdDelLineProg_Click(ProgView& view) {
     MsgBox(TwoLines(386, 387));
     return;
   }
-  const int at = first;
   RememberForUndo(view);
   {
     const ListingQuiet quiet(listing);
     const bool all = last - first + 1 == ListingSteps(listing);
     for (int count = last - first + (all ? 0 : 1); count > 0; --count) {
-      listing.RemoveRow(all ? 2 : at);
+      listing.RemoveRow(all ? 2 : first);
     }
     if (all) PutCells(listing, 1, {});  // the listing never loses its last line
     FGProg_ReNumber(listing);
   }
   view.Store.ProgChanged = True;
-  SelectLine(listing, std::min(at, ListingSteps(listing)));
+  SelectLine(listing, std::min(first, ListingSteps(listing)));
 }
 
 }  // namespace tr7

@@ -2,7 +2,6 @@
 
 #include "link/port.h"
 #include "link/tusin_wait.h"
-#include "state/app_state.h"
 #include "state/message_box.h"
 #include "steps/write_taken.h"
 
@@ -40,7 +39,7 @@ Outcome SendRecord(const RecordFrame& frame, const std::string& name) {
     WriteTaken.Last = name;
   } else {
     WriteTaken.Failed = name;
-    WriteTaken.FailedIsRefused = AppState.AlarmOn;
+    WriteTaken.FailedIsRefused = TusinRefusedAtOnce();
   }
   return outcome;
 }
@@ -48,7 +47,7 @@ Outcome SendRecord(const RecordFrame& frame, const std::string& name) {
 Outcome SendStore(const RecordFrame& frame) {
   using enum WriteTakenRecord::Storing;
   const Outcome outcome = SendEchoed(frame);
-  WriteTaken.Stored = outcome == Outcome::Done ? Done : AppState.AlarmOn ? Refused : NotKnown;
+  WriteTaken.Stored = outcome == Outcome::Done ? Done : TusinRefusedAtOnce() ? Refused : NotKnown;
   return outcome;
 }
 
