@@ -16,7 +16,12 @@ namespace {
 constexpr int kAliveEveryMs = 100;
 constexpr int kSocketOfGuard = 3;  // the number by which the guard knows it
 
-QString GuardProgram() { return QCoreApplication::applicationDirPath() + "/qv-tr7-guard"; }
+/// Beside the tool where it is built, among the helpers of programs where it is installed.
+QString GuardProgram() {
+  const QString folder = QCoreApplication::applicationDirPath();
+  const QString beside = folder + "/qv-tr7-guard";
+  return QFileInfo::exists(beside) ? beside : folder + "/../libexec/qv-tr7/qv-tr7-guard";
+}
 
 /// In the new process: only what may be called between fork and exec.
 [[noreturn]] void BecomeGuard(int socket, const char* program) {
