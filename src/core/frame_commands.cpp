@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "core/open_file.h"
 #include "core/options_view.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
@@ -100,6 +101,7 @@ void InstallWindowAndHelpMenus() {
 void InstallFrame() {
   FrmMain& f = frmMain;
   InstallFileAndEditMenus();
+  InstallRecentFiles();
   InstallWindowAndHelpMenus();
   InstallSessionMenus();
   f.mnuSettingOptions.Click = ShowOptions;

@@ -196,6 +196,14 @@ struct Menu : Control {
   }
 };
 
+/// A menu whose entries are asked for whenever it opens.
+struct MenuList : Menu {
+  using Menu::Menu;
+  Handler<std::vector<std::string>()> Entries;
+  MsgId EmptyId = {};             ///< what stands there while it has no entry
+  Handler<void(int index)> Pick;  ///< index from 0
+};
+
 struct Tab {
   MsgId Tag = {};
   std::string Caption = {};

@@ -14,6 +14,12 @@ struct FrmMain : View {
   Menu mnuFileNewProg{*this, "mnuFileNewProg", 5002};
   Menu mnuFileOpen{*this, "mnuFileOpen", 5003};
   Menu mnuFileOpenProg{*this, "mnuFileOpenProg", 5004};
+  Menu mnuFileRecent{*this, "mnuFileRecent", 5600};
+  MenuList mnuRecentPosi{*this, "mnuRecentPosi", 5601};
+  MenuList mnuRecentProg{*this, "mnuRecentProg", 5602};
+  MenuList mnuRecentPara{*this, "mnuRecentPara", 5603};
+  MenuList mnuRecentGrp{*this, "mnuRecentGrp", 5604};
+  MenuList mnuRecentSM{*this, "mnuRecentSM", 5605};
   Menu mnuFileSave{*this, "mnuFileSave", 5005};
   Menu mnuFileSaveAs{*this, "mnuFileSaveAs", 5006};
   Menu mnuFileClose{*this, "mnuFileClose", 5007};

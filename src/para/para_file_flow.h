@@ -8,7 +8,7 @@
 namespace tr7 {
 
 /// Parameter files in the file dialogues.
-inline constexpr DataFile kParaDataFile{1827, "pmt", 12};
+inline constexpr DataFile kParaDataFile{FileKind::Parameter, 1827, "pmt", 12};
 
 // Parameter files as the user saves and opens them. The view's commands are off while one runs.
 

@@ -11,7 +11,7 @@
 namespace tr7 {
 
 /// Position files in the file dialogues.
-inline constexpr DataFile kPosiDataFile{351, "qvd", 407};
+inline constexpr DataFile kPosiDataFile{FileKind::Position, 351, "qvd", 407};
 
 /// The save flow: checks the whole table and saves it to its file, or to one that the user names.
 void PosidataSaveToFile();

@@ -32,8 +32,8 @@ namespace {
 constexpr int kMsgHalfWritten = 7058, kMsgCaption = 7059, kMsgTooMany = 7057, kMsgSaved = 6508;
 constexpr int kMsgNotSaved = 422;
 constexpr int kPauseMs = 100;
-constexpr DataFile kFileToOpen{131, "prg", 438};
-constexpr DataFile kFileToSave{437, "prg", 438};
+constexpr DataFile kFileToOpen{FileKind::Program, 131, "prg", 438};
+constexpr DataFile kFileToSave{FileKind::Program, 437, "prg", 438};
 
 /// The line, the step counts and the user's choice; none where one of them fails.
 std::optional<int> AskProgNoOfCt() {

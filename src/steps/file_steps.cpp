@@ -1,6 +1,9 @@
 #include "steps/file_steps.h"
 
+#include <utility>
+
 #include "platform/doors.h"
+#include "state/recent_files.h"
 #include "state/text.h"
 #include "state/wait.h"
 
@@ -10,14 +13,24 @@ namespace {
 constexpr int kTries = 4;
 constexpr int kPauseMs = 100;
 
+std::optional<std::string> given_path;
+
 }  // namespace
 
+GivenPath::GivenPath(std::string path) { given_path = std::move(path); }
+GivenPath::~GivenPath() { given_path.reset(); }
+
 std::optional<std::string> AskOpenPath(const DataFile& kind, MsgId title_id) {
-  FileDialogCall call;
-  call.Title = Text(title_id);
-  call.Filter = Text(kind.filter_id);
-  call.DefaultExtension = kind.extension;
-  return doors.forms->FileDialog(call);
+  auto path = std::exchange(given_path, std::nullopt);
+  if (!path) {
+    FileDialogCall call;
+    call.Title = Text(title_id);
+    call.Filter = Text(kind.filter_id);
+    call.DefaultExtension = kind.extension;
+    path = doors.forms->FileDialog(call);
+  }
+  if (path && !path->empty()) RememberFile(kind.kind, *path);
+  return path;
 }
 
 std::optional<std::string> AskSavePath(const DataFile& kind, MsgId title_id) {
@@ -27,7 +40,9 @@ std::optional<std::string> AskSavePath(const DataFile& kind, MsgId title_id) {
                                              .ProposedName = Text(kind.proposed_name_id),
                                              .DefaultExtension = kind.extension,
                                              .OverwritePrompt = true});
-  return path && path->empty() ? std::nullopt : path;
+  if (!path || path->empty()) return std::nullopt;
+  RememberFile(kind.kind, *path);
+  return path;
 }
 
 bool TryFourTimes(const std::function<Attempt()>& attempt) {

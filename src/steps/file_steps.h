@@ -5,17 +5,30 @@
 #include <string>
 
 #include "base/msg_id.h"
+#include "state/file_kind.h"
 
 namespace tr7 {
 
 /// What the file dialogues of one kind of data show, by message ids.
 struct DataFile {
+  FileKind kind;
   MsgId filter_id;
   const char* extension;
   MsgId proposed_name_id;
 };
 
-/// Asks for a file to open; nothing on Cancel, an empty path where no name was given.
+/// A file that the user has named already, on the command line or in a list. While this lives, the
+/// next question for a file to open is answered with it.
+class GivenPath {
+ public:
+  explicit GivenPath(std::string path);
+  ~GivenPath();
+  GivenPath(const GivenPath&) = delete;
+  GivenPath& operator=(const GivenPath&) = delete;
+};
+
+/// Asks for a file to open; nothing on Cancel, an empty path where no name was given. A file that
+/// was chosen here or at a save stands among the kind's recent ones from then on.
 [[nodiscard]] std::optional<std::string> AskOpenPath(const DataFile& kind, MsgId title_id);
 
 /// Asks for a file to save to, with a question before an old one is replaced; nothing on Cancel or

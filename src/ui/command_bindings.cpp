@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMenu>
 
+#include "state/text.h"
 #include "ui/icons.h"
 
 namespace tr7 {
@@ -25,10 +26,27 @@ class MenuBinding : public Binding {
   std::optional<std::string> caption_;
 };
 
+/// Fills the menu whenever it opens. Ampersands of an entry's own are no mnemonic.
+void FillWhenOpened(MenuList& record, QMenu& menu, const CommandGate& gate) {
+  QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&record, &menu, gate] {
+    menu.clear();
+    int index = 0;
+    for (const std::string& text : record.Entries()) {
+      QAction* entry = menu.addAction(Q(text).replace('&', "&&"));
+      QObject::connect(entry, &QAction::triggered, entry, [&record, gate, index] {
+        if (gate()) record.Pick(index);
+      });
+      ++index;
+    }
+    if (index == 0) menu.addAction(Q(Text(record.EmptyId)))->setEnabled(false);
+  });
+}
+
 }  // namespace
 
 std::unique_ptr<Binding> MakeMenuBinding(Menu& record, QObject& target, const CommandGate& gate) {
   if (auto* menu = qobject_cast<QMenu*>(&target)) {
+    if (auto* list = dynamic_cast<MenuList*>(&record)) FillWhenOpened(*list, *menu, gate);
     return std::make_unique<MenuBinding>(record, *menu->menuAction());
   }
   auto* action = qobject_cast<QAction*>(&target);

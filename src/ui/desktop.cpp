@@ -9,6 +9,7 @@
 #include "motion/motion_view.h"
 #include "platform/doors.h"
 #include "ui/binding.h"
+#include "ui/file_drop.h"
 #include "ui/sim_dock.h"
 
 namespace tr7 {
@@ -16,16 +17,6 @@ namespace {
 
 constexpr const char* kApplication = "QV-DEV";
 constexpr const char* kSection = "Settings";
-
-std::string SettingsPath(const Profile& profile) {
-  QString path = profile.settings_file;
-  if (path.isEmpty()) {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    path = folder + "/" + kApplication + (profile.demo ? "/demo.ini" : "/settings.ini");
-  }
-  QDir().mkpath(QFileInfo(path).absolutePath());
-  return path.toStdString();
-}
 
 void SetAtFirstUse(SettingsStore& settings, const std::string& key, const std::string& value) {
   if (settings.Get(kSection, key, "").empty()) settings.Set(kSection, key, value);
@@ -38,6 +29,16 @@ bool SpeaksJapanese(const QLocale& locale) {
 }
 
 }  // namespace
+
+std::string SettingsPath(const Profile& profile) {
+  QString path = profile.settings_file;
+  if (path.isEmpty()) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    path = folder + "/" + kApplication + (profile.demo ? "/demo.ini" : "/settings.ini");
+  }
+  QDir().mkpath(QFileInfo(path).absolutePath());
+  return path.toStdString();
+}
 
 Desktop::Desktop(const Profile& profile)
     : files(QCoreApplication::applicationDirPath().toStdString()),
@@ -52,8 +53,10 @@ Desktop::Desktop(const Profile& profile)
   doors.files = &files;
   doors.help = &help;
   doors.guard = &guard;
-  if (!profile.demo) return;
-  forms.frame_built = [this](QMainWindow& frame) { SimDock::AddTo(frame, serial.Sim()); };
+  forms.frame_built = [this, demo = profile.demo](QMainWindow& frame) {
+    new FileDrop(frame, forms);
+    if (demo) SimDock::AddTo(frame, serial.Sim());
+  };
 }
 
 Desktop::~Desktop() {

@@ -23,6 +23,9 @@ struct Profile {
   QLocale locale = QLocale::system();  ///< tells the language of the first start
 };
 
+/// Where the settings of a profile stand; the folder is there.
+std::string SettingsPath(const Profile& profile);
+
 /// The desktop's set of doors, installed as long as this lives. The QApplication exists before
 /// and ends after.
 class Desktop {

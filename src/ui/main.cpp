@@ -1,10 +1,13 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <algorithm>
 
 #include "core/install_views.h"
 #include "core/main_entry.h"
 #include "ui/desktop.h"
+#include "ui/file_drop.h"
+#include "ui/first_start.h"
 #include "ui/look.h"
 
 namespace {
@@ -12,14 +15,22 @@ namespace {
 const QCommandLineOption kDemo("demo", "Settings of its own; port 1 is the simulated controller.");
 const QCommandLineOption kSettings("settings", "Settings in this file.", "file");
 
+struct Arguments {
+  tr7::Profile profile;
+  QString file;  ///< to open; empty: none
+};
+
 /// Ends the process on --help and --version, and on an option that there is not.
-tr7::Profile ProfileOf(const QCoreApplication& application) {
+Arguments ReadArguments(const QCoreApplication& application) {
   QCommandLineParser parser;
   parser.addHelpOption();
   parser.addVersionOption();
   parser.addOptions({kDemo, kSettings});
+  parser.addPositionalArgument(
+      "file", "Positions, parameters, groups, macros or a program to open.", "[file]");
   parser.process(application);
-  return {parser.value(kSettings), parser.isSet(kDemo), QLocale::system()};
+  return {{parser.value(kSettings), parser.isSet(kDemo), QLocale::system()},
+          parser.positionalArguments().value(0)};
 }
 
 /// These are answered also where there is no screen to draw on.
@@ -34,12 +45,21 @@ bool AsksForWords(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   QCoreApplication::setApplicationVersion(QString::fromStdString(tr7::VersionText()));
-  if (AsksForWords(argc, argv)) ProfileOf(QCoreApplication(argc, argv));
+  if (AsksForWords(argc, argv)) ReadArguments(QCoreApplication(argc, argv));
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   tr7::look::Apply(application);
-  tr7::Desktop desktop(ProfileOf(application));
+  const Arguments arguments = ReadArguments(application);
+  tr7::FirstStart first(QString::fromStdString(tr7::SettingsPath(arguments.profile)));
+  if (!arguments.file.isEmpty() && first.HandOver(arguments.file)) return 0;
+  tr7::Desktop desktop(arguments.profile);
   tr7::InstallViews();
   tr7::Main();
+  if (desktop.forms.Ended()) return 0;
+  const auto open = [&desktop](const QString& file) {
+    tr7::OpenFilesFromOutside({file}, desktop.forms);
+  };
+  if (!arguments.file.isEmpty()) open(QFileInfo(arguments.file).absoluteFilePath());
+  first.Listen(open);
   return desktop.forms.Ended() ? 0 : QApplication::exec();
 }

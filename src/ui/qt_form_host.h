@@ -53,6 +53,8 @@ class QtFormHost : public FormHost {
   QWidget* WidgetOf(const Control& control) const;
   /// Draws what the records hold, now.
   void Push();
+  /// Finishes an open edit before a command runs; false where the edit is refused, which is shown.
+  bool MayCommand();
 
  private:
   struct Shown {
@@ -67,7 +69,6 @@ class QtFormHost : public FormHost {
   void ShowChild(View& view, QMdiSubWindow& child);
   void FillFrame(const QWidget& gone);
   void ShowDialog(View& view, QWidget& window, bool modal);
-  bool MayCommand();
   std::optional<std::int64_t> PushWhenDue();
   bool MayGiveFocus() const;
   void GiveFocus();

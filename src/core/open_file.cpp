@@ -1,0 +1,105 @@
+#include "core/open_file.h"
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "forms/frm_grp.h"
+#include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_sq_mcr.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
+#include "state/file_kind.h"
+#include "state/message_box.h"
+#include "state/recent_files.h"
+#include "state/text.h"
+#include "state/text_file.h"
+#include "steps/file_steps.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kMsgNone = 5606;
+constexpr int kMsgOfNoKind = 5607, kMsgOtherMode = 5608, kMsgGone = 5609;
+constexpr int kMsgPositioner = 128, kMsgProgram = 129;
+
+enum class Mode { Any, Positioner, Program };
+
+/// How the files of a kind are opened: the view's menu command brings it, its own command asks.
+struct Road {
+  FileKind kind;
+  MenuList& recent;
+  Menu& shows;
+  View* view;  ///< null: the menu's command opens by itself
+  Mode mode;
+};
+
+const Road* RoadOf(FileKind kind) {
+  static const Road kRoads[] = {
+      {FileKind::Position, frmMain.mnuRecentPosi, frmMain.mnuViewPosi, &frmPosi, Mode::Any},
+      {FileKind::Program, frmMain.mnuRecentProg, frmMain.mnuFileOpenProg, nullptr, Mode::Program},
+      {FileKind::Parameter, frmMain.mnuRecentPara, frmMain.mnuViewPara, &frmParameta2, Mode::Any},
+      {FileKind::Group, frmMain.mnuRecentGrp, frmMain.mnuViewGrp, &frmGrp, Mode::Positioner},
+      {FileKind::Macro, frmMain.mnuRecentSM, frmMain.mnuViewSM, &frmSqMcr, Mode::Positioner},
+  };
+  const auto found = std::find_if(std::begin(kRoads), std::end(kRoads),
+                                  [kind](const Road& road) { return road.kind == kind; });
+  return found == std::end(kRoads) ? nullptr : found;
+}
+
+bool FitsMode(Mode mode) {
+  return mode == Mode::Any || (mode == Mode::Program) == static_cast<bool>(AppState.CtMode);
+}
+
+void TakeRoad(const Road& road, const std::string& path) {
+  if (!FitsMode(road.mode)) {
+    const MsgId due = road.mode == Mode::Program ? MsgId(kMsgProgram) : MsgId(kMsgPositioner);
+    MsgBox(Text(kMsgOtherMode, FileTitle(path), Text(due)));
+    return;
+  }
+  const GivenPath given(path);
+  road.shows.Press();
+  if (road.view && road.view->Visible && road.view->Commands.Open) road.view->Commands.Open();
+}
+
+/// A file that is not there any more leaves its list.
+void OpenRecent(FileKind kind, int index) {
+  const std::vector<std::string> paths = RecentFiles(kind);
+  if (index < 0 || index >= static_cast<int>(paths.size())) return;
+  const std::string& path = paths[static_cast<std::size_t>(index)];
+  if (doors.files->Exists(path)) return OpenFileByPath(path);
+  ForgetFile(kind, path);
+  MsgBox(Text(kMsgGone, path));
+}
+
+}  // namespace
+
+void OpenFileByPath(const std::string& path) {
+  if (!frmMain.mnuFile.Enabled) return TellFlowRuns();
+  std::string utf8;
+  const TextFileResult read = ReadTextFile(path, utf8);
+  if (!read.ok) {
+    MsgBox(read.words);
+    return;
+  }
+  if (const Road* road = RoadOf(KindOfFile(utf8))) {
+    TakeRoad(*road, path);
+  } else {
+    MsgBox(Text(kMsgOfNoKind, FileTitle(path)));
+  }
+}
+
+void InstallRecentFiles() {
+  for (const FileKind kind : {FileKind::Position, FileKind::Program, FileKind::Parameter,
+                              FileKind::Group, FileKind::Macro}) {
+    MenuList& list = RoadOf(kind)->recent;
+    list.Entries = [kind] { return RecentFiles(kind); };
+    list.EmptyId = kMsgNone;
+    list.Pick = [kind](int index) { OpenRecent(kind, index); };
+  }
+}
+
+}  // namespace tr7

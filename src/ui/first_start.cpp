@@ -1,0 +1,83 @@
+#include "ui/first_start.h"
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <array>
+#include <cstring>
+
+namespace tr7 {
+namespace {
+
+constexpr std::size_t kLongestPath = 4096;
+
+/// One name for each settings file, short enough for a socket's address.
+QByteArray AddressFor(const QString& settings_path) {
+  const QByteArray path = QFileInfo(settings_path).absoluteFilePath().toUtf8();
+  const QByteArray name = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex().left(16);
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  return (folder + "/qv-tr7-" + QString::fromLatin1(name)).toUtf8();
+}
+
+bool Fill(const QByteArray& address, sockaddr_un& to) {
+  to = {};
+  to.sun_family = AF_UNIX;
+  if (address.size() >= static_cast<qsizetype>(sizeof to.sun_path)) return false;
+  std::memcpy(to.sun_path, address.constData(), static_cast<std::size_t>(address.size()));
+  return true;
+}
+
+template <typename Call>
+bool AtAddress(const QByteArray& address, Call call) {
+  sockaddr_un to;
+  return Fill(address, to) && call(reinterpret_cast<const sockaddr*>(&to), sizeof to) == 0;
+}
+
+}  // namespace
+
+FirstStart::FirstStart(const QString& settings_path)
+    : address_(AddressFor(settings_path)),
+      socket_(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {}
+
+FirstStart::~FirstStart() {
+  notifier_.reset();
+  if (socket_ >= 0) close(socket_);
+  if (listens_) QFile::remove(QString::fromUtf8(address_));
+}
+
+bool FirstStart::HandOver(const QString& file) {
+  const QByteArray path = QFileInfo(file).absoluteFilePath().toUtf8();
+  const auto connect_there = [this](const sockaddr* to, socklen_t size) {
+    return connect(socket_, to, size);
+  };
+  if (!AtAddress(address_, connect_there)) return false;
+  return send(socket_, path.constData(), static_cast<std::size_t>(path.size()), MSG_NOSIGNAL) ==
+         path.size();
+}
+
+void FirstStart::Listen(std::function<void(const QString& file)> open) {
+  const auto is_there = [this](const sockaddr* to, socklen_t size) {
+    const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const int result = connect(probe, to, size);
+    close(probe);
+    return result;
+  };
+  if (AtAddress(address_, is_there)) return;
+  QFile::remove(QString::fromUtf8(address_));  // left by one that was killed
+  listens_ = AtAddress(
+      address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });
+  if (!listens_) return;
+  notifier_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this, open] {
+    std::array<char, kLongestPath> path;
+    const ssize_t size = recv(socket_, path.data(), path.size(), 0);
+    if (size > 0) open(QString::fromUtf8(path.data(), size));
+  });
+}
+
+}  // namespace tr7
