@@ -34,7 +34,8 @@ add_custom_command(OUTPUT ${CHANGELOG} COMMAND gzip -9nc ${CMAKE_SOURCE_DIR}/CHA
 add_custom_target(qv-tr7-pages ALL DEPENDS ${PAGES} ${CHANGELOG})
 install(FILES ${PAGES} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${CHANGELOG} README.md docs/files.md docs/safety.md docs/simulator.md docs/protocol.md
-              lists/README.md DESTINATION ${DOC})
+        DESTINATION ${DOC})
+install(FILES lists/README.md RENAME lists.md DESTINATION ${DOC})
 install(FILES LICENSE RENAME copyright DESTINATION ${DOC})
 
 set(CPACK_GENERATOR DEB)
