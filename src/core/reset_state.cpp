@@ -16,6 +16,7 @@
 #include "para/param_set.h"
 #include "para/std_table.h"
 #include "para/sys_para.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_table.h"
 #include "prog/command_list.h"
 #include "prog/prog_store.h"
@@ -56,6 +57,7 @@ void ResetState() {
   SmTable = SmStage = SmSaved = SmTableRecord{};
   SmFlags = SmFlagsRecord{};
   PosiTable = PosiTableRecord{};
+  PosiUndo = PosiUndoRecord{};
   CommandList = CommandListRecord{};
   ProgCt = ProgCtRecord{};
   RenewViews();

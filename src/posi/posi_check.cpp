@@ -10,6 +10,7 @@
 #include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
 #include "posi/field_range.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
@@ -133,6 +134,7 @@ void CommitAxis(int number, int axis) {
 }
 
 void CommitLine(int number) {
+  ++PosiUndo.commits;
   for (int axis = 0; axis < kAxes; ++axis) CommitAxis(number, axis);
   for (int col = kItpl; col <= kSm; ++col) Record(col, number) = Val(Cell(number, col));
   Record(kComment, number) = Cell(number, kComment);

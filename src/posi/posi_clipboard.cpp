@@ -10,6 +10,7 @@
 #include "posi/cell_rules.h"
 #include "posi/clip_matrix.h"
 #include "posi/posi_check.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
@@ -102,6 +103,7 @@ void PasteCell(int row, int col, std::string text, Outcome& outcome) {
 /// Pastes from a cell on; a matrix of one row fills `rows` of them.
 Outcome PasteFrom(const ClipMatrix& matrix, int row, int col, int rows) {
   Outcome outcome;
+  const PosiEditStep step;
   const int lines = std::max(matrix.size() == 1 ? rows : 1, static_cast<int>(matrix.size()));
   const int room = frmPosi.flgdData.Rows() - row;
   outcome.lines_beyond = std::max(lines - room, 0);

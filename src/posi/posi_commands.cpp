@@ -4,6 +4,7 @@
 
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
@@ -35,6 +36,8 @@ void SetEditCommands(const EditStates& states) {
   set(f.Edit.Paste, f.mnuPopupPaste, f.cmdPosiPaste, states.Paste);
   set(f.Edit.Insert, f.mnuPopupInsert, f.cmdInsertLine, states.Insert);
   set(f.Edit.Delete, f.mnuPopupLineDelete, f.cmdDeleteLine, states.Delete);
+  f.Edit.Undo = states.Undo;
+  f.Edit.Redo = states.Redo;
   if (&FrontView() == &frmPosi) SwitchEditCommands();
 }
 
@@ -67,7 +70,8 @@ void EditCommandsBySelection() {
   const bool line = free && is_body(grid.Row);
   const bool lines = line && is_body(grid.RowSel);
   const bool room = AppState.PosiLastNo < kPosiMaxNo;
-  SetEditCommands({lines, line && SomethingIsCopied(), line && room, lines});
+  SetEditCommands({lines, line && SomethingIsCopied(), line && room, lines,
+                   free && !PosiUndo.done.empty(), free && !PosiUndo.undone.empty()});
 }
 
 PosiGridOff::PosiGridOff() { frmPosi.flgdData.Enabled = false; }

@@ -17,6 +17,7 @@
 #include "posi/file_devices.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_file_flows.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
@@ -200,6 +201,7 @@ std::optional<MsgId> Comparison::Take(int key) {
 }
 
 std::vector<CompareRefusal> Comparison::Take(const std::vector<int>& keys) {
+  const PosiEditStep step;
   std::vector<CompareRefusal> refusals;
   FG_HighSyoriStart();
   for (const int key : keys) {

@@ -9,11 +9,13 @@
 #include "posi/cell_rules.h"
 #include "posi/posi_check.h"
 #include "posi/posi_clipboard.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_table.h"
+#include "posi/posi_undo.h"
 #include "posi/speed_decimals.h"
 #include "posi/unit_change.h"
 #include "state/app_state.h"
@@ -43,6 +45,7 @@ EditVerdict AcceptEdit(int row, int col, std::string& text) {
     TellInStatusPanel(RefusalText(col));
     return {false, Text(kMsgRefused, RefusalText(col), Trim(text))};
   }
+  RememberPosiEdit();
   frmPosi.PosiChanged = True;
   const std::string lost = SpeedDecimalsNote(col, text);
   if (!lost.empty()) {
@@ -145,6 +148,8 @@ void InstallPosiEdit() {
   f.cmdPosiCopy.Click = cmdPosiCopy_Click;
   f.cmdPosiPaste.Click = cmdPosiPaste_Click;
   f.cmdPosiCheck.Click = cmdPosiCheck_Click;
+  f.Commands.Undo = NotWhileTeaching(PosiUndoClick);
+  f.Commands.Redo = NotWhileTeaching(PosiRedoClick);
   f.Commands.InsertLine = NotWhileTeaching(cmdInsertLine_Click);
   f.Commands.DeleteLine = NotWhileTeaching(cmdDeleteLine_Click);
   f.Commands.Copy = NotWhileTeaching(cmdPosiCopy_Click);

@@ -6,6 +6,7 @@
 
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
@@ -28,6 +29,7 @@ void FillRow(int row, int number, bool program_mode) {
 }
 
 void Show(bool program_mode) {
+  ForgetPosiEdits();
   FG_HighSyoriStart();
   Grid& grid = frmPosi.flgdData;
   grid.SetRows(ShownPositions() + kPosiHeaderRows);

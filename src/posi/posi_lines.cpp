@@ -6,6 +6,7 @@
 
 #include "forms/frm_posi.h"
 #include "posi/posi_check.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
@@ -23,8 +24,9 @@ bool IsFull() { return AppState.PosiLastNo >= kPosiMaxNo; }
 
 auto SourceOf(int row) { return frmPosi.SourceNo.begin() + (row - kPosiHeaderRows); }
 
-/// Numbers, range and change flag after lines have come or gone.
-void LinesChanged() {
+}  // namespace
+
+void PosiLinesChanged() {
   Grid& grid = frmPosi.flgdData;
   for (int row = kPosiHeaderRows; row < grid.Rows(); ++row) {
     grid.SetText(row, 0, std::to_string(PositionOfRow(row)));
@@ -37,8 +39,6 @@ void LinesChanged() {
   frmPosi.PosiChanged = True;
 }
 
-}  // namespace
-
 void InsertLineDefaults(int row) {
   for (int col = 1; col < kPosiColumns; ++col) {
     frmPosi.flgdData.SetText(row, col, PosiDefaultText(col, AppState.CtMode));
@@ -47,11 +47,12 @@ void InsertLineDefaults(int row) {
 
 bool AppendLine() {
   if (IsFull()) return false;
+  const PosiEditStep step;
   Grid& grid = frmPosi.flgdData;
   grid.SetRows(grid.Rows() + 1);
   frmPosi.SourceNo.push_back(0);
   InsertLineDefaults(grid.Rows() - 1);
-  LinesChanged();
+  PosiLinesChanged();
   return true;
 }
 
@@ -64,11 +65,12 @@ void cmdInsertLine_Click() {
     return;
   }
   if (IsFull()) return;
+  const PosiEditStep step;
   FG_HighSyoriStart();
   grid.InsertRow(row);
   frmPosi.SourceNo.insert(SourceOf(row), 0);
   InsertLineDefaults(row);
-  LinesChanged();
+  PosiLinesChanged();
   grid.SelectCell(row, grid.Col);
   FG_HighSyoriEnd();
 }
@@ -81,10 +83,11 @@ void cmdDeleteLine_Click() {
     MsgBox(TwoLines(386, 387));
     return;
   }
+  const PosiEditStep step;
   FG_HighSyoriStart();
   frmPosi.SourceNo.erase(SourceOf(first), SourceOf(last + 1));
   for (int count = last - first + 1; count > 0; --count) grid.RemoveRow(first);
-  LinesChanged();
+  PosiLinesChanged();
   const int row = std::min(first, grid.Rows() - 1);
   if (IsBodyRow(row)) {
     grid.SelectCell(row, FirstShownColumn());

@@ -14,6 +14,9 @@ void cmdDeleteLine_Click();
 /// Adds a line of defaults behind the last one. False when position 999 exists.
 bool AppendLine();
 
+/// Numbers, range and change flag after lines have come or gone.
+void PosiLinesChanged();
+
 /// Fills a grid row with the defaults of a new table.
 void InsertLineDefaults(int row);
 
