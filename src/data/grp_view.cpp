@@ -59,10 +59,11 @@ bool RefusesToClose(CloseReason) {
   return FlowKeepsViewsOpen();
 }
 
+bool GroupsAreChanged() { return GrpTable != GrpTableRecord{} && GrpTable != GrpSaved; }
+
 bool RefusesToEnd() {
   StoreShownGroups();
-  const bool unsaved = frmGrp.Loaded && GrpTable != GrpTableRecord{} && GrpTable != GrpSaved;
-  return groups_aside.RefusesToEnd(unsaved, frmGrp.Tag);
+  return groups_aside.RefusesToEnd(frmGrp.Loaded && GroupsAreChanged(), frmGrp.Tag);
 }
 
 void InstallButtons() {
@@ -83,6 +84,7 @@ void InstallGrpView() {
   f.Load = LoadGroups;
   f.QueryUnload = RefusesToClose;
   f.QueryEnd = RefusesToEnd;
+  f.IsChanged = GroupsAreChanged;
   f.Unload = ForgetGroups;
   // What the groups cover may be other positions now. In program mode an open view stays: only the
   // menu goes, the data is the user's.

@@ -113,10 +113,11 @@ void BringBack() {
   SmShow();
 }
 
+bool MacrosAreChanged() { return SmTable != SmTableRecord{} && SmTable != SmSaved; }
+
 bool RefusesToEnd() {
   TakePicked();
-  const bool unsaved = frmSqMcr.Loaded && SmTable != SmTableRecord{} && SmTable != SmSaved;
-  return macros_aside.RefusesToEnd(unsaved, frmSqMcr.Tag);
+  return macros_aside.RefusesToEnd(frmSqMcr.Loaded && MacrosAreChanged(), frmSqMcr.Tag);
 }
 
 void SwitchCommands(bool on) {
@@ -144,6 +145,7 @@ void InstallSmView() {
   f.Load = LoadMacros;
   f.QueryUnload = [](CloseReason) { return FlowKeepsViewsOpen(); };
   f.QueryEnd = RefusesToEnd;
+  f.IsChanged = MacrosAreChanged;
   f.Unload = ForgetMacros;
   f.CmdMuko = [] { SwitchCommands(false); };
   f.CmdYuko = [] { SwitchCommands(true); };

@@ -58,6 +58,8 @@ struct View {
   Handler<bool(CloseReason)> QueryUnload;
   /// Asked before the tool ends, also of a view that is closed; true refuses.
   Handler<bool()> QueryEnd;
+  /// Holds what is in no file and no controller yet; the window's title says so.
+  std::function<bool()> IsChanged;
   Handler<void()> Unload;
   Handler<void()> Activate;       ///< the view became the active one
   Handler<void()> CmdMuko;        ///< commands off while a long sequence runs
@@ -71,6 +73,9 @@ struct View {
   /// Builds the record anew in place, as it was when the process began; empty where the view has
   /// been made at run time.
   std::function<void()> Renew;
+
+  /// The caption, with a star behind it while there is something to save.
+  std::string Title() const { return IsChanged && IsChanged() ? Caption + " *" : Caption; }
 
   Control* Find(std::string_view name) const;
 };

@@ -97,6 +97,7 @@ void InstallParaView() {
   f.Load = LoadView;
   f.Unload = UnloadParaView;
   f.QueryUnload = QueryUnloadView;
+  f.IsChanged = ParaIsChanged;
   f.CmdMuko = CommandsGoOff;
   f.CmdYuko = CommandsComeOn;
   f.cmdParaRead.Click = GetParametaValue;

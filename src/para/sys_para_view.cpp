@@ -104,6 +104,7 @@ void InstallSysParaView() {
   FrmSystemPara& f = frmSystemPara;
   f.Load = LoadFields;
   f.QueryUnload = RefusesToClose;
+  f.IsChanged = AnyFieldIsTheUsersAlone;
   f.CmdMuko = [] { SwitchControls(frmSystemPara, false); };
   f.CmdYuko = [] { SwitchControls(frmSystemPara, true); };
   f.cmdReadFromCt.Click = GetSystemParametaValue;

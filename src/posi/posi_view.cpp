@@ -88,6 +88,7 @@ void InstallPosiView() {
   f.RefuseClose = f.StaysOpen = true;
   f.Load = LoadPosiView;
   f.QueryUnload = QueryUnloadPosiView;
+  f.IsChanged = [] { return static_cast<bool>(frmPosi.PosiChanged); };
   f.CmdMuko = [] {
     PosCMDBTN_Muko();
     EditCMD_Muko();

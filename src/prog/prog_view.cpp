@@ -234,6 +234,7 @@ void WireView(ProgView& view) {
     AppState.CommandsOffDepth == 0 ? ProgCMDBTN_Yuko(view) : ProgCMDBTN_Muko(view);
   };
   view.QueryUnload = [&view](CloseReason) { return AskAndLeave(view); };
+  view.IsChanged = [&view] { return static_cast<bool>(view.Store.ProgChanged); };
   view.Activate = [&view] { SwitchLineCommands(view); };
   view.CmdMuko = [&view] { ProgCMDBTN_Muko(view); };
   view.CmdYuko = view.OnlineChanged = [&view] {

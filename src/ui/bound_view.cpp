@@ -188,9 +188,9 @@ void BoundView::PushAreas() {
 
 void BoundView::Push() {
   // Not against the window's own title: a child that fills the frame adds its name to that one.
-  if (shown_caption_ != view_.Caption) {
-    shown_caption_ = view_.Caption;
-    window_.setWindowTitle(Q(view_.Caption));
+  if (const std::string title = view_.Title(); shown_title_ != title) {
+    shown_title_ = title;
+    window_.setWindowTitle(Q(title));
   }
   for (const auto& binding : bindings_) binding->Push();
   PushAreas();

@@ -69,7 +69,7 @@ class BoundView {
   std::vector<Area> areas_;
   std::vector<TabPage> tab_pages_;
   std::vector<bool> shown_visibility_;
-  std::optional<std::string> shown_caption_;
+  std::optional<std::string> shown_title_;
   std::vector<std::string> problems_;
 };
 
