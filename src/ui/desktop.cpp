@@ -52,6 +52,7 @@ Desktop::Desktop(const Profile& profile)
   doors.files = &files;
   doors.help = &help;
   doors.guard = &guard;
+  doors.printer = &printer;
   if (!profile.demo) return;
   forms.frame_built = [this](QMainWindow& frame) { SimDock::AddTo(frame, serial.Sim()); };
 }
