@@ -1,6 +1,7 @@
 #include "report/data_report.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -42,10 +43,11 @@ struct Columns {
   double Left(std::size_t column) const { return kPrintLeft + static_cast<double>(column) * step; }
 };
 
+/// As many as there is room for, over the whole width.
 Columns ColumnsOf(Sheet& sheet, const std::vector<TextBlock>& blocks) {
-  const double step = WidthOf(sheet, blocks) + kColumnsApart;
-  const double fit = (sheet.Right() - kPrintLeft + kColumnsApart) / step;
-  return {static_cast<std::size_t>(std::max(fit, 1.0)), step};
+  const double room = sheet.Right() - kPrintLeft + kColumnsApart;
+  const double fit = std::max(std::floor(room / (WidthOf(sheet, blocks) + kColumnsApart)), 1.0);
+  return {static_cast<std::size_t>(fit), room / fit};
 }
 
 /// Single lines: down a column, then down the next one.

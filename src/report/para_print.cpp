@@ -73,17 +73,24 @@ void DeriveMm(ParamSetRecord& set) {
   }
 }
 
-/// Behind a taken view, or without one.
+/// What the view has given.
 Outcome PrintParamSet() { return Print(ParamSet, LiveAxisMask(), {}); }
+
+/// What is known without the view, which would keep the texts in millimetres.
+Outcome PrintKnown() {
+  ParamSetRecord set = ParamSet;
+  if (set == ParamSetRecord{}) {
+    Tell(kMsgUnknown);
+    return Outcome::Failed;
+  }
+  DeriveMm(set);
+  return Print(set, LiveAxisMask(), {});
+}
 
 }  // namespace
 
 Outcome PrintShownPara() {
-  if (!frmParameta2.Loaded) {
-    if (ParamSet != ParamSetRecord{}) return PrintParamSet();
-    Tell(kMsgUnknown);
-    return Outcome::Failed;
-  }
+  if (!frmParameta2.Loaded) return PrintKnown();
   SettleParaColumns();
   FilledCheck filled;
   if (!filled.Holds() || !TakeParaView(kMsgWrong, kMsgAgain)) return Outcome::Failed;

@@ -13,6 +13,7 @@ namespace {
 constexpr int kMsgProduct = 201, kMsgFont = 24, kMsgPage = 7612;
 constexpr int kMsgPrepared = 7614, kMsgApproved = 7615;
 constexpr double kTitlePoints = 14, kTitleH = 6;
+constexpr double kLineGap = 1;
 constexpr double kDetailLeft = 70;
 constexpr double kApart = 4;  ///< between texts on one line of the head
 constexpr double kUnderRule = 2;
@@ -35,7 +36,7 @@ PrintSetup PrintPageSetup(PrintPage& page) {
   page.SetFont(FontOf(kBodyPoints, false, false));
   PrintSetup setup;
   setup.PrintCharH = static_cast<int>(std::ceil(page.TextHeight("A")));
-  setup.PrintLineH = setup.PrintCharH + 1;
+  setup.PrintLineH = setup.PrintCharH + static_cast<int>(kLineGap);
   setup.PrintLinesA = static_cast<int>(page.Height()) / setup.PrintCharH;
   setup.PrintLinesB = static_cast<int>(page.Height()) / setup.PrintLineH;
   setup.PrintAreaA = setup.PrintLinesA * setup.PrintCharH;
@@ -82,7 +83,8 @@ int Sheet::LinesLeft() const {
 void Sheet::SetLetters(double points, bool bold) { page_.SetFont(FontOf(points, bold, false)); }
 
 void Sheet::Rule(double left, double right, double width) {
-  page_.Line(left, top_, right, top_, width);
+  const double between = top_ - kLineGap / 2;
+  page_.Line(left, between, right, between, width);
 }
 
 bool Sheet::WriteFolded(const std::string& text) {
@@ -116,7 +118,7 @@ void Sheet::DrawHead() {
 
   // What the first line has no room for stands below it.
   const double left = std::max(kDetailLeft, title_end);
-  top_ = top + kTitleH;
+  top_ = top + kTitleH + kLineGap;
   if (left + page_.TextWidth(head_.Detail) <= number_start) {
     page_.Text(left, top, head_.Detail);
   } else {

@@ -52,7 +52,7 @@ class Sheet {
   /// On the line that is current.
   void Write(double left, const std::string& text) { page_.Text(left, top_, text); }
   void WriteRight(double right, const std::string& text) { page_.TextRight(right, top_, text); }
-  /// Above that line.
+  /// In the gap above that line.
   void Rule(double left, double right, double width = 0.2);
   void Feed(int lines = 1) { top_ += pitch_ * lines; }
   /// Back to a line above, for a column beside what was written.
