@@ -75,6 +75,7 @@ void InstallFileAndEditMenus() {
   f.mnuFileSave.Click = OfFront(&ViewCommands::Save);
   f.mnuFileSaveAs.Click = OfFront(&ViewCommands::SaveAs);
   f.mnuFileClose.Click = CloseFrontView;
+  f.mnuFilePrint.Click = OfPositions(&ViewCommands::Print);
   f.mnuFileExit.Click = [] { CloseView(frmMain, CloseReason::Code); };
   f.mnuEditUndo.Click = OfFront(&ViewCommands::Undo);
   f.mnuEditRedo.Click = OfFront(&ViewCommands::Redo);

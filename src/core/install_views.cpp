@@ -18,6 +18,7 @@
 #include "posi/posi_view.h"
 #include "posi/result_view.h"
 #include "prog/prog_view.h"
+#include "report/report_view.h"
 #include "state/wait.h"
 
 namespace tr7 {
@@ -38,6 +39,7 @@ void InstallViews() {
   InstallFrame();
   InstallEntry();
   InstallOptionsView();
+  InstallReports();  // ahead of the views, which switch a button without a command off
   InstallPosiView();
   InstallResultView();
   InstallParaAfterDevice();

@@ -16,16 +16,6 @@ constexpr int kMsgStopped = 425;
 constexpr int kMsgWritten = 6507;
 constexpr int kMsgSaved = 6508;
 
-/// Asks for a file and reads it. A file of another kind leaves the table in the stage, so that
-/// nothing foreign comes in.
-bool AskAndReadFile(const DataKind& kind, const DataFile& file, MsgId title_id) {
-  const auto path = AskOpenPath(file, title_id);
-  if (!path || path->empty()) return false;
-  if (!ReadDataFileToStage(kind, *path)) return false;
-  if (kind.FileWasRefused()) kind.StageFromTable();
-  return true;
-}
-
 void ReportDifferences(const DataKind& kind) {
   const std::string numbers = kind.Differing();
   if (numbers.empty()) return TellDone(kind.Equal);
@@ -48,6 +38,14 @@ bool ReadDataFileToStage(const DataKind& kind, const std::string& path) {
   if (TryFourTimes(read)) return true;
   MsgBox(WithReason(Text(kind.FileNotRead), *kind.FileFault));
   return false;
+}
+
+std::optional<std::string> AskAndReadDataFile(const DataKind& kind, const DataFile& file,
+                                              MsgId title_id) {
+  const auto path = AskOpenPath(file, title_id);
+  if (!path || path->empty() || !ReadDataFileToStage(kind, *path)) return std::nullopt;
+  if (kind.FileWasRefused()) kind.StageFromTable();
+  return path;
 }
 
 void ReadData(const DataKind& kind) {
@@ -77,14 +75,14 @@ void VerifyDataToFile(const DataKind& kind) {
   const CommandsOff commands_off;
   const BusyScope busy;
   if (!kind.MayBeCompared()) return;
-  if (AskAndReadFile(kind, kind.File, kind.VerifyTitle)) ReportDifferences(kind);
+  if (AskAndReadDataFile(kind, kind.File, kind.VerifyTitle)) ReportDifferences(kind);
 }
 
 void OpenDataFile(const DataKind& kind) {
   const CommandsOff commands_off;
   const BusyScope busy;
   kind.StoreShown();
-  if (!AskAndReadFile(kind, kind.FileToOpen, kind.OpenTitle)) return;
+  if (!AskAndReadDataFile(kind, kind.FileToOpen, kind.OpenTitle)) return;
   kind.TakeStage();
   if (!kind.FileWasRefused()) kind.MarkSaved();
 }

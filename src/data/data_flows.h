@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "base/msg_id.h"
@@ -32,7 +33,7 @@ struct DataKind {
   // Texts. Above a list of differences stand two lines, below it the words that name it.
   MsgId AskRead, AskWrite;
   DataFile FileToOpen, File;
-  MsgId OpenTitle, SaveTitle, VerifyTitle;
+  MsgId OpenTitle, SaveTitle, VerifyTitle, PrintTitle;
   MsgId FileNotRead, FileNotSaved;
   MsgId Equal, DifferHead, DifferList, DifferName;
 };
@@ -50,6 +51,10 @@ void SaveDataFile(const DataKind& kind);
 
 /// Reads the controller's table into the stage. What failed or was stopped has been told.
 Outcome ReadDataToStage(const DataKind& kind);
+/// Asks for a file and reads it; its path, or nothing after a Cancel or after the user has been
+/// told. A file of another kind leaves the table in the stage, so that nothing foreign comes in.
+[[nodiscard]] std::optional<std::string> AskAndReadDataFile(const DataKind& kind,
+                                                            const DataFile& file, MsgId title_id);
 /// Reads a file into the stage, where what it leaves out keeps what was read before. False after
 /// the user has been told; a file of another kind may count as read.
 [[nodiscard]] bool ReadDataFileToStage(const DataKind& kind, const std::string& path);

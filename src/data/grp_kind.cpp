@@ -98,6 +98,7 @@ const DataKind& GrpKind() {
                              .OpenTitle = 827,
                              .SaveTitle = 832,
                              .VerifyTitle = 834,
+                             .PrintTitle = 830,
                              .FileNotRead = 484,
                              .FileNotSaved = 18,
                              .Equal = 826,

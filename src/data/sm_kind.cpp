@@ -97,6 +97,7 @@ const DataKind& SmKind() {
                              .OpenTitle = 928,
                              .SaveTitle = 933,
                              .VerifyTitle = 936,
+                             .PrintTitle = 932,
                              .FileNotRead = 931,
                              .FileNotSaved = 935,
                              .Equal = 926,

@@ -1,7 +1,5 @@
 #include "data/sm_show.h"
 
-#include <algorithm>
-
 #include "data/sm_table.h"
 #include "forms/frm_sq_mcr.h"
 #include "state/app_state.h"
@@ -13,15 +11,10 @@ namespace {
 constexpr int kMsgHolding = 6501;
 constexpr int kMsgNoneHolds = 6502;
 
-bool HoldsData(const SmTableRecord::value_type& macro) {
-  return std::any_of(macro.begin(), macro.end(),
-                     [](const SmStep& step) { return SmHighestValue(step.Command) > 0; });
-}
-
 std::string MacrosWithData() {
   std::string numbers;
   for (int n = 1; n <= kMacros; ++n) {
-    if (!HoldsData(SmTable[n - 1])) continue;
+    if (!MacroHoldsData(SmTable[n - 1])) continue;
     numbers += (numbers.empty() ? "" : ", ") + std::to_string(n);
   }
   return numbers.empty() ? Text(kMsgNoneHolds) : Text(kMsgHolding, numbers);

@@ -1,5 +1,7 @@
 #include "data/sm_table.h"
 
+#include <algorithm>
+
 namespace tr7 {
 namespace {
 
@@ -21,6 +23,11 @@ int SmHighestValue(int command) {
   constexpr int kLastSignal = 4, kLastTimer = 6;
   if (command >= 1 && command <= kLastSignal) return 4;
   return command > kLastSignal && command <= kLastTimer ? 9 : 0;
+}
+
+bool MacroHoldsData(const SmTableRecord::value_type& macro) {
+  return std::any_of(macro.begin(), macro.end(),
+                     [](const SmStep& step) { return SmHighestValue(step.Command) > 0; });
 }
 
 void SmStageCommit() { SmTable = SmStage; }

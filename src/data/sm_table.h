@@ -47,6 +47,9 @@ extern SmFlagsRecord SmFlags;
 /// The highest value of a step command, whose lowest is 1; 0: it takes none, or is no command.
 int SmHighestValue(int command);
 
+/// True for a macro that does something.
+bool MacroHoldsData(const SmTableRecord::value_type& macro);
+
 /// Every step of `SmTable` within its range: 0, or 1 with `SmBadList`. A blank cell of the
 /// controller becomes an end, and the value of an end 0.
 int SmData_Check();

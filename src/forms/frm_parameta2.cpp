@@ -86,8 +86,6 @@ FrmParameta2::FrmParameta2() : View("frmParameta2", 6000) {
     comboM0Disable[axis].Visible = false;
   }
   Tables = TablesOf(*this);
-  // These commands come with printing; until then they are shown off.
-  for (CommandButton* button : {&cmdParaPrint, &cmdParaFilePrint}) button->Enabled = false;
 }
 
 }  // namespace tr7

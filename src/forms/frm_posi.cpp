@@ -11,8 +11,6 @@ FrmPosi::FrmPosi() : View("frmPosi") {
     strip->Tabs[1].Enabled = false;
     strip->Tabs[2].Enabled = false;
   }
-  // It comes with printing; until then it is shown switched off.
-  cmdPosiPrint.Enabled = false;
 }
 
 }  // namespace tr7

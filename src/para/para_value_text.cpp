@@ -32,7 +32,7 @@ std::string EntryText(int row, int value) {
   }
   if (const auto* option = FieldOfRow(ParaOptionFields(), row)) {
     if (value != 0 && value != 1) return {};
-    return (frmParameta2.*option->Place)[value == option->FirstValue ? 0 : 1].Caption;
+    return Text((frmParameta2.*option->Place)[value == option->FirstValue ? 0 : 1].Tag);
   }
   return {};
 }

@@ -21,7 +21,6 @@ constexpr std::array<VerifyGroup, 5> kGroups{
     {{673, 1, 6}, {675, 7, 13}, {676, 14, 15}, {677, 16, 24}, {678, 25, 34}}};
 
 constexpr int kRowPputWrite = 34;
-constexpr std::size_t kPrintedSizeRow = 36, kPrintedSpeedRow = 37, kPrintedStrokeRow = 38;
 
 bool SameDevice(const ParamSetRecord& a, const ParamSetRecord& b, int axis) {
   return a.ActSize[axis] == b.ActSize[axis] && a.ActSpeed[axis] == b.ActSpeed[axis] &&
@@ -72,23 +71,24 @@ std::string ParaVerifyText() {
   return text;
 }
 
-void ParaFromViewToTable() {
+void ParaToPrintTable(ParamSetRecord& set) {
   for (int axis = 0; axis < kAxes; ++axis) {
-    ParamSet.Actuator[axis] =
-        JoinActuator(ParamSet.ActSize[axis], ParamSet.ActSpeed[axis], ParamSet.ActStroke[axis]);
+    set.Actuator[axis] = JoinActuator(set.ActSize[axis], set.ActSpeed[axis], set.ActStroke[axis]);
   }
-  ParaTable = ParaTableOf(ParamSet);
+  ParaTable = ParaTableOf(set);
   for (int axis = 0; axis < kAxes; ++axis) {
     auto& column = ParaTable[static_cast<std::size_t>(axis)];
     if (AppState.DispMmUnit) {
-      column[kRowStroke] = ParamSet.MmStrokeText[axis];
-      column[kRowZone1] = ParamSet.MmZone1Text[axis];
-      column[kRowZone2] = ParamSet.MmZone2Text[axis];
+      column[kRowStroke] = set.MmStrokeText[axis];
+      column[kRowZone1] = set.MmZone1Text[axis];
+      column[kRowZone2] = set.MmZone2Text[axis];
     }
-    column[kPrintedSizeRow] = ParamSet.ActSize[axis];
-    column[kPrintedSpeedRow] = ParamSet.ActSpeed[axis];
-    column[kPrintedStrokeRow] = static_cast<double>(ParamSet.ActStroke[axis]);
+    column[kPrintedSizeRow] = set.ActSize[axis];
+    column[kPrintedSpeedRow] = set.ActSpeed[axis];
+    column[kPrintedStrokeRow] = static_cast<double>(set.ActStroke[axis]);
   }
 }
+
+void ParaFromViewToTable() { ParaToPrintTable(ParamSet); }
 
 }  // namespace tr7

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "para/para_blocks.h"
@@ -20,9 +21,13 @@ int BuildParaVerifyReport(int mask);
 /// The report as a box says it: the groups that differ, and what differs in each.
 std::string ParaVerifyText();
 
-/// `ParamSet` into `ParaTable` as it is printed: lengths by the display unit, the device text made
-/// from its parts (which `ParamSet` gets too), and these once more in rows of their own behind the
-/// others.
+/// A set into `ParaTable` as it is printed: lengths by the display unit, the device text made
+/// from its parts (which the set gets too), and these once more in rows of their own behind the
+/// others. `ParaFromViewToTable` does so with `ParamSet`.
+void ParaToPrintTable(ParamSetRecord& set);
 void ParaFromViewToTable();
+
+/// The rows of the device's parts there.
+inline constexpr std::size_t kPrintedSizeRow = 36, kPrintedSpeedRow = 37, kPrintedStrokeRow = 38;
 
 }  // namespace tr7

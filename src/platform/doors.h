@@ -6,6 +6,7 @@
 #include "platform/form_host.h"
 #include "platform/help_viewer.h"
 #include "platform/motion_guard.h"
+#include "platform/printer.h"
 #include "platform/serial_port.h"
 #include "platform/settings_store.h"
 
@@ -22,6 +23,7 @@ struct Doors {
   Files* files = nullptr;
   HelpViewer* help = nullptr;
   MotionGuard* guard = nullptr;  ///< null: there is none
+  Printer* printer = nullptr;
 };
 
 extern Doors doors;

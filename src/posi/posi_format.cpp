@@ -89,6 +89,10 @@ std::string PosiValueText(int col, double stored, double way, bool program_mode)
   return PosiLengthText(LengthText(stored, mm), WayOf(way), program_mode);
 }
 
+std::string PosiPulseText(double stored, double way, bool program_mode) {
+  return PosiLengthText(PlainDecimal(stored), WayOf(way), program_mode);
+}
+
 std::string PosiDefaultText(int col, bool program_mode) {
   const int axis = AxisOfColumn(col);
   if (col == kComment) return {};

@@ -16,6 +16,9 @@ int WayOf(double stored);
 /// The same for the value of the other side of a comparison (stored value, "Posi" in pulses).
 std::string PosiValueText(int col, double stored, double way, bool program_mode);
 
+/// The "Posi" cell of such a value in pulses, whatever the display unit.
+std::string PosiPulseText(double stored, double way, bool program_mode);
+
 /// What a cell that program mode hides holds of a text: nothing where the check would refuse it,
 /// since the user can neither see nor mend it. The commit stores that mode's own values there.
 std::string HiddenCellText(int col, const std::string& text);

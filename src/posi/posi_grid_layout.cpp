@@ -22,8 +22,6 @@ constexpr int kCommonWidth = 500;
 constexpr int kPrgPosiWidth = 1000;
 constexpr std::array<const char*, 7> kFieldTitles{"", "VEL", "ACC", "WAY", "Posi", "PF", "PS"};
 
-const char* UnitWord() { return AppState.DispMmUnit ? "(mm)" : "(pls)"; }
-
 const char* FieldTitle(int col) {
   switch (col) {
     case kItpl:
@@ -39,10 +37,7 @@ const char* FieldTitle(int col) {
   }
 }
 
-std::string ColumnTitle(int col) {
-  const bool length = AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kPosi;
-  return length ? PosiColumnName(col) + UnitWord() : FieldTitle(col);
-}
+std::string ColumnTitle(int col) { return PosiColumnTitle(col, AppState.DispMmUnit); }
 
 void WriteHeaders() {
   Grid& grid = frmPosi.flgdData;
@@ -86,6 +81,11 @@ void SetWidths(int (*width_of)(int)) {
 std::string PosiColumnName(int col) {
   const int axis = AxisOfColumn(col);
   return axis >= 0 ? FieldTitle(col) + std::to_string(axis + 1) : FieldTitle(col);
+}
+
+std::string PosiColumnTitle(int col, bool mm) {
+  const bool length = AxisOfColumn(col) >= 0 && FieldOfColumn(col) == kPosi;
+  return length ? PosiColumnName(col) + (mm ? "(mm)" : "(pls)") : FieldTitle(col);
 }
 
 bool IsShownColumn(int col) { return frmPosi.flgdData.ColWidth(col) != 0; }

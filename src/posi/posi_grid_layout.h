@@ -13,6 +13,9 @@ int PositionOfRow(int row);
 /// Name of a body column wherever columns stand side by side: "VEL1", "Posi4", "ITPL".
 std::string PosiColumnName(int col);
 
+/// The heading of a body column: "VEL", "Posi1(mm)".
+std::string PosiColumnTitle(int col, bool mm);
+
 /// True for a column with a width.
 bool IsShownColumn(int col);
 /// True where the user may type: a body cell of a shown column.

@@ -31,6 +31,9 @@
 #include "steps/transfer_scope.h"
 
 namespace tr7 {
+
+std::function<void(ProgView& view)> PrintProgram;
+
 namespace {
 
 constexpr int kMsgCaption = 7059, kMsgGoTo = 7062, kMsgListKey = 7063, kMsgGoToError = 7064;
@@ -191,6 +194,7 @@ void WireButtons(ProgView& view) {
   view.cmdProgWrite.Click = [&view] { ProgDataWrite2Ct(view); };
   view.cmdProgVerifyCt.Click = [&view] { cmdProgVerifyCt_Click(view); };
   view.cmdProgSaveAs.Click = view.Commands.SaveAs = [&view] { ProgDataSaveAs(view); };
+  view.cmdProgPrint.Click = [&view] { PrintProgram(view); };
   view.cmdProgCheck.Click = [&view] { programCheck(view); };
   view.cmdInsLineProg.Click = view.Commands.InsertLine = [&view] { cmdInsLineProg_Click(view); };
   view.cmdDelLineProg.Click = view.Commands.DeleteLine = [&view] { cmdDelLineProg_Click(view); };
@@ -212,7 +216,6 @@ void WireButtons(ProgView& view) {
 void ProgCMDBTN_Yuko(ProgView& view) {
   SwitchControls(view, true);
   view.flgdProg.Enabled = true;
-  view.cmdProgPrint.Enabled = view.cmdProgPrint.Click != nullptr;
   view.cmdProgWrite.Enabled = view.cmdProgVerifyCt.Enabled = !AppState.Offline;
   SwitchLineCommands(view);
 }

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <functional>
+
 #include "prog/prog_store.h"
 
 namespace tr7 {
+
+/// `cmdProgPrint`, set by who prints.
+extern std::function<void(ProgView& view)> PrintProgram;
 
 /// A new program view with one empty step, wired and not shown yet.
 ProgView& NewProgView();

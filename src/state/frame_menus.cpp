@@ -30,7 +30,7 @@ void SwitchFileCommands() {
   frmMain.mnuFileClose.Enabled = !front.StaysOpen;
 }
 
-constexpr int kToolPrint = 5, kToolCut = 7, kToolPrgEdit = 11, kToolPrgExe = 12;
+constexpr int kToolCut = 7, kToolPrgEdit = 11, kToolPrgExe = 12;
 
 }  // namespace
 
@@ -121,12 +121,12 @@ void DispControlerMode() {
 
 void SwitchOffUnbuiltCommands() {
   FrmMain& f = frmMain;
-  for (Menu* menu : {&f.mnuFileNewProg, &f.mnuFileOpenProg, &f.mnuFilePrint, &f.mnuViewSysPara,
-                     &f.mnuViewGrp, &f.mnuViewSM, &f.mnuContProgRead, &f.mnuContProgTask,
-                     &f.mnuMonitorIO, &f.mnuMonitorHensu}) {
+  for (Menu* menu :
+       {&f.mnuFileNewProg, &f.mnuFileOpenProg, &f.mnuViewSysPara, &f.mnuViewGrp, &f.mnuViewSM,
+        &f.mnuContProgRead, &f.mnuContProgTask, &f.mnuMonitorIO, &f.mnuMonitorHensu}) {
     if (!menu->Click) menu->Enabled = false;
   }
-  EnableTools({kToolPrint, kToolCut}, false);
+  EnableTools({kToolCut}, false);
   if (!f.mnuFileOpenProg.Click) EnableTools({kToolPrgEdit}, false);
   if (!f.mnuContProgTask.Click) EnableTools({kToolPrgExe}, false);
 }

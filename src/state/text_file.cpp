@@ -42,7 +42,7 @@ TextFileResult ResultOf(FileFault fault, const std::string& path) {
   if (fault == FileFault::None) return result;
   result.ok = false;
   result.fault = fault;
-  result.words = Text(MessageOf(fault), FileTitle(path));
+  result.words = FileFaultWords(fault, path);
   return result;
 }
 
@@ -52,6 +52,10 @@ int LineAt(std::string_view text, std::size_t at) {
 }
 
 }  // namespace
+
+std::string FileFaultWords(FileFault fault, const std::string& path) {
+  return Text(MessageOf(fault), FileTitle(path));
+}
 
 int FileCodePage() {
   return GetSettingNumber("CodePage", kCodePageShiftJis) == kCodePageUtf8 ? kCodePageUtf8

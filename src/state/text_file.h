@@ -32,6 +32,9 @@ TextFileResult ReadTextFile(const std::string& path, std::string& utf8,
 /// before anything is written.
 TextFileResult SaveTextFile(const std::string& path, const std::string& utf8);
 
+/// What went wrong with a file, in the user's words.
+std::string FileFaultWords(FileFault fault, const std::string& path);
+
 /// The file's title: the path without its folders ("/" and "\\" both part them).
 std::string FileTitle(const std::string& path);
 /// Path of a list file in the program's own folder.

@@ -53,6 +53,7 @@ Desktop::Desktop(const Profile& profile)
   doors.files = &files;
   doors.help = &help;
   doors.guard = &guard;
+  doors.printer = &printer;
   forms.frame_built = [this, demo = profile.demo](QMainWindow& frame) {
     new FileDrop(frame, forms);
     if (demo) SimDock::AddTo(frame, serial.Sim());

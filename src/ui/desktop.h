@@ -11,6 +11,7 @@
 #include "ui/qt_clipboard.h"
 #include "ui/qt_form_host.h"
 #include "ui/qt_help_viewer.h"
+#include "ui/qt_printer.h"
 #include "ui/qt_pump.h"
 #include "ui/qt_serial_port.h"
 
@@ -39,6 +40,7 @@ class Desktop {
   QtSerialPort serial;
   GuardProcess guard{serial};
   QtFormHost forms{pump};
+  QtPrinter printer{forms};
   EscapeKey escape;
   QtClipboard clipboard;
   QtHelpViewer help;

@@ -359,23 +359,26 @@ void QtFormHost::Wait(const std::function<bool()>& answered) {
   while (!answered() && !ended_) pump_.Run();
 }
 
-MsgAnswer QtFormHost::MessageBox(const MessageBoxCall& call) {
+void QtFormHost::Ask(const std::function<void(QWidget* parent, const WaitFor& wait)>& show) {
   LetGoOfHeldButton();
-  if (ended_) return call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
+  if (ended_) return;
   Push();
   const int cursors = wait_cursors_;
   for (int i = 0; i < cursors; ++i) QApplication::restoreOverrideCursor();
-  const MsgAnswer answer =
-      AskMessage(call, ParentForDialogs(), [this](const auto& answered) { Wait(answered); });
+  show(ParentForDialogs(), [this](const auto& answered) { Wait(answered); });
   for (int i = 0; i < cursors; ++i) QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+MsgAnswer QtFormHost::MessageBox(const MessageBoxCall& call) {
+  MsgAnswer answer = call.Buttons == MsgButtons::Ok ? MsgAnswer::Ok : MsgAnswer::Cancel;
+  Ask([&](QWidget* parent, const WaitFor& wait) { answer = AskMessage(call, parent, wait); });
   return answer;
 }
 
 std::optional<std::string> QtFormHost::FileDialog(const FileDialogCall& call) {
-  LetGoOfHeldButton();
-  if (ended_) return std::nullopt;
-  Push();
-  return AskFile(call, ParentForDialogs(), [this](const auto& answered) { Wait(answered); });
+  std::optional<std::string> path;
+  Ask([&](QWidget* parent, const WaitFor& wait) { path = AskFile(call, parent, wait); });
+  return path;
 }
 
 void QtFormHost::Beep() { QApplication::beep(); }

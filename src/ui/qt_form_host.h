@@ -43,6 +43,10 @@ class QtFormHost : public FormHost {
   void ArrangeWindows(WindowArrangement how) override;
   void EndProcess() override;
 
+  /// A dialogue of the desktop's own: `show` is given the window that it stands over and what to
+  /// wait with until it has been answered. Not called once the process is to end.
+  void Ask(const std::function<void(QWidget* parent, const WaitFor& wait)>& show);
+
   /// Called once the frame has been built, before it is first shown.
   std::function<void(QMainWindow& frame)> frame_built;
 

@@ -36,6 +36,10 @@ std::string QtPump::TimeOfDay() const {
   return QTime::currentTime().toString(QStringLiteral("HH:mm:ss")).toStdString();
 }
 
+std::string QtPump::Date() const {
+  return QDate::currentDate().toString(Qt::ISODate).toStdString();
+}
+
 void QtPump::Arm() {
   ++sleeps;
   std::optional<std::int64_t> due = before_sleep ? before_sleep() : std::nullopt;

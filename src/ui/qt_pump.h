@@ -19,6 +19,7 @@ class QtPump : public QObject, public EventPump {
 
   std::int64_t NowUs() const override;
   std::string TimeOfDay() const override;
+  std::string Date() const override;
   void Run() override;
 
   /// Called before the loop sleeps; gives the time at which it wants to be called again.

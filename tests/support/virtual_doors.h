@@ -8,6 +8,7 @@
 #include "platform/sim_port.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/virtual_form_host.h"
+#include "tests/support/virtual_printer.h"
 #include "tests/support/virtual_pump.h"
 #include "tests/support/virtual_settings.h"
 
@@ -46,6 +47,7 @@ struct VirtualDoors {
   VirtualSettings settings;
   VirtualClipboard clipboard;
   VirtualHelpViewer help;
+  VirtualPrinter printer;
   MemoryFiles files;  ///< holds the list files that the program brings along
 };
 

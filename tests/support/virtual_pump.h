@@ -19,6 +19,7 @@ class VirtualPump : public EventPump {
  public:
   std::int64_t NowUs() const override { return now_us_; }
   std::string TimeOfDay() const override { return "12:00:00"; }
+  std::string Date() const override { return "2024-08-31"; }
   void Run() override;
 
   /// Runs `what` when the clock reaches `at_us`, as a user's act would come: from inside a pump.

@@ -54,7 +54,7 @@ QStringList Pictures(const QString& folder) {
 void RemoveOldTour(const QString& folder) {
   QDir().mkpath(folder);
   const QStringList files =
-      QDir(folder).entryList({"tour*.qvd", "tour*.prg", "tour-*.ini"}, QDir::Files) +
+      QDir(folder).entryList({"tour*.qvd", "tour*.prg", "tour*.pdf", "tour-*.ini"}, QDir::Files) +
       Pictures(folder);
   for (const QString& file : files) QDir(folder).remove(file);
 }

@@ -11,6 +11,7 @@
 #include "state/text.h"
 #include "tests/tour/data_script.h"
 #include "tests/tour/motion_script.h"
+#include "tests/tour/print_script.h"
 #include "tests/tour/prog_script.h"
 #include "tests/tour/steps.h"
 
@@ -287,7 +288,9 @@ const std::vector<Script>& Scripts() {
       {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
       {"prog", {"--mode", "prg"}, EditProgram},
       {"compare", {}, CompareJob},
-      {"data", {}, WorkOnData}};
+      {"data", {}, WorkOnData},
+      {"print", {}, PrintData},
+      {"print-prg", {"--mode", "prg"}, PrintPrograms}};
   return scripts;
 }
 

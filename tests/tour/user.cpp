@@ -234,6 +234,15 @@ void User::ChooseFile(const QString& path, const char* picture) {
   See("the file dialogue's end", [] { return !FrontDialog<QFileDialog>(); });
 }
 
+void User::ClickInDialog(const char* name) {
+  ClickPlace(name, [name]() -> Place {
+    const auto* dialog = FrontDialog<QDialog>();
+    auto* widget = dialog ? dialog->findChild<QWidget*>(name) : nullptr;
+    if (!widget) return {};
+    return {widget, widget->rect().center()};
+  });
+}
+
 void User::TellSim(const char* command) {
   // The program belongs to the tool's thread.
   const std::string answer = InTool([this, command] { return sim_.Tell(command); });

@@ -50,6 +50,8 @@ class User {
   /// Waits for the file dialogue, takes its picture where that has a name, types the path and
   /// confirms.
   void ChooseFile(const QString& path, const char* picture = nullptr);
+  /// Clicks a widget of a dialogue that has no record, by its name.
+  void ClickInDialog(const char* name);
   /// Gives the simulated controller a command.
   void TellSim(const char* command);
 

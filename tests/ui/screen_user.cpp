@@ -44,6 +44,9 @@ void ScreenUser::Answer(QWidget& dialog) {
         view->Controls.empty() ? nullptr : forms_.WidgetOf(*view->Controls.front());
     if (widget && widget->window() == &dialog) return AnswerView(*view);
   }
+  for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    if (button->isDefault()) return button->click();
+  }
 }
 
 void ScreenUser::AnswerFile(QFileDialog& dialog) const {

@@ -16,8 +16,8 @@ class QFileDialog;
 namespace tr7 {
 
 /// Who sits before the real screen: answers each dialogue and message box as soon as it shows. A
-/// view without a handler has its default button pressed, and so has a box; a file dialogue is
-/// cancelled.
+/// view without a handler has its default button pressed, and so has a box or any other dialogue; a
+/// file dialogue is cancelled.
 class ScreenUser : public QObject {
  public:
   explicit ScreenUser(const QtFormHost& forms);

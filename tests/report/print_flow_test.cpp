@@ -1,0 +1,189 @@
+// The print buttons: from a click to what comes out of the printer, the refusals, a job that is
+// cancelled, a printer that fails.
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/frm_grp.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_print_select.h"
+#include "forms/frm_sq_mcr.h"
+#include "posi/posi_table.h"
+#include "prog/prog_view.h"
+#include "tests/support/flow_test.h"
+
+namespace tr7 {
+namespace {
+
+FrmPrintSelect& f = frmPrintSelect;
+
+class PrintFlowTest : public FlowTest {
+ protected:
+  /// Positions 1 to 3 are shown.
+  void StartWithTable() {
+    StartOnline();
+    ReadRange(1, 3);
+    Forget();
+  }
+  /// Presses the button, and that of the choice behind it after this act.
+  void PrintChosen(
+      CommandButton& button, std::function<void()> act = [] {}) {
+    forms.on_modal["frmPrintSelect"] = [act](View&) {
+      act();
+      f.cmdPrintSet.Press();
+      f.cmdCancel.Press();
+    };
+    button.Press();
+  }
+  void PrintWith(CommandButton& button, MsgAnswer answer, const char* file = nullptr) {
+    forms.answers = {answer};
+    if (file) forms.file_answers = {file};
+    button.Press();
+  }
+  /// The names of the jobs that came out since the last call.
+  Texts Jobs() { return std::exchange(virt.printer.jobs, {}); }
+  /// The job that came out last says so.
+  bool OnPaper(const std::string& part) const {
+    const auto has = [&part](const std::string& line) { return line.find(part) != line.npos; };
+    return std::any_of(virt.printer.pages.begin(), virt.printer.pages.end(), [&](const auto& page) {
+      return std::any_of(page.begin(), page.end(), has);
+    });
+  }
+};
+
+TEST_F(PrintFlowTest, TheChoiceRefusesWhatCannotBePrinted) {
+  StartWithTable();
+  const std::string range = "The specified range is not right. Please check again.";
+  const std::string file = "Invalid file name. Confirm file name and print it again.";
+  const struct {
+    std::function<void()> act;
+    Texts boxes;
+  } rows[] = {
+      {[] { f.txtPrintStartPosi.Type("10"), f.txtPrintEndPosi.Type("9"); }, {range}},
+      {[] { f.txtPrintStartPosi.Type("4"), f.txtPrintEndPosi.Type("999"); }, {range}},
+      {[] { f.optPrintPosi[1].Press(); }, {file}},
+      {[] { f.chkPrintPara.Set(true), f.optPrintPara[1].Press(); }, {file}},
+      {[] { f.chkPrintPosi.Set(false); }, {}},
+  };
+  for (const auto& row : rows) {
+    PrintChosen(frmPosi.cmdPosiPrint, row.act);
+    EXPECT_EQ(Boxes(), row.boxes) << &row - rows;
+    EXPECT_EQ(Jobs(), Texts()) << &row - rows;
+  }
+  PrintChosen(frmPosi.cmdPosiPrint, [] {
+    f.txtPrintStartPosi.Type("0");
+    f.txtPrintStartPosi.LostFocus();
+    EXPECT_EQ(f.txtPrintStartPosi.Text, "1");
+    f.optPrintPosi[1].Press();
+    EXPECT_TRUE(f.cmdSelectPosiFile.Visible && !f.txtPrintEndPosi.Visible);
+    f.optPrintPosi[0].Press();
+    f.txtPrintEndPosi.Type("2");
+  });
+  EXPECT_TRUE(OnPaper("  2:  ") && !OnPaper("  3:  "));
+}
+
+TEST_F(PrintFlowTest, PositionsPrintAsShownOrOutOfAFile) {
+  constexpr int kPlace = AxisBase(0) + kPosi;
+  StartWithTable();
+  forms.file_answers = {"/a.qvd", "/a.qvd"};
+  AnswerRange("frmSelectPosiNo3", 1, 2);
+  forms.answers = {MsgAnswer::Ok};
+  frmPosi.cmdPosiSaveAs.Press();
+  Put(1, kPlace, "7.000");
+  PrintChosen(frmPosi.cmdPosiPrint);
+  EXPECT_TRUE(OnPaper("AXIS1:QV-") && OnPaper("|Posi1(mm)|") && OnPaper("|7.000|"));
+  PrintChosen(frmPosi.cmdPosiPrint, [] {
+    f.optPrintPosi[1].Press();
+    f.cmdSelectPosiFile.Press();
+  });
+  EXPECT_TRUE(OnPaper("File Name:a.qvd") && OnPaper("|Posi1(mm)|") && OnPaper("  2:  "));
+  EXPECT_FALSE(OnPaper("|7.000|") || OnPaper("  3:  "));
+  EXPECT_EQ(Cell(1, kPlace), "7.000") << "what is shown stays";
+  EXPECT_EQ(virt.printer.faults, Texts());
+}
+
+TEST_F(PrintFlowTest, ParametersPrintAsShownOrOutOfAFile) {
+  FrmParameta2& p = frmParameta2;
+  StartWithTable();
+  frmMain.mnuViewPara.Press();
+  p.cmdParaRead.Press();
+  PrintWith(p.cmdParaPrint, MsgAnswer::No);
+  EXPECT_EQ(Jobs(), Texts());
+  PrintChosen(frmPosi.cmdPosiPrint, [] { f.chkPrintPara.Set(true); });
+  EXPECT_EQ(Jobs(), (Texts{"Position Data", "QV-TR7 Parameters"}));
+  EXPECT_TRUE(OnPaper(" 1. POS/PRG:|POS") && OnPaper("File Name:INDICATED DATA"));
+  PrintWith(p.cmdParaFilePrint, MsgAnswer::Yes, "/none.pmt");
+  EXPECT_TRUE(BoxShown("Fail to open parameter file."));
+  forms.file_answers = {"/a.pmt"};
+  p.cmdSaveParaFile.Press();
+  PrintWith(p.cmdParaFilePrint, MsgAnswer::Yes, "/a.pmt");
+  EXPECT_EQ(Jobs(), Texts{"QV-TR7 Parameters"});
+  EXPECT_TRUE(OnPaper("File Name:a.pmt") && OnPaper(p.txtAxisMmStroke[0].Text));
+  p.txtHomePush[0].Text = "9999";
+  PrintWith(p.cmdParaPrint, MsgAnswer::Yes);
+  EXPECT_TRUE(BoxShown("Invalid value in some parameters."));
+  EXPECT_EQ(Jobs(), Texts());
+}
+
+TEST_F(PrintFlowTest, GroupsAndMacrosPrintBehindTheirCheck) {
+  StartWithTable();
+  frmMain.mnuViewGrp.Press();
+  // A file of another kind leaves what is shown, and that is printed as such.
+  virt.files.Put("/a.grp", "\"QV-R7\",\"SM\"\r\n");
+  PrintWith(frmGrp.cmdGrpFilePrint, MsgAnswer::Ok, "/a.grp");
+  EXPECT_TRUE(OnPaper("File Name:INDICATED DATA"));
+  virt.files.Put("/a.grp", "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"2\",4,9\r\n");
+  PrintWith(frmGrp.cmdGrpFilePrint, MsgAnswer::Ok, "/a.grp");
+  EXPECT_TRUE(OnPaper("File Name:a.grp") && OnPaper("<GRP No>  2  No.:  4  No.:  9  <End>"));
+  frmGrp.cmdGrpDataPrint.Press();
+  EXPECT_TRUE(OnPaper("<GRP No>  2  No.:  1  No.:  1  <End>"));
+  frmGrp.Rows[0].txtGrpEndNo.Type("0");
+  Jobs();
+  frmGrp.cmdGrpDataPrint.Press();
+  EXPECT_TRUE(BoxShown("Invalid value in some of group data."));
+  EXPECT_EQ(Jobs(), Texts());
+  frmMain.mnuViewSM.Press();
+  PrintWith(frmSqMcr.cmdSMDispPrint, MsgAnswer::Cancel);
+  PrintWith(frmSqMcr.cmdSMDispPrint, MsgAnswer::Ok);
+  EXPECT_EQ(Jobs(), Texts{"S/M Data"});
+}
+
+TEST_F(PrintFlowTest, AJobThatDoesNotComeOutSaysWhy) {
+  StartOnline();
+  ReadRange(1, 999);
+  Forget();
+  virt.printer.wanted = false;
+  PrintChosen(frmPosi.cmdPosiPrint);
+  EXPECT_EQ(Boxes(), Texts());
+  virt.printer.wanted = true;
+  virt.printer.refusal = "The printer is off.";
+  PrintChosen(frmPosi.cmdPosiPrint);
+  EXPECT_EQ(Boxes(), Texts{"Printing failed.\n\nThe printer is off."});
+  virt.printer.refusal.clear();
+  virt.printer.pages_of_paper = 2;
+  PrintChosen(frmPosi.cmdPosiPrint);
+  EXPECT_EQ(Boxes(), Texts{"Printing failed.\n\nout of paper"});
+  virt.printer.pages_of_paper = 1000;
+  pump.After(4'000, [] {
+    EXPECT_TRUE(frmMain.ProgressBar1.Visible && frmMain.ProgressBar1.Value > 0);
+    frmMain.cmdComCancel.Press();
+  });
+  PrintChosen(frmPosi.cmdPosiPrint);
+  EXPECT_EQ(Boxes(), Texts{"Printing was stopped."});
+  EXPECT_EQ(Jobs(), Texts());
+  EXPECT_FALSE(frmMain.ProgressBar1.Visible);
+}
+
+TEST_F(PrintFlowTest, AProgramPrintsWithItsCheckAndStaysAsItIs) {
+  StartOffline(true);
+  ProgView& view = NewProgView();
+  ShowView(view);
+  view.flgdProg.SetText(1, kProgCommand, "JUMP");
+  view.flgdProg.SetText(1, kProgOperand1, "5");
+  view.cmdProgPrint.Press();
+  EXPECT_TRUE(OnPaper("  1|JUMP|5") && OnPaper("Check: ") && OnPaper("Step 1: "));
+  EXPECT_TRUE(view.Store.ProgErrList.empty() && !view.ErrPaneIsOpen);
+}
+
+}  // namespace
+}  // namespace tr7
