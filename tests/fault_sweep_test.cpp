@@ -359,7 +359,8 @@ TEST_P(FaultSweep, EveryFaultAtEveryLine) {
     const int n = static_cast<int>(at);
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kErrorReply, "", n); }),
                         good);
-    EXPECT_EQ(sent_.size(), at) << "sent after a refusal";
+    // What may move is stopped all the same.
+    EXPECT_TRUE(sent_.size() == at || sent_[at] == "0SP") << "sent after a refusal";
     ExpectOneOrTheOther(Try([&](Trial& trial) { trial.Spoil(FaultKind::kDeaf, lines[at - 1], 0); }),
                         good);
     EXPECT_GT(boxes_, 0u);
