@@ -1,10 +1,6 @@
 // Teaching from its start to its end.
 
-#include <functional>
-
 #include "forms/frm_main.h"
-#include "link/motion_commands.h"
-#include "motion/present_pos.h"
 #include "state/message_box.h"
 #include "tests/motion/motion_user.h"
 
@@ -30,8 +26,12 @@ TEST_F(TeachingTest, ASessionTakesPositionsLineByLine) {
   EXPECT_FALSE(frmMain.mnuFile.Enabled);
   EXPECT_FALSE(frmPosi.tabCmd.Tabs[0].Enabled || frmPosi.tabCmd.Tabs[1].Enabled);
   EXPECT_EQ(frmPosi.Teach.lblPosiNo.Caption, "1");
+  Put(1, 3, "2");
+  frmPosi.Teach.cmdJOGWrite.Press();
+  EXPECT_TRUE(forms.LastBox().starts_with("The line moves AXIS1 by a distance"));
+  Put(1, 3, "1");
+  Forget();
   port.Ct().PlaceAxis(1, 1234, pump.NowUs());
-  ASSERT_EQ(ReadnDisp_PresentPos(), 0);
   frmPosi.Teach.cmdJOGWriteNext.Press();
   EXPECT_EQ(Cell(1, 4), "1234");
   EXPECT_TRUE(frmPosi.PosiChanged);
@@ -66,35 +66,6 @@ TEST_F(TeachingTest, ServosAndTheSlideByHand) {
   pump.After(2'000, [&f] { EXPECT_FALSE(f.chkSarvoOn[1].Value) << "not answered yet"; });
   f.chkSarvoOn[1].Set(true);
   EXPECT_FALSE(f.chkSarvoOn[1].Value) << "the box goes back";
-}
-
-/// Where the place is not certain, or not the line's to hold, the line stays as it is.
-TEST_F(TeachingTest, ATakeThatCannotBeIsRefused) {
-  const struct {
-    std::function<void()> before;
-    const char* says;
-  } rows[] = {
-      {[] { Put(1, 3, "2"); }, "The line moves AXIS1 by a distance"},
-      {[this] { port.Ct().PlaceAxis(1, AppState.MaxPulse[0] + 1, pump.NowUs()); },
-       "The present position lies outside"},
-      {[] {
-         TusinFailure failure;
-         EXPECT_EQ(MoveAxesToCt(2, 1, &failure), 0);
-       },
-       "An axis is moving"},
-      {[this] { Spoil(FaultKind::kSilence, "0RC", 0); }, "The present position could not be read"}};
-  StartTeaching();
-  const std::string before = Cell(1, 4);
-  for (const auto& row : rows) {
-    row.before();
-    frmPosi.Teach.cmdJOGWrite.Press();
-    EXPECT_TRUE(BoxShown(row.says)) << forms.LastBox();
-    EXPECT_EQ(Cell(1, 4), before);
-    pump.RunFor(3'000'000);
-    Put(1, 3, "1");
-    port.Ct().PlaceAxis(1, 5, pump.NowUs());
-    Forget();
-  }
 }
 
 TEST_F(TeachingTest, ATableThatFailsTheCheckIsNotTaughtInto) {
