@@ -12,6 +12,7 @@
 #include "link/error_list.h"
 #include "link/port.h"
 #include "link/request_queue.h"
+#include "motion/stop.h"
 #include "para/device_choice.h"
 #include "platform/doors.h"
 #include "session/followers.h"
@@ -80,6 +81,7 @@ void LoadFrame() {
 }
 
 bool QueryUnloadFrame(CloseReason reason) {
+  if (StopBeforeClosing()) return true;
   if (AppState.TeachingNow) {
     MsgBox(TwoLines(60, 61));
     return true;

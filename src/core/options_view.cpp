@@ -124,6 +124,7 @@ void LeavePort() {
 void TakePort() {
   const int typed = TypedPortNo();
   const std::string before = PortDevice(AppState.PortNo);
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();  // while the port is the same
   if (IsPortNo(typed)) {
     AppState.PortNo = static_cast<std::int16_t>(typed);
   } else {

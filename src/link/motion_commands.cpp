@@ -3,6 +3,8 @@
 #include "base/text_helpers.h"
 #include "link/tusin_wait.h"
 #include "state/axes_in_use.h"
+#include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
@@ -46,8 +48,8 @@ std::string MoveAxesFrame(int position_no, int kind) {
   return command + PositionField(position_no) + Hex(AxesInUseMask());
 }
 
-int MoveAxesToCt(int position_no, int kind) {
-  return Send(MoveAxesFrame(position_no, kind), 1000, {TusinPriority::Start, true});
+int MoveAxesToCt(int position_no, int kind, TusinFailure* failure) {
+  return Send(MoveAxesFrame(position_no, kind), 1000, {TusinPriority::Start, true, failure});
 }
 
 int StartProgToCt(int program_no) {
@@ -85,26 +87,38 @@ int MoveDirectToCt(const AxisArray<DirectMoveAxis>& axes, const std::string& tai
   return MoveDirectTextToCt(MoveDirectFrame(axes) + tail);
 }
 
-int MoveDirectTextToCt(const std::string& text) {
+int MoveDirectTextToCt(const std::string& text, TusinFailure* failure) {
   last_move_direct_text = text;
-  return Send(text, 1000, {TusinPriority::Start, true});
+  return Send(text, 1000, {TusinPriority::Start, true, failure});
 }
 
 const std::string& LastMoveDirectText() { return last_move_direct_text; }
 void ResetMotionCommands() { last_move_direct_text.clear(); }
 
-int ReadPresentPosFromCt(AxisArray<std::int32_t>& pulses) {
+int ReadPresentPosFromCt(AxisArray<std::int32_t>& pulses, TusinFailure* failure) {
   constexpr std::int64_t kSmallNegative = 0xF0000;
+  constexpr int kMsgBadReply = 104;
   const AxisList used = AxesInUse();
+  const std::size_t length = 6 + 5 * used.size();
   std::string reply;
-  if (TusinCommand("0RC" + Hex(AxesInUseMask()), 6 + 5 * used.size(), 1000, reply) != 0) return 1;
+  const TusinOptions options{.failure = failure};
+  if (TusinWait("0RC" + Hex(AxesInUseMask()), static_cast<int>(length), 1000, reply, options) !=
+      TusinOutcome::Good) {
+    return 1;
+  }
+  AxisArray<std::int32_t> read = pulses;
   std::size_t at = 4;
   for (const int axis : used) {
     const std::int64_t value = HexValue(std::string_view(reply).substr(at, 5));
-    if (value < 0) return 1;
-    pulses[axis] = value > kSmallNegative ? 0 : static_cast<std::int32_t>(value);
+    if (value < 0) {
+      if (failure) failure->text = Text(kMsgBadReply);
+      if (!failure) Tell(kMsgBadReply);
+      return 1;
+    }
+    read[axis] = value > kSmallNegative ? 0 : static_cast<std::int32_t>(value);
     at += 5;
   }
+  pulses = read;
   return 0;
 }
 

@@ -11,9 +11,10 @@ namespace tr7 {
 
 // Commands that move axes. 0 success, 1 failure; the user has been told of a failure. A start that
 // a stop overtakes before it is sent, or sent again, goes out no more: it fails and nobody is told.
+// Where `failure` is given it takes a failure, and nobody is told: what may move is stopped first.
 
 /// "0MP" (or "0MS" for kind 1): moves the axes in use to a position number.
-int MoveAxesToCt(int position_no, int kind);
+int MoveAxesToCt(int position_no, int kind, TusinFailure* failure = nullptr);
 /// The frame that it sends.
 std::string MoveAxesFrame(int position_no, int kind);
 
@@ -45,12 +46,12 @@ std::string MoveDirectFrame(const AxisArray<DirectMoveAxis>& axes);
 /// Moves axes directly. `tail` closes the frame as the kind of move asks.
 int MoveDirectToCt(const AxisArray<DirectMoveAxis>& axes, const std::string& tail);
 /// The same for a text that has been built before.
-int MoveDirectTextToCt(const std::string& text);
+int MoveDirectTextToCt(const std::string& text, TusinFailure* failure = nullptr);
 /// The last text that `MoveDirectToCt` sent, for repeats.
 const std::string& LastMoveDirectText();
 void ResetMotionCommands();
 
 /// "0RC": present positions of the axes in use, in pulses; a small negative counts as 0.
-int ReadPresentPosFromCt(AxisArray<std::int32_t>& pulses);
+int ReadPresentPosFromCt(AxisArray<std::int32_t>& pulses, TusinFailure* failure = nullptr);
 
 }  // namespace tr7

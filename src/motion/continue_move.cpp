@@ -8,6 +8,7 @@
 #include "motion/move_flows.h"
 #include "motion/move_prologue.h"
 #include "motion/move_steps.h"
+#include "motion/present_pos.h"
 #include "motion/running_flow.h"
 #include "state/message_box.h"
 
@@ -34,7 +35,7 @@ bool BackToStartAtEnd() {
 }
 
 /// One number. False: the flow ends.
-bool MoveToNext(const MotionScope& motion) {
+bool MoveToNext() {
   PosiMoveTest& f = frmPosi.Move;
   if (f.MoveContNo < kFirstNo || f.MoveContNo > kLastNo) {
     TusinPortClose();
@@ -42,26 +43,26 @@ bool MoveToNext(const MotionScope& motion) {
     return false;
   }
   f.lblNextNo.Caption = std::to_string(f.MoveContNo);
-  if (!MoveToPosition(motion, f.MoveContNo, f.chkNoSqMcr2.Value)) return false;
+  if (!MoveToPosition(f.MoveContNo, f.chkNoSqMcr2.Value)) return false;
   ShowHomeState();
   frmPosi.Readout.lblkanryoNo.Caption = std::to_string(f.MoveContNo);
   ++f.MoveContNo;
-  return true;
+  return ReadnDisp_PresentPos() == 0;
 }
 
 void Steps() {
   PosiMoveTest& f = frmPosi.Move;
   const MotionScope motion(Motion::Move);
-  const auto ended = [&motion] { return IsEnded() || motion.StopAsked(); };
-  while (BackToStartAtEnd()) {
-    if (!MoveToNext(motion) || IsEnded() || IsSingle()) break;
+  const auto ended = [] { return IsEnded() || StopAsked(); };
+  while (!IsEnded() && BackToStartAtEnd()) {
+    if (!MoveToNext() || IsEnded() || IsSingle()) break;
     if (f.chkTimerUse2.Value && (f.MoveContNo <= EndNo() || f.chkRepeat2.Value)) {
       WaitBetweenSteps(f.txtTimer2.Text, ended);
     }
     if (ended()) break;
   }
   // Stopped on the way, the place is kept: the next start goes on there.
-  if (motion.StopAsked()) f.MoveTempStop2 = True;
+  if (StopAsked()) f.MoveTempStop2 = True;
 }
 
 }  // namespace
@@ -72,11 +73,12 @@ void cmdMove_Click() {
   LogMotion(kActionStart, "", kStarted);
   const bool goes_on = f.MoveTempStop2 && !IsSingle() && f.MoveContNo >= StartNo();
   f.MoveStop2Req = f.MoveTempStop2 = False;
-  if (!MovePrologue()) {
+  if (!MovePrologue(IsEnded)) {
     f.MoveTempStop2 = goes_on && !f.MoveStop2Req;
     return;
   }
-  if (!goes_on) f.MoveContNo = StartNo();
+  // A connection on the way has begun another session, which has no place to go on from.
+  if (!goes_on || f.MoveContNo < StartNo()) f.MoveContNo = StartNo();
   Steps();
   if (f.MoveContNo > EndNo()) f.MoveContNo = StartNo();
   if (f.MoveStop2Req) f.MoveTempStop2 = False;

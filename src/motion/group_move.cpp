@@ -28,9 +28,9 @@ void Steps(const GroupNumbers& range) {
   const MotionScope motion(Motion::Move);
   for (int number = range.first; number <= range.last && !f.GrpStopReq; ++number) {
     f.lblNextNo.Caption = std::to_string(number);
-    if (!MoveToPosition(motion, number, false)) return;
+    if (!MoveToPosition(number, false)) return;
     frmPosi.Readout.lblkanryoNo.Caption = std::to_string(number);
-    if (ReadnDisp_PresentPos() != 0 || motion.StopAsked()) return;
+    if (ReadnDisp_PresentPos() != 0 || StopAsked()) return;
   }
 }
 
@@ -48,7 +48,7 @@ void cmdGrpMove_Click() {
                 std::to_string(range.first), std::to_string(range.last)));
     return;
   }
-  if (MovePrologue()) Steps(range);
+  if (MovePrologue([] { return bool(frmPosi.Move.GrpStopReq); })) Steps(range);
   AppState.GroupMoveStop = False;
 }
 

@@ -7,7 +7,6 @@
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "motion/home_state.h"
-#include "motion/motion_log.h"
 #include "motion/motion_now.h"
 #include "motion/move_steps.h"
 #include "motion/present_pos.h"
@@ -21,15 +20,19 @@ namespace tr7 {
 namespace {
 
 constexpr int kHomePosition = 0;
-constexpr int kActionHome = 5406, kTaken = 5411, kNotTaken = 5412;
+constexpr int kActionHome = 5406;
 constexpr int kFirstHomeLine = 562, kHomeLines = 7;
 constexpr const char* kHomeSensorAlarm = "0%%134";
 
-int StartHoming() {
-  const int started = MoveAxesToCt(kHomePosition, 0);
-  LogMotion(kActionHome, MoveAxesFrame(kHomePosition, 0),
-            started == 0 ? MsgId(kTaken) : MsgId(kNotTaken));
-  return started;
+/// From before the start to the axes at home.
+Rest GoHome(TusinFailure& failure) {
+  if (StopAsked()) return Rest::Stopped;
+  // Until the axes are home there is nothing to go on from.
+  AppState.HomeDone = False;
+  ShowHomeState();
+  const MotionScope motion(Motion::Homing);
+  const auto send = [](TusinFailure* of) { return MoveAxesToCt(kHomePosition, 0, of); };
+  return StartAndWait(kActionHome, MoveAxesFrame(kHomePosition, 0), send, failure);
 }
 
 void HomingIsDone() {
@@ -54,14 +57,9 @@ void TellHomingFailure(const TusinFailure& failure) {
 }  // namespace
 
 void HomeRun() {
-  if (!ConnectOrOpenPort() || CtComStart() != 0 || !AxesAreAtRest()) return;
-  const MotionScope motion(Motion::Homing);
-  // Until the axes are home there is nothing to go on from.
-  AppState.HomeDone = False;
-  ShowHomeState();
-  if (StartHoming() != 0) return;
+  if (!ConnectOrOpenPort() || StopAsked() || CtComStart() != 0 || !AxesAreAtRest()) return;
   TusinFailure failure;
-  switch (WaitForRest(motion, &failure)) {
+  switch (GoHome(failure)) {
     case Rest::Standing:
       frmPosi.Readout.lblkanryoNo.Caption = "H0";
       HomingIsDone();
@@ -82,16 +80,12 @@ void cmdHome_Click() {
 }
 
 int GentenHukki() {
-  const MotionScope motion(Motion::Homing);
-  AppState.HomeDone = False;
-  ShowHomeState();
-  if (StartHoming() != 0) {
-    TusinPortClose();
-    return -1;
-  }
   TusinFailure failure;
-  const Rest rest = WaitForRest(motion, &failure);
-  if (rest == Rest::Failed) TellHomingFailure(failure);
+  const Rest rest = GoHome(failure);
+  if (rest == Rest::Failed) {
+    TusinPortClose();
+    TellHomingFailure(failure);
+  }
   if (rest != Rest::Standing) return -1;
   HomingIsDone();
   return 0;

@@ -1,6 +1,7 @@
 #include "motion/inching.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
@@ -19,7 +20,10 @@ std::optional<std::string> BuildInchingCommand(int step, int index) {
   const std::int32_t here = PresentPos.Pulses[axis];
   const std::int32_t wanted = here + (index % 2 == 0 ? -step : step);
   const std::int32_t target = std::clamp<std::int32_t>(wanted, 0, AppState.MaxPulse[axis]);
-  if (target == here) return std::nullopt;
+  // Cut to the stroke, a step from beyond it would lead far, or the other way.
+  if (target == here || std::abs(target - here) > step || (target < here) != (wanted < here)) {
+    return std::nullopt;
+  }
   AxisArray<DirectMoveAxis> axes{};
   const int acceleration = IsD42(DevSetting[axis]) ? AppState.AccOf100Pls2 : AppState.AccOf100Pls;
   axes[axis] = {true, AppState.VelOf100Pls, acceleration, target};

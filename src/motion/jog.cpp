@@ -27,7 +27,7 @@ constexpr std::size_t kMostPending = 9;
 constexpr int kReleaseStopMs = 5000;  // while the axis runs
 constexpr int kEarlyStopMs = 1000;    // of a start that is still in flight
 constexpr int kMostStopTicks = 100;
-constexpr int kMsgAtTheEnd = 5293;
+constexpr int kMsgAtTheEnd = 5293, kMsgBeyond = 5501;
 constexpr int kActionJog = 5407, kActionInching = 5408, kActionRelease = 5422;
 constexpr int kTaken = 5411, kNotTaken = 5412, kNotSent = 5413;
 
@@ -54,11 +54,7 @@ void StopJog(int timeout_ms) {
   const bool stopped = StopAxes(timeout_ms);
   f.JogPending = f.JogRunning = False;
   f.timerJogStop.Stop();
-  if (stopped) {
-    // The stop button stays on until the axis stands.
-    const MotionScope motion(Motion::Jog);
-    if (WaitForRest(motion) == Rest::Standing && ReadnDisp_PresentPos() == 0) SayAtTheEnd();
-  }
+  if (stopped && WaitForBraking() && ReadnDisp_PresentPos() == 0) SayAtTheEnd();
   EndMotion();
   EndPress();
 }
@@ -68,18 +64,12 @@ int InchingStep() {
   return f.optInching1.Value ? 1 : f.optInching10.Value ? 10 : f.optInching100.Value ? 100 : 0;
 }
 
-/// The controller may have taken a start all the same where an answer was lost. Only the refusal of
-/// the one that was sent says that nothing runs: a second one is refused because the first does.
-bool MayRun(const TusinFailure& failure) {
-  return failure.sends > 1 || (failure.sends == 1 && failure.end != TusinEnd::ErrorReply);
-}
-
 /// What a start that was not taken leaves behind: a stop, before anyone is told.
-void StartFailed(const TusinFailure& failure) {
-  if (MayRun(failure)) StopAxes(kEarlyStopMs);
+void StartFailed(TusinFailure& failure) {
+  if (MayHaveStarted(failure)) StopUnheard(failure);
   EndMotion();
   EndPress();
-  if (!failure.text.empty()) MsgBox(failure.text);
+  TellOf(failure);
 }
 
 void StartJog(int index) {
@@ -99,30 +89,29 @@ void StartJog(int index) {
   f.JogReleased ? StopJog(kEarlyStopMs) : SayAtTheEnd();
 }
 
-bool SendInching(int step, int index) {
+/// One step, from before its start to the axis at rest. True: where it stands may be read.
+bool MoveAStep(int step, int index) {
   const auto frame = BuildInchingCommand(step, index);
   if (!frame) {
-    SayAtTheEnd();
+    TellInStatusPanel(Text(StandsAtEnd(index) ? MsgId(kMsgAtTheEnd) : MsgId(kMsgBeyond)));
     LogMotion(kActionInching, "", kNotSent);
     return false;
   }
-  const bool taken = MoveDirectTextToCt(*frame) == 0;
-  LogMotion(kActionInching, *frame, taken ? MsgId(kTaken) : MsgId(kNotTaken));
-  return taken;
+  TusinFailure failure;
+  const auto send = [&frame](TusinFailure* of) { return MoveDirectTextToCt(*frame, of); };
+  const MotionScope motion(Motion::Inching);
+  const Rest rest = StartAndWait(kActionInching, *frame, send, failure);
+  TellOf(failure);
+  return rest != Rest::Failed;
 }
 
 /// The session is over, or the user has asked for rest since: then nothing is to move.
-bool GivenUp(std::int32_t stops_before) {
-  return !frmPosi.Teach.JogPending || MotionNow.StopsAsked != stops_before;
-}
+bool GivenUp() { return !frmPosi.Teach.JogPending || StopAsked(); }
 
-void Inch(int step, int index, std::int32_t stops_before) {
-  if (ReadnDisp_PresentPos() == 0 && !GivenUp(stops_before)) {
-    const MotionScope motion(Motion::Inching);
-    if (SendInching(step, index) && WaitForRest(motion) != Rest::Failed &&
-        ReadnDisp_PresentPos() == 0) {
-      SayAtTheEnd();
-    }
+void Inch(int step, int index) {
+  if (ReadnDisp_PresentPos() == 0 && !GivenUp() && MoveAStep(step, index) &&
+      ReadnDisp_PresentPos() == 0) {
+    SayAtTheEnd();
   }
   EndPress();
 }
@@ -152,16 +141,17 @@ void cmdJOG_MouseDown(int index) {
   f.JogIsContinuous = f.optJOG.Value;
   if (!f.JogIsContinuous) JogButtonsOff();
   const int step = InchingStep();  // a choice made under the hand is for the next press
-  const std::int32_t stops_before = MotionNow.StopsAsked;
+  BeginAct();
+  ShowMotionTabs();
   const bool at_rest = AxesAreAtRest();
   // The hand may have left while the controller was asked.
   const bool released = f.JogIsContinuous && f.JogReleased;
-  if (!at_rest || released || GivenUp(stops_before)) {
+  if (!at_rest || released || GivenUp()) {
     LogMotion(f.JogIsContinuous ? MsgId(kActionJog) : MsgId(kActionInching), "", kNotSent);
     EndPress();
     return SettleOnlineState();
   }
-  f.JogIsContinuous ? StartJog(index) : Inch(step, index, stops_before);
+  f.JogIsContinuous ? StartJog(index) : Inch(step, index);
 }
 
 void cmdJOG_MouseUp(int /*index*/) {

@@ -9,12 +9,17 @@ namespace tr7 {
 
 MotionNowRecord MotionNow;
 
+void BeginAct() { MotionNow.StopsBefore = MotionNow.StopsAsked; }
+bool StopAsked() { return MotionNow.StopsAsked != MotionNow.StopsBefore; }
+
+bool SomethingMoves() { return MotionNow.Kind != Motion::None || MotionNow.MayRunOn; }
+bool MotionIsComing() { return MotionNow.Flow != MoveFlow::None || frmPosi.Teach.JogPending; }
+
 void ShowMotionLamp() {
-  const bool moving = MotionNow.Kind != Motion::None || MotionNow.MayRunOn;
   FrmMain& f = frmMain;
-  f.imgMoving.Visible = moving;
-  f.cmdStopNow.Enabled = moving;
-  f.cmdStopNow.ToolTip = Text(moving ? MsgId(5295) : MsgId(5296));
+  f.imgMoving.Visible = SomethingMoves();
+  f.cmdStopNow.Enabled = SomethingMoves() || MotionIsComing();
+  f.cmdStopNow.ToolTip = Text(f.cmdStopNow.Enabled ? MsgId(5295) : MsgId(5296));
 }
 
 void BeginMotion(Motion kind) {
@@ -26,7 +31,21 @@ void BeginMotion(Motion kind) {
 void EndMotion() {
   if (MotionNow.Kind == Motion::None) return;
   MotionNow.Kind = Motion::None;
-  if (doors.guard) doors.guard->Rest();
+  if (doors.guard) {
+    // The line may be another one by now; where it is shut the guard keeps the one that it has.
+    if (MotionNow.MayRunOn) {
+      doors.guard->Watch(false);
+    } else {
+      doors.guard->Rest();
+    }
+  }
+  ShowMotionLamp();
+}
+
+void SetMayRunOn(bool may) {
+  const bool settled = MotionNow.MayRunOn && !may;
+  MotionNow.MayRunOn = may;
+  if (settled && MotionNow.Kind == Motion::None && doors.guard) doors.guard->Rest();
   ShowMotionLamp();
 }
 

@@ -9,40 +9,49 @@ namespace tr7 {
 /// What this tool has set in motion.
 enum class Motion { None, Jog, Inching, Homing, Move };
 
-/// The flows of the move tab, one at a time.
-enum class MoveFlow { None, Home, Select, Continue, Group };
+/// The flows of the move tab, and the start of a teaching session: one at a time.
+enum class MoveFlow { None, Home, Select, Continue, Group, Teach };
 
 struct MotionNowRecord {
   Motion Kind = Motion::None;
   MoveFlow Flow = MoveFlow::None;
-  Bool16 Stopping;              ///< a stop is being sent
-  Bool16 MayRunOn;              ///< a stop was not answered: an axis may be moving still
-  std::int32_t StopsAsked = 0;  ///< stops by the red button or Escape: a flow ends where it rises
+  Bool16 Stopping;               ///< a stop is being sent
+  Bool16 MayRunOn;               ///< a stop was not taken: an axis may be moving still
+  std::int32_t StopsAsked = 0;   ///< stops by the red button or Escape: a flow ends where it rises
+  std::int32_t StopsBefore = 0;  ///< how many there were when the user's latest act began
+  Bool16 CloseAsked;             ///< the user is closing the tool, and a flow has to end first
 };
 
 extern MotionNowRecord MotionNow;
 
+/// The user begins what may set something in motion: stops count for it from here on.
+void BeginAct();
+/// The red button or Escape has been pressed since.
+bool StopAsked();
+
+/// Something moves by this tool's command, or may do so.
+bool SomethingMoves();
+/// Something is on its way to a motion: a flow that reads first, a press that asks first.
+bool MotionIsComing();
+
 /// Something is about to be set in motion: the lamp, the red button and the guard know of it before
 /// the frame goes out.
 void BeginMotion(Motion kind);
-/// All axes are at rest, or the user has been told that they may not be.
+/// All axes are at rest, or the user has been told that they may not be: the guard watches on then.
 void EndMotion();
+/// Whether an axis may be moving though its motion has ended for its flow. It may until the
+/// controller says that all stand, or takes a stop.
+void SetMayRunOn(bool may);
 /// The lamp and the red button show it.
 void ShowMotionLamp();
 
 /// One motion of a flow: from before its start is sent to the way out of the flow.
 class MotionScope {
  public:
-  explicit MotionScope(Motion kind) : stops_asked_(MotionNow.StopsAsked) { BeginMotion(kind); }
+  explicit MotionScope(Motion kind) { BeginMotion(kind); }
   ~MotionScope() { EndMotion(); }
   MotionScope(const MotionScope&) = delete;
   MotionScope& operator=(const MotionScope&) = delete;
-
-  /// The user has stopped it at once.
-  bool StopAsked() const { return MotionNow.StopsAsked != stops_asked_; }
-
- private:
-  std::int32_t stops_asked_;
 };
 
 }  // namespace tr7

@@ -70,8 +70,14 @@ void ShowMoveTab() {
   ShowGroupRange();
 }
 
+/// What moves by a hand or by a step is not interfered with from beside it.
+bool AxisIsServed() { return MotionNow.Kind != Motion::None || frmPosi.Teach.JogPending; }
+
 void ShowJogButtons(bool session) {
   PosiTeaching& f = frmPosi.Teach;
+  for (OptionButton* mode : {&f.optJOG, &f.optInching1, &f.optInching10, &f.optInching100}) {
+    mode->Enabled = !AxisIsServed();
+  }
   const bool on = session && f.JogButtonsAreOn && !f.DirectTeaching;
   for (int i = 0; i < static_cast<int>(f.cmdJOG.size()); ++i) {
     HoldButton& button = f.cmdJOG[i];
@@ -85,18 +91,19 @@ void ShowJogButtons(bool session) {
 
 void ShowServos(bool session) {
   PosiTeaching& f = frmPosi.Teach;
+  const bool busy = !f.JogButtonsAreOn || AxisIsServed();
   bool any = false;
   for (int axis = 0; axis < kAxes; ++axis) {
     CheckBox& box = f.chkSarvoOn[axis];
     const bool has = f.SarvoEnable[axis];
     any = any || has;
     box.Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
-    Switch(box, session && has && f.JogButtonsAreOn && !f.DirectTeaching,
-           session && !has ? MsgId(kNoServoTip) : MsgId());
+    const MsgId why_not = !has ? MsgId(kNoServoTip) : busy ? MsgId(kMovingTip) : MsgId();
+    Switch(box, session && has && !busy && !f.DirectTeaching, session ? why_not : MsgId());
   }
   f.lblSarvo.Visible = f.cmdJOGST.Visible;
   f.chkDirectTeach.Visible = f.cmdJOGST.Visible && any;
-  f.chkDirectTeach.Enabled = session && f.JogButtonsAreOn;
+  f.chkDirectTeach.Enabled = session && !busy;
 }
 
 void ShowTeachingTab() {
@@ -109,8 +116,11 @@ void ShowTeachingTab() {
   f.Frame1.Enabled = true;
   ShowJogButtons(session);
   ShowServos(session);
+  const MsgId no_take = !teaching ? MsgId(kNoSessionTip)
+                        : session ? MsgId(kMovingTip)
+                                  : MsgId(kOfflineTip);
   for (CommandButton* take : {&f.cmdJOGWrite, &f.cmdJOGWriteNext}) {
-    Switch(*take, session && f.JogButtonsAreOn, teaching ? MsgId() : MsgId(kNoSessionTip));
+    Switch(*take, session && f.JogButtonsAreOn && !AxisIsServed(), no_take);
   }
   f.lblJogVEL.Caption = std::to_string(f.sldrJogVEL.Value);
   const bool guarded = doors.guard && doors.guard->IsThere();
@@ -121,7 +131,8 @@ void ShowTeachingTab() {
 
 /// A session or a flow keeps the user on its tab.
 void ShowTabs() {
-  const bool teaching = AppState.TeachingNow, moving = MotionNow.Flow != MoveFlow::None;
+  const bool teaching = AppState.TeachingNow || MotionNow.Flow == MoveFlow::Teach;
+  const bool moving = MotionNow.Flow != MoveFlow::None && MotionNow.Flow != MoveFlow::Teach;
   for (TabStrip* strip : {&frmPosi.tabCmd, &frmPosi.tabCmdPrg}) {
     const bool online = !AppState.Offline && !AppState.CtModePending;
     strip->Tabs[0].Enabled = !teaching && !moving;

@@ -2,6 +2,7 @@
 
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
+#include "link/status_commands.h"
 #include "motion/home_state.h"
 #include "motion/homing.h"
 #include "motion/inching.h"
@@ -50,6 +51,12 @@ void InstallTeaching() {
   f.timerTeaching.Tick = timerTeaching_Tick;
 }
 
+/// A new connection can tell what the former one has left in doubt.
+void AskWhetherItRests() {
+  TusinFailure failure;
+  if (MotionNow.MayRunOn && ReadAlarmFromCt(&failure) == 1) SetMayRunOn(false);
+}
+
 }  // namespace
 
 void InstallMotion() {
@@ -67,6 +74,11 @@ void InstallMotion() {
   frmMain.cmdStopNow.Click = [] { StopAtOnce(); };
   frmMain.Escape = StopAtOnce;
   Followers.StopBeforeTheEnd = StopBeforeTheEnd;
+  Followers.SessionBegins = [] {
+    ForgetPauses();
+    ForgetPresentPos();
+  };
+  Followers.SessionStands = AskWhetherItRests;
 }
 
 void ResetMotion() {

@@ -55,6 +55,12 @@ void ShowMoveRange() {
   ShowNumber(f.sldrEndPosiNo, f.lblEndPosiNo);
 }
 
+void ForgetPauses() {
+  PosiMoveTest& f = frmPosi.Move;
+  f.MoveTempStop = f.MoveTempStop2 = False;
+  f.MoveSelectIndex = f.MoveContNo = 0;
+}
+
 void InstallMoveControls() {
   PosiMoveTest& f = frmPosi.Move;
   FillList(f.flgdProgram);

@@ -19,6 +19,9 @@ void cmdTempStop2_Click();
 void cmdStop2_Click();
 void cmdGrpMoveStop_Click();
 
+/// A pause ends with its session: its place is none of another controller's.
+void ForgetPauses();
+
 /// Sliders, up-downs, labels and texts of the tab follow one another.
 void InstallMoveControls();
 /// The numbers beside the sliders of the range.

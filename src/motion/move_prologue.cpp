@@ -5,14 +5,16 @@
 #include "link/status_commands.h"
 #include "motion/home_state.h"
 #include "motion/homing.h"
+#include "motion/motion_now.h"
 #include "motion/move_steps.h"
 #include "session/session.h"
 #include "state/app_state.h"
 
 namespace tr7 {
 
-bool MovePrologue() {
-  if (!ConnectOrOpenPort() || !AxesAreAtRest()) return false;
+bool MovePrologue(const std::function<bool()>& ended) {
+  const auto given_up = [&ended] { return StopAsked() || ended(); };
+  if (!ConnectOrOpenPort() || given_up() || !AxesAreAtRest() || given_up()) return false;
   if (ReadCtModeAndAxis() != 0 || ReadHomeStateFromCt() != 0) {
     TusinPortClose();
     return false;
@@ -20,6 +22,7 @@ bool MovePrologue() {
   // A controller that has lost its home says so, whatever was done before.
   if (!AppState.AllHomed) AppState.HomeDone = False;
   ShowHomeState();
+  if (given_up()) return false;
   return AppState.HomeDone || GentenHukki() == 0;
 }
 

@@ -9,9 +9,11 @@
 #include "link/motion_commands.h"
 #include "link/status_commands.h"
 #include "motion/motion_log.h"
+#include "motion/motion_now.h"
 #include "motion/present_pos.h"
+#include "motion/stop.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
+#include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
 
@@ -24,39 +26,58 @@ constexpr int kWaitUnitMs = 100;
 constexpr int kMsgMoving = 6546;
 constexpr int kActionMove = 5409, kTaken = 5411, kNotTaken = 5412;
 
+/// Polls until the axes stand. A failure leaves them moving.
+Rest WaitForRest(TusinFailure& failure) {
+  std::int64_t shown_us = doors.pump->NowUs();
+  while (true) {
+    const int rest = ReadAlarmFromCt(&failure);
+    if (rest == 1) SetMayRunOn(false);
+    // A stop cuts short what is asked meanwhile, and the axes have their ramp still before them.
+    if (StopAsked()) {
+      failure = {};
+      if (rest != 1 && !MotionNow.MayRunOn) WaitForBraking();
+      return Rest::Stopped;
+    }
+    if (rest != 0) return rest == 1 ? Rest::Standing : Rest::Failed;
+    if (doors.pump->NowUs() - shown_us < kShowEveryUs) continue;
+    if (ReadnDisp_PresentPos(&failure) != 0 && !StopAsked()) return Rest::Failed;
+    shown_us = doors.pump->NowUs();
+  }
+}
+
 }  // namespace
 
 bool AxesAreAtRest() {
   const int rest = ReadAlarmFromCt();
   if (rest == 0) TellInStatusPanel(Text(kMsgMoving));
+  if (rest == 1) SetMayRunOn(false);
   return rest == 1;
 }
 
-Rest WaitForRest(const MotionScope& motion, TusinFailure* failure) {
-  std::int64_t shown_us = doors.pump->NowUs();
-  bool braking = false;
-  while (true) {
-    const int rest = ReadAlarmFromCt(failure);
-    if (rest == 1) {
-      MotionNow.MayRunOn = False;
-      return motion.StopAsked() ? Rest::Stopped : Rest::Standing;
-    }
-    // A stop cuts short what is asked meanwhile, and the axes have their ramp still before them.
-    if (rest == -1 && (braking || !motion.StopAsked())) {
-      return braking ? Rest::Stopped : Rest::Failed;
-    }
-    braking = motion.StopAsked();
-    if (braking || doors.pump->NowUs() - shown_us < kShowEveryUs) continue;
-    if (ReadnDisp_PresentPos() != 0 && !motion.StopAsked()) return Rest::Failed;
-    shown_us = doors.pump->NowUs();
-  }
+Rest StartAndWait(MsgId action, const std::string& frame,
+                  const std::function<int(TusinFailure* failure)>& send, TusinFailure& failure) {
+  if (StopAsked()) return Rest::Stopped;
+  const bool taken = send(&failure) == 0;
+  LogMotion(action, frame, taken ? MsgId(kTaken) : MsgId(kNotTaken));
+  if (!taken && !StopAsked() && !MayHaveStarted(failure)) return Rest::Failed;
+  // Where a stop has overtaken the start, what it has set in motion brakes.
+  const bool polls = taken || StopAsked();
+  const Rest rest = polls ? WaitForRest(failure) : Rest::Failed;
+  if (rest == Rest::Failed) StopUnheard(failure);
+  return rest;
 }
 
-bool MoveToPosition(const MotionScope& motion, int number, bool without_macro) {
+void TellOf(const TusinFailure& failure) {
+  if (!failure.text.empty()) MsgBox(failure.text);
+}
+
+bool MoveToPosition(int number, bool without_macro) {
   const int kind = without_macro ? 1 : 0;
-  const bool taken = MoveAxesToCt(number, kind) == 0;
-  LogMotion(kActionMove, MoveAxesFrame(number, kind), taken ? MsgId(kTaken) : MsgId(kNotTaken));
-  return taken && WaitForRest(motion) == Rest::Standing;
+  const auto send = [=](TusinFailure* failure) { return MoveAxesToCt(number, kind, failure); };
+  TusinFailure failure;
+  const Rest rest = StartAndWait(kActionMove, MoveAxesFrame(number, kind), send, failure);
+  TellOf(failure);
+  return rest == Rest::Standing;
 }
 
 void WaitBetweenSteps(const std::string& text, const std::function<bool()>& ended) {

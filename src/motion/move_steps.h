@@ -1,9 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
+#include "base/msg_id.h"
 #include "link/tusin_wait.h"
-#include "motion/motion_now.h"
 
 namespace tr7 {
 
@@ -12,15 +13,21 @@ namespace tr7 {
 /// True when all axes stand. That they move is told in the status bar, a failure by its box.
 [[nodiscard]] bool AxesAreAtRest();
 
-/// How a wait for the axes ended.
+/// How a motion ended.
 enum class Rest { Standing, Failed, Stopped };
 
-/// Polls until the axes stand, and shows where they are on the way. A failure has been told, unless
-/// `failure` takes it.
-[[nodiscard]] Rest WaitForRest(const MotionScope& motion, TusinFailure* failure = nullptr);
+/// Sends the start of a motion that ends by itself, unless a stop has been asked for, and polls
+/// until the axes stand; where they are is shown on the way. A start or a poll whose answer is lost
+/// is followed by a stop. Nobody is told of it: `failure` has the words.
+[[nodiscard]] Rest StartAndWait(MsgId action, const std::string& frame,
+                                const std::function<int(TusinFailure* failure)>& send,
+                                TusinFailure& failure);
+/// Tells of a failure that was taken, where there is something to tell.
+void TellOf(const TusinFailure& failure);
 
-/// Moves to a position, with or without its macro, and waits for the axes to stand.
-[[nodiscard]] bool MoveToPosition(const MotionScope& motion, int number, bool without_macro);
+/// Moves to a position, with or without its macro, and waits for the axes to stand. False after the
+/// user has been told, or has stopped it.
+[[nodiscard]] bool MoveToPosition(int number, bool without_macro);
 
 /// The pause between two steps: `text` counts in 100 ms. It ends at once where `ended` says so.
 void WaitBetweenSteps(const std::string& text, const std::function<bool()>& ended);

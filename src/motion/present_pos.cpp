@@ -42,8 +42,14 @@ bool StandsAtEnd(int jog_button) {
   return PresentPos.Known && (jog_button % 2 == 0 ? here <= 0 : here >= AppState.MaxPulse[axis]);
 }
 
-int ReadnDisp_PresentPos() {
-  if (ReadPresentPosFromCt(PresentPos.Pulses) != 0) return 1;
+void ForgetPresentPos() {
+  PresentPos = PresentPosRecord{};
+  frmPosi.Readout.lblkanryoNo.Caption.clear();
+  ShowPresentPos();
+}
+
+int ReadnDisp_PresentPos(TusinFailure* failure) {
+  if (ReadPresentPosFromCt(PresentPos.Pulses, failure) != 0) return 1;
   PresentPos.Known = true;
   ShowPresentPos();
   frmPosi.Readout.lblKanryoiti.Caption = frmPosi.Readout.lblkanryoNo.Caption;

@@ -5,6 +5,16 @@
 
 namespace tr7 {
 
+/// Says what runs, from the user's act on: nothing else begins beside it, and a stop ends it from
+/// then on. Where the user closes the tool meanwhile, that goes on at the end.
+class NamedFlow {
+ public:
+  explicit NamedFlow(MoveFlow flow);
+  ~NamedFlow();
+  NamedFlow(const NamedFlow&) = delete;
+  NamedFlow& operator=(const NamedFlow&) = delete;
+};
+
 /// What a flow of the move tab takes for its length: commands, the right to close, the port, the
 /// tabs, and the buttons of the tab but its own stops.
 class RunningFlow {
@@ -12,14 +22,7 @@ class RunningFlow {
   explicit RunningFlow(MoveFlow flow);
 
  private:
-  /// Names the flow before commands go off, and no longer after they are on again.
-  struct Named {
-    explicit Named(MoveFlow flow);
-    ~Named();
-    Named(const Named&) = delete;
-    Named& operator=(const Named&) = delete;
-  };
-  Named named_;
+  NamedFlow named_;  ///< before commands go off, until they are on again
   TransferScope transfer_;
 };
 

@@ -26,7 +26,7 @@ const std::string& CellOf(int index) {
 bool IsEnded() { return frmPosi.Move.MoveStopReq || frmPosi.Move.MoveTempStop; }
 
 /// One row. False: the flow ends.
-bool MoveToRow(const MotionScope& motion) {
+bool MoveToRow() {
   PosiMoveTest& f = frmPosi.Move;
   const double number = Val(CellOf(f.MoveSelectIndex));
   if (number < kFirstNo || number > kLastNo) {
@@ -37,7 +37,7 @@ bool MoveToRow(const MotionScope& motion) {
   f.MovePosiNo = static_cast<std::int16_t>(number);
   f.lblNextNo.Caption = std::to_string(f.MovePosiNo);
   f.flgdProgram.SelectCell(1 + f.MoveSelectIndex, kNumberColumn);
-  if (!MoveToPosition(motion, f.MovePosiNo, f.chkNoSqMcr1.Value)) return false;
+  if (!MoveToPosition(f.MovePosiNo, f.chkNoSqMcr1.Value)) return false;
   frmPosi.Readout.lblkanryoNo.Caption = std::to_string(f.MovePosiNo);
   return ReadnDisp_PresentPos() == 0;
 }
@@ -55,16 +55,16 @@ void Steps() {
   PosiMoveTest& f = frmPosi.Move;
   const MotionScope motion(Motion::Move);
   while (HasRow() && !IsEnded()) {
-    if (!MoveToRow(motion)) {
+    if (!MoveToRow()) {
       // Stopped on the way, the row is not reached: the next start goes to it.
-      f.MoveTempStop = motion.StopAsked();
+      f.MoveTempStop = StopAsked();
       return;
     }
     ++f.MoveSelectIndex;
     if (IsEnded()) return;
     if (f.chkTimerUse.Value && HasRow())
-      WaitBetweenSteps(f.txtTimer.Text, [&motion] { return IsEnded() || motion.StopAsked(); });
-    if (motion.StopAsked()) {
+      WaitBetweenSteps(f.txtTimer.Text, [] { return IsEnded() || StopAsked(); });
+    if (StopAsked()) {
       f.MoveTempStop = True;
       return;
     }
@@ -79,7 +79,7 @@ void cmdSelectMove_Click() {
   LogMotion(kActionStart, "", kStarted);
   const bool goes_on = f.MoveTempStop && f.MoveSelectIndex < kSelectRows;
   f.MoveStopReq = f.MoveTempStop = False;
-  if (!MovePrologue() || (f.chkRepeat.Value && CellOf(0).empty())) {
+  if (!MovePrologue(IsEnded) || (f.chkRepeat.Value && CellOf(0).empty())) {
     f.MoveTempStop = goes_on && !f.MoveStopReq;
     return;
   }

@@ -1,63 +1,125 @@
 #include "motion/stop.h"
 
+#include <cstdint>
+
 #include "base/scope.h"
-#include "forms/frm_posi.h"
 #include "forms/hold_button.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
+#include "link/status_commands.h"
 #include "motion/motion_log.h"
 #include "motion/motion_now.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
 #include "state/message_box.h"
 #include "state/online.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kStopTimeoutMs = 1000;
+constexpr std::int64_t kLongestBrakingUs = 10'000'000;
 constexpr int kMsgMayMove = 6540, kMsgLineHadFailed = 6541;
-constexpr int kActionStop = 5410, kTaken = 5411, kNotTaken = 5412;
+constexpr int kMsgAlarm = 5500, kMsgStopped = 5506;
+constexpr int kActionStop = 5410, kTaken = 5411, kNotTaken = 5412, kNotSent = 5413;
 
-bool SendStop(int timeout_ms) {
-  TusinFailure failure;
+/// What became of a stop.
+enum class StopEnd {
+  Taken,
+  TakenAnew,   ///< over a new connection
+  Alarm,       ///< both answers were an alarm's
+  Unanswered,  ///< an answer stayed out, or made no sense
+};
+
+bool IsTaken(StopEnd end) { return end == StopEnd::Taken || end == StopEnd::TakenAnew; }
+
+bool SendStop(int timeout_ms, TusinFailure& failure) {
   LiftOffline();
   const bool taken = StopToCt(timeout_ms, failure) == 0;
   LogMotion(kActionStop, "0SP", taken ? MsgId(kTaken) : MsgId(kNotTaken));
   return taken;
 }
 
-}  // namespace
+bool IsRefused(const TusinFailure& failure) {
+  return failure.end == TusinEnd::ErrorReply || failure.end == TusinEnd::ErrorInResync;
+}
 
-bool StopAxes(int timeout_ms) {
+StopEnd SendTwice(int timeout_ms) {
+  TusinFailure first, second;
+  if (SendStop(timeout_ms, first)) return StopEnd::Taken;
+  TusinPortCloseForce();
+  if (SendStop(kStopTimeoutMs, second)) return StopEnd::TakenAnew;
+  return IsRefused(first) && IsRefused(second) ? StopEnd::Alarm : StopEnd::Unanswered;
+}
+
+/// Nobody is told.
+StopEnd SendStops(int timeout_ms) {
   MotionNow.Stopping = True;
   const ScopeExit stopped([] { MotionNow.Stopping = False; });
-  bool taken = SendStop(timeout_ms);
-  if (!taken) {
-    TusinPortCloseForce();
-    taken = SendStop(kStopTimeoutMs);
-    if (taken) Tell(kMsgLineHadFailed);
-  }
-  MotionNow.MayRunOn = !taken;
-  ShowMotionLamp();
-  if (!taken) {
-    SetOffline();
-    Tell(kMsgMayMove);
-  }
-  return taken;
+  const StopEnd end = SendTwice(timeout_ms);
+  SetMayRunOn(!IsTaken(end));
+  if (!IsTaken(end)) SetOffline();
+  return end;
+}
+
+void TellStop(StopEnd end) {
+  if (end == StopEnd::TakenAnew) Tell(kMsgLineHadFailed);
+  if (end == StopEnd::Alarm) MsgBox(Text(kMsgAlarm, AppState.CtErrorName));
+  if (end == StopEnd::Unanswered) Tell(kMsgMayMove);
+}
+
+}  // namespace
+
+bool WaitForBraking(TusinFailure* failure) {
+  const std::int64_t until_us = doors.pump->NowUs() + kLongestBrakingUs;
+  int rest = ReadAlarmFromCt(failure);
+  while (rest == 0 && doors.pump->NowUs() < until_us) rest = ReadAlarmFromCt(failure);
+  return rest == 1;
+}
+
+bool StopAxes(int timeout_ms) {
+  const StopEnd end = SendStops(timeout_ms);
+  TellStop(end);
+  return IsTaken(end);
+}
+
+bool MayHaveStarted(const TusinFailure& failure) {
+  return failure.sends > 1 || (failure.sends == 1 && failure.end != TusinEnd::ErrorReply);
+}
+
+void StopUnheard(TusinFailure& failure) {
+  const StopEnd end = SendStops(kStopTimeoutMs);
+  TusinFailure of_poll;  // one failure is told
+  if (IsTaken(end)) static_cast<void>(WaitForBraking(&of_poll));
+  EndMotion();
+  if (end == StopEnd::Taken && !failure.text.empty()) failure.text += "\n\n" + Text(kMsgStopped);
+  // The alarm that has ended the motion is told by the flow that met it.
+  if (end != StopEnd::Alarm || failure.end != TusinEnd::ErrorReply) TellStop(end);
 }
 
 bool StopAtOnce() {
-  const bool pressed = frmPosi.Teach.JogPending;
-  if (MotionNow.Kind == Motion::None && !MotionNow.MayRunOn && !pressed) return false;
+  // What has been told to end and moves nothing leaves the key to what it is meant for.
+  if (!SomethingMoves() && (!MotionIsComing() || StopAsked())) return false;
+  const bool moved = SomethingMoves();
   ++MotionNow.StopsAsked;
   // A press that is on its way to its start comes to none.
   LetGoOfHeldButton();
-  if (MotionNow.Kind == Motion::None && !MotionNow.MayRunOn) return true;
-  if (!MotionNow.Stopping) StopAxes(kStopTimeoutMs);
+  if (!moved) LogMotion(kActionStop, "", kNotSent);
+  if (SomethingMoves() && !MotionNow.Stopping) StopAxes(kStopTimeoutMs);
   return true;
 }
 
 void StopBeforeTheEnd() {
-  if (MotionNow.Kind != Motion::None) StopAtOnce();
+  if (SomethingMoves() || MotionIsComing()) StopAtOnce();
+}
+
+bool StopBeforeClosing() {
+  if (MotionNow.Kind == Motion::None && !MotionIsComing()) return false;
+  StopAtOnce();
+  if (MotionNow.Flow == MoveFlow::None || MotionNow.Flow == MoveFlow::Teach) return false;
+  MotionNow.CloseAsked = True;
+  return true;
 }
 
 }  // namespace tr7

@@ -10,8 +10,10 @@
 #include "motion/homing.h"
 #include "motion/jog.h"
 #include "motion/motion_log.h"
+#include "motion/motion_now.h"
 #include "motion/motion_tabs.h"
 #include "motion/present_pos.h"
+#include "motion/running_flow.h"
 #include "motion/teach_line.h"
 #include "platform/doors.h"
 #include "posi/posi_check.h"
@@ -21,6 +23,7 @@
 #include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/text.h"
+#include "steps/held_axes.h"
 
 namespace tr7 {
 
@@ -90,7 +93,7 @@ bool EnterTeachingMode() {
 void LeaveTeachingMode() {
   const bool line_serves = !AppState.Offline && !AppState.AlarmOn;
   if (line_serves && CtControlModeSet(0, 0, 0) == 0) return;
-  AppState.AxesMayBeHeld = True;
+  AxesStayHeld();
   Tell(kMsgMayBeHeld);
 }
 
@@ -108,10 +111,12 @@ bool StartTeaching() {
     const KeepPlace place;
     if (!PosiDataCheckAll()) return false;
   }
-  if (!ConnectOrOpenPort() || !NoProgramRuns() || !OpenPortOrTell()) return false;
+  const NamedFlow starting(MoveFlow::Teach);
+  if (!ConnectOrOpenPort() || StopAsked() || !NoProgramRuns() || !OpenPortOrTell()) return false;
+  if (StopAsked()) return false;
   ClearTeaching();
   const bool entered = EnterTeachingMode();
-  if (entered && ReadWhereItStands()) return true;
+  if (entered && ReadWhereItStands() && !StopAsked()) return true;
   const bool refused = !entered && AppState.AlarmOn;
   if (!refused) LeaveTeachingMode();
   return false;
@@ -149,10 +154,11 @@ void cmdJOGend_Click() {
   LetGoOfHeldButton();
   ClearTeaching();
   ShowServoBoxes();
-  const bool normal = CtControlModeSet(0, 0, 0) == 0;
+  // Nothing is sent into an alarm: the next connection comes after it.
+  const bool normal = !AppState.AlarmOn && CtControlModeSet(0, 0, 0) == 0;
   LogMotion(kActionEnd, "", normal ? MsgId(kTaken) : MsgId(kNotTaken));
   if (!normal) {
-    AppState.AxesMayBeHeld = True;
+    AxesStayHeld();
     MsgBox(WithReason(Text(kMsgLineFailed), Text(kMsgMayBeHeld)));
   }
   AppState.TeachingNow = False;
@@ -161,56 +167,55 @@ void cmdJOGend_Click() {
   ShowMotionTabs();
 }
 
-int ServoApplyToCt() {
-  const int mask = ServoMask();
-  if (mask != AxesInUseMask()) AppState.HomeDone = False;
+int ServoApplyToCt(int on) {
+  if (on != AxesInUseMask()) AppState.HomeDone = False;
   ShowHomeState();
-  const int sent = SendServos(mask);
+  const int sent = SendServos(on);
   LogMotion(kActionServo, "", sent == 0 ? MsgId(kTaken) : MsgId(kNotTaken));
+  if (sent != 0) Tell(kMsgLineFailed);
   return sent;
 }
 
 void chkSarvoOn_Click(int axis) {
   PosiTeaching& f = frmPosi.Teach;
-  f.ServoOn[axis] = f.chkSarvoOn[axis].Value;
+  const bool on = f.chkSarvoOn[axis].Value;
+  const bool sends = !AppState.Offline && !f.DirectTeaching;
+  // The box shows what holds until the controller has answered, and no axis is moved meanwhile.
   ShowServoBoxes();
-  if (AppState.Offline || f.DirectTeaching) return;
-  if (ServoApplyToCt() != 0) {
-    f.ServoOn[axis] = !f.ServoOn[axis];
-    ShowServoBoxes();
-  }
-  ShowMotionTabs();
+  JogButtonsOff();
+  const int others = ServoMask() & ~(1 << axis);
+  if (!sends || ServoApplyToCt(on ? others | 1 << axis : others) == 0) f.ServoOn[axis] = on;
+  ShowServoBoxes();
+  JogButtonsOn();
 }
 
 namespace {
 
 /// All servos off: the user pushes the slides, and the read-outs follow.
-bool DirectTeachStart() {
-  AppState.HomeDone = False;
-  ShowHomeState();
-  if (SendServos(0) != 0) return false;
+void DirectTeachStart() {
+  if (ServoApplyToCt(0) != 0) return;
   frmPosi.Teach.DirectTeaching = True;
   frmPosi.Teach.timerTeaching.Start();
-  return true;
 }
 
 void DirectTeachEnd() {
   frmPosi.Teach.timerTeaching.Stop();
   frmPosi.Teach.DirectTeaching = False;
-  if (!AppState.Offline) static_cast<void>(ServoApplyToCt());  // its failure has been told
+  if (!AppState.Offline)
+    static_cast<void>(ServoApplyToCt(ServoMask()));  // its failure has been told
 }
 
 }  // namespace
 
 void chkDirectTeach_Click() {
   PosiTeaching& f = frmPosi.Teach;
-  if (!f.chkDirectTeach.Value) {
-    DirectTeachEnd();
-  } else if (!DirectTeachStart()) {
-    f.chkDirectTeach.Value = false;
-  }
+  const bool on = f.chkDirectTeach.Value;
+  f.chkDirectTeach.Value = f.DirectTeaching;  // until the controller has answered
+  JogButtonsOff();
+  on ? DirectTeachStart() : DirectTeachEnd();
+  f.chkDirectTeach.Value = f.DirectTeaching;
   LogMotion(kActionDirect, "", f.DirectTeaching ? MsgId(kOn) : MsgId(kOff));
-  ShowMotionTabs();
+  JogButtonsOn();
 }
 
 void timerTeaching_Tick() {

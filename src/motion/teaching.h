@@ -19,8 +19,8 @@ void chkSarvoOn_Click(int axis);
 void chkDirectTeach_Click();
 void timerTeaching_Tick();
 
-/// Sends the servo bits that the boxes show. 0; 1 after the user has been told.
-int ServoApplyToCt();
+/// Sends the servo bits: `on`, those that are on. 0; 1 after the user has been told.
+int ServoApplyToCt(int on);
 
 /// Takes the present position into the current line of the table, and goes on to the next one.
 void cmdJOGWrite_Click();

@@ -14,6 +14,10 @@ struct FollowersRecord {
   std::function<void()> MmFollowsPulses;
   /// The session is about to end: what this tool has set in motion is stopped first.
   std::function<void()> StopBeforeTheEnd;
+  /// A connection begins: what was under way in the former session is not gone on with.
+  std::function<void()> SessionBegins;
+  /// It stands: what was in doubt of the controller can be asked.
+  std::function<void()> SessionStands;
   /// The line leads, or may lead, to another controller: nothing that was learned of the former
   /// holds.
   std::function<void()> AnotherController;

@@ -97,9 +97,11 @@ bool FirstConnectionSteps() {
 int fChangeToOnline() {
   if (TusinPortOpen() != 0) return 1;
   const CtIdentity before;
+  if (Followers.SessionBegins) Followers.SessionBegins();
   const bool connected = ConnectSteps();
   if (CtIdentity() != before) Followers.AnotherController();
-  if (connected) return 0;
+  if (connected && Followers.SessionStands) Followers.SessionStands();
+  if (connected && !AppState.Offline) return 0;
   FailToOffline();
   return 1;
 }
@@ -118,11 +120,11 @@ void ChangeToOnlineMenu() {
 
 void ChangeToOfflineMenu() {
   const CommandsOff commands_off;
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   if (!AppState.Offline &&
       MsgBox(Text(432), MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
     return;
   }
-  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   EndSession();
 }
 

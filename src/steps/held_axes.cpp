@@ -3,9 +3,11 @@
 #include <string>
 
 #include "base/axes.h"
+#include "link/port.h"
 #include "link/status_commands.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
+#include "state/online.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -26,10 +28,20 @@ bool AxesStandStill() {
   return rest == 1;
 }
 
+void AxesStayHeld() {
+  AppState.AxesMayBeHeld = True;
+  TusinPortCloseForce();
+  SetOffline();
+}
+
 bool HeldAxes::Hold() {
   held_ = true;  // also where only the answer is lost
   if (CtControlModeSet(1, 0, kAllAxes) == 0) return true;
-  if (AppState.AlarmOn) held_ = false;  // refused
+  if (AppState.AlarmOn) {
+    // Refused, or an alarm came in the place of the answer: the next connection releases them.
+    held_ = false;
+    AxesStayHeld();
+  }
   Tell(kMsgLineFailed);
   return false;
 }
@@ -37,7 +49,7 @@ bool HeldAxes::Hold() {
 bool HeldAxes::Release() {
   held_ = false;
   if (CtControlModeSet(0, 0, 0) == 0) return true;
-  AppState.AxesMayBeHeld = True;
+  AxesStayHeld();
   MsgBox(WithReason(Text(kMsgLineFailed), Text(kMsgMayBeHeld)));
   return false;
 }
@@ -46,7 +58,7 @@ void HeldAxes::GiveUp() {
   if (!held_) return;
   held_ = false;
   if (LineServes() && CtControlModeSet(0, 0, 0) == 0) return;
-  AppState.AxesMayBeHeld = True;
+  AxesStayHeld();
   Tell(kMsgMayBeHeld);
 }
 

@@ -6,10 +6,14 @@ namespace tr7 {
 /// exchange its failure.
 [[nodiscard]] bool AxesStandStill();
 
+/// Nobody could give the axes back to the controller: `AppState.AxesMayBeHeld` has the next
+/// connection do so before anything else, and until then there is none. An alarm in the place of
+/// another's answer may have left the line online.
+void AxesStayHeld();
+
 /// The axes in use are held for the length of a write: meanwhile the controller's inputs start no
 /// move. Every way out releases them. Where the line is dead, or has refused something so that
-/// nothing more may be sent, they may stay held: the user is told, and `AppState.AxesMayBeHeld` has
-/// the next connection release them first.
+/// nothing more may be sent, they may stay held, and the user is told.
 class HeldAxes {
  public:
   HeldAxes() = default;

@@ -25,7 +25,7 @@ namespace {
 using qvr7sim::Fault;
 using qvr7sim::FaultKind;
 
-constexpr int kMsgMayMove = 6540, kTeachingTab = 2;
+constexpr int kMsgMayMove = 6540, kMsgAlarm = 5500, kTeachingTab = 2;
 /// The longest that the tool tries to stop an axis: its own tries, and those over a new connection.
 constexpr std::int64_t kLongestStopUs = 40'000'000;
 constexpr std::int64_t kLongestRunUs = std::int64_t{3600} * 1'000'000;
@@ -81,7 +81,10 @@ JogRun::JogRun() {
   online = AppState;
   virt.forms.while_box = [this] {
     watch->HandGone();
-    if (voyage.virt.forms.LastBox() == Text(kMsgMayMove)) watch->ToldMayMove();
+    const std::string told = voyage.virt.forms.LastBox(), alarm = Text(kMsgAlarm);
+    if (told == Text(kMsgMayMove) || told.starts_with(alarm.substr(0, alarm.find('%')))) {
+      watch->ToldMayMove();
+    }
     if (random.Chance(30)) Pump().RunFor(random.Below(300'000));
   };
   WatchButtons(*this);

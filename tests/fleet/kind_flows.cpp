@@ -40,9 +40,11 @@ CommandButton* ButtonOf(const Kind& kind, int caption_id) {
   return nullptr;
 }
 
-/// What the view shows, and the tables of which it shows a page.
+/// What the view shows. Of the groups it shows a page, and another one where one of them is
+/// refused: their table counts, which takes in what is typed.
 struct Held {
   explicit Held(const Kind& kind) {
+    if (&kind.view == &frmGrp) return;
     for (const Control* control : kind.view.Controls) {
       if (const auto* box = dynamic_cast<const TextBox*>(control)) shown.push_back(box->Text);
       const auto* combo = dynamic_cast<const ComboBox*>(control);

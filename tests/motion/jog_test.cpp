@@ -94,6 +94,15 @@ TEST_F(JogTest, AStopThatNobodyAnswersIsSentOverANewConnectionAndThenTold) {
   EXPECT_FALSE(frmMain.imgMoving.Visible);
 }
 
+TEST_F(JogTest, AnAlarmDuringAJogIsToldAsOne) {
+  pump.After(300'000, [this] { port.Ct().RaiseAlarm({'1', '3', 'D'}, pump.NowUs(), false); });
+  Jog(1, 500'000);
+  EXPECT_TRUE(forms.LastBox().starts_with("The controller has an alarm (")) << forms.LastBox();
+  frmPosi.Teach.cmdJOGend.Press();
+  frmMain.cmdReset.Press();
+  EXPECT_FALSE(frmMain.imgMoving.Visible) << "the controller says that all stand";
+}
+
 /// What takes the hand away though it does not leave the button.
 TEST_F(JogTest, WhateverTakesTheHandAwayIsARelease) {
   const std::function<void()> rows[] = {
@@ -109,7 +118,7 @@ TEST_F(JogTest, WhateverTakesTheHandAwayIsARelease) {
   for (const auto& take_away : rows) {
     pump.RunFor(400'000);
     frmPosi.Teach.cmdJOG[1].Hold();
-    ASSERT_TRUE(Moves());
+    ASSERT_TRUE(Moves() && !frmPosi.Teach.chkSarvoOn[1].Enabled);
     take_away();
     pump.RunFor(1'000'000);
     EXPECT_FALSE(Moves());
@@ -146,6 +155,8 @@ TEST_F(JogTest, InchingGoesByStepsWithinTheStroke) {
   PresentPos.Pulses[0] = AppState.MaxPulse[0];
   EXPECT_FALSE(BuildInchingCommand(100, 1)) << "at the end of the stroke";
   EXPECT_FALSE(BuildInchingCommand(7, 0));
+  PresentPos.Pulses[0] += 50;
+  EXPECT_FALSE(BuildInchingCommand(10, 0)) << "farther than the step";
 }
 
 /// In the display unit too, and though the axis came there unseen.

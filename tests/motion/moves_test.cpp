@@ -79,7 +79,9 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
   const struct {
     CommandButton& end;
     const char* then;
+    bool anew = false;
   } rows[] = {{frmPosi.Move.cmdTmpStop, "0MS002F 0MS003F "},
+              {frmPosi.Move.cmdTmpStop, "0MS001F 0MS002F 0MS003F ", true},
               {frmPosi.Move.cmdStop, "0MS001F 0MS002F 0MS003F "},
               {frmMain.cmdStopNow, "0MS001F 0MS002F 0MS003F "}};
   frmPosi.Move.chkNoSqMcr1.Set(true);
@@ -89,11 +91,44 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
     pump.After(120'000, [&row] { row.end.Press(); });
     frmPosi.Move.cmdSelectMove.Press();
     EXPECT_FALSE(Moves()) << Acts() << forms.LastBox();
+    if (row.anew) {
+      GoOffline();
+      frmMain.mnuSettingOnline.Press();
+      ShowTab(1);
+      AppState.HomeDone = True;
+    }
     port.sent.clear();
     frmPosi.Move.cmdSelectMove.Press();
     EXPECT_EQ(Moved(), row.then);
     EXPECT_EQ(Reached(), "3");
   }
+}
+
+TEST_F(MoveTest, EscapeEndsAFlowFromItsClickOn) {
+  PosiMoveTest& f = frmPosi.Move;
+  CommandButton& teach = frmPosi.Teach.cmdJOGST;
+  List({"1"});
+  for (CommandButton* start : {&f.cmdSelectMove, &f.cmdHome, &f.cmdMove, &teach}) {
+    for (std::int64_t at_us = 1'000; at_us < 110'000; at_us += 6'000) {
+      AppState.HomeDone = False;
+      pump.After(at_us, [] { EXPECT_TRUE(frmMain.Escape()); });
+      ShowTab(start == &teach ? 2 : 1);
+      port.sent.clear();
+      start->Press();
+      EXPECT_TRUE(Moved().empty() || Acts().find("0SP") != std::string::npos) << Acts();
+      EXPECT_FALSE(AppState.TeachingNow || frmMain.cmdStopNow.Enabled);
+    }
+  }
+}
+
+TEST_F(MoveTest, ClosingStopsFirstAndAsksThen) {
+  frmPosi.PosiChanged = True;
+  List({"1"});
+  forms.answers = {MsgAnswer::Cancel};
+  pump.After(120'000, [] { EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu)); });
+  frmPosi.Move.cmdSelectMove.Press();
+  EXPECT_TRUE(Acts().ends_with("0MP001F 0SP ")) << Acts();
+  EXPECT_EQ(Boxes(), Texts{Text(391)});
 }
 
 TEST_F(MoveTest, ARangeRepeatsUntilItIsStoppedAndGoesOnAfterAPause) {

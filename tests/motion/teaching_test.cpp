@@ -1,7 +1,6 @@
 // Teaching from its start to its end.
 
 #include "forms/frm_main.h"
-#include "motion/present_pos.h"
 #include "state/message_box.h"
 #include "tests/motion/motion_user.h"
 
@@ -27,8 +26,12 @@ TEST_F(TeachingTest, ASessionTakesPositionsLineByLine) {
   EXPECT_FALSE(frmMain.mnuFile.Enabled);
   EXPECT_FALSE(frmPosi.tabCmd.Tabs[0].Enabled || frmPosi.tabCmd.Tabs[1].Enabled);
   EXPECT_EQ(frmPosi.Teach.lblPosiNo.Caption, "1");
+  Put(1, 3, "2");
+  frmPosi.Teach.cmdJOGWrite.Press();
+  EXPECT_TRUE(forms.LastBox().starts_with("The line moves AXIS1 by a distance"));
+  Put(1, 3, "1");
+  Forget();
   port.Ct().PlaceAxis(1, 1234, pump.NowUs());
-  ASSERT_EQ(ReadnDisp_PresentPos(), 0);
   frmPosi.Teach.cmdJOGWriteNext.Press();
   EXPECT_EQ(Cell(1, 4), "1234");
   EXPECT_TRUE(frmPosi.PosiChanged);
@@ -60,6 +63,7 @@ TEST_F(TeachingTest, ServosAndTheSlideByHand) {
   f.chkDirectTeach.Set(false);
   EXPECT_EQ(Acts(), "0CM10200 ");
   Spoil(FaultKind::kErrorReply, "0CM1");
+  pump.After(2'000, [&f] { EXPECT_FALSE(f.chkSarvoOn[1].Value) << "not answered yet"; });
   f.chkSarvoOn[1].Set(true);
   EXPECT_FALSE(f.chkSarvoOn[1].Value) << "the box goes back";
 }
