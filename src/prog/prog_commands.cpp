@@ -7,6 +7,7 @@
 
 #include "base/text_helpers.h"
 #include "link/port.h"
+#include "link/tusin_wait.h"
 #include "prog/prog_hint.h"
 #include "prog/prog_store.h"
 #include "state/app_state.h"
@@ -130,9 +131,14 @@ ProgWrite WriteProgdataToCt(int program, const std::vector<ProgStep>& steps) {
   if (steps.size() < most) digits += DigitsOf(ProgStep());  // it ends the program
 
   ProgressScope progress(Text(383), 2, true);
-  const Outcome sent =
-      SendEchoed({FrameOf("0WM", program) + digits, kWriteReplyLength, kTimeoutMs, kEcho});
-  if (sent != Outcome::Done) return AppState.AlarmOn ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
+  TusinFailure failure;
+  const Outcome sent = SendEchoed(
+      {FrameOf("0WM", program) + digits, kWriteReplyLength, kTimeoutMs, kEcho}, &failure);
+  if (sent != Outcome::Done) {
+    // One that was sent again may have been taken the first time.
+    const bool refused = failure.end == TusinEnd::ErrorReply && failure.sends == 1;
+    return refused || failure.sends == 0 ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
+  }
   progress.Set(1);
   const Outcome ended = SendEchoed({FrameOf("0MW", program), kWriteReplyLength, kTimeoutMs, kEcho});
   if (ended != Outcome::Done) return ProgWrite::HalfWritten;

@@ -9,8 +9,13 @@
 namespace tr7 {
 namespace {
 
-Outcome SendFrame(const RecordFrame& frame, std::string& reply) {
-  const TusinOutcome outcome = TusinWait(frame.text, frame.reply_length, frame.timeout_ms, reply);
+Outcome SendFrame(const RecordFrame& frame, std::string& reply, TusinFailure* failure = nullptr) {
+  const TusinOutcome outcome =
+      TusinWait(frame.text, frame.reply_length, frame.timeout_ms, reply, {.failure = failure});
+  if (failure && outcome == TusinOutcome::Failed) {
+    if (!failure->text.empty()) MsgBox(failure->text);
+    TusinAbort();
+  }
   if (outcome == TusinOutcome::Withdrawn) return Outcome::Stopped;
   return outcome == TusinOutcome::Good ? Outcome::Done : Outcome::Failed;
 }
@@ -23,9 +28,9 @@ Outcome ReadNamed(const RecordFrame& frame, std::string& reply) {
   return TellBadData();
 }
 
-Outcome SendEchoed(const RecordFrame& frame) {
+Outcome SendEchoed(const RecordFrame& frame, TusinFailure* failure) {
   std::string reply;
-  const Outcome outcome = SendFrame(frame, reply);
+  const Outcome outcome = SendFrame(frame, reply, failure);
   if (outcome == Outcome::Failed && frame.unanswered_id) Tell(frame.unanswered_id);
   if (outcome != Outcome::Done) return outcome;
   if (reply.substr(0, frame.echo) == frame.text.substr(0, frame.echo)) return Outcome::Done;

@@ -8,6 +8,8 @@
 
 namespace tr7 {
 
+struct TusinFailure;
+
 // One frame of a bulk transfer. The exchange has told the user of its own failures.
 
 /// A frame and what is known of its reply.
@@ -24,8 +26,8 @@ struct RecordFrame {
 Outcome ReadNamed(const RecordFrame& frame, std::string& reply);
 
 /// Sends a frame of a write and compares the echo. Another echo is fatal: the line is closed
-/// and the user told.
-Outcome SendEchoed(const RecordFrame& frame);
+/// and the user told. `failure` may be null; it takes what became of a frame that failed.
+Outcome SendEchoed(const RecordFrame& frame, TusinFailure* failure = nullptr);
 
 /// The same of a record of a write, which `WriteTaken` knows by this name.
 Outcome SendRecord(const RecordFrame& frame, const std::string& name);
