@@ -17,6 +17,7 @@ struct FrmProg : View {
   CommandButton cmdProgVerifyCt{*this, "cmdProgVerifyCt", 5202};
   Frame framFile{*this, "framFile", 5231};
   CommandButton cmdProgSaveAs{*this, "cmdProgSaveAs", 5206};
+  CommandButton cmdProgCompare{*this, "cmdProgCompare", 5320};
   CommandButton cmdProgPrint{*this, "cmdProgPrint", 5208};
   Frame framEdit{*this, "framEdit", 5232};
   CommandButton cmdInsLineProg{*this, "cmdInsLineProg", 5209};

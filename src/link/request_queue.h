@@ -39,7 +39,8 @@ struct RequestQueue {
   Exchange exchange;  ///< of the request on the line
   /// A failed request whose waiter has not told the user and gone offline yet: the line is shut.
   const TusinRequest* untold = nullptr;
-  bool refused_at_once = false;  ///< the last failed request, by an error reply to its first send
+  TusinEnd failed_end = TusinEnd::Good;  ///< of the last failed request, and how often it was sent
+  int failed_sends = 0;
   /// A request was withdrawn while its reply may be on the way.
   bool late_reply_possible = false;
 

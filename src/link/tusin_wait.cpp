@@ -67,6 +67,11 @@ void TellFailure(const TusinRequest& request, const TusinOptions& options) {
   TusinQueue.untold = nullptr;
 }
 
+void NoteFailed(const TusinRequest& request) {
+  TusinQueue.failed_end = request.end;
+  TusinQueue.failed_sends = request.sends;
+}
+
 }  // namespace
 
 TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
@@ -88,12 +93,12 @@ TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout
     case TusinEnd::Withdrawn:
       return TusinOutcome::Withdrawn;
     case TusinEnd::GivenUp:
-      TusinQueue.refused_at_once = false;
+      NoteFailed(request);
       return TusinOutcome::Failed;
     default:
       TellFailure(request, options);
       if (!options.failure) TusinAbort();
-      TusinQueue.refused_at_once = request.end == TusinEnd::ErrorReply && request.sends == 1;
+      NoteFailed(request);
       return TusinOutcome::Failed;
   }
 }
@@ -105,7 +110,11 @@ int TusinCommand(const std::string& command, int reply_length, int timeout_ms, s
   return outcome == TusinOutcome::Good ? 0 : 1;
 }
 
-bool TusinRefusedAtOnce() { return TusinQueue.refused_at_once; }
+bool TusinRefusedAtOnce() {
+  return TusinQueue.failed_end == TusinEnd::ErrorReply && TusinQueue.failed_sends == 1;
+}
+
+bool TusinTookNothing() { return TusinQueue.failed_sends == 0 || TusinRefusedAtOnce(); }
 
 void TusinAbort() {
   TusinWaitMs(kRestMs);

@@ -20,6 +20,7 @@ int PrepareProg(ProgView& view) {
 int ProgDataCheck(ProgView& view, bool SilentTail) {
   FGProg_InitPos(view.flgdProg);
   view.Store.ProgErrList.clear();
+  ProgErrClear(view.flgdPrgErr);  // an open pane shows the errors of this check alone
   if (PrepareProg(view) != 0) return 1;
   if (programCheckProc(view.Store) == 0) return 0;
   ProgErrShow(view);

@@ -134,7 +134,7 @@ ProgWrite WriteProgdataToCt(int program, const std::vector<ProgStep>& steps) {
   const Outcome sent =
       SendEchoed({FrameOf("0WM", program) + digits, kWriteReplyLength, kTimeoutMs, kEcho});
   if (sent != Outcome::Done) {
-    return TusinRefusedAtOnce() ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
+    return TusinTookNothing() ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
   }
   progress.Set(1);
   const Outcome ended = SendEchoed({FrameOf("0MW", program), kWriteReplyLength, kTimeoutMs, kEcho});

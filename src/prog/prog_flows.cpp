@@ -32,14 +32,14 @@ namespace {
 constexpr int kMsgHalfWritten = 7058, kMsgCaption = 7059, kMsgTooMany = 7057, kMsgSaved = 6508;
 constexpr int kMsgNotSaved = 422;
 constexpr int kPauseMs = 100;
-constexpr DataFile kFileToOpen{FileKind::Program, 131, "prg", 438};
 constexpr DataFile kFileToSave{FileKind::Program, 437, "prg", 438};
 
-/// The line, the step counts and the user's choice; none where one of them fails.
-std::optional<int> AskProgNoOfCt() {
-  if (!ConnectOrOpenPort() || !KnowProgStepCounts()) return std::nullopt;
-  TusinPortClose();
-  return AskProgNo();
+/// The 100 step counts, unless they are known.
+bool KnowProgStepCounts() {
+  if (AppState.ProgStepsRead) return true;
+  if (ReadAllProgStepCountFromCt() != Outcome::Done) return false;
+  TusinWaitMs(kPauseMs);
+  return true;
 }
 
 bool FitsNumber(const ProgView& view, int program) {
@@ -121,11 +121,10 @@ void TellTooManySteps(const ProgView& view) {
 
 }  // namespace
 
-bool KnowProgStepCounts() {
-  if (AppState.ProgStepsRead) return true;
-  if (ReadAllProgStepCountFromCt() != Outcome::Done) return false;
-  TusinWaitMs(kPauseMs);
-  return true;
+std::optional<int> AskProgNoOfCt() {
+  if (!ConnectOrOpenPort() || !KnowProgStepCounts()) return std::nullopt;
+  TusinPortClose();
+  return AskProgNo();
 }
 
 void ProgDataWrite2Ct(ProgView& view) {
@@ -172,15 +171,21 @@ bool ProgDataGetfromCt(int& program, std::vector<ProgStep>& steps) {
   return outcome == Outcome::Done;
 }
 
+bool ProgFileIsRead(const std::string& path, ProgStore& store) {
+  if (OpenProgFile(path, store) == 0) return true;
+  MsgBox(WithReason(Text(367), store.FileFault));
+  return false;
+}
+
 bool ProgDataFileOpen(ProgView& view) {
   const CommandsOff commands_off;
   const BusyScope busy;
-  const auto path = AskOpenPath(kFileToOpen, 130);
-  view.Store.FileFault.clear();
-  if (!path || path->empty() || OpenProgFile(*path, view.Store) != 0) {
-    MsgBox(WithReason(Text(367), view.Store.FileFault));
+  const auto path = AskOpenPath(kProgDataFile, 130);
+  if (!path || path->empty()) {
+    Tell(367);
     return false;
   }
+  if (!ProgFileIsRead(*path, view.Store)) return false;
   ShowProgFileName(*path, view);
   view.Store.ProgCmdBad = view.Store.ProgChanged = False;
   ProgDataHyoji2(view);

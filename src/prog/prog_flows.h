@@ -1,8 +1,11 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "prog/prog_store.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
 
@@ -20,7 +23,13 @@ void ProgDataSaveAs(ProgView& view);
 /// Asks for a file and reads it into the view; false where nothing has come.
 bool ProgDataFileOpen(ProgView& view);
 
-/// The 100 step counts, unless they are known.
-[[nodiscard]] bool KnowProgStepCounts();
+inline constexpr DataFile kProgDataFile{FileKind::Program, 131, "prg", 438};  ///< to be opened
+
+/// Reads a program file into the store; false after the user has been told.
+[[nodiscard]] bool ProgFileIsRead(const std::string& path, ProgStore& store);
+
+/// The line, the step counts and the user's choice of a program of the controller; none where one
+/// of them fails.
+[[nodiscard]] std::optional<int> AskProgNoOfCt();
 
 }  // namespace tr7

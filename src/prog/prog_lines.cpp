@@ -143,7 +143,8 @@ void cmdInsLineProg_Click(ProgView& view) {
 void cmdDelLineProg_Click(ProgView& view) {
   Grid& listing = view.flgdProg;
   const auto [first, last] = std::minmax({listing.Row, listing.RowSel});
-  if (!IsStep(listing, first) || !IsStep(listing, last)) {
+  // Meant so: what a file brings beyond the longest program is no line to delete.
+  if (!IsStep(listing, first) || !IsStep(listing, last) || last > kMostProgSteps) {
     MsgBox(TwoLines(386, 387));
     return;
   }

@@ -1,5 +1,7 @@
 #include "prog/prog_listing.h"
 
+#include <algorithm>
+
 #include "base/text_helpers.h"
 #include "prog/command_list.h"
 #include "prog/prog_hint.h"
@@ -26,18 +28,9 @@ int TellUnreadable(int step, int column, const std::string& fault) {
 /// 0; 1 at a cell that cannot be read.
 int TakeStep(const Grid& listing, int number, ProgStep& step) {
   const ProgCells cells = CellsOfStep(listing, number);
-  const int code = SeekCmdCode(cells[kProgCommand]);
-  if (code < 0) {
-    return TellUnreadable(number, kProgCommand, CellFault(-1, kProgCommand, cells[kProgCommand]));
-  }
-  step[kProgCommand] = code;
-  for (int column = kProgOperand1; column <= kProgResult; ++column) {
-    const std::string& text = cells[column];
-    const auto value = seekInputData(code, column, text.empty() ? "0" : text);
-    if (!value) return TellUnreadable(number, column, CellFault(code, column, text));
-    step[column] = *value;
-  }
-  return 0;
+  const int bad = EncodeCells(cells, step);
+  if (bad == 0) return 0;
+  return TellUnreadable(number, bad, CellFault(step[kProgCommand], bad, cells[bad]));
 }
 
 void SizeRows(Grid& listing) {
@@ -47,25 +40,10 @@ void SizeRows(Grid& listing) {
 template <typename Steps, typename Cells>
 void Show(ProgView& view, const Steps& steps, const Cells& cells_of) {
   if (steps.empty() || ReadCommandLst() != 0) return;
-  {
-    const ListingQuiet quiet(view.flgdProg);
-    view.flgdProg.SetRows(static_cast<int>(steps.size()) + 1);
-    SizeRows(view.flgdProg);
-    FGProg_ReNumber(view.flgdProg);
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-      PutCells(view.flgdProg, static_cast<int>(i) + 1, cells_of(steps[i]));
-    }
-  }
+  std::vector<ProgCells> cells(steps.size());
+  std::transform(steps.begin(), steps.end(), cells.begin(), cells_of);
+  PutListing(view.flgdProg, cells);
   FGProg_InitPos(view.flgdProg);
-}
-
-ProgCells CellsOfCode(const ProgStep& step) {
-  ProgCells cells;
-  cells[kProgCommand] = CmdName(step[kProgCommand]);
-  for (int column = kProgOperand1; column <= kProgResult; ++column) {
-    cells[column] = StepCellToText(step, column).Text();
-  }
-  return cells;
 }
 
 ProgCells KnownCells(ProgCells cells) {
@@ -89,8 +67,46 @@ void PutCells(Grid& listing, int step, const ProgCells& cells) {
   }
 }
 
+std::vector<ProgCells> CellsOfListing(const Grid& listing) {
+  std::vector<ProgCells> steps;
+  for (int step = 1; step <= ListingSteps(listing); ++step) {
+    steps.push_back(CellsOfStep(listing, step));
+  }
+  return steps;
+}
+
+void PutListing(Grid& listing, const std::vector<ProgCells>& steps) {
+  const ListingQuiet quiet(listing);
+  listing.SetRows(static_cast<int>(steps.size()) + 1);
+  SizeRows(listing);
+  FGProg_ReNumber(listing);
+  int step = 0;
+  for (const ProgCells& cells : steps) PutCells(listing, ++step, cells);
+}
+
 int CodeOfStep(const Grid& listing, int step) {
   return SeekCmdCode(Trim(listing.Text(step, kProgCommand)));
+}
+
+int EncodeCells(const ProgCells& cells, ProgStep& step) {
+  const int code = step[kProgCommand] = SeekCmdCode(cells[kProgCommand]);
+  if (code < 0) return kProgCommand;
+  for (int column = kProgOperand1; column <= kProgResult; ++column) {
+    const std::string& text = cells[column];
+    const auto value = seekInputData(code, column, text.empty() ? "0" : text);
+    if (!value) return column;
+    step[column] = *value;
+  }
+  return 0;
+}
+
+ProgCells DecodeStep(const ProgStep& step) {
+  ProgCells cells;
+  cells[kProgCommand] = CmdName(step[kProgCommand]);
+  for (int column = kProgOperand1; column <= kProgResult; ++column) {
+    cells[column] = StepCellToText(step, column).Text();
+  }
+  return cells;
 }
 
 void InitSize_FGProg(Grid& listing) {
@@ -135,7 +151,7 @@ int TorikomiProg2DA(ProgView& view) {
   return 0;
 }
 
-void ProgDataHyoji(ProgView& view) { Show(view, view.Store.ProgCtDA, CellsOfCode); }
+void ProgDataHyoji(ProgView& view) { Show(view, view.Store.ProgCtDA, DecodeStep); }
 
 void ProgDataHyoji2(ProgView& view) { Show(view, view.Store.ProgFileDA, KnownCells); }
 

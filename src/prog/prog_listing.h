@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "prog/prog_store.h"
 
@@ -11,6 +12,9 @@ inline int ListingSteps(const Grid& listing) { return listing.Rows() - 1; }
 /// The cells of a step, trimmed.
 ProgCells CellsOfStep(const Grid& listing, int step);
 void PutCells(Grid& listing, int step, const ProgCells& cells);
+/// All steps, and the listing as these alone.
+std::vector<ProgCells> CellsOfListing(const Grid& listing);
+void PutListing(Grid& listing, const std::vector<ProgCells>& steps);
 /// The code of the command that stands at a step; -1 where it is none.
 int CodeOfStep(const Grid& listing, int step);
 
@@ -20,6 +24,11 @@ void SetStr_FGProg(Grid& listing);
 void FGProg_ReNumber(Grid& listing);
 /// The selection goes to the first cell.
 void FGProg_InitPos(Grid& listing);
+
+/// A step's numeric form from its texts, and its texts from its numeric form. 0, or the column
+/// whose text cannot be read; the code of a command that was stands in the step all the same.
+int EncodeCells(const ProgCells& cells, ProgStep& step);
+ProgCells DecodeStep(const ProgStep& step);
 
 /// The listing does not repaint while many cells change.
 class ListingQuiet {

@@ -11,22 +11,11 @@ namespace {
 constexpr std::size_t kMostEdits = 200;
 
 ListingShot ShotOf(const Grid& listing) {
-  ListingShot shot{{}, listing.Row, listing.Col};
-  for (int step = 1; step <= ListingSteps(listing); ++step) {
-    shot.steps.push_back(CellsOfStep(listing, step));
-  }
-  return shot;
+  return {CellsOfListing(listing), listing.Row, listing.Col};
 }
 
 void Show(Grid& listing, const ListingShot& shot) {
-  {
-    const ListingQuiet quiet(listing);
-    listing.SetRows(static_cast<int>(shot.steps.size()) + 1);
-    FGProg_ReNumber(listing);
-    for (std::size_t i = 0; i < shot.steps.size(); ++i) {
-      PutCells(listing, static_cast<int>(i) + 1, shot.steps[i]);
-    }
-  }
+  PutListing(listing, shot.steps);
   listing.SelectCell(std::min(shot.row, ListingSteps(listing)), shot.column);
 }
 

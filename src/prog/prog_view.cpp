@@ -7,8 +7,10 @@
 #include "forms/frm_main.h"
 #include "platform/doors.h"
 #include "prog/command_list.h"
+#include "prog/prog_cells.h"
 #include "prog/prog_check_flow.h"
 #include "prog/prog_clip.h"
+#include "prog/prog_compare.h"
 #include "prog/prog_err_pane.h"
 #include "prog/prog_flows.h"
 #include "prog/prog_hint.h"
@@ -19,7 +21,6 @@
 #include "prog/prog_targets.h"
 #include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
-#include "prog/vocabulary.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
@@ -36,7 +37,7 @@ std::function<void(ProgView& view)> PrintProgram;
 
 namespace {
 
-constexpr int kMsgCaption = 7059, kMsgGoTo = 7062, kMsgListKey = 7063, kMsgGoToError = 7064;
+constexpr int kMsgCaption = 7059, kMsgGoToError = 7064;
 constexpr Colour kEditColour = 0xC0FFFF;
 
 void SwitchLineCommands(ProgView& view) {
@@ -76,28 +77,6 @@ void GoToError(ProgView& view) {
   }
 }
 
-RowMark MarkOfRow(const Grid& listing, int row) {
-  switch (MarkOfStep(listing, row)) {
-    case StepMark::Label:
-    case StepMark::Subroutine:
-      return RowMark::Target;
-    case StepMark::Jump:
-    case StepMark::Call:
-      return RowMark::Jump;
-    case StepMark::None:
-      break;
-  }
-  return RowMark::None;
-}
-
-bool IsUnusedCell(const Grid& listing, int row, int column) {
-  if (row < 1 || row >= listing.Rows() || column < kProgOperand1 || column > kProgResult) {
-    return false;
-  }
-  const int code = CodeOfStep(listing, row);
-  return code >= 0 && !ColumnIsUsed(code, column);
-}
-
 /// Whole lines, or the cells that are selected.
 void CopyFromListing(ProgView& view) {
   IsWholeLine(view.flgdProg) ? PrgDataLineCopy(view) : ProgCellsCopy(view);
@@ -106,25 +85,6 @@ void CopyFromListing(ProgView& view) {
 
 void PasteToListing(ProgView& view) {
   IsWholeLine(view.flgdProg) ? ProgDataLinePaste(view) : ProgCellsPaste(view);
-}
-
-std::string HintText(const Grid& listing) {
-  if (listing.Row < 1 || listing.Row >= listing.Rows()) return {};
-  const int code = CodeOfStep(listing, listing.Row);
-  const std::string meaning = CommandMeaning(code);
-  if (listing.Col <= kProgCommand) {
-    return ProgHeading(kProgCommand) + "  [" + Text(kMsgListKey) + "]  " + meaning;
-  }
-  const std::string fault = CellFault(code, listing.Col, listing.Text(listing.Row, listing.Col));
-  const int target = TargetOfStep(listing, listing.Row);
-  return (fault.empty() ? "" : fault + "  ") + ProgHint(code, listing.Col) +
-         (meaning.empty() ? "" : "  [" + meaning + "]") +
-         (target == 0 ? "" : "  " + Text(kMsgGoTo, std::to_string(target)));
-}
-
-bool IsDoubtful(const Grid& listing, int row, int column) {
-  if (row < 1 || row >= listing.Rows() || column < kProgCommand) return false;
-  return !CellFault(CodeOfStep(listing, row), column, listing.Text(row, column)).empty();
 }
 
 bool AskAndLeave(ProgView& view) {
@@ -179,11 +139,10 @@ void WireListing(ProgView& view) {
   listing.EditColour = kEditColour;
   listing.IsUnused = [&listing](int row, int col) { return IsUnusedCell(listing, row, col); };
   listing.MarkOfRow = [&listing](int row) { return MarkOfRow(listing, row); };
-  listing.IsMarked = [&listing](int row, int col) { return IsDoubtful(listing, row, col); };
-  listing.CellToolTip = [&listing](int row, int col) {
-    const bool cell = row >= 1 && row < listing.Rows() && col >= kProgCommand;
-    return cell ? CellFault(CodeOfStep(listing, row), col, listing.Text(row, col)) : "";
+  listing.IsMarked = [&listing](int row, int col) {
+    return !FaultOfCell(listing, row, col).empty();
   };
+  listing.CellToolTip = [&listing](int row, int col) { return FaultOfCell(listing, row, col); };
   listing.SelChange = [&view] { ProgSelectionMoved(view); };
   WireKeys(view);
   listing.Copy = view.Commands.Copy = [&view] { CopyFromListing(view); };
@@ -195,6 +154,7 @@ void WireButtons(ProgView& view) {
   view.cmdProgVerifyCt.Click = [&view] { cmdProgVerifyCt_Click(view); };
   view.cmdProgSaveAs.Click = view.Commands.SaveAs = [&view] { ProgDataSaveAs(view); };
   view.cmdProgPrint.Click = [&view] { PrintProgram(view); };
+  view.cmdProgCompare.Click = [&view] { CompareProgram(view); };
   view.cmdProgCheck.Click = [&view] { programCheck(view); };
   view.cmdInsLineProg.Click = view.Commands.InsertLine = [&view] { cmdInsLineProg_Click(view); };
   view.cmdDelLineProg.Click = view.Commands.DeleteLine = [&view] { cmdDelLineProg_Click(view); };

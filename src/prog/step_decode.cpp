@@ -41,7 +41,7 @@ StepCell OperandText(const OperandRule& rule, std::int32_t code) {
   if (!rule.IsUsed() || (code == 0 && rule.or_none && rule.number == NumberKind::None)) return {};
   if (IsShownNumber(rule, code)) return {"", NumberText(rule, code)};
   if (rule.three_decimals && code >= kNegativeFrom && code < kBandBase) {
-    return {"", NumberText(rule, kNegativeFrom - code)};
+    return {"", NumberText(rule, kNegativeFrom - code), true};  // no text is stored as such a code
   }
   if (StepCell cell = Reference(code - kBandBase, rule.refs); !cell.value.empty()) return cell;
   return rule.unknown == Unknown::Empty ? StepCell() : Bare(code);

@@ -10,7 +10,7 @@ namespace tr7 {
 /// A numeric cell as it is shown: prefix and value, joined.
 struct StepCell {
   std::string prefix, value;
-  bool bare = false;  ///< the stored number as it stands: typed, it would mean something else
+  bool bare = false;  ///< typed, it would mean something else: the stored number, or a negative one
   std::string Text() const { return prefix + value; }
 };
 

@@ -1,13 +1,19 @@
 // What differs between two sides, and what the user takes over: one view for every kind of data.
 
 #include <algorithm>
+#include <cctype>
 
 #include "forms/frm_compare.h"
 #include "forms/frm_grp.h"
 #include "forms/frm_parameta2.h"
+#include "forms/frm_prog_no.h"
 #include "forms/frm_sq_mcr.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "prog/prog_align.h"
+#include "prog/prog_listing.h"
+#include "prog/prog_undo.h"
+#include "prog/prog_view.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -68,6 +74,16 @@ class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::s
          },
          [] { return frmSqMcr.Rows[1].txtSmData.Text; }, "1", "4",
          "Step 2 1: 3. OUT-ON 4 | 3. OUT-ON 1", "Step 2 1: 3. OUT-ON 1 | 3. OUT-ON 4", 320},
+        {"programs", program.cmdProgCompare, program.cmdProgSaveAs, "0R",
+         [this] {
+           forms.on_modal["frmProgNo"] = [](View&) { frmProgNo.cmdOk.Press(); };
+           ShowView(program);
+           PutSteps({"TIM 1", "VEL 30", "STOP 5"});
+           program.cmdProgWrite.Press();
+         },
+         [this](const char* value) { program.flgdProg.TypeInto(2, kProgOperand1, value); },
+         [this] { return program.flgdProg.Text(2, kProgOperand1); }, "30", "45",
+         "Changed step 2: VEL 45 | VEL 30", "Changed step 2: VEL 30 | VEL 45", 3},
     };
   }
   void SetUp() override {
@@ -75,6 +91,25 @@ class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::s
     AnswerRange("frmSelectPosiNo3", 2, 4);
     kind.load();
     Forget();
+  }
+
+  /// The listing's steps: command and first operation, with a blank between.
+  void PutSteps(const Texts& steps) {
+    program.flgdProg.SetRows(1);
+    program.flgdProg.SetRows(1 + static_cast<int>(steps.size()));
+    for (int row = 1; row < program.flgdProg.Rows(); ++row) {
+      const std::string& step = steps[row - 1];
+      const std::size_t blank = step.find(' ');
+      program.flgdProg.SetText(row, kProgCommand, step.substr(0, blank));
+      program.flgdProg.SetText(row, kProgOperand1, step.substr(blank + 1));
+    }
+  }
+  Texts Steps() const {
+    Texts steps;
+    for (int row = 1; row < program.flgdProg.Rows(); ++row) {
+      steps.push_back(program.flgdProg.Text(row, 1) + " " + program.flgdProg.Text(row, 2));
+    }
+    return steps;
   }
 
   static Visit Compare(Source here, Source there) {
@@ -112,6 +147,7 @@ class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::s
     return differing == 0 ? Text(6561, all) : Text(6560, std::to_string(differing), all);
   }
 
+  ProgView& program = NewProgView();
   Kind kind = Kinds()[GetParam()];
 };
 
@@ -184,7 +220,7 @@ TEST_P(CompareTest, WhatDoesNotComeInLeavesNothingToTake) {
   EXPECT_FALSE(Boxes().empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, CompareTest, ::testing::Range(std::size_t{0}, std::size_t{4}));
+INSTANTIATE_TEST_SUITE_P(Kinds, CompareTest, ::testing::Range(std::size_t{0}, std::size_t{5}));
 
 // What a kind has for itself.
 
@@ -227,6 +263,67 @@ TEST_P(CompareParameters, LockedRowsStay) {
          EXPECT_NE(frmCompare.lblNote.Caption.find(Text(6567)), std::string::npos);
        }});
   EXPECT_EQ(frmParameta2.txtAutoStartPrgNo.Text, "9");
+}
+
+using ComparePrograms = CompareTest;
+INSTANTIATE_TEST_SUITE_P(, ComparePrograms, ::testing::Values(std::size_t{4}));
+
+TEST_P(ComparePrograms, StepsComeInAndGoAndCanBeHadBack) {
+  const auto take_first = [] {
+    frmCompare.flgdCompare.SelectCell(1, 0);
+    frmCompare.cmdTake.Press();
+  };
+  PutSteps({"TIM 1", "TIM 2", "TIM 3", "VEL 0.5"});
+  forms.file_answers = {"/typed", "/typed", "/typed"};
+  forms.answers = {Ok, Yes};
+  kind.save.Press();
+  const Texts before{"TIM 1", "TIM 3", "VEL R1", "VEL 0.5"};
+  PutSteps(before);
+  Run({[&] {
+    Compare(kScreen, kFile)();
+    EXPECT_EQ(Shown(), (Texts{"Inserted step - / 2: (none) | TIM 2",
+                              "Removed step 3 / -: VEL R1 | (none)"}));
+    frmCompare.cmdTakeAll.Press();
+    EXPECT_EQ(Shown(), Texts());
+    EXPECT_EQ(Steps(), (Texts{"TIM 1", "TIM 2", "TIM 3", "VEL 0.5"}));
+    EXPECT_TRUE(program.Store.ProgChanged && ProgUndo(program));
+    EXPECT_EQ(Steps(), before);
+    program.Store.ProgCopyNo = 100;
+    Texts full(20, "NOP 1");
+    full[0] = "TIM 3";
+    PutSteps(full);
+    Compare(kScreen, kFile)();
+    take_first();
+    EXPECT_NE(frmCompare.lblNote.Caption.find("no room"), std::string::npos);
+  }});
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.programs[1] = "080001F400000000000";
+  port.Ct() = qvr7sim::Controller(setup, 1);
+  PutSteps({"VEL 1"});
+  Run({Compare(kScreen, kController), [&] {
+         EXPECT_EQ(Shown(), Texts{"Changed step 1: VEL 1 | VEL 500"});
+         take_first();
+         EXPECT_NE(frmCompare.lblNote.Caption.find("cannot hold"), std::string::npos);
+       }});
+  EXPECT_EQ(Steps(), Texts{"VEL 1"}) << "typed, 500 would be another code";
+}
+
+// Letters are steps, and small and capital ones of one command; rows as "here there", "_" for none.
+TEST(AlignSteps, MostStepsStandBesideTheSame) {
+  const char* const rows[][3] = {
+      {"abcd", "acd", "aa b_ cc dd "}, {"", "ab", "_a _b "},
+      {"aBc", "abxc", "aa Bb _x cc "}, {"abab", "baba", "a_ bb aa bb _a "},
+      {"axb", "aYXb", "aa _Y xX bb "}, {"aa", "aaa", "aa aa _a "}};
+  for (const auto& [here, there, aligned] : rows) {
+    std::vector<StepLook> looks[2];
+    for (const char* step = here; *step; ++step) looks[0].push_back({*step, std::tolower(*step)});
+    for (const char* step = there; *step; ++step) looks[1].push_back({*step, std::tolower(*step)});
+    std::string shown;
+    for (const AlignedSteps& row : AlignSteps(looks[0], looks[1])) {
+      shown += {row.here < 0 ? '_' : here[row.here], row.there < 0 ? '_' : there[row.there], ' '};
+    }
+    EXPECT_EQ(shown, aligned);
+  }
 }
 
 }  // namespace
