@@ -26,8 +26,7 @@ std::string MoveByNumber(Machine& machine, std::string_view name, std::string_vi
   if (number > kPositions) return BadNumber();
   const auto bits = static_cast<unsigned>(mask);
   if ((bits & ~machine.mask) != 0) return BadNumber();
-  const std::string error =
-      ErrorOf(MoveToPosition(machine, number, bits, name == "0MP", now_us));
+  const std::string error = ErrorOf(MoveToPosition(machine, number, bits, name == "0MP", now_us));
   return error.empty() ? std::string(name) : error;
 }
 

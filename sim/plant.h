@@ -62,7 +62,7 @@ struct Plant {
   std::array<std::int64_t, kAxes> travelled_at_stop{};
   ProgramValues values;
   std::array<AxisSettings, kAxes> settings;
-  unsigned pushing = 0;  ///< axes whose last move was one with force
+  unsigned pushing = 0;                ///< axes whose last move was one with force
   std::optional<int> arrival_outputs;  ///< of the position that axes are on the way to
   ForcedOutputs forced;
   std::pair<int, int> failed_step{};  ///< program and step (from 1) that the last alarm came from

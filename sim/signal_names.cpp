@@ -7,22 +7,20 @@ namespace qvr7sim {
 
 namespace {
 
-/// Names that are a word and a number from 1; the first input or output of the row has `before` + 1.
+/// Names that are a word and a number from 1; the first input or output of the row has `before`
+/// + 1.
 struct Series {
   std::string_view word;
   RefKind kind;
   int count;
   int before = 0;
 };
-constexpr Series kCommon[] = {{"", RefKind::kInput, kProgramInputs},
-                              {"IN", RefKind::kInput, kProgramInputs},
-                              {"I", RefKind::kInput, kProgramInputs},
-                              {"EXP-IN", RefKind::kInput, 4, 12},
-                              {"OUT", RefKind::kOutput, kOutputs},
-                              {"O", RefKind::kOutput, kOutputs},
-                              {"EXP-OUT", RefKind::kOutput, 4, 12},
-                              {"F", RefKind::kFlag, 100},
-                              {"R", RefKind::kVariable, 100}};
+constexpr Series kCommon[] = {
+    {"", RefKind::kInput, kProgramInputs},  {"IN", RefKind::kInput, kProgramInputs},
+    {"I", RefKind::kInput, kProgramInputs}, {"EXP-IN", RefKind::kInput, 4, 12},
+    {"OUT", RefKind::kOutput, kOutputs},    {"O", RefKind::kOutput, kOutputs},
+    {"EXP-OUT", RefKind::kOutput, 4, 12},   {"F", RefKind::kFlag, 100},
+    {"R", RefKind::kVariable, 100}};
 constexpr Series kLocal[] = {{"f", RefKind::kLocalFlag, 50},
                              {"r", RefKind::kLocalVariable, 50},
                              {"PR", RefKind::kPositionVariable, kAxes}};
@@ -32,9 +30,9 @@ struct NamedInput {
   int number;
 };
 constexpr NamedInput kNamedInputs[] = {
-    {"P1", 1},    {"P2", 2},    {"P4", 3},     {"P8", 4},     {"P10", 5},      {"P20", 6},
-    {"P40", 7},   {"P80", 8},   {"P100", 9},   {"P200", 10},  {"P400", 11},    {"P800", 12},
-    {"STOP", 17}, {"GRP", 18},  {"STB", kStb}, {"RES", kRes}, {"PAUSE", kPause}};
+    {"P1", 1},    {"P2", 2},   {"P4", 3},     {"P8", 4},     {"P10", 5},       {"P20", 6},
+    {"P40", 7},   {"P80", 8},  {"P100", 9},   {"P200", 10},  {"P400", 11},     {"P800", 12},
+    {"STOP", 17}, {"GRP", 18}, {"STB", kStb}, {"RES", kRes}, {"PAUSE", kPause}};
 
 template <std::size_t size>
 std::optional<Operand> InSeries(const Series (&all)[size], std::string_view name) {
