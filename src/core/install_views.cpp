@@ -7,6 +7,7 @@
 #include "data/sm_view.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
+#include "monitor/io_view.h"
 #include "monitor/poll.h"
 #include "motion/motion_view.h"
 #include "para/change_device.h"
@@ -53,6 +54,7 @@ void InstallViews() {
   InstallMotion();
   InstallProgViews();
   InstallPolls();
+  InstallIoMonitor();
 }
 
 }  // namespace tr7

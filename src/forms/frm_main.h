@@ -113,5 +113,6 @@ inline Standing<FrmMain> frmMain;
 inline constexpr int kPanelError = 0;  ///< the last alarm, version, input hint
 inline constexpr int kPanelScale1 = 1;
 inline constexpr int kPanelScale2 = 2;
+inline constexpr int kPanelOverride = 3;  ///< the controller's inputs start no movement
 
 }  // namespace tr7

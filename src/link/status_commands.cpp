@@ -56,6 +56,7 @@ int CtControlModeSet(int mode, int m, int mask) {
     command += named ? std::to_string(mode) : "0";
   }
   LiftOffline();
+  ++AppState.ControlModesSent;
   std::string reply;
   if (TusinCommand(command, 10, 2000, reply) != 0) return 1;
   if (!takes_axes) AppState.AxesMayBeHeld = False;

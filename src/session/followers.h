@@ -14,6 +14,8 @@ struct FollowersRecord {
   std::function<void()> MmFollowsPulses;
   /// The session is about to end: what this tool has set in motion is stopped first.
   std::function<void()> StopBeforeTheEnd;
+  /// Behind that: what a view has the controller do is taken back.
+  std::function<void()> TakeBackBeforeTheEnd;
   /// The line leads, or may lead, to another controller: nothing that was learned of the former
   /// holds.
   std::function<void()> AnotherController;

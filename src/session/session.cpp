@@ -123,6 +123,7 @@ void ChangeToOfflineMenu() {
     return;
   }
   if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
+  if (Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
   EndSession();
 }
 
