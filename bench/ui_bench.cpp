@@ -18,14 +18,18 @@
 #include "core/install_views.h"
 #include "core/main_entry.h"
 #include "forms/frm_compare.h"
+#include "forms/frm_io_check_fg.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "monitor/io_state.h"
 #include "platform/doors.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
+#include "state/settings.h"
+#include "state/views.h"
 #include "tests/ui/screen_user.h"
 #include "tests/ui/sim_process.h"
 #include "ui/desktop.h"
@@ -87,7 +91,10 @@ class Bench {
     frmMain.mnuSettingOnline.Press();
     if (AppState.Offline) return Failed("going online");
     Report("idle_online_cpu_percent", IdlePercent(), 2);
-    return Jog() || ReadPaced() || ReadFull() || OpenFull() || PrintFull() || CompareFull() ? 1 : 0;
+    return WatchIo() || Jog() || ReadPaced() || ReadFull() || OpenFull() || PrintFull() ||
+                   CompareFull()
+               ? 1
+               : 0;
   }
 
  private:
@@ -108,6 +115,26 @@ class Bench {
     const CpuMeter meter;
     WaitMs(kIdleMs);
     return meter.Percent();
+  }
+
+  /// The monitor at its own pace with full lists, the plot in front.
+  int WatchIo() {
+    constexpr int kFirstPollMs = 6000;
+    for (int row = 0; row < kMostWatched; ++row) {
+      PutSetting("Flag" + std::to_string(row), "0," + std::to_string(row + 1));
+      PutSetting("Vari" + std::to_string(row), "0," + std::to_string(row + 1));
+      PutSetting("Pvar" + std::to_string(row), "1," + std::to_string(row % 4 + 1));
+    }
+    frmMain.mnuMonitorIO.Press();
+    frmIOCheckFG.tabIo.Selected = 2;
+    frmIOCheckFG.tabIo.Click();
+    for (const int row : {1, 26, 28, 45, 46, 49, 69}) frmIOCheckFG.Chart.flgdPlot.CellClick(row, 0);
+    frmIOCheckFG.cmdIoMonitor.Press();
+    WaitMs(kFirstPollMs);
+    if (!IoMonitor.Known) return Failed("the monitor");
+    Report("io_monitor_cpu_percent", IdlePercent(), 2);
+    CloseView(frmIOCheckFG, CloseReason::Code);
+    return 0;
   }
 
   void Mouse(QEvent::Type type, const HoldButton& button) const {

@@ -9,6 +9,7 @@
 #include "core/main_entry.h"
 #include "core/reset_state.h"
 #include "forms/frm_grp.h"
+#include "forms/frm_io_check_fg.h"
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_posi.h"
@@ -21,6 +22,7 @@
 #include "sim/program_text.h"
 #include "sim/setup.h"
 #include "sim/tasks.h"
+#include "state/settings.h"
 #include "tests/support/virtual_doors.h"
 
 namespace tr7bench {
@@ -154,6 +156,29 @@ void MoveOn(Desk& desk) {
   Report("move_step_overhead_ms", Median(waits_ms), 1);
 }
 
+/// One poll of the monitor with all lists full.
+void Poll(Desk& desk) {
+  for (int row = 0; row < kMostWatched; ++row) {
+    for (const char* list : {"Flag", "Vari", "Pvar"}) {
+      const bool local = list[0] == 'P';
+      PutSetting(list + std::to_string(row),
+                 (local ? "1," : "0,") + std::to_string(local ? 1 : row + 1));
+    }
+  }
+  frmMain.mnuMonitorHensu.Press();
+  frmIOCheckFG.cmdIoMonitor.Press();
+  frmIOCheckFG.timerInputOutput1.Tick();
+  desk.counted.TakeLineUs();
+  const std::int64_t start = desk.pump.NowUs();
+  frmIOCheckFG.timerInputOutput1.Tick();
+  const auto took = static_cast<double>(desk.pump.NowUs() - start);
+  Report("io_poll_virtual_ratio", took / static_cast<double>(desk.counted.TakeLineUs()), 4);
+  if (frmIOCheckFG.Watched.PosVariables.List.Text(kMostWatched, 2) != "0.000") {
+    Fail("the poll did not come to its end", desk.forms);
+  }
+  frmIOCheckFG.cmdIoWinClose.Press();
+}
+
 /// Ten programs that calculate and jump, on virtual time.
 void ProgramSteps() {
   constexpr std::int64_t kVirtualUs = 100'000'000;
@@ -180,5 +205,6 @@ int main() {
   tr7bench::Write(desk);
   tr7bench::MoveOn(desk);
   tr7bench::OtherKinds(desk);
+  tr7bench::Poll(desk);
   tr7bench::ProgramSteps();
 }

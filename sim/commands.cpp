@@ -2,7 +2,9 @@
 
 #include <vector>
 
+#include "sim/io_points.h"
 #include "sim/parse.h"
+#include "sim/signal_names.h"
 
 namespace qvr7sim {
 
@@ -68,9 +70,10 @@ std::string LoseServo(const Words& words, Controller* controller, std::int64_t n
 }
 
 std::string SetInput(const Words& words, Controller* controller, std::int64_t now_us) {
-  const auto input = words.size() == 3 ? ParseNumber(words[1], 1, kInputs) : std::nullopt;
-  if (!input || (words[2] != "on" && words[2] != "off")) return "error input INPUT on|off, 1 to 18";
-  controller->SetInput(static_cast<int>(*input), words[2] == "on", now_us);
+  const auto signal = words.size() == 3 ? ParseSignal(words[1]) : std::nullopt;
+  const auto value = signal ? ParseSignalValue(*signal, words[2]) : std::nullopt;
+  if (!value) return "error input NAME on|off, or NAME VALUE of a variable; --help names them";
+  controller->Set(*signal, *value, now_us);
   return "ok input " + words[1] + " " + words[2];
 }
 
@@ -88,6 +91,8 @@ std::string ProgramStatus(const Controller& controller, std::int64_t now_us) {
   }
   std::string text = " tasks=" + (tasks.empty() ? "none" : tasks);
   text += " out=" + (outputs.empty() ? "none" : outputs);
+  text += " io=" + PointDigits(controller.Inputs(now_us), kInputDigits) + "," +
+          PointDigits(controller.Outputs(now_us), kOutputDigits);
   const auto [program, step] = controller.FailedStep();
   if (program != 0) text += " failed=" + std::to_string(program) + ":" + std::to_string(step);
   return text;

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "sim/fault_plan.h"
+#include "sim/io_points.h"
 #include "sim/line.h"
 #include "sim/machine.h"
 #include "sim/text.h"
@@ -247,6 +248,20 @@ std::optional<std::int64_t> Controller::NextInsideUs() const {
 void Controller::SetInput(int number, bool on, std::int64_t now_us) {
   impl_->Advance(now_us);
   impl_->machine.SetInput(number, on, now_us);
+}
+
+void Controller::Set(const Signal& signal, std::int32_t value, std::int64_t now_us) {
+  impl_->Advance(now_us);
+  impl_->machine.Set(signal, value, now_us);
+}
+
+unsigned Controller::Inputs(std::int64_t now_us) const {
+  impl_->Advance(now_us);
+  return InputWord(impl_->machine, now_us);
+}
+unsigned Controller::Outputs(std::int64_t now_us) const {
+  impl_->Advance(now_us);
+  return OutputWord(impl_->machine, now_us);
 }
 
 const ProgramValues& Controller::Values(std::int64_t now_us) const {

@@ -91,8 +91,13 @@ class Controller {
   /// When an axis comes to rest, an input changes or a program does a step, the next of them.
   std::optional<std::int64_t> NextInsideUs() const;
 
-  /// Switches input 1 to 18 of the programs, as a person at the machine would.
+  /// Switches input 1 to 21, as a person at the machine would.
   void SetInput(int number, bool on, std::int64_t now_us);
+  /// The same for any signal or variable.
+  void Set(const Signal& signal, std::int32_t value, std::int64_t now_us);
+  /// The terminals: bit b of digit d of "0RI" and "0RO" is the bit 4 * d + b.
+  unsigned Inputs(std::int64_t now_us) const;
+  unsigned Outputs(std::int64_t now_us) const;
   /// Inputs, outputs, flags and variables at `now_us`.
   const ProgramValues& Values(std::int64_t now_us) const;
   /// Program and step (from 1) of each slot, 0 where none runs.

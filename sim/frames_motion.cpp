@@ -1,4 +1,5 @@
 #include "sim/error_codes.h"
+#include "sim/handshake.h"
 #include "sim/machine.h"
 #include "sim/moves.h"
 #include "sim/text.h"
@@ -11,36 +12,8 @@ constexpr double kTenMilliseconds = 0.01;
 
 std::string BadFrame() { return ErrorText('0', error_code::kBadFrame); }
 std::string BadNumber() { return ErrorText('0', error_code::kBadNumber); }
-std::string AxisError(int axis, char code) {
-  return ErrorText(static_cast<char>('1' + axis), code);
-}
 std::string ErrorOf(const std::optional<Alarm>& refused) {
   return refused ? ErrorText(*refused) : "";
-}
-
-int Target(const AxisTarget& target, int here) {
-  if (target.way == 2) return here + target.pulses;
-  if (target.way == 3) return here - target.pulses;
-  return target.pulses;
-}
-
-/// `with_macro`: the macro of the position runs when the axes have arrived.
-std::string MoveToRecord(Machine& machine, int number, unsigned mask, bool with_macro,
-                         std::int64_t now_us) {
-  PositionRecord record;
-  DecodePosition(machine.memory.positions.Written(number), &record);
-  AxisMoves steps;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const AxisTarget& target = record.axis[axis];
-    if (((mask >> axis) & 1U) == 0 || target.way == 0) continue;
-    if (!machine.axes.Homed(axis)) return AxisError(axis, error_code::kNotHomed);
-    const int to = Target(target, machine.axes.Pulses(axis, now_us));
-    steps[axis] = {true, to, target.vel, target.acc * kTenMilliseconds};
-  }
-  const std::string error = ErrorOf(StartMoves(machine, steps, now_us));
-  const std::int64_t macro_us = with_macro ? machine.MacroUs(record.sm) : 0;
-  if (error.empty() && macro_us > 0) machine.axes.Linger(mask, macro_us, now_us);
-  return error;
 }
 
 /// hhh and a mask of one or two digits; number 0 is the home position.
@@ -53,9 +26,7 @@ std::string MoveByNumber(Machine& machine, std::string_view name, std::string_vi
   if (number > kPositions) return BadNumber();
   const auto bits = static_cast<unsigned>(mask);
   if ((bits & ~machine.mask) != 0) return BadNumber();
-  const std::string error = number == 0
-                                ? ErrorOf(StartHoming(machine, bits, now_us))
-                                : MoveToRecord(machine, number, bits, name == "0MP", now_us);
+  const std::string error = ErrorOf(MoveToPosition(machine, number, bits, name == "0MP", now_us));
   return error.empty() ? std::string(name) : error;
 }
 
@@ -112,6 +83,7 @@ std::string Stop(Machine& machine, std::string_view args, std::int64_t now_us) {
   machine.NoteStop(now_us);
   machine.tasks.StopAll(machine, now_us);
   machine.axes.Stop(kStopFall, now_us);
+  machine.arrival_outputs.reset();
   return "0SP";
 }
 

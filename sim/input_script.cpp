@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "sim/parse.h"
-#include "sim/program_values.h"
+#include "sim/signal_names.h"
 
 namespace qvr7sim {
 
@@ -18,13 +18,13 @@ std::optional<std::vector<TimedInput>> ParseInputScript(std::string_view text, s
     if (words.empty()) continue;
     const bool three = words.size() == 3;
     const auto ms = three ? ParseNumber(words[0], 0, kLongestMs) : std::nullopt;
-    const auto input = three ? ParseNumber(words[1], 1, kInputs) : std::nullopt;
-    const auto on = three ? ParseNumber(words[2], 0, 1) : std::nullopt;
-    if (!ms || !input || !on) {
+    const auto signal = three ? ParseSignal(words[1]) : std::nullopt;
+    const auto value = signal ? ParseSignalValue(*signal, words[2]) : std::nullopt;
+    if (!ms || !value) {
       *error = "line " + std::to_string(number) + " is not \"ms input value\"";
       return std::nullopt;
     }
-    inputs.push_back({*ms * kUsPerMs, static_cast<int>(*input), *on == 1});
+    inputs.push_back({*ms * kUsPerMs, *signal, *value});
   }
   return inputs;
 }

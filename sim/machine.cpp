@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "sim/error_codes.h"
+#include "sim/handshake.h"
 #include "sim/text.h"
 
 namespace qvr7sim {
@@ -28,7 +29,7 @@ std::string ErrorText(char unit, char code) { return ErrorText(Alarm{unit, '0', 
 const Command* FindCommand(std::string_view request) {
   const std::string_view name = request.substr(0, kNameLength);
   for (const auto& family : {StatusCommands(), MotionCommands(), PositionCommands(),
-                             BlockCommands(), ProgramCommands()}) {
+                             BlockCommands(), ProgramCommands(), MonitorCommands()}) {
     for (const Command& command : family) {
       if (command.name == name) return &command;
     }
@@ -75,10 +76,11 @@ void Machine::Settle(std::int64_t now_us) {
   for (auto next = NextInsideUs(); next && *next <= now_us; next = NextInsideUs()) {
     const std::int64_t at_us = *next;
     if (const auto failed = axes.Settle(at_us)) Raise(*failed, at_us);
+    SeeArrival();
     for (; inputs_done_ < setup.inputs.size(); ++inputs_done_) {
       const TimedInput& input = setup.inputs[inputs_done_];
       if (input.at_us > at_us) break;
-      SetInput(input.input, input.on, at_us);
+      Set(input.signal, input.value, at_us);
     }
     if (const auto failed = tasks.Run(*this, at_us)) {
       Raise(failed->alarm, at_us);
@@ -90,13 +92,35 @@ void Machine::Settle(std::int64_t now_us) {
 void Machine::Raise(const Alarm& raised, std::int64_t now_us) {
   axes.Halt(now_us);
   tasks.Drop();
+  arrival_outputs.reset();
   alarm = raised;
   failed_step = {};
 }
 
 void Machine::SetInput(int number, bool on, std::int64_t now_us) {
+  const bool was_on = values.IsOn({RefKind::kInput, number}, 0);
   values.SetInput(number, on);
+  if (on && !was_on) InputWentOn(*this, number, now_us);
   tasks.Poke(now_us);
+}
+
+void Machine::Set(const Signal& signal, std::int32_t value, std::int64_t now_us) {
+  constexpr int kThousand = 1000;
+  const Operand& place = signal.place;
+  if (place.kind == RefKind::kInput) return SetInput(place.value, value != 0, now_us);
+  const bool whole = place.kind != RefKind::kPositionVariable;
+  values.Switch(place, signal.program, value != 0);
+  values.Store(place, signal.program, std::int64_t{value} * (whole ? kThousand : 1));
+  tasks.Poke(now_us);
+}
+
+void Machine::SeeArrival() {
+  constexpr int kArrivalOutputs = 4;
+  if (!arrival_outputs || AnyMoving()) return;
+  for (int bit = 0; bit < kArrivalOutputs; ++bit) {
+    values.Switch({RefKind::kOutput, bit + 1}, 0, ((*arrival_outputs >> bit) & 1) != 0);
+  }
+  arrival_outputs.reset();
 }
 
 bool Machine::StartProgram(int program, std::int64_t now_us) {
@@ -114,6 +138,8 @@ void Machine::PowerCycle(std::int64_t now_us) {
   tasks.Drop();
   values.Clear();
   settings = {};
+  forced = {};
+  arrival_outputs.reset();
   alarm.reset();
   servo_lost = 0;
   pc_command = false;

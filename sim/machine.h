@@ -24,8 +24,12 @@ struct Machine : Plant {
   void PowerCycle(std::int64_t now_us);
   /// When a move ends, an input changes or a program does a step.
   std::optional<std::int64_t> NextInsideUs() const;
-  /// Input 1 to 18 of the programs.
+  /// Input 1 to 21.
   void SetInput(int number, bool on, std::int64_t now_us);
+  /// The same for whatever stands in `values`.
+  void Set(const Signal& signal, std::int32_t value, std::int64_t now_us);
+  /// When all axes rest, the outputs of the position that was moved to go on and off.
+  void SeeArrival();
   /// Programs run in program mode alone; false elsewhere, and where no task is free.
   bool StartProgram(int program, std::int64_t now_us);
   /// The inputs start every axis in use that the PC does not hold; a move of about `time_us`.
@@ -62,6 +66,7 @@ std::span<const Command> MotionCommands();
 std::span<const Command> PositionCommands();
 std::span<const Command> BlockCommands();
 std::span<const Command> ProgramCommands();
+std::span<const Command> MonitorCommands();
 /// The command that a request begins with, or null.
 const Command* FindCommand(std::string_view request);
 

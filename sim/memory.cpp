@@ -165,6 +165,9 @@ int Memory::Ppr(int axis) const { return HexAt(blocks.Written(DeviceBlock(axis))
 int Memory::ZoneBound(int axis, int bound) const {
   return HexAt(blocks.Written(SecondBlock(axis)), bound == 1 ? 5 : 11, 6);
 }
+bool Memory::ZoneEnabled(int axis) const {
+  return HexAt(blocks.Written(SecondBlock(axis)), 23, 2) != 0;
+}
 int Memory::InPositionWidth(int axis) const {
   return HexAt(blocks.Written(DeviceBlock(axis) - 2), 31, 2);
 }

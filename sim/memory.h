@@ -41,6 +41,7 @@ struct Memory {
   int Ppr(int axis) const;
   /// Zone bound 1 or 2 and the in-position width of an axis in pulses, as written.
   int ZoneBound(int axis, int bound) const;
+  bool ZoneEnabled(int axis) const;
   int InPositionWidth(int axis) const;
   /// Whether a pulse generator is fitted to the axis, as written.
   bool HasPulseGenerator(int axis) const;

@@ -16,6 +16,10 @@ Alarm AxisAlarm(int axis, char middle, char code) {
   return {static_cast<char>('1' + axis), middle, code};
 }
 
+void SetPushing(Plant& plant, int axis, bool on) {
+  plant.pushing = on ? plant.pushing | 1U << axis : plant.pushing & ~(1U << axis);
+}
+
 std::optional<Alarm> Refusal(const Plant& plant, int axis, const AxisMove& move) {
   if (!plant.InUse(axis) || move.vel == 0 || move.rise_s <= 0.0) return kBadNumber;
   if (!plant.ServoOn(axis)) return kServoOff;
@@ -34,6 +38,7 @@ std::optional<Alarm> StartMoves(Plant& plant, const AxisMoves& moves, std::int64
   for (int axis = 0; axis < kAxes; ++axis) {
     const AxisMove& move = moves[axis];
     if (!move.moves) continue;
+    SetPushing(plant, axis, move.pushes);
     plant.axes.Move(axis, move.to, plant.PulseSpeed(axis, move.vel), move.rise_s, now_us);
     plant.axes.TripAbove(axis, plant.TopSpeed(axis), AxisAlarm(axis, '1', error_code::kDeviation));
   }
@@ -49,6 +54,7 @@ std::optional<Alarm> StartHoming(Plant& plant, unsigned mask, std::int64_t now_u
   }
   for (int axis = 0; axis < kAxes; ++axis) {
     if (((mask >> axis) & 1U) == 0) continue;
+    SetPushing(plant, axis, false);
     plant.axes.Home(axis, speed(axis), plant.setup.home_search_us, now_us);
   }
   return std::nullopt;
@@ -62,6 +68,7 @@ std::optional<Alarm> JogRefusal(const Plant& plant, int axis) {
 
 void JogAxis(Plant& plant, int axis, bool to_home, double speed, std::int64_t now_us) {
   constexpr int kBehindTheEnd = 100;  // pulses
+  SetPushing(plant, axis, false);
   const int here = plant.axes.Pulses(axis, now_us), stroke = plant.memory.MaxPulses(axis);
   if (plant.memory.SoftLimit(axis)) {
     const int end = to_home ? std::min(0, here) : std::max(stroke, here);

@@ -16,6 +16,7 @@ struct AxisMove {
   int to = 0;           ///< pulses
   int vel = 0;          ///< mm/s
   double rise_s = 0.0;  ///< to the full speed, and back to standstill
+  bool pushes = false;  ///< with force
 };
 using AxisMoves = std::array<AxisMove, kAxes>;
 

@@ -166,7 +166,7 @@ bool TakeInputs(const std::string& text, Options* options) {
   return true;
 }
 
-/// "3=1": from the start on.
+/// "STB=1": from the start on.
 bool TakeInput(const std::string& value, Options* options) {
   const std::vector<std::string> parts = Split(value, "=");
   return parts.size() == 2 && TakeInputs("0 " + parts[0] + " " + parts[1], options);
@@ -233,8 +233,9 @@ constexpr std::array kOptions{
              if (us) o->setup.step_us = *us;
              return us.has_value();
            }},
-    Option{"--input", "INPUT=0|1", "an input of programs, 1 to 18, from the start on", TakeInput},
-    Option{"--inputs", "FILE", "what inputs do: lines of ms, input, 0 or 1; # begins a remark",
+    Option{"--input", "NAME=VALUE", "an input, or another signal or variable, from the start on",
+           TakeInput},
+    Option{"--inputs", "FILE", "what inputs do: lines of ms, name, value; # begins a remark",
            TakeInputFile},
     Option{"--homed", "", "all axes are homed at the start",
            [](Text, Options* o) { return o->setup.homed = true; }},
@@ -337,7 +338,10 @@ std::string HelpText() {
       "\nCommands on standard input, one a line, each answered by \"ok\" or \"error\":\n"
       "  silence on|off, alarm UNIT CODE [line], power-cycle, fault FAULT, faults off,\n"
       "  fail-homing AXIS, place AXIS PULSES, push AXIS PULSES (by hand, the servo being off),\n"
-      "  lose-servo AXIS, input INPUT on|off, status, quit\n"
+      "  lose-servo AXIS, input NAME on|off|VALUE, status, quit\n"
+      "\nNames of inputs: 1 to 18, STB, RES, PAUSE, and those of position mode (P1 to P800, STOP,\n"
+      "GRP, EXP-IN1 to 4). Names of what else can be set: OUT1 to OUT16, F1, R1, and of a program\n"
+      "2:f1, 2:r1, 2:PR1. In position mode STB starts the move to the number on P1 to P800.\n"
       "\n--tell-motion writes lines as \"12.345 moving axis1=0 axis2=100 axis3=0 axis4=0\" and\n"
       "\"12.845 at rest ...\": seconds since the start, and pulses.\n"
       "\nMotion: an axis is held for the PC by the digit 1 of \"0CM\" and has its servo off by 2: "

@@ -35,6 +35,14 @@ bool Plant::Push(int axis, int pulses) {
   return true;
 }
 
+bool Plant::InZone(int axis, std::int64_t now_us) const {
+  const auto& set = settings[axis].zone;
+  const int first = set ? set->first : memory.ZoneBound(axis, 1);
+  const int second = set ? set->second : memory.ZoneBound(axis, 2);
+  const int here = axes.Pulses(axis, now_us);
+  return here >= std::min(first, second) && here <= std::max(first, second);
+}
+
 double Plant::TopSpeed(int axis) const {
   constexpr double kTopPulses = 10000.0;  // of the motor, a second
   constexpr int kFastMmS = 400;

@@ -16,6 +16,12 @@
 
 namespace qvr7sim {
 
+/// Outputs that the PC has turned round, and what the controller made of all at that time.
+struct ForcedOutputs {
+  unsigned mask = 0;
+  unsigned own = 0;
+};
+
 /// What the controller keeps, what moves and what stands: all that requests and programs act on.
 struct Plant {
   explicit Plant(const Setup& start);
@@ -34,6 +40,12 @@ struct Plant {
   /// Thousandths of a mm and pulses of an axis, rounded; 0 when it holds no scale.
   std::int64_t ToThousandths(int axis, std::int64_t pulses) const;
   std::int64_t ToPulses(int axis, std::int64_t thousandths) const;
+  /// The axis stands in its zone, as programs or else the parameters set it.
+  bool InZone(int axis, std::int64_t now_us) const;
+  /// The axis stands where a move with force has taken it.
+  bool HoldsByForce(int axis) const {
+    return ((pushing >> axis) & 1U) != 0 && ServoOn(axis) && !axes.Moving(axis);
+  }
   /// Keeps a start: what has begun to move since `moving_before`, and why.
   void NoteStart(unsigned moving_before, const std::string& cause, std::int64_t now_us);
 
@@ -50,6 +62,9 @@ struct Plant {
   std::array<std::int64_t, kAxes> travelled_at_stop{};
   ProgramValues values;
   std::array<AxisSettings, kAxes> settings;
+  unsigned pushing = 0;                ///< axes whose last move was one with force
+  std::optional<int> arrival_outputs;  ///< of the position that axes are on the way to
+  ForcedOutputs forced;
   std::pair<int, int> failed_step{};  ///< program and step (from 1) that the last alarm came from
 };
 

@@ -23,6 +23,12 @@ struct Operand {
   int value = 0;  ///< the number as it is stored; else an index from 1
 };
 
+/// A signal or variable, and the program whose own it is; 0 where all share it.
+struct Signal {
+  Operand place;
+  int program = 0;
+};
+
 /// One step as a task carries it out.
 struct ProgramStep {
   int code = 0;  ///< of the command

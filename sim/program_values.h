@@ -10,7 +10,10 @@
 
 namespace qvr7sim {
 
-inline constexpr int kInputs = 18;   ///< Inputs of programs, from 1.
+inline constexpr int kProgramInputs = 18;  ///< Inputs that programs know, from 1.
+/// Inputs behind them, for the controller itself.
+inline constexpr int kStb = 19, kRes = 20, kPause = 21;
+inline constexpr int kInputs = 21;
 inline constexpr int kOutputs = 16;  ///< Outputs of programs, from 1.
 
 /// What a program has for itself, index from 1. It begins with zeros at every start, and stays to
@@ -29,7 +32,7 @@ class ProgramValues {
   bool IsOn(const Operand& signal, int program) const;
   /// Nothing for what is no output or flag.
   void Switch(const Operand& signal, int program, bool on);
-  /// Input 1 to 18.
+  /// Input 1 to 21.
   void SetInput(int number, bool on) { inputs_[number] = on; }
 
   /// A number or the content of a variable, in thousandths; 0 for others.

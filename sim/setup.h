@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "sim/program_step.h"
+
 namespace qvr7sim {
 
 inline constexpr int kAxes = 4;
@@ -60,11 +62,11 @@ std::string EncodePosition(const PositionRecord& record);
 /// False when `digits` is not 60 upper-case hexadecimal digits.
 bool DecodePosition(const std::string& digits, PositionRecord* record);
 
-/// An input of programs changes by itself.
+/// An input, or another signal or variable, changes by itself.
 struct TimedInput {
   std::int64_t at_us = 0;
-  int input = 1;  ///< 1 to 18
-  bool on = false;
+  Signal signal;
+  std::int32_t value = 0;  ///< signals: 0 off, else on; position variables: thousandths
 };
 
 /// What stands in the controller when it starts.

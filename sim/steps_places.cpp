@@ -87,12 +87,7 @@ StepOutcome TestZone(StepRun& run) {
   const auto axis = AxisOf(run);
   const auto kind = WholeNumber(run, run.step.op2, 0, 2);
   if (!axis || !kind) return BadValue();
-  const Memory& memory = run.plant.memory;
-  const auto& set = run.plant.settings[*axis].zone;
-  const int first = set ? set->first : memory.ZoneBound(*axis, 1);
-  const int second = set ? set->second : memory.ZoneBound(*axis, 2);
-  const int here = run.plant.axes.Pulses(*axis, run.now_us);
-  const bool inside = here >= std::min(first, second) && here <= std::max(first, second);
+  const bool inside = run.plant.InZone(*axis, run.now_us);
   return StepOutcome::Result(*kind != 0 && inside == (*kind == 1));
 }
 

@@ -13,9 +13,11 @@
 #include "device/ct_device.h"
 #include "forms/frm_compare.h"
 #include "forms/frm_device.h"
+#include "forms/frm_io_check_fg.h"
 #include "forms/frm_parameta2.h"
 #include "link/port.h"
 #include "link/status_commands.h"
+#include "monitor/io_state.h"
 #include "motion/motion_tabs.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -186,6 +188,21 @@ class Trial : public FlowTest {
     frmPosi.Teach.cmdJOGWrite.Press();
     frmPosi.Teach.cmdJOGend.Press();
   }
+  /// An item on each list, and the inputs are to start nothing.
+  void IoView() {
+    for (const char* key : {"Flag0", "Vari0", "Pvar0"}) {
+      virt.settings.Set("Settings", key, key[0] == 'P' ? "1,1" : "0,1");
+    }
+    frmMain.mnuMonitorIO.Press();
+    frmIOCheckFG.chkIgnore.Set(true);
+  }
+  void PollOnce() {
+    frmIOCheckFG.cmdIoMonitor.Press();
+    for (int s = 0; s < 100 && IoMonitor.IoMonOn && IoMonitor.TrueAt.empty(); ++s) {
+      pump.RunFor(1'000'000);
+    }
+    if (IoMonitor.IoMonOn) frmIOCheckFG.cmdIoMonitor.Press();
+  }
   template <auto kTransfer>
   void Transfer() {
     const CommandsOff commands_off;
@@ -254,6 +271,7 @@ Fields ShownPositions() {
   return fields;
 }
 
+Fields Polled() { return {IoMonitor.TrueAt}; }
 Fields HomeState() { return {AppState.HomeDone ? "home" : ""}; }
 Fields ReachedLast() { return {frmPosi.Readout.lblkanryoNo.Caption == "3" ? "reached" : ""}; }
 
@@ -294,6 +312,7 @@ constexpr SweptFlow kFlows[] = {
     {"selective move", &Trial::HomedOnMoveTab, &Trial::MoveByList, ReachedLast, false},
     {"continuous move", &Trial::HomedOnMoveTab, &Trial::MoveByRange, ReachedLast, false},
     {"group move", &Trial::HomedOnMoveTab, &Trial::MoveGroup, ReachedLast, false},
+    {"io poll", &Trial::IoView, &Trial::PollOnce, Polled, false},
     {"teach", &Trial::TeachingTab, &Trial::Teach, ShownPositions, false},
     {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
     {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},

@@ -7,6 +7,8 @@
 #include "data/sm_view.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
+#include "monitor/io_view.h"
+#include "monitor/poll.h"
 #include "motion/motion_view.h"
 #include "para/change_device.h"
 #include "para/device_choice.h"
@@ -53,6 +55,8 @@ void InstallViews() {
   InstallSmView();
   InstallMotion();
   InstallProgViews();
+  InstallPolls();
+  InstallIoMonitor();
 }
 
 }  // namespace tr7

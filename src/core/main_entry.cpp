@@ -149,6 +149,7 @@ void StartOnlineOfflineChoice() {
 
 void UnloadFrame() {
   if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
+  if (Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
   const std::vector<View*> views = OpenViews();
   for (View* view : views) {
     if (view != &frmMain) UnloadView(*view);

@@ -11,6 +11,8 @@
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
+#include "monitor/io_state.h"
+#include "monitor/poll.h"
 #include "motion/motion_view.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -32,6 +34,8 @@ void ResetState() {
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  PollLine = PollLineRecord{};
+  ResetIoMonitor();
   WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};

@@ -105,6 +105,7 @@ struct FrmMain : View {
   Timer timerTerminate{100, false};
   Timer TimerTest{1000, false};
   Timer TimerClosedViews{1, true};  ///< ends the records of views that were closed
+  Timer TimerPolls{1, true};        ///< the monitor that comes next on the line
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
   /// The Escape key, wherever the focus is and whatever box stands. True: it has stopped something,
@@ -118,5 +119,6 @@ inline Standing<FrmMain> frmMain;
 inline constexpr int kPanelError = 0;  ///< the last alarm, version, input hint
 inline constexpr int kPanelScale1 = 1;
 inline constexpr int kPanelScale2 = 2;
+inline constexpr int kPanelOverride = 3;  ///< the controller's inputs start no movement
 
 }  // namespace tr7

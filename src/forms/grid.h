@@ -28,6 +28,9 @@ struct EditVerdict {
 /// What a row is to the others, for a mark in the fixed column.
 enum class RowMark { None, Target, Jump };
 
+/// A signal lamp in a cell, left of its text.
+enum class CellLamp { None, Off, On };
+
 /// A list of texts that pops up at the current cell of one column.
 struct CellList {
   ListBox* Box = nullptr;  ///< on show while `Visible`; its `Click` picks
@@ -93,6 +96,7 @@ struct Grid : Control {
   Handler<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
   Handler<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
   Handler<bool(int row, int col)> IsUnused;  ///< what stands there counts for nothing: drawn grey
+  Handler<CellLamp(int row, int col)> LampOf;
   Handler<RowMark(int row)> MarkOfRow;
   Handler<std::string(int row, int col)> CellToolTip;
   Handler<void()> SelChange;
@@ -100,6 +104,8 @@ struct Grid : Control {
   Handler<void(bool backwards)> MoveOn;
   /// The Enter key, the space bar or a double click, for a grid whose cells are chosen, not edited.
   Handler<void()> Choose;
+  /// A click of the left button on a cell of the body, or the space bar on the current one.
+  Handler<void(int row, int col)> CellClick;
   Handler<void()> DeleteKey;  ///< in place of an edit that ends with an empty text
   Handler<bool()> DownAtEnd;  ///< the down arrow on the last row; true: it has moved the cell
   /// F12, and a double click in a cell: to the row that the current one names. True: it went.

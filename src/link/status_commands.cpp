@@ -36,8 +36,10 @@ int CtComStart(int show_message) {
   std::string reply;
   TusinOptions options;
   options.show_message = show_message != 0;
-  if (TusinWait("0CM1", 6, 1000, reply, options) != TusinOutcome::Good) {
-    SetOffline();
+  const TusinOutcome outcome = TusinWait("0CM1", 6, 1000, reply, options);
+  if (outcome != TusinOutcome::Good) {
+    // What a stop has overtaken says nothing of the line.
+    if (outcome != TusinOutcome::Withdrawn) SetOffline();
     return 1;
   }
   SetOnline();
@@ -54,6 +56,7 @@ int CtControlModeSet(int mode, int m, int mask) {
     command += named ? std::to_string(mode) : "0";
   }
   LiftOffline();
+  ++AppState.ControlModesSent;
   std::string reply;
   if (TusinCommand(command, 10, 2000, reply) != 0) return 1;
   if (!takes_axes) AppState.AxesMayBeHeld = False;

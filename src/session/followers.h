@@ -14,6 +14,8 @@ struct FollowersRecord {
   std::function<void()> MmFollowsPulses;
   /// The session is about to end: what this tool has set in motion is stopped first.
   std::function<void()> StopBeforeTheEnd;
+  /// Behind that: what a view has the controller do is taken back.
+  std::function<void()> TakeBackBeforeTheEnd;
   /// A connection begins: what was under way in the former session is not gone on with.
   std::function<void()> SessionBegins;
   /// It stands: what was in doubt of the controller can be asked.

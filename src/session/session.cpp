@@ -125,6 +125,7 @@ void ChangeToOfflineMenu() {
       MsgBox(Text(432), MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
     return;
   }
+  if (Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
   EndSession();
 }
 

@@ -20,6 +20,8 @@ struct AppStateRecord {
   Bool16 OfflineTemporarilyLifted;
   Bool16 CtMode;         ///< False position mode, True program mode
   Bool16 CtModeOfCt;     ///< the mode that the controller reported last
+  /// Control modes sent, by whoever it was: tells who set one that it may hold no more.
+  std::int32_t ControlModesSent = 0;
   Bool16 AxesMayBeHeld;  ///< a write could not release its axes: the next connection does
   Bool16 ProgStepsRead;  ///< the step counts of the controller's programs are known
   Bool16 CtModePending;  ///< a mode was written that the controller takes at its next power cycle

@@ -25,6 +25,7 @@
 #include "ui/hold_button_binding.h"
 #include "ui/label_binding.h"
 #include "ui/lamp.h"
+#include "ui/plot_widget.h"
 #include "ui/text_box_binding.h"
 #include "ui/wheel_filter.h"
 
@@ -325,6 +326,7 @@ std::unique_ptr<Binding> MakeBinding(Control& control, QObject& target, OptionGr
       Tie<UpDown, QSpinBox, UpDownBinding>(made, control, target) ||
       Tie<TabStrip, QTabBar, TabStripBinding>(made, control, target, gate) ||
       Tie<Grid, GridTable, GridBinding>(made, control, target) ||
+      Tie<Plot, PlotWidget, PlotBinding>(made, control, target) ||
       Tie<Toolbar, QToolBar, ToolbarBinding>(made, control, target, gate) ||
       Tie<StatusBar, QStatusBar, StatusBarBinding>(made, control, target);
   if (auto* menu = dynamic_cast<Menu*>(&control)) made = MakeMenuBinding(*menu, target, gate);

@@ -14,6 +14,8 @@ QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
   return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
 
+constexpr int kLampWidth = 14;
+
 bool LooksLikeNumber(const QString& text) {
   if (text.startsWith(' ')) return true;  // padded to the right by logic
   bool good = false;
@@ -54,6 +56,20 @@ void GridCellPainter::PaintMark(QPainter& painter, const QRect& cell) const {
   painter.setBrush(Qt::NoBrush);
 }
 
+/// A lit lamp is full, a dark one a ring.
+void GridCellPainter::PaintLamp(QPainter& painter, const QRect& cell, bool lit,
+                                bool enabled) const {
+  constexpr double kRadius = 5.5;
+  const QColor on = enabled ? look::kLampOn : look::kFaintText;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(lit ? on.darker(140) : look::kFaintText, 1.2));
+  painter.setBrush(lit ? QBrush(on) : QBrush(look::kBase));
+  painter.drawEllipse(QPointF(cell.left() + kLampWidth / 2.0 + 2, cell.center().y() + 0.5), kRadius,
+                      kRadius);
+  painter.restore();
+}
+
 /// The current cell has a list.
 void GridCellPainter::PaintArrow(QPainter& painter, const QRect& field) const {
   constexpr int kHalf = 4;
@@ -91,9 +107,14 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   painter->fillRect(option.rect, ground);
   if (IsMarked(row, col)) PaintMark(*painter, option.rect);
   const QString text = model_.TextAt(index.row(), index.column());
+  const CellLamp lamp = grid_.LampOf ? grid_.LampOf(row, col) : CellLamp::None;
+  const bool grey = grid_.IsUnused && grid_.IsUnused(row, col);
+  if (lamp != CellLamp::None)
+    PaintLamp(*painter, option.rect, lamp == CellLamp::On, enabled && !grey);
+  const int beside = lamp == CellLamp::None ? 3 : kLampWidth + 6;
   painter->setPen(enabled ? look::kText : look::kFaintText);
-  painter->drawText(option.rect.adjusted(3, 0, -4, 0), Qt::AlignVCenter | AlignmentOf(col, text),
-                    text.trimmed());
+  painter->drawText(option.rect.adjusted(beside, 0, -4, 0),
+                    Qt::AlignVCenter | AlignmentOf(col, text), text.trimmed());
   if (!current || !enabled) return;
   if (grid_.List.Box && col == grid_.List.Col) PaintArrow(*painter, ListArrowIn(option.rect));
   painter->setPen(QPen(look::kSelection, 2));

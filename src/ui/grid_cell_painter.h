@@ -29,6 +29,7 @@ class GridCellPainter : public QStyledItemDelegate {
   bool IsSelected(int row, int col) const;
   bool IsMarked(int row, int col) const;
   QColor Ground(int row, int col, bool enabled) const;
+  void PaintLamp(QPainter& painter, const QRect& cell, bool lit, bool enabled) const;
   void PaintArrow(QPainter& painter, const QRect& field) const;
   void PaintMark(QPainter& painter, const QRect& cell) const;
   Qt::Alignment AlignmentOf(int col, const QString& text) const;

@@ -154,6 +154,11 @@ void GridTable::MoveOn(bool backwards) {
 }
 
 /// A key that stands for a choice of the current cell.
+bool GridTable::Clicks(const QKeyEvent& key) const {
+  return grid_->CellClick && key.key() == Qt::Key_Space && InBody(grid_->Row, grid_->Col) &&
+         !grid_->MayEdit(grid_->Row, grid_->Col);
+}
+
 bool GridTable::Chooses(const QKeyEvent& key) const {
   return grid_->Choose && (IsEnter(key.key()) || key.key() == Qt::Key_Space);
 }
@@ -275,6 +280,8 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     GoToTarget(true);
   } else if (Chooses(*event)) {
     if (!event->isAutoRepeat()) ChooseCell();  // a key that is held down chooses once
+  } else if (Clicks(*event)) {
+    if (!event->isAutoRepeat()) grid_->CellClick(grid_->Row, grid_->Col);
   } else if (IsEnter(event->key())) {
     MoveOn(GoesBack(*event));
   } else if (event->key() == Qt::Key_Backspace) {

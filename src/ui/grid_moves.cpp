@@ -168,7 +168,14 @@ void GridTable::mouseMoveEvent(QMouseEvent* event) {
   if (row != grid_->RowSel || col != grid_->ColSel) GoTo(row, col, true);
 }
 
-void GridTable::mouseReleaseEvent(QMouseEvent*) { dragging_ = false; }
+void GridTable::mouseReleaseEvent(QMouseEvent* event) {
+  int row = 0, col = 0;
+  const bool clicked = dragging_ && event->button() == Qt::LeftButton;
+  dragging_ = false;
+  if (!clicked || !grid_->CellClick || !CellAt(event->position().toPoint(), row, col)) return;
+  // A hand that has moved on to another cell has drawn a selection.
+  if (row == grid_->Row && col == grid_->Col) grid_->CellClick(row, col);
+}
 
 void GridTable::mouseDoubleClickEvent(QMouseEvent* event) {
   int row = 0, col = 0;

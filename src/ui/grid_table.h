@@ -67,6 +67,7 @@ class GridTable : public QTableView {
   bool LeavesSideways(int key) const;
   void MoveOn(bool backwards);
   bool Chooses(const QKeyEvent& key) const;
+  bool Clicks(const QKeyEvent& key) const;
   void ChooseCell();
 
   // The list at the current cell: grid_list.cpp.

@@ -19,6 +19,7 @@ inline const QColor kHeaderLine{0xc2, 0xcc, 0xd6};
 inline const QColor kGridLine{0xd9, 0xdf, 0xe5};
 inline const QColor kUnusedCell{0xe9, 0xeb, 0xed};
 inline const QColor kMarkedCell{0xff, 0xc9, 0xc4};
+inline const QColor kLampOn{0x2f, 0xa8, 0x4f};
 
 /// Style, palette and fonts of the whole program.
 void Apply(QApplication& application);

@@ -126,6 +126,7 @@ void WorkHastily(Voyage& voyage) {
   NextPress(voyage);
   voyage.virt.pump.RunFor(kRoundUs);
   voyage.hasty = false;
+  LeaveMonitors(voyage);
   voyage.sent_at_refusal.reset();  // other flows went on
 }
 

@@ -102,7 +102,11 @@ std::span<const Flow> SessionFlows();
 std::span<const Flow> TransferFlows();  ///< reading first
 std::span<const Flow> FileFlows();      ///< new data first
 std::span<const Flow> EditFlows();
+std::span<const Flow> MonitorFlows();
 std::span<const Flow> KindFlows();  ///< of parameters, groups, macros and tuning values
+
+/// Closes the monitors that are open: nothing is sent any more, and no override is left on.
+void LeaveMonitors(Voyage& voyage);
 
 /// The start of the tool, with its choice between online and offline.
 void StartTool(Voyage& voyage);

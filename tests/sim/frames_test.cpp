@@ -28,7 +28,9 @@ TEST(Frames, Refusals) {
        "0WA000001>0%%003 0WA001>0%%002 0RDE>0%%003 0RD>0%%002 0RK7>0%%003 0RG00>0%%003 "
        "0RG64>0%%003 0RS15>0%%003 0WG013E9001>0%%003 0WG01X>0%%002 0WE4>0%%003 0WE12>0%%002 "
        "0WF1>0%%002 0CM>0%%002 0CM3>0%%003 0CM1111>0%%002 0RV5>0%%003 0RC>0%%002 0MP001>0%%002 "
-       "0MP3E81>0%%003 0JR0111>0%%002 0JR01113>0%%003 0MG01>0%%003 0RI>0%%001 "
+       "0MP3E81>0%%003 0JR0111>0%%002 0JR01113>0%%003 0MG01>0%%003 0RI0>0%%002 0RO1>0%%002 "
+       "0WO1234>0%%002 0FR0000>0%%003 0FR6501>0%%003 0HR001>0%%002 0HP0101>0HP01100000000 "
+       "0HP0105>0%%003 0FR0133>0FR0133X "
        "0RR00>0%%003 0RM65>0%%003 0WM01>0%%002 0MW1>0%%002 0RR64>0RR6400");
   EXPECT_EQ(pc.Ask("0WM15" + std::string(21 * kStepDigits, '1')), "0%%003");
   EXPECT_EQ(pc.Ask(""), "0%%001");
@@ -102,7 +104,8 @@ TEST(Frames, AnyLineGetsExactlyOneReplyLine) {
   const std::string names[] = {"0CM", "0RA", "0RH", "0AR", "0RV", "0MP", "0MS", "0MV", "0JR",
                                "0SP", "0RC", "0MG", "0RP", "0WP", "0WA", "0RD", "0RG", "0RS",
                                "0RK", "0WD", "0WG", "0WS", "0WK", "0WE", "0WF", "0RR", "0RM",
-                               "0WM", "0MW", "0TN", "0TS", "0PT", "0DM", "0PM", "0PN", ""};
+                               "0WM", "0MW", "0RI", "0RO", "0WO", "0FR", "0HR", "0HP", "0TN",
+                               "0TS", "0PT", "0DM", "0PM", "0PN", ""};
   const std::string characters = "0000000011112234567899ABCDEFX a\t\x80%";
   qvr7sim::Setup setup = qvr7sim::Setup::Useful();
   setup.paced = false;

@@ -45,7 +45,7 @@ TEST(Options, FillTheSetup) {
   EXPECT_EQ(options.faults.alarms.at(0).at_us, 2500000);
   EXPECT_EQ(options.faults.alarms[0].alarm, (Alarm{'1', '0', '4'}));
   const TimedInput& input = setup.inputs.at(0);
-  EXPECT_TRUE(input.at_us == 0 && input.input == 3 && input.on);
+  EXPECT_TRUE(input.at_us == 0 && input.signal.place.value == 3 && input.value == 1);
   EXPECT_TRUE(setup.running_tasks == 2 && setup.step_us == 50);
   EXPECT_EQ(options.failing_homings, std::vector<int>{2});
 }
@@ -105,7 +105,7 @@ TEST(Commands, AnswerAndAct) {
       {"input 18 on", "ok input 18 on"},
       {"status",
        "ok mode=pos mask=15 silent=off alarm=none axis1=5 axis2=100 axis3=0 axis4=0 "
-       "tasks=none out=none"}};
+       "tasks=none out=none io=001000C,30000"}};
   Controller controller(qvr7sim::Setup::Useful());
   bool quit = false;
   for (const auto& [line, answer] : cases) {

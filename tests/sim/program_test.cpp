@@ -258,8 +258,8 @@ TEST(Program, TheSamplesDoWhatTheySay) {
     SCOPED_TRACE(files[0]);
     qvr7sim::Setup setup = qvr7sim::Setup::Useful();
     setup.mode = Mode::kProgram;
-    setup.inputs = {{0, 1, true}, {20'000'000, 2, true}};
     std::string error;
+    setup.inputs = ParseInputScript("0 1 1\n20000 2 1", &error).value();
     for (const std::string& file : files) {
       std::ifstream stream(TR7_SOURCE_DIR "/samples/" + file + ".prg", std::ios::binary);
       const std::string text{std::istreambuf_iterator<char>(stream), {}};

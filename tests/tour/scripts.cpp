@@ -10,6 +10,7 @@
 #include "state/app_state.h"
 #include "state/text.h"
 #include "tests/tour/data_script.h"
+#include "tests/tour/io_script.h"
 #include "tests/tour/motion_script.h"
 #include "tests/tour/print_script.h"
 #include "tests/tour/prog_script.h"
@@ -287,6 +288,11 @@ const std::vector<Script>& Scripts() {
       {"motion", {}, MoveAndTeach},
       {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
       {"prog", {"--mode", "prg"}, EditProgram},
+      {"io",
+       {"--mode", "prg", "--homed", "--program", "1:" TR7_SOURCE_DIR "/samples/palletising.prg",
+        "--tasks", "1"},
+       WatchProgram},
+      {"iopos", {"--homed"}, WatchHandshake},
       {"compare", {}, CompareJob},
       {"data", {}, WorkOnData},
       {"print", {}, PrintData},

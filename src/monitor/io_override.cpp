@@ -1,0 +1,62 @@
+#include "monitor/io_override.h"
+
+#include "forms/frm_io_check_fg.h"
+#include "link/port.h"
+#include "link/status_commands.h"
+#include "monitor/io_show.h"
+#include "monitor/io_state.h"
+#include "motion/motion_now.h"
+#include "state/app_state.h"
+#include "state/message_box.h"
+
+namespace tr7 {
+namespace {
+
+constexpr int kTakenBack = 7313, kMayStand = 7314;
+
+bool IsDue() {
+  if (AppState.TeachingNow) return false;
+  return IoMonitor.IgnorePending || IoMonitor.ModesSent < 0 ||
+         (IoMonitor.OverrideOn && IoMonitor.ModesSent != AppState.ControlModesSent);
+}
+
+bool SendRelease() {
+  const bool in_use = AppState.ComBusy || MotionNow.Kind != Motion::None;
+  if (AppState.Offline || AppState.Closing || in_use) return false;
+  const PortClosedAfter port_closed;
+  return CtControlModeSet(0, 0, kAllAxes) == 0;
+}
+
+}  // namespace
+
+bool FlowHasLine() {
+  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || MotionNow.Kind != Motion::None;
+}
+
+TusinOutcome SendOverride() {
+  if (!IsDue()) return TusinOutcome::Good;
+  const bool on = frmIOCheckFG.chkIgnore.Value;
+  if (on) IoMonitor.OverrideOn = True;  // also where only the answer is lost
+  ShowOverride();
+  if (CtControlModeSet(on ? 1 : 0, 0, kAllAxes) != 0) {
+    return AppState.Offline ? TusinOutcome::Failed : TusinOutcome::Withdrawn;
+  }
+  IoMonitor.OverrideOn = on;
+  IoMonitor.IgnorePending = frmIOCheckFG.chkIgnore.Value != on;
+  IoMonitor.ModesSent = AppState.ControlModesSent;
+  ShowOverride();
+  return TusinOutcome::Good;
+}
+
+void TakeBackOverride() {
+  if (!IoMonitor.OverrideOn) return;
+  frmIOCheckFG.chkIgnore.Value = false;
+  IoMonitor.IgnorePending = IoMonitor.OverrideOn = False;
+  ShowOverride();
+  // The end of a teaching session gives all axes back.
+  if (AppState.TeachingNow || SendRelease()) return TellDone(kTakenBack);
+  AppState.AxesMayBeHeld = True;
+  Tell(kMayStand);
+}
+
+}  // namespace tr7

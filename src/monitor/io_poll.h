@@ -1,0 +1,15 @@
+#pragma once
+
+namespace tr7 {
+
+/// The monitor begins and ends. The end forgets all values.
+void StartIoMonitor();
+void StopIoMonitor();
+
+/// One poll, and what follows from it; a close that was asked for is carried out here.
+void timerInputOutput1_Timer();
+
+/// The session is over: what is on show stays, grey, with the time when it was true.
+void FreezeIoMonitor();
+
+}  // namespace tr7

@@ -1,0 +1,85 @@
+#include "forms/frm_io_check_fg.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "monitor/io_state.h"
+#include "state/views.h"
+#include "tests/fleet/voyage.h"
+
+namespace tr7 {
+namespace {
+
+/// No poll comes between the frames of a transfer.
+void ReadUnderTheMonitor(Voyage& voyage) {
+  const std::size_t before = voyage.virt.port.sent.size();
+  frmPosi.cmdPosiRead.Press();
+  const std::string sent = voyage.virt.port.sent.substr(before);
+  const std::size_t first = sent.find("0RP"), last = sent.rfind("0RP");
+  for (const char* poll : {"0RI", "0RO", "0WO", "0FR", "0HR", "0HP"}) {
+    const std::size_t at = sent.find(poll, first == std::string::npos ? sent.size() : first);
+    voyage.Require(at == std::string::npos || at > last, "a poll between the frames of a transfer");
+  }
+}
+
+void EditLists(Random& random) {
+  WatchPage& f = frmIOCheckFG.Watched;
+  f.chkEditItem.Set(!f.chkEditItem.Value);
+  WatchPane& pane = *random.OneOf({&f.Flags, &f.Variables, &f.PosVariables});
+  pane.txtProgram.Type(random.OneOf({"", "1", "100"}));
+  pane.txtNumber.Type(random.OneOf({"1", "4", "60"}));
+  pane.List.SelectCell(random.Below(pane.List.Rows()), 0);
+  random.OneOf({&pane.cmdAdd, &pane.cmdDelete, &pane.cmdUp})->Press();
+}
+
+void Act(Voyage& voyage) {
+  FrmIOCheckFG& f = frmIOCheckFG;
+  Random& random = voyage.random;
+  voyage.sent_at_refusal.reset();  // a command of its own
+  switch (random.Below(7)) {
+    case 0:
+      return ReadUnderTheMonitor(voyage);
+    case 1:
+      return f.chkIgnore.Set(!f.chkIgnore.Value);
+    case 2:
+      return f.cmdIoMonitor.Press();
+    case 3:
+      return EditLists(random);
+    case 4:
+      return frmMain.mnuSettingOnline.Press();
+    default:
+      f.Io.flgdOutput.CellClick(random.Below(kOutputRows), kPointState);
+  }
+}
+
+void WatchIo(Voyage& voyage) {
+  FrmIOCheckFG& f = frmIOCheckFG;
+  Random& random = voyage.random;
+  if (!frmMain.mnuMonitor.Enabled) return;
+  (random.Chance(50) ? frmMain.mnuMonitorIO : frmMain.mnuMonitorHensu).Press();
+  f.cmdIoMonitor.Press();
+  for (int acts = random.Between(1, 8); acts > 0 && f.Visible; --acts) {
+    voyage.virt.pump.RunFor(random.Below(4'000'000));
+    Act(voyage);
+  }
+  voyage.sent_at_refusal.reset();
+  const int how = random.Below(4);
+  if (how == 0) f.cmdIoWinClose.Press();
+  if (how == 1) CloseView(f, CloseReason::ControlMenu);
+  if (how == 2) frmMain.mnuSettingOffline.Press();
+  LeaveMonitors(voyage);
+}
+
+constexpr Flow kFlows[] = {{"io-monitor", 8, WatchIo}};
+
+}  // namespace
+
+void LeaveMonitors(Voyage& voyage) {
+  constexpr int kLastPollUs = 30'000'000;
+  if (voyage.virt.forms.ended) return;
+  voyage.virt.pump.RunFor(kLastPollUs);
+  if (frmIOCheckFG.Loaded) CloseView(frmIOCheckFG, CloseReason::Code);
+  voyage.Require(!IoMonitor.IoMonOn && !IoMonitor.OverrideOn, "the monitor goes on");
+}
+
+std::span<const Flow> MonitorFlows() { return kFlows; }
+
+}  // namespace tr7

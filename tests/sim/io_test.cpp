@@ -1,0 +1,76 @@
+// Inputs and outputs: what the terminals tell in position mode, what the PC forces, and what names
+// set.
+
+#include "sim/commands.h"
+#include "tests/sim/exchange.h"
+
+namespace qvr7sim {
+namespace {
+
+qvr7sim::Setup Homed() {
+  qvr7sim::Setup setup = qvr7sim::Setup::Useful();
+  setup.homed = true;
+  return setup;
+}
+
+std::string Do(Exchange& pc, const std::string& line) {
+  bool quit = false;
+  return RunCommand(line, &pc.controller, pc.now_us, &quit);
+}
+
+/// Words of a session: "NAME=VALUE" at a terminal, else as `Talk`.
+void Play(Exchange& pc, const std::string& words) {
+  std::istringstream stream(words);
+  for (std::string word; stream >> word;) {
+    const std::size_t equals = word.find('=');
+    if (equals == std::string::npos) {
+      Talk(pc, word);
+    } else {
+      const std::string line = "input " + word.substr(0, equals) + " " + word.substr(equals + 1);
+      EXPECT_EQ(Do(pc, line), "ok " + line);
+    }
+  }
+}
+
+TEST(Terminals, TheHandshakeOfPositionMode) {
+  Exchange pc(Homed());
+  // Position 3 lowers axis 1 and switches output 1 when it has arrived.
+  Play(pc,
+       "0RI>0RI000000F 0RO>0RO30000 P1=1 P2=1 0RI>0RI000003F STB=1 0RI>0RI800003F "
+       "0RO>0RO20000 +9000 0RO>0RO31000 0RI>0RI800003E STB=0");
+  EXPECT_EQ(pc.controller.MotionStarts().back().request, "inputs");
+  // STOP brakes, and keeps a start away; what the PC holds stays where it is.
+  Play(pc,
+       "P2=0 STB=1 +100 0RO>0RO21000 STOP=1 +100 0RO>0RO31000 STB=0 STB=1 0RO>0RO31000 STOP=0 "
+       "0CM01111>0CM01111 STB=0 STB=1 +100 0RO>0RO31000");
+}
+
+TEST(Terminals, ANumberThatIsNoneIsAnAlarmWhichAnInputResets) {
+  Exchange pc(Homed());
+  Play(pc, "P2=1 P8=1 STB=1 0RI>0%%003");
+  EXPECT_EQ(pc.controller.Outputs(pc.now_us) & 7U, 5U);  // alarm, not ready, in position
+  Play(pc, "RES=1 0RI>0RI90000AF");
+}
+
+TEST(Terminals, ZonesAndForceOfPositionMode) {
+  qvr7sim::Setup setup = Homed();
+  setup.positions[1].axis[1] = {.way = 1, .pulses = 2000, .pf = 40};
+  Exchange pc(setup);
+  Play(pc, "0WD600006400138800640001000000000000>0WD6 0MS0012>0MS +9000 0RO>0RO30C00");
+}
+
+TEST(Terminals, WhatThePcForcesStaysUntilTheControllerSwitchesIt) {
+  qvr7sim::Setup setup = Homed();
+  setup.mode = Mode::kProgram;
+  Exchange pc(setup);
+  Play(pc,
+       "OUT5=1 0RO>0RO30100 0WO30218>0WO 0RO>0RO30218 OUT6=0 0RO>0RO30018 0WO70018>0WO "
+       "0RO>0RO70018 F7=1 0FR0007>0FR00071 R9=-2 0HR0009>0HR0009FFFFFFFE 2:PR1=1500 "
+       "0HP0201>0HP021000005DC 2:f3=1 0FR0203>0FR02031 0FR0103>0FR01030 2:r3=7 "
+       "0HR0203>0HR020300000007");
+  pc.controller.RaiseAlarm({'1', '0', '2'}, pc.now_us);
+  EXPECT_EQ(pc.controller.Outputs(pc.now_us) & 7U, 5U);  // the alarm is the controller's own again
+}
+
+}  // namespace
+}  // namespace qvr7sim
