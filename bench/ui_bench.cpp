@@ -21,6 +21,7 @@
 #include "forms/frm_io_check_fg.h"
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
+#include "forms/frm_prog_no.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "monitor/io_state.h"
@@ -91,8 +92,8 @@ class Bench {
     frmMain.mnuSettingOnline.Press();
     if (AppState.Offline) return Failed("going online");
     Report("idle_online_cpu_percent", IdlePercent(), 2);
-    return WatchIo() || Jog() || ReadPaced() || ReadFull() || OpenFull() || PrintFull() ||
-                   CompareFull()
+    return WatchIo() || Jog() || ListPrograms() || ReadPaced() || ReadFull() || OpenFull() ||
+                   PrintFull() || CompareFull()
                ? 1
                : 0;
   }
@@ -197,6 +198,25 @@ class Bench {
     frmPosi.Teach.cmdJOGend.Press();
     frmPosi.SSTabCommand().Selected = 0;
     frmPosi.SSTabCommand().Click();
+    return 0;
+  }
+
+  /// The list of programs, from the command until it is painted.
+  int ListPrograms() {
+    constexpr int kLists = 15;
+    std::vector<double> times;
+    std::chrono::steady_clock::time_point since;
+    user_.on_modal["frmProgNo"] = [&](View&) {
+      doors.forms->Refresh();
+      times.push_back(MsSince(since));
+      frmProgNo.cmdCancel.Press();
+    };
+    for (int i = 0; i < kLists; ++i) {
+      since = std::chrono::steady_clock::now();
+      frmMain.mnuFileNewProg.Click();
+    }
+    if (times.size() < kLists) return Failed("the list of programs");
+    Report("program_list_ms", Median(times), 2);
     return 0;
   }
 

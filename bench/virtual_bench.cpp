@@ -1,7 +1,10 @@
 // The tool on the virtual doors: how much time the line is left unused, and how fast the logic is.
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include "bench/counting_port.h"
 #include "bench/figures.h"
@@ -19,10 +22,13 @@
 #include "platform/doors.h"
 #include "posi/posi_check.h"
 #include "posi/posi_table.h"
+#include "prog/prog_check.h"
+#include "prog/prog_listing.h"
 #include "sim/program_text.h"
 #include "sim/setup.h"
 #include "sim/tasks.h"
 #include "state/settings.h"
+#include "state/views.h"
 #include "tests/support/virtual_doors.h"
 
 namespace tr7bench {
@@ -179,6 +185,28 @@ void Poll(Desk& desk) {
   frmIOCheckFG.cmdIoWinClose.Press();
 }
 
+/// A program of as many steps as any may have: its check, and its write.
+void Program(Desk& desk) {
+  constexpr int kChecks = 101;
+  frmMain.mnuFileNewProg.Click();
+  auto* view = dynamic_cast<ProgView*>(ActiveView());
+  if (!view) Fail("no program opened", desk.forms);
+  ProgCells step;
+  const char* const texts[] = {"MVP", "1", "R1", "/I1", "O1", "to the feeder"};
+  std::copy(std::begin(texts), std::end(texts), step.Texts.begin());
+  PutListing(view->flgdProg, std::vector(kMostProgSteps, step));
+  bool good = true;
+  Report("program_check_100_ms",
+         MedianMsOf(
+             kChecks,
+             [&] { good &= TorikomiProg2DA(*view) == 0 && programCheckProc(view->Store) == 0; }),
+         3);
+  if (!good) Fail("the check refused the program", desk.forms);
+  view->cmdProgWrite.Press();  // the step counts of all programs are read once
+  Transfer(desk, "prog_write100_virtual_ratio", view->cmdProgWrite, "0MW01",
+           qvr7sim::Setup::Useful().commit_us);
+}
+
 /// Ten programs that calculate and jump, on virtual time.
 void ProgramSteps() {
   constexpr std::int64_t kVirtualUs = 100'000'000;
@@ -206,5 +234,6 @@ int main() {
   tr7bench::MoveOn(desk);
   tr7bench::OtherKinds(desk);
   tr7bench::Poll(desk);
+  tr7bench::Program(desk);
   tr7bench::ProgramSteps();
 }

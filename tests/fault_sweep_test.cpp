@@ -15,6 +15,7 @@
 #include "forms/frm_device.h"
 #include "forms/frm_io_check_fg.h"
 #include "forms/frm_parameta2.h"
+#include "forms/frm_prog_no.h"
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "monitor/io_state.h"
@@ -25,6 +26,7 @@
 #include "para/sys_para_commands.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
+#include "prog/prog_view.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
 #include "state/message_box.h"
@@ -112,11 +114,12 @@ class Trial : public FlowTest {
     forms.answers = {MsgAnswer::Ok};
     frmPosi.cmdPosiWrite.Press();
   }
-  void ComparePositions() {
+  void CompareBy(CommandButton& button) {
     InDialog("frmCompare",
              {[] { frmCompare.cmdCompare.Press(); }, [] { frmCompare.Visible = false; }});
-    frmPosi.cmdPosiCompare.Press();
+    button.Press();
   }
+  void ComparePositions() { CompareBy(frmPosi.cmdPosiCompare); }
   void EditTables() {
     GrpTable.GrpEnd[1] = 77;
     SmTable[0][0] = {3, 3};
@@ -203,6 +206,23 @@ class Trial : public FlowTest {
     }
     if (IoMonitor.IoMonOn) frmIOCheckFG.cmdIoMonitor.Press();
   }
+  void ProgramView() {
+    forms.on_modal["frmProgNo"] = [](View&) { frmProgNo.cmdOk.Press(); };
+    AppState.ProgStepsRead = True;
+    NewProgram();
+    for (const char* number : {"1", "999"}) {  // the controller keeps the first
+      Program().flgdProg.SetText(1, kProgCommand, "MVP");
+      Program().flgdProg.SetText(1, kProgOperand1, number);
+      if (number[1] == 0) WriteProgram();
+    }
+  }
+  static ProgView& Program() { return *dynamic_cast<ProgView*>(ActiveView()); }
+  void WriteProgram() { Program().cmdProgWrite.Press(); }
+  void ReadProgram() {
+    AppState.ProgStepsRead = False;
+    frmMain.mnuContProgRead.Click();
+  }
+  void CompareProgram() { CompareBy(Program().cmdProgCompare); }
   template <auto kTransfer>
   void Transfer() {
     const CommandsOff commands_off;
@@ -272,13 +292,24 @@ Fields ShownPositions() {
 }
 
 Fields Polled() { return {IoMonitor.TrueAt}; }
+
+/// The first program of the views, from the last one on.
+Fields ShownProgram() {
+  Fields fields(1);
+  for (const View* view : AllViews()) {
+    const auto* program = dynamic_cast<const ProgView*>(view);
+    if (program && program->Loaded) fields[0] = program->flgdProg.Text(1, kProgOperand1);
+  }
+  return fields;
+}
+
 Fields HomeState() { return {AppState.HomeDone ? "home" : ""}; }
 Fields ReachedLast() { return {frmPosi.Readout.lblkanryoNo.Caption == "3" ? "reached" : ""}; }
 
 /// All that the controller keeps through a loss of power.
 std::string Committed(const qvr7sim::Controller& ct) {
   std::string memory;
-  for (const char* frame : {"0WP", "0WD", "0WG", "0WS", "0WK"}) {
+  for (const char* frame : {"0WP", "0WD", "0WG", "0WS", "0WK", "0WM"}) {
     for (const std::string& cell : ct.Cells(frame, true)) memory += cell;
   }
   return memory;
@@ -319,6 +350,9 @@ constexpr SweptFlow kFlows[] = {
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},
     {"read macros", &Trial::Nothing, &Trial::Transfer<ReadSmFromCt>, Stages, false},
     {"read tuning", &Trial::Nothing, &Trial::Transfer<ReadSysParaFromCt>, Stages, false},
+    {"read program", &Trial::ProgramView, &Trial::ReadProgram, ShownProgram, false},
+    {"compare program", &Trial::ProgramView, &Trial::CompareProgram, ShownProgram, false},
+    {"write program", &Trial::ProgramView, &Trial::WriteProgram, ShownProgram, false},
     {"write parameters", &Trial::ParaView, &Trial::WritePara, MachineOfPc, false},
     {"write axes", &Trial::AxesInView, &Trial::WriteAxesAndPara, AxesAsRead, false},
     {"write groups", &Trial::EditTables, &Trial::Transfer<WriteGrpToCt>, Stages, false},

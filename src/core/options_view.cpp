@@ -124,7 +124,11 @@ void LeavePort() {
 void TakePort() {
   const int typed = TypedPortNo();
   const std::string before = PortDevice(AppState.PortNo);
-  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();  // while the port is the same
+  const std::string key = "PortDevice" + std::to_string(AppState.PortNo);
+  const bool other = typed != AppState.PortNo || ChosenDevice() != GetSetting(key, "");
+  // While the port is the same.
+  if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
+  if (other && Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
   if (IsPortNo(typed)) {
     AppState.PortNo = static_cast<std::int16_t>(typed);
   } else {

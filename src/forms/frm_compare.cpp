@@ -12,7 +12,7 @@ FrmCompare::FrmCompare() : View("frmCompare") {
   constexpr int kRestOfView = -1;
   flgdCompare.SetColWidth(kName, 1800);
   flgdCompare.SetColWidth(kPlace, 850);
-  flgdCompare.SetColWidth(kHere, 4200);
+  flgdCompare.SetColWidth(kHere, 3100);
   flgdCompare.SetColWidth(kThere, kRestOfView);
   for (const int col : {kName, kPlace, kHere, kThere}) {
     flgdCompare.SetColAlign(col, col == kPlace ? ColAlign::Centre : ColAlign::Left);

@@ -18,7 +18,7 @@ constexpr const char* kProduct = "QV-R7";
 constexpr const char* kKind = "ION";
 constexpr const char* kInputKey = "IoNameIn";
 constexpr const char* kOutputKey = "IoNameOut";
-constexpr DataFile kNamesFile{7329, "ion", 7330};
+constexpr DataFile kNamesFile{FileKind::Unknown, 7329, "ion", 7330};
 constexpr int kOpenTitle = 7331, kSaveTitle = 7332, kNoNames = 7333, kLoaded = 7334, kSaved = 7335,
               kNotLoaded = 7336, kNotSaved = 7337;
 

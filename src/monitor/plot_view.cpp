@@ -19,8 +19,8 @@ namespace tr7 {
 namespace {
 
 constexpr std::array<std::int64_t, 6> kSpansMs{600'000, 300'000, 120'000, 60'000, 30'000, 10'000};
-constexpr DataFile kCsvFile{7354, "csv", 7355};
-constexpr DataFile kPictureFile{7356, "png", 7355};
+constexpr DataFile kCsvFile{FileKind::Unknown, 7354, "csv", 7355};
+constexpr DataFile kPictureFile{FileKind::Unknown, 7356, "png", 7355};
 constexpr int kSaveCsv = 7358, kSavePicture = 7359, kSaved = 7360, kNotSaved = 7361,
               kNoValues = 7371, kTimeTitle = 7364, kSeconds = 7369, kCursors = 7351,
               kHowToPoint = 7352, kChoose = 7353, kKept = 7372;

@@ -31,6 +31,7 @@ std::vector<std::string> RecentFiles(FileKind kind) {
 }
 
 void RememberFile(FileKind kind, const std::string& path) {
+  if (kind == FileKind::Unknown) return;
   std::vector<std::string> paths = RecentFiles(kind);
   if (!paths.empty() && paths.front() == path) return;
   std::erase(paths, path);

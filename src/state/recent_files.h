@@ -14,7 +14,7 @@ inline constexpr int kRecentFiles = 10;
 /// settings.
 std::vector<std::string> RecentFiles(FileKind kind);
 
-/// The file is the newest of its kind now.
+/// The file is the newest of its kind now. Files of no kind are not kept.
 void RememberFile(FileKind kind, const std::string& path);
 void ForgetFile(FileKind kind, const std::string& path);
 

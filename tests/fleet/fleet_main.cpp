@@ -26,8 +26,8 @@ void RunAnyFlow(Voyage& voyage) {
     return Run(voyage, random.Chance(60) ? TransferFlows()[0] : FileFlows()[0]);
   }
   std::vector<const Flow*> all;  // each as often as it weighs
-  for (const auto& some :
-       {SessionFlows(), TransferFlows(), FileFlows(), EditFlows(), KindFlows(), MonitorFlows()}) {
+  for (const auto& some : {SessionFlows(), TransferFlows(), FileFlows(), EditFlows(), KindFlows(),
+                           MonitorFlows(), ProgramFlows()}) {
     for (const Flow& flow : some)
       all.insert(all.end(), static_cast<std::size_t>(flow.weight), &flow);
   }

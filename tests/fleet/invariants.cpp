@@ -20,6 +20,11 @@ void CheckCommands(Voyage& voyage) {
                  "progress bar stands");
   voyage.Require(frmPosi.flgdData.Redraw, "grid does not paint");
   voyage.Require(voyage.virt.forms.wait_cursors == 0, "wait cursor stands");
+  for (const ProgView* view : ProgramViews()) {
+    voyage.Require(view->cmdProgCheck.Enabled && view->flgdProg.Enabled && view->flgdProg.Redraw &&
+                       view->cmdProgWrite.Enabled == !AppState.Offline,
+                   "a program's commands lie");
+  }
   voyage.Require(!DeviceDialog.DevDialogActive && !DeviceDialog.DevWriting,
                  "a device dialogue stands");
 }
@@ -90,6 +95,9 @@ void CheckLink(Voyage& voyage) {
   }
   voyage.Require(voyage.flow == "write" || !voyage.HasSent({"0WP", "0WA"}),
                  "positions are written unasked");
+  voyage.Require(voyage.flow == "write" || voyage.flow == "kind-write" || !voyage.HasSent({"0WM"}),
+                 "a program is written unasked");
+  voyage.Require(!AppState.Offline || !AppState.ProgStepsRead, "step counts of no line are known");
   const std::size_t sent = port.sent.size();
   voyage.Require(voyage.sent_at_refusal.value_or(sent) == sent, "sent after a refusal");
   voyage.virt.pump.RunFor(3'000'000);

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -8,6 +10,7 @@
 #include "forms/frm_parameta2.h"
 #include "forms/frm_sq_mcr.h"
 #include "forms/frm_system_para.h"
+#include "prog/prog_listing.h"
 #include "state/text.h"
 #include "tests/fleet/states.h"
 #include "tests/fleet/voyage.h"
@@ -17,6 +20,8 @@ namespace {
 
 constexpr int kRead = 5200, kWrite = 5201, kVerify = 5202;
 constexpr int kOpen = 5204, kSave = 5206, kVerifyFile = 5207, kCompare = 5320;
+
+constexpr int kMsgHalfWritten = 7058;
 
 /// A kind of data with a view of its own. What serves all kinds is found by its caption.
 struct Kind {
@@ -50,6 +55,12 @@ struct Held {
       const auto* combo = dynamic_cast<const ComboBox*>(control);
       if (combo) shown.push_back(combo->Text());
     }
+    const auto* program = dynamic_cast<const ProgView*>(&kind.view);
+    if (!program) return;
+    // Blank steps go whenever a program is checked.
+    for (const ProgCells& cells : CellsOfListing(program->flgdProg)) {
+      if (cells != ProgCells()) shown.insert(shown.end(), cells.Texts.begin(), cells.Texts.end());
+    }
   }
   bool operator==(const Held&) const = default;
   Cells shown;
@@ -58,16 +69,22 @@ struct Held {
 };
 
 /// The view of a kind in front, or nothing where its menu is off. What it shows has settled.
-const Kind* AnyKind(Voyage& voyage) {
+std::optional<Kind> AnyKind(Voyage& voyage) {
+  if (voyage.random.Chance(40)) {
+    if (ProgView* view = AnyProgram(voyage)) {
+      return Kind{*view, frmMain.mnuFileNewProg, {"0WM", 2, "0MW", 19}, 376, kProgPath};
+    }
+  }
   const Kind& kind = kKinds[voyage.random.Below(static_cast<int>(std::size(kKinds)))];
   voyage.Note(kind.view.Name);
   if (kind.menu.Visible) kind.menu.Press();
-  if (!kind.view.Visible) return nullptr;
+  if (!kind.view.Visible) return std::nullopt;
   voyage.Require(ButtonOf(kind, kRead)->Enabled, "a view's commands are off");
-  return &kind;
+  return kind;
 }
 
 void Read(Voyage& voyage, const Kind& kind) {
+  if (!ButtonOf(kind, kRead)) return;
   const Held before(kind);
   ButtonOf(kind, kRead)->Press();
   bool failed = false;
@@ -85,6 +102,14 @@ void Write(Voyage& voyage, const Kind& kind) {
   if (!AppState.AlarmOn) panel.clear();
   ButtonOf(kind, kWrite)->Press();
   write.Check(panel == Text(kind.told_id) || voyage.WasTold(kind.told_id));
+  const bool half = kind.frames.unit > 0 && !voyage.power_fails && !write.IsWhole();
+  voyage.Require(!half || voyage.WasTold(kMsgHalfWritten), "half a program, and nobody was told");
+}
+
+bool HasClosed(const Kind& kind) {
+  const auto programs = ProgramViews();
+  return kind.frames.unit > 0 &&
+         std::find(programs.begin(), programs.end(), &kind.view) == programs.end();
 }
 
 /// Or compares, where only what the user takes over changes anything.
@@ -96,6 +121,7 @@ void Verify(Voyage& voyage, const Kind& kind) {
   const Cells before = memory();
   const Held held(kind);
   button->Press();
+  if (HasClosed(kind)) return;  // a program that could not be read
   // A connection on the way may write, or take, what the user chooses.
   const bool chosen = !voyage.choices.empty();
   voyage.Require(chosen || memory() == before, "a verification changed the controller");
@@ -156,7 +182,7 @@ void Close(Voyage&, const Kind& kind) { CloseView(kind.view, CloseReason::Contro
 
 template <auto run>
 void WithAnyKind(Voyage& voyage) {
-  if (const Kind* kind = AnyKind(voyage)) run(voyage, *kind);
+  if (const auto kind = AnyKind(voyage)) run(voyage, *kind);
 }
 
 constexpr Flow kFlows[] = {

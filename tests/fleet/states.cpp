@@ -110,7 +110,7 @@ Cells CellWrite::Now(bool committed) const {
 }
 
 /// What was sent, over what an earlier write has left unstored: positions are stored in the range
-/// that their frame names, the others all at once.
+/// that their frame names, a program alone, the others all at once.
 Cells CellWrite::New() const {
   const std::string& sent = voyage_.virt.port.sent;
   Cells cells = committed_, written = written_;
@@ -122,15 +122,32 @@ Cells CellWrite::New() const {
       return static_cast<std::size_t>(HexValue(line.substr(from, frames_.digits))) - first;
     };
     if (line.starts_with(frames_.write)) {
-      written[number(3)] = line.substr(3 + frames_.digits);
+      written[number(3)] = CellOf(line.substr(3 + frames_.digits));
     } else if (line.starts_with(frames_.commit)) {
-      const bool range = line.size() > 3 + frames_.digits;
-      for (std::size_t i = range ? number(3) : 0; i < cells.size(); ++i) {
-        if (!range || i <= number(3 + frames_.digits)) cells[i] = written[i];
-      }
+      const bool all = line == frames_.commit;
+      const std::size_t low = all ? 0 : number(3);
+      const std::size_t high = all ? cells.size() - 1 : number(line.size() - frames_.digits);
+      for (std::size_t i = low; i <= high; ++i) cells[i] = written[i];
     }
   }
   return cells;
+}
+
+std::string CellWrite::CellOf(std::string_view digits) const {
+  std::size_t at = 0;
+  const std::string end(frames_.unit, '0');
+  while (frames_.unit > 0 && at < digits.size() && digits.substr(at, frames_.unit) != end) {
+    at += frames_.unit;
+  }
+  return std::string(frames_.unit > 0 ? digits.substr(0, at) : digits);
+}
+
+bool CellWrite::IsWhole() const {
+  const Cells stored = Now(true), now = Now(false);
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    if (now[i] != stored[i] && now[i] != written_[i]) return false;
+  }
+  return true;
 }
 
 void CellWrite::Check(bool told, bool stopped) const {

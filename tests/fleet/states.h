@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "device/dev_setting.h"
@@ -47,6 +48,7 @@ struct CellFrames {
   const char* write;
   std::size_t digits;  ///< of a cell's number; with one digit they count from 0
   const char* commit;
+  std::size_t unit = 0;  ///< where a unit of zeros ends a cell: its digits
 };
 
 /// What a write makes of the controller's memory, from the moment that this is made.
@@ -58,10 +60,13 @@ class CellWrite {
   /// same of the two, and the new where the user was told of the end. Of a write that the user has
   /// stopped nobody knows whether its last frame was heard.
   void Check(bool told, bool stopped = false) const;
+  /// True when nothing is written that is not stored, but for what was so before.
+  bool IsWhole() const;
 
  private:
   Cells Now(bool committed) const;
   Cells New() const;
+  std::string CellOf(std::string_view digits) const;
 
   Voyage& voyage_;
   const CellFrames& frames_;

@@ -12,12 +12,6 @@ namespace {
 
 constexpr int kMsgWritten = 376, kMsgWriteStopped = 6456;
 
-/// Presses the cancel button some time later, in a flow of four.
-void PerhapsCancel(Voyage& voyage) {
-  if (!voyage.random.Chance(25)) return;
-  voyage.virt.pump.After(voyage.random.Below(2'500'000), [] { frmMain.cmdComCancel.Press(); });
-}
-
 void CheckReadData(Voyage& voyage) {
   for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
     qvr7sim::PositionRecord record;

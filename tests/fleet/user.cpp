@@ -2,8 +2,10 @@
 
 #include "forms/frm_compare.h"
 #include "forms/frm_device.h"
+#include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_print_select.h"
+#include "forms/frm_prog_no.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "state/text.h"
@@ -103,6 +105,15 @@ void AnswerCompare(Voyage& voyage) {
   if (f.Visible) f.cmdClose.Press();
 }
 
+/// One of the few programs that the user works with.
+void AnswerProgNo(Voyage& voyage) {
+  Random& random = voyage.random;
+  frmProgNo.flgdProgNo.SelectCell(random.OneOf({1, 1, 2, 8, 21}), 1);
+  if (random.Chance(85)) return frmProgNo.cmdOk.Press();
+  voyage.sent_at_refusal = voyage.virt.port.sent.size();
+  frmProgNo.cmdCancel.Press();
+}
+
 MsgAnswer AnswerBox(Voyage& voyage, const MessageBoxCall& call) {
   Random& random = voyage.random;
   if (call.Buttons == MsgButtons::Ok) {
@@ -126,6 +137,11 @@ MsgAnswer AnswerBox(Voyage& voyage, const MessageBoxCall& call) {
 
 std::string AnyPath(Random& random) {
   return std::string("/work/") + random.OneOf({"a", "b", "c"}) + ".qvd";
+}
+
+void PerhapsCancel(Voyage& voyage) {
+  if (!voyage.random.Chance(25)) return;
+  voyage.virt.pump.After(voyage.random.Below(2'500'000), [] { frmMain.cmdComCancel.Press(); });
 }
 
 void SeatUser(Voyage& voyage) {
@@ -160,6 +176,8 @@ void SeatUser(Voyage& voyage) {
       frmPrintSelect.cmdSelectPosiFile.Press();
       frmPrintSelect.cmdPrintSet.Press();
       frmPrintSelect.cmdCancel.Press();
+    } else if (&view == &frmProgNo) {
+      AnswerProgNo(voyage);
     } else if (&view == &frmCompare) {
       AnswerCompare(voyage);
     }

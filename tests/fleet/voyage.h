@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "prog/prog_store.h"
 #include "tests/fleet/random.h"
 #include "tests/support/state_test.h"
 
@@ -67,7 +68,9 @@ void SeatHastyHand(Voyage& voyage);
 /// Some seconds of that. At its end all flows have come to theirs.
 void WorkHastily(Voyage& voyage);
 
-inline constexpr const char* kParaPath = "/work/p.pmt";
+inline constexpr const char *kParaPath = "/work/p.pmt", *kProgPath = "/work/p.prg";
+/// Presses the cancel button some time later, in a flow of four.
+void PerhapsCancel(Voyage& voyage);
 /// One of the few position files that the user works with.
 std::string AnyPath(Random& random);
 
@@ -103,7 +106,13 @@ std::span<const Flow> TransferFlows();  ///< reading first
 std::span<const Flow> FileFlows();      ///< new data first
 std::span<const Flow> EditFlows();
 std::span<const Flow> MonitorFlows();
-std::span<const Flow> KindFlows();  ///< of parameters, groups, macros and tuning values
+std::span<const Flow> KindFlows();  ///< of parameters, groups, macros, tuning values, programs
+std::span<const Flow> ProgramFlows();
+
+/// The program views that are open; one of them in front, perhaps a new one, or null in position
+/// mode.
+std::vector<ProgView*> ProgramViews();
+ProgView* AnyProgram(Voyage& voyage);
 
 /// Closes the monitors that are open: nothing is sent any more, and no override is left on.
 void LeaveMonitors(Voyage& voyage);

@@ -71,6 +71,12 @@ qvr7sim::Setup AnyController(Random& random) {
   setup.paced = random.Chance(80);
   setup.processing_us = random.Chance(30) ? random.Below(3000) : 0;
   if (random.Chance(3)) setup.marker = "XYZ";
+  for (const int program : {1, 8}) {
+    for (int steps = random.Below(6); steps > 0; --steps) {
+      setup.programs[program] += random.OneOf({"0A0003E800000000000", "020003E83FF12C3E915",
+                                               "FF123456789ABCDEF01", "1B3FF12C20001C0000C"});
+    }
+  }
   return setup;
 }
 

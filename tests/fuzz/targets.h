@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "tests/fuzz/file_targets.h"
+#include "tests/fuzz/program_targets.h"
 #include "tests/fuzz/wire_target.h"
 
 namespace tr7 {
@@ -14,10 +15,9 @@ struct FuzzTarget {
 };
 
 inline constexpr FuzzTarget kFuzzTargets[] = {
-    {"code_page", FuzzCodePage},   {"common_list", FuzzCommonList},
-    {"data_files", FuzzDataFiles}, {"device_list", FuzzDeviceList},
-    {"error_list", FuzzErrorList}, {"para_file", FuzzParaFile},
-    {"posi_file", FuzzPosiFile},   {"seq_file", FuzzSeqFile},
-    {"std_list", FuzzStdList},     {"wire", FuzzWire}};
+    {"code_page", FuzzCodePage},     {"common_list", FuzzCommonList}, {"data_files", FuzzDataFiles},
+    {"device_list", FuzzDeviceList}, {"error_list", FuzzErrorList},   {"para_file", FuzzParaFile},
+    {"posi_file", FuzzPosiFile},     {"prog_file", FuzzProgFile},     {"prog_steps", FuzzSteps},
+    {"seq_file", FuzzSeqFile},       {"std_list", FuzzStdList},       {"wire", FuzzWire}};
 
 }  // namespace tr7

@@ -17,6 +17,7 @@
 #include "para/sys_para_commands.h"
 #include "posi/posi_table.h"
 #include "posi/posi_transfer.h"
+#include "prog/prog_commands.h"
 #include "state/online.h"
 #include "tests/fuzz/bytes_port.h"
 #include "tests/fuzz/fuzz_doors.h"
@@ -63,7 +64,14 @@ inline constexpr int (*kFuzzCommands[])() = {
     Transfer<WriteAxisSettingToCt>,
     Transfer<ReadGrpFromCt>,
     Transfer<ReadSmFromCt>,
-    Transfer<ReadSysParaFromCt>};
+    Transfer<ReadSysParaFromCt>,
+    [] {
+      std::vector<ProgStep> steps;
+      const Outcome read = ReadProgDataFromCt(5, steps);
+      FuzzCheck(read == Outcome::Done || steps.empty(), "a failed read brings no steps");
+      const bool fits = read == Outcome::Done && steps.size() <= kMostProgSteps;
+      return fits && WriteProgdataToCt(5, steps) == ProgWrite::Done ? 0 : 1;
+    }};
 
 /// What bulk reads fill: whole or not at all.
 struct ReadStages {

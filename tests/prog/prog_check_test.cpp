@@ -57,12 +57,12 @@ TEST_F(ProgCheck, EveryPassFindsWhatItLooksFor) {
       {{"SRET"}, "1:22 1:22 "},
       {{"NOP", "SR 1", "NOP"}, "3:22 "},
       {{"NOP", "SR 1", "SR 1", "SRET"}, "3:22 3:22 "},
-      {Repeat(20, "SR 1"), "1:1 2:22 2:22 "},
-      {Repeat(12, "VEL 0"), "1:4 2:4 3:4 4:4 5:4 6:4 7:4 8:4 9:4 10:4 11:4 "},
+      {Texts(20, "SR 1"), "1:1 2:22 2:22 "},
+      {Texts(12, "VEL 0"), "1:4 2:4 3:4 4:4 5:4 6:4 7:4 8:4 9:4 10:4 11:4 "},
   };
   ProgView& view = Program({"NOP"});
   for (const auto& row : rows) {
-    Put(view, Repeat(view.flgdProg.Rows(), "_ _ _ _ _"));
+    view.flgdProg.SetRows(1);
     Put(view, row.steps);
     EXPECT_EQ(Found(view), row.found) << row.steps[0] << " ...";
   }
@@ -82,6 +82,7 @@ TEST_F(ProgCheck, TheCommandTellsAndOpensThePane) {
   view.flgdProg.TypeInto(1, 2, " 400 ");
   view.cmdProgCheck.Press();
   EXPECT_EQ(Boxes(), Texts{Text(133)});
+  EXPECT_EQ(view.flgdPrgErr.Text(1, 2), "") << "the errors of before are no more";
   Put(view, {"VEL 1", "VEL R"});
   view.cmdProgCheck.Press();
   EXPECT_NE(Boxes().at(0).find("Step 2, Operation1"), std::string::npos);

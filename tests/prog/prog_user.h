@@ -52,8 +52,6 @@ class ProgUser : public FlowTest {
     return steps;
   }
 
-  static Texts Repeat(std::size_t count, const std::string& step) { return Texts(count, step); }
-
   /// The next list of programs is answered with this number; 0 cancels it.
   void ChooseProgram(int number) {
     InDialog("frmProgNo", {[number] {

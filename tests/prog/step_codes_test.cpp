@@ -2,14 +2,15 @@
 
 #include <random>
 #include <sstream>
+#include <string>
 
-#include "base/text_helpers.h"
 #include "prog/command_list.h"
 #include "prog/prog_hint.h"
 #include "prog/prog_step.h"
 #include "prog/step_decode.h"
 #include "prog/step_encode.h"
 #include "prog/vocabulary.h"
+#include "tests/fuzz/program_targets.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -20,73 +21,38 @@ class StepCodes : public StateTest {
   StepCodes() { EXPECT_EQ(ReadCommandLst(), 0); }
 };
 
-constexpr std::int32_t kUnread = -77;
-
-std::int32_t Encoded(const char* command, int column, const char* text) {
-  return seekInputData(SeekCmdCode(command), column, text).value_or(kUnread);
-}
-
-std::string Shown(const char* command, int column, std::int32_t code) {
+std::string Shown(const std::string& command, int column, std::int32_t code) {
   ProgStep step;
   step[kProgCommand] = SeekCmdCode(command);
   step[column] = code;
   return StepCellToText(step, column).Text();
 }
 
+// Command, column, text, its code, and a word of what the cell is marked with; "_" where there is
+// none.
 TEST_F(StepCodes, TypedTextsBecomeCodes) {
-  const struct {
-    const char* command;
-    int column;
-    const char* text;
-    std::int32_t code;
-    const char* marked = nullptr;  ///< a part of what the cell is marked with
-  } rows[] = {
-      {"MVP", 2, "999", 999000},
-      {"MVP", 3, "1000", 0, "counts for nothing here. It takes position 1 to 999, R1 to R100"},
-      {"MVP", 2, "R101", 4190608, "out of range"},
-      {"MVP", 2, "r1", 4190608},
-      {"MVP", 2, "1.5", 1500, "out of range"},
-      {"MVP", 3, "PR1", 0, "counts for nothing"},
-      {"MVP", 2, "SPRING", kUnread, "cannot be read"},
-      {"MVP", 2, "i1", kUnread, "cannot be read"},
-      {"PMOV", 3, "5", 0, "does not use"},
-      {"HOME", 2, "16", 0, "axis pattern 1 to 15"},
-      {"VEL", 2, "401", 0, "speed 1 to 400"},
-      {"ACC", 2, "2000", 200000},
-      {"ACC", 2, "9.99", 0, "counts for nothing"},
-      {"ACC", 2, "R1", 0, "counts for nothing"},
-      {"TIM", 2, "999.999", 999999},
-      {"TIM", 2, "1000", 1000, "counts as 1 seconds"},
-      {"LB", 2, "51", 51000, "out of range"},
-      {"JUMP", 2, "r50", 4190657},
-      {"CALL", 2, "99", 99000, "out of range"},
-      {"WTON", 2, "O17", 4190245, "out of range"},
-      {"WTON", 3, "1000", 1000000, "out of range"},
-      {"ON", 2, "I1", 0, "O1 to O16, F1 to F100, f1 to f50"},
-      {"OUT", 2, "256", 256000, "out of range"},
-      {"=", 3, "-5", 0, "counts for nothing"},
-      {"=", 3, "PR4", 4190712},
-      {"<=", 3, "0.0005", 1},
-      {"ZOUT", 3, "0.5", 500, "out of range"},
-      {"PUST1", 2, "0", 0},
-      {"PUST4", 2, "19", 19000, "0, 20 to 70"},
-      {"MVP", 4, "/f50", 1249},
-      {"MVP", 4, "I18", 18},
-      {"MVP", 4, "R1", 0, "counts for nothing"},
-      {"LB", 4, "I1", 0, "does not use"},
-      {"MVP", 5, "F100", 199},
-      {"MVP", 5, "I3", 3, "out of range"},
-      {"MVP", 5, "7", 0, "counts for nothing"},
-      {"VEL", 5, "O1", 0, "does not use"},
-      {"MVP", 2, "99999999999999999999", 0, "counts for nothing"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.command) + " " + row.text);
-    EXPECT_EQ(Encoded(row.command, row.column, row.text), row.code);
-    const std::string fault = CellFault(SeekCmdCode(row.command), row.column, row.text);
-    EXPECT_EQ(fault.empty(), !row.marked) << fault;
-    EXPECT_NE(fault.find(row.marked ? row.marked : ""), std::string::npos) << fault;
+  std::istringstream rows(
+      "MVP 2 999 999000 _  MVP 3 1000 0 nothing  MVP 2 R101 4190608 range  MVP 2 r1 4190608 _ "
+      "MVP 2 1.5 1500 range  MVP 3 PR1 0 nothing  MVP 2 SPRING _ read  MVP 2 i1 _ read "
+      "PMOV 3 5 0 use  HOME 2 16 0 pattern  VEL 2 401 0 nothing  ACC 2 2000 200000 _ "
+      "ACC 2 9.99 0 nothing  ACC 2 R1 0 nothing  TIM 2 999.999 999999 _  TIM 2 1000 1000 seconds "
+      "LB 2 51 51000 range  JUMP 2 r50 4190657 _  CALL 2 99 99000 range  WTON 2 O17 4190245 range "
+      "WTON 3 1000 1000000 range  ON 2 I1 0 nothing  OUT 2 256 256000 range  = 3 -5 0 nothing "
+      "= 3 PR4 4190712 _  <= 3 0.0005 1 _  ZOUT 3 0.5 500 range  PUST1 2 0 0 _ "
+      "PUST4 2 19 19000 range  MVP 4 /f50 1249 _  MVP 4 I18 18 _  MVP 4 R1 0 nothing  LB 4 I1 0 "
+      "use "
+      "MVP 5 F100 199 _  MVP 5 I3 3 range  MVP 5 7 0 nothing  VEL 5 O1 0 use "
+      "MVP 2 99999999999999999999 0 nothing");
+  std::string command, text, code, marked;
+  int column = 0, count = 0;
+  for (; rows >> command >> column >> text >> code >> marked; ++count) {
+    SCOPED_TRACE(command + " " + text);
+    const auto encoded = seekInputData(SeekCmdCode(command), column, text);
+    EXPECT_EQ(encoded ? std::to_string(*encoded) : "_", code);
+    const std::string fault = CellFault(SeekCmdCode(command), column, text);
+    EXPECT_TRUE(marked == "_" ? fault.empty() : fault.find(marked) != std::string::npos) << fault;
   }
+  EXPECT_EQ(count, 38);
 }
 
 TEST_F(StepCodes, CodesBecomeTexts) {
@@ -99,32 +65,27 @@ TEST_F(StepCodes, CodesBecomeTexts) {
   std::string command, text;
   int column = 0, code = 0, count = 0;
   for (; rows >> command >> column >> code >> text; ++count) {
-    EXPECT_EQ(Shown(command.c_str(), column, code), text == "_" ? "" : text) << command << code;
+    EXPECT_EQ(Shown(command, column, code), text == "_" ? "" : text) << command << code;
   }
   EXPECT_EQ(count, 26);
 }
 
-// Whatever a controller holds is shown, and what is not marked as doubtful reads back as it was.
+// Whatever a controller holds is shown, and what is shown as it is meant reads back as it was.
 TEST_F(StepCodes, AnyDigitsShowAndReadBack) {
   std::mt19937 random(1);
-  int read_back = 0;
-  for (int i = 0; i < 200'000; ++i) {
-    ProgStep step;
-    step[kProgCommand] = static_cast<int>(random() % 70);
-    const int column = 2 + static_cast<int>(random() % 4);
-    constexpr std::int32_t kBelow[] = {0x1000000, 1000'000, 100, 510};
-    const std::int32_t above = random() % 2 && column <= 3 ? kBandBase : 0;
-    step[column] = std::min<std::int32_t>(
-        above + static_cast<std::int32_t>(random() % kBelow[above ? 3 : random() % 4]), 0xFFFFFF);
-    const StepCell cell = StepCellToText(step, column);
-    const std::string text = cell.Text().empty() ? "0" : cell.Text();
-    if (cell.bare || cell.Text().empty() || !CellFault(step[kProgCommand], column, text).empty()) {
-      continue;
+  std::string steps;
+  for (int step = 0; step < 50'000; ++step) {
+    constexpr std::uint32_t kBelow[] = {0x1000000, 1000'000, 100, 510};
+    steps += static_cast<char>(random() % 70);
+    for (int operand = 0; operand < 2; ++operand) {
+      const auto which = random() % 4;
+      const auto code = random() % kBelow[which] + (which == 3 ? kBandBase : 0);
+      for (const int shift : {16, 8, 0}) steps += static_cast<char>(code >> shift);
     }
-    ++read_back;
-    EXPECT_EQ(seekInputData(step[kProgCommand], column, text), step[column]) << text;
+    const auto condition = random() % 1300;
+    for (const auto byte : {condition >> 8, condition, random()}) steps += static_cast<char>(byte);
   }
-  EXPECT_GT(read_back, 20'000);
+  FuzzSteps(steps);
 }
 
 TEST_F(StepCodes, HintsTellWhatACellTakes) {

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "forms/frm_compare.h"
 #include "forms/frm_main.h"
 #include "forms/frm_prog_no.h"
 #include "forms/frm_prog_syogokekka.h"
@@ -139,6 +140,14 @@ void Verify(User& user, ProgView& view) {
   user.SeeCell(frmProgSyogokekka.flgdProgSyogoKekka, 1, kProgOperand1, "X");
   user.Picture("program-differs");
   user.Click(frmProgSyogokekka.cmdClose);
+  user.SeeReady();
+  user.Click(view.cmdProgCompare);
+  user.Click(frmCompare.cmdCompare);
+  ChooseProgram(user);
+  user.SeeCell(frmCompare.flgdCompare, 1, 3, "MVP 1");
+  user.Click(frmCompare.chkEqualToo);
+  user.Picture("program-compare");
+  user.Click(frmCompare.cmdClose);
   user.SeeReady();
   user.Choose(frmMain.mnuEdit, frmMain.mnuEditUndo);
   user.SeeCell(view.flgdProg, 1, kProgOperand1, "1");
