@@ -80,8 +80,8 @@ TEST(Structure, ACircleIsFound) {
 // parameters; groups and macros name positions.
 const std::vector<std::string>& Line() {
   static const std::vector<std::string> line{
-      "base",    "forms", "platform", "state", "link",   "steps", "device", "session",
-      "compare", "para",  "posi",     "data",  "motion", "prog",  "core",   "ui"};
+      "base", "forms", "platform", "state",  "link", "steps",   "device", "session", "compare",
+      "para", "posi",  "data",     "motion", "prog", "monitor", "core",   "ui"};
   return line;
 }
 

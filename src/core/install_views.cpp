@@ -7,6 +7,7 @@
 #include "data/sm_view.h"
 #include "forms/frm_main.h"
 #include "link/tusin.h"
+#include "monitor/poll.h"
 #include "motion/motion_view.h"
 #include "para/change_device.h"
 #include "para/device_choice.h"
@@ -51,6 +52,7 @@ void InstallViews() {
   InstallSmView();
   InstallMotion();
   InstallProgViews();
+  InstallPolls();
 }
 
 }  // namespace tr7

@@ -11,6 +11,7 @@
 #include "link/error_list.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
+#include "monitor/poll.h"
 #include "motion/motion_view.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -31,6 +32,7 @@ void ResetState() {
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  PollLine = PollLineRecord{};
   WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};

@@ -99,6 +99,7 @@ struct FrmMain : View {
   Timer timerTerminate{100, false};
   Timer TimerTest{1000, false};
   Timer TimerClosedViews{1, true};  ///< ends the records of views that were closed
+  Timer TimerPolls{1, true};        ///< the monitor that comes next on the line
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
   /// The Escape key, wherever the focus is and whatever box stands. True: it has stopped something,

@@ -36,8 +36,10 @@ int CtComStart(int show_message) {
   std::string reply;
   TusinOptions options;
   options.show_message = show_message != 0;
-  if (TusinWait("0CM1", 6, 1000, reply, options) != TusinOutcome::Good) {
-    SetOffline();
+  const TusinOutcome outcome = TusinWait("0CM1", 6, 1000, reply, options);
+  if (outcome != TusinOutcome::Good) {
+    // What a stop has overtaken says nothing of the line.
+    if (outcome != TusinOutcome::Withdrawn) SetOffline();
     return 1;
   }
   SetOnline();

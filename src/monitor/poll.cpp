@@ -1,0 +1,111 @@
+#include "monitor/poll.h"
+
+#include <algorithm>
+
+#include "base/scope.h"
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
+#include "link/port.h"
+#include "motion/motion_now.h"
+#include "platform/doors.h"
+#include "state/app_state.h"
+
+namespace tr7 {
+
+PollLineRecord PollLine;
+
+namespace {
+
+constexpr int kUsPerMs = 1000;
+
+std::int64_t Now() { return doors.pump->NowUs(); }
+
+bool NextMayGo() { return !PollLine.waiting.empty() && !PollLine.on_line && !LineIsHeld(); }
+
+}  // namespace
+
+bool LineIsHeld() {
+  const bool moves =
+      MotionNow.Kind != Motion::None || MotionNow.Stopping || frmPosi.Teach.JogPending;
+  return moves || AppState.Offline || AppState.Closing || LineIsInUse();
+}
+
+bool Poll::IsOnLine() const { return PollLine.on_line == this; }
+
+void Poll::LeaveLine() { std::erase(PollLine.waiting, this); }
+
+void Poll::WaitInLine() {
+  const auto& waiting = PollLine.waiting;
+  if (std::find(waiting.begin(), waiting.end(), this) == waiting.end()) {
+    PollLine.waiting.push_back(this);
+  }
+}
+
+void Poll::Begin() {
+  on_ = true;
+  ++begun_;
+  pace_ms_ = 0;
+  started_us_ = 0;
+  known_us_ = Now();
+}
+
+void Poll::End() {
+  on_ = false;
+  LeaveLine();
+}
+
+bool Poll::GoesOn() const { return on_ && !AppState.Offline && !AppState.Closing; }
+
+void Poll::Soon() {
+  if (on_) WaitInLine();
+}
+
+PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
+  if (!on_ || IsOnLine()) return PollEnd::Skipped;
+  const bool another_first = !PollLine.waiting.empty() && PollLine.waiting.front() != this;
+  if (PollLine.on_line || (another_first && !LineIsHeld())) {
+    WaitInLine();
+    return PollEnd::Skipped;
+  }
+  if (LineIsHeld()) return PollEnd::Skipped;
+
+  LeaveLine();
+  PollLine.on_line = this;
+  const ScopeExit left([] { PollLine.on_line = nullptr; });
+  const std::int64_t start_us = Now();
+  if (started_us_ != 0) pace_ms_ = static_cast<int>((start_us - started_us_) / kUsPerMs);
+  started_us_ = start_us;
+  const int begun = begun_;
+  const TusinOutcome outcome = ask();
+  if (!on_ || begun != begun_) return PollEnd::Over;
+  switch (outcome) {
+    case TusinOutcome::Good:
+      known_us_ = Now();
+      return PollEnd::Done;
+    case TusinOutcome::Failed:
+      End();
+      return PollEnd::Failed;
+    default:
+      return PollEnd::CutShort;
+  }
+}
+
+void Poll::Come() {
+  ticks_->Start();
+  if (ticks_->Tick) ticks_->Tick();
+  if (!IsOnLine()) LeaveLine();  // a tick that did not ask does not hold up the others
+}
+
+std::int64_t Poll::AgeMs() const { return (Now() - known_us_) / kUsPerMs; }
+
+bool Poll::IsLate() const {
+  const int limit = ticks_->Interval + ticks_->Interval / 4;
+  return on_ && (pace_ms_ > limit || AgeMs() > limit);
+}
+
+void InstallPolls() {
+  frmMain.TimerPolls.HasWork = NextMayGo;
+  frmMain.TimerPolls.Tick = [] { PollLine.waiting.front()->Come(); };
+}
+
+}  // namespace tr7
