@@ -8,6 +8,7 @@
 #include "forms/frm_main.h"
 #include "link/tusin.h"
 #include "monitor/poll.h"
+#include "monitor/task_view.h"
 #include "motion/motion_view.h"
 #include "para/change_device.h"
 #include "para/device_choice.h"
@@ -53,6 +54,7 @@ void InstallViews() {
   InstallMotion();
   InstallProgViews();
   InstallPolls();
+  InstallTaskMonitor();
 }
 
 }  // namespace tr7

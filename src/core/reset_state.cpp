@@ -12,6 +12,7 @@
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
 #include "monitor/poll.h"
+#include "monitor/task_monitor.h"
 #include "motion/motion_view.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -33,6 +34,7 @@ void ResetState() {
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
   PollLine = PollLineRecord{};
+  TaskMonitor = TaskMonitorRecord{};
   WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};

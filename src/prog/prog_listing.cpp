@@ -23,21 +23,26 @@ int TellUnreadable(int step, int column, const std::string& fault) {
   return 1;
 }
 
+/// The numeric form of a step's cells; `bad` is the column that cannot be read, where there is one.
+ProgStep Encoded(const ProgCells& cells, std::optional<int>& bad) {
+  ProgStep step;
+  step[kProgCommand] = SeekCmdCode(cells[kProgCommand]);
+  if (step[kProgCommand] < 0) bad = kProgCommand;
+  for (int column = kProgOperand1; column <= kProgResult && !bad; ++column) {
+    const std::string& text = cells[column];
+    const auto value = seekInputData(step[kProgCommand], column, text.empty() ? "0" : text);
+    if (!value) bad = column;
+    step[column] = value.value_or(0);
+  }
+  return step;
+}
+
 /// 0; 1 at a cell that cannot be read.
 int TakeStep(const Grid& listing, int number, ProgStep& step) {
   const ProgCells cells = CellsOfStep(listing, number);
-  const int code = SeekCmdCode(cells[kProgCommand]);
-  if (code < 0) {
-    return TellUnreadable(number, kProgCommand, CellFault(-1, kProgCommand, cells[kProgCommand]));
-  }
-  step[kProgCommand] = code;
-  for (int column = kProgOperand1; column <= kProgResult; ++column) {
-    const std::string& text = cells[column];
-    const auto value = seekInputData(code, column, text.empty() ? "0" : text);
-    if (!value) return TellUnreadable(number, column, CellFault(code, column, text));
-    step[column] = *value;
-  }
-  return 0;
+  std::optional<int> bad;
+  step = Encoded(cells, bad);
+  return bad ? TellUnreadable(number, *bad, CellFault(step[kProgCommand], *bad, cells[*bad])) : 0;
 }
 
 void SizeRows(Grid& listing) {
@@ -59,6 +64,19 @@ void Show(ProgView& view, const Steps& steps, const Cells& cells_of) {
   FGProg_InitPos(view.flgdProg);
 }
 
+ProgCells KnownCells(ProgCells cells) {
+  if (SeekCmdCode(cells[kProgCommand]) < 0) cells[kProgCommand].clear();
+  return cells;
+}
+
+}  // namespace
+
+std::optional<ProgStep> StepOfListing(const Grid& listing, int step) {
+  std::optional<int> bad;
+  const ProgStep encoded = Encoded(CellsOfStep(listing, step), bad);
+  return bad ? std::nullopt : std::optional(encoded);
+}
+
 ProgCells CellsOfCode(const ProgStep& step) {
   ProgCells cells;
   cells[kProgCommand] = CmdName(step[kProgCommand]);
@@ -67,13 +85,6 @@ ProgCells CellsOfCode(const ProgStep& step) {
   }
   return cells;
 }
-
-ProgCells KnownCells(ProgCells cells) {
-  if (SeekCmdCode(cells[kProgCommand]) < 0) cells[kProgCommand].clear();
-  return cells;
-}
-
-}  // namespace
 
 ProgCells CellsOfStep(const Grid& listing, int step) {
   ProgCells cells;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "prog/prog_store.h"
@@ -13,6 +14,11 @@ ProgCells CellsOfStep(const Grid& listing, int step);
 void PutCells(Grid& listing, int step, const ProgCells& cells);
 /// The code of the command that stands at a step; -1 where it is none.
 int CodeOfStep(const Grid& listing, int step);
+
+/// The numeric form of a step of the listing; none where a cell cannot be read.
+std::optional<ProgStep> StepOfListing(const Grid& listing, int step);
+/// The cells that show a numeric step.
+ProgCells CellsOfCode(const ProgStep& step);
 
 void InitSize_FGProg(Grid& listing);
 void SetStr_FGProg(Grid& listing);

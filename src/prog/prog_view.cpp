@@ -34,6 +34,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgCaption = 7059, kMsgGoTo = 7062, kMsgListKey = 7063, kMsgGoToError = 7064;
+constexpr int kMsgAtWork = 7118, kMsgOtherAtWork = 7119;
 constexpr Colour kEditColour = 0xC0FFFF;
 
 void SwitchLineCommands(ProgView& view) {
@@ -124,6 +125,16 @@ bool IsDoubtful(const Grid& listing, int row, int column) {
   return !CellFault(CodeOfStep(listing, row), column, listing.Text(row, column)).empty();
 }
 
+/// Why a cell is marked; of the number, what the controller does there.
+std::string ToolTipOf(const Grid& listing, int row, int column) {
+  if (row < 1 || row >= listing.Rows()) return {};
+  if (column >= kProgCommand) {
+    return CellFault(CodeOfStep(listing, row), column, listing.Text(row, column));
+  }
+  if (row != listing.AtWork().Row) return {};
+  return Text(listing.AtWork().Differs ? MsgId(kMsgOtherAtWork) : MsgId(kMsgAtWork));
+}
+
 bool AskAndLeave(ProgView& view) {
   if (FlowKeepsViewsOpen()) return true;
   if (view.Store.ProgChanged &&
@@ -177,10 +188,7 @@ void WireListing(ProgView& view) {
   listing.IsUnused = [&listing](int row, int col) { return IsUnusedCell(listing, row, col); };
   listing.MarkOfRow = [&listing](int row) { return MarkOfRow(listing, row); };
   listing.IsMarked = [&listing](int row, int col) { return IsDoubtful(listing, row, col); };
-  listing.CellToolTip = [&listing](int row, int col) {
-    const bool cell = row >= 1 && row < listing.Rows() && col >= kProgCommand;
-    return cell ? CellFault(CodeOfStep(listing, row), col, listing.Text(row, col)) : "";
-  };
+  listing.CellToolTip = [&listing](int row, int col) { return ToolTipOf(listing, row, col); };
   listing.SelChange = [&view] { ProgSelectionMoved(view); };
   WireKeys(view);
   listing.Copy = view.Commands.Copy = [&view] { CopyFromListing(view); };

@@ -18,6 +18,8 @@ inline const QColor kHeaderSelected{0xc4, 0xd8, 0xea};
 inline const QColor kHeaderLine{0xc2, 0xcc, 0xd6};
 inline const QColor kGridLine{0xd9, 0xdf, 0xe5};
 inline const QColor kUnusedCell{0xe9, 0xeb, 0xed};
+inline const QColor kAtWork{0x1b, 0x6b, 0x3a};
+inline const QColor kAtWorkRow{0xd6, 0xf0, 0xdd};
 inline const QColor kMarkedCell{0xff, 0xc9, 0xc4};
 
 /// Style, palette and fonts of the whole program.
