@@ -9,6 +9,7 @@
 #include "link/tusin.h"
 #include "monitor/io_view.h"
 #include "monitor/poll.h"
+#include "monitor/task_view.h"
 #include "motion/motion_view.h"
 #include "para/change_device.h"
 #include "para/device_choice.h"
@@ -57,6 +58,7 @@ void InstallViews() {
   InstallProgViews();
   InstallPolls();
   InstallIoMonitor();
+  InstallTaskMonitor();
 }
 
 }  // namespace tr7

@@ -13,6 +13,7 @@
 #include "link/request_queue.h"
 #include "monitor/io_state.h"
 #include "monitor/poll.h"
+#include "monitor/task_monitor.h"
 #include "motion/motion_view.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -36,6 +37,7 @@ void ResetState() {
   TusinQueue = RequestQueue{};
   PollLine = PollLineRecord{};
   ResetIoMonitor();
+  TaskMonitor = TaskMonitorRecord{};
   WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};

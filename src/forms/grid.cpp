@@ -92,6 +92,18 @@ void Grid::Select(int row, int col, int row_end, int col_end) {
   if (SelChange) SelChange();
 }
 
+void Grid::SetAtWork(RowAtWork row) {
+  if (row == at_work_) return;
+  at_work_ = row;
+  Touch();
+}
+
+void Grid::BringIntoSight(int row) {
+  row_to_see_ = row;
+  ++sights_asked_;
+  Touch();
+}
+
 void Grid::SetColAlign(int col, ColAlign align) {
   col_aligns_.at(Index(col)) = align;
   Touch();

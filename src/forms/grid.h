@@ -31,6 +31,13 @@ enum class RowMark { None, Target, Jump };
 /// A signal lamp in a cell, left of its text.
 enum class CellLamp { None, Off, On };
 
+/// The row at which something is at work now; 0: none.
+struct RowAtWork {
+  int Row = 0;
+  bool Differs = false;  ///< what is at work there is something else than what the row says
+  bool operator==(const RowAtWork&) const = default;
+};
+
 /// A list of texts that pops up at the current cell of one column.
 struct CellList {
   ListBox* Box = nullptr;  ///< on show while `Visible`; its `Click` picks
@@ -70,6 +77,14 @@ struct Grid : Control {
 
   void SelectCell(int row, int col);
   void Select(int row, int col, int row_end, int col_end);
+
+  void SetAtWork(RowAtWork row);
+  const RowAtWork& AtWork() const { return at_work_; }
+  /// Brings the row into sight, the selection stays. What is in sight already does not move.
+  void BringIntoSight(int row);
+  /// The row that was to come into sight last, and how often one was; 0: none yet.
+  int RowToSee() const { return row_to_see_; }
+  int SightsAsked() const { return sights_asked_; }
 
   /// Marks the grid as changed where a change is not one of the texts above (cell marks).
   void Touch() { ++Revision; }
@@ -134,6 +149,9 @@ struct Grid : Control {
   std::vector<Colour> col_colours_;
   std::vector<ColAlign> col_aligns_;
   std::vector<int> row_heights_;  ///< of the rows that have one
+  RowAtWork at_work_;
+  int row_to_see_ = 0;
+  int sights_asked_ = 0;
 };
 
 }  // namespace tr7

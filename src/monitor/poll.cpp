@@ -1,6 +1,7 @@
 #include "monitor/poll.h"
 
 #include <algorithm>
+#include <string>
 
 #include "base/scope.h"
 #include "forms/frm_main.h"
@@ -8,7 +9,9 @@
 #include "link/port.h"
 #include "motion/motion_now.h"
 #include "platform/doors.h"
+#include "session/open_port.h"
 #include "state/app_state.h"
+#include "state/views.h"
 
 namespace tr7 {
 
@@ -20,6 +23,22 @@ constexpr int kUsPerMs = 1000;
 
 std::int64_t Now() { return doors.pump->NowUs(); }
 
+/// A good reply empties the status panel. A poll that nobody has asked for leaves what stands
+/// there.
+class PanelKept {
+ public:
+  PanelKept() : told_(AppState.AlarmOn ? std::string() : Panel()) {}
+  ~PanelKept() {
+    if (Panel().empty() && !AppState.AlarmOn) Panel() = told_;
+  }
+  PanelKept(const PanelKept&) = delete;
+  PanelKept& operator=(const PanelKept&) = delete;
+
+ private:
+  static std::string& Panel() { return frmMain.sbStatusBar.Panels[kPanelError]; }
+  std::string told_;
+};
+
 bool NextMayGo() { return !PollLine.waiting.empty() && !PollLine.on_line && !LineIsHeld(); }
 
 }  // namespace
@@ -28,6 +47,12 @@ bool LineIsHeld() {
   const bool moves =
       MotionNow.Kind != Motion::None || MotionNow.Stopping || frmPosi.Teach.JogPending;
   return moves || AppState.Offline || AppState.Closing || LineIsInUse();
+}
+
+void SettleLostSession() {
+  if (!AppState.Offline || AppState.CommandsOffDepth > 0) return;
+  EndSession();
+  AllViewsCmdYuko();
 }
 
 bool Poll::IsOnLine() const { return PollLine.on_line == this; }
@@ -60,6 +85,15 @@ void Poll::Soon() {
   if (on_) WaitInLine();
 }
 
+namespace {
+
+TusinOutcome AskQuietly(const std::function<TusinOutcome()>& ask) {
+  const PanelKept panel_kept;
+  return ask();
+}
+
+}  // namespace
+
 PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
   if (!on_ || IsOnLine()) return PollEnd::Skipped;
   const bool another_first = !PollLine.waiting.empty() && PollLine.waiting.front() != this;
@@ -67,7 +101,10 @@ PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
     WaitInLine();
     return PollEnd::Skipped;
   }
-  if (LineIsHeld()) return PollEnd::Skipped;
+  if (LineIsHeld()) {
+    started_us_ = pace_ms_ = 0;  // what a flow takes says nothing of the pace
+    return PollEnd::Skipped;
+  }
 
   LeaveLine();
   PollLine.on_line = this;
@@ -76,7 +113,7 @@ PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
   if (started_us_ != 0) pace_ms_ = static_cast<int>((start_us - started_us_) / kUsPerMs);
   started_us_ = start_us;
   const int begun = begun_;
-  const TusinOutcome outcome = ask();
+  const TusinOutcome outcome = AskQuietly(ask);
   if (!on_ || begun != begun_) return PollEnd::Over;
   switch (outcome) {
     case TusinOutcome::Good:
@@ -84,6 +121,7 @@ PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
       return PollEnd::Done;
     case TusinOutcome::Failed:
       End();
+      SettleLostSession();
       return PollEnd::Failed;
     default:
       return PollEnd::CutShort;

@@ -28,7 +28,8 @@ enum class PollEnd {
 /// the
 ///   order in which they have asked. So monitors that are open at once share the line evenly.
 /// - A tick inside of the poll's own wait is nothing.
-/// - A poll that fails has ended.
+/// - What stands in the status panel outlives a poll.
+/// - A poll that fails has ended, and where the line is offline since then the session has.
 ///
 /// The timer is the monitor's. Its tick calls `Run`, and is also called when the poll comes next;
 /// its interval counts anew from then.
@@ -53,7 +54,8 @@ class Poll {
   /// It comes next: its timer ticks now.
   void Come();
 
-  /// Milliseconds between the last two polls, from start to start; 0: there were no two yet.
+  /// Milliseconds between the last two polls, from start to start; 0: there were no two yet, or a
+  /// flow has come between them.
   int PaceMs() const { return pace_ms_; }
   /// Milliseconds since all was known last; since the monitor began where it was not yet.
   std::int64_t AgeMs() const;
@@ -79,6 +81,9 @@ struct PollLineRecord {
   std::vector<Poll*> waiting;
 };
 extern PollLineRecord PollLine;
+
+/// After a failure outside of any flow: where the line is offline now, menus and tabs say so.
+void SettleLostSession();
 
 /// Something else than a poll has the line, or the line must not be used.
 bool LineIsHeld();

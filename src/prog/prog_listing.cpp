@@ -53,6 +53,12 @@ ProgCells KnownCells(ProgCells cells) {
 
 }  // namespace
 
+std::optional<ProgStep> StepOfListing(const Grid& listing, int step) {
+  ProgStep encoded;
+  return EncodeCells(CellsOfStep(listing, step), encoded) == 0 ? std::optional(encoded)
+                                                               : std::nullopt;
+}
+
 ProgCells CellsOfStep(const Grid& listing, int step) {
   ProgCells cells;
   for (int column = kProgCommand; column <= kProgComment; ++column) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,9 @@ std::vector<ProgCells> CellsOfListing(const Grid& listing);
 void PutListing(Grid& listing, const std::vector<ProgCells>& steps);
 /// The code of the command that stands at a step; -1 where it is none.
 int CodeOfStep(const Grid& listing, int step);
+
+/// The numeric form of a step of the listing; none where a cell cannot be read.
+std::optional<ProgStep> StepOfListing(const Grid& listing, int step);
 
 void InitSize_FGProg(Grid& listing);
 void SetStr_FGProg(Grid& listing);

@@ -14,17 +14,8 @@ void ShowSelected() { frmProgNo.lblProgNo.Caption = std::to_string(frmProgNo.flg
 
 void Load() {
   Grid& list = frmProgNo.flgdProgNo;
-  list.SetText(0, 0, Text(711));
-  list.SetColWidth(0, 400);
-  list.SetColWidth(1, 1200);
-  list.SetColAlign(1, ColAlign::Centre);
-  list.FitsView = true;
-  list.SetRowHeight(0, 300);
-  for (int program = 1; program <= kPrograms; ++program) {
-    list.SetRowHeight(program, 250);
-    list.SetText(program, 0, std::to_string(program));
-  }
-  DispStepNo();
+  ListPrograms(list);
+  DispStepNo(list);
   frmProgNo.ProgSelCancel = True;  // until OK: the window may close by itself
   list.SelectCell(frmProgNo.ProgSelNo, 1);
   list.TopRow = frmProgNo.ProgSelNo;
@@ -41,8 +32,20 @@ void Accept() {
 
 }  // namespace
 
-void DispStepNo() {
-  Grid& list = frmProgNo.flgdProgNo;
+void ListPrograms(Grid& list) {
+  list.SetText(0, 0, Text(711));
+  list.SetColWidth(0, 400);
+  list.SetColWidth(1, 1200);
+  list.SetColAlign(1, ColAlign::Centre);
+  list.FitsView = true;
+  list.SetRowHeight(0, 300);
+  for (int program = 1; program <= kPrograms; ++program) {
+    list.SetRowHeight(program, 250);
+    list.SetText(program, 0, std::to_string(program));
+  }
+}
+
+void DispStepNo(Grid& list) {
   const bool known = !AppState.Offline && AppState.ProgStepsRead;
   list.SetText(0, 1, Text(known ? MsgId(712) : MsgId(715)));
   for (int program = 1; program <= kPrograms; ++program) {

@@ -38,6 +38,7 @@ std::function<void(ProgView& view)> PrintProgram;
 namespace {
 
 constexpr int kMsgCaption = 7059, kMsgGoToError = 7064;
+constexpr int kMsgAtWork = 7118, kMsgOtherAtWork = 7119;
 constexpr Colour kEditColour = 0xC0FFFF;
 
 void SwitchLineCommands(ProgView& view) {
@@ -85,6 +86,14 @@ void CopyFromListing(ProgView& view) {
 
 void PasteToListing(ProgView& view) {
   IsWholeLine(view.flgdProg) ? ProgDataLinePaste(view) : ProgCellsPaste(view);
+}
+
+/// Why a cell is marked; of the number, what the controller does there.
+std::string ToolTipOf(const Grid& listing, int row, int column) {
+  if (row < 1 || row >= listing.Rows()) return {};
+  if (column >= kProgCommand) return FaultOfCell(listing, row, column);
+  if (row != listing.AtWork().Row) return {};
+  return Text(listing.AtWork().Differs ? MsgId(kMsgOtherAtWork) : MsgId(kMsgAtWork));
 }
 
 bool AskAndLeave(ProgView& view) {
@@ -142,7 +151,7 @@ void WireListing(ProgView& view) {
   listing.IsMarked = [&listing](int row, int col) {
     return !FaultOfCell(listing, row, col).empty();
   };
-  listing.CellToolTip = [&listing](int row, int col) { return FaultOfCell(listing, row, col); };
+  listing.CellToolTip = [&listing](int row, int col) { return ToolTipOf(listing, row, col); };
   listing.SelChange = [&view] { ProgSelectionMoved(view); };
   WireKeys(view);
   listing.Copy = view.Commands.Copy = [&view] { CopyFromListing(view); };

@@ -99,6 +99,35 @@ void GridRowHeader::PaintMark(QPainter& painter, const QRect& rect, RowMark mark
   painter.restore();
 }
 
+/// The row at work: its number white on dark between two arrow heads. Where it differs from what
+/// the row says, dark on light in a broken frame.
+void GridRowHeader::PaintAtWork(QPainter& painter, const QRect& rect, const QString& number,
+                                bool differs) const {
+  constexpr double kHalf = 4;
+  const QRect field = rect.adjusted(1, 1, -2, -2);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillRect(field, differs ? look::kHeader : look::kAtWork);
+  const QColor ink = differs ? look::kAtWork : look::kBase;
+  if (differs) {
+    painter.setPen(QPen(ink, 2, Qt::DashLine));
+    painter.drawRect(field);
+  }
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ink);
+  for (int i = 0; i < 2; ++i) {
+    const QPointF at(rect.left() + 3 + kHalf + i * (kHalf + 1), rect.center().y() + 0.5);
+    painter.drawPolygon(QPolygonF(
+        {at + QPointF(-kHalf, -kHalf), at + QPointF(kHalf, 0), at + QPointF(-kHalf, kHalf)}));
+  }
+  QFont bold = painter.font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  painter.setPen(ink);
+  painter.drawText(rect, Qt::AlignCenter, number);
+  painter.restore();
+}
+
 void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
   if (!grid_ || !rect.isValid() || grid_->FixedCols == 0) return;
   const int row = section + grid_->FixedRows;
@@ -109,9 +138,13 @@ void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int secti
   painter->setPen(look::kHeaderLine);
   painter->drawLine(rect.bottomLeft(), rect.bottomRight());
   painter->drawLine(rect.topRight(), rect.bottomRight());
+  const QString number = Q(grid_->Text(row, grid_->FixedCols - 1));
+  if (row == grid_->AtWork().Row) {
+    return PaintAtWork(*painter, rect, number, grid_->AtWork().Differs);
+  }
   if (grid_->MarkOfRow) PaintMark(*painter, rect, grid_->MarkOfRow(row));
   painter->setPen(isEnabled() ? look::kText : look::kFaintText);
-  painter->drawText(rect, Qt::AlignCenter, Q(grid_->Text(row, grid_->FixedCols - 1)));
+  painter->drawText(rect, Qt::AlignCenter, number);
 }
 
 }  // namespace tr7

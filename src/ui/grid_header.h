@@ -49,6 +49,7 @@ class GridRowHeader : public QHeaderView {
 
  private:
   void PaintMark(QPainter& painter, const QRect& rect, RowMark mark) const;
+  void PaintAtWork(QPainter& painter, const QRect& rect, const QString& number, bool differs) const;
 
   const Grid* grid_ = nullptr;
 };

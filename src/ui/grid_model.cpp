@@ -22,6 +22,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  const bool tip = role == Qt::ToolTipRole && orientation == Qt::Vertical && grid_.CellToolTip;
+  if (tip) return Q(grid_.CellToolTip(section + grid_.FixedRows, grid_.FixedCols - 1));
   if (role != Qt::DisplayRole) return {};
   const bool across = orientation == Qt::Horizontal;
   const int row = across ? grid_.FixedRows - 1 : section + grid_.FixedRows;

@@ -194,6 +194,15 @@ void GridTable::PushScroll() {
   scrolling_ = false;
 }
 
+void GridTable::PushSight() {
+  if (grid_->SightsAsked() == shown_sights_) return;
+  shown_sights_ = grid_->SightsAsked();
+  const int row = grid_->RowToSee();
+  if (InBody(row, grid_->FixedCols)) {
+    scrollTo(model_->index(row - grid_->FixedRows, std::max(header_->logicalIndexAt(0), 0)));
+  }
+}
+
 void GridTable::Push() {
   if (!grid_ || !grid_->Redraw) return;
   if (editor_ && (!grid_->Enabled || edit_row_ >= grid_->Rows())) CloseEditor();
@@ -210,6 +219,7 @@ void GridTable::Push() {
     CloseList();
     ShowCurrent();
   }
+  PushSight();
   PlaceEditor();
   viewport()->update();
   header_->viewport()->update();

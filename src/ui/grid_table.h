@@ -100,6 +100,7 @@ class GridTable : public QTableView {
   int TitleWidth(int col) const;
   int TextWidth(int col) const;
   void PushScroll();
+  void PushSight();
   int BodyRow(int section) const { return section + grid_->FixedRows; }
   QModelIndex IndexOf(int row, int col) const;
   bool InBody(int row, int col) const;
@@ -123,6 +124,7 @@ class GridTable : public QTableView {
   std::optional<std::pair<int, int>> shown_current_;
   std::vector<int> shown_widths_;
   int shown_top_row_ = -1;
+  int shown_sights_ = 0;
   bool scrolling_ = false;
 };
 

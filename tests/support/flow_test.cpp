@@ -2,10 +2,19 @@
 
 #include <utility>
 
+#include "base/text_helpers.h"
 #include "forms/frm_device.h"
 #include "posi/posi_grid_layout.h"
 
 namespace tr7 {
+
+void HoldProgram(VirtualDoors& virt, int program, const std::string& steps) {
+  const std::string frame = "0WM" + HexPad(program, 2) + steps + "\r\n";
+  virt.port.Ct().Receive(frame, virt.pump.NowUs());
+  virt.pump.RunFor(2000 * static_cast<std::int64_t>(frame.size()));
+  static_cast<void>(virt.port.Axes());  // it has come to where it hears of it
+  virt.port.Ct().DropLine();
+}
 
 void AnswerSelection(SelectionView& view, int choice) {
   if (choice < 0) {

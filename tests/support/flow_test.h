@@ -64,6 +64,8 @@ class FlowTest : public StateTest {
   std::vector<std::string> asked;  ///< prompts of the choice boxes that came
 };
 
+/// The controller holds a program of these steps, as they lie on the line. The port is shut.
+void HoldProgram(VirtualDoors& virt, int program, const std::string& steps);
 /// Answers a choice box as a user does.
 void AnswerSelection(SelectionView& view, int choice);
 /// Accepts the devices that a device dialogue shows.
