@@ -33,6 +33,7 @@ PosiTeaching::PosiTeaching(View& owner)
       cmdJOGST(owner, "cmdJOGST", 5214),
       cmdJOGend(owner, "cmdJOGend", 5215),
       Frame1(owner, "Frame1", 5244),
+      lblJogAxis(owner, "lblJogAxis"),
       cmdJOG{JogButton(owner, 0), JogButton(owner, 1), JogButton(owner, 2), JogButton(owner, 3),
              JogButton(owner, 4), JogButton(owner, 5), JogButton(owner, 6), JogButton(owner, 7)},
       optJOG(owner, "optJOG", kJogGroup, 5252),

@@ -39,6 +39,7 @@ struct PosiTeaching {
   CommandButton cmdJOGend;
 
   Frame Frame1;
+  PerAxis<Label> lblJogAxis;
   std::array<HoldButton, 8> cmdJOG;  ///< two an axis; even: towards home, odd: away from it
   OptionButton optJOG;
   OptionButton optInching1;

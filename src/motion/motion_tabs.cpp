@@ -75,6 +75,10 @@ bool AxisIsServed() { return MotionNow.Kind != Motion::None || frmPosi.Teach.Jog
 
 void ShowJogButtons(bool session) {
   PosiTeaching& f = frmPosi.Teach;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    f.lblJogAxis[axis].Caption = Text(MsgId::At(kAxis1, axis));
+    f.lblJogAxis[axis].Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
+  }
   for (OptionButton* mode : {&f.optJOG, &f.optInching1, &f.optInching10, &f.optInching100}) {
     mode->Enabled = !AxisIsServed();
   }
