@@ -166,9 +166,7 @@ void MoveOn(Desk& desk) {
 void Poll(Desk& desk) {
   for (int row = 0; row < kMostWatched; ++row) {
     for (const char* list : {"Flag", "Vari", "Pvar"}) {
-      const bool local = list[0] == 'P';
-      PutSetting(list + std::to_string(row),
-                 (local ? "1," : "0,") + std::to_string(local ? 1 : row + 1));
+      PutSetting(list + std::to_string(row), list[0] == 'P' ? "1,1" : "0,1");
     }
   }
   frmMain.mnuMonitorHensu.Press();

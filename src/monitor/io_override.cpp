@@ -6,8 +6,10 @@
 #include "monitor/io_show.h"
 #include "monitor/io_state.h"
 #include "motion/motion_now.h"
+#include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
+#include "state/views.h"
 
 namespace tr7 {
 namespace {
@@ -33,6 +35,12 @@ bool FlowHasLine() {
   return AppState.ComBusy || AppState.CommandsOffDepth > 0 || MotionNow.Kind != Motion::None;
 }
 
+void EndLostSession() {
+  if (!AppState.Offline) return;
+  EndSession();
+  if (AppState.CommandsOffDepth == 0) AllViewsCmdYuko();
+}
+
 TusinOutcome SendOverride() {
   if (!IsDue()) return TusinOutcome::Good;
   const bool on = frmIOCheckFG.chkIgnore.Value;
@@ -53,9 +61,11 @@ void TakeBackOverride() {
   frmIOCheckFG.chkIgnore.Value = false;
   IoMonitor.IgnorePending = IoMonitor.OverrideOn = False;
   ShowOverride();
+  const bool was_offline = AppState.Offline;
   // The end of a teaching session gives all axes back.
   if (AppState.TeachingNow || SendRelease()) return TellDone(kTakenBack);
   AppState.AxesMayBeHeld = True;
+  if (!was_offline) EndLostSession();
   Tell(kMayStand);
 }
 

@@ -14,6 +14,9 @@ bool FlowHasLine();
 /// and where another flow has set another one. A teaching session's own mode stays.
 TusinOutcome SendOverride();
 
+/// A request of the monitor has ended the session: menus and lamps follow.
+void EndLostSession();
+
 /// Whoever leaves takes it back, and the user is told. Where the line does not serve for that, the
 /// next connection does it.
 void TakeBackOverride();

@@ -15,7 +15,6 @@
 #include "monitor/watch_show.h"
 #include "motion/motion_now.h"
 #include "platform/doors.h"
-#include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/axes_in_use.h"
 #include "state/views.h"
@@ -102,12 +101,10 @@ TusinOutcome AskIo() {
   return outcome;
 }
 
-/// The link has told the user; where the session is over with it, the frame says so too.
+/// The link has told the user.
 void PollFailed() {
   FreezeIoMonitor();
-  if (!AppState.Offline) return;
-  EndSession();
-  if (AppState.CommandsOffDepth == 0) AllViewsCmdYuko();
+  EndLostSession();
 }
 
 /// The end of a tick. A close waits until nothing else has the line: what was taken is given back.

@@ -12,14 +12,14 @@
 namespace tr7::tour {
 namespace {
 
-constexpr int kAlmRow = 0, kOut7Row = 9, kOverrideMsg = 7312, kTakenBack = 7313;
+constexpr int kRdyRow = 1, kOut7Row = 9, kOverrideMsg = 7312, kTakenBack = 7313;
 
 void StartWatching(User& user, const char* picture) {
   user.Choose(frmMain.mnuMonitor, frmMain.mnuMonitorIO);
   user.SeeOn(frmIOCheckFG.cmdIoMonitor);
   user.Click(frmIOCheckFG.cmdIoMonitor);
   user.SeeText(frmIOCheckFG.cmdIoMonitor, Text(704));
-  user.SeeCell(frmIOCheckFG.Io.flgdOutput, kAlmRow + 1, kPointState, "O");
+  user.SeeCell(frmIOCheckFG.Io.flgdOutput, kRdyRow, kPointState, "O");
   user.Picture(picture);
 }
 
@@ -60,8 +60,6 @@ void FillLists(User& user) {
   AddItem(user, f.Flags, "1", "1");
   AddItem(user, f.Variables, "", "1");
   AddItem(user, f.Variables, "", "2");
-  AddItem(user, f.PosVariables, "1", "5");
-  user.AnswerBox(Text(1037), MsgAnswer::Ok, "list-refused");
   AddItem(user, f.PosVariables, "1", "2");
   user.Picture("lists-edited");
   user.Click(f.chkEditItem);
@@ -95,9 +93,6 @@ void ShowThePlot(User& user, std::initializer_list<int> rows) {
 
 void SaveThePlot(User& user) {
   const QString path = QFileInfo(user.file).path() + "/" + QFileInfo(user.file).completeBaseName();
-  user.Click(frmIOCheckFG.Chart.cmdPlotCsv);
-  user.ChooseFile(path + ".csv");
-  user.AnswerBox(Text(7360), MsgAnswer::Ok);
   user.Click(frmIOCheckFG.Chart.cmdPlotPicture);
   user.ChooseFile(path + ".plot.png");
   user.AnswerBox(Text(7360), MsgAnswer::Ok, "plot-saved");
