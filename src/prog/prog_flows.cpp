@@ -31,7 +31,7 @@ namespace {
 
 constexpr int kMsgHalfWritten = 7058, kMsgCaption = 7059, kMsgTooMany = 7057, kMsgSaved = 6508;
 constexpr int kMsgNotSaved = 422;
-constexpr int kPauseMs = 100;
+constexpr int kPauseMs = 20;
 constexpr DataFile kFileToSave{437, "prg", 438};
 
 /// The 100 step counts, unless they are known.
