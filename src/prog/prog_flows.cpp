@@ -31,16 +31,8 @@ namespace {
 
 constexpr int kMsgHalfWritten = 7058, kMsgCaption = 7059, kMsgTooMany = 7057, kMsgSaved = 6508;
 constexpr int kMsgNotSaved = 422;
-constexpr int kPauseMs = 100;
+constexpr int kPauseMs = 20;
 constexpr DataFile kFileToSave{FileKind::Program, 437, "prg", 438};
-
-/// The 100 step counts, unless they are known.
-bool KnowProgStepCounts() {
-  if (AppState.ProgStepsRead) return true;
-  if (ReadAllProgStepCountFromCt() != Outcome::Done) return false;
-  TusinWaitMs(kPauseMs);
-  return true;
-}
 
 bool FitsNumber(const ProgView& view, int program) {
   switch (Check_ProgramStepSu(view.Store, program)) {
@@ -120,6 +112,13 @@ void TellTooManySteps(const ProgView& view) {
 }
 
 }  // namespace
+
+bool KnowProgStepCounts() {
+  if (AppState.ProgStepsRead) return true;
+  if (ReadAllProgStepCountFromCt() != Outcome::Done) return false;
+  TusinWaitMs(kPauseMs);
+  return true;
+}
 
 std::optional<int> AskProgNoOfCt() {
   if (!ConnectOrOpenPort() || !KnowProgStepCounts()) return std::nullopt;

@@ -32,4 +32,7 @@ inline constexpr DataFile kProgDataFile{FileKind::Program, 131, "prg", 438};  //
 /// of them fails.
 [[nodiscard]] std::optional<int> AskProgNoOfCt();
 
+/// The 100 step counts, unless they are known.
+[[nodiscard]] bool KnowProgStepCounts();
+
 }  // namespace tr7

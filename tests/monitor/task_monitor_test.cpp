@@ -10,7 +10,7 @@ namespace {
 class TaskMonitorTest : public ProgUser {
  protected:
   TaskMonitorTest() {
-    HoldProgram(3,
+    HoldProgram(virt, 3,
                 "0B0003E800000000000"
                 "0A00138800000000000"
                 "0C0003E800000000000");
