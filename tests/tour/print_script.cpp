@@ -1,5 +1,6 @@
 #include "tests/tour/print_script.h"
 
+#include <QDialog>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -9,6 +10,7 @@
 #include "forms/frm_posi.h"
 #include "forms/frm_print_select.h"
 #include "forms/frm_sq_mcr.h"
+#include "posi/posi_table.h"
 #include "prog/prog_store.h"
 #include "state/text.h"
 #include "state/views.h"
