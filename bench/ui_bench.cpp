@@ -21,6 +21,7 @@
 #include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "monitor/task_monitor.h"
 #include "platform/doors.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_table.h"
@@ -58,6 +59,7 @@ class Bench {
   Bench(const Options& options, const QString& settings_file)
       : paced_(options.sim, {"--homed"}),
         quick_(options.sim, {"--no-pace"}),
+        tasks_(options.sim, {"--mode", "prg", "--tasks", "2"}),
         desktop_({settings_file, false}),
         file_(QFileInfo(settings_file).absolutePath() + "/full.qvd") {
     doors.serial = &port_;
@@ -86,7 +88,8 @@ class Bench {
     frmMain.mnuSettingOnline.Press();
     if (AppState.Offline) return Failed("going online");
     Report("idle_online_cpu_percent", IdlePercent(), 2);
-    return Jog() || ReadPaced() || ReadFull() || OpenFull() || CompareFull() ? 1 : 0;
+    return Jog() || ReadPaced() || ReadFull() || OpenFull() || CompareFull() || WatchTasks() ? 1
+                                                                                             : 0;
   }
 
  private:
@@ -259,7 +262,19 @@ class Bench {
     return 0;
   }
 
-  SimProcess paced_, quick_;
+  /// Two programs run, and the view that shows them is open.
+  int WatchTasks() {
+    frmMain.mnuSettingOffline.Press();
+    doors.settings->Set("Settings", "PortDevice1", tasks_.Path());
+    frmMain.mnuSettingOnline.Press();
+    frmMain.mnuContProgTask.Press();
+    WaitMs(5000);
+    if (TaskMonitor.Seen.TaskCount != 2) return Failed("the task monitor");
+    Report("task_monitor_cpu_percent", IdlePercent(), 2);
+    return 0;
+  }
+
+  SimProcess paced_, quick_, tasks_;
   Desktop desktop_;
   CountingPort port_{desktop_.serial};
   ScreenUser user_{desktop_.forms};

@@ -16,6 +16,7 @@
 #include "forms/frm_parameta2.h"
 #include "link/port.h"
 #include "link/status_commands.h"
+#include "monitor/task_monitor.h"
 #include "motion/motion_tabs.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -181,6 +182,20 @@ class Trial : public FlowTest {
     frmPosi.Teach.cmdJOGWrite.Press();
     frmPosi.Teach.cmdJOGend.Press();
   }
+  void InProgramsOfCt() {
+    HoldProgram(virt, 1, "103FF00100000000000");
+    AppState.CtMode = AppState.ProgStepsRead = True;
+    DispControlerMode();
+    ChangeMenuDisp(True);
+    AllViewsLayoutChanged();
+  }
+  void WatchTasks() {
+    frmMain.mnuContProgTask.Press();
+    frmProgTask.flgdProgTask.SelectCell(1, 1);
+    frmProgTask.cmdStartTask.Press();
+    pump.RunFor(6'000'000);
+    CloseView(frmProgTask, CloseReason::Code);
+  }
   template <auto kTransfer>
   void Transfer() {
     const CommandsOff commands_off;
@@ -249,6 +264,7 @@ Fields ShownPositions() {
   return fields;
 }
 
+Fields TasksKnown() { return {std::to_string(TaskMonitor.Seen.TaskProgNo[0])}; }
 Fields HomeState() { return {AppState.HomeDone ? "home" : ""}; }
 Fields ReachedLast() { return {frmPosi.Readout.lblkanryoNo.Caption == "3" ? "reached" : ""}; }
 
@@ -290,6 +306,7 @@ constexpr SweptFlow kFlows[] = {
     {"continuous move", &Trial::HomedOnMoveTab, &Trial::MoveByRange, ReachedLast, false},
     {"group move", &Trial::HomedOnMoveTab, &Trial::MoveGroup, ReachedLast, false},
     {"teach", &Trial::TeachingTab, &Trial::Teach, ShownPositions, false},
+    {"watch tasks", &Trial::InProgramsOfCt, &Trial::WatchTasks, TasksKnown, false},
     {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
     {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},

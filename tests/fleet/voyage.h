@@ -103,9 +103,13 @@ std::span<const Flow> TransferFlows();  ///< reading first
 std::span<const Flow> FileFlows();      ///< new data first
 std::span<const Flow> EditFlows();
 std::span<const Flow> KindFlows();  ///< of parameters, groups, macros and tuning values
+std::span<const Flow> WatchFlows();
 
 /// The start of the tool, with its choice between online and offline.
 void StartTool(Voyage& voyage);
+
+/// Closes what watches the controller; then nothing of it may go on.
+void CloseMonitors(Voyage& voyage);
 
 /// What holds between any two flows: commands on, the line shut unless kept, lamp, menus and tabs
 /// true, nothing sent while idle or after a refusal, no axis in motion.

@@ -286,6 +286,10 @@ const std::vector<Script>& Scripts() {
       {"motion", {}, MoveAndTeach},
       {"program", {"--mode", "prg", "--tasks", "1"}, BeRefusedByAProgram},
       {"prog", {"--mode", "prg"}, EditProgram},
+      {"tasks",
+       {"--mode", "prg", "--homed", "--program", "1:" TR7_SOURCE_DIR "/samples/handshake_a.prg",
+        "--program", "2:" TR7_SOURCE_DIR "/samples/handshake_b.prg"},
+       WatchTasks},
       {"compare", {}, CompareJob},
       {"data", {}, WorkOnData}};
   return scripts;
