@@ -25,6 +25,7 @@
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "monitor/io_state.h"
+#include "monitor/task_monitor.h"
 #include "platform/doors.h"
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_table.h"
@@ -64,6 +65,7 @@ class Bench {
   Bench(const Options& options, const QString& settings_file)
       : paced_(options.sim, {"--homed"}),
         quick_(options.sim, {"--no-pace"}),
+        tasks_(options.sim, {"--mode", "prg", "--tasks", "2"}),
         desktop_({settings_file, false}),
         file_(QFileInfo(settings_file).absolutePath() + "/full.qvd") {
     doors.serial = &port_;
@@ -93,7 +95,7 @@ class Bench {
     if (AppState.Offline) return Failed("going online");
     Report("idle_online_cpu_percent", IdlePercent(), 2);
     return WatchIo() || Jog() || ListPrograms() || ReadPaced() || ReadFull() || OpenFull() ||
-                   PrintFull() || CompareFull()
+                   PrintFull() || CompareFull() || WatchTasks()
                ? 1
                : 0;
   }
@@ -326,7 +328,19 @@ class Bench {
     return 0;
   }
 
-  SimProcess paced_, quick_;
+  /// Two programs run, and the view that shows them is open.
+  int WatchTasks() {
+    frmMain.mnuSettingOffline.Press();
+    doors.settings->Set("Settings", "PortDevice1", tasks_.Path());
+    frmMain.mnuSettingOnline.Press();
+    frmMain.mnuContProgTask.Press();
+    WaitMs(5000);
+    if (TaskMonitor.Seen.TaskCount != 2) return Failed("the task monitor");
+    Report("task_monitor_cpu_percent", IdlePercent(), 2);
+    return 0;
+  }
+
+  SimProcess paced_, quick_, tasks_;
   Desktop desktop_;
   CountingPort port_{desktop_.serial};
   ScreenUser user_{desktop_.forms};

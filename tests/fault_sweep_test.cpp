@@ -19,6 +19,7 @@
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "monitor/io_state.h"
+#include "monitor/task_monitor.h"
 #include "motion/motion_tabs.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -223,6 +224,20 @@ class Trial : public FlowTest {
     frmMain.mnuContProgRead.Click();
   }
   void CompareProgram() { CompareBy(Program().cmdProgCompare); }
+  void InProgramsOfCt() {
+    HoldProgram(virt, 1, "103FF00100000000000");
+    AppState.CtMode = AppState.ProgStepsRead = True;
+    DispControlerMode();
+    ChangeMenuDisp(True);
+    AllViewsLayoutChanged();
+  }
+  void WatchTasks() {
+    frmMain.mnuContProgTask.Press();
+    frmProgTask.flgdProgTask.SelectCell(1, 1);
+    frmProgTask.cmdStartTask.Press();
+    pump.RunFor(6'000'000);
+    CloseView(frmProgTask, CloseReason::Code);
+  }
   template <auto kTransfer>
   void Transfer() {
     const CommandsOff commands_off;
@@ -303,6 +318,7 @@ Fields ShownProgram() {
   return fields;
 }
 
+Fields TasksKnown() { return {std::to_string(TaskMonitor.Seen.TaskProgNo[0])}; }
 Fields HomeState() { return {AppState.HomeDone ? "home" : ""}; }
 Fields ReachedLast() { return {frmPosi.Readout.lblkanryoNo.Caption == "3" ? "reached" : ""}; }
 
@@ -345,6 +361,7 @@ constexpr SweptFlow kFlows[] = {
     {"group move", &Trial::HomedOnMoveTab, &Trial::MoveGroup, ReachedLast, false},
     {"io poll", &Trial::IoView, &Trial::PollOnce, Polled, false},
     {"teach", &Trial::TeachingTab, &Trial::Teach, ShownPositions, false},
+    {"watch tasks", &Trial::InProgramsOfCt, &Trial::WatchTasks, TasksKnown, false},
     {"read parameters", &Trial::ParaView, &Trial::ReadPara, MachineAndParameters, false},
     {"verify parameters", &Trial::ParaView, &Trial::VerifyPara, Stages, false},
     {"read groups", &Trial::Nothing, &Trial::Transfer<ReadGrpFromCt>, Stages, false},

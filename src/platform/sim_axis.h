@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 namespace tr7 {
 
 /// An axis of the simulated machine at one moment.
@@ -13,6 +15,16 @@ struct SimAxis {
   double pulses_per_mm = 0.0;
 
   bool operator==(const SimAxis&) const = default;
+};
+
+inline constexpr int kSimInputs = 18, kSimOutputs = 16;
+
+/// The inputs and outputs of the simulated machine at one moment, number n at index n - 1.
+struct SimPoints {
+  std::array<bool, kSimInputs> inputs{};
+  std::array<bool, kSimOutputs> outputs{};
+
+  bool operator==(const SimPoints&) const = default;
 };
 
 }  // namespace tr7

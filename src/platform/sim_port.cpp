@@ -62,6 +62,22 @@ void SimPort::Push(int axis, int pulses) {
   controller_.PushAxis(axis + 1, pulses, doors.pump->NowUs());
 }
 
+SimPoints SimPort::Points() {
+  const qvr7sim::ProgramValues& values = controller_.Values(doors.pump->NowUs());
+  SimPoints points;
+  for (int n = 1; n <= kSimInputs; ++n) {
+    points.inputs.at(n - 1) = values.IsOn({qvr7sim::RefKind::kInput, n}, 0);
+  }
+  for (int n = 1; n <= kSimOutputs; ++n) {
+    points.outputs.at(n - 1) = values.IsOn({qvr7sim::RefKind::kOutput, n}, 0);
+  }
+  return points;
+}
+
+void SimPort::SetInput(int number, bool on) {
+  controller_.SetInput(number, on, doors.pump->NowUs());
+}
+
 void SimPort::Collect() {
   if (open_) in_buffer_ += controller_.Take(doors.pump->NowUs());
 }

@@ -35,6 +35,12 @@ class SimPort : public SerialPort {
   AxisArray<SimAxis> Axes();
   /// A hand moves the slide of an axis (from 0), as far as it goes. Nothing where its servo is on.
   void Push(int axis, int pulses);
+  /// Its inputs and outputs now, also while the port is shut.
+  SimPoints Points();
+  /// A hand switches an input, from 1.
+  void SetInput(int number, bool on);
+  /// When something changes in it by itself, the next time; nothing while it rests or waits.
+  std::optional<std::int64_t> NextChangeUs() const { return controller_.NextInsideUs(); }
 
   // For tests: what the line does wrong, and what went over it.
   PortFault open_fault = PortFault::None;  ///< the next openings fail so

@@ -3,17 +3,23 @@
 #include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QMainWindow>
 #include <QToolButton>
+#include <algorithm>
 
+#include "platform/doors.h"
 #include "state/text.h"
 #include "ui/binding.h"
 #include "ui/sim_picture.h"
+#include "ui/sim_point.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kTitle = 6960, kPushHome = 6965, kPushAway = 6966, kServoHolds = 6967, kAxis1 = 220;
+constexpr int kInputs = 7140, kOutputs = 7141;
 constexpr int kLookEveryMs = 33;
 constexpr int kPushPulses = 50;
 constexpr int kButtonWidth = 24;
@@ -34,16 +40,48 @@ SimDock::SimDock(QMainWindow& frame, SimPort& machine)
     : QDockWidget(Q(Text(kTitle)), &frame), machine_(machine) {
   setObjectName("areaSimMachine");
   setAllowedAreas(Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea);
-  setWidget(MakeAxes());
+  setWidget(MakeMachine());
   next_look_.setSingleShot(true);
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                    this, &SimDock::Look);
 }
 
-QWidget* SimDock::MakeAxes() {
-  auto* axes = new QWidget;
-  auto* grid = new QGridLayout(axes);
-  grid->setContentsMargins(10, 0, 8, 4);
+QWidget* SimDock::MakeMachine() {
+  auto* machine = new QWidget;
+  auto* column = new QVBoxLayout(machine);
+  column->setContentsMargins(10, 0, 8, 4);
+  column->setSpacing(2);
+  column->addLayout(MakeAxes());
+  column->addLayout(MakePoints());
+  return machine;
+}
+
+QLayout* SimDock::MakePoints() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(2);
+  const auto add = [row](auto& points, SimPoint::Kind kind, MsgId name) {
+    row->addWidget(new QLabel(Q(Text(name))));
+    for (std::size_t i = 0; i < points.size(); ++i) {
+      points[i] = new SimPoint(kind, static_cast<int>(i) + 1);
+      row->addWidget(points[i]);
+    }
+  };
+  add(inputs_, SimPoint::Kind::Input, kInputs);
+  row->addSpacing(16);
+  add(outputs_, SimPoint::Kind::Output, kOutputs);
+  row->addStretch(1);
+  for (int n = 1; n <= kSimInputs; ++n) {
+    QObject::connect(inputs_.at(static_cast<std::size_t>(n) - 1), &SimPoint::switched, this,
+                     [this, n](bool on) {
+                       machine_.SetInput(n, on);
+                       ShowPoints();
+                     });
+  }
+  return row;
+}
+
+QGridLayout* SimDock::MakeAxes() {
+  auto* grid = new QGridLayout;
   grid->setVerticalSpacing(0);
   grid->setHorizontalSpacing(2);
   grid->setColumnStretch(0, 1);
@@ -55,7 +93,7 @@ QWidget* SimDock::MakeAxes() {
     grid->addWidget(row.picture, axis, 0);
     for (int i = 0; i < 2; ++i) grid->addWidget(row.push[i], axis, 1 + i);
   }
-  return axes;
+  return grid;
 }
 
 QToolButton* SimDock::MakePushButton(int axis, int direction) {
@@ -86,15 +124,32 @@ void SimDock::Push(int axis, int pulses) {
   Show(rows_[axis], machine_.Axes()[axis]);
 }
 
+void SimDock::ShowPoints() {
+  const SimPoints points = machine_.Points();
+  for (std::size_t i = 0; i < inputs_.size(); ++i) inputs_[i]->Show(points.inputs[i]);
+  for (std::size_t i = 0; i < outputs_.size(); ++i) outputs_[i]->Show(points.outputs[i]);
+}
+
+/// At once while an axis moves; a program that waits, or an input that a script switches, wakes
+/// nobody before its time.
+void SimDock::LookAgain(bool moves) {
+  const auto next = machine_.NextChangeUs();
+  if (!moves && !next) return next_look_.stop();
+  constexpr std::int64_t kLongestMs = 3'600'000;
+  const std::int64_t ms = moves ? 0 : (*next - doors.pump->NowUs()) / 1000 + 1;
+  next_look_.start(static_cast<int>(std::clamp<std::int64_t>(ms, kLookEveryMs, kLongestMs)));
+}
+
 void SimDock::Look() {
-  if (next_look_.isActive() || !isVisible()) return;
+  if (!isVisible() || (next_look_.isActive() && next_look_.interval() == kLookEveryMs)) return;
   const AxisArray<SimAxis> axes = machine_.Axes();
   bool moves = false;
   for (int i = 0; i < kAxes; ++i) {
     if (axes[i] != rows_[i].picture->Shown()) Show(rows_[i], axes[i]);
     moves = moves || axes[i].moving;
   }
-  if (moves) next_look_.start(kLookEveryMs);
+  ShowPoints();
+  LookAgain(moves);
 }
 
 }  // namespace tr7

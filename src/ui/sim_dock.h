@@ -7,15 +7,19 @@
 #include "base/axes.h"
 #include "platform/sim_port.h"
 
+class QGridLayout;
+class QLayout;
 class QMainWindow;
 class QToolButton;
 
 namespace tr7 {
 
 class SimPicture;
+class SimPoint;
 
-/// The simulated machine below the frame's views: its axes with the hand that pushes them. It looks
-/// at the machine whenever the program wakes, and by itself only while an axis moves.
+/// The simulated machine below the frame's views: its axes with the hand that pushes them, its
+/// inputs and outputs with the hand that switches. It looks at the machine whenever the program
+/// wakes, and by itself only when something changes in there by itself.
 class SimDock : public QDockWidget {
   Q_OBJECT
 
@@ -30,14 +34,20 @@ class SimDock : public QDockWidget {
   };
 
   SimDock(QMainWindow& frame, SimPort& machine);
-  QWidget* MakeAxes();
+  QWidget* MakeMachine();
+  QGridLayout* MakeAxes();
+  QLayout* MakePoints();
   QToolButton* MakePushButton(int axis, int direction);
   void Push(int axis, int pulses);
   static void Show(const Row& row, const SimAxis& axis);
+  void ShowPoints();
+  void LookAgain(bool moves);
   void Look();
 
   SimPort& machine_;
   AxisArray<Row> rows_;
+  std::array<SimPoint*, kSimInputs> inputs_{};
+  std::array<SimPoint*, kSimOutputs> outputs_{};
   QTimer next_look_;  ///< while it runs nobody looks
 };
 

@@ -27,7 +27,7 @@ void RunAnyFlow(Voyage& voyage) {
   }
   std::vector<const Flow*> all;  // each as often as it weighs
   for (const auto& some : {SessionFlows(), TransferFlows(), FileFlows(), EditFlows(), KindFlows(),
-                           MonitorFlows(), ProgramFlows()}) {
+                           MonitorFlows(), ProgramFlows(), WatchFlows()}) {
     for (const Flow& flow : some)
       all.insert(all.end(), static_cast<std::size_t>(flow.weight), &flow);
   }

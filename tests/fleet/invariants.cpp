@@ -111,6 +111,7 @@ void CheckLink(Voyage& voyage) {
 }  // namespace
 
 void CheckRest(Voyage& voyage) {
+  CloseMonitors(voyage);
   CheckCommands(voyage);
   CheckOnlineState(voyage);
   CheckTable(voyage);

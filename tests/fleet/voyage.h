@@ -105,6 +105,7 @@ std::span<const Flow> SessionFlows();
 std::span<const Flow> TransferFlows();  ///< reading first
 std::span<const Flow> FileFlows();      ///< new data first
 std::span<const Flow> EditFlows();
+std::span<const Flow> WatchFlows();
 std::span<const Flow> MonitorFlows();
 std::span<const Flow> KindFlows();  ///< of parameters, groups, macros, tuning values, programs
 std::span<const Flow> ProgramFlows();
@@ -119,6 +120,9 @@ void LeaveMonitors(Voyage& voyage);
 
 /// The start of the tool, with its choice between online and offline.
 void StartTool(Voyage& voyage);
+
+/// Closes what watches the controller; then nothing of it may go on.
+void CloseMonitors(Voyage& voyage);
 
 /// What holds between any two flows: commands on, the line shut unless kept, lamp, menus and tabs
 /// true, nothing sent while idle or after a refusal, no axis in motion.

@@ -6,6 +6,7 @@
 #include "forms/frm_main.h"
 #include "forms/frm_prog_no.h"
 #include "forms/frm_prog_syogokekka.h"
+#include "monitor/task_monitor.h"
 #include "prog/prog_store.h"
 #include "state/text.h"
 #include "state/views.h"
@@ -23,11 +24,11 @@ ProgView& ProgramInFront(User& user) {
   return *InTool(front);
 }
 
-void ChooseProgram(User& user, const char* picture = nullptr) {
+void ChooseProgram(User& user, const char* picture = nullptr, int program = kProgram) {
   user.See(
       "the list of programs", [] { return frmProgNo.Visible; }, User::kTransferMs);
-  user.ClickCell(frmProgNo.flgdProgNo, kProgram, 1);
-  user.SeeText(frmProgNo.lblProgNo, std::to_string(kProgram));
+  user.ClickCell(frmProgNo.flgdProgNo, program, 1);
+  user.SeeText(frmProgNo.lblProgNo, std::to_string(program));
   if (picture) user.Picture(picture);
   user.Click(frmProgNo.cmdOk);
 }
@@ -153,6 +154,29 @@ void Verify(User& user, ProgView& view) {
   user.SeeCell(view.flgdProg, 1, kProgOperand1, "1");
 }
 
+// Two programs that run at once, watched in the task monitor and in a listing.
+
+constexpr int kPollMs = 20'000;
+
+void SeeRunning(User& user, int tasks) {
+  const auto running = [tasks] { return TaskMonitor.Seen.TaskCount == tasks; };
+  user.See(std::to_string(tasks) + " tasks", running, kPollMs);
+}
+
+void Press(User& user, int program, CommandButton& button) {
+  user.ClickCell(frmProgTask.flgdProgTask, program, 1);
+  user.SeeOn(button);
+  user.Click(button);
+}
+
+/// The listing's running step is another one than this.
+int SeeAtWork(User& user, const ProgView& view, int before) {
+  const auto at = [&view] { return view.flgdProg.AtWork().Row; };
+  user.See(
+      "the running step", [=] { return at() != before; }, kPollMs);
+  return InTool(at);
+}
+
 }  // namespace
 
 void EditProgram(User& user) {
@@ -169,6 +193,41 @@ void EditProgram(User& user) {
   Verify(user, ProgramInFront(user));
   user.Choose(frmMain.mnuFile, frmMain.mnuFileExit);
   user.AnswerBox(Text(kProgramChanged), MsgAnswer::No);
+}
+
+void WatchTasks(User& user) {
+  constexpr int kNoProgram = 5, kNotStarted = 7111, kRefused = 104;
+  FrmProgTask& f = frmProgTask;
+  PassSplash(user, true);
+  SeeOnline(user, true);
+  user.Choose(frmMain.mnuCont, frmMain.mnuContProg, frmMain.mnuContProgRead);
+  ChooseProgram(user, nullptr, 1);
+  user.SeeReady();
+  const ProgView& view = ProgramInFront(user);
+  user.Choose(frmMain.mnuCont, frmMain.mnuContProg, frmMain.mnuContProgTask);
+  Press(user, 1, f.cmdStartTask);
+  SeeRunning(user, 1);
+  Press(user, 2, f.cmdStartTask);
+  SeeRunning(user, 2);
+  user.Click(f.chkFollow);
+  user.Picture("two-tasks");
+  user.Choose(frmMain.mnuWindow, frmMain.mnuWindowTileHorizontal);
+  const int row = SeeAtWork(user, view, 0);
+  user.Picture("running-step");
+  SeeAtWork(user, view, row);
+  user.Picture("running-step-followed");
+  Press(user, 2, f.cmdStopTask);
+  SeeRunning(user, 1);
+  user.Picture("one-stopped");
+  user.Click(f.cmdStopAllTask);
+  SeeRunning(user, 0);
+  user.Picture("all-stopped");
+  Press(user, kNoProgram, f.cmdStartTask);
+  user.AnswerBox(Text(kRefused), MsgAnswer::Ok, "start-refused");
+  user.SeePanel(kPanelError, Text(kNotStarted, std::to_string(kNoProgram)));
+  user.SeeGone(f);
+  user.Picture("told-in-the-status-bar");
+  LeaveByMenu(user);
 }
 
 }  // namespace tr7::tour

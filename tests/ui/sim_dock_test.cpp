@@ -8,6 +8,7 @@
 
 #include "tests/ui/ui_test.h"
 #include "ui/sim_picture.h"
+#include "ui/sim_point.h"
 
 namespace tr7 {
 namespace {
@@ -46,6 +47,12 @@ TEST_F(SimDockTest, AHandMovesASlideWhoseServoIsOff) {
   QTest::mouseClick(away, Qt::LeftButton);
   EXPECT_EQ(machine_.Axes()[1].pulses, 50);
   EXPECT_TRUE(Follows());
+}
+
+TEST_F(SimDockTest, AHandSwitchesAnInput) {
+  auto* input = frame_.findChildren<SimPoint*>("input3").at(0);
+  QTest::mouseClick(input, Qt::LeftButton);
+  EXPECT_TRUE(machine_.Points().inputs[2] && input->isChecked());
 }
 
 }  // namespace
