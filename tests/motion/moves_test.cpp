@@ -81,7 +81,7 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
     const char* then;
     bool anew = false;
   } rows[] = {{frmPosi.Move.cmdTmpStop, "0MS002F 0MS003F "},
-              {frmPosi.Move.cmdTmpStop, "0MS001F 0MS002F 0MS003F ", true},
+              {frmPosi.Move.cmdTmpStop, "0MP000F 0MS001F 0MS002F 0MS003F ", true},
               {frmPosi.Move.cmdStop, "0MS001F 0MS002F 0MS003F "},
               {frmMain.cmdStopNow, "0MS001F 0MS002F 0MS003F "}};
   frmPosi.Move.chkNoSqMcr1.Set(true);
@@ -95,7 +95,6 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
       GoOffline();
       frmMain.mnuSettingOnline.Press();
       ShowTab(1);
-      AppState.HomeDone = True;
     }
     port.sent.clear();
     frmPosi.Move.cmdSelectMove.Press();
@@ -107,7 +106,6 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
 TEST_F(MoveTest, EscapeEndsAFlowFromItsClickOn) {
   PosiMoveTest& f = frmPosi.Move;
   CommandButton& teach = frmPosi.Teach.cmdJOGST;
-  List({"1"});
   for (CommandButton* start : {&f.cmdSelectMove, &f.cmdHome, &f.cmdMove, &teach}) {
     for (std::int64_t at_us = 1'000; at_us < 110'000; at_us += 6'000) {
       AppState.HomeDone = False;
@@ -123,10 +121,9 @@ TEST_F(MoveTest, EscapeEndsAFlowFromItsClickOn) {
 
 TEST_F(MoveTest, ClosingStopsFirstAndAsksThen) {
   frmPosi.PosiChanged = True;
-  List({"1"});
   forms.answers = {MsgAnswer::Cancel};
   pump.After(120'000, [] { EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu)); });
-  frmPosi.Move.cmdSelectMove.Press();
+  frmPosi.Move.cmdMove.Press();
   EXPECT_TRUE(Acts().ends_with("0MP001F 0SP ")) << Acts();
   EXPECT_EQ(Boxes(), Texts{Text(391)});
 }
