@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <string>
 
+#include "base/msg_id.h"
 #include "platform/printer.h"
 #include "ui/message_dialog.h"
 
