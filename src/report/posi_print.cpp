@@ -5,6 +5,7 @@
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "posi/file_devices.h"
+#include "posi/posi_caption.h"
 #include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_file.h"
@@ -28,6 +29,11 @@ Outcome Print(const PosiRows& rows, const SheetHead& head) {
   return PrintReport(AppState.CtMode ? PrintPosiTablePrg(rows, head) : PrintPosiTable(rows, head));
 }
 
+/// "Inside of C/T" and "New Data" are no paths.
+std::string NameOfTable() {
+  return PosiTableHasFile() ? FileTitle(PosiTablePath()) : PosiTable.Name;
+}
+
 Outcome PrintShown(const PosiRange& range) {
   const KeepPlace place;  // from which the check goes away
   if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return Outcome::Failed;
@@ -36,7 +42,7 @@ Outcome PrintShown(const PosiRange& range) {
   rows.AxisMask = AxesInUseMask();
   rows.Mm = AppState.DispMmUnit;
   rows.Cell = [](int col, int number) { return PosiCellText(col, number, AppState.CtMode); };
-  return Print(rows, HeadOfMachine(DevicesInUse(), FileTitle(PosiTable.Name)));
+  return Print(rows, HeadOfMachine(DevicesInUse(), NameOfTable()));
 }
 
 /// A cell of the stage, which holds pulses.

@@ -176,6 +176,7 @@ void PrintPreview::Print() {
                                .DefaultExtension = "pdf",
                                .OverwritePrompt = true},
                               this, wait_);
+    activateWindow();
     if (!path || path->empty()) return;
     pdf_path_ = *path;
   }

@@ -79,7 +79,7 @@ TEST_F(PrintFlowTest, TheChoiceRefusesWhatCannotBePrinted) {
     f.optPrintPosi[0].Press();
     f.txtPrintEndPosi.Type("2");
   });
-  EXPECT_TRUE(OnPaper("  2:  ") && !OnPaper("  3:  "));
+  EXPECT_TRUE(OnPaper("  2:  ") && !OnPaper("  3:  ") && OnPaper("File Name:Inside of C/T"));
 }
 
 TEST_F(PrintFlowTest, PositionsPrintAsShownOrOutOfAFile) {

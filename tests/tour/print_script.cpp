@@ -90,13 +90,14 @@ void PrintData(User& user) {
   PassSplash(user, true);
   SeeOnline(user, false);
   ReadAll(user);
-  EditCell(user, {2, kComment}, Text(202));
   PrintPositions(user, "positions");
   PrintParameters(user);
   PrintGroups(user);
   PrintMacros(user);
-  user.Choose(frmMain.mnuFile, frmMain.mnuFileExit);
-  user.AnswerBox(Text(391), MsgAnswer::No);
+  LeaveByMenu(user);
+  for (const View* view : {static_cast<View*>(&frmGrp), static_cast<View*>(&frmSqMcr)}) {
+    user.AnswerBox(Text(view->Tag), MsgAnswer::Ok);  // what is typed is not saved
+  }
 }
 
 void PrintPrograms(User& user) {
