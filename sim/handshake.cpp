@@ -73,16 +73,16 @@ std::optional<Alarm> MoveToPosition(Machine& machine, int number, unsigned mask,
   return std::nullopt;
 }
 
-void InputWentOn(Machine& machine, int number, std::int64_t now_us) {
+void Machine::InputWentOn(int number, std::int64_t now_us) {
   if (number == kRes) {
-    machine.alarm.reset();
-    machine.servo_lost = 0;
+    alarm.reset();
+    servo_lost = 0;
   }
-  if (machine.mode != Mode::kPosition) return;
-  if (number == kStb) StartByInputs(machine, now_us);
+  if (mode != Mode::kPosition) return;
+  if (number == kStb) StartByInputs(*this, now_us);
   if (number != kStop && number != kPause) return;
-  machine.axes.Stop(kStopFall, now_us);
-  machine.arrival_outputs.reset();
+  axes.Stop(kStopFall, now_us);
+  arrival_outputs.reset();
 }
 
 }  // namespace qvr7sim

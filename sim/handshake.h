@@ -11,8 +11,5 @@ namespace qvr7sim {
 /// they have arrived. Why not, where they do not start.
 std::optional<Alarm> MoveToPosition(Machine& machine, int number, unsigned mask, bool with_macro,
                                     std::int64_t now_us);
-/// An input has gone on: RES resets the alarm; in position mode STB starts the move to the number
-/// that stands on the inputs, and STOP and PAUSE brake.
-void InputWentOn(Machine& machine, int number, std::int64_t now_us);
 
 }  // namespace qvr7sim

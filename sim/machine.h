@@ -45,6 +45,10 @@ struct Machine : Plant {
   Tasks tasks;
 
  private:
+  /// An input has gone on: RES resets the alarm; in position mode STB starts the move to the number
+  /// that stands on the inputs, and STOP and PAUSE brake.
+  void InputWentOn(int number, std::int64_t now_us);
+
   std::size_t inputs_done_ = 0;  // of the setup's, which are in the order of time
 };
 

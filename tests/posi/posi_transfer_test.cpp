@@ -247,7 +247,8 @@ TEST_F(WriteTest, AFailedStepTellsItsOwnMessage) {
       EXPECT_TRUE(forms.boxes[i + 1].Text.starts_with(Text(row.boxes[i]))) << i;
     }
     EXPECT_EQ(StoredVel(3) == 47, forms.LastBox() == Text(376)) << "stored is what is told";
-    const bool held = BoxShown(Text(kHeld));
+    // A refusal of the hold may have been an alarm in the place of its answer.
+    const bool held = BoxShown(Text(kHeld)) || forms.LastBox() == Text(377);
     port.Ct().ClearFaults();
     Forget();
     frmMain.cmdReset.Press();
