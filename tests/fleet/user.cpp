@@ -3,7 +3,6 @@
 #include "forms/frm_compare.h"
 #include "forms/frm_device.h"
 #include "forms/frm_options2.h"
-#include "forms/frm_print_select.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "state/text.h"
@@ -153,13 +152,6 @@ void SeatUser(Voyage& voyage) {
       AnswerDevices(voyage, *devices);
     } else if (&view == &frmOptions2) {
       AnswerOptions(random);
-    } else if (&view == &frmPrintSelect) {
-      voyage.virt.printer.wanted = random.Chance(80);
-      frmPrintSelect.chkPrintPara.Set(random.Chance(50));
-      frmPrintSelect.optPrintPosi[random.Chance(30)].Press();
-      frmPrintSelect.cmdSelectPosiFile.Press();
-      frmPrintSelect.cmdPrintSet.Press();
-      frmPrintSelect.cmdCancel.Press();
     } else if (&view == &frmCompare) {
       AnswerCompare(voyage);
     }

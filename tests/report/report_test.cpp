@@ -5,7 +5,6 @@
 #include "report/para_report.h"
 #include "report/posi_report.h"
 #include "report/print_flow.h"
-#include "report/prog_report.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -109,26 +108,19 @@ TEST_F(ReportTest, AnAbsentAxisIsDashesInEveryRow) {
   const std::string all = Body(PrintParaTable(rows, head));
   EXPECT_EQ(virt.printer.pages[0][0], "QV-TR7 Parameters|File Name:a.x|Page:1 / 1");
   EXPECT_EQ(CountOf("|--|--\n", all), 23);  // as many as rows of axes
-  std::size_t at = 0;
-  for (const char* part :
-       {"< AXIS 1 >|< AXIS 2 >|< AXIS 3 >|< AXIS 4 >\n", "<< HOMING PARAMETER >>\n 1.OFFSET:|1|1|",
-        "<< AXIS PARAMETER >>\n 1.STROKE:|7|7|", " 7.Actuator:|13|13|",
-        "<< PG PARAMETER >>\n 1.FUNCTION:|14|14|", "<< Etc PARAMETER >>\n 1. HOME OUT:|16\n",
-        " 9. HOLD TIME:|24|24|", "<< Controller Mode >>\n 1. POS/PRG:|33\n",
-        "<< SP Parameter >>\n 1. AutoPrg No.:|25\n", " 9. PPUT Write:|34\n"}) {
-    at = all.find(part, at);
-    ASSERT_NE(at, std::string::npos) << part << " in " << all;
-  }
+  EXPECT_EQ(CountOf("<< AXIS PARAMETER >>\n 1.STROKE:|7|7|--|--\n", all), 1);
+  EXPECT_EQ(CountOf(" 9. HOLD TIME:|24|24|--|--\n<< Controller Mode >>\n 1. POS/PRG:|33\n"
+                    "<< SP Parameter >>\n 1. AutoPrg No.:|25\n",
+                    all),
+            1);
 }
 
 TEST_F(ReportTest, GroupsAndMacrosStandInBlocks) {
   GrpTableRecord groups;
   groups.GrpEnd[2] = 15;
-  groups.GrpStart[3] = 0;
   const std::string lines = Body(PrintGrpTable(groups, head));
   EXPECT_EQ(CountOf("<GRP No>", lines), kGroups);
   EXPECT_EQ(CountOf("<GRP No>  2  No.:  1  No.: 15  <End>", lines), 1);
-  EXPECT_EQ(CountOf("<GRP No>  3  No.:---  No.:  1  <End>", lines), 1);
 
   SmTableRecord macros{};
   EXPECT_EQ(Body(PrintSmTable(macros, head)), "No macro holds data\n");
@@ -146,16 +138,6 @@ TEST_F(ReportTest, GroupsAndMacrosStandInBlocks) {
     blocks += CountOf("<SM No.", Joined(page));
   }
   EXPECT_EQ(blocks, kMacros);
-}
-
-TEST_F(ReportTest, AProgramEndsWithWhatItsCheckSays) {
-  ProgListing listing{"3", {}, {"Check: 1 errors", std::string(300, 'x') + " end"}};
-  listing.Steps.push_back({{"MVP", "1", "", "", "", "へ移動"}});
-  const std::string all = Body(PrintProgTable(listing, head));
-  EXPECT_TRUE(all.starts_with("Program No.: 3\nNo.|Command|")) << all;
-  EXPECT_NE(all.find("\n  1|MVP|1|へ移動\nCheck: 1 errors\nxxx"), std::string::npos) << all;
-  listing.Steps.resize(100);
-  EXPECT_EQ(Print(PrintProgTable(listing, head)).size(), 3u);
 }
 
 }  // namespace
