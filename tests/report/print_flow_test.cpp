@@ -120,10 +120,6 @@ TEST_F(PrintFlowTest, AJobThatDoesNotComeOutSaysWhy) {
   StartOnline();
   ReadRange(1, 999);
   Forget();
-  virt.printer.refusal = "The printer is off.";
-  PrintChosen(frmPosi.cmdPosiPrint);
-  EXPECT_EQ(Boxes(), Texts{"Printing failed.\n\nThe printer is off."});
-  virt.printer.refusal.clear();
   virt.printer.pages_of_paper = 2;
   PrintChosen(frmPosi.cmdPosiPrint);
   EXPECT_EQ(Boxes(), Texts{"Printing failed.\n\nout of paper"});
