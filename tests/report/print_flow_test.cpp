@@ -4,12 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/frm_grp.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_print_select.h"
-#include "forms/frm_sq_mcr.h"
 #include "posi/posi_table.h"
-#include "prog/prog_view.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -73,10 +70,7 @@ TEST_F(PrintFlowTest, TheChoiceRefusesWhatCannotBePrinted) {
   PrintChosen(frmPosi.cmdPosiPrint, [] {
     f.txtPrintStartPosi.Type("0");
     f.txtPrintStartPosi.LostFocus();
-    EXPECT_EQ(f.txtPrintStartPosi.Text, "1");
-    f.optPrintPosi[1].Press();
-    EXPECT_TRUE(f.cmdSelectPosiFile.Visible && !f.txtPrintEndPosi.Visible);
-    f.optPrintPosi[0].Press();
+    EXPECT_TRUE(f.txtPrintStartPosi.Text == "1" && !f.cmdSelectPosiFile.Visible);
     f.txtPrintEndPosi.Type("2");
   });
   EXPECT_TRUE(OnPaper("  2:  ") && !OnPaper("  3:  ") && OnPaper("File Name:Inside of C/T"));
@@ -99,7 +93,6 @@ TEST_F(PrintFlowTest, PositionsPrintAsShownOrOutOfAFile) {
   EXPECT_TRUE(OnPaper("File Name:a.qvd") && OnPaper("|Posi1(mm)|") && OnPaper("  2:  "));
   EXPECT_FALSE(OnPaper("|7.000|") || OnPaper("  3:  "));
   EXPECT_EQ(Cell(1, kPlace), "7.000") << "what is shown stays";
-  EXPECT_EQ(virt.printer.faults, Texts());
 }
 
 TEST_F(PrintFlowTest, ParametersPrintAsShownOrOutOfAFile) {
@@ -107,8 +100,6 @@ TEST_F(PrintFlowTest, ParametersPrintAsShownOrOutOfAFile) {
   StartWithTable();
   frmMain.mnuViewPara.Press();
   p.cmdParaRead.Press();
-  PrintWith(p.cmdParaPrint, MsgAnswer::No);
-  EXPECT_EQ(Jobs(), Texts());
   PrintChosen(frmPosi.cmdPosiPrint, [] { f.chkPrintPara.Set(true); });
   EXPECT_EQ(Jobs(), (Texts{"Position Data", "QV-TR7 Parameters"}));
   EXPECT_TRUE(OnPaper(" 1. POS/PRG:|POS") && OnPaper("File Name:INDICATED DATA"));
@@ -125,41 +116,10 @@ TEST_F(PrintFlowTest, ParametersPrintAsShownOrOutOfAFile) {
   EXPECT_EQ(Jobs(), Texts());
 }
 
-TEST_F(PrintFlowTest, GroupsAndMacrosPrintBehindTheirCheck) {
-  StartWithTable();
-  frmMain.mnuViewGrp.Press();
-  // A file of another kind leaves what is shown, and that is printed as such.
-  virt.files.Put("/a.grp", "\"QV-R7\",\"SM\"\r\n");
-  PrintWith(frmGrp.cmdGrpFilePrint, MsgAnswer::Ok, "/a.grp");
-  EXPECT_TRUE(OnPaper("File Name:INDICATED DATA"));
-  virt.files.Put("/a.grp", "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"2\",4,9\r\n");
-  PrintWith(frmGrp.cmdGrpFilePrint, MsgAnswer::Ok, "/a.grp");
-  EXPECT_TRUE(OnPaper("File Name:a.grp") && OnPaper("<GRP No>  2  No.:  4  No.:  9  <End>"));
-  frmGrp.cmdGrpDataPrint.Press();
-  EXPECT_TRUE(OnPaper("<GRP No>  2  No.:  1  No.:  1  <End>"));
-  frmGrp.Rows[0].txtGrpEndNo.Type("0");
-  Jobs();
-  frmGrp.cmdGrpDataPrint.Press();
-  EXPECT_TRUE(BoxShown("Invalid value in some of group data."));
-  EXPECT_EQ(Jobs(), Texts());
-  frmMain.mnuViewSM.Press();
-  PrintWith(frmSqMcr.cmdSMDispPrint, MsgAnswer::Cancel);
-  PrintWith(frmSqMcr.cmdSMDispPrint, MsgAnswer::Ok);
-  EXPECT_EQ(Jobs(), Texts{"S/M Data"});
-}
-
 TEST_F(PrintFlowTest, AJobThatDoesNotComeOutSaysWhy) {
   StartOnline();
   ReadRange(1, 999);
   Forget();
-  virt.printer.wanted = false;
-  PrintChosen(frmPosi.cmdPosiPrint);
-  EXPECT_EQ(Boxes(), Texts());
-  virt.printer.wanted = true;
-  virt.printer.refusal = "The printer is off.";
-  PrintChosen(frmPosi.cmdPosiPrint);
-  EXPECT_EQ(Boxes(), Texts{"Printing failed.\n\nThe printer is off."});
-  virt.printer.refusal.clear();
   virt.printer.pages_of_paper = 2;
   PrintChosen(frmPosi.cmdPosiPrint);
   EXPECT_EQ(Boxes(), Texts{"Printing failed.\n\nout of paper"});
@@ -172,17 +132,6 @@ TEST_F(PrintFlowTest, AJobThatDoesNotComeOutSaysWhy) {
   EXPECT_EQ(Boxes(), Texts{"Printing was stopped."});
   EXPECT_EQ(Jobs(), Texts());
   EXPECT_FALSE(frmMain.ProgressBar1.Visible);
-}
-
-TEST_F(PrintFlowTest, AProgramPrintsWithItsCheckAndStaysAsItIs) {
-  StartOffline(true);
-  ProgView& view = NewProgView();
-  ShowView(view);
-  view.flgdProg.SetText(1, kProgCommand, "JUMP");
-  view.flgdProg.SetText(1, kProgOperand1, "5");
-  view.cmdProgPrint.Press();
-  EXPECT_TRUE(OnPaper("  1|JUMP|5") && OnPaper("Check: ") && OnPaper("Step 1: "));
-  EXPECT_TRUE(view.Store.ProgErrList.empty() && !view.ErrPaneIsOpen);
 }
 
 }  // namespace
