@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "sim/error_codes.h"
-#include "sim/handshake.h"
 #include "sim/text.h"
 
 namespace qvr7sim {
@@ -100,7 +99,7 @@ void Machine::Raise(const Alarm& raised, std::int64_t now_us) {
 void Machine::SetInput(int number, bool on, std::int64_t now_us) {
   const bool was_on = values.IsOn({RefKind::kInput, number}, 0);
   values.SetInput(number, on);
-  if (on && !was_on) InputWentOn(*this, number, now_us);
+  if (on && !was_on) InputWentOn(number, now_us);
   tasks.Poke(now_us);
 }
 

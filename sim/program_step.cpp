@@ -1,6 +1,5 @@
 #include "sim/program_step.h"
 
-#include "sim/setup.h"
 #include "sim/text.h"
 
 namespace qvr7sim {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
 namespace qvr7sim {
+
+inline constexpr std::size_t kStepDigits = 19;  ///< Of one program step on the line.
 
 /// What an operand, a condition or a result of a step names.
 enum class RefKind {

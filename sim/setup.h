@@ -12,14 +12,13 @@
 namespace qvr7sim {
 
 inline constexpr int kAxes = 4;
-inline constexpr int kPositions = 999;          ///< Position numbers run from 1 to 999.
-inline constexpr int kGroups = 99;              ///< Group numbers run from 1 to 99.
-inline constexpr int kMacros = 20;              ///< Macro numbers run from 1 to 20.
-inline constexpr int kMacroSteps = 16;          ///< Steps of one macro, index from 0.
-inline constexpr int kParameterBlocks = 14;     ///< Blocks "0" to "9" and "A" to "D".
-inline constexpr int kSystemBlocks = 7;         ///< Blocks "0" to "6".
-inline constexpr int kPrograms = 100;           ///< Program numbers run from 1 to 100.
-inline constexpr std::size_t kStepDigits = 19;  ///< Of one program step on the line.
+inline constexpr int kPositions = 999;       ///< Position numbers run from 1 to 999.
+inline constexpr int kGroups = 99;           ///< Group numbers run from 1 to 99.
+inline constexpr int kMacros = 20;           ///< Macro numbers run from 1 to 20.
+inline constexpr int kMacroSteps = 16;       ///< Steps of one macro, index from 0.
+inline constexpr int kParameterBlocks = 14;  ///< Blocks "0" to "9" and "A" to "D".
+inline constexpr int kSystemBlocks = 7;      ///< Blocks "0" to "6".
+inline constexpr int kPrograms = 100;        ///< Program numbers run from 1 to 100.
 
 /// Steps that a program of this number (1 to 100) may have.
 int ProgramLimit(int number);
