@@ -1,5 +1,4 @@
 #include "sim/error_codes.h"
-#include "sim/handshake.h"
 #include "sim/machine.h"
 #include "sim/moves.h"
 #include "sim/text.h"
@@ -26,7 +25,7 @@ std::string MoveByNumber(Machine& machine, std::string_view name, std::string_vi
   if (number > kPositions) return BadNumber();
   const auto bits = static_cast<unsigned>(mask);
   if ((bits & ~machine.mask) != 0) return BadNumber();
-  const std::string error = ErrorOf(MoveToPosition(machine, number, bits, name == "0MP", now_us));
+  const std::string error = ErrorOf(machine.MoveToPosition(number, bits, name == "0MP", now_us));
   return error.empty() ? std::string(name) : error;
 }
 

@@ -1,6 +1,7 @@
-#include "sim/handshake.h"
+// What the inputs make a controller in position mode do.
 
 #include "sim/error_codes.h"
+#include "sim/machine.h"
 #include "sim/moves.h"
 
 namespace qvr7sim {
@@ -33,43 +34,43 @@ int NumberOnInputs(const Machine& machine) {
   return number;
 }
 
-void StartByInputs(Machine& machine, std::int64_t now_us) {
-  if (machine.alarm || machine.AnyMoving() || IsOn(machine, kStop) || IsOn(machine, kPause)) return;
-  unsigned mask = 0;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    if (machine.InUse(axis) && machine.control_digits[axis] == '0') mask |= 1U << axis;
-  }
-  if (mask == 0) return;  // the PC holds them all
-  const int number = NumberOnInputs(machine);
-  const unsigned moving_before = machine.axes.MovingMask();
-  const auto refused = number < 0 ? std::optional(Alarm{'0', '0', error_code::kBadNumber})
-                                  : MoveToPosition(machine, number, mask, true, now_us);
-  if (refused) return machine.Raise(*refused, now_us);
-  machine.NoteStart(moving_before, "inputs", now_us);
-}
-
 }  // namespace
 
-std::optional<Alarm> MoveToPosition(Machine& machine, int number, unsigned mask, bool with_macro,
-                                    std::int64_t now_us) {
-  if (number == 0) return StartHoming(machine, mask, now_us);
+void Machine::StartByInputs(std::int64_t now_us) {
+  if (alarm || AnyMoving() || IsOn(*this, kStop) || IsOn(*this, kPause)) return;
+  unsigned mask = 0;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    if (InUse(axis) && control_digits[axis] == '0') mask |= 1U << axis;
+  }
+  if (mask == 0) return;  // the PC holds them all
+  const int number = NumberOnInputs(*this);
+  const unsigned moving_before = axes.MovingMask();
+  const auto refused = number < 0 ? std::optional(Alarm{'0', '0', error_code::kBadNumber})
+                                  : MoveToPosition(number, mask, true, now_us);
+  if (refused) return Raise(*refused, now_us);
+  NoteStart(moving_before, "inputs", now_us);
+}
+
+std::optional<Alarm> Machine::MoveToPosition(int number, unsigned mask, bool with_macro,
+                                             std::int64_t now_us) {
+  if (number == 0) return StartHoming(*this, mask, now_us);
   PositionRecord record;
-  DecodePosition(machine.memory.positions.Written(number), &record);
+  DecodePosition(memory.positions.Written(number), &record);
   AxisMoves steps;
   for (int axis = 0; axis < kAxes; ++axis) {
     const AxisTarget& target = record.axis[axis];
     if (((mask >> axis) & 1U) == 0 || target.way == 0) continue;
-    if (!machine.axes.Homed(axis)) {
+    if (!axes.Homed(axis)) {
       return Alarm{static_cast<char>('1' + axis), '0', error_code::kNotHomed};
     }
-    const int to = Target(target, machine.axes.Pulses(axis, now_us));
+    const int to = Target(target, axes.Pulses(axis, now_us));
     steps[axis] = {true, to, target.vel, target.acc * kTenMilliseconds, target.pf != 0};
   }
-  if (const auto refused = StartMoves(machine, steps, now_us)) return refused;
-  const std::int64_t macro_us = with_macro ? machine.MacroUs(record.sm) : 0;
-  if (macro_us > 0) machine.axes.Linger(mask, macro_us, now_us);
-  machine.arrival_outputs = record.out;
-  machine.SeeArrival();
+  if (const auto refused = StartMoves(*this, steps, now_us)) return refused;
+  const std::int64_t macro_us = with_macro ? MacroUs(record.sm) : 0;
+  if (macro_us > 0) axes.Linger(mask, macro_us, now_us);
+  arrival_outputs = record.out;
+  SeeArrival();
   return std::nullopt;
 }
 
@@ -79,7 +80,11 @@ void Machine::InputWentOn(int number, std::int64_t now_us) {
     servo_lost = 0;
   }
   if (mode != Mode::kPosition) return;
+<<<<<<< HEAD
   if (number == kStb) StartByInputs(*this, now_us);
+=======
+  if (number == kStb) StartByInputs(now_us);
+>>>>>>> w-io
   if (number != kStop && number != kPause) return;
   axes.Stop(kStopFall, now_us);
   arrival_outputs.reset();

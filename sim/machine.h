@@ -42,12 +42,20 @@ struct Machine : Plant {
   void LoseServo(int axis, std::int64_t now_us);
   /// How long a macro runs; 0 where there is none of that number.
   std::int64_t MacroUs(int number) const;
+  /// Moves axes of the mask to a stored position, number 0 to home. `with_macro`: its macro runs
+  /// when they have arrived. Why not, where they do not start.
+  std::optional<Alarm> MoveToPosition(int number, unsigned mask, bool with_macro,
+                                      std::int64_t now_us);
   Tasks tasks;
 
  private:
   /// An input has gone on: RES resets the alarm; in position mode STB starts the move to the number
   /// that stands on the inputs, and STOP and PAUSE brake.
   void InputWentOn(int number, std::int64_t now_us);
+<<<<<<< HEAD
+=======
+  void StartByInputs(std::int64_t now_us);
+>>>>>>> w-io
 
   std::size_t inputs_done_ = 0;  // of the setup's, which are in the order of time
 };

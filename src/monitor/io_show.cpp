@@ -20,7 +20,7 @@ constexpr int kForced = 7307, kWaiting = 7308, kFlipTip = 7309, kNameTip = 7306;
 constexpr int kOverrideMsg = 7312, kPace = 7315, kLinePace = 7316, kAge = 7317, kTrueAt = 7318,
               kNotRunning = 7319, kFirstValues = 7320;
 constexpr int kAxis1 = 220;
-constexpr int kNameWidth = 1100, kStateWidth = 700, kForcedWidth = 900;
+constexpr int kNameWidth = 1200, kStateWidth = 750, kOwnNameWidth = 2400, kForcedWidth = 1000;
 constexpr std::int64_t kMarkedUs = 1'000'000;
 
 void Put(Grid& grid, int row, int col, const std::string& text) {
@@ -31,7 +31,8 @@ template <std::size_t rows, typename Names>
 void ShowNames(Grid& grid, const std::array<IoPointRow, rows>& points, const Names& own) {
   grid.SetColWidth(kPointName, kNameWidth);
   grid.SetColWidth(kPointState, kStateWidth);
-  grid.SetColWidth(kPointOwnName, -1);
+  grid.SetColWidth(kPointOwnName, kOwnNameWidth);
+  grid.FitsView = true;
   grid.SetColAlign(kPointState, ColAlign::Left);
   grid.SetColAlign(kPointOwnName, ColAlign::Left);
   for (std::size_t row = 0; row < rows; ++row) {

@@ -64,7 +64,8 @@ void FillLists(User& user) {
   user.Picture("lists-edited");
   user.Click(f.chkEditItem);
   user.TellSim("input 1 on");
-  user.SeeCell(f.Variables.List, 1, 2, "1");
+  user.See(
+      "a pocket filled", [&f] { return f.Variables.List.Text(1, 2) == "1"; }, User::kTransferMs);
   user.Picture("lists-live");
 }
 
@@ -123,6 +124,7 @@ void WatchHandshake(User& user) {
   SeeOnline(user, false);
   StartWatching(user, "io-position");
   user.TellSim("input P1 on");
+  user.TellSim("input P2 on");
   user.TellSim("input STB on");
   user.SeeCell(outputs, 2, kPointState, "-");
   user.Picture("io-moving");
