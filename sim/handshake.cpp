@@ -80,11 +80,7 @@ void Machine::InputWentOn(int number, std::int64_t now_us) {
     servo_lost = 0;
   }
   if (mode != Mode::kPosition) return;
-<<<<<<< HEAD
-  if (number == kStb) StartByInputs(*this, now_us);
-=======
   if (number == kStb) StartByInputs(now_us);
->>>>>>> w-io
   if (number != kStop && number != kPause) return;
   axes.Stop(kStopFall, now_us);
   arrival_outputs.reset();

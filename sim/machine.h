@@ -52,10 +52,7 @@ struct Machine : Plant {
   /// An input has gone on: RES resets the alarm; in position mode STB starts the move to the number
   /// that stands on the inputs, and STOP and PAUSE brake.
   void InputWentOn(int number, std::int64_t now_us);
-<<<<<<< HEAD
-=======
   void StartByInputs(std::int64_t now_us);
->>>>>>> w-io
 
   std::size_t inputs_done_ = 0;  // of the setup's, which are in the order of time
 };
