@@ -17,6 +17,7 @@
 #include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/axes_in_use.h"
+#include "state/message_box.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -75,8 +76,12 @@ TusinOutcome ReadPoints() {
 
 TusinOutcome ReadnDisp_PresentPosMoni() {
   AxisArray<std::int32_t> pulses{};
-  if (ReadPresentPosFromCt(pulses) != 0) {
-    return AppState.Offline ? TusinOutcome::Failed : TusinOutcome::Withdrawn;
+  TusinFailure failure;
+  failure.end = TusinEnd::Withdrawn;
+  if (ReadPresentPosFromCt(pulses, &failure) != 0) {
+    if (failure.end == TusinEnd::Withdrawn) return TusinOutcome::Withdrawn;
+    if (!failure.text.empty()) MsgBox(failure.text);
+    return TusinOutcome::Failed;
   }
   for (const int axis : AxesInUse()) {
     const auto mm = PulseToMm(DevSetting[axis].Lead, DevSetting[axis].Ppr, pulses[axis]);

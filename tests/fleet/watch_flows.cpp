@@ -25,7 +25,9 @@ void DoSomething(Voyage& voyage) {
   switch (random.Below(5)) {
     case 0:
       // Perhaps while the transfer runs.
-      voyage.virt.pump.After(random.Below(4'000'000), [&f] { f.cmdStopAllTask.Press(); });
+      voyage.virt.pump.After(random.Below(4'000'000), [&f] {
+        if (f.Loaded) f.cmdStopAllTask.Press();
+      });
       return Transfer(voyage);
     case 1:
       f.cmdClose.Press();
