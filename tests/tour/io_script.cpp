@@ -1,7 +1,5 @@
 #include "tests/tour/io_script.h"
 
-#include <QFileInfo>
-
 #include "forms/frm_io_check_fg.h"
 #include "forms/frm_main.h"
 #include "state/text.h"
@@ -92,13 +90,6 @@ void ShowThePlot(User& user, std::initializer_list<int> rows) {
   user.Picture("plot");
 }
 
-void SaveThePlot(User& user) {
-  const QString path = QFileInfo(user.file).path() + "/" + QFileInfo(user.file).completeBaseName();
-  user.Click(frmIOCheckFG.Chart.cmdPlotPicture);
-  user.ChooseFile(path + ".plot.png");
-  user.AnswerBox(Text(7360), MsgAnswer::Ok, "plot-saved");
-}
-
 }  // namespace
 
 void WatchProgram(User& user) {
@@ -109,7 +100,6 @@ void WatchProgram(User& user) {
   ForceOutput(user, kOut7Row);
   FillLists(user);
   ShowThePlot(user, {5, 29, 46, 47, 50});
-  SaveThePlot(user);
   user.ClickTab(frmIOCheckFG.tabIo, 0);
   Override(user);
   user.Click(frmIOCheckFG.cmdIoWinClose);
