@@ -71,7 +71,10 @@ void ShowThePlot(User& user, std::initializer_list<int> rows) {
   PlotPage& f = frmIOCheckFG.Chart;
   user.ClickTab(frmIOCheckFG.tabIo, 2);
   user.Picture("plot-empty");
-  for (const int row : rows) user.ClickCell(f.flgdPlot, row, 0);
+  for (const int row : rows) {
+    InTool([&f, row] { return f.flgdPlot.TopRow = row; });
+    user.ClickCell(f.flgdPlot, row, 0);
+  }
   user.Click(f.cmdPlotIn);
   user.See(
       "some seconds of the plot",
