@@ -126,6 +126,7 @@ void WatchHandshake(User& user) {
   user.TellSim("silence on");
   user.AnswerBox(Text(100), MsgAnswer::Ok, nullptr, User::kTransferMs);
   user.ClickTab(frmIOCheckFG.tabIo, 0);
+  user.See("values gone grey", [] { return !frmIOCheckFG.Io.lblCurrentPos[0].Enabled; });
   user.Picture("io-not-renewed");
   LeaveByMenu(user);
 }
