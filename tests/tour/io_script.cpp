@@ -16,7 +16,6 @@ void StartWatching(User& user, const char* picture) {
   user.Choose(frmMain.mnuMonitor, frmMain.mnuMonitorIO);
   user.SeeOn(frmIOCheckFG.cmdIoMonitor);
   user.Click(frmIOCheckFG.cmdIoMonitor);
-  user.SeeText(frmIOCheckFG.cmdIoMonitor, Text(704));
   user.SeeCell(frmIOCheckFG.Io.flgdOutput, kRdyRow, kPointState, "O");
   user.Picture(picture);
 }
@@ -32,7 +31,6 @@ void NamePoints(User& user) {
 void ForceOutput(User& user, int row) {
   Grid& outputs = frmIOCheckFG.Io.flgdOutput;
   user.ClickCell(outputs, row, kPointState);
-  user.SeeCell(outputs, row, kPointForced, Text(7307));
   user.SeeCell(outputs, row, kPointState, "O");
   user.Picture("output-forced");
 }
@@ -70,7 +68,6 @@ void FillLists(User& user) {
 void ShowThePlot(User& user, std::initializer_list<int> rows) {
   PlotPage& f = frmIOCheckFG.Chart;
   user.ClickTab(frmIOCheckFG.tabIo, 2);
-  user.Picture("plot-empty");
   for (const int row : rows) {
     InTool([&f, row] { return f.flgdPlot.TopRow = row; });
     user.ClickCell(f.flgdPlot, row, 0);
