@@ -63,7 +63,7 @@ QRectF PlotWidget::Field() const {
   for (const PlotTrace* trace : plot_->Shown) {
     names = std::max(names, fontMetrics().horizontalAdvance(Q(trace->Name)));
   }
-  const qreal left = std::min<qreal>(names + 2 * kGap, width() * kNameShare);
+  const qreal left = std::min<qreal>(names + 3 * kGap, width() * kNameShare);
   const qreal below = fontMetrics().height() + kGap;
   return {left, kGap, std::max<qreal>(width() - left - 2 * kGap, 1),
           std::max<qreal>(height() - below - kGap, 1)};

@@ -52,13 +52,6 @@ TEST(Terminals, ANumberThatIsNoneIsAnAlarmWhichAnInputResets) {
   Play(pc, "RES=1 0RI>0RI90000AF");
 }
 
-TEST(Terminals, ZonesAndForceOfPositionMode) {
-  qvr7sim::Setup setup = Homed();
-  setup.positions[1].axis[1] = {.way = 1, .pulses = 2000, .pf = 40};
-  Exchange pc(setup);
-  Play(pc, "0WD600006400138800640001000000000000>0WD6 0MS0012>0MS +9000 0RO>0RO30C00");
-}
-
 TEST(Terminals, WhatThePcForcesStaysUntilTheControllerSwitchesIt) {
   qvr7sim::Setup setup = Homed();
   setup.mode = Mode::kProgram;
