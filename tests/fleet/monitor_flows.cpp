@@ -65,6 +65,7 @@ void WatchIo(Voyage& voyage) {
   if (how == 0) f.cmdIoWinClose.Press();
   if (how == 1) CloseView(f, CloseReason::ControlMenu);
   if (how == 2) frmMain.mnuSettingOffline.Press();
+  voyage.sent_at_refusal.reset();  // who stays online goes on watching
   LeaveMonitors(voyage);
 }
 
