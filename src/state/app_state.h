@@ -18,8 +18,8 @@ struct AppStateRecord {
   // Session
   Bool16 Offline = True;  ///< True: no traffic may flow
   Bool16 OfflineTemporarilyLifted;
-  Bool16 CtMode;         ///< False position mode, True program mode
-  Bool16 CtModeOfCt;     ///< the mode that the controller reported last
+  Bool16 CtMode;      ///< False position mode, True program mode
+  Bool16 CtModeOfCt;  ///< the mode that the controller reported last
   /// Control modes sent, by whoever it was: tells who set one that it may hold no more.
   std::int32_t ControlModesSent = 0;
   Bool16 AxesMayBeHeld;  ///< a write could not release its axes: the next connection does
