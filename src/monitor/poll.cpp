@@ -114,7 +114,10 @@ PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
   started_us_ = start_us;
   const int begun = begun_;
   const TusinOutcome outcome = AskQuietly(ask);
-  if (!on_ || begun != begun_) return PollEnd::Over;
+  if (!on_ || begun != begun_) {
+    if (outcome == TusinOutcome::Failed) SettleLostSession();
+    return PollEnd::Over;
+  }
   switch (outcome) {
     case TusinOutcome::Good:
       known_us_ = Now();

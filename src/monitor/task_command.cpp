@@ -186,6 +186,7 @@ void SettleTaskCommand() {
   Settle(
       command, FrameOf(command),
       stop ? TaskProgramSelectToCt(command.program, TusinPriority::Next) : TusinOutcome::Withdrawn);
+  SettleLostSession();
 }
 
 }  // namespace tr7
