@@ -142,11 +142,10 @@ void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   const QSize room = mdi_->viewport()->size();
   child.resize(wanted.boundedTo(room));
   child.move(PlaceOfChild(room, child.size(), static_cast<int>(mdi_->subWindowList().size()) - 1));
-  if (!before || before->isMaximized()) {
-    child.showMaximized();
-  } else {
-    child.show();
-  }
+  const bool fills = !before || before->isMaximized();
+  fills ? child.showMaximized() : child.show();
+  // A frame that becomes active gives the focus to what had it last, and brings its view back.
+  if (!frame_->isActiveWindow()) child.setFocus(Qt::OtherFocusReason);
 }
 
 /// A dialogue is as large as its layout asks for; one that may be resized has the record's size.

@@ -196,7 +196,7 @@ void EditProgram(User& user) {
 }
 
 void WatchTasks(User& user) {
-  constexpr int kNoProgram = 5, kNotStarted = 7111, kRefused = 104;
+  constexpr int kNoProgram = 3, kNotStarted = 7111, kRefused = 104;
   FrmProgTask& f = frmProgTask;
   PassSplash(user, true);
   SeeOnline(user, true);
