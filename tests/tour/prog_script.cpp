@@ -196,7 +196,7 @@ void EditProgram(User& user) {
 }
 
 void WatchTasks(User& user) {
-  constexpr int kNoProgram = 3, kNotStarted = 7111, kRefused = 104;
+  constexpr int kEmpty = 3, kDoesNotRun = 7109;
   FrmProgTask& f = frmProgTask;
   PassSplash(user, true);
   SeeOnline(user, true);
@@ -222,11 +222,11 @@ void WatchTasks(User& user) {
   user.Click(f.cmdStopAllTask);
   SeeRunning(user, 0);
   user.Picture("all-stopped");
-  Press(user, kNoProgram, f.cmdStartTask);
-  user.AnswerBox(Text(kRefused), MsgAnswer::Ok, "start-refused");
-  user.SeePanel(kPanelError, Text(kNotStarted, std::to_string(kNoProgram)));
+  Press(user, kEmpty, f.cmdStartTask);
+  user.SeePanel(kPanelError, Text(kDoesNotRun, std::to_string(kEmpty)));
+  user.Picture("nothing-to-run");
+  user.Click(f.cmdClose);
   user.SeeGone(f);
-  user.Picture("told-in-the-status-bar");
   LeaveByMenu(user);
 }
 
