@@ -35,6 +35,7 @@ enum class CellLamp { None, Off, On };
 struct RowAtWork {
   int Row = 0;
   bool Differs = false;  ///< what is at work there is something else than what the row says
+  bool Is(int row) const { return row == Row && row != 0; }
   bool operator==(const RowAtWork&) const = default;
 };
 

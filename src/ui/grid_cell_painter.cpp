@@ -41,7 +41,7 @@ QColor GridCellPainter::Ground(int row, int col, bool enabled) const {
                   : colour == kHeaderColour ? look::kHeader
                                             : QColor::fromRgb(static_cast<QRgb>(colour));
   if (grid_.IsUnused && grid_.IsUnused(row, col)) ground = look::kUnusedCell;
-  if (row == grid_.AtWork().Row && !grid_.AtWork().Differs) ground = look::kAtWorkRow;
+  if (grid_.AtWork().Is(row) && !grid_.AtWork().Differs) ground = look::kAtWorkRow;
   if (IsMarked(row, col)) ground = look::kMarkedCell;
   if (!enabled) ground = Mixed(ground, look::kWindow, 0.55);
   return ground;

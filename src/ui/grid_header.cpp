@@ -139,7 +139,7 @@ void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int secti
   painter->drawLine(rect.bottomLeft(), rect.bottomRight());
   painter->drawLine(rect.topRight(), rect.bottomRight());
   const QString number = Q(grid_->Text(row, grid_->FixedCols - 1));
-  if (row == grid_->AtWork().Row) {
+  if (grid_->AtWork().Is(row)) {
     return PaintAtWork(*painter, rect, number, grid_->AtWork().Differs);
   }
   if (grid_->MarkOfRow) PaintMark(*painter, rect, grid_->MarkOfRow(row));
