@@ -18,7 +18,7 @@ struct PlotKey {
   PlotKind kind = PlotKind::Input;
   int program = 0;
   int number = 0;
-  auto operator<=>(const PlotKey&) const = default;
+  auto operator<=>(const PlotKey&) const = default;  // NOLINT: its own 0 is no pointer
 };
 
 struct PlotEntry {
