@@ -61,7 +61,7 @@ bool FirstStart::HandOver(const QString& file) {
 }
 
 void FirstStart::Listen(std::function<void(const QString& file)> open) {
-  const auto is_there = [this](const sockaddr* to, socklen_t size) {
+  const auto is_there = [](const sockaddr* to, socklen_t size) {
     const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     const int result = connect(probe, to, size);
     close(probe);
