@@ -34,6 +34,12 @@ bool BackToStartAtEnd() {
   return f.chkRepeat2.Value;
 }
 
+bool MoreFollow() { return frmPosi.Move.MoveContNo <= EndNo() || frmPosi.Move.chkRepeat2.Value; }
+bool Waits() { return frmPosi.Move.chkTimerUse2.Value && MoreFollow(); }
+
+/// The next number is due now: its command goes out before anything else is asked.
+bool NextIsDue() { return !IsEnded() && !IsSingle() && !Waits() && MoreFollow(); }
+
 /// One number. False: the flow ends.
 bool MoveToNext() {
   PosiMoveTest& f = frmPosi.Move;
@@ -47,7 +53,7 @@ bool MoveToNext() {
   ShowHomeState();
   frmPosi.Readout.lblkanryoNo.Caption = std::to_string(f.MoveContNo);
   ++f.MoveContNo;
-  return ReadnDisp_PresentPos() == 0;
+  return NextIsDue() || ReadnDisp_PresentPos() == 0;
 }
 
 void Steps() {
@@ -56,9 +62,7 @@ void Steps() {
   const auto ended = [] { return IsEnded() || StopAsked(); };
   while (!IsEnded() && BackToStartAtEnd()) {
     if (!MoveToNext() || IsEnded() || IsSingle()) break;
-    if (f.chkTimerUse2.Value && (f.MoveContNo <= EndNo() || f.chkRepeat2.Value)) {
-      WaitBetweenSteps(f.txtTimer2.Text, ended);
-    }
+    if (Waits()) WaitBetweenSteps(f.txtTimer2.Text, ended);
     if (ended()) break;
   }
   // Stopped on the way, the place is kept: the next start goes on there.

@@ -13,11 +13,9 @@ namespace tr7 {
 namespace {
 
 constexpr const char* kSimDevice = "sim";
-/// Bytes that may gather before the tool looks at them, as in a line chip's own store; no later
-/// than this is a line noticed that ends before it was expected to.
-constexpr qint64 kGather = 16;
-/// The end of a line is worth being woken for by each byte.
-constexpr qint64 kLastBytes = 3;
+/// Length of the shortest line that may come instead of the expected one: an error reply. It is
+/// looked for on the way to a longer one.
+constexpr qint64 kErrorReply = 8;
 
 std::optional<QSerialPort::Parity> ParityOf(const QString& letter) {
   if (letter == "N") return QSerialPort::NoParity;
@@ -38,6 +36,17 @@ bool HasHungUp([[maybe_unused]] const QSerialPort& port) {
 
 /// 10 bits at the port's rate.
 qint64 ByteUs(const QSerialPort& port) { return 10'000'000 / std::max(port.baudRate(), 1); }
+
+/// Where the system has the port; not asked for by a look through all devices, which would cost
+/// more than a poll of the monitors, and each of those opens the port.
+QString FileOf(const std::string& device) {
+  const QString name = QString::fromStdString(device);
+#ifdef _WIN32
+  return name;
+#else
+  return name.startsWith('/') ? name : "/dev/" + name;
+#endif
+}
 
 /// "9600,N,8,1" on the open port.
 bool Apply(QSerialPort& port, const std::string& settings) {
@@ -78,10 +87,14 @@ void QtSerialPort::Vanish(const QString& why) {
   });
 }
 
-/// A line that hangs up wakes the loop, yet nothing is said of it: it is looked at ahead of the
-/// next sleep.
+/// A line that hangs up wakes the loop, yet nothing is said of it: it is looked at ahead of a
+/// sleep, not more often than a user would notice.
 std::optional<std::int64_t> QtSerialPort::NextEventUs() {
-  if (port_.isOpen() && HasHungUp(port_)) Vanish(qt_error_string(ENODEV));
+  constexpr qint64 kLookEveryMs = 50;
+  if (port_.isOpen() && (!looked_.isValid() || looked_.hasExpired(kLookEveryMs))) {
+    looked_.start();
+    if (HasHungUp(port_)) Vanish(qt_error_string(ENODEV));
+  }
   return sim_.NextEventUs();
 }
 
@@ -90,14 +103,14 @@ void QtSerialPort::ExpectReply(std::size_t bytes) {
   if (!port_.isOpen() || port_.bytesAvailable() > 0) return;
   expected_ = static_cast<qint64>(bytes);
   // A full buffer wakes nobody: the first byte says that the reply is under way.
-  if (expected_ > kLastBytes + 1) port_.setReadBufferSize(1);
+  if (expected_ > 1) port_.setReadBufferSize(1);
 }
 
 /// Every byte on its own would wake the tool a thousand times a second, for a reply that can do
 /// nothing before its end. So the next ones gather while the line takes its time for them.
 void QtSerialPort::OnBytes() {
   const qint64 gathered = port_.bytesAvailable();
-  if (expected_ - gathered <= kLastBytes || port_.canReadLine()) return LetAllIn();
+  if (gathered >= expected_ || port_.canReadLine()) return LetAllIn();
   if (gathered == 1) since_first_.start();
   gathering_ = true;
   if (gathered < port_.readBufferSize()) return;  // late ones: each of them says when it comes
@@ -107,7 +120,8 @@ void QtSerialPort::OnBytes() {
 
 /// How many bytes of the reply to let gather next.
 qint64 QtSerialPort::NextLook() const {
-  return std::min(port_.bytesAvailable() + kGather, expected_ - kLastBytes);
+  const bool may_be_error = port_.bytesAvailable() < kErrorReply && expected_ > 2 * kErrorReply;
+  return may_be_error ? kErrorReply : expected_;
 }
 
 /// From now on every byte is there as soon as it has arrived.
@@ -133,16 +147,11 @@ PortFault QtSerialPort::FaultOfOpening(const QString& path) const {
 PortFault QtSerialPort::Open(const std::string& device) {
   Close();
   if (device == kSimDevice) return sim_.Open(device);
-  port_.setPortName(QString::fromStdString(device));
-  const QString path = QSerialPortInfo(port_).systemLocation().isEmpty()
-                           ? port_.portName()
-                           : QSerialPortInfo(port_).systemLocation();
+  const QString file = FileOf(device);
+  port_.setPortName(file);
 #ifndef _WIN32
   // Ahead of the opening, whose lock file would hide the reason.
-  const QString file = path.startsWith('/') ? path : "/dev/" + path;
   if (!QFileInfo::exists(file)) return PortFault::NoSuchPort;
-#else
-  const QString file = path;
 #endif
   dead_ = false;
   if (port_.open(QIODevice::ReadWrite)) return PortFault::None;

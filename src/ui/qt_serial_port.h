@@ -48,6 +48,7 @@ class QtSerialPort : public SerialPort {
   QTimer rest_;                ///< while it runs, nobody is woken by what comes in
   bool gathering_ = false;     ///< a part of the expected reply is there and shown to nobody yet
   QElapsedTimer since_first_;  ///< since the reply's first byte
+  QElapsedTimer looked_;       ///< since the last look whether the line has hung up
   qint64 expected_ = 0;        ///< bytes of the reply on its way; 0: nobody knows
   qint64 byte_us_ = 0;         ///< time of a byte on the line
   SimPort sim_;
