@@ -22,6 +22,7 @@
 #include "posi/posi_edits.h"
 #include "posi/posi_table.h"
 #include "prog/command_list.h"
+#include "prog/prog_clip.h"
 #include "prog/prog_store.h"
 #include "session/followers.h"
 #include "state/app_state.h"
@@ -66,6 +67,7 @@ void ResetState() {
   PosiUndo = PosiUndoRecord{};
   CommandList = CommandListRecord{};
   ProgCt = ProgCtRecord{};
+  ProgLineClip = ProgLineClipRecord{};
   RenewViews();
   InstallViews();
 }

@@ -60,7 +60,7 @@ int StartProgToCt(int program_no) {
 }
 
 int StopToCt(int timeout_ms, TusinFailure& failure) {
-  return Send("0SP", timeout_ms, {TusinPriority::Next, false, &failure});
+  return Send("0SP", timeout_ms, {TusinPriority::Stop, false, &failure});
 }
 
 std::string JogStartFrame(int speed_percent, int direction_code) {

@@ -22,7 +22,8 @@ std::string MoveAxesFrame(int position_no, int kind);
 /// bound.
 int StartProgToCt(int program_no);
 
-/// "0SP": stops. `timeout_ms` 1000 or 5000. It goes out as the next frame, whatever else waits.
+/// "0SP": stops. `timeout_ms` 1000 or 5000. It goes out as the next frame, whatever else waits;
+/// `TusinStopAgain` sends it once more while its answer stays out.
 /// Nobody is told of a failure: `failure` has it.
 int StopToCt(int timeout_ms, TusinFailure& failure);
 

@@ -8,6 +8,11 @@ namespace tr7 {
 /// `AppState.PortFaultText`.
 int TusinPortOpen();
 
+/// Another program may hold the port for a moment: whoever needs it tries so often, and waits
+/// between two tries.
+inline constexpr int kPortOpenAttempts = 4;
+inline constexpr int kPortOpenPauseMs = 100;
+
 /// Closes the line unless `PortOccupy` keeps it, or a request that waits: a sequence inside another
 /// one's wait leaves the line to the outer one.
 void TusinPortClose();

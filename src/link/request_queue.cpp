@@ -12,17 +12,20 @@ RequestQueue TusinQueue;
 
 namespace {
 
-bool IsNoStop(const TusinRequest& request) { return request.priority != TusinPriority::Next; }
+bool IsNoStop(const TusinRequest& request) { return !IsUrgent(request); }
 bool IsStart(const TusinRequest& request) { return request.priority == TusinPriority::Start; }
 
 }  // namespace
 
+bool IsUrgent(const TusinRequest& request) { return request.priority >= TusinPriority::Next; }
+
 bool RequestQueue::Put(TusinRequest& request) {
-  if (request.priority == TusinPriority::Next) {
+  if (IsUrgent(request)) {
     EndWaiting(TusinEnd::Withdrawn, IsStart);
-    waiting.insert(std::find_if(waiting.begin(), waiting.end(),
-                                [](const TusinRequest* row) { return IsNoStop(*row); }),
-                   &request);
+    const auto behind = [&request](const TusinRequest* row) {
+      return row->priority < request.priority;
+    };
+    waiting.insert(std::find_if(waiting.begin(), waiting.end(), behind), &request);
     return true;
   }
   const std::size_t rows = waiting.size() + (on_line ? 1 : 0);
@@ -46,6 +49,12 @@ TusinRequest& RequestQueue::TakeNext() {
   return *on_line;
 }
 
+void RequestQueue::PutBack() {
+  TusinRequest& request = *on_line;
+  TakeOut(request);
+  static_cast<void>(Put(request));  // a stop always has room
+}
+
 void RequestQueue::FinishOnLine(TusinEnd end) {
   TusinRequest& request = *on_line;
   TakeOut(request);
@@ -62,9 +71,7 @@ void RequestQueue::EndWaiting(TusinEnd end, bool (*picks)(const TusinRequest& re
   });
 }
 
-bool RequestQueue::StopWaits() const {
-  return !waiting.empty() && waiting.front()->priority == TusinPriority::Next;
-}
+bool RequestQueue::StopWaits() const { return !waiting.empty() && IsUrgent(*waiting.front()); }
 
 void TusinQueueClear() { TusinQueue.EndWaiting(TusinEnd::GivenUp, IsNoStop); }
 
@@ -73,9 +80,7 @@ bool IsCancelled(const TusinRequest& request) {
          frmMain.cmdComCancel.Visible;
 }
 
-bool RequestQueue::StopIsServed() const {
-  return on_line && on_line->priority == TusinPriority::Next;
-}
+bool RequestQueue::StopIsServed() const { return on_line && IsUrgent(*on_line); }
 
 bool LineIsBarred() { return AppState.Offline || AppState.Closing || TusinQueue.untold != nullptr; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,8 @@ inline constexpr int kQueueRows = 11;
 enum class TusinPriority {
   Ordinary,
   Start,  ///< starts a movement: a stop that overtakes it withdraws it, it never follows the stop
-  Next,   ///< a stop: goes out as the next frame, whatever waits, also where the queue is full
+  Next,   ///< a stop of programs: overtakes all but the stops, also where the queue is full
+  Stop,   ///< a stop of axes: the same, and overtakes the stops of programs, which follow it
 };
 
 /// One request and what became of it. It belongs to the one who waits for it, on the stack, and is
@@ -26,10 +28,12 @@ struct TusinRequest {
   TusinPriority priority = TusinPriority::Ordinary;
   bool may_cancel = false;  ///< the cancel button, when it is pressed from now on, ends it
 
-  int sends = 0;  ///< how often it has been handed to the port
+  int sends = 0;              ///< how often it has been handed to the port
+  bool awaits_reply = false;  ///< its own, not that to a sign of sense
+  bool sent_again = false;    ///< beside its own sends: two answers may come
   bool done = false;
   TusinEnd end = TusinEnd::GivenUp;
-  std::string reply;  ///< with CR LF; of `TusinEnd::Good`
+  std::string reply;  ///< with CR LF; of `TusinEnd::Good` and `TusinEnd::ErrorReply`
 };
 
 /// The requests that wait for the line, and the one that has it.
@@ -43,6 +47,9 @@ struct RequestQueue {
   int failed_sends = 0;
   /// A request was withdrawn while its reply may be on the way.
   bool late_reply_possible = false;
+  std::int64_t sent_us = 0;  ///< when a line was handed to the port last
+  /// Until when, at the line's own pace, what has been handed over leaves and its reply may come.
+  std::int64_t line_busy_us = 0;
 
   bool IsEmpty() const { return waiting.empty() && !on_line; }
   /// False when no row is free: nothing has been queued.
@@ -51,6 +58,8 @@ struct RequestQueue {
   void TakeOut(const TusinRequest& request);
   /// Brings the next of the waiting requests, of which there is one, to the line.
   TusinRequest& TakeNext();
+  /// A stop of axes has overtaken the one on the line, a stop of programs: it goes out behind that.
+  void PutBack();
   /// The request on the line is done; its exchange is forgotten.
   void FinishOnLine(TusinEnd end);
   /// Ends the waiting requests that the condition picks; they are done.
@@ -60,6 +69,9 @@ struct RequestQueue {
 };
 
 extern RequestQueue TusinQueue;
+
+/// A stop, of axes or of programs.
+bool IsUrgent(const TusinRequest& request);
 
 /// Ends whatever waits for the line as given up, a stop apart.
 void TusinQueueClear();

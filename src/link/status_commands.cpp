@@ -47,7 +47,7 @@ int CtComStart(int show_message) {
   return AppState.AxesMayBeHeld ? CtControlModeSet(0, 0, 0) : 0;
 }
 
-int CtControlModeSet(int mode, int m, int mask) {
+int CtControlModeSet(int mode, int m, int mask, TusinFailure* failure) {
   std::string command = "0CM";
   command += m == 1 || m == 2 ? std::to_string(m) : "0";
   const bool takes_axes = mode == 1 || mode == 2;
@@ -58,7 +58,8 @@ int CtControlModeSet(int mode, int m, int mask) {
   LiftOffline();
   ++AppState.ControlModesSent;
   std::string reply;
-  if (TusinCommand(command, 10, 2000, reply) != 0) return 1;
+  const TusinOptions options{.failure = failure};
+  if (TusinWait(command, 10, 2000, reply, options) != TusinOutcome::Good) return 1;
   if (!takes_axes) AppState.AxesMayBeHeld = False;
   return 0;
 }

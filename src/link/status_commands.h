@@ -16,8 +16,8 @@ int CtComStart(int show_message = 1);
 
 /// "0CM": `m` 0, 1 or 2 (anything else becomes 0), then a digit per axis: `mode` where it is 1 or
 /// 2, the axis is in use and its bit (axis i: 1 << i) stands in `mask`, else 0. Lifts the offline
-/// state.
-int CtControlModeSet(int mode, int m, int mask);
+/// state. Where `failure` is given it takes a failure, and nobody is told.
+int CtControlModeSet(int mode, int m, int mask, TusinFailure* failure = nullptr);
 
 /// "0RA": 1 all axes stand still, 0 an axis moves, -1 failure. Where `failure` is given it takes a
 /// failure, and nobody is told.

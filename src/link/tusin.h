@@ -13,6 +13,10 @@ namespace tr7 {
 /// waiter's.
 Exchange TusinExchange(TusinRequest& request);
 
+/// The stop of axes that is on the line unanswered is sent once more, at once, beside the sends
+/// that its exchange has: 300 ms behind the last at the earliest. True: it has been.
+bool TusinStopAgain();
+
 /// The request timer: brings the next request to the line, goes on with its exchange, and settles
 /// what holds once it is over.
 void TimerTusinTick();

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,14 +21,16 @@ namespace {
 
 using Until = Exchange::Until;
 
-constexpr int kOpenAttempts = 4;
 constexpr int kSends = 4;
-constexpr int kPauseMs = 100;
 constexpr int kResyncTimeoutMs = 100;
-/// What the line gets to bring the answer to a withdrawn request before it counts as dead.
+/// What the line gets to bring the answer to a withdrawn request before it counts as dead, behind
+/// the time that the request's bytes and its answer's take.
 constexpr int kLateReplyTimeoutMs = 1000;
 /// A reply that is under way when a wait is cut short is let in: then the line stays in step.
 constexpr int kCutShortMs = 150;
+constexpr std::int64_t kStopEveryUs = 300'000;
+/// 10 bits at 9600, the slowest pace of the line.
+constexpr std::int64_t kUsPerByte = 10 * 1'000'000 / 9600;
 constexpr std::size_t kPrefixLength = 3;
 constexpr const char* kResyncCommand = "0CM0";
 constexpr const char* kResyncPrefix = "0CM";
@@ -34,9 +38,10 @@ constexpr const char* kErrorPrefix = "0%%";
 
 // What the sequence asks and waits for.
 
-/// A stop waits: this start of a movement is not to follow it, and nothing else holds it up.
+/// A stop waits: this start of a movement is not to follow it, and nothing else holds it up. A stop
+/// of programs makes way for one of axes.
 bool IsOvertaken(const TusinRequest& request) {
-  return request.priority != TusinPriority::Next && TusinQueue.StopWaits();
+  return TusinQueue.StopWaits() && TusinQueue.waiting.front()->priority > request.priority;
 }
 /// It must not go out, or not once more.
 bool IsWithdrawn(const TusinRequest& request) {
@@ -58,8 +63,11 @@ bool IsAnswered(const TusinRequest&) {
 bool IsAnsweredOrCutShort(const TusinRequest& request) {
   return IsAnswered(request) || IsCutShort(request);
 }
+bool EndsByGroupMoveStop(const TusinRequest& request) {
+  return AppState.GroupMoveStop && !IsUrgent(request);
+}
 bool IsResyncOver(const TusinRequest& request) {
-  return IsAnswered(request) || AppState.GroupMoveStop || IsOvertaken(request);
+  return IsAnswered(request) || EndsByGroupMoveStop(request) || IsOvertaken(request);
 }
 
 // Its steps.
@@ -69,13 +77,29 @@ void StartTimeout(int ms) {
   frmMain.timerTimeout.Start(ms);
 }
 
+void NoteSent(std::size_t bytes) {
+  const std::int64_t now_us = doors.pump->NowUs();
+  TusinQueue.sent_us = now_us;
+  TusinQueue.line_busy_us =
+      std::max(TusinQueue.line_busy_us, now_us) + static_cast<std::int64_t>(bytes) * kUsPerByte;
+}
+
+/// What the line needs still for what it has been handed.
+int LineBusyMs() {
+  const std::int64_t rest_us = TusinQueue.line_busy_us - doors.pump->NowUs();
+  return static_cast<int>(std::max<std::int64_t>(rest_us, 0) / 1000);
+}
+
 /// Sends one line and arms the time-out; false when the port has died. The reply's length is 0
 /// where nobody knows it.
 bool SendLine(const std::string& line, int timeout_ms, int reply_length) {
   StartTimeout(timeout_ms);
   AppState.TusinReplyReady = False;
-  doors.serial->ExpectReply(static_cast<std::size_t>(reply_length));
-  return doors.serial->Write(line + "\r\n");
+  const auto reply_bytes = static_cast<std::size_t>(reply_length);
+  doors.serial->ExpectReply(reply_bytes);
+  const std::string bytes = line + "\r\n";
+  NoteSent(bytes.size() + reply_bytes);
+  return doors.serial->Write(bytes);
 }
 
 TusinEnd PortLost() {
@@ -92,8 +116,7 @@ std::string_view LastLine(std::string_view lines) {
 /// A stop that cut something short may meet the reply to that first, ahead of its own or alone.
 /// True: its own is still to come.
 bool DropLateReply(const TusinRequest& request) {
-  if (request.priority != TusinPriority::Next || !TusinQueue.late_reply_possible ||
-      !AppState.TusinReplyReady) {
+  if (!IsUrgent(request) || !TusinQueue.late_reply_possible || !AppState.TusinReplyReady) {
     return false;
   }
   const std::string prefix = request.message.substr(0, kPrefixLength);
@@ -104,13 +127,21 @@ bool DropLateReply(const TusinRequest& request) {
   return !AppState.TusinReplyReady;
 }
 
+/// The answers to a stop that was sent once more: both in one piece, or one is still to come.
+void TakeOneAnswer() {
+  AppState.TusinReplyText = LastLine(AppState.TusinReplyText);
+  TusinQueue.late_reply_possible |= !AppState.TusinReplyText.starts_with(kErrorPrefix);
+}
+
 TusinEnd JudgeReply(TusinRequest& request) {
   const std::string& reply = AppState.TusinReplyText;
-  if (reply.starts_with(kErrorPrefix)) return TusinEnd::ErrorReply;
-  if (!reply.starts_with(request.message.substr(0, kPrefixLength))) return TusinEnd::BadPrefix;
-  if (static_cast<int>(reply.size()) != request.reply_length) return TusinEnd::BadLength;
+  const bool error = reply.starts_with(kErrorPrefix);
+  if (!error) {
+    if (!reply.starts_with(request.message.substr(0, kPrefixLength))) return TusinEnd::BadPrefix;
+    if (static_cast<int>(reply.size()) != request.reply_length) return TusinEnd::BadLength;
+  }
   request.reply = reply;
-  return TusinEnd::Good;
+  return error ? TusinEnd::ErrorReply : TusinEnd::Good;
 }
 
 /// How an exchange ends whose bad reply (`verdict`) the controller was asked for sense about;
@@ -121,7 +152,7 @@ std::optional<TusinEnd> JudgeResync(const TusinRequest& request, TusinEnd verdic
     return TusinEnd::Withdrawn;
   }
   const std::string& reply = AppState.TusinReplyText;
-  if (AppState.GroupMoveStop) return TusinEnd::GroupMoveStopped;
+  if (EndsByGroupMoveStop(request)) return TusinEnd::GroupMoveStopped;
   if (!AppState.TusinReplyReady) return verdict;
   if (reply.starts_with(kErrorPrefix)) return TusinEnd::ErrorInResync;
   if (!reply.starts_with(kResyncPrefix)) return verdict;
@@ -130,12 +161,23 @@ std::optional<TusinEnd> JudgeResync(const TusinRequest& request, TusinEnd verdic
 
 }  // namespace
 
+bool TusinStopAgain() {
+  TusinRequest* request = TusinQueue.on_line;
+  const bool unanswered = request && request->awaits_reply && !IsAnswered(*request);
+  if (!unanswered || request->priority != TusinPriority::Stop) return false;
+  if (doors.pump->NowUs() - TusinQueue.sent_us < kStopEveryUs) return false;
+  request->sent_again = true;
+  const std::string bytes = request->message + "\r\n";
+  NoteSent(bytes.size());
+  return doors.serial->Write(bytes);
+}
+
 Exchange TusinExchange(TusinRequest& request) {
   if (PortIsLost()) co_return PortLost();
   for (bool resent = false;; resent = true) {
     for (int attempt = 1; TusinPortOpen() != 0; ++attempt) {
-      if (attempt == kOpenAttempts) co_return TusinEnd::PortFailed;
-      StartTimeout(kPauseMs);
+      if (attempt == kPortOpenAttempts) co_return TusinEnd::PortFailed;
+      StartTimeout(kPortOpenPauseMs);
       co_await Until{IsPauseOver};
       if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
     }
@@ -143,8 +185,10 @@ Exchange TusinExchange(TusinRequest& request) {
 
     // Replies come in order: once the controller has answered this, the late one is past. A stop
     // does not wait for that, a late reply to something else cannot pass for its own.
-    bool flush = TusinQueue.late_reply_possible && request.priority != TusinPriority::Next;
-    if (flush && !SendLine(kResyncCommand, kLateReplyTimeoutMs, 0)) co_return PortLost();
+    bool flush = TusinQueue.late_reply_possible && !IsUrgent(request);
+    if (flush && !SendLine(kResyncCommand, kLateReplyTimeoutMs + LineBusyMs(), 0)) {
+      co_return PortLost();
+    }
     while (flush) {
       co_await Until{IsAnsweredOrCutShort};
       if (PortIsLost()) co_return PortLost();
@@ -162,6 +206,7 @@ Exchange TusinExchange(TusinRequest& request) {
       if (!SendLine(request.message, request.timeout_ms, request.reply_length)) {
         co_return PortLost();
       }
+      request.awaits_reply = true;
       co_await Until{IsAnsweredOrCutShort};
       if (DropLateReply(request)) co_await Until{IsAnswered};
       if (IsCutShort(request)) {
@@ -174,6 +219,9 @@ Exchange TusinExchange(TusinRequest& request) {
       if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
       if (sends == kSends) co_return TusinEnd::TimedOut;
     }
+    request.awaits_reply = false;
+    TusinQueue.line_busy_us = 0;
+    if (request.sent_again) TakeOneAnswer();
     const TusinEnd verdict = JudgeReply(request);
     if (verdict != TusinEnd::BadPrefix && verdict != TusinEnd::BadLength) co_return verdict;
 

@@ -21,9 +21,7 @@ bool StopMayGo() {
   return stop && !AppState.Closing && !AppState.Offline;
 }
 
-bool IsNoStop(const TusinRequest* request) {
-  return request && request->priority != TusinPriority::Next;
-}
+bool IsNoStop(const TusinRequest* request) { return request && !IsUrgent(*request); }
 
 /// There is a request that must not go out.
 bool MustGiveUp() {
@@ -79,6 +77,8 @@ void NoteFailure(const TusinRequest& request) {
 }
 
 void Settle(TusinRequest& request, TusinEnd end) {
+  // Only a stop of axes withdraws a stop of programs, and forgets nothing by it.
+  if (end == TusinEnd::Withdrawn && IsUrgent(request)) return TusinQueue.PutBack();
   TusinQueue.FinishOnLine(end);
   if (end == TusinEnd::Withdrawn) return;
   if (end == TusinEnd::Good) return NoteSuccess();
@@ -114,7 +114,8 @@ void TimerJusinTick() {
   std::string& buffer = AppState.TusinRxBuffer;
   buffer += doors.serial->ReadAll();
   // A line that never ends must not fill the memory; the exchange times out and starts anew.
-  constexpr std::size_t kLongestLine = 4096;
+  // The longest is a program of 255 steps, and another one may come late in the same piece.
+  constexpr std::size_t kLongestReply = 255 * 19 + 7, kLongestLine = 2 * kLongestReply;
   if (buffer.size() > kLongestLine) buffer.clear();
   if (!buffer.ends_with("\r\n")) return;
   AppState.TusinReplyReady = True;

@@ -59,7 +59,10 @@ std::string FailureText(TusinEnd end) {
 /// Tells the user; where the line is shut until then, the state goes offline behind the box.
 void TellFailure(const TusinRequest& request, const TusinOptions& options) {
   const std::string text = FailureText(request.end);
-  if (options.failure) options.failure->text = text;
+  if (options.failure) {
+    options.failure->text = text;
+    if (request.end == TusinEnd::ErrorReply) options.failure->reply = request.reply;
+  }
   if (options.show_message && !options.failure && !text.empty()) MsgBox(text);
   if (TusinQueue.untold != &request) return;
   TusinPortCloseForce();
@@ -85,7 +88,8 @@ TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout
   const Queued queued(request);
   if (!queued) return TusinOutcome::QueueFull;
   while (!request.done) Pump();
-  if (options.failure) *options.failure = {request.end, request.sends, {}};
+  if (options.failure) *options.failure = {request.end, request.sends, {}, {}};
+  if (options.sent) *options.sent = {request.end, request.sends};
   switch (request.end) {
     case TusinEnd::Good:
       reply = request.reply;
@@ -113,8 +117,6 @@ int TusinCommand(const std::string& command, int reply_length, int timeout_ms, s
 bool TusinRefusedAtOnce() {
   return TusinQueue.failed_end == TusinEnd::ErrorReply && TusinQueue.failed_sends == 1;
 }
-
-bool TusinTookNothing() { return TusinQueue.failed_sends == 0 || TusinRefusedAtOnce(); }
 
 void TusinAbort() {
   TusinWaitMs(kRestMs);

@@ -17,8 +17,20 @@ enum class TusinOutcome {
 /// What became of a request that failed, for a caller that has something to do before it tells.
 struct TusinFailure {
   TusinEnd end = TusinEnd::Good;
-  int sends = 0;     ///< how often the request has been handed to the port
-  std::string text;  ///< the words for the user; empty where there is nothing to tell
+  int sends = 0;           ///< how often the request has been handed to the port
+  std::string text;        ///< the words for the user; empty where there is nothing to tell
+  std::string reply = {};  ///< the controller's own, with CR LF; of `TusinEnd::ErrorReply`
+};
+
+/// How one request ended, and how often it had been handed to the port by then.
+struct TusinSent {
+  TusinEnd end = TusinEnd::GivenUp;
+  int sends = 0;
+  /// Refused at its first send. An error reply to a later one leaves open what became of those
+  /// before.
+  bool RefusedAtOnce() const { return end == TusinEnd::ErrorReply && sends == 1; }
+  /// The controller has taken nothing of it.
+  bool TookNothing() const { return sends == 0 || RefusedAtOnce(); }
 };
 
 struct TusinOptions {
@@ -26,6 +38,7 @@ struct TusinOptions {
   bool show_message = true;  ///< the user is told of a failure of this request
   /// Where given, it takes the failure: nobody is told, and the call returns at once.
   TusinFailure* failure = nullptr;
+  TusinSent* sent = nullptr;  ///< takes how it ended, well or not; the user is told all the same
 };
 
 /// Queues one request and pumps until it is done. It may be called from any handler, also inside
@@ -46,8 +59,6 @@ struct TusinOptions {
 /// The last request that failed was refused at its first send: the controller has taken nothing of
 /// it. An error reply to a later send leaves open what became of the sends before.
 bool TusinRefusedAtOnce();
-/// The same, or it has never been handed to the port.
-bool TusinTookNothing();
 
 /// Lets the line come to rest for about 110 ms, then gives up everything queued, a stop apart.
 void TusinAbort();

@@ -5,11 +5,13 @@
 #include "link/port.h"
 #include "motion/home_state.h"
 #include "motion/motion_log.h"
+#include "motion/motion_tabs.h"
 #include "motion/move_flows.h"
 #include "motion/move_prologue.h"
 #include "motion/move_steps.h"
 #include "motion/present_pos.h"
 #include "motion/running_flow.h"
+#include "state/app_state.h"
 #include "state/message_box.h"
 
 namespace tr7 {
@@ -18,6 +20,7 @@ namespace {
 constexpr int kMsgRange = 569;
 constexpr int kFirstNo = 1, kLastNo = 999;
 constexpr int kActionStart = 5416, kStarted = 5414;
+constexpr int kActionPause = 5265, kActionStop = 5266, kAtStepsEnd = 5513, kGivenUp = 5514;
 
 std::int16_t NumberIn(const Label& label) { return static_cast<std::int16_t>(Val(label.Caption)); }
 std::int16_t StartNo() { return NumberIn(frmPosi.Move.lblStartPosiNo); }
@@ -59,7 +62,7 @@ bool MoveToNext() {
 void Steps() {
   PosiMoveTest& f = frmPosi.Move;
   const MotionScope motion(Motion::Move);
-  const auto ended = [] { return IsEnded() || StopAsked(); };
+  const auto ended = [] { return IsEnded() || MustRest(); };
   while (!IsEnded() && BackToStartAtEnd()) {
     if (!MoveToNext() || IsEnded() || IsSingle()) break;
     if (Waits()) WaitBetweenSteps(f.txtTimer2.Text, ended);
@@ -89,7 +92,29 @@ void cmdMove_Click() {
   f.MoveStop2Req = False;
 }
 
-void cmdTempStop2_Click() { frmPosi.Move.MoveTempStop2 = True; }
-void cmdStop2_Click() { frmPosi.Move.MoveStop2Req = True; }
+void cmdTempStop2_Click() {
+  LogMotion(kActionPause, "", kAtStepsEnd);
+  frmPosi.Move.MoveTempStop2 = True;
+}
+
+void cmdStop2_Click() {
+  const bool runs = MotionNow.Flow == MoveFlow::Continue;
+  LogMotion(kActionStop, "", runs ? MsgId(kAtStepsEnd) : MsgId(kGivenUp));
+  if (runs) {
+    frmPosi.Move.MoveStop2Req = True;
+    return;
+  }
+  frmPosi.Move.MoveTempStop2 = False;
+  frmPosi.Move.MoveContNo = StartNo();
+  ShowKeptPlaces();
+}
+
+int ContinuePlace() {
+  const PosiMoveTest& f = frmPosi.Move;
+  const bool kept = f.MoveTempStop2 && !IsSingle() && f.MoveContNo >= StartNo();
+  if (AppState.Offline || !kept) return 0;
+  if (f.MoveContNo <= EndNo()) return f.MoveContNo;
+  return f.chkRepeat2.Value ? StartNo() : 0;
+}
 
 }  // namespace tr7

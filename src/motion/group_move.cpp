@@ -17,7 +17,8 @@ namespace {
 
 constexpr int kMsgNotInProgramMode = 1039, kMsgBadRange = 6542;
 constexpr int kFirstNo = 1, kLastNo = 999;
-constexpr int kActionStart = 5417, kStarted = 5414;
+constexpr int kActionStart = 5417, kStarted = 5414, kNotSent = 5413;
+constexpr int kActionStop = 5266, kAtStepsEnd = 5513;
 
 bool IsGood(const GroupNumbers& range) {
   return range.first >= kFirstNo && range.last <= kLastNo && range.first <= range.last;
@@ -37,12 +38,15 @@ void Steps(const GroupNumbers& range) {
 }  // namespace
 
 void cmdGrpMove_Click() {
-  if (AppState.CtMode) return Tell(kMsgNotInProgramMode);
+  if (AppState.CtMode) {
+    LogMotion(kActionStart, "", kNotSent);
+    return Tell(kMsgNotInProgramMode);
+  }
   const RunningFlow flow(MoveFlow::Group);
-  LogMotion(kActionStart, "", kStarted);
   frmPosi.Move.GrpStopReq = False;
   AppState.GroupMoveStop = False;
   const GroupNumbers range = GroupRange();
+  LogMotion(kActionStart, "", IsGood(range) ? MsgId(kStarted) : MsgId(kNotSent));
   if (!IsGood(range)) {
     MsgBox(Text(kMsgBadRange, std::to_string(frmPosi.Move.sldrGrpNo.Value),
                 std::to_string(range.first), std::to_string(range.last)));
@@ -52,6 +56,9 @@ void cmdGrpMove_Click() {
   AppState.GroupMoveStop = False;
 }
 
-void cmdGrpMoveStop_Click() { frmPosi.Move.GrpStopReq = AppState.GroupMoveStop = True; }
+void cmdGrpMoveStop_Click() {
+  LogMotion(kActionStop, "", kAtStepsEnd);
+  frmPosi.Move.GrpStopReq = AppState.GroupMoveStop = True;
+}
 
 }  // namespace tr7

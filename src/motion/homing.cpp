@@ -7,6 +7,7 @@
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "motion/home_state.h"
+#include "motion/motion_log.h"
 #include "motion/motion_now.h"
 #include "motion/move_steps.h"
 #include "motion/present_pos.h"
@@ -20,13 +21,16 @@ namespace tr7 {
 namespace {
 
 constexpr int kHomePosition = 0;
-constexpr int kActionHome = 5406;
+constexpr int kActionHome = 5406, kNotSent = 5413;
 constexpr int kFirstHomeLine = 562, kHomeLines = 7;
 constexpr const char* kHomeSensorAlarm = "0%%134";
 
 /// From before the start to the axes at home.
 Rest GoHome(TusinFailure& failure) {
-  if (StopAsked()) return Rest::Stopped;
+  if (MustRest()) {
+    LogMotion(kActionHome, "", kNotSent);
+    return Rest::Stopped;
+  }
   // Until the axes are home there is nothing to go on from.
   AppState.HomeDone = False;
   ShowHomeState();
@@ -46,10 +50,10 @@ std::string HomeSensorText() {
   return text;
 }
 
-/// Why the homing has failed: the sensor has its own advice.
+/// Why the homing has failed: the sensor has its own advice. The stop and its polls behind the
+/// failure may have been refused with another alarm since.
 void TellHomingFailure(const TusinFailure& failure) {
-  const bool sensor =
-      failure.end == TusinEnd::ErrorReply && AppState.LastCtErrorText.starts_with(kHomeSensorAlarm);
+  const bool sensor = failure.reply.starts_with(kHomeSensorAlarm);
   const std::string text = sensor ? HomeSensorText() : failure.text;
   if (!text.empty()) MsgBox(text);
 }
@@ -57,7 +61,10 @@ void TellHomingFailure(const TusinFailure& failure) {
 }  // namespace
 
 void HomeRun() {
-  if (!ConnectOrOpenPort() || StopAsked() || CtComStart() != 0 || !AxesAreAtRest()) return;
+  if (!ConnectOrOpenPort() || StopAsked() || CtComStart() != 0 || !AxesAreAtRest()) {
+    LogMotion(kActionHome, "", kNotSent);
+    return;
+  }
   TusinFailure failure;
   switch (GoHome(failure)) {
     case Rest::Standing:

@@ -13,6 +13,7 @@
 #include "motion/move_steps.h"
 #include "motion/present_pos.h"
 #include "motion/stop.h"
+#include "motion/teaching_session.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
@@ -46,6 +47,7 @@ void EndPress() {
   f.JogPending = f.JogRunning = False;
   JogButtonsOn();
   FocusAway();
+  EndLostTeaching();
 }
 
 /// The axis has been stopped, or the user told that it could not be: shows where it came to rest.
@@ -105,8 +107,8 @@ bool MoveAStep(int step, int index) {
   return rest != Rest::Failed;
 }
 
-/// The session is over, or the user has asked for rest since: then nothing is to move.
-bool GivenUp() { return !frmPosi.Teach.JogPending || StopAsked(); }
+/// The session is over, or all must rest: then nothing is to move.
+bool GivenUp() { return !frmPosi.Teach.JogPending || MustRest(); }
 
 void Inch(int step, int index) {
   if (ReadnDisp_PresentPos() == 0 && !GivenUp() && MoveAStep(step, index) &&
@@ -130,9 +132,10 @@ void JogButtonsOn() {
 
 void cmdJOG_MouseDown(int index) {
   PosiTeaching& f = frmPosi.Teach;
+  const MsgId action = f.optJOG.Value ? MsgId(kActionJog) : MsgId(kActionInching);
   if (!f.JogArmed || RequestsPending() > kMostPending) {
     f.JogPressIgnored = True;
-    return;
+    return LogMotion(action, "", kNotSent);
   }
   f.JogPending = True;
   f.JogPressIgnored = f.JogReleased = f.JogArmed = False;
@@ -147,7 +150,7 @@ void cmdJOG_MouseDown(int index) {
   // The hand may have left while the controller was asked.
   const bool released = f.JogIsContinuous && f.JogReleased;
   if (!at_rest || released || GivenUp()) {
-    LogMotion(f.JogIsContinuous ? MsgId(kActionJog) : MsgId(kActionInching), "", kNotSent);
+    LogMotion(action, "", kNotSent);
     EndPress();
     return SettleOnlineState();
   }

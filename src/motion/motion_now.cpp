@@ -3,14 +3,31 @@
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "platform/doors.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 
 namespace tr7 {
 
 MotionNowRecord MotionNow;
 
-void BeginAct() { MotionNow.StopsBefore = MotionNow.StopsAsked; }
+namespace {
+
+constexpr int kNoGuardNote = 5286;
+
+}  // namespace
+
+void BeginAct() {
+  MotionNow.StopsBefore = MotionNow.StopsAsked;
+  MotionNow.SleptUsBefore = doors.pump->SleptUs();
+}
+
 bool StopAsked() { return MotionNow.StopsAsked != MotionNow.StopsBefore; }
+
+bool HasSlept() {
+  // Two clocks are read for it, one behind the other.
+  constexpr std::int64_t kShortestSleepUs = 100'000;
+  return doors.pump->SleptUs() - MotionNow.SleptUsBefore > kShortestSleepUs;
+}
 
 bool SomethingMoves() { return MotionNow.Kind != Motion::None || MotionNow.MayRunOn; }
 bool MotionIsComing() { return MotionNow.Flow != MoveFlow::None || frmPosi.Teach.JogPending; }
@@ -24,7 +41,9 @@ void ShowMotionLamp() {
 
 void BeginMotion(Motion kind) {
   MotionNow.Kind = kind;
-  if (doors.guard) doors.guard->Watch(kind == Motion::Jog);
+  // A simulated axis ends with the tool.
+  MotionNow.Unguarded =
+      doors.guard && !doors.guard->Watch(kind == Motion::Jog) && !doors.serial->IsSimulated();
   ShowMotionLamp();
 }
 
@@ -39,6 +58,8 @@ void EndMotion() {
       doors.guard->Rest();
     }
   }
+  // Behind the last reply, which empties the panel.
+  if (MotionNow.Unguarded) TellInStatusPanel(Text(kNoGuardNote));
   ShowMotionLamp();
 }
 

@@ -19,15 +19,20 @@ struct MotionNowRecord {
   Bool16 MayRunOn;               ///< a stop was not taken: an axis may be moving still
   std::int32_t StopsAsked = 0;   ///< stops by the red button or Escape: a flow ends where it rises
   std::int32_t StopsBefore = 0;  ///< how many there were when the user's latest act began
-  Bool16 CloseAsked;             ///< the user is closing the tool, and a flow has to end first
+  std::int64_t SleptUsBefore = 0;  ///< how long the computer had slept by then
+  Bool16 CloseAsked;               ///< the user is closing the tool, and a flow has to end first
+  Bool16 Unguarded;           ///< there is a guard, but it does not watch the motion begun last
+  std::int32_t RowsDone = 0;  ///< of the list of the selective move, from its first row on
 };
 
 extern MotionNowRecord MotionNow;
 
-/// The user begins what may set something in motion: stops count for it from here on.
+/// The user begins what may set something in motion: stops and sleep count for it from here on.
 void BeginAct();
 /// The red button or Escape has been pressed since.
 bool StopAsked();
+/// The computer has slept since: who pressed the button may be gone, and somebody else be there.
+bool HasSlept();
 
 /// Something moves by this tool's command, or may do so.
 bool SomethingMoves();

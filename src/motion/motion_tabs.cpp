@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kHoldTip = 5287, kNoSessionTip = 5288, kOfflineTip = 5289, kMovingTip = 5290;
 constexpr int kAtTheEndTip = 5293, kNoServoTip = 5294, kNoGuardNote = 5286, kEmergencyNote = 5285;
+constexpr int kRowWords = 5510;
 constexpr int kAxis1 = 220;
 constexpr int kMoveTab = 1, kTeachingTab = 2;
 
@@ -54,20 +55,17 @@ void ShowMoveTab() {
   for (CommandButton* start : {&f.cmdHome, &f.cmdSelectMove, &f.cmdMove, &f.cmdGrpMove}) {
     Switch(*start, idle, why_not);
   }
-  const auto stops = [](MoveFlow flow, std::initializer_list<CommandButton*> buttons) {
-    for (CommandButton* button : buttons) button->Enabled = MotionNow.Flow == flow;
-  };
-  stops(MoveFlow::Select, {&f.cmdTmpStop, &f.cmdStop});
-  stops(MoveFlow::Continue, {&f.cmdTempStop2, &f.cmdStop2});
-  stops(MoveFlow::Group, {&f.cmdGrpMoveStop});
+  f.cmdTmpStop.Enabled = MotionNow.Flow == MoveFlow::Select;
+  f.cmdTempStop2.Enabled = MotionNow.Flow == MoveFlow::Continue;
+  f.cmdGrpMoveStop.Enabled = MotionNow.Flow == MoveFlow::Group;
   for (Control* setting : std::initializer_list<Control*>{
            &f.flgdProgram, &f.chkNoSqMcr1, &f.optMoveWay[0], &f.optMoveWay[1], &f.sldrStartPosiNo,
            &f.updownStartPosiNo, &f.chkNoSqMcr2, &f.sldrGrpNo}) {
     setting->Enabled = MotionNow.Flow == MoveFlow::None;
   }
-  if (MotionNow.Flow == MoveFlow::None) f.lblNextNo.Caption = "-";
   ShowMoveRange();
   ShowGroupRange();
+  ShowKeptPlaces();
 }
 
 /// What moves by a hand or by a step is not interfered with from beside it.
@@ -127,7 +125,7 @@ void ShowTeachingTab() {
     Switch(*take, session && f.JogButtonsAreOn && !AxisIsServed(), no_take);
   }
   f.lblJogVEL.Caption = std::to_string(f.sldrJogVEL.Value);
-  const bool guarded = doors.guard && doors.guard->IsThere();
+  const bool guarded = doors.guard && doors.guard->IsThere() && !MotionNow.Unguarded;
   f.lblTeachNote.Caption = Text(kEmergencyNote);
   if (!guarded) f.lblTeachNote.Caption += " " + Text(kNoGuardNote);
   ShowTeachLine();
@@ -146,6 +144,19 @@ void ShowTabs() {
 }
 
 }  // namespace
+
+void ShowKeptPlaces() {
+  PosiMoveTest& f = frmPosi.Move;
+  const bool idle = MotionNow.Flow == MoveFlow::None;
+  const int row = SelectPlace(), number = ContinuePlace();
+  f.cmdStop.Enabled = MotionNow.Flow == MoveFlow::Select || (idle && row > 0);
+  f.cmdStop2.Enabled = MotionNow.Flow == MoveFlow::Continue || (idle && number > 0);
+  if (!idle) return;
+  std::string& next = f.lblNextNo.Caption;
+  next = row > 0 ? Text(kRowWords, std::to_string(row)) : "";
+  if (number > 0) next += (next.empty() ? "" : ", ") + std::to_string(number);
+  if (next.empty()) next = "-";
+}
 
 void ShowMotionTabs() {
   ShowTabs();

@@ -15,6 +15,7 @@
 #include "motion/present_pos.h"
 #include "motion/stop.h"
 #include "motion/teaching.h"
+#include "motion/teaching_session.h"
 #include "session/followers.h"
 #include "state/app_state.h"
 
@@ -73,6 +74,7 @@ void InstallMotion() {
   frmPosi.MotionTabs = ShowMotionTabs;
   frmMain.cmdStopNow.Click = [] { StopAtOnce(); };
   frmMain.Escape = StopAtOnce;
+  TeachingSession.EndAsLost = EndTeachingAsLost;
   Followers.StopBeforeTheEnd = StopBeforeTheEnd;
   Followers.SessionBegins = [] {
     ForgetPauses();
@@ -87,6 +89,7 @@ void ResetMotion() {
   PresentPos = PresentPosRecord{};
   InchingFrame.clear();
   TeachingSession.commands_off.reset();
+  TeachingSession.lost = false;
 }
 
 }  // namespace tr7

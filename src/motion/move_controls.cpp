@@ -1,23 +1,29 @@
+#include <algorithm>
 #include <string>
 
 #include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "motion/group_range.h"
+#include "motion/motion_now.h"
+#include "motion/motion_tabs.h"
 #include "motion/move_flows.h"
 #include "state/message_box.h"
+#include "state/text.h"
 
 namespace tr7 {
 namespace {
 
-constexpr int kMsgWaitRange = 6547;
+constexpr int kMsgWaitRange = 6547, kRowIsDone = 5515;
 constexpr int kMostWait = 999;
 constexpr int kNumberWidth = 800;  // twips
 
-/// A number that a slider and an up-down both set, and a label shows.
+/// A number that a slider and an up-down both set, and a label shows. A place may lie in the range
+/// now, or outside.
 void Couple(Slider& slider, UpDown& updown, Label& label) {
   const auto show = [&slider, &updown, &label](int value) {
     slider.Value = updown.Value = value;
     label.Caption = std::to_string(value);
+    ShowKeptPlaces();
   };
   slider.Change = [show, &slider] { show(slider.Value); };
   updown.Change = [show, &updown] { show(updown.Value); };
@@ -31,6 +37,21 @@ void RefuseLongWait(TextBox& wait) {
   if (Val(wait.Text) <= kMostWait) return;
   Tell(kMsgWaitRange);
   wait.Text = std::to_string(kMostWait);
+}
+
+bool IsDone(int row, int col) { return col == 1 && row <= MotionNow.RowsDone; }
+
+void MarkDone(Grid& list) {
+  list.IsMarked = IsDone;
+  list.CellToolTip = [](int row, int col) {
+    return IsDone(row, col) ? Text(kRowIsDone) : std::string();
+  };
+  // What is typed into a row has not been moved to.
+  list.AcceptEdit = [](int row, int, std::string&) {
+    MotionNow.RowsDone = std::min(MotionNow.RowsDone, row - 1);
+    return EditVerdict{};
+  };
+  list.SelChange = ShowKeptPlaces;
 }
 
 void FillList(Grid& list) {
@@ -59,11 +80,17 @@ void ForgetPauses() {
   PosiMoveTest& f = frmPosi.Move;
   f.MoveTempStop = f.MoveTempStop2 = False;
   f.MoveSelectIndex = f.MoveContNo = 0;
+  MotionNow.RowsDone = 0;
+  f.flgdProgram.Touch();
+  ShowKeptPlaces();
 }
 
 void InstallMoveControls() {
   PosiMoveTest& f = frmPosi.Move;
   FillList(f.flgdProgram);
+  MarkDone(f.flgdProgram);
+  for (CheckBox* repeat : {&f.chkRepeat, &f.chkRepeat2}) repeat->Click = ShowKeptPlaces;
+  for (OptionButton& way : f.optMoveWay) way.Click = ShowKeptPlaces;
   Couple(f.sldrStartPosiNo, f.updownStartPosiNo, f.lblStartPosiNo);
   Couple(f.sldrEndPosiNo, f.updownEndPosiNo, f.lblEndPosiNo);
   for (TextBox* wait : {&f.txtTimer, &f.txtTimer2}) {

@@ -19,6 +19,11 @@ void cmdTempStop2_Click();
 void cmdStop2_Click();
 void cmdGrpMoveStop_Click();
 
+// Where nothing runs, the stop of a flow that is paused gives up the place that it has kept. The
+// place at which its next start goes on, as a row from 1 or a position number; 0: at the beginning.
+int SelectPlace();
+int ContinuePlace();
+
 /// A pause ends with its session: its place is none of another controller's.
 void ForgetPauses();
 

@@ -23,8 +23,9 @@ namespace {
 /// Positions are read this often while axes move: seldom enough that the end is seen at once.
 constexpr std::int64_t kShowEveryUs = 250'000;
 constexpr int kWaitUnitMs = 100;
-constexpr int kMsgMoving = 6546;
-constexpr int kActionMove = 5409, kTaken = 5411, kNotTaken = 5412;
+constexpr int kMsgMoving = 6546, kMsgSlept = 5508;
+constexpr int kActionMove = 5409, kTaken = 5411, kNotTaken = 5412, kNotSent = 5413;
+constexpr int kAtRest = 5511, kEndedByStop = 5512;
 
 /// Polls until the axes stand. A failure leaves them moving.
 Rest WaitForRest(TusinFailure& failure) {
@@ -54,16 +55,31 @@ bool AxesAreAtRest() {
   return rest == 1;
 }
 
+bool MustRest() {
+  if (StopAsked()) return true;
+  if (!HasSlept()) return false;
+  ++MotionNow.StopsAsked;
+  Tell(kMsgSlept);
+  return true;
+}
+
 Rest StartAndWait(MsgId action, const std::string& frame,
                   const std::function<int(TusinFailure* failure)>& send, TusinFailure& failure) {
-  if (StopAsked()) return Rest::Stopped;
+  if (MustRest()) {
+    LogMotion(action, "", kNotSent);
+    return Rest::Stopped;
+  }
   const bool taken = send(&failure) == 0;
   LogMotion(action, frame, taken ? MsgId(kTaken) : MsgId(kNotTaken));
   if (!taken && !StopAsked() && !MayHaveStarted(failure)) return Rest::Failed;
   // Where a stop has overtaken the start, what it has set in motion brakes.
   const bool polls = taken || StopAsked();
   const Rest rest = polls ? WaitForRest(failure) : Rest::Failed;
-  if (rest == Rest::Failed) StopUnheard(failure);
+  if (rest == Rest::Failed) {
+    StopUnheard(failure);
+  } else {
+    LogMotion(action, "", rest == Rest::Standing ? MsgId(kAtRest) : MsgId(kEndedByStop));
+  }
   return rest;
 }
 

@@ -16,9 +16,13 @@ namespace tr7 {
 /// How a motion ended.
 enum class Rest { Standing, Failed, Stopped };
 
-/// Sends the start of a motion that ends by itself, unless a stop has been asked for, and polls
-/// until the axes stand; where they are is shown on the way. A start or a poll whose answer is lost
-/// is followed by a stop. Nobody is told of it: `failure` has the words.
+/// A stop has been asked for, or the computer has slept since the user's act, which counts as one
+/// and is told: nothing goes out that moves an axis.
+[[nodiscard]] bool MustRest();
+
+/// Sends the start of a motion that ends by itself, unless all must rest, and polls until the axes
+/// stand; where they are is shown on the way. A start or a poll whose answer is lost is followed by
+/// a stop. Nobody is told of it: `failure` has the words.
 [[nodiscard]] Rest StartAndWait(MsgId action, const std::string& frame,
                                 const std::function<int(TusinFailure* failure)>& send,
                                 TusinFailure& failure);

@@ -6,9 +6,14 @@
 #include "forms/hold_button.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
+#include "link/request_queue.h"
 #include "link/status_commands.h"
+#include "link/tusin.h"
+#include "motion/home_state.h"
 #include "motion/motion_log.h"
 #include "motion/motion_now.h"
+#include "motion/present_pos.h"
+#include "motion/teaching_session.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/message_box.h"
@@ -23,6 +28,7 @@ constexpr std::int64_t kLongestBrakingUs = 10'000'000;
 constexpr int kMsgMayMove = 6540, kMsgLineHadFailed = 6541;
 constexpr int kMsgAlarm = 5500, kMsgStopped = 5506;
 constexpr int kActionStop = 5410, kTaken = 5411, kNotTaken = 5412, kNotSent = 5413;
+constexpr int kSentAgain = 5507, kAtRest = 5511;
 
 /// What became of a stop.
 enum class StopEnd {
@@ -53,13 +59,27 @@ StopEnd SendTwice(int timeout_ms) {
   return IsRefused(first) && IsRefused(second) ? StopEnd::Alarm : StopEnd::Unanswered;
 }
 
+/// The line has been opened anew under what is known of the controller, which may have been off
+/// meanwhile: as with any new connection, that holds no more. The flow that is stopped keeps its
+/// place, which is on show; its next start homes first.
+void ForgetSession() {
+  AppState.HomeDone = False;
+  ShowHomeState();
+  ForgetPresentPos();
+  TeachingSession.lost = AppState.TeachingNow;
+}
+
 /// Nobody is told.
 StopEnd SendStops(int timeout_ms) {
   MotionNow.Stopping = True;
+  // It ends the polls of its move without words: not those behind a stop.
+  AppState.GroupMoveStop = False;
+  const bool was_lost = LineIsBarred();
   const ScopeExit stopped([] { MotionNow.Stopping = False; });
   const StopEnd end = SendTwice(timeout_ms);
   SetMayRunOn(!IsTaken(end));
   if (!IsTaken(end)) SetOffline();
+  if (end == StopEnd::TakenAnew || (IsTaken(end) && was_lost)) ForgetSession();
   return end;
 }
 
@@ -75,12 +95,14 @@ bool WaitForBraking(TusinFailure* failure) {
   const std::int64_t until_us = doors.pump->NowUs() + kLongestBrakingUs;
   int rest = ReadAlarmFromCt(failure);
   while (rest == 0 && doors.pump->NowUs() < until_us) rest = ReadAlarmFromCt(failure);
+  if (rest == 1) LogMotion(kActionStop, "", kAtRest);
   return rest == 1;
 }
 
 bool StopAxes(int timeout_ms) {
   const StopEnd end = SendStops(timeout_ms);
   TellStop(end);
+  EndLostTeaching();
   return IsTaken(end);
 }
 
@@ -96,6 +118,7 @@ void StopUnheard(TusinFailure& failure) {
   if (end == StopEnd::Taken && !failure.text.empty()) failure.text += "\n\n" + Text(kMsgStopped);
   // The alarm that has ended the motion is told by the flow that met it.
   if (end != StopEnd::Alarm || failure.end != TusinEnd::ErrorReply) TellStop(end);
+  EndLostTeaching();
 }
 
 bool StopAtOnce() {
@@ -106,7 +129,12 @@ bool StopAtOnce() {
   // A press that is on its way to its start comes to none.
   LetGoOfHeldButton();
   if (!moved) LogMotion(kActionStop, "", kNotSent);
-  if (SomethingMoves() && !MotionNow.Stopping) StopAxes(kStopTimeoutMs);
+  if (!SomethingMoves()) return true;
+  if (!MotionNow.Stopping) {
+    StopAxes(kStopTimeoutMs);
+  } else if (TusinStopAgain()) {
+    LogMotion(kActionStop, "0SP", kSentAgain);
+  }
   return true;
 }
 

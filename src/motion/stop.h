@@ -5,9 +5,9 @@
 namespace tr7 {
 
 /// Stops the axes: "0SP" as the next frame, `timeout_ms` for each send. Where it stays unanswered
-/// or is refused, once more over a new connection; where that fails too, the user is told of the
-/// alarm that refuses it, or that an axis may be moving still, and the lamp stays on. True: the
-/// controller has taken the stop.
+/// or is refused, once more over a new connection, which begins another session; where that fails
+/// too, the user is told of the alarm that refuses it, or that an axis may be moving still, and the
+/// lamp stays on. True: the controller has taken the stop.
 bool StopAxes(int timeout_ms);
 
 /// A stop has been taken: the red button stays on until the axes stand, which is to be soon. False
@@ -24,8 +24,8 @@ bool MayHaveStarted(const TusinFailure& failure);
 void StopUnheard(TusinFailure& failure);
 
 /// The red button and Escape: stops what this tool has set in motion, at once, and keeps back what
-/// is on its way to a motion. The flow that did so ends and keeps its place. False: there is
-/// nothing to stop.
+/// is on its way to a motion. While a stop stays unanswered, each press sends it once more. The
+/// flow that did so ends and keeps its place. False: there is nothing to stop.
 bool StopAtOnce();
 
 /// Whoever ends the session while something moves, or may do so, stops it first.

@@ -15,6 +15,7 @@
 #include "motion/present_pos.h"
 #include "motion/running_flow.h"
 #include "motion/teach_line.h"
+#include "motion/teaching_session.h"
 #include "platform/doors.h"
 #include "posi/posi_check.h"
 #include "posi/posi_grid_fill.h"
@@ -26,20 +27,17 @@
 #include "steps/held_axes.h"
 
 namespace tr7 {
-
-TeachingSessionRecord TeachingSession;
-
 namespace {
 
 constexpr int kMsgProgramRuns = 451, kMsgStopPrograms = 452, kMsgLineFailed = 377,
-              kMsgMayBeHeld = 6363;
+              kMsgMayBeHeld = 6363, kMsgLost = 5509;
 // The control mode of teaching: an axis's digit 1 holds it, so that no input moves it, and 2
 // switches its servo off. One frame carries one of the two: beside a servo that is off the others
 // are plain.
 constexpr int kTeaching = 1, kHeld = 1, kServoOff = 2;
 constexpr int kOn = 2225, kOff = 2226;
 constexpr int kActionStart = 5418, kActionEnd = 5419, kActionDirect = 5420, kActionServo = 5421;
-constexpr int kTaken = 5411, kNotTaken = 5412;
+constexpr int kTaken = 5411, kNotTaken = 5412, kNotSent = 5413;
 
 int ServoMask() {
   int mask = 0;
@@ -82,6 +80,10 @@ void ClearTeaching() {
   for (int axis = 0; axis < kAxes; ++axis) f.ServoOn[axis] = f.SarvoEnable[axis] = False;
 }
 
+/// What is held still from before is given back ahead of the teaching mode: a release behind it
+/// would take that back too. False after the user has been told.
+bool NothingIsHeld() { return !AppState.AxesMayBeHeld || CtControlModeSet(0, 0, 0) == 0; }
+
 bool EnterTeachingMode() {
   if (SendServos(kAllAxes) == 0) return true;
   Tell(kMsgLineFailed);
@@ -113,13 +115,21 @@ bool StartTeaching() {
   }
   const NamedFlow starting(MoveFlow::Teach);
   if (!ConnectOrOpenPort() || StopAsked() || !NoProgramRuns() || !OpenPortOrTell()) return false;
-  if (StopAsked()) return false;
+  if (StopAsked() || !NothingIsHeld()) return false;
   ClearTeaching();
   const bool entered = EnterTeachingMode();
   if (entered && ReadWhereItStands() && !StopAsked()) return true;
   const bool refused = !entered && AppState.AlarmOn;
   if (!refused) LeaveTeachingMode();
   return false;
+}
+
+void LeaveSession() {
+  TeachingSession.lost = false;
+  AppState.TeachingNow = False;
+  TusinPortClose();
+  TeachingSession.commands_off.reset();
+  ShowMotionTabs();
 }
 
 }  // namespace
@@ -152,6 +162,7 @@ void cmdJOGend_Click() {
   if (!AppState.TeachingNow) return;
   // Its key may come while a jog is held: the axis is stopped while the session still knows of it.
   LetGoOfHeldButton();
+  if (!AppState.TeachingNow) return;  // its stop has found the session lost
   ClearTeaching();
   ShowServoBoxes();
   // Nothing is sent into an alarm: the next connection comes after it.
@@ -161,10 +172,17 @@ void cmdJOGend_Click() {
     AxesStayHeld();
     MsgBox(WithReason(Text(kMsgLineFailed), Text(kMsgMayBeHeld)));
   }
-  AppState.TeachingNow = False;
-  TusinPortClose();
-  TeachingSession.commands_off.reset();
-  ShowMotionTabs();
+  LeaveSession();
+}
+
+void EndTeachingAsLost() {
+  ClearTeaching();
+  ShowServoBoxes();
+  // A controller that was off has forgotten the teaching mode, any other is in it still.
+  AppState.AxesMayBeHeld = True;
+  LogMotion(kActionEnd, "", kNotSent);
+  LeaveSession();
+  Tell(kMsgLost);
 }
 
 int ServoApplyToCt(int on) {
@@ -193,7 +211,7 @@ namespace {
 
 /// All servos off: the user pushes the slides, and the read-outs follow.
 void DirectTeachStart() {
-  if (ServoApplyToCt(0) != 0) return;
+  if (ServoApplyToCt(0) != 0 || !AppState.TeachingNow) return;
   frmPosi.Teach.DirectTeaching = True;
   frmPosi.Teach.timerTeaching.Start();
 }

@@ -1,20 +1,11 @@
 #pragma once
 
-#include <optional>
-
-#include "base/axes.h"
-#include "state/busy_scope.h"
-
 namespace tr7 {
-
-/// What a teaching session holds from its start to its end.
-struct TeachingSessionRecord {
-  std::optional<CommandsOff> commands_off;
-};
-extern TeachingSessionRecord TeachingSession;
 
 void cmdJOGST_Click();
 void cmdJOGend_Click();
+/// The way out of a session that was lost, which the user is told.
+void EndTeachingAsLost();
 void chkSarvoOn_Click(int axis);
 void chkDirectTeach_Click();
 void timerTeaching_Tick();

@@ -15,6 +15,10 @@ class EventPump {
   /// Monotonic clock, microseconds.
   virtual std::int64_t NowUs() const = 0;
 
+  /// How long the system has been asleep since it was started, microseconds. `NowUs` stands still
+  /// meanwhile, so nothing else tells of it.
+  virtual std::int64_t SleptUs() const = 0;
+
   /// The local time of day for the user to read: "16:05:33".
   virtual std::string TimeOfDay() const = 0;
   /// The local date: "2024-08-31".

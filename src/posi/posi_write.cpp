@@ -187,7 +187,9 @@ void PosidataLoadtoCt() {
   if (outcome == Outcome::Done) {
     TellDone(376);
   } else {
-    MsgBox(Text(kMsgStopped, std::to_string(next)), MsgButtons::Ok, MsgIcon::Information);
+    // The line that the stop has cut short stands in the range that was stored.
+    MsgBox(WithReason(Text(kMsgStopped, std::to_string(next)), FailedRecordText()), MsgButtons::Ok,
+           MsgIcon::Information);
   }
 }
 

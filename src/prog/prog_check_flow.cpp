@@ -31,16 +31,22 @@ int ProgDataCheck(ProgView& view, bool SilentTail) {
 
 int ProgDataCheckOrPane(ProgView& view, bool SilentTail) {
   if (ProgDataCheck(view, SilentTail) == 0) return 0;
+  // A listing without a step has nothing that could be mended. Any other leaves the mark and the
+  // pane, whose button clears it, also where a step could not be judged.
+  if (ListingSteps(view.flgdProg) == 0) return 1;
   view.Store.ProgSyntaxNg = True;
-  // What could not be judged has been told, and the pane has nothing to show.
-  if (!view.Store.ProgErrList.empty()) ProgErrPaneOpen(view);
+  ProgErrPaneOpen(view);
   return 1;
 }
 
 void programCheck(ProgView& view) {
   const CommandsOff commands_off;
   const BusyScope busy;
-  if (ProgDataCheckOrPane(view, false) == 0) TellDone(133);
+  if (ProgDataCheckOrPane(view, false) != 0) return;
+  // By this command alone. Meant so: the check within a save takes no mark back, and the save asks
+  // about errors also where they have been mended since.
+  view.Store.ProgSyntaxNg = False;
+  TellDone(133);
 }
 
 }  // namespace tr7

@@ -12,7 +12,8 @@ int PrepareProg(ProgView& view);
 /// `SilentTail` leaves out the request to mend it.
 int ProgDataCheck(ProgView& view, bool SilentTail);
 
-/// The same for what sends nothing faulty: errors stay on show in the pane.
+/// The same for what sends nothing faulty: errors stay on show in the pane, and `ProgSyntaxNg`
+/// until the pane is closed or a check of the user's finds none.
 int ProgDataCheckOrPane(ProgView& view, bool SilentTail);
 
 /// `cmdProgCheck`.

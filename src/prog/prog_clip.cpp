@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "base/text_helpers.h"
 #include "platform/doors.h"
 #include "posi/clip_matrix.h"
 #include "prog/command_list.h"
@@ -15,14 +16,29 @@
 #include "state/text.h"
 
 namespace tr7 {
+
+ProgLineClipRecord ProgLineClip;
+
 namespace {
 
+constexpr int kMsgBeyondLimit = 7128, kMsgNoProgLines = 7129;
 constexpr int kMsgCellsRefused = 6359, kMsgLinesBeyond = 6360, kMsgPlace = 6361;
 constexpr std::size_t kCells = kProgColumns - 1;
 constexpr std::size_t kMostLines = 2 * kMostProgSteps;
 
-ClipMatrix ClipLines() {
-  return ParseClipText(doors.clipboard->Text(), kMostLines + 1, kCells + 1);
+ClipMatrix LinesOf(const std::string& text) {
+  return ParseClipText(text, kMostLines + 1, kCells + 1);
+}
+
+bool IsProgLine(const std::vector<std::string>& cells) {
+  return SeekCmdCode(Trim(cells[0])) >= 0 ||
+         std::all_of(cells.begin(), cells.end(), [](const auto& cell) { return cell.empty(); });
+}
+
+bool AreProgLines(const std::string& text) {
+  const ClipMatrix lines = LinesOf(text);
+  if (ClipWidth(lines) != kCells) return false;
+  return text == ProgLineClip.Text || std::all_of(lines.begin(), lines.end(), IsProgLine);
 }
 
 /// A cell with a quote or a tab stands in quotes, a quote within doubled.
@@ -45,8 +61,9 @@ struct Refused {
 /// Pastes cells from a column on; those that would stand beyond the last one are left out.
 void PasteCells(ProgView& view, int step, int column, const std::vector<std::string>& cells,
                 Refused& refused) {
-  for (std::string text : cells) {
+  for (const std::string& cell : cells) {
     if (column > kProgComment) return;
+    std::string text = OneLine(cell);
     if (!text.empty() && SetDataForFlexProg(view, step, column, text) != 0) {
       refused.Add(step, column);
     } else {
@@ -56,7 +73,7 @@ void PasteCells(ProgView& view, int step, int column, const std::vector<std::str
   }
 }
 
-void CopyBlock(const Grid& listing, int first_column, int last_column) {
+std::string CopyBlock(const Grid& listing, int first_column, int last_column) {
   const auto [first, last] = std::minmax({listing.Row, listing.RowSel});
   std::string text;
   for (int step = first; step <= last; ++step) {
@@ -67,6 +84,7 @@ void CopyBlock(const Grid& listing, int first_column, int last_column) {
     }
   }
   doors.clipboard->SetText(text);
+  return text;
 }
 
 bool SelectsSteps(const Grid& listing) {
@@ -74,33 +92,54 @@ bool SelectsSteps(const Grid& listing) {
          std::max(listing.Row, listing.RowSel) < listing.Rows();
 }
 
-void TellPasted(const Refused& refused, int beyond) {
+/// `left_out`: of the lines that were not pasted, in words.
+void TellPasted(const Refused& refused, const std::string& left_out) {
   std::string told;
   if (refused.count > 0) {
     told = Text(kMsgCellsRefused, std::to_string(refused.count), refused.first);
   }
-  if (beyond > 0) told += Text(kMsgLinesBeyond, std::to_string(beyond));
+  told += left_out;
   if (!told.empty()) TellInStatusPanel(told);
 }
 
-/// From a cell on, downwards; the listing grows up to its limit.
-void PasteFrom(ProgView& view, int step, int column, const ClipMatrix& lines) {
-  if (ReadCommandLst() != 0) return;
-  RememberForUndo(view);
+/// Over the lines from `step` on, as many as there are.
+void PasteOver(ProgView& view, int step, int column, const ClipMatrix& lines) {
+  const int count = std::min(static_cast<int>(lines.size()), view.flgdProg.Rows() - step);
   Refused refused;
-  int beyond = 0;
   {
     const ListingQuiet quiet(view.flgdProg);
-    for (const auto& cells : lines) {
-      if (step >= view.flgdProg.Rows() && !AppendProgLine(view)) {
-        ++beyond;
-      } else {
-        PasteCells(view, step++, column, cells, refused);
-      }
+    for (int i = 0; i < count; ++i) {
+      PasteCells(view, step + i, column, lines[static_cast<std::size_t>(i)], refused);
     }
   }
   view.Store.ProgChanged = True;
-  TellPasted(refused, beyond);
+  const int beyond = static_cast<int>(lines.size()) - count;
+  TellPasted(refused, beyond > 0 ? Text(kMsgLinesBeyond, std::to_string(beyond)) : std::string());
+}
+
+/// Above `step`, the first ones that the program has room for.
+void InsertLines(ProgView& view, int step, const ClipMatrix& lines) {
+  Grid& listing = view.flgdProg;
+  const bool is_new = ListingSteps(listing) == 1 && CellsOfStep(listing, 1) == ProgCells();
+  const int limit = ListingLimit(view);
+  const int room = std::max(limit - ListingSteps(listing) + (is_new ? 1 : 0), 0);
+  const int count = std::min(static_cast<int>(lines.size()), room);
+  Refused refused;
+  if (count > 0) {
+    RememberForUndo(view);
+    const ListingQuiet quiet(listing);
+    for (int i = is_new ? 1 : 0; i < count; ++i) listing.InsertRow(step);
+    FGProg_ReNumber(listing);
+    for (int i = 0; i < count; ++i) {
+      PasteCells(view, step + i, kProgCommand, lines[static_cast<std::size_t>(i)], refused);
+    }
+    view.Store.ProgChanged = True;
+    listing.Select(step, kProgCommand, step + count - 1, kProgComment);
+  }
+  const int beyond = static_cast<int>(lines.size()) - count;
+  TellPasted(refused, beyond > 0
+                          ? Text(kMsgBeyondLimit, std::to_string(limit), std::to_string(beyond))
+                          : std::string());
 }
 
 }  // namespace
@@ -110,10 +149,10 @@ void PrgDataLineCopy(ProgView& view) {
     MsgBox(Text(392), MsgButtons::Ok, MsgIcon::Error);
     return;
   }
-  CopyBlock(view.flgdProg, kProgCommand, kProgComment);
+  ProgLineClip.Text = CopyBlock(view.flgdProg, kProgCommand, kProgComment);
 }
 
-bool ClipHoldsProgLines() { return ClipWidth(ClipLines()) == kCells; }
+bool ClipHoldsProgLines() { return AreProgLines(doors.clipboard->Text()); }
 
 void ProgDataLinePaste(ProgView& view) {
   const Grid& listing = view.flgdProg;
@@ -121,9 +160,10 @@ void ProgDataLinePaste(ProgView& view) {
     MsgBox(Text(337), MsgButtons::Ok, MsgIcon::Error);
     return;
   }
-  const ClipMatrix lines = ClipLines();
-  if (ClipWidth(lines) != kCells) return;
-  PasteFrom(view, std::min(listing.Row, listing.RowSel), kProgCommand, lines);
+  if (ReadCommandLst() != 0) return;
+  const std::string text = doors.clipboard->Text();
+  if (!AreProgLines(text)) return TellInStatusPanel(Text(kMsgNoProgLines));
+  InsertLines(view, std::min(listing.Row, listing.RowSel), LinesOf(text));
 }
 
 void ProgCellsCopy(ProgView& view) {
@@ -135,9 +175,11 @@ void ProgCellsCopy(ProgView& view) {
 void ProgCellsPaste(ProgView& view) {
   const Grid& listing = view.flgdProg;
   const int column = std::min(listing.Col, listing.ColSel);
-  const ClipMatrix lines = ClipLines();
+  const ClipMatrix lines = LinesOf(doors.clipboard->Text());
   if (!SelectsSteps(listing) || column < kProgCommand || lines.empty()) return;
-  PasteFrom(view, std::min(listing.Row, listing.RowSel), column, lines);
+  if (ReadCommandLst() != 0) return;
+  RememberForUndo(view);
+  PasteOver(view, std::min(listing.Row, listing.RowSel), column, lines);
 }
 
 }  // namespace tr7

@@ -131,10 +131,11 @@ ProgWrite WriteProgdataToCt(int program, const std::vector<ProgStep>& steps) {
   if (steps.size() < most) digits += DigitsOf(ProgStep());  // it ends the program
 
   ProgressScope progress(Text(383), 2, true);
-  const Outcome sent =
-      SendEchoed({FrameOf("0WM", program) + digits, kWriteReplyLength, kTimeoutMs, kEcho});
+  TusinSent steps_sent;
+  const Outcome sent = SendEchoed(
+      {FrameOf("0WM", program) + digits, kWriteReplyLength, kTimeoutMs, kEcho}, &steps_sent);
   if (sent != Outcome::Done) {
-    return TusinTookNothing() ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
+    return steps_sent.TookNothing() ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
   }
   progress.Set(1);
   const Outcome ended = SendEchoed({FrameOf("0MW", program), kWriteReplyLength, kTimeoutMs, kEcho});

@@ -32,7 +32,7 @@ void ProgErrShow(ProgView& view) {
     errors.SetText(row, kStepColumn, std::to_string(record.step));
     errors.SetText(row, kTextColumn, record.text);
   }
-  errors.SelectCell(1, kStepColumn);
+  errors.SelectCell(0, 0);
 }
 
 void ProgErrClear(Grid& errors) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "link/port.h"
 #include "platform/doors.h"
@@ -12,7 +13,6 @@
 #include "prog/prog_file.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
-#include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
 #include "session/session.h"
 #include "state/busy_scope.h"
@@ -61,20 +61,21 @@ bool WriteWhileHeld(ProgView& view, int program) {
   return held.Release();
 }
 
-/// Renews the number's step count. One that is not the program's own means that the controller has
-/// not taken it as it stands: an empty step in the middle ends it there.
-void RenewStepCount(const ProgView& view, int program) {
+/// Renews the number's step count; false where that fails. One that is not the program's own means
+/// that the controller has not taken it as it stands: an empty step in the middle ends it there.
+bool RenewStepCount(const ProgView& view, int program) {
   int count = -1;
   {
     const ProgressScope progress(Text(368), 100, false);
     count = ReadProgStepCountFromCt(program);
-    if (count < 0) return;
+    if (count < 0) return false;
     ProgCt.ProgStepCounts[program] = static_cast<std::int16_t>(count);
     TusinWaitMs(kPauseMs);
   }
   if (count != static_cast<int>(view.Store.ProgDA.size())) {
     MsgBox(Text(kMsgHalfWritten, std::to_string(program)));
   }
+  return true;
 }
 
 /// How a verification ended for its view.
@@ -134,8 +135,8 @@ void ProgDataWrite2Ct(ProgView& view) {
   if (!WriteWhileHeld(view, *program)) return;
   TellDone(376);
   view.Store.ProgCopyNo = static_cast<std::int16_t>(*program);
+  if (!RenewStepCount(view, *program)) return;
   view.Caption = Text(kMsgCaption, std::to_string(*program));
-  RenewStepCount(view, *program);
 }
 
 void cmdProgVerifyCt_Click(ProgView& view) {
@@ -176,21 +177,22 @@ bool ProgFileIsRead(const std::string& path, ProgStore& store) {
   return false;
 }
 
-bool ProgDataFileOpen(ProgView& view) {
+ProgView* ProgDataFileOpen(ProgView& (*make_view)()) {
   const CommandsOff commands_off;
   const BusyScope busy;
   const auto path = AskOpenPath(kProgDataFile, 130);
   if (!path || path->empty()) {
     Tell(367);
-    return false;
+    return nullptr;
   }
-  if (!ProgFileIsRead(*path, view.Store)) return false;
+  ProgStore incoming;
+  if (!ProgFileIsRead(*path, incoming)) return nullptr;
+  ProgView& view = make_view();
+  view.Store = std::move(incoming);
   ShowProgFileName(*path, view);
-  view.Store.ProgCmdBad = view.Store.ProgChanged = False;
   ProgDataHyoji2(view);
-  ForgetUndo(view);
   TellTooManySteps(view);
-  return true;
+  return &view;
 }
 
 }  // namespace tr7

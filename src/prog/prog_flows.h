@@ -20,8 +20,9 @@ void ProgDataSaveAs(ProgView& view);
 
 /// Asks for a program of the controller and reads it; false where there is none to show.
 [[nodiscard]] bool ProgDataGetfromCt(int& program, std::vector<ProgStep>& steps);
-/// Asks for a file and reads it into the view; false where nothing has come.
-bool ProgDataFileOpen(ProgView& view);
+/// Asks for a file and reads it into a view that is made once it is there; null where nothing has
+/// come.
+[[nodiscard]] ProgView* ProgDataFileOpen(ProgView& (*make_view)());
 
 inline constexpr DataFile kProgDataFile{FileKind::Program, 131, "prg", 438};  ///< to be opened
 

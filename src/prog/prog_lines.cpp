@@ -20,13 +20,15 @@ bool IsEmptyStep(const Grid& listing, int step) {
   return CellsOfStep(listing, step) == ProgCells();
 }
 
-bool MayGrow(const ProgView& view) { return ListingSteps(view.flgdProg) < ListingLimit(view); }
-
-/// The same by a key, which is an edit of its own.
+/// Adds an empty step at the end; false where the program's limit is reached.
 bool AppendByKey(ProgView& view) {
-  if (!MayGrow(view)) return false;
+  Grid& listing = view.flgdProg;
+  if (ListingSteps(listing) >= ListingLimit(view)) return false;
   RememberForUndo(view);
-  return AppendProgLine(view);
+  listing.SetRows(listing.Rows() + 1);
+  FGProg_ReNumber(listing);
+  view.Store.ProgChanged = True;
+  return true;
 }
 
 }  // namespace
@@ -83,15 +85,6 @@ int Check_NullLineAndDelete(ProgView& view) {
   }
   FGProg_ReNumber(listing);
   return 0;
-}
-
-bool AppendProgLine(ProgView& view) {
-  Grid& listing = view.flgdProg;
-  if (!MayGrow(view)) return false;
-  listing.SetRows(listing.Rows() + 1);
-  FGProg_ReNumber(listing);
-  view.Store.ProgChanged = True;
-  return true;
 }
 
 void ProgEnterKey(ProgView& view) {

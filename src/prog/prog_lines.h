@@ -22,9 +22,6 @@ int Check_flgdProgLineNo(const ProgView& view);
 /// Deletes steps without any text, the first one apart. The cursor follows.
 int Check_NullLineAndDelete(ProgView& view);
 
-/// Adds an empty step at the end; false where the program's limit is reached.
-bool AppendProgLine(ProgView& view);
-
 /// Enter: to the next column; behind the last one to the next step, which is added at the end.
 void ProgEnterKey(ProgView& view);
 /// Delete empties the current cell, a command's too, which an edit may not.

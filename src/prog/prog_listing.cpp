@@ -16,7 +16,7 @@ ProgCtRecord ProgCt;
 
 namespace {
 
-constexpr int kMsgStep = 5339;
+constexpr int kMsgStep = 5339, kMsgEmptyCommand = 7127;
 constexpr int kNumberWidth = 400, kCellWidth = 1000, kRowHeight = 250;
 
 int TellUnreadable(int step, int column, const std::string& fault) {
@@ -30,7 +30,10 @@ int TakeStep(const Grid& listing, int number, ProgStep& step) {
   const ProgCells cells = CellsOfStep(listing, number);
   const int bad = EncodeCells(cells, step);
   if (bad == 0) return 0;
-  return TellUnreadable(number, bad, CellFault(step[kProgCommand], bad, cells[bad]));
+  // An empty cell that cannot be read is a command: the others may be empty.
+  return TellUnreadable(
+      number, bad,
+      cells[bad].empty() ? Text(kMsgEmptyCommand) : CellFault(step[kProgCommand], bad, cells[bad]));
 }
 
 void SizeRows(Grid& listing) {

@@ -31,7 +31,7 @@ struct ProgStore {
   std::vector<ProgCells> ProgFileDA;  ///< what came last from a file
   std::int16_t ProgCopyNo = 0;        ///< program number of the view; 0: none yet
   Bool16 ProgChanged;                 ///< differs from what was last saved or written
-  Bool16 ProgSyntaxNg;                ///< the last check found errors that stay on show
+  Bool16 ProgSyntaxNg;                ///< a check found errors, and none has been clean since
   Bool16 ProgCmdBad;                  ///< the command typed last is none
   std::vector<ProgError> ProgErrList;
   std::vector<ListingShot> Undo, Redo;  ///< the newest at the end

@@ -43,9 +43,4 @@ bool ProgUndo(ProgView& view) { return BringBack(view, view.Store.Undo, view.Sto
 
 bool ProgRedo(ProgView& view) { return BringBack(view, view.Store.Redo, view.Store.Undo); }
 
-void ForgetUndo(ProgView& view) {
-  view.Store.Undo.clear();
-  view.Store.Redo.clear();
-}
-
 }  // namespace tr7

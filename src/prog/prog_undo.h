@@ -4,7 +4,7 @@
 
 namespace tr7 {
 
-// Undo and redo of edits in a listing, each view for itself. A load forgets them.
+// Undo and redo of edits in a listing, each view for itself. A load makes a view of its own.
 
 /// Before an edit: what the listing shows can be brought back. What was undone is gone for good.
 void RememberForUndo(ProgView& view);
@@ -12,7 +12,5 @@ void RememberForUndo(ProgView& view);
 /// Take back the last edit, or the last taking back. False: there is none.
 bool ProgUndo(ProgView& view);
 bool ProgRedo(ProgView& view);
-
-void ForgetUndo(ProgView& view);
 
 }  // namespace tr7

@@ -86,6 +86,7 @@ void CopyFromListing(ProgView& view) {
 
 void PasteToListing(ProgView& view) {
   IsWholeLine(view.flgdProg) ? ProgDataLinePaste(view) : ProgCellsPaste(view);
+  SwitchLineCommands(view);
 }
 
 /// Why a cell is marked; of the number, what the controller does there.
@@ -138,11 +139,9 @@ void WireListing(ProgView& view) {
     if (SetDataForFlexProg(view, row, col, text) != 0) {
       return {false, CellFault(-1, kProgCommand, text)};
     }
-    if (text != view.flgdProg.Text(row, col)) {
-      RememberForUndo(view);
-      view.Store.ProgChanged = True;
-      SwitchLineCommands(view);
-    }
+    if (text != view.flgdProg.Text(row, col)) RememberForUndo(view);
+    view.Store.ProgChanged = True;  // meant so: also by an edit that ends as it began
+    SwitchLineCommands(view);
     return {};
   };
   listing.EditColour = kEditColour;
@@ -171,7 +170,10 @@ void WireButtons(ProgView& view) {
     PrgDataLineCopy(view);
     SwitchLineCommands(view);
   };
-  view.cmdProgLinePaste.Click = [&view] { ProgDataLinePaste(view); };
+  view.cmdProgLinePaste.Click = [&view] {
+    ProgDataLinePaste(view);
+    SwitchLineCommands(view);
+  };
   view.Commands.New = NewProgram;
   view.Commands.Open = OpenProgram;
   view.List1.Click = [&view] { PickCommand(view); };
@@ -246,9 +248,7 @@ void NewProgram() {
 }
 
 void OpenProgram() {
-  ProgView& view = NewProgView();
-  if (!ProgDataFileOpen(view)) return UnloadView(view);
-  ShowView(view);
+  if (ProgView* view = ProgDataFileOpen(NewProgView)) ShowView(*view);
 }
 
 void ReadProgramData() {

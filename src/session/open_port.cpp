@@ -2,11 +2,13 @@
 
 #include "link/port.h"
 #include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/frame_menus.h"
 #include "state/message_box.h"
 #include "state/online.h"
 #include "state/text.h"
 #include "state/views.h"
+#include "state/wait.h"
 
 namespace tr7 {
 
@@ -17,8 +19,22 @@ void EndSession() {
   ChangeMenuDisp(AppState.CtMode);
 }
 
+namespace {
+
+/// The tool stays, and a port that was lost is told of by who needs it.
+bool OpensBeforeLong() {
+  const BusyScope busy;
+  for (int attempt = 1; attempt < kPortOpenAttempts; ++attempt) {
+    TusinWaitMs(kPortOpenPauseMs);
+    if (TusinPortOpen() == 0) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 bool OpenPortOrTell() {
-  if (TusinPortOpen() == 0) return true;
+  if (TusinPortOpen() == 0 || OpensBeforeLong()) return true;
   EndSession();
   MsgBox(Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText);
   return false;

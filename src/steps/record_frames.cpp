@@ -1,15 +1,15 @@
 #include "steps/record_frames.h"
 
 #include "link/port.h"
-#include "link/tusin_wait.h"
 #include "state/message_box.h"
 #include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
 
-Outcome SendFrame(const RecordFrame& frame, std::string& reply) {
-  const TusinOutcome outcome = TusinWait(frame.text, frame.reply_length, frame.timeout_ms, reply);
+Outcome SendFrame(const RecordFrame& frame, std::string& reply, TusinSent* sent = nullptr) {
+  const TusinOutcome outcome =
+      TusinWait(frame.text, frame.reply_length, frame.timeout_ms, reply, {.sent = sent});
   if (outcome == TusinOutcome::Withdrawn) return Outcome::Stopped;
   return outcome == TusinOutcome::Good ? Outcome::Done : Outcome::Failed;
 }
@@ -22,9 +22,9 @@ Outcome ReadNamed(const RecordFrame& frame, std::string& reply) {
   return TellBadData();
 }
 
-Outcome SendEchoed(const RecordFrame& frame) {
+Outcome SendEchoed(const RecordFrame& frame, TusinSent* sent) {
   std::string reply;
-  const Outcome outcome = SendFrame(frame, reply);
+  const Outcome outcome = SendFrame(frame, reply, sent);
   if (outcome == Outcome::Failed && frame.unanswered_id) Tell(frame.unanswered_id);
   if (outcome != Outcome::Done) return outcome;
   if (reply.substr(0, frame.echo) == frame.text.substr(0, frame.echo)) return Outcome::Done;
@@ -33,22 +33,28 @@ Outcome SendEchoed(const RecordFrame& frame) {
 }
 
 Outcome SendRecord(const RecordFrame& frame, const std::string& name) {
-  const Outcome outcome = SendEchoed(frame);
+  TusinSent sent;
+  const Outcome outcome = SendEchoed(frame, &sent);
   if (outcome == Outcome::Done) {
     if (WriteTaken.First.empty()) WriteTaken.First = name;
     WriteTaken.Last = name;
-  } else {
+  } else if (sent.sends > 0) {
     WriteTaken.Failed = name;
-    WriteTaken.FailedIsRefused = TusinRefusedAtOnce();
+    WriteTaken.FailedIsRefused = sent.RefusedAtOnce();
   }
   return outcome;
 }
 
 Outcome SendStore(const RecordFrame& frame) {
   using enum WriteTakenRecord::Storing;
-  const Outcome outcome = SendEchoed(frame);
-  WriteTaken.Stored = outcome == Outcome::Done ? Done : TusinRefusedAtOnce() ? Refused : NotKnown;
-  return outcome;
+  TusinSent sent;
+  const Outcome outcome = SendEchoed(frame, &sent);
+  if (outcome == Outcome::Done) {
+    WriteTaken.Stored = Done;
+  } else if (sent.sends > 0) {
+    WriteTaken.Stored = sent.RefusedAtOnce() ? Refused : NotKnown;
+  }
+  return outcome == Outcome::Stopped ? Outcome::Failed : outcome;
 }
 
 Outcome TellBadData() {

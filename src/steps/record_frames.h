@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/msg_id.h"
+#include "link/tusin_wait.h"
 #include "steps/outcome.h"
 
 namespace tr7 {
@@ -24,12 +25,14 @@ struct RecordFrame {
 Outcome ReadNamed(const RecordFrame& frame, std::string& reply);
 
 /// Sends a frame of a write and compares the echo. Another echo is fatal: the line is closed
-/// and the user told.
-Outcome SendEchoed(const RecordFrame& frame);
+/// and the user told. `sent`, where given, takes what became of this frame on the line.
+Outcome SendEchoed(const RecordFrame& frame, TusinSent* sent = nullptr);
 
-/// The same of a record of a write, which `WriteTaken` knows by this name.
+/// The same of a record of a write, which `WriteTaken` knows by this name. One that has never been
+/// handed to the port is no part of what the controller may have taken.
 Outcome SendRecord(const RecordFrame& frame, const std::string& name);
-/// The same of the frame at which the controller stores the records that it has taken.
+/// The same of the frame at which the controller stores the records that it has taken. One that was
+/// cut short has failed: whether they are stored is for the user to know.
 Outcome SendStore(const RecordFrame& frame);
 
 /// Tells that what came or came back makes no sense; `Failed`.

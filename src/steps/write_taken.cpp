@@ -30,6 +30,12 @@ MsgId StoredId() {
 
 }  // namespace
 
+std::string FailedRecordText() {
+  if (WriteTaken.Failed.empty()) return {};
+  return Text(WriteTaken.FailedIsRefused ? MsgId(kMsgRefused) : MsgId(kMsgTakenOrNot),
+              WriteTaken.Failed);
+}
+
 std::string WriteTakenText() {
   const WriteTakenRecord& taken = WriteTaken;
   std::string text = Text(kMsgNotCompleted) + "\n";
@@ -38,10 +44,7 @@ std::string WriteTakenText() {
                                                       : Text(kMsgFromTo, taken.First, taken.Last)) +
             "\n";
   }
-  if (!taken.Failed.empty()) {
-    const MsgId id = taken.FailedIsRefused ? MsgId(kMsgRefused) : MsgId(kMsgTakenOrNot);
-    text += Text(id, taken.Failed) + "\n";
-  }
+  if (!taken.Failed.empty()) text += FailedRecordText() + "\n";
   return text + Text(StoredId());
 }
 

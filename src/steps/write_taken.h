@@ -16,6 +16,9 @@ struct WriteTakenRecord {
 
 extern WriteTakenRecord WriteTaken;
 
+/// That the record whose frame failed was refused, or may have been taken; empty: none failed.
+std::string FailedRecordText();
+
 /// What a write that failed has left in the controller: what it has taken and what not, and whether
 /// it has stored it.
 std::string WriteTakenText();

@@ -4,6 +4,7 @@
 #include <QTime>
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 
 #include "platform/due_timers.h"
 
@@ -14,6 +15,14 @@ namespace {
 constexpr std::int64_t kEventsEveryUs = 10'000;
 /// Longest sleep that the armed timer is set for.
 constexpr std::int64_t kLongestSleepMs = 3'600'000;
+
+#ifdef CLOCK_BOOTTIME
+std::int64_t ClockUs(clockid_t clock) {
+  timespec now{};
+  clock_gettime(clock, &now);
+  return std::int64_t{now.tv_sec} * 1'000'000 + now.tv_nsec / 1000;
+}
+#endif
 
 }  // namespace
 
@@ -30,6 +39,15 @@ QtPump::QtPump() {
 std::int64_t QtPump::NowUs() const {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
   return std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+}
+
+std::int64_t QtPump::SleptUs() const {
+#ifdef CLOCK_BOOTTIME
+  const std::int64_t awake_us = ClockUs(CLOCK_MONOTONIC);
+  return ClockUs(CLOCK_BOOTTIME) - awake_us;
+#else
+  return 0;  // this system's clocks do not tell
+#endif
 }
 
 std::string QtPump::TimeOfDay() const {

@@ -18,6 +18,7 @@ class QtPump : public QObject, public EventPump {
   QtPump();
 
   std::int64_t NowUs() const override;
+  std::int64_t SleptUs() const override;
   std::string TimeOfDay() const override;
   std::string Date() const override;
   void Run() override;

@@ -100,6 +100,7 @@ void Write(Voyage& voyage, const Kind& kind) {
   const CellWrite write(voyage, kind.frames);
   std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
   if (!AppState.AlarmOn) panel.clear();
+  if (kind.frames.unit > 0) PerhapsCancel(voyage);
   ButtonOf(kind, kWrite)->Press();
   write.Check(panel == Text(kind.told_id) || voyage.WasTold(kind.told_id));
   const bool half = kind.frames.unit > 0 && !voyage.power_fails && !write.IsWhole();

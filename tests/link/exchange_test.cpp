@@ -13,6 +13,7 @@
 #include "link/port.h"
 #include "link/request_queue.h"
 #include "link/status_commands.h"
+#include "link/task_commands.h"
 #include "link/tusin_wait.h"
 #include "state/online.h"
 #include "state/progress.h"
@@ -116,6 +117,10 @@ TEST_F(ExchangeTest, TheGroupMoveStopEndsTheResynchronisation) {
   AppState.GroupMoveStop = True;
   EXPECT_EQ(Read(), TusinOutcome::Failed);
   EXPECT_TRUE(forms.boxes.empty() && AppState.Offline);
+  TusinPortCloseForce();
+  SetOnline();
+  Spoil(FaultKind::kWrongPrefix, "0SP");
+  EXPECT_EQ(StopToCt(1000, failure), 0) << "not that of a stop";
 }
 
 TEST_F(ExchangeTest, AnAlarmWhilePollingIsShownAtOnce) {
@@ -284,6 +289,14 @@ TEST_F(FullQueueTest, AStopOvertakesWhatWaitsAndNoStartFollowsIt) {
   EXPECT_EQ(port.sent.find("0JR"), std::string::npos);
 }
 
+TEST_F(FullQueueTest, AStopOfAxesOvertakesAStopOfPrograms) {
+  Spoil(FaultKind::kSilence, "0PN");
+  pump.After(20'000, [] { EXPECT_EQ(TaskMonitorStartToCt(), TusinOutcome::Good); });
+  pump.After(300'000, [this] { EXPECT_EQ(StopToCt(1000, failure), 0); });
+  EXPECT_EQ(Read(), TusinOutcome::Good);
+  EXPECT_EQ(port.sent.substr(0, 23), "0RP001\r\n0PN\r\n0SP\r\n0PN\r\n");
+}
+
 TEST_F(FullQueueTest, AFailureEndsAllThatWait) {
   port.Ct().SetSilent(true);
   EXPECT_EQ(Read(), TusinOutcome::Failed);
@@ -302,6 +315,15 @@ TEST_F(FullQueueTest, ClosingTheToolEndsAllThatWait) {
   EXPECT_EQ(Read(), TusinOutcome::Failed);
   EXPECT_LT(pump.NowUs() - start, 30'000);
   EXPECT_EQ(port.sent, "0RP001\r\n");
+}
+
+/// What stands ahead on the line takes its time, and so does its answer.
+TEST_F(ExchangeTest, ALongFrameThatIsCancelledEarlyLeavesTheLineInOrder) {
+  const ProgressScope progress("", 1, true);
+  pump.After(100'000, [] { frmMain.cmdComCancel.Press(); });
+  EXPECT_EQ(TusinWait("0WM01" + std::string(1'900, '0'), 7, 5000, reply), TusinOutcome::Withdrawn);
+  EXPECT_EQ(ReadNumber(2, reply), TusinOutcome::Good);
+  EXPECT_TRUE(forms.boxes.empty() && !AppState.Offline);
 }
 
 TEST_F(ExchangeTest, CancelEndsAWaitAndItsLateReplyIsNobodys) {

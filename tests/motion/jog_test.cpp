@@ -92,6 +92,20 @@ TEST_F(JogTest, AStopThatNobodyAnswersIsSentOverANewConnectionAndThenTold) {
   port.Ct().ClearFaults();
   frmMain.cmdStopNow.Press();
   EXPECT_FALSE(frmMain.imgMoving.Visible);
+  EXPECT_FALSE(AppState.TeachingNow || AppState.HomeDone) << "another session";
+  EXPECT_EQ(Boxes(), Texts{Text(5509)});
+}
+
+TEST_F(JogTest, APressWhileAStopIsUnansweredSendsItAtOnce) {
+  Spoil(FaultKind::kDeaf, "0SP");
+  for (const std::int64_t at_us : {600'000, 820'000, 825'000}) {
+    pump.After(at_us, [] { frmMain.Escape(); });
+  }
+  pump.After(900'000, [this] { EXPECT_FALSE(Moves()); });
+  Jog(1, 500'000);
+  pump.RunFor(1'000'000);
+  EXPECT_EQ(Acts(), "0JR12000 0SP 0SP 0CM0 ");
+  EXPECT_TRUE(AppState.TeachingNow && Boxes().empty());
 }
 
 TEST_F(JogTest, AnAlarmDuringAJogIsToldAsOne) {

@@ -66,6 +66,12 @@ TEST_F(MoveTest, TheListEndsAtAnEmptyRowAndAtARowThatIsNoNumber) {
               {{"2", "1000"}, "0MP002F ", "Input position No. by decimal(Using 1 to 999)"},
               {{"0"}, "", "Input position No. by decimal(Using 1 to 999)"},
               {{}, "", ""}};
+  frmPosi.Move.chkRepeat.Set(true);
+  List(std::vector<std::string>(kSelectRows, "1"));
+  frmPosi.Move.cmdSelectMove.Press();
+  EXPECT_EQ(Moved().size(), kSelectRows * 8U) << "a full list ends, also one that repeats";
+  EXPECT_TRUE(frmPosi.Move.flgdProgram.IsMarked(kSelectRows, 1));
+  frmPosi.Move.chkRepeat.Set(false);
   for (const auto& row : rows) {
     port.sent.clear();
     List(row.list);
@@ -80,7 +86,9 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
     CommandButton& end;
     const char* then;
     bool anew = false;
-  } rows[] = {{frmPosi.Move.cmdTmpStop, "0MS002F 0MS003F "},
+    bool given_up = false;
+  } rows[] = {{frmPosi.Move.cmdTmpStop, "0MS001F 0MS002F 0MS003F ", false, true},
+              {frmPosi.Move.cmdTmpStop, "0MS002F 0MS003F "},
               {frmPosi.Move.cmdTmpStop, "0MP000F 0MS001F 0MS002F 0MS003F ", true},
               {frmPosi.Move.cmdStop, "0MS001F 0MS002F 0MS003F "},
               {frmMain.cmdStopNow, "0MS001F 0MS002F 0MS003F "}};
@@ -91,6 +99,13 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
     pump.After(120'000, [&row] { row.end.Press(); });
     frmPosi.Move.cmdSelectMove.Press();
     EXPECT_FALSE(Moves()) << Acts() << forms.LastBox();
+    const bool paused = &row.end != &frmPosi.Move.cmdStop;
+    EXPECT_EQ(frmPosi.Move.lblNextNo.Caption.starts_with("Row "), paused);
+    EXPECT_EQ(frmPosi.Move.cmdStop.Enabled, paused);
+    if (row.given_up) {
+      frmPosi.Move.cmdStop.Press();
+      EXPECT_EQ(frmPosi.Move.lblNextNo.Caption, "-");
+    }
     if (row.anew) {
       GoOffline();
       frmMain.mnuSettingOnline.Press();
@@ -100,6 +115,29 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
     frmPosi.Move.cmdSelectMove.Press();
     EXPECT_EQ(Moved(), row.then);
     EXPECT_EQ(Reached(), "3");
+  }
+}
+
+TEST_F(MoveTest, NothingMovesAfterASleepUnlessPressedAnew) {
+  PosiMoveTest& f = frmPosi.Move;
+  f.updownEndPosiNo.Set(3);
+  GrpTable.GrpStart[1] = 1;
+  GrpTable.GrpEnd[1] = 3;
+  List({"1", "2", "3"});
+  const std::pair<CommandButton*, const char*> rows[] = {
+      {&f.cmdSelectMove, "0MP002F 0MP003F "},
+      {&f.cmdMove, "0MP002F 0MP003F "},
+      {&f.cmdGrpMove, "0MP001F 0MP002F 0MP003F "}};
+  for (const auto& [start, then] : rows) {
+    SCOPED_TRACE(start->Name);
+    port.sent.clear();
+    pump.After(120'000, [this] { pump.Sleep(3'600'000'000); });
+    start->Press();
+    EXPECT_EQ(Moved(), "0MP001F ");
+    EXPECT_EQ(Boxes(), Texts{Text(5508)});
+    port.sent.clear();
+    start->Press();
+    EXPECT_EQ(Moved(), then);
   }
 }
 

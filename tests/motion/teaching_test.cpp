@@ -45,6 +45,12 @@ TEST_F(TeachingTest, ASessionTakesPositionsLineByLine) {
   EXPECT_TRUE(frmMain.mnuFile.Enabled);
 }
 
+TEST_F(TeachingTest, WhatIsHeldStillIsGivenBackAheadOfTheTeachingMode) {
+  AppState.AxesMayBeHeld = True;
+  frmPosi.Teach.cmdJOGST.Press();
+  EXPECT_TRUE(Acts().starts_with("0CM00000 0CM11111 ")) << Acts();
+}
+
 TEST_F(TeachingTest, ServosAndTheSlideByHand) {
   StartTeaching();
   PosiTeaching& f = frmPosi.Teach;

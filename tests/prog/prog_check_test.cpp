@@ -86,6 +86,12 @@ TEST_F(ProgCheck, TheCommandTellsAndOpensThePane) {
   Put(view, {"VEL 1", "VEL R"});
   view.cmdProgCheck.Press();
   EXPECT_NE(Boxes().at(0).find("Step 2, Operation1"), std::string::npos);
+  EXPECT_TRUE(view.Store.ProgSyntaxNg && view.ErrPaneIsOpen);
+  Put(view, {"VEL 1", "VEL 2"});
+  view.cmdProgCheck.Press();
+  EXPECT_FALSE(view.Store.ProgSyntaxNg);
+  view.cmdCloseSyntaxErr.Press();
+  Boxes();
   Put(view, {});
   view.cmdProgCheck.Press();
   EXPECT_EQ(Boxes(), Texts{Text(433) + "\n" + Text(434)});

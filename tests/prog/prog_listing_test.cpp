@@ -74,11 +74,28 @@ TEST_F(ProgListing, LinesTravelOverTheClipboard) {
   EXPECT_EQ(Boxes(), Texts{Text(337)});
   to.flgdProg.Select(2, 1, 2, 6);
   to.cmdProgLinePaste.Press();
-  EXPECT_EQ(Steps(to), (Texts{"LB 1", "MVP 1 _ I1 O1 say\"so", "VEL 400"}));
-  doors.clipboard->SetText("XYZ\t5");
+  EXPECT_EQ(Steps(to), (Texts{"LB 1", "MVP 1 _ I1 O1 say\"so", "VEL 400", "LB 2"}));
+  frmMain.mnuEditUndo.Press();
+  EXPECT_EQ(Steps(to), (Texts{"LB 1", "LB 2"})) << "one edit";
+  to.Store.ProgCopyNo = 100;
+  Put(to, Texts(19, "LB 9"));
+  to.flgdProg.Select(1, 1, 1, 6);
+  to.cmdProgLinePaste.Press();
+  EXPECT_EQ(Steps(to).size(), 20u);
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(7128, "20", "1"));
+  for (const char* text : {"1\t2\t3\t4\t5\t6", "TIM\t1\t\t\t\t\"two\rlines\""}) {
+    doors.clipboard->SetText(text);
+    to.flgdProg.Select(1, 1, 1, 6);
+    EXPECT_EQ(to.cmdProgLinePaste.Enabled, *text == 'T') << "lines of a program alone";
+  }
+  Put(to, {"_ _ _ _ _ _"});
+  to.cmdProgLinePaste.Press();
+  EXPECT_EQ(Steps(to), Texts{"TIM 1 _ _ _ two lines"});
+  Put(to, {"LB 1 _ _ _ _"});
+  doors.clipboard->SetText("XYZ\t5\rTIM");
   to.flgdProg.SelectCell(1, 1);
   frmMain.mnuEditPaste.Press();
-  EXPECT_EQ(Steps(to)[0], "LB 5") << "a command that is none keeps the old one";
+  EXPECT_EQ(Steps(to), Texts{"LB 5"}) << "a command that is none keeps the old one";
 }
 
 TEST_F(ProgListing, JumpsAndCallsFindTheirTargets) {

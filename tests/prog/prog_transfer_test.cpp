@@ -144,18 +144,20 @@ TEST_F(ProgTransfer, TheCountsAreReadOnceAnOnlinePeriod) {
 
 TEST_F(ProgTransfer, AWriteThatFailsSaysWhatItHasLeft) {
   const std::string half = "neither the old one nor the new one";
-  const std::tuple<FaultKind, const char*, bool> rows[] = {{FaultKind::kSilence, "0WM", true},
-                                                           {FaultKind::kErrorReply, "0WM", false},
-                                                           {FaultKind::kSilence, "0MW", true},
-                                                           {FaultKind::kErrorReply, "0MW", true}};
+  using enum FaultKind;
+  const std::tuple<FaultKind, const char*, bool, int> rows[] = {
+      {kSilence, "0WM", true, 3000},   {kSilence, "0WM", true, 0}, {kErrorReply, "0WM", false, 0},
+      {kSilence, "0MW", true, 3000},   {kSilence, "0MW", true, 0}, {kErrorReply, "0MW", true, 0},
+      {kErrorReply, "0CM01", false, 0}};
   const auto start = [this] {
     StartAnew();
     StartOnline();
     AppState.ProgStepsRead = True;
   };
-  for (const auto& [fault, at, is_half] : rows) {
+  for (const auto& [fault, at, is_half, cancel_ms] : rows) {
     start();
     Spoil(fault, at, 0);
+    if (cancel_ms > 0) pump.After(cancel_ms * 1000, [] { frmMain.cmdComCancel.Press(); });
     Write(Program({"TIM 1"}), 3);
     EXPECT_EQ(BoxShown(half), is_half) << at;
     virt.port.Ct().ClearFaults();

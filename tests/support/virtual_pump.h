@@ -18,6 +18,9 @@ struct VirtualTimeExceeded : std::runtime_error {
 class VirtualPump : public EventPump {
  public:
   std::int64_t NowUs() const override { return now_us_; }
+  std::int64_t SleptUs() const override { return slept_us_; }
+  /// The computer sleeps, and its clock with it.
+  void Sleep(std::int64_t us) { slept_us_ += us; }
   std::string TimeOfDay() const override { return "12:00:00"; }
   std::string Date() const override { return "2024-08-31"; }
   void Run() override;
@@ -33,6 +36,7 @@ class VirtualPump : public EventPump {
  private:
   bool RunActs();
   std::int64_t now_us_ = 1'000'000;
+  std::int64_t slept_us_ = 0;
   std::int64_t limit_us_ = std::int64_t{24} * 3600 * 1'000'000;
   std::multimap<std::int64_t, std::function<void()>> acts_;
 };
