@@ -5,6 +5,7 @@
 #include "link/status_commands.h"
 #include "monitor/io_show.h"
 #include "monitor/io_state.h"
+#include "monitor/poll.h"
 #include "motion/motion_now.h"
 #include "session/open_port.h"
 #include "state/app_state.h"
@@ -31,14 +32,11 @@ bool SendRelease() {
 
 }  // namespace
 
-bool FlowHasLine() {
-  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || MotionNow.Kind != Motion::None;
-}
-
-void EndLostSession() {
-  if (!AppState.Offline) return;
-  EndSession();
-  if (AppState.CommandsOffDepth == 0) AllViewsCmdYuko();
+TusinOutcome TellFailed(const TusinFailure& failure) {
+  if (failure.end == TusinEnd::Withdrawn) return TusinOutcome::Withdrawn;
+  if (!failure.text.empty()) MsgBox(failure.text);
+  TusinAbort();
+  return TusinOutcome::Failed;
 }
 
 TusinOutcome SendOverride() {
@@ -46,12 +44,15 @@ TusinOutcome SendOverride() {
   const bool on = frmIOCheckFG.chkIgnore.Value;
   if (on) IoMonitor.OverrideOn = True;  // also where only the answer is lost
   ShowOverride();
-  if (CtControlModeSet(on ? 1 : 0, 0, kAllAxes) != 0) {
-    return AppState.Offline ? TusinOutcome::Failed : TusinOutcome::Withdrawn;
-  }
+  // Of our own frame alone: a flow that runs within the wait sends others, which undo it.
+  const std::int32_t sent = AppState.ControlModesSent + 1;
+  TusinFailure failure{TusinEnd::Withdrawn, 0, {}};
+  if (CtControlModeSet(on ? 1 : 0, 0, kAllAxes, &failure) != 0) return TellFailed(failure);
+  // Within the wait the monitor may have ended, and taken it back.
+  if (on && !IoMonitor.OverrideOn) return TusinOutcome::Withdrawn;
   IoMonitor.OverrideOn = on;
   IoMonitor.IgnorePending = frmIOCheckFG.chkIgnore.Value != on;
-  IoMonitor.ModesSent = AppState.ControlModesSent;
+  IoMonitor.ModesSent = sent;
   ShowOverride();
   return TusinOutcome::Good;
 }
@@ -61,11 +62,10 @@ void TakeBackOverride() {
   frmIOCheckFG.chkIgnore.Value = false;
   IoMonitor.IgnorePending = IoMonitor.OverrideOn = False;
   ShowOverride();
-  const bool was_offline = AppState.Offline;
   // The end of a teaching session gives all axes back.
   if (AppState.TeachingNow || SendRelease()) return TellDone(kTakenBack);
   AppState.AxesMayBeHeld = True;
-  if (!was_offline) EndLostSession();
+  SettleLostSession();
   Tell(kMayStand);
 }
 

@@ -70,19 +70,15 @@ TusinOutcome ReadPoints() {
   TakeBits(outputs, IoMonitor.IoOutBit, IoMonitor.OutChangedUs);
   IoMonitor.Known = true;
   IoMonitor.Stale = false;
+  IoMonitor.TrueAt = doors.pump->TimeOfDay();
   IoStateHyoji2();
   return outcome;
 }
 
 TusinOutcome ReadnDisp_PresentPosMoni() {
   AxisArray<std::int32_t> pulses{};
-  TusinFailure failure;
-  failure.end = TusinEnd::Withdrawn;
-  if (ReadPresentPosFromCt(pulses, &failure) != 0) {
-    if (failure.end == TusinEnd::Withdrawn) return TusinOutcome::Withdrawn;
-    if (!failure.text.empty()) MsgBox(failure.text);
-    return TusinOutcome::Failed;
-  }
+  TusinFailure failure{TusinEnd::Withdrawn, 0, {}};
+  if (ReadPresentPosFromCt(pulses, &failure) != 0) return TellFailed(failure);
   for (const int axis : AxesInUse()) {
     const auto mm = PulseToMm(DevSetting[axis].Lead, DevSetting[axis].Ppr, pulses[axis]);
     frmIOCheckFG.Io.lblCurrentPos[axis].Caption = mm ? FormatMm(*mm) : "-";
@@ -106,10 +102,20 @@ TusinOutcome AskIo() {
   return outcome;
 }
 
-/// The link has told the user.
+void CloseNow() {
+  IoMonitor.IoStopped = True;
+  UnloadView(frmIOCheckFG);
+}
+
+/// The link has told the user. Where the line still serves, what was taken is given back; a close
+/// that was asked for is carried out.
 void PollFailed() {
   FreezeIoMonitor();
-  EndLostSession();
+  SettleLostSession();
+  if (!AppState.Offline && !FlowHasLine()) TakeBackOverride();
+  if (!IoMonitor.IoStopReq) return;
+  if (!FlowHasLine()) return CloseNow();
+  IoMonitor.IoStopReq = False;
 }
 
 /// The end of a tick. A close waits until nothing else has the line: what was taken is given back.
@@ -121,8 +127,7 @@ void EndTick() {
     if (IoMonitor.IoMonOn || IoMonitor.IoStopReq) timer.Start(kNextPollMs);
     return;
   }
-  IoMonitor.IoStopped = True;
-  UnloadView(frmIOCheckFG);
+  CloseNow();
 }
 
 }  // namespace
@@ -131,6 +136,7 @@ void StartIoMonitor() {
   IoMonitor.IoMonOn = True;
   IoMonitor.IoStopReq = IoMonitor.IoStopped = IoMonitor.IoWritePending = False;
   IoMonitor.Known = IoMonitor.Stale = false;
+  IoMonitor.TrueAt.clear();
   IoMonitor.ModesSent = -1;
   IoMonitor.InChangedUs.fill(0);
   IoMonitor.OutChangedUs.fill(0);
@@ -164,9 +170,21 @@ void FreezeIoMonitor() {
   ShowIoPace();
 }
 
+void ShowIoPause() {
+  if (!IoMonitor.IoMonOn) return;
+  if (FlowHasLine() && !IoMonitor.Parted) {
+    IoMonitor.Parted = true;
+    RecordPlotGap();
+  }
+  IoStateHyoji2();
+  TouchWatchLists();
+  ShowIoPace();
+}
+
 void timerInputOutput1_Timer() {
   frmIOCheckFG.timerInputOutput1.Stop();
   if (IoMonitor.IoStopReq) return EndTick();
+  IoMonitor.Parted = false;
   switch (IoMonitor.Ticks.Run(AskIo)) {
     case PollEnd::Over:
       if (!IoMonitor.IoStopReq) return;
@@ -174,8 +192,7 @@ void timerInputOutput1_Timer() {
     case PollEnd::Failed:
       return PollFailed();
     case PollEnd::Done:
-      IoMonitor.TrueAt = doors.pump->TimeOfDay();
-      RecordPlot();
+      if (!IoMonitor.Parted) RecordPlot();
       break;
     default:
       break;

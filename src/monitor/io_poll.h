@@ -9,6 +9,9 @@ void StopIoMonitor();
 /// One poll, and what follows from it; a close that was asked for is carried out here.
 void timerInputOutput1_Timer();
 
+/// A flow has taken the line, or given it back: what is on show says so.
+void ShowIoPause();
+
 /// The session is over: what is on show stays, grey, with the time when it was true.
 void FreezeIoMonitor();
 

@@ -18,7 +18,7 @@ namespace {
 constexpr const char *kOn = "O", *kOff = "-";
 constexpr int kForced = 7307, kWaiting = 7308, kFlipTip = 7309, kNameTip = 7306;
 constexpr int kOverrideMsg = 7312, kPace = 7315, kLinePace = 7316, kAge = 7317, kTrueAt = 7318,
-              kNotRunning = 7319, kFirstValues = 7320;
+              kNotRunning = 7319, kFirstValues = 7320, kHeldUp = 7327, kKnownAt = 7338;
 constexpr int kAxis1 = 220;
 constexpr int kNameWidth = 1200, kStateWidth = 750, kOwnNameWidth = 2400, kForcedWidth = 1000;
 constexpr std::int64_t kMarkedUs = 1'000'000;
@@ -70,7 +70,9 @@ std::string PaceText() {
   if (!IoMonitor.IoMonOn) {
     return IoMonitor.Stale ? Text(kTrueAt, IoMonitor.TrueAt) : Text(kNotRunning);
   }
-  if (!IoMonitor.Known || ticks.PaceMs() == 0) return Text(kFirstValues);
+  if (!IoMonitor.Known) return Text(kFirstValues);
+  if (FlowHasLine()) return Text(kHeldUp, IoMonitor.TrueAt);
+  if (ticks.PaceMs() == 0) return Text(kKnownAt, IoMonitor.TrueAt);
   if (!ticks.IsLate()) return Text(kPace, Seconds(ticks.PaceMs()));
   const std::int64_t age = ticks.AgeMs();
   return age > 2 * ticks.PaceMs() ? Text(kAge, Seconds(age))
@@ -89,7 +91,7 @@ void WireTable(Grid& grid, const std::array<IoPointRow, rows>& points,
     return col == kPointState && at != 0 && IoMonitor.IoMonOn &&
            doors.pump->NowUs() - at <= kMarkedUs;
   };
-  grid.IsUnused = [](int, int col) { return col == kPointState && IoMonitor.Stale; };
+  grid.IsUnused = [](int, int col) { return col == kPointState && IoValuesAreOld(); };
   grid.CellToolTip = [state_tip](int, int col) {
     if (col == kPointOwnName) return Text(kNameTip);
     return col == kPointState && state_tip ? Text(state_tip) : std::string();
@@ -132,7 +134,7 @@ void AllLED_Off() {
 
 void ShowIoPace() {
   frmIOCheckFG.lblPace.Caption = PaceText();
-  for (Label& place : frmIOCheckFG.Io.lblCurrentPos) place.Enabled = !IoMonitor.Stale;
+  for (Label& place : frmIOCheckFG.Io.lblCurrentPos) place.Enabled = !IoValuesAreOld();
 }
 
 void ShowOverride() {

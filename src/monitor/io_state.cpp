@@ -16,4 +16,6 @@ void ResetIoMonitor() {
   PlotData = PlotDataRecord{};
 }
 
+bool IoValuesAreOld() { return IoMonitor.Stale || (IoMonitor.Known && FlowHasLine()); }
+
 }  // namespace tr7

@@ -26,9 +26,10 @@ struct IoMonitorRecord {
   Bool16 MsecElapsed;     ///< of `MsecTimer`
   AxisArray<std::optional<double>> PositionMm{};
 
-  bool Known = false;  ///< a poll of this run has told the points
-  bool Stale = false;  ///< what is shown was true once and is no longer renewed
-  std::string TrueAt;  ///< the time of day of the last good poll
+  bool Known = false;   ///< a poll of this run has told the points
+  bool Stale = false;   ///< what is shown was true once and is no longer renewed
+  bool Parted = false;  ///< a flow has had the line since the running poll began
+  std::string TrueAt;   ///< the time of day of the last good poll
   std::array<std::int64_t, kIoPoints> InChangedUs{}, OutChangedUs{};  ///< 0: not seen to change
 
   Bool16 IgnorePending;         ///< the control mode has to be sent
@@ -38,6 +39,9 @@ struct IoMonitorRecord {
   Poll Ticks{frmIOCheckFG.timerInputOutput1};
 };
 extern IoMonitorRecord IoMonitor;
+
+/// What is on show was true once: the monitor has ended, or a flow has the line.
+bool IoValuesAreOld();
 
 /// All that the monitor keeps, the recorded plot included, is as at the start.
 void ResetIoMonitor();

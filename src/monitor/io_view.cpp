@@ -20,13 +20,14 @@
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
+#include "state/status_panel.h"
 #include "state/text.h"
 #include "state/views.h"
 
 namespace tr7 {
 namespace {
 
-constexpr int kStart = 702, kStop = 704, kSentLater = 7370;
+constexpr int kStart = 702, kStop = 704, kSentLater = 7370, kFirstValues = 7320;
 constexpr int kIoTab = 0, kWatchTab = 1;
 
 void ShowTab() {
@@ -48,6 +49,7 @@ void ShowButtons() {
   f.chkIgnore.Enabled = on && !AppState.Offline;
   f.chkIgnore.ToolTip = AppState.TeachingNow ? Text(kSentLater) : "";
   ShowWatchButtons();
+  ShowIoPause();
 }
 
 /// A hand that clicks twice means one click.
@@ -102,8 +104,9 @@ void Unload() {
 }
 
 void FlipOutput(int row, int col) {
-  const bool may = IoMonitor.IoMonOn && IoMonitor.Known && !IoMonitor.IoStopReq;
-  if (col != kPointState || !may) return;
+  if (col != kPointState || !IoMonitor.IoMonOn || IoMonitor.IoStopReq) return;
+  // Without the points as they are, a flip would be one of a word that nobody has read.
+  if (!IoMonitor.Known) return TellInStatusPanel(Text(kFirstValues));
   IoMonitor.IoOutFlip[OutputPoints().at(static_cast<std::size_t>(row)).Point()] = true;
   IoMonitor.IoWritePending = True;
   IoStateHyoji2();

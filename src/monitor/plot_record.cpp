@@ -6,6 +6,7 @@
 #include "monitor/plot_data.h"
 #include "monitor/plot_view.h"
 #include "monitor/watch_lists.h"
+#include "monitor/watch_show.h"
 #include "platform/doors.h"
 #include "state/axes_in_use.h"
 #include "state/text.h"
@@ -72,7 +73,8 @@ void RecordPlot() {
   }
   for (const WatchKind kind : kWatchKinds) {
     for (const WatchItem& item : WatchLists[kind]) {
-      PlotData.Add(KeyOf(kind, item), now, WatchValue(kind, item));
+      PlotData.Add(KeyOf(kind, item), now,
+                   WatchListIsRead(kind) ? WatchValue(kind, item) : std::nullopt);
     }
   }
   ShowPlot();

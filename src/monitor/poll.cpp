@@ -41,7 +41,16 @@ class PanelKept {
 
 bool NextMayGo() { return !PollLine.waiting.empty() && !PollLine.on_line && !LineIsHeld(); }
 
+TusinOutcome AskQuietly(const std::function<TusinOutcome()>& ask) {
+  const PanelKept panel_kept;
+  return ask();
+}
+
 }  // namespace
+
+bool FlowHasLine() {
+  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || MotionNow.Kind != Motion::None;
+}
 
 bool LineIsHeld() {
   const bool moves =
@@ -84,15 +93,6 @@ bool Poll::GoesOn() const { return on_ && !AppState.Offline && !AppState.Closing
 void Poll::Soon() {
   if (on_) WaitInLine();
 }
-
-namespace {
-
-TusinOutcome AskQuietly(const std::function<TusinOutcome()>& ask) {
-  const PanelKept panel_kept;
-  return ask();
-}
-
-}  // namespace
 
 PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
   if (!on_ || IsOnLine()) return PollEnd::Skipped;

@@ -85,6 +85,9 @@ extern PollLineRecord PollLine;
 /// After a failure outside of any flow: where the line is offline now, menus and tabs say so.
 void SettleLostSession();
 
+/// A long flow or a motion has the line: nothing is sent between its frames.
+bool FlowHasLine();
+
 /// Something else than a poll has the line, or the line must not be used.
 bool LineIsHeld();
 

@@ -11,6 +11,7 @@
 #include "motion/motion_log.h"
 #include "motion/motion_now.h"
 #include "state/app_state.h"
+#include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
 #include "state/wait.h"
@@ -42,6 +43,10 @@ Words WordsOf(TaskCommand::Operation operation) {
   }
 }
 
+std::string NotTakenText(const TaskCommand& command) {
+  return Text(WordsOf(command.operation).not_taken, std::to_string(command.program));
+}
+
 /// An alarm stays readable in the panel; what is told stands behind it.
 void TellBehindAlarm(const std::string& text) {
   std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
@@ -55,13 +60,12 @@ void TellBehindAlarm(const std::string& text) {
 /// Logs what became of a command that was to go out. That it was not taken is told at once, what
 /// came of it otherwise by the next poll.
 void Settle(const TaskCommand& command, const std::string& frame, TusinOutcome outcome) {
-  const Words words = WordsOf(command.operation);
   const bool taken = outcome == TusinOutcome::Good;
-  LogMotion(words.log, frame, taken ? MsgId(kTaken) : MsgId(kNotTaken));
+  LogMotion(WordsOf(command.operation).log, frame, taken ? MsgId(kTaken) : MsgId(kNotTaken));
   if (taken) {
     TaskMonitor.Taken = command;
   } else {
-    TellBehindAlarm(Text(words.not_taken, std::to_string(command.program)));
+    TellBehindAlarm(NotTakenText(command));
   }
 }
 
@@ -119,6 +123,18 @@ TusinOutcome Send(const TaskCommand& command) {
   const bool overridden = StopsAsked() != command.stops_asked || !TaskMonitor.TaskPoll.GoesOn();
   if (start && overridden) return TusinOutcome::Withdrawn;
   return start ? TaskMonitorDataFromCt(command.program) : TaskProgramSelectToCt(command.program);
+}
+
+/// What was left for one program, where no poll comes any more.
+void SettleOfProgram() {
+  const TaskCommand command = TakeLeft();
+  // A controller in position mode would refuse it, and the session would be lost with that.
+  const bool goes_out =
+      command.operation == TaskCommand::Stop && !AppState.Offline && AppState.CtMode;
+  if (!goes_out) return Settle(command, FrameOf(command), TusinOutcome::Withdrawn);
+  const PortClosedAfter port_closed;
+  Settle(command, FrameOf(command), TaskProgramSelectToCt(command.program, TusinPriority::Next));
+  SettleLostSession();
 }
 
 }  // namespace
@@ -179,14 +195,18 @@ void TellWhatCameOfIt() {
 
 void SettleTaskCommand() {
   if (!TaskMonitor.TaskCmdPending) return;
-  if (StopAllWaits()) return SendStopAll();
-  const TaskCommand command = TakeLeft();
-  const bool stop = command.operation == TaskCommand::Stop;
-  const PortClosedAfter port_closed;
-  Settle(
-      command, FrameOf(command),
-      stop ? TaskProgramSelectToCt(command.program, TusinPriority::Next) : TusinOutcome::Withdrawn);
-  SettleLostSession();
+  const TaskCommand command = TaskMonitor.TaskCmd;
+  if (command.operation == TaskCommand::StopAll && TaskMonitor.StopAllSent) {
+    static_cast<void>(TakeLeft());  // the one that is on its way does the same
+    return;
+  }
+  TaskMonitor.Taken = {};
+  StopAllWaits() ? SendStopAll() : SettleOfProgram();
+  if (TaskMonitor.Taken.operation == command.operation) {
+    TellInStatusPanel({});  // it waits no more
+  } else if (command.operation != TaskCommand::Start) {
+    MsgBox(NotTakenText(command));
+  }
 }
 
 }  // namespace tr7

@@ -22,7 +22,9 @@ void SendStopAll();
 /// The poll behind a command shows whether the program runs as it should, which is told.
 void TellWhatCameOfIt();
 
-/// The view closes: a stop that was left goes out, a start does not.
+/// The view closes, or its polls are given up: a stop that was left goes out where the line serves,
+/// a start does not. A stop that was not taken is told by a box: the panel is emptied with the
+/// view.
 void SettleTaskCommand();
 
 }  // namespace tr7

@@ -16,10 +16,12 @@
 #include "prog/prog_flows.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
+#include "session/open_port.h"
 #include "session/session.h"
 #include "state/app_state.h"
 #include "state/text.h"
 #include "state/views.h"
+#include "steps/record_frames.h"
 #include "steps/transfer_scope.h"
 
 namespace tr7 {
@@ -54,6 +56,15 @@ void ShowPace() {
   if (!poll.IsLate()) return pace.clear();
   const std::int64_t age = poll.AgeMs();
   pace = age > poll.PaceMs() ? Text(kAgeMsg, Seconds(age)) : Text(kPaceMsg, Seconds(poll.PaceMs()));
+}
+
+/// How many tasks run; -1 after the user has been told.
+int CountAtOpening() {
+  const PortClosedAfter port_closed;
+  if (!OpenPortOrTell()) return -1;
+  int count = -1;
+  if (ReadTaskCount(count) == TusinOutcome::Good && count < 0) static_cast<void>(TellBadData());
+  return count;
 }
 
 /// Polling is given up: the buttons go off, the next tick closes the view. What was seen last stays
@@ -134,7 +145,7 @@ void LoadTaskMonitor() {
   DispStepNo(f.flgdProgTask);
   SizeTasks();
   for (int row = 1; row <= kTaskSlots; ++row) BlankRow(row);
-  const int count = ReadTaskCountFromCt();
+  const int count = CountAtOpening();
   TaskMonitor.Seen.TaskCount = static_cast<std::int16_t>(count < 0 ? 0 : count);
   TaskMonitor.TaskStopped = count < 0;
   TaskMonitor.TaskPoll.Begin();
@@ -152,13 +163,17 @@ void UnloadTaskMonitor() {
 }
 
 void TimerProgramTask_Tick() {
-  if (TaskMonitor.TaskStopped) return UnloadView(frmProgTask);
+  if (TaskMonitor.TaskStopped) {
+    SettleTaskCommand();
+    return UnloadView(frmProgTask);
+  }
   ShowTaskButtons();
   switch (NormalTimerProcessing()) {
     case PollEnd::Over:
       return;
     case PollEnd::Failed:
-      return GiveUpPolling();
+      GiveUpPolling();
+      return SettleTaskCommand();
     case PollEnd::Done:
       Disp_TaskStatus();
       MarkRunningSteps();

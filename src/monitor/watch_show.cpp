@@ -62,6 +62,10 @@ WatchPane& PaneOf(WatchKind kind) {
                                     : f.PosVariables;
 }
 
+bool WatchListIsRead(WatchKind kind) {
+  return PaneOf(kind).chkRead.Value && !frmIOCheckFG.Watched.chkEditItem.Value;
+}
+
 void FlagFG_HighSyoriEnd() { EndBatch(WatchKind::Flag); }
 void HensuFG_HighSyoriEnd() { EndBatch(WatchKind::Hensu); }
 void PosHensuFG_HighSyoriEnd() { EndBatch(WatchKind::PosHensu); }
@@ -123,7 +127,10 @@ void WireWatchGrids() {
   for (const WatchKind kind : kWatchKinds) {
     Grid& grid = PaneOf(kind).List;
     grid.CanEdit = [](int, int) { return false; };
-    grid.IsUnused = [](int row, int col) { return row > 0 && col == kValue && IoMonitor.Stale; };
+    grid.WhenEmpty = 7339;
+    grid.IsUnused = [kind](int row, int col) {
+      return row > 0 && col == kValue && (IoValuesAreOld() || !WatchListIsRead(kind));
+    };
   }
   Grid& flags = PaneOf(WatchKind::Flag).List;
   flags.LampOf = [&flags](int row, int col) {

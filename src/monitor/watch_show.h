@@ -19,6 +19,8 @@ void PosHensuFG_HighSyoriEnd();
 /// what has changed. Nothing more is sent where `goes_on` says no; the user may edit the lists
 /// meanwhile.
 TusinOutcome RefreshWatchLists(bool (*goes_on)());
+/// Its rows are read at each poll: it is switched on, and the lists are not being edited.
+bool WatchListIsRead(WatchKind kind);
 /// No value is known any more: the rows show "X".
 void ForgetShownWatchValues();
 /// The grids' greys are others now.

@@ -99,7 +99,9 @@ AxisArray<std::string> DevicesInUse() {
 
 SheetHead HeadOfFile(const std::string& path) {
   const std::string name = path.empty() ? Text(kMsgShown) : FileTitle(path);
-  return {Text(kMsgFileName) + name, MachineLine(DevicesInUse()), Text(kMsgWhen, Now())};
+  // A file may be of another machine.
+  const std::string machine = path.empty() ? MachineLine(DevicesInUse()) : std::string();
+  return {Text(kMsgFileName) + name, machine, Text(kMsgWhen, Now())};
 }
 
 SheetHead HeadOfMachine(const AxisArray<std::string>& devices, const std::string& file) {

@@ -112,11 +112,13 @@ bool Accept(const Rows& rows, PrintChoice& choice) {
     doors.forms->SetFocus(frmPrintSelect.txtPrintStartPosi);
     return false;
   }
+  const bool lacks =
+      std::any_of(rows.begin(), rows.end(), [](const Row& row) { return row.LacksFile(); });
+  if (lacks) {
+    Tell(kMsgBadFile);
+    return false;
+  }
   for (const Row& row : rows) {
-    if (row.LacksFile()) {
-      Tell(kMsgBadFile);
-      return false;
-    }
     if (!row.FromFile()) row.path.clear();
   }
   return true;

@@ -2,6 +2,7 @@
 
 #include "monitor/task_monitor.h"
 
+#include "motion/motion_log.h"
 #include "tests/prog/prog_user.h"
 
 namespace tr7 {
@@ -82,8 +83,11 @@ TEST_F(TaskMonitorTest, TheRunningStepIsMarkedWhereItsListingIsOpenUntilTheLineF
   After(2000);
   EXPECT_EQ(view.flgdProg.AtWork(), (RowAtWork{2, true}));
   port.Ct().SetSilent(true);
+  pump.After(2'500'000, [] { frmProgTask.cmdStopTask.Press(); });  // a poll waits in vain
   After(12'000);
-  EXPECT_EQ(Boxes().size(), 1u);
+  ASSERT_EQ(forms.boxes.size(), 2u);
+  EXPECT_EQ(Boxes()[1], Text(7112, "3"));
+  EXPECT_EQ(MotionLog.back().outcome, Text(5412));
   EXPECT_EQ(Shown(), "3 2 TIM 5");
   EXPECT_FALSE(frmProgTask.Loaded || frmProgTask.TimerProgramTask.Enabled);
   EXPECT_EQ(view.flgdProg.AtWork(), RowAtWork{});
