@@ -4,8 +4,10 @@ _qv_tr7() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
   if [[ $before == --settings ]]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")
+  elif [[ $before == --theme ]]; then
+    mapfile -t COMPREPLY < <(compgen -W 'system light dark' -- "$word")
   elif [[ $word == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W '--demo --settings --help --version' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W '--demo --settings --theme --help --version' -- "$word")
   else
     compopt -o filenames
     mapfile -t COMPREPLY < <(

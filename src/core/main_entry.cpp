@@ -184,7 +184,7 @@ void Main() {
 }
 
 void InstallEntry() {
-  frmSplash.timerSplash.Tick = SplashTick;
+  frmSplash.timerSplash.Tick = frmSplash.Dismiss = SplashTick;
   frmMain.Load = LoadFrame;
   frmMain.QueryUnload = QueryUnloadFrame;
   frmMain.Unload = UnloadFrame;

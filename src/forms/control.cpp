@@ -9,6 +9,13 @@ bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 
 }  // namespace
 
+std::string KeyOfCaption(MsgId tag) {
+  constexpr MsgId kRead = 5200, kWrite = 5201, kVerify = 5202;
+  if (tag == kRead) return "Ctrl+R";
+  if (tag == kWrite) return "Ctrl+Shift+W";
+  return tag == kVerify ? "Ctrl+Shift+V" : std::string();
+}
+
 Control* View::Find(std::string_view name) const {
   for (Control* control : Controls) {
     if (name == control->Name) return control;

@@ -65,9 +65,12 @@ struct Frame : Control {
       : Control(owner, "Frame", name, tag) {}
 };
 
+/// What means one thing in every view has one key in all of them; empty: none.
+std::string KeyOfCaption(MsgId tag);
+
 struct CommandButton : Control {
   CommandButton(View& owner, const std::string& name, MsgId tag = {})
-      : Control(owner, "CommandButton", name, tag) {}
+      : Control(owner, "CommandButton", name, tag), Key(KeyOfCaption(tag)) {}
   bool Default = false;  ///< Enter presses it
   bool Cancel = false;   ///< Escape presses it
   bool Urgent = false;   ///< acts when it goes down, whatever edit is open: a stop

@@ -101,6 +101,8 @@ struct Grid : Control {
   /// Columns share the width that the view has, each at least as wide as its longest text.
   bool FitsView = false;
 
+  MsgId WhenEmpty;  ///< what to do first, shown while there is no row
+
   // Rules that logic sets.
   Handler<bool(int row, int col)> CanEdit;
   /// Asked when an edit ends, with the text to show in `text` where it accepts.

@@ -53,7 +53,8 @@ struct View {
   std::vector<FieldTable> Tables;  ///< the regular parts of the layout
   Control* FirstFocus = nullptr;   ///< of a dialogue: the focus comes here; null: the first control
 
-  Handler<void()> Load;  ///< once, before the view is first shown
+  Handler<void()> Dismiss;  ///< a click or a key on a window that only waits: it is to go
+  Handler<void()> Load;     ///< once, before the view is first shown
   /// Asked before the view closes; true refuses.
   Handler<bool(CloseReason)> QueryUnload;
   /// Asked before the tool ends, also of a view that is closed; true refuses.

@@ -15,6 +15,8 @@
 namespace tr7 {
 namespace {
 
+int jumps = 0;  // of `GoToPosiCell`
+
 int ShownPositions() {
   if (AppState.PosiFirstNo < 1) return 0;
   return std::max(AppState.PosiLastNo - AppState.PosiFirstNo + 1, 0);
@@ -66,14 +68,23 @@ void FG_HighSyoriEnd() {
 
 void FG_InitPos() { frmPosi.flgdData.SelectCell(0, 0); }
 
+void GoToPosiCell(int number, int col) {
+  const int row = RowOfPosition(number);
+  if (row < 0) return;
+  ++jumps;
+  frmPosi.flgdData.SelectCell(row, col);
+}
+
 KeepPlace::KeepPlace()
     : row_(frmPosi.flgdData.Row),
       col_(frmPosi.flgdData.Col),
       row_sel_(frmPosi.flgdData.RowSel),
       col_sel_(frmPosi.flgdData.ColSel),
-      top_row_(frmPosi.flgdData.TopRow) {}
+      top_row_(frmPosi.flgdData.TopRow),
+      jumps_(jumps) {}
 
 KeepPlace::~KeepPlace() {
+  if (jumps != jumps_) return;
   Grid& grid = frmPosi.flgdData;
   const int last = grid.Rows() - 1;
   grid.TopRow = std::min(top_row_, last);

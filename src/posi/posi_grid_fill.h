@@ -14,6 +14,9 @@ void FG_HighSyoriEnd();
 /// The current cell goes to row 0, column 0.
 void FG_InitPos();
 
+/// The cell that the user has asked for, whoever keeps another place meanwhile.
+void GoToPosiCell(int number, int col);
+
 /// Takes up the grid's place again (current cell, selection, first row on show) when a fill or a
 /// check in between has moved it, as far as the rows still exist.
 class KeepPlace {
@@ -25,6 +28,7 @@ class KeepPlace {
 
  private:
   int row_, col_, row_sel_, col_sel_, top_row_;
+  int jumps_;
 };
 
 }  // namespace tr7

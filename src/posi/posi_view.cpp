@@ -103,6 +103,7 @@ void InstallPosiView() {
   f.LayoutChanged = RebuildPosiViewKeepingEdits;
   f.tabCmd.Click = f.tabCmdPrg.Click = ShowPosiTab;
   f.flgdData.SelChange = SelectionChanged;
+  f.flgdData.WhenEmpty = 6368;
   InstallPosiEdit();
   InstallPosiFlows();
   f.mnuPopupCopy.Click = f.Commands.Copy;

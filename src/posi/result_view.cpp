@@ -5,6 +5,7 @@
 #include "base/text_helpers.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_syogo_kekka.h"
+#include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
 #include "posi/posi_table.h"
@@ -21,6 +22,7 @@ constexpr int kMsgNumber = 6352;
 constexpr int kMsgCell = 6353;
 constexpr int kMsgEmpty = 6354;
 constexpr int kMsgNameAndValue = 6355;
+constexpr int kMsgGoToCell = 6367;
 constexpr int kEdges = 160;  // twips of the view's width that are no columns
 constexpr int kPrgColumns = 4;
 
@@ -124,10 +126,20 @@ void WireOtherSide(const OtherSide& other, HandlersForOnce& handlers) {
   });
 }
 
+/// The cell in the table itself, where it can be mended.
+bool GoToCell() {
+  const Grid& result = ResultGrid();
+  if (result.Row < result.FixedRows || result.Row >= result.Rows()) return false;
+  GoToPosiCell(NumberOfRow(result.Row), std::max(result.Col, 1));
+  frmSyogoKekka.Visible = false;
+  return true;
+}
+
 void LoadResultView() {
   FrmSyogoKekka& f = frmSyogoKekka;
   f.Caption = Text(f.SyogoViewIsVerify ? MsgId(2301) : MsgId(2302));
-  f.lblExplanation.Caption = Text(f.SyogoViewIsVerify ? MsgId(2303) : MsgId(2304));
+  f.lblExplanation.Caption =
+      Text(f.SyogoViewIsVerify ? MsgId(2303) : MsgId(2304)) + "\n" + Text(kMsgGoToCell);
   FillGrid();
   f.flgdKekka.SelectCell(kPosiHeaderRows, 0);
 }
@@ -147,6 +159,7 @@ void InstallResultView() {
   f.flgdKekka.FitsView = true;
   f.flgdKekka.CanEdit = [](int, int) { return false; };
   f.flgdKekka.IsMarked = IsFlaggedCell;
+  f.flgdKekka.GoToTarget = [](bool) { return GoToCell(); };
   f.cmdClose.Click = [] { frmSyogoKekka.Visible = false; };
 }
 

@@ -25,6 +25,7 @@
 #include "ui/hold_button_binding.h"
 #include "ui/label_binding.h"
 #include "ui/lamp.h"
+#include "ui/look.h"
 #include "ui/plot_widget.h"
 #include "ui/text_box_binding.h"
 #include "ui/wheel_filter.h"
@@ -43,8 +44,10 @@ void WidgetBinding::PushToolTip() {
   }
   if (!differs && !differs_) return;
   if (Changed(differs_, differs)) {
-    widget_.setStyleSheet(differs ? QStringLiteral("font-weight: bold; color: #b00020;")
-                                  : QString());
+    widget_.setStyleSheet(
+        differs
+            ? QStringLiteral("font-weight: bold; color: %1;").arg(look::Colours().difference.name())
+            : QString());
   }
 }
 

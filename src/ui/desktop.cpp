@@ -1,5 +1,6 @@
 #include "ui/desktop.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -10,6 +11,7 @@
 #include "platform/doors.h"
 #include "ui/binding.h"
 #include "ui/file_drop.h"
+#include "ui/icons.h"
 #include "ui/sim_dock.h"
 
 namespace tr7 {
@@ -45,6 +47,7 @@ Desktop::Desktop(const Profile& profile)
       settings(files, SettingsPath(profile)) {
   SetAtFirstUse(settings, "Language", SpeaksJapanese(profile.locale) ? "1" : "2");
   if (profile.demo) SetAtFirstUse(settings, "PortDevice1", "sim");
+  QApplication::setWindowIcon(ProgramIcon());
   doors.pump = &pump;
   doors.serial = &serial;
   doors.settings = &settings;

@@ -37,13 +37,14 @@ bool GridCellPainter::IsMarked(int row, int col) const {
 
 QColor GridCellPainter::Ground(int row, int col, bool enabled) const {
   const Colour colour = grid_.ColColour(col);
-  QColor ground = colour == kWindowColour   ? look::kBase
-                  : colour == kHeaderColour ? look::kHeader
-                                            : QColor::fromRgb(static_cast<QRgb>(colour));
-  if (grid_.IsUnused && grid_.IsUnused(row, col)) ground = look::kUnusedCell;
-  if (grid_.AtWork().Is(row) && !grid_.AtWork().Differs) ground = look::kAtWorkRow;
-  if (IsMarked(row, col)) ground = look::kMarkedCell;
-  if (!enabled) ground = Mixed(ground, look::kWindow, 0.55);
+  QColor ground = colour == kWindowColour ? look::Colours().base
+                  : colour == kHeaderColour
+                      ? look::Colours().header
+                      : look::Ground(QColor::fromRgb(static_cast<QRgb>(colour)));
+  if (grid_.IsUnused && grid_.IsUnused(row, col)) ground = look::Colours().unused_cell;
+  if (grid_.AtWork().Is(row) && !grid_.AtWork().Differs) ground = look::Colours().at_work_row;
+  if (IsMarked(row, col)) ground = look::Colours().marked_cell;
+  if (!enabled) ground = Mixed(ground, look::Colours().window, 0.55);
   return ground;
 }
 
@@ -52,7 +53,7 @@ void GridCellPainter::PaintMark(QPainter& painter, const QRect& cell) const {
   constexpr int kSide = 7;
   const QPoint corner = cell.topLeft();
   painter.setPen(Qt::NoPen);
-  painter.setBrush(look::kText);
+  painter.setBrush(look::Colours().text);
   painter.drawPolygon(QPolygon({corner, corner + QPoint(kSide, 0), corner + QPoint(0, kSide)}));
   painter.setBrush(Qt::NoBrush);
 }
@@ -61,11 +62,11 @@ void GridCellPainter::PaintMark(QPainter& painter, const QRect& cell) const {
 void GridCellPainter::PaintLamp(QPainter& painter, const QRect& cell, bool lit,
                                 bool enabled) const {
   constexpr double kRadius = 5.5;
-  const QColor on = enabled ? look::kLampOn : look::kFaintText;
+  const QColor on = enabled ? look::Colours().lamp_on : look::Colours().faint_text;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(lit ? on.darker(140) : look::kFaintText, 1.2));
-  painter.setBrush(lit ? QBrush(on) : QBrush(look::kBase));
+  painter.setPen(QPen(lit ? on.darker(140) : look::Colours().faint_text, 1.2));
+  painter.setBrush(lit ? QBrush(on) : QBrush(look::Colours().base));
   painter.drawEllipse(QPointF(cell.left() + kLampWidth / 2.0 + 2, cell.center().y() + 0.5), kRadius,
                       kRadius);
   painter.restore();
@@ -74,10 +75,10 @@ void GridCellPainter::PaintLamp(QPainter& painter, const QRect& cell, bool lit,
 /// The current cell has a list.
 void GridCellPainter::PaintArrow(QPainter& painter, const QRect& field) const {
   constexpr int kHalf = 4;
-  painter.fillRect(field, look::kHeader);
+  painter.fillRect(field, look::Colours().header);
   const QPoint centre = field.center();
   painter.setPen(Qt::NoPen);
-  painter.setBrush(look::kText);
+  painter.setBrush(look::Colours().text);
   painter.drawPolygon(QPolygon(
       {centre + QPoint(-kHalf, -2), centre + QPoint(kHalf, -2), centre + QPoint(0, kHalf - 2)}));
   painter.setBrush(Qt::NoBrush);
@@ -104,7 +105,8 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   const bool enabled = option.state & QStyle::State_Enabled;
   QColor ground = Ground(row, col, enabled);
   const bool current = row == grid_.Row && col == grid_.Col;
-  if (IsSelected(row, col) && enabled && !current) ground = Mixed(ground, look::kSelection, 0.35);
+  if (IsSelected(row, col) && enabled && !current)
+    ground = Mixed(ground, look::Colours().selection, 0.35);
   painter->fillRect(option.rect, ground);
   if (IsMarked(row, col)) PaintMark(*painter, option.rect);
   const QString text = model_.TextAt(index.row(), index.column());
@@ -113,12 +115,12 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   if (lamp != CellLamp::None)
     PaintLamp(*painter, option.rect, lamp == CellLamp::On, enabled && !grey);
   const int beside = lamp == CellLamp::None ? 3 : kLampWidth + 6;
-  painter->setPen(enabled ? look::kText : look::kFaintText);
+  painter->setPen(enabled ? look::Colours().text : look::Colours().faint_text);
   painter->drawText(option.rect.adjusted(beside, 0, -4, 0),
                     Qt::AlignVCenter | AlignmentOf(col, text), text.trimmed());
   if (!current || !enabled) return;
   if (grid_.List.Box && col == grid_.List.Col) PaintArrow(*painter, ListArrowIn(option.rect));
-  painter->setPen(QPen(look::kSelection, 2));
+  painter->setPen(QPen(look::Colours().selection, 2));
   painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
 }
 

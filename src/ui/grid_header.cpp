@@ -44,7 +44,7 @@ QRect GridHeader::GroupRect(const QRect& section_rect, int level, int section) c
 
 void GridHeader::PaintTitle(QPainter& painter, const QRect& rect, const QString& title,
                             bool upper) const {
-  painter.setPen(isEnabled() ? look::kText : look::kFaintText);
+  painter.setPen(isEnabled() ? look::Colours().text : look::Colours().faint_text);
   QFont font = painter.font();
   font.setBold(upper);
   painter.setFont(font);
@@ -63,7 +63,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
   if (!grid_ || !rect.isValid()) return;
   painter->save();
   painter->setClipRect(rect);
-  painter->fillRect(rect, look::kHeader);
+  painter->fillRect(rect, look::Colours().header);
   int top = rect.top();
   for (int level = 0; level < grid_->FixedRows; ++level) {
     const bool upper = level + 1 < grid_->FixedRows;
@@ -71,7 +71,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
                         : QRect(rect.left(), top, rect.width(), rect.bottom() - top + 1);
     field.moveTop(top);
     PaintTitle(*painter, field, TitleAt(level, section), upper);
-    painter->setPen(look::kHeaderLine);
+    painter->setPen(look::Colours().header_line);
     painter->drawLine(rect.left(), field.bottom(), rect.right(), field.bottom());
     const bool ends =
         !upper || TitleAt(level, section) != TitleAt(level, section + 1) || section + 1 >= count();
@@ -89,7 +89,7 @@ void GridRowHeader::PaintMark(QPainter& painter, const QRect& rect, RowMark mark
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(isEnabled() ? look::kSelection : look::kFaintText);
+  painter.setBrush(isEnabled() ? look::Colours().selection : look::Colours().faint_text);
   if (mark == RowMark::Target) {
     painter.drawEllipse(at, kHalf, kHalf);
   } else {
@@ -107,8 +107,8 @@ void GridRowHeader::PaintAtWork(QPainter& painter, const QRect& rect, const QStr
   const QRect field = rect.adjusted(1, 1, -2, -2);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillRect(field, differs ? look::kHeader : look::kAtWork);
-  const QColor ink = differs ? look::kAtWork : look::kBase;
+  painter.fillRect(field, differs ? look::Colours().header : look::Colours().at_work);
+  const QColor ink = differs ? look::Colours().at_work : look::Colours().base;
   if (differs) {
     painter.setPen(QPen(ink, 2, Qt::DashLine));
     painter.drawRect(field);
@@ -134,8 +134,8 @@ void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int secti
   if (row >= grid_->Rows()) return;
   const auto [top, bottom] = std::minmax(grid_->Row, grid_->RowSel);
   const bool selected = row >= top && row <= bottom && isEnabled();
-  painter->fillRect(rect, selected ? look::kHeaderSelected : look::kHeader);
-  painter->setPen(look::kHeaderLine);
+  painter->fillRect(rect, selected ? look::Colours().header_selected : look::Colours().header);
+  painter->setPen(look::Colours().header_line);
   painter->drawLine(rect.bottomLeft(), rect.bottomRight());
   painter->drawLine(rect.topRight(), rect.bottomRight());
   const QString number = Q(grid_->Text(row, grid_->FixedCols - 1));
@@ -143,7 +143,7 @@ void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int secti
     return PaintAtWork(*painter, rect, number, grid_->AtWork().Differs);
   }
   if (grid_->MarkOfRow) PaintMark(*painter, rect, grid_->MarkOfRow(row));
-  painter->setPen(isEnabled() ? look::kText : look::kFaintText);
+  painter->setPen(isEnabled() ? look::Colours().text : look::Colours().faint_text);
   painter->drawText(rect, Qt::AlignCenter, number);
 }
 

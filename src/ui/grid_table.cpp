@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "state/text.h"
+#include "ui/binding.h"
 #include "ui/cell_bubble.h"
 #include "ui/grid_cell_painter.h"
 #include "ui/grid_header.h"
@@ -45,7 +47,8 @@ GridTable::GridTable(QWidget* parent) : QTableView(parent), bubble_(new CellBubb
   setCornerButtonEnabled(false);
   corner_ = findChild<QAbstractButton*>();
   if (corner_) corner_->installEventFilter(this);
-  setStyleSheet(QStringLiteral("QTableView { gridline-color: %1; }").arg(look::kGridLine.name()));
+  setStyleSheet(
+      QStringLiteral("QTableView { gridline-color: %1; }").arg(look::Colours().grid_line.name()));
 }
 
 void GridTable::Attach(Grid& grid) {
@@ -105,14 +108,14 @@ QString GridTable::Refusal() const { return bubble_->isHidden() ? QString() : bu
 /// The fixed column's own title, in the line of the other columns' titles.
 void GridTable::PaintCorner() {
   QPainter painter(corner_);
-  painter.fillRect(corner_->rect(), look::kHeader);
-  painter.setPen(look::kHeaderLine);
+  painter.fillRect(corner_->rect(), look::Colours().header);
+  painter.setPen(look::Colours().header_line);
   painter.drawRect(corner_->rect().adjusted(-1, -1, -1, -1));
   if (grid_->FixedCols == 0 || grid_->FixedRows == 0) return;
   const int level = grid_->FixedRows - 1;
   const QRect line(0, corner_->height() - header_->LevelHeight(level), corner_->width(),
                    header_->LevelHeight(level));
-  painter.setPen(isEnabled() ? look::kText : look::kFaintText);
+  painter.setPen(isEnabled() ? look::Colours().text : look::Colours().faint_text);
   painter.drawText(line, Qt::AlignCenter, Q(grid_->Text(level, grid_->FixedCols - 1)));
 }
 
@@ -231,6 +234,16 @@ void GridTable::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
   FillWidth();
   PlaceEditor();
+}
+
+void GridTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!grid_->WhenEmpty || grid_->Rows() > grid_->FixedRows) return;
+  constexpr int kBeside = 24;
+  QPainter painter(viewport());
+  painter.setPen(look::Colours().faint_text);
+  painter.drawText(viewport()->rect().adjusted(kBeside, kBeside, -kBeside, -kBeside),
+                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, Q(Text(grid_->WhenEmpty)));
 }
 
 void GridTable::updateGeometries() {

@@ -5,6 +5,8 @@
 #include <QPainterPath>
 #include <array>
 
+#include "ui/look.h"
+
 namespace tr7 {
 namespace {
 
@@ -17,8 +19,14 @@ struct Inks {
   QColor accent;
 };
 
-const Inks kNormal{QColor(0x33, 0x47, 0x5b), Qt::white, QColor(0x1f, 0x6f, 0xb2)};
-const Inks kDisabled{QColor(0xb0, 0xba, 0xc4), QColor(0xf3, 0xf5, 0xf7), QColor(0xc3, 0xcb, 0xd3)};
+Inks Normal() {
+  const look::Palette& colours = look::Colours();
+  return {colours.icon_line, colours.icon_paper, colours.link};
+}
+Inks Disabled() {
+  const look::Palette& colours = look::Colours();
+  return {colours.icon_off, colours.window, colours.icon_off};
+}
 
 void SetInk(QPainter& p, const Inks& inks) {
   p.setPen(QPen(inks.line, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -174,7 +182,7 @@ class DrawnIcon : public QIconEngine {
   explicit DrawnIcon(Drawing drawing) : drawing_(drawing) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    const Inks& inks = mode == QIcon::Disabled ? kDisabled : kNormal;
+    const Inks inks = mode == QIcon::Disabled ? Disabled() : Normal();
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(rect.topLeft());

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+#include "ui/look.h"
+
 namespace tr7 {
 
 void Lamp::SetLit(bool lit) {
@@ -16,11 +18,11 @@ void Lamp::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const qreal side = qMin(width(), height()) - 2;
   const QRectF disc((width() - side) / 2, (height() - side) / 2, side, side);
-  const QColor body = lit_ ? colour_ : QColor(0xc9, 0xd1, 0xd9);
+  const QColor body = lit_ ? colour_ : look::Colours().lamp_off;
   QRadialGradient light(disc.center() - QPointF(side / 6, side / 6), side / 1.6);
   light.setColorAt(0, lit_ ? body.lighter(165) : body.lighter(112));
   light.setColorAt(1, body);
-  painter.setPen(QPen(lit_ ? colour_.darker(150) : QColor(0x9a, 0xa7, 0xb3), 1));
+  painter.setPen(QPen(lit_ ? colour_.darker(150) : look::Colours().faint_text, 1));
   painter.setBrush(light);
   painter.drawEllipse(disc);
 }

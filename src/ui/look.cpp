@@ -7,7 +7,6 @@
 #include <QProxyStyle>
 #include <optional>
 
-#include "ui/icons.h"
 #include "ui/qt_texts.h"
 
 namespace tr7::look {
@@ -17,33 +16,91 @@ constexpr qreal kFontPoints = 9.5;
 /// Japanese letters fill their field, and their lines are high.
 constexpr qreal kJapanesePoints = 9;
 
-QPalette LightPalette() {
+Palette Light() {
+  return {.window = {0xee, 0xf1, 0xf4},
+          .base = {0xff, 0xff, 0xff},
+          .alternate_base = {0xf6, 0xf8, 0xfa},
+          .text = {0x1a, 0x24, 0x2e},
+          .faint_text = {0x5f, 0x6b, 0x77},
+          .button = {0xf8, 0xf9, 0xfb},
+          .selection = {0x1f, 0x6f, 0xb2},
+          .selected_text = {0xff, 0xff, 0xff},
+          .link = {0x1f, 0x6f, 0xb2},
+          .difference = {0xb0, 0x00, 0x20},
+          .header = {0xe3, 0xe9, 0xef},
+          .header_selected = {0xc4, 0xd8, 0xea},
+          .header_line = {0xc2, 0xcc, 0xd6},
+          .grid_line = {0xd9, 0xdf, 0xe5},
+          .unused_cell = {0xe9, 0xeb, 0xed},
+          .at_work = {0x1b, 0x6b, 0x3a},
+          .at_work_row = {0xd6, 0xf0, 0xdd},
+          .marked_cell = {0xff, 0xc9, 0xc4},
+          .lamp_on = {0x2f, 0xa8, 0x4f},
+          .lamp_off = {0xc9, 0xd1, 0xd9},
+          .tip = {0xff, 0xfb, 0xe8},
+          .icon_line = {0x33, 0x47, 0x5b},
+          .icon_paper = {0xff, 0xff, 0xff},
+          .icon_off = {0xb0, 0xba, 0xc4}};
+}
+
+Palette Dark() {
+  return {.window = {0x20, 0x26, 0x2c},
+          .base = {0x17, 0x1c, 0x21},
+          .alternate_base = {0x1c, 0x22, 0x28},
+          .text = {0xe4, 0xe9, 0xee},
+          .faint_text = {0x97, 0xa3, 0xaf},
+          .button = {0x2c, 0x34, 0x3c},
+          .selection = {0x2a, 0x74, 0xb5},
+          .selected_text = {0xff, 0xff, 0xff},
+          .link = {0x6c, 0xb4, 0xf0},
+          .difference = {0xff, 0x8f, 0x86},
+          .header = {0x2a, 0x32, 0x3a},
+          .header_selected = {0x31, 0x48, 0x5e},
+          .header_line = {0x46, 0x52, 0x5e},
+          .grid_line = {0x34, 0x3d, 0x46},
+          .unused_cell = {0x26, 0x2d, 0x34},
+          .at_work = {0x3f, 0xb5, 0x70},
+          .at_work_row = {0x1d, 0x3a, 0x2a},
+          .marked_cell = {0x6e, 0x2b, 0x28},
+          .lamp_on = {0x37, 0xc0, 0x5d},
+          .lamp_off = {0x3c, 0x46, 0x50},
+          .tip = {0x39, 0x42, 0x4b},
+          .icon_line = {0xc8, 0xd3, 0xde},
+          .icon_paper = {0x2c, 0x34, 0x3c},
+          .icon_off = {0x5a, 0x66, 0x71}};
+}
+
+Palette in_use = Light();
+bool is_dark = false;
+
+QPalette PaletteOf(const Palette& colours) {
   QPalette palette;
-  palette.setColor(QPalette::Window, kWindow);
-  palette.setColor(QPalette::WindowText, kText);
-  palette.setColor(QPalette::Base, kBase);
-  palette.setColor(QPalette::AlternateBase, QColor(0xf6, 0xf8, 0xfa));
-  palette.setColor(QPalette::Text, kText);
-  palette.setColor(QPalette::Button, kButton);
-  palette.setColor(QPalette::ButtonText, kText);
+  palette.setColor(QPalette::Window, colours.window);
+  palette.setColor(QPalette::WindowText, colours.text);
+  palette.setColor(QPalette::Base, colours.base);
+  palette.setColor(QPalette::AlternateBase, colours.alternate_base);
+  palette.setColor(QPalette::Text, colours.text);
+  palette.setColor(QPalette::Button, colours.button);
+  palette.setColor(QPalette::ButtonText, colours.text);
   palette.setColor(QPalette::BrightText, Qt::white);
-  palette.setColor(QPalette::Highlight, kSelection);
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  palette.setColor(QPalette::Link, kSelection);
-  palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe8));
-  palette.setColor(QPalette::ToolTipText, kText);
-  palette.setColor(QPalette::PlaceholderText, kFaintText);
+  palette.setColor(QPalette::Mid, colours.header_line);
+  palette.setColor(QPalette::Highlight, colours.selection);
+  palette.setColor(QPalette::HighlightedText, colours.selected_text);
+  palette.setColor(QPalette::Link, colours.link);
+  palette.setColor(QPalette::ToolTipBase, colours.tip);
+  palette.setColor(QPalette::ToolTipText, colours.text);
+  palette.setColor(QPalette::PlaceholderText, colours.faint_text);
   for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, kFaintText);
+    palette.setColor(QPalette::Disabled, role, colours.faint_text);
   }
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, kHeaderLine);
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, colours.header_line);
   return palette;
 }
 
 /// A field that is off looks off also while it is empty.
 QPalette FieldPalette() {
-  QPalette palette = LightPalette();
-  palette.setColor(QPalette::Disabled, QPalette::Base, kWindow);
+  QPalette palette = PaletteOf(in_use);
+  palette.setColor(QPalette::Disabled, QPalette::Base, in_use.window);
   return palette;
 }
 
@@ -79,12 +136,29 @@ class Style : public QProxyStyle {
 
 }  // namespace
 
-void Apply(QApplication& application) {
+const Palette& Colours() { return in_use; }
+
+QColor Ground(const QColor& colour) {
+  if (!is_dark) return colour;
+  constexpr float kShare = 0.12F;
+  const auto mixed = [](float of_base, float of_colour) {
+    return of_base * (1 - kShare) + of_colour * kShare;
+  };
+  const QColor& base = in_use.base;
+  return QColor::fromRgbF(mixed(base.redF(), colour.redF()), mixed(base.greenF(), colour.greenF()),
+                          mixed(base.blueF(), colour.blueF()));
+}
+
+void Apply(QApplication& application, Theme theme) {
+  // As long as the palette is still the system's, it says what the system looks like.
+  constexpr int kMiddle = 128;
+  const bool system_is_dark = QApplication::palette().color(QPalette::Window).lightness() < kMiddle;
+  is_dark = theme == Theme::Dark || (theme == Theme::System && system_is_dark);
+  in_use = is_dark ? Dark() : Light();
   application.setStyle(new Style);
-  application.setPalette(LightPalette());
+  application.setPalette(PaletteOf(in_use));
   QApplication::setPalette(FieldPalette(), "QLineEdit");
   QCoreApplication::installTranslator(new QtTexts(&application));
-  application.setWindowIcon(ProgramIcon());
   QFont font = application.font();
   font.setPointSizeF(kFontPoints);
   application.setFont(font);

@@ -95,9 +95,9 @@ void PlotWidget::DrawTimes(QPainter& painter) const {
   for (std::int64_t at = (first + step - 1) / step * step; at + plot_->ZeroMs <= plot_->ToMs;
        at += step) {
     const qreal x = XOf(at + plot_->ZeroMs);
-    painter.setPen(look::kGridLine);
+    painter.setPen(look::Colours().grid_line);
     painter.drawLine(QPointF(x, field.top()), QPointF(x, field.bottom()));
-    painter.setPen(look::kText);
+    painter.setPen(look::Colours().text);
     const QString text = QString::number(at / 1000) + QStringLiteral(" s");
     const qreal wide = fontMetrics().horizontalAdvance(text);
     const qreal left = std::min(x - wide / 2, width() - wide - 1);
@@ -108,13 +108,14 @@ void PlotWidget::DrawTimes(QPainter& painter) const {
 /// On is a full bar, off a line at the bottom, and what is not known nothing.
 void PlotWidget::DrawLane(QPainter& painter, const PlotTrace& trace, const QRectF& lane) const {
   const auto [first, end] = Within(trace.Samples, plot_->FromMs, plot_->ToMs);
-  painter.setPen(look::kText);
+  painter.setPen(look::Colours().text);
   for (auto sample = first; sample != end; ++sample) {
     const auto next = std::next(sample);
     if (!sample->Value || next == end) continue;
     const qreal from = XOf(sample->AtMs), to = XOf(next->AtMs);
     if (*sample->Value != 0) {
-      painter.fillRect(QRectF(from, lane.top() + 2, to - from, lane.height() - 4), look::kLampOn);
+      painter.fillRect(QRectF(from, lane.top() + 2, to - from, lane.height() - 4),
+                       look::Colours().lamp_on);
     }
     painter.drawLine(QPointF(from, lane.bottom() - 2), QPointF(to, lane.bottom() - 2));
   }
@@ -132,7 +133,7 @@ void PlotWidget::DrawLine(QPainter& painter, const PlotTrace& trace, const QRect
   const double range = *high > *low ? *high - *low : 1.0;
   const QRectF inner = strip.adjusted(0, 4, 0, -4);
   QPolygonF line;
-  painter.setPen(QPen(look::kSelection, 1.5));
+  painter.setPen(QPen(look::Colours().selection, 1.5));
   for (auto sample = first; sample != end; ++sample) {
     if (sample->Value) {
       const double part = *high > *low ? (*sample->Value - *low) / range : 0.5;
@@ -142,7 +143,7 @@ void PlotWidget::DrawLine(QPainter& painter, const PlotTrace& trace, const QRect
     painter.drawPolyline(line);
     line.clear();
   }
-  painter.setPen(look::kText);
+  painter.setPen(look::Colours().text);
   const QRectF scale = strip.adjusted(2, 0, -2, 0);
   painter.drawText(scale, Qt::AlignRight | Qt::AlignTop, Number(*high));
   if (*high > *low) painter.drawText(scale, Qt::AlignRight | Qt::AlignBottom, Number(*low));
@@ -161,12 +162,12 @@ void PlotWidget::DrawTraces(QPainter& painter) const {
     const qreal height = trace->Digital ? lane_height : strip_height;
     const QRectF strip(field.left(), top, field.width(), height);
     const QRectF name(kGap, top, field.left() - 2 * kGap, height);
-    painter.setPen(look::kText);
+    painter.setPen(look::Colours().text);
     painter.drawText(
         name, Qt::AlignLeft | Qt::AlignVCenter,
         fontMetrics().elidedText(Q(trace->Name), Qt::ElideRight, static_cast<int>(name.width())));
     trace->Digital ? DrawLane(painter, *trace, strip) : DrawLine(painter, *trace, strip);
-    painter.setPen(look::kHeaderLine);
+    painter.setPen(look::Colours().header_line);
     painter.drawLine(QPointF(kGap, strip.bottom()), QPointF(field.right(), strip.bottom()));
     top += height;
   }
@@ -177,22 +178,22 @@ void PlotWidget::DrawCursor(QPainter& painter, const std::optional<std::int64_t>
   if (!at_ms || *at_ms < plot_->FromMs || *at_ms > plot_->ToMs) return;
   const QRectF field = Field();
   const qreal x = XOf(*at_ms);
-  painter.setPen(QPen(look::kText, 1.2, style));
+  painter.setPen(QPen(look::Colours().text, 1.2, style));
   painter.drawLine(QPointF(x, field.top()), QPointF(x, field.bottom()));
   const QRectF label(x + 2, field.top(), fontMetrics().horizontalAdvance(name) + 4,
                      fontMetrics().height());
-  painter.fillRect(label, look::kHeader);
+  painter.fillRect(label, look::Colours().header);
   painter.drawText(label, Qt::AlignCenter, name);
 }
 
 void PlotWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), look::kBase);
-  painter.setPen(look::kHeaderLine);
+  painter.fillRect(rect(), look::Colours().base);
+  painter.setPen(look::Colours().header_line);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   if (!plot_) return;
   if (plot_->Shown.empty()) {
-    painter.setPen(look::kText);
+    painter.setPen(look::Colours().text);
     painter.drawText(rect().adjusted(kGap, kGap, -kGap, -kGap), Qt::AlignCenter | Qt::TextWordWrap,
                      Q(plot_->Hint));
     return;

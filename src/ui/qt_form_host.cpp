@@ -79,7 +79,7 @@ QWidget* QtFormHost::MakeWindow(View& view, const ViewForm& form, bool modal, QW
     return child;
   }
   if (form.root == FormRoot::Dialog) return inner = new DialogWindow(view, ParentForDialogs());
-  return inner = new SplashWindow;
+  return inner = new SplashWindow(view);
 }
 
 QtFormHost::Shown* QtFormHost::Build(View& view, bool modal) {

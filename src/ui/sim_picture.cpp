@@ -97,15 +97,16 @@ void SimPicture::DrawStroke(QPainter& painter) const {
   painter.drawText(low, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("0"));
   painter.drawText(high, Qt::AlignLeft | Qt::AlignVCenter,
                    Mm(axis_, axis_.max_pulses, 0) + QStringLiteral(" mm"));
-  painter.setPen(QPen(look::kFaintText, 1));
+  painter.setPen(QPen(look::Colours().faint_text, 1));
   painter.setBrush(palette().brush(QPalette::Base));
   painter.drawRect(stroke);
   for (const qreal end : {stroke.left(), stroke.right()}) {
     painter.drawLine(QPointF(end, stroke.top() - 5), QPointF(end, stroke.bottom() + 5));
   }
   // Filled while the servo holds it; a free one is hollow.
-  painter.setPen(QPen(look::kSelection.darker(140), 1.5));
-  painter.setBrush(axis_.servo_on ? QBrush(look::kSelection) : palette().brush(QPalette::Base));
+  painter.setPen(QPen(look::Colours().selection.darker(140), 1.5));
+  painter.setBrush(axis_.servo_on ? QBrush(look::Colours().selection)
+                                  : palette().brush(QPalette::Base));
   painter.drawRoundedRect(Slide(), 3, 3);
 }
 

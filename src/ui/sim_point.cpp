@@ -55,8 +55,9 @@ void SimPoint::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const bool on = isChecked();
   const QRectF field = QRectF(rect()).adjusted(1, 1, -1, -1);
-  painter.setPen(QPen(hasFocus() ? look::kText : look::kFaintText, hasFocus() ? 2 : 1));
-  painter.setBrush(on ? look::kAtWork : look::kBase);
+  painter.setPen(
+      QPen(hasFocus() ? look::Colours().text : look::Colours().faint_text, hasFocus() ? 2 : 1));
+  painter.setBrush(on ? look::Colours().at_work : look::Colours().base);
   if (kind_ == Kind::Input) {
     painter.drawRoundedRect(field, 3, 3);
   } else {
@@ -65,7 +66,7 @@ void SimPoint::paintEvent(QPaintEvent*) {
   QFont font = painter.font();
   font.setBold(on);
   painter.setFont(font);
-  painter.setPen(on ? look::kBase : look::kText);
+  painter.setPen(on ? look::Colours().base : look::Colours().text);
   painter.drawText(rect(), Qt::AlignCenter, text());
 }
 

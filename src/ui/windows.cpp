@@ -138,7 +138,17 @@ void DialogWindow::reject() {
   }
 }
 
-SplashWindow::SplashWindow() { setWindowFlags(Qt::SplashScreen | Qt::WindowStaysOnTopHint); }
+SplashWindow::SplashWindow(View& view) : view_(view) {
+  setWindowFlags(Qt::SplashScreen | Qt::WindowStaysOnTopHint);
+}
+
+void SplashWindow::mousePressEvent(QMouseEvent*) {
+  if (view_.Dismiss) view_.Dismiss();
+}
+
+void SplashWindow::keyPressEvent(QKeyEvent*) {
+  if (view_.Dismiss) view_.Dismiss();
+}
 
 void SplashWindow::closeEvent(QCloseEvent* event) { event->ignore(); }
 

@@ -75,10 +75,15 @@ class SplashWindow : public QWidget {
   Q_OBJECT
 
  public:
-  SplashWindow();
+  explicit SplashWindow(View& view);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  View& view_;
 };
 
 }  // namespace tr7

@@ -72,16 +72,23 @@ void RemoveOldTour(const QString& folder) {
   std::_Exit(EXIT_FAILURE);
 }
 
+/// How a script is seen.
+struct Showing {
+  const char* name;
+  int language;
+  look::Theme theme;
+};
+
 /// One session in this process.
-int Play(const Script& script, int language, const Arguments& arguments) {
+int Play(const Script& script, const Showing& showing, const Arguments& arguments) {
   SimProcess sim(arguments.sim, script.sim_options);
   const QString file = arguments.folder + "/tour-" + arguments.session + ".ini";
   QSettings settings(file, QSettings::IniFormat);
   settings.setValue("Settings/PortNo", 1);
   settings.setValue("Settings/PortDevice1", QString::fromStdString(sim.Path()));
-  settings.setValue("Settings/Language", language);
+  settings.setValue("Settings/Language", showing.language);
   settings.sync();
-  look::Apply(*qApp);
+  look::Apply(*qApp, showing.theme);
   Desktop desktop({file, false});
   InstallViews();
   const int first = static_cast<int>(Pictures(arguments.folder).size()) + 1;
@@ -116,12 +123,13 @@ bool PlayApart(const QString& session, const Arguments& arguments) {
 
 /// The sessions asked for; without a name all of them.
 int Run(const Arguments& arguments) {
-  const std::pair<const char*, int> languages[] = {{"en", 2}, {"ja", 1}};
+  const Showing showings[] = {
+      {"en", 2, look::Theme::Light}, {"ja", 1, look::Theme::Light}, {"dark", 2, look::Theme::Dark}};
   if (arguments.session.isEmpty()) RemoveOldTour(arguments.folder);
   for (const Script& script : Scripts()) {
-    for (const auto& [name, number] : languages) {
-      const QString session = QString("%1-%2").arg(script.name, name);
-      if (arguments.session == session) return Play(script, number, arguments);
+    for (const Showing& showing : showings) {
+      const QString session = QString("%1-%2").arg(script.name, showing.name);
+      if (arguments.session == session) return Play(script, showing, arguments);
       const bool wanted = arguments.only.isEmpty() || arguments.only.contains(script.name) ||
                           arguments.only.contains(session);
       if (!arguments.session.isEmpty() || !wanted || PlayApart(session, arguments)) continue;
