@@ -86,7 +86,8 @@ void WireTable(Grid& grid, const std::array<IoPointRow, rows>& points,
     if (col != kPointState || grid.Text(row, col).empty()) return CellLamp::None;
     return grid.Text(row, col) == kOn ? CellLamp::On : CellLamp::Off;
   };
-  grid.IsMarked = [&points, &changed_us](int row, int col) {
+  grid.IsMarked = [&grid, &points, &changed_us](int row, int col) {
+    if (col == kPointForced) return !grid.Text(row, col).empty();
     const std::int64_t at = changed_us[points[static_cast<std::size_t>(row)].Point()];
     return col == kPointState && at != 0 && IoMonitor.IoMonOn &&
            doors.pump->NowUs() - at <= kMarkedUs;

@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <optional>
 
 #include "ui/qt_texts.h"
@@ -124,6 +126,21 @@ class Style : public QProxyStyle {
     constexpr int kBeside = 12;
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton ? size.expandedTo({contents.width() + 2 * kBeside, 0}) : size;
+  }
+
+  /// In the dark the toolkit leaves an empty box or ring as dark as its ground.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool box = element == PE_IndicatorCheckBox;
+    if (!is_dark || (!box && element != PE_IndicatorRadioButton)) return;
+    painter->save();
+    painter->setPen(in_use.faint_text);
+    painter->setBrush(Qt::NoBrush);
+    painter->setRenderHint(QPainter::Antialiasing, !box);
+    const QRect outline = option->rect.adjusted(0, 0, -1, -1);
+    box ? painter->drawRect(outline) : painter->drawEllipse(outline);
+    painter->restore();
   }
 
   /// The wheel scrolls what the mouse is over, and never chooses anything on the way.
