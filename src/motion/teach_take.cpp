@@ -9,6 +9,7 @@
 #include "motion/teach_line.h"
 #include "motion/teaching.h"
 #include "posi/cell_rules.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_lines.h"
 #include "posi/posi_table.h"
 #include "state/app_state.h"
@@ -68,6 +69,7 @@ bool LineTakesPlace(int row) {
 }
 
 void TakeInto(int row) {
+  const PosiEditStep step;
   Grid& grid = frmPosi.flgdData;
   const int col_before = grid.Col;
   for (const int axis : AxesInUse()) grid.TypeInto(row, AxisBase(axis) + kPosi, Here(axis));
