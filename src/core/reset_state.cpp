@@ -9,6 +9,7 @@
 #include "device/device_list.h"
 #include "forms/view.h"
 #include "link/error_list.h"
+#include "link/frame_log.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
 #include "monitor/io_state.h"
@@ -35,6 +36,7 @@ void ResetState() {
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  FrameLog = FrameLogRecord{};
   PollLine = PollLineRecord{};
   ResetIoMonitor();
   TaskMonitor = TaskMonitorRecord{};

@@ -2,6 +2,7 @@
 
 #include "forms/frm_main.h"
 #include "link/error_list.h"
+#include "link/frame_log.h"
 #include "link/port.h"
 #include "link/request_queue.h"
 #include "link/tusin.h"
@@ -115,11 +116,15 @@ void TimerJusinTick() {
   buffer += doors.serial->ReadAll();
   // A line that never ends must not fill the memory; the exchange times out and starts anew.
   constexpr std::size_t kLongestLine = 4096;
-  if (buffer.size() > kLongestLine) buffer.clear();
+  if (buffer.size() > kLongestLine) {
+    FrameLog.Note(FrameEvent::BadLength, buffer);
+    buffer.clear();
+  }
   if (!buffer.ends_with("\r\n")) return;
   AppState.TusinReplyReady = True;
   AppState.TusinReplyText = buffer;
   buffer.clear();
+  FrameLog.Note(FrameEvent::Received, AppState.TusinReplyText);
   if (AppState.TusinReplyText.starts_with("0%%")) {
     AppState.AlarmOn = True;
     AppState.HomeDone = False;
@@ -131,6 +136,8 @@ void TimerJusinTick() {
 void TimerTimeoutTick() {
   frmMain.timerTimeout.Stop();
   AppState.TusinTimedOut = True;
+  // The pause between two attempts at a port that does not open is no time-out of anyone's answer.
+  if (doors.serial->IsOpen()) FrameLog.Note(FrameEvent::TimedOut, AppState.TusinRxBuffer);
 }
 
 }  // namespace tr7
