@@ -62,6 +62,7 @@ struct Grid : Control {
   void InsertRow(int row);
   void RemoveRow(int row);
 
+  /// With `BodyText` set, a text of the body stands until the next one is asked for.
   const std::string& Text(int row, int col) const;
   void SetText(int row, int col, std::string text);
 
@@ -100,6 +101,10 @@ struct Grid : Control {
   Colour EditColour = kWindowColour;  ///< ground of the cell that is edited
   /// Columns share the width that the view has, each at least as wide as its longest text.
   bool FitsView = false;
+
+  /// For a body of many rows that are made from what is kept elsewhere: its texts are asked for as
+  /// they are drawn, and the grid holds none. Set before the rows are counted.
+  Handler<std::string(int row, int col)> BodyText;
 
   // Rules that logic sets.
   Handler<bool(int row, int col)> CanEdit;
@@ -146,6 +151,7 @@ struct Grid : Control {
   int rows_ = 0;
   int cols_ = 0;
   std::vector<std::string> cells_;
+  mutable std::string asked_;  ///< the body's text that was asked for last
   std::vector<int> col_widths_;
   std::vector<Colour> col_colours_;
   std::vector<ColAlign> col_aligns_;
