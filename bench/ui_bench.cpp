@@ -23,6 +23,7 @@
 #include "forms/frm_prog_no.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "forms/frm_wire.h"
 #include "monitor/io_state.h"
 #include "monitor/task_monitor.h"
 #include "platform/doors.h"
@@ -93,8 +94,8 @@ class Bench {
     frmMain.mnuSettingOnline.Press();
     if (AppState.Offline) return Failed("going online");
     Report("idle_online_cpu_percent", IdlePercent(), 2);
-    return WatchIo() || Jog() || ListPrograms() || ReadPaced() || ReadFull() || OpenFull() ||
-                   PrintFull() || CompareFull() || WatchTasks()
+    return WatchIo() || Jog() || ListPrograms() || ReadPaced() || ReadWatched() || ReadFull() ||
+                   OpenFull() || PrintFull() || CompareFull() || WatchTasks()
                ? 1
                : 0;
   }
@@ -236,6 +237,26 @@ class Bench {
     const double seconds = meter.Seconds(), percent = meter.Percent();
     Report("read99_pty_ratio", seconds * 1e6 / static_cast<double>(port_.TakeLineUs()), 4);
     Report("transfer_cpu_percent", percent, 2);
+    return 0;
+  }
+
+  /// The console of the line open beside a read at the line's own pace, as against shut: processor
+  /// time of the process, drawing included, as percent of one core over the read. Both reads take
+  /// turns, so that whatever else slows the machine meets both.
+  int ReadWatched() {
+    constexpr int kLines = 99, kReads = 3;
+    double shut = 0, open = 0;
+    for (int i = 0; i < 2 * kReads; ++i) {
+      const bool watched = i % 2 != 0;
+      if (watched) frmMain.mnuViewWire.Press();
+      WaitMs(500);
+      const CpuMeter meter;
+      if (Read(kLines) != 0) return 1;
+      (watched ? open : shut) += meter.Percent() / kReads;
+      if (watched && frmWire.flgdWire.Rows() < 2 * kLines) return Failed("the console");
+      if (watched) CloseView(frmWire, CloseReason::Code);
+    }
+    Report("console_overhead_percent", open - shut, 2);
     return 0;
   }
 

@@ -28,6 +28,7 @@
 #include "state/app_state.h"
 #include "state/views.h"
 #include "steps/write_taken.h"
+#include "wire/wire_rows.h"
 
 namespace tr7 {
 void ResetState() {
@@ -40,6 +41,7 @@ void ResetState() {
   PollLine = PollLineRecord{};
   ResetIoMonitor();
   TaskMonitor = TaskMonitorRecord{};
+  WireRows = WireRowsRecord{};
   WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};

@@ -43,10 +43,14 @@ bool NextMayGo() { return !PollLine.waiting.empty() && !PollLine.on_line && !Lin
 
 }  // namespace
 
-bool LineIsHeld() {
+bool FlowHoldsLine() {
   const bool moves =
       MotionNow.Kind != Motion::None || MotionNow.Stopping || frmPosi.Teach.JogPending;
-  return moves || AppState.Offline || AppState.Closing || LineIsInUse();
+  return moves || AppState.ComBusy || AppState.CommandsOffDepth > 0;
+}
+
+bool LineIsHeld() {
+  return FlowHoldsLine() || AppState.Offline || AppState.Closing || LineIsInUse();
 }
 
 void SettleLostSession() {

@@ -87,6 +87,8 @@ void SettleLostSession();
 
 /// Something else than a poll has the line, or the line must not be used.
 bool LineIsHeld();
+/// A flow, a motion or a hand on a jog button has the line, whoever polls beside it.
+bool FlowHoldsLine();
 
 /// Wires the frame's timer that serves who comes next.
 void InstallPolls();
