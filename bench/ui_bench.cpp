@@ -23,6 +23,7 @@
 #include "forms/frm_prog_no.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
+#include "forms/frm_wire.h"
 #include "monitor/io_state.h"
 #include "monitor/task_monitor.h"
 #include "platform/doors.h"
@@ -96,7 +97,7 @@ class Bench {
     const bool full = ReadPaced() == 0 && ReadFull() == 0 && OpenFull() == 0 && PrintFull() == 0 &&
                       CompareFull() == 0;
     if (!full || !Connect(paced_)) return 1;
-    return WatchIo() || Jog() || ListPrograms() || WatchTasks() ? 1 : 0;
+    return WatchIo() || Jog() || ListPrograms() || ReadWatched() || WatchTasks() ? 1 : 0;
   }
 
  private:
@@ -244,6 +245,26 @@ class Bench {
     const double seconds = meter.Seconds(), percent = meter.Percent();
     Report("read99_pty_ratio", seconds * 1e6 / static_cast<double>(port_.TakeLineUs()), 4);
     Report("transfer_cpu_percent", percent, 2);
+    return 0;
+  }
+
+  /// The console of the line open beside a read at the line's own pace, as against shut: processor
+  /// time of the process, drawing included, as percent of one core over the read. Both reads take
+  /// turns, so that whatever else slows the machine meets both.
+  int ReadWatched() {
+    constexpr int kLines = 99, kReads = 3;
+    double shut = 0, open = 0;
+    for (int i = 0; i < 2 * kReads; ++i) {
+      const bool watched = i % 2 != 0;
+      if (watched) frmMain.mnuViewWire.Press();
+      WaitMs(500);
+      const CpuMeter meter;
+      if (Read(kLines) != 0) return 1;
+      (watched ? open : shut) += meter.Percent() / kReads;
+      if (watched && frmWire.flgdWire.Rows() < 2 * kLines) return Failed("the console");
+      if (watched) CloseView(frmWire, CloseReason::Code);
+    }
+    Report("console_overhead_percent", open - shut, 2);
     return 0;
   }
 

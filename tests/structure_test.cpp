@@ -79,9 +79,10 @@ TEST(Structure, ACircleIsFound) {
 // those before it. Of the data kinds, a position file brings devices, so positions stand on
 // parameters; groups and macros name positions.
 const std::vector<std::string>& Line() {
-  static const std::vector<std::string> line{
-      "base", "forms", "platform", "state",  "link", "steps",   "device", "session", "compare",
-      "para", "posi",  "data",     "motion", "prog", "monitor", "report", "core",    "ui"};
+  static const std::vector<std::string> line{"base",  "forms",  "platform", "state",   "link",
+                                             "steps", "device", "session",  "compare", "para",
+                                             "posi",  "data",   "motion",   "prog",    "monitor",
+                                             "wire",  "report", "core",     "ui"};
   return line;
 }
 

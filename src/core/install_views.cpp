@@ -23,6 +23,7 @@
 #include "prog/prog_view.h"
 #include "report/report_view.h"
 #include "state/wait.h"
+#include "wire/wire_view.h"
 
 namespace tr7 {
 namespace {
@@ -59,6 +60,7 @@ void InstallViews() {
   InstallPolls();
   InstallIoMonitor();
   InstallTaskMonitor();
+  InstallWireView();
 }
 
 }  // namespace tr7

@@ -9,6 +9,7 @@
 #include "device/device_list.h"
 #include "forms/view.h"
 #include "link/error_list.h"
+#include "link/frame_log.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
 #include "monitor/io_state.h"
@@ -28,6 +29,7 @@
 #include "state/app_state.h"
 #include "state/views.h"
 #include "steps/write_taken.h"
+#include "wire/wire_rows.h"
 
 namespace tr7 {
 void ResetState() {
@@ -36,9 +38,11 @@ void ResetState() {
   Followers = FollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  FrameLog = FrameLogRecord{};
   PollLine = PollLineRecord{};
   ResetIoMonitor();
   TaskMonitor = TaskMonitorRecord{};
+  WireRows = WireRowsRecord{};
   WriteTaken = WriteTakenRecord{};
   ResetMotionCommands();
   ErrorList = ErrorListRecord{};

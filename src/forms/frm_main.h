@@ -38,6 +38,7 @@ struct FrmMain : View {
   Menu mnuViewSysPara{*this, "mnuViewSysPara", 5023};
   Menu mnuViewGrp{*this, "mnuViewGrp", 5024};
   Menu mnuViewSM{*this, "mnuViewSM", 5025};
+  Menu mnuViewWire{*this, "mnuViewWire", 7701};
   Menu mnuCont{*this, "mnuCont", 5030};
   Menu mnuContPosiRead{*this, "mnuContPosiRead", 5031};
   Menu mnuContPosiWrite{*this, "mnuContPosiWrite", 5032};

@@ -13,7 +13,8 @@ Grid::Grid(View& owner, const std::string& name, int rows, int cols, int fixed_r
 
 void Grid::SetRows(int rows) {
   rows_ = rows;
-  cells_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols_));
+  const int held = BodyText ? std::min(rows, FixedRows) : rows;
+  cells_.resize(static_cast<std::size_t>(held) * static_cast<std::size_t>(cols_));
   Row = std::min(Row, std::max(rows - 1, 0));
   RowSel = std::min(RowSel, std::max(rows - 1, 0));
   Touch();
@@ -51,7 +52,10 @@ void Grid::RemoveRow(int row) {
   Touch();
 }
 
-const std::string& Grid::Text(int row, int col) const { return cells_.at(CellIndex(row, col)); }
+const std::string& Grid::Text(int row, int col) const {
+  if (!BodyText || row < FixedRows) return cells_.at(CellIndex(row, col));
+  return asked_ = BodyText(row, col);
+}
 
 void Grid::SetText(int row, int col, std::string text) {
   cells_.at(CellIndex(row, col)) = std::move(text);

@@ -62,6 +62,7 @@ struct Grid : Control {
   void InsertRow(int row);
   void RemoveRow(int row);
 
+  /// With `BodyText` set, a text of the body stands until the next one is asked for.
   const std::string& Text(int row, int col) const;
   void SetText(int row, int col, std::string text);
 
@@ -102,6 +103,9 @@ struct Grid : Control {
   bool FitsView = false;
 
   MsgId WhenEmpty;  ///< what to do first, shown while there is no row
+  /// For a body of many rows that are made from what is kept elsewhere: its texts are asked for as
+  /// they are drawn, and the grid holds none. Set before the rows are counted.
+  Handler<std::string(int row, int col)> BodyText;
 
   // Rules that logic sets.
   Handler<bool(int row, int col)> CanEdit;
@@ -148,6 +152,7 @@ struct Grid : Control {
   int rows_ = 0;
   int cols_ = 0;
   std::vector<std::string> cells_;
+  mutable std::string asked_;  ///< the body's text that was asked for last
   std::vector<int> col_widths_;
   std::vector<Colour> col_colours_;
   std::vector<ColAlign> col_aligns_;

@@ -113,6 +113,13 @@ void DecodeCtError(const std::string& reply) {
   HintAtMissingList();
 }
 
+std::string CtErrorWords(const std::string& reply) {
+  const std::string code = CharacterAt(reply, kCodeAt);
+  const ErrorSource source = SourceOf(CharacterAt(reply, kUnitAt));
+  const ErrListPair* error = FindError(source, code);
+  return source.label + ":" + (error ? error->Name : UnknownErrorText(code));
+}
+
 void ErrorHyoji() { DecodeCtError(AppState.LastCtErrorText); }
 
 }  // namespace tr7

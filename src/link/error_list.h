@@ -39,6 +39,9 @@ int ReadErrorList();
 /// belongs.
 void DecodeCtError(const std::string& reply);
 
+/// The words for an error reply alone: "AXIS2:Overcurrent". Nothing else changes.
+std::string CtErrorWords(const std::string& reply);
+
 /// Decodes `LastCtErrorText`.
 void ErrorHyoji();
 

@@ -14,17 +14,6 @@ namespace {
 
 constexpr int kCarrierDetectTimeoutMs = 3000;
 
-const char* LineSettings() {
-  switch (AppState.BaudIndex) {
-    case 1:
-      return "19200,N,8,1";
-    case 2:
-      return "38400,N,8,1";
-    default:
-      return "9600,N,8,1";
-  }
-}
-
 std::string FaultWords(PortFault fault, const std::string& device) {
   switch (fault) {
     case PortFault::None:
@@ -68,6 +57,17 @@ int OpenShutPort() {
 }
 
 }  // namespace
+
+const char* LineSettings() {
+  switch (AppState.BaudIndex) {
+    case 1:
+      return "19200,N,8,1";
+    case 2:
+      return "38400,N,8,1";
+    default:
+      return "9600,N,8,1";
+  }
+}
 
 std::string PortDevice(int port_no) {
   const std::string set = PortSetting(port_no);

@@ -4,6 +4,9 @@
 
 namespace tr7 {
 
+/// What the line runs at: "9600,N,8,1".
+const char* LineSettings();
+
 /// Opens the line when it is shut. 0 success; 1 failure, with the reason in
 /// `AppState.PortFaultText`.
 int TusinPortOpen();

@@ -23,7 +23,7 @@ enum class TusinPriority {
 /// known to the queue until it is done or taken out.
 struct TusinRequest {
   std::string message;   ///< command and data, without CR LF
-  int reply_length = 0;  ///< with CR LF
+  int reply_length = 0;  ///< with CR LF; 0: any
   int timeout_ms = 0;    ///< of each send; 0: none
   TusinPriority priority = TusinPriority::Ordinary;
   bool may_cancel = false;  ///< the cancel button, when it is pressed from now on, ends it

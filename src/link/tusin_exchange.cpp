@@ -7,6 +7,7 @@
 
 #include "forms/frm_main.h"
 #include "link/error_list.h"
+#include "link/frame_log.h"
 #include "link/port.h"
 #include "link/tusin.h"
 #include "platform/doors.h"
@@ -92,18 +93,20 @@ int LineBusyMs() {
 
 /// Sends one line and arms the time-out; false when the port has died. The reply's length is 0
 /// where nobody knows it.
-bool SendLine(const std::string& line, int timeout_ms, int reply_length) {
+bool SendLine(const std::string& line, int timeout_ms, int reply_length, bool again = false) {
   StartTimeout(timeout_ms);
   AppState.TusinReplyReady = False;
   const auto reply_bytes = static_cast<std::size_t>(reply_length);
   doors.serial->ExpectReply(reply_bytes);
   const std::string bytes = line + "\r\n";
   NoteSent(bytes.size() + reply_bytes);
+  FrameLog.Note(again ? FrameEvent::SentAgain : FrameEvent::Sent, bytes);
   return doors.serial->Write(bytes);
 }
 
 TusinEnd PortLost() {
   AppState.PortFaultText = LostPortText();
+  FrameLog.Note(FrameEvent::PortFailed, AppState.PortFaultText);
   return TusinEnd::PortFailed;
 }
 
@@ -137,8 +140,16 @@ TusinEnd JudgeReply(TusinRequest& request) {
   const std::string& reply = AppState.TusinReplyText;
   const bool error = reply.starts_with(kErrorPrefix);
   if (!error) {
-    if (!reply.starts_with(request.message.substr(0, kPrefixLength))) return TusinEnd::BadPrefix;
-    if (static_cast<int>(reply.size()) != request.reply_length) return TusinEnd::BadLength;
+    if (!reply.starts_with(request.message.substr(0, kPrefixLength))) {
+      FrameLog.JudgeLast(FrameEvent::BadPrefix);
+      return TusinEnd::BadPrefix;
+    }
+    const bool fits =
+        request.reply_length == 0 || static_cast<int>(reply.size()) == request.reply_length;
+    if (!fits) {
+      FrameLog.JudgeLast(FrameEvent::BadLength);
+      return TusinEnd::BadLength;
+    }
   }
   request.reply = reply;
   return error ? TusinEnd::ErrorReply : TusinEnd::Good;
@@ -155,8 +166,9 @@ std::optional<TusinEnd> JudgeResync(const TusinRequest& request, TusinEnd verdic
   if (EndsByGroupMoveStop(request)) return TusinEnd::GroupMoveStopped;
   if (!AppState.TusinReplyReady) return verdict;
   if (reply.starts_with(kErrorPrefix)) return TusinEnd::ErrorInResync;
-  if (!reply.starts_with(kResyncPrefix)) return verdict;
-  return std::nullopt;
+  if (reply.starts_with(kResyncPrefix)) return std::nullopt;
+  FrameLog.JudgeLast(FrameEvent::BadPrefix);
+  return verdict;
 }
 
 }  // namespace
@@ -176,7 +188,10 @@ Exchange TusinExchange(TusinRequest& request) {
   if (PortIsLost()) co_return PortLost();
   for (bool resent = false;; resent = true) {
     for (int attempt = 1; TusinPortOpen() != 0; ++attempt) {
-      if (attempt == kPortOpenAttempts) co_return TusinEnd::PortFailed;
+      if (attempt == kPortOpenAttempts) {
+        FrameLog.Note(FrameEvent::PortFailed, AppState.PortFaultText);
+        co_return TusinEnd::PortFailed;
+      }
       StartTimeout(kPortOpenPauseMs);
       co_await Until{IsPauseOver};
       if (IsOvertaken(request)) co_return TusinEnd::Withdrawn;
@@ -203,7 +218,8 @@ Exchange TusinExchange(TusinRequest& request) {
 
     for (int sends = 1;; ++sends) {
       ++request.sends;
-      if (!SendLine(request.message, request.timeout_ms, request.reply_length)) {
+      const bool again = request.sends > 1;
+      if (!SendLine(request.message, request.timeout_ms, request.reply_length, again)) {
         co_return PortLost();
       }
       request.awaits_reply = true;

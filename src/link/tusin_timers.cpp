@@ -2,6 +2,7 @@
 
 #include "forms/frm_main.h"
 #include "link/error_list.h"
+#include "link/frame_log.h"
 #include "link/port.h"
 #include "link/request_queue.h"
 #include "link/tusin.h"
@@ -116,11 +117,15 @@ void TimerJusinTick() {
   // A line that never ends must not fill the memory; the exchange times out and starts anew.
   // The longest is a program of 255 steps, and another one may come late in the same piece.
   constexpr std::size_t kLongestReply = 255 * 19 + 7, kLongestLine = 2 * kLongestReply;
-  if (buffer.size() > kLongestLine) buffer.clear();
+  if (buffer.size() > kLongestLine) {
+    FrameLog.Note(FrameEvent::BadLength, buffer);
+    buffer.clear();
+  }
   if (!buffer.ends_with("\r\n")) return;
   AppState.TusinReplyReady = True;
   AppState.TusinReplyText = buffer;
   buffer.clear();
+  FrameLog.Note(FrameEvent::Received, AppState.TusinReplyText);
   if (AppState.TusinReplyText.starts_with("0%%")) {
     AppState.AlarmOn = True;
     AppState.HomeDone = False;
@@ -132,6 +137,8 @@ void TimerJusinTick() {
 void TimerTimeoutTick() {
   frmMain.timerTimeout.Stop();
   AppState.TusinTimedOut = True;
+  // The pause between two attempts at a port that does not open is no time-out of anyone's answer.
+  if (doors.serial->IsOpen()) FrameLog.Note(FrameEvent::TimedOut, AppState.TusinRxBuffer);
 }
 
 }  // namespace tr7

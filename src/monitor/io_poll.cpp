@@ -112,9 +112,9 @@ void CloseNow() {
 void PollFailed() {
   FreezeIoMonitor();
   SettleLostSession();
-  if (!AppState.Offline && !FlowHasLine()) TakeBackOverride();
+  if (!AppState.Offline && !FlowHoldsLine()) TakeBackOverride();
   if (!IoMonitor.IoStopReq) return;
-  if (!FlowHasLine()) return CloseNow();
+  if (!FlowHoldsLine()) return CloseNow();
   IoMonitor.IoStopReq = False;
 }
 
@@ -123,7 +123,7 @@ void EndTick() {
   Timer& timer = frmIOCheckFG.timerInputOutput1;
   if (AppState.Offline && IoMonitor.IoMonOn) return PollFailed();
   ShowIoPace();
-  if (!IoMonitor.IoStopReq || FlowHasLine()) {
+  if (!IoMonitor.IoStopReq || FlowHoldsLine()) {
     if (IoMonitor.IoMonOn || IoMonitor.IoStopReq) timer.Start(kNextPollMs);
     return;
   }
@@ -172,7 +172,7 @@ void FreezeIoMonitor() {
 
 void ShowIoPause() {
   if (!IoMonitor.IoMonOn) return;
-  if (FlowHasLine() && !IoMonitor.Parted) {
+  if (FlowHoldsLine() && !IoMonitor.Parted) {
     IoMonitor.Parted = true;
     RecordPlotGap();
   }

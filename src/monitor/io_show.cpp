@@ -71,7 +71,7 @@ std::string PaceText() {
     return IoMonitor.Stale ? Text(kTrueAt, IoMonitor.TrueAt) : Text(kNotRunning);
   }
   if (!IoMonitor.Known) return Text(kFirstValues);
-  if (FlowHasLine()) return Text(kHeldUp, IoMonitor.TrueAt);
+  if (FlowHoldsLine()) return Text(kHeldUp, IoMonitor.TrueAt);
   if (ticks.PaceMs() == 0) return Text(kKnownAt, IoMonitor.TrueAt);
   if (!ticks.IsLate()) return Text(kPace, Seconds(ticks.PaceMs()));
   const std::int64_t age = ticks.AgeMs();

@@ -16,6 +16,6 @@ void ResetIoMonitor() {
   PlotData = PlotDataRecord{};
 }
 
-bool IoValuesAreOld() { return IoMonitor.Stale || (IoMonitor.Known && FlowHasLine()); }
+bool IoValuesAreOld() { return IoMonitor.Stale || (IoMonitor.Known && FlowHoldsLine()); }
 
 }  // namespace tr7

@@ -61,7 +61,7 @@ void MsecTimer(int ms) {
 
 void cmdIoMonitor_Click() {
   if (IoMonitor.IoMonOn) {
-    if (IoMonitor.OverrideOn && FlowHasLine()) return TellFlowRuns();
+    if (IoMonitor.OverrideOn && FlowHoldsLine()) return TellFlowRuns();
     StopIoMonitor();
     TakeBackOverride();
     return ShowButtons();

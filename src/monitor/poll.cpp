@@ -48,14 +48,14 @@ TusinOutcome AskQuietly(const std::function<TusinOutcome()>& ask) {
 
 }  // namespace
 
-bool FlowHasLine() {
-  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || MotionNow.Kind != Motion::None;
+bool FlowHoldsLine() {
+  const bool moves =
+      MotionNow.Kind != Motion::None || MotionNow.Stopping || frmPosi.Teach.JogPending;
+  return moves || AppState.ComBusy || AppState.CommandsOffDepth > 0;
 }
 
 bool LineIsHeld() {
-  const bool moves =
-      MotionNow.Kind != Motion::None || MotionNow.Stopping || frmPosi.Teach.JogPending;
-  return moves || AppState.Offline || AppState.Closing || LineIsInUse();
+  return FlowHoldsLine() || AppState.Offline || AppState.Closing || LineIsInUse();
 }
 
 void SettleLostSession() {

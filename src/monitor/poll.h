@@ -85,11 +85,10 @@ extern PollLineRecord PollLine;
 /// After a failure outside of any flow: where the line is offline now, menus and tabs say so.
 void SettleLostSession();
 
-/// A long flow or a motion has the line: nothing is sent between its frames.
-bool FlowHasLine();
-
 /// Something else than a poll has the line, or the line must not be used.
 bool LineIsHeld();
+/// A flow, a motion or a hand on a jog button has the line, whoever polls beside it.
+bool FlowHoldsLine();
 
 /// Wires the frame's timer that serves who comes next.
 void InstallPolls();

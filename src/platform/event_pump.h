@@ -21,6 +21,8 @@ class EventPump {
 
   /// The local time of day for the user to read: "16:05:33".
   virtual std::string TimeOfDay() const = 0;
+  /// The same in milliseconds since midnight.
+  virtual std::uint32_t MsOfDay() const = 0;
   /// The local date: "2024-08-31".
   virtual std::string Date() const = 0;
 

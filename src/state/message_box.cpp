@@ -36,6 +36,11 @@ bool AskYes(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNo, MsgIcon::Question) == MsgAnswer::Yes;
 }
 
+bool AskYesWarned(MsgId id) {
+  return doors.forms->MessageBox(
+             {Text(id), Text(201), MsgButtons::YesNo, MsgIcon::Warning, true}) == MsgAnswer::Yes;
+}
+
 MsgAnswer AskYesNoCancel(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNoCancel, MsgIcon::Question);
 }

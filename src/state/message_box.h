@@ -32,6 +32,8 @@ void TellDone(MsgId id);
 [[nodiscard]] bool AskToLose(const std::string& question);
 /// A question with Yes and No: true for Yes.
 [[nodiscard]] bool AskYes(MsgId id);
+/// The same, where Yes leads into something that is not looked after: Enter is a No.
+[[nodiscard]] bool AskYesWarned(MsgId id);
 /// A question with Yes, No and Cancel.
 [[nodiscard]] MsgAnswer AskYesNoCancel(MsgId id);
 

@@ -54,6 +54,10 @@ std::string QtPump::TimeOfDay() const {
   return QTime::currentTime().toString(QStringLiteral("HH:mm:ss")).toStdString();
 }
 
+std::uint32_t QtPump::MsOfDay() const {
+  return static_cast<std::uint32_t>(QTime::currentTime().msecsSinceStartOfDay());
+}
+
 std::string QtPump::Date() const {
   return QDate::currentDate().toString(Qt::ISODate).toStdString();
 }

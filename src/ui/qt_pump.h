@@ -20,6 +20,7 @@ class QtPump : public QObject, public EventPump {
   std::int64_t NowUs() const override;
   std::int64_t SleptUs() const override;
   std::string TimeOfDay() const override;
+  std::uint32_t MsOfDay() const override;
   std::string Date() const override;
   void Run() override;
 

@@ -1,8 +1,10 @@
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
+#include "forms/frm_wire.h"
 #include "monitor/task_monitor.h"
 #include "tests/fleet/voyage.h"
 #include "tests/support/flow_test.h"
+#include "wire/wire_table.h"
 
 namespace tr7 {
 namespace {
@@ -49,7 +51,27 @@ void WatchTasks(Voyage& voyage) {
   }
 }
 
-constexpr Flow kFlows[] = {{"tasks", 8, WatchTasks}};
+/// Frames of all kinds by hand; the console tells what it can of each.
+void SendByHandInConsole(Voyage& voyage) {
+  Random& random = voyage.random;
+  frmMain.mnuViewWire.Press();
+  for (int acts = random.Below(4); acts > 0 && frmWire.Loaded; --acts) {
+    const WireCommand& command = WireCommands()[random.Below(int(WireCommands().size()))];
+    std::string frame(command.start);
+    frame.resize(std::max(command.request_length, frame.size()), '0');
+    voyage.sent_at_refusal.reset();  // a command of its own
+    frmWire.chkPause.Set(random.Chance(20));
+    frmWire.txtFrame.Type(frame);
+    frmWire.cmdSend.Press();
+    const bool free = command.hand == HandRule::Free;
+    voyage.Require(free || !voyage.HasSent({frame.c_str()}), "a frame by hand moves or writes");
+    voyage.virt.pump.RunFor(random.Below(2'000'000));
+    for (int row = 1; row < frmWire.flgdWire.Rows(); ++row) frmWire.flgdWire.Text(row, 5);
+  }
+  if (frmWire.Loaded) CloseView(frmWire, CloseReason::Code);
+}
+
+constexpr Flow kFlows[] = {{"tasks", 8, WatchTasks}, {"wire", 3, SendByHandInConsole}};
 
 }  // namespace
 

@@ -13,6 +13,7 @@
 #include "device/device_list.h"
 #include "forms/timer.h"
 #include "link/error_list.h"
+#include "link/frame_log.h"
 #include "link/request_queue.h"
 #include "para/para_transfer_commands.h"
 #include "para/param_set.h"
@@ -47,6 +48,7 @@ struct FuzzDoors {
     doors = before;
     AppState = AppStateRecord{};
     TusinQueue = RequestQueue{};
+    FrameLog.Clear();
     ErrorList = ErrorListRecord{};
     DeviceList.fill(DeviceListRecord{});
     DevListMissing.fill(False);

@@ -5,6 +5,7 @@
 #include "tests/fuzz/file_targets.h"
 #include "tests/fuzz/program_targets.h"
 #include "tests/fuzz/wire_target.h"
+#include "tests/fuzz/wire_words_target.h"
 
 namespace tr7 {
 
@@ -18,6 +19,7 @@ inline constexpr FuzzTarget kFuzzTargets[] = {
     {"code_page", FuzzCodePage},     {"common_list", FuzzCommonList}, {"data_files", FuzzDataFiles},
     {"device_list", FuzzDeviceList}, {"error_list", FuzzErrorList},   {"para_file", FuzzParaFile},
     {"posi_file", FuzzPosiFile},     {"prog_file", FuzzProgFile},     {"prog_steps", FuzzSteps},
-    {"seq_file", FuzzSeqFile},       {"std_list", FuzzStdList},       {"wire", FuzzWire}};
+    {"seq_file", FuzzSeqFile},       {"std_list", FuzzStdList},       {"wire", FuzzWire},
+    {"wire_words", FuzzWireWords}};
 
 }  // namespace tr7

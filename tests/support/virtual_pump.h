@@ -22,6 +22,9 @@ class VirtualPump : public EventPump {
   /// The computer sleeps, and its clock with it.
   void Sleep(std::int64_t us) { slept_us_ += us; }
   std::string TimeOfDay() const override { return "12:00:00"; }
+  std::uint32_t MsOfDay() const override {
+    return static_cast<std::uint32_t>(now_us_ / 1000 % 86'400'000);
+  }
   std::string Date() const override { return "2024-08-31"; }
   void Run() override;
 

@@ -15,6 +15,7 @@
 #include "tests/tour/print_script.h"
 #include "tests/tour/prog_script.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/wire_script.h"
 
 namespace tr7::tour {
 namespace {
@@ -299,6 +300,7 @@ const std::vector<Script>& Scripts() {
        WatchTasks},
       {"compare", {}, CompareJob},
       {"data", {}, WorkOnData},
+      {"wire", {}, LookAtLine},
       {"print", {}, PrintData},
       {"print-prg", {"--mode", "prg"}, PrintPrograms}};
   return scripts;
