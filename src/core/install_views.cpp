@@ -3,6 +3,7 @@
 #include "core/frame_commands.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
+#include "core/window_state.h"
 #include "data/grp_view.h"
 #include "data/sm_view.h"
 #include "forms/frm_main.h"
@@ -41,6 +42,7 @@ void InstallViews() {
   InstallLinkTimers();
   InstallFrame();
   InstallEntry();
+  InstallWindowState();
   InstallOptionsView();
   InstallReports();  // ahead of the views, which switch a button without a command off
   InstallPosiView();

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/window_state.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
 #include "forms/frm_main.h"
@@ -78,6 +79,7 @@ void LoadFrame() {
   ShowView(frmPosi);
   Hide_ProgressBar();
   StartOnlineOfflineChoice();
+  RestoreWindows();
 }
 
 bool QueryUnloadFrame(CloseReason reason) {
@@ -150,6 +152,7 @@ void StartOnlineOfflineChoice() {
 void UnloadFrame() {
   if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   if (Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
+  RememberWindows();
   const std::vector<View*> views = OpenViews();
   for (View* view : views) {
     if (view != &frmMain) UnloadView(*view);

@@ -1,6 +1,7 @@
 #include "core/reset_state.h"
 
 #include "core/install_views.h"
+#include "core/window_state.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
 #include "device/ct_device.h"
@@ -66,6 +67,7 @@ void ResetState() {
   PosiUndo = PosiUndoRecord{};
   CommandList = CommandListRecord{};
   ProgCt = ProgCtRecord{};
+  WindowState = WindowStateRecord{};
   RenewViews();
   InstallViews();
 }

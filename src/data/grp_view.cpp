@@ -96,6 +96,7 @@ void InstallGrpView() {
   };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
+  f.OpenedBy = &frmMain.mnuViewGrp;
   InstallButtons();
   SwitchControls(f, true);
 }

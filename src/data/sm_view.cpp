@@ -151,6 +151,7 @@ void InstallSmView() {
   f.CmdYuko = [] { SwitchCommands(true); };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   f.UpDownSmNo.Change = ShowOtherMacro;
+  f.OpenedBy = &frmMain.mnuViewSM;
   InstallButtons();
   SwitchControls(f, true);
 }

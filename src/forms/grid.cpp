@@ -30,6 +30,7 @@ void Grid::SetCols(int cols) {
   cells_ = std::move(kept);
   cols_ = cols;
   col_widths_.resize(Index(cols), 1000);
+  user_widths_.resize(Index(cols), 0);
   col_colours_.resize(Index(cols), kWindowColour);
   col_aligns_.resize(Index(cols), ColAlign::General);
   Touch();
@@ -60,6 +61,11 @@ void Grid::SetText(int row, int col, std::string text) {
 
 void Grid::SetColWidth(int col, int twips) {
   col_widths_.at(Index(col)) = twips;
+  Touch();
+}
+
+void Grid::SetUserWidth(int col, int twips) {
+  user_widths_.at(Index(col)) = twips;
   Touch();
 }
 

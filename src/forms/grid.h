@@ -68,6 +68,9 @@ struct Grid : Control {
   /// Twips; 0 hides the column, -1 takes the width that is left.
   void SetColWidth(int col, int twips);
   int ColWidth(int col) const { return col_widths_[Index(col)]; }
+  /// The width that the user has given a column, twips; 0: the column has its own.
+  void SetUserWidth(int col, int twips);
+  int UserWidth(int col) const { return user_widths_[Index(col)]; }
   void SetRowHeight(int row, int twips);
   /// Twips; 0: the platform's own height.
   int RowHeight(int row) const;
@@ -147,6 +150,7 @@ struct Grid : Control {
   int cols_ = 0;
   std::vector<std::string> cells_;
   std::vector<int> col_widths_;
+  std::vector<int> user_widths_;
   std::vector<Colour> col_colours_;
   std::vector<ColAlign> col_aligns_;
   std::vector<int> row_heights_;  ///< of the rows that have one

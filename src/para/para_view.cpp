@@ -115,6 +115,7 @@ void InstallParaView() {
   Followers.AnotherController = ForgetWhatCtHeld;
   InstallParaMarks();  // behind what the fields do by themselves
   f.Commands.Open = OpenParameters;
+  f.OpenedBy = &frmMain.mnuViewPara;
   frmMain.mnuViewPara.Click = [] { ShowOrBringToFront(frmParameta2); };
 }
 

@@ -116,6 +116,7 @@ void InstallSysParaView() {
     box.Change = MarkSysParaFields;
     box.Enter = [index] { GoToNext(index); };
   }
+  f.OpenedBy = &frmMain.mnuViewSysPara;
   frmMain.mnuViewSysPara.Click = [] { ShowOrBringToFront(frmSystemPara); };
 }
 

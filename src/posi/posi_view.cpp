@@ -113,6 +113,7 @@ void InstallPosiView() {
     doors.forms->BringToFront(frmPosi);
     doors.forms->SetFocus(frmPosi.flgdData);
   };
+  f.OpenedBy = &frmMain.mnuViewPosi;
   Followers.PositionsFollowDevices = [] { PositionsFollowDevices(); };
   Followers.MmFollowsPulses = MmFollowsPulses;
 }
