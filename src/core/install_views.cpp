@@ -1,6 +1,7 @@
 #include "core/install_views.h"
 
 #include "core/frame_commands.h"
+#include "core/keep_work.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
 #include "core/window_state.h"
@@ -21,6 +22,7 @@
 #include "para/sys_para_view.h"
 #include "posi/posi_view.h"
 #include "posi/result_view.h"
+#include "prog/prog_keep.h"
 #include "prog/prog_view.h"
 #include "report/report_view.h"
 #include "state/wait.h"
@@ -43,6 +45,7 @@ void InstallViews() {
   InstallFrame();
   InstallEntry();
   InstallWindowState();
+  InstallKeepWork();  // ahead of the views, which tell it what they hold
   InstallOptionsView();
   InstallReports();  // ahead of the views, which switch a button without a command off
   InstallPosiView();
@@ -58,6 +61,7 @@ void InstallViews() {
   InstallSmView();
   InstallMotion();
   InstallProgViews();
+  InstallProgKeep();
   InstallPolls();
   InstallIoMonitor();
   InstallTaskMonitor();

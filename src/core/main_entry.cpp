@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "core/keep_work.h"
+#include "core/kept_offer.h"
 #include "core/window_state.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
@@ -80,6 +82,7 @@ void LoadFrame() {
   Hide_ProgressBar();
   StartOnlineOfflineChoice();
   RestoreWindows();
+  OfferKeptWork();
 }
 
 bool QueryUnloadFrame(CloseReason reason) {
@@ -160,6 +163,7 @@ void UnloadFrame() {
   // A flow beneath this close, if there is one, comes to its end: no reply will come any more.
   AppState.CancelRequested = True;
   AppState.Closing = True;
+  StopKeeping();
   TusinPortCloseForce();
   SaveSettingsAtExit();
   doors.forms->EndProcess();

@@ -1,6 +1,7 @@
 #include "core/reset_state.h"
 
 #include "core/install_views.h"
+#include "core/keep_work.h"
 #include "core/window_state.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
@@ -67,6 +68,7 @@ void ResetState() {
   PosiUndo = PosiUndoRecord{};
   CommandList = CommandListRecord{};
   ProgCt = ProgCtRecord{};
+  KeepState = KeepRecord{};
   WindowState = WindowStateRecord{};
   RenewViews();
   InstallViews();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/scope.h"
+
 namespace tr7 {
 
 Grid::Grid(View& owner, const std::string& name, int rows, int cols, int fixed_rows, int fixed_cols)
@@ -122,6 +124,8 @@ bool Grid::MayEdit(int row, int col) const {
 
 EditVerdict Grid::EndEdit(int row, int col, std::string typed) {
   EditVerdict verdict;
+  ++edits_ending_;
+  const ScopeExit over([] { --edits_ending_; });
   if (AcceptEdit) verdict = AcceptEdit(row, col, typed);
   if (verdict.accepted) SetText(row, col, std::move(typed));
   return verdict;

@@ -139,12 +139,16 @@ struct Grid : Control {
   /// Its two halves, for an editor on the screen.
   bool MayEdit(int row, int col) const;
   [[nodiscard]] EditVerdict EndEdit(int row, int col, std::string typed);
+  /// An edit of some grid is coming to its end: what it brings is half in the record.
+  static bool AnEditEnds() { return edits_ending_ > 0; }
 
  private:
   std::size_t Index(int col) const { return static_cast<std::size_t>(col); }
   std::size_t CellIndex(int row, int col) const {
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) + Index(col);
   }
+
+  inline static int edits_ending_ = 0;
 
   int rows_ = 0;
   int cols_ = 0;

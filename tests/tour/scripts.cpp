@@ -299,6 +299,7 @@ const std::vector<Script>& Scripts() {
        WatchTasks},
       {"compare", {}, CompareJob},
       {"data", {}, WorkOnData},
+      {"keep", {}, TakeBackWork},
       {"print", {}, PrintData},
       {"print-prg", {"--mode", "prg"}, PrintPrograms}};
   return scripts;
