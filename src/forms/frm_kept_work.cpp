@@ -3,15 +3,15 @@
 namespace tr7 {
 
 FrmKeptWork::FrmKeptWork() : View("frmKeptWork", 7800) {
-  constexpr int kRestOfView = -1;
-  constexpr int kWidths[] = {2600, kRestOfView, 1900, 2100};
-  Width = 11500;
-  Height = 5600;
+  constexpr int kShares[] = {22, 36, 20, 22};
+  Width = 12500;
+  Height = 4800;
   cmdTakeBackAll.Default = true;
   cmdLater.Cancel = true;
   FirstFocus = &cmdTakeBackAll;
+  flgdKept.FitsView = true;
   for (int col = 0; col < flgdKept.Cols(); ++col) {
-    flgdKept.SetColWidth(col, kWidths[col]);
+    flgdKept.SetColWidth(col, kShares[col]);
     flgdKept.SetColAlign(col, ColAlign::Left);
   }
 }
