@@ -139,13 +139,10 @@ void QtFormHost::ShowChild(View& view, ChildWindow& child) {
   const QMdiSubWindow* before = mdi_->activeSubWindow();
   mdi_->addSubWindow(&child);
   const QSize room = mdi_->viewport()->size();
-  const bool placed = view.Placed;
+  const int count = static_cast<int>(mdi_->subWindowList().size()) - 1;
   child.PlaceByRecord(room);
-  if (!placed) {
-    child.move(
-        PlaceOfChild(room, child.size(), static_cast<int>(mdi_->subWindowList().size()) - 1));
-  }
-  const bool fills = before ? before->isMaximized() : view.Maximised || !placed;
+  if (!view.Placed) child.move(PlaceOfChild(room, child.size(), count));
+  const bool fills = before ? before->isMaximized() : view.Maximised || !view.Placed;
   fills ? child.showMaximized() : child.show();
   // A frame that becomes active gives the focus to what had it last, and brings its view back.
   if (!frame_->isActiveWindow()) child.setFocus(Qt::OtherFocusReason);
