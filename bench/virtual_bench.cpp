@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "bench/counting_port.h"
 #include "bench/figures.h"
 #include "core/install_views.h"
+#include "core/keep_work.h"
 #include "core/main_entry.h"
 #include "core/reset_state.h"
 #include "forms/frm_grp.h"
@@ -20,6 +22,7 @@
 #include "forms/frm_selection.h"
 #include "forms/frm_sq_mcr.h"
 #include "platform/doors.h"
+#include "platform/std_files.h"
 #include "posi/posi_check.h"
 #include "posi/posi_table.h"
 #include "prog/prog_check.h"
@@ -120,6 +123,24 @@ void Write(Desk& desk) {
   Report("write999_virtual_ratio", desk.LineRatio(frmPosi.cmdPosiWrite), 4);
   const std::string commit = "0WA0013E7";  // the controller was told to keep all of them
   if (desk.port.sent.find(commit) == std::string::npos) Fail("nothing was written", desk.forms);
+}
+
+/// The whole table after one edit, onto the disk itself.
+void Autosave(Desk& desk) {
+  StdFiles disk(".");
+  doors.files = &disk;
+  doors.work = &desk.work;
+  desk.work.own = (std::filesystem::temp_directory_path() / "tr7_bench.").string();
+  int edits = 0;
+  const auto keep = [&] {
+    frmPosi.flgdData.TypeInto(500, kComment, std::to_string(++edits));
+    if (!KeepNow()) Fail("the table was not kept", desk.forms);
+  };
+  Report("autosave_ms", MedianMsOf(21, keep), 2);
+  disk.Remove(desk.work.Own("posi"));
+  doors.files = &desk.files;
+  doors.work = nullptr;
+  frmPosi.PosiChanged = False;
 }
 
 /// Reports the button's line ratio. This frame must have gone out, the last one of its data.
@@ -229,6 +250,7 @@ int main() {
   tr7bench::Read(desk);
   tr7bench::Check(desk);
   tr7bench::Write(desk);
+  tr7bench::Autosave(desk);
   tr7bench::MoveOn(desk);
   tr7bench::OtherKinds(desk);
   tr7bench::Poll(desk);

@@ -1,8 +1,10 @@
 #include "core/install_views.h"
 
 #include "core/frame_commands.h"
+#include "core/keep_work.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
+#include "core/window_state.h"
 #include "data/grp_view.h"
 #include "data/sm_view.h"
 #include "forms/frm_main.h"
@@ -20,6 +22,7 @@
 #include "para/sys_para_view.h"
 #include "posi/posi_view.h"
 #include "posi/result_view.h"
+#include "prog/prog_keep.h"
 #include "prog/prog_view.h"
 #include "report/report_view.h"
 #include "state/wait.h"
@@ -42,6 +45,8 @@ void InstallViews() {
   InstallLinkTimers();
   InstallFrame();
   InstallEntry();
+  InstallWindowState();
+  InstallKeepWork();  // ahead of the views, which tell it what they hold
   InstallOptionsView();
   InstallReports();  // ahead of the views, which switch a button without a command off
   InstallPosiView();
@@ -57,6 +62,7 @@ void InstallViews() {
   InstallSmView();
   InstallMotion();
   InstallProgViews();
+  InstallProgKeep();
   InstallPolls();
   InstallIoMonitor();
   InstallTaskMonitor();

@@ -4,6 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "core/keep_work.h"
+#include "core/kept_offer.h"
+#include "core/window_state.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
 #include "forms/frm_main.h"
@@ -78,6 +81,8 @@ void LoadFrame() {
   ShowView(frmPosi);
   Hide_ProgressBar();
   StartOnlineOfflineChoice();
+  RestoreWindows();
+  OfferKeptWork();
 }
 
 bool QueryUnloadFrame(CloseReason reason) {
@@ -150,6 +155,7 @@ void StartOnlineOfflineChoice() {
 void UnloadFrame() {
   if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   if (Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
+  RememberWindows();
   const std::vector<View*> views = OpenViews();
   for (View* view : views) {
     if (view != &frmMain) UnloadView(*view);
@@ -157,6 +163,7 @@ void UnloadFrame() {
   // A flow beneath this close, if there is one, comes to its end: no reply will come any more.
   AppState.CancelRequested = True;
   AppState.Closing = True;
+  StopKeeping();
   TusinPortCloseForce();
   SaveSettingsAtExit();
   doors.forms->EndProcess();

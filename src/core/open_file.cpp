@@ -10,9 +10,9 @@
 #include "forms/frm_posi.h"
 #include "forms/frm_sq_mcr.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/file_kind.h"
+#include "state/for_mode.h"
 #include "state/message_box.h"
 #include "state/recent_files.h"
 #include "state/text.h"
@@ -24,9 +24,6 @@ namespace {
 
 constexpr int kMsgNone = 5606;
 constexpr int kMsgOfNoKind = 5607, kMsgOtherMode = 5608, kMsgGone = 5609;
-constexpr int kMsgPositioner = 128, kMsgProgram = 129;
-
-enum class Mode { Any, Positioner, Program };
 
 /// How the files of a kind are opened: the view's menu command brings it, its own command asks.
 struct Road {
@@ -34,30 +31,27 @@ struct Road {
   MenuList& recent;
   Menu& shows;
   View* view;  ///< null: the menu's command opens by itself
-  Mode mode;
+  ForMode mode;
 };
 
 const Road* RoadOf(FileKind kind) {
   static const Road kRoads[] = {
-      {FileKind::Position, frmMain.mnuRecentPosi, frmMain.mnuViewPosi, &frmPosi, Mode::Any},
-      {FileKind::Program, frmMain.mnuRecentProg, frmMain.mnuFileOpenProg, nullptr, Mode::Program},
-      {FileKind::Parameter, frmMain.mnuRecentPara, frmMain.mnuViewPara, &frmParameta2, Mode::Any},
-      {FileKind::Group, frmMain.mnuRecentGrp, frmMain.mnuViewGrp, &frmGrp, Mode::Positioner},
-      {FileKind::Macro, frmMain.mnuRecentSM, frmMain.mnuViewSM, &frmSqMcr, Mode::Positioner},
+      {FileKind::Position, frmMain.mnuRecentPosi, frmMain.mnuViewPosi, &frmPosi, ForMode::Any},
+      {FileKind::Program, frmMain.mnuRecentProg, frmMain.mnuFileOpenProg, nullptr,
+       ForMode::Program},
+      {FileKind::Parameter, frmMain.mnuRecentPara, frmMain.mnuViewPara, &frmParameta2,
+       ForMode::Any},
+      {FileKind::Group, frmMain.mnuRecentGrp, frmMain.mnuViewGrp, &frmGrp, ForMode::Positioner},
+      {FileKind::Macro, frmMain.mnuRecentSM, frmMain.mnuViewSM, &frmSqMcr, ForMode::Positioner},
   };
   const auto found = std::find_if(std::begin(kRoads), std::end(kRoads),
                                   [kind](const Road& road) { return road.kind == kind; });
   return found == std::end(kRoads) ? nullptr : found;
 }
 
-bool FitsMode(Mode mode) {
-  return mode == Mode::Any || (mode == Mode::Program) == static_cast<bool>(AppState.CtMode);
-}
-
 void TakeRoad(const Road& road, const std::string& path) {
   if (!FitsMode(road.mode)) {
-    const MsgId due = road.mode == Mode::Program ? MsgId(kMsgProgram) : MsgId(kMsgPositioner);
-    MsgBox(Text(kMsgOtherMode, FileTitle(path), Text(due)));
+    MsgBox(Text(kMsgOtherMode, FileTitle(path), Text(ModeNameId(road.mode))));
     return;
   }
   const GivenPath given(path);

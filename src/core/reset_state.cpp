@@ -1,6 +1,8 @@
 #include "core/reset_state.h"
 
 #include "core/install_views.h"
+#include "core/keep_work.h"
+#include "core/window_state.h"
 #include "data/grp_table.h"
 #include "data/sm_table.h"
 #include "device/ct_device.h"
@@ -72,6 +74,8 @@ void ResetState() {
   CommandList = CommandListRecord{};
   ProgCt = ProgCtRecord{};
   ProgLineClip = ProgLineClipRecord{};
+  KeepState = KeepRecord{};
+  WindowState = WindowStateRecord{};
   RenewViews();
   InstallViews();
 }

@@ -55,6 +55,7 @@ void ReadData(const DataKind& kind) {
   if (ReadDataToStage(kind) != Outcome::Done) return;
   kind.TakeStage();
   kind.MarkSaved();
+  kind.Path->clear();
 }
 
 void WriteData(const DataKind& kind) {
@@ -82,9 +83,12 @@ void OpenDataFile(const DataKind& kind) {
   const CommandsOff commands_off;
   const BusyScope busy;
   kind.StoreShown();
-  if (!AskAndReadDataFile(kind, kind.FileToOpen, kind.OpenTitle)) return;
+  const auto path = AskAndReadDataFile(kind, kind.FileToOpen, kind.OpenTitle);
+  if (!path) return;
   kind.TakeStage();
-  if (!kind.FileWasRefused()) kind.MarkSaved();
+  if (kind.FileWasRefused()) return;
+  kind.MarkSaved();
+  *kind.Path = *path;
 }
 
 void SaveDataFile(const DataKind& kind) {
@@ -99,6 +103,7 @@ void SaveDataFile(const DataKind& kind) {
     return;
   }
   kind.MarkSaved();
+  *kind.Path = *path;
   TellInStatusPanel(Text(kMsgSaved, *path));
 }
 

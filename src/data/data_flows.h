@@ -28,6 +28,7 @@ struct DataKind {
   bool (*FileWasRefused)();  ///< the one read last was of another kind, which has been told
   int (*SaveFile)(const std::string& path);  ///< 0 or 1
   const std::string* FileFault;
+  std::string* Path;  ///< of the file that the table was opened from or saved to; empty: of none
   bool FailureEndsSession;  ///< a failed read takes the session offline, whatever has failed
 
   // Texts. Above a list of differences stand two lines, below it the words that name it.

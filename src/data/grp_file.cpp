@@ -6,7 +6,6 @@
 
 #include "base/seq_file.h"
 #include "base/text_helpers.h"
-#include "data/grp_table.h"
 #include "state/file_kind.h"
 #include "state/message_box.h"
 #include "state/text.h"
@@ -54,17 +53,8 @@ int ReadGroups(SeqReader& items) {
   return 0;
 }
 
-}  // namespace
-
-int GrpFileRead(const std::string& path) {
-  GrpFlags.GrpFileRefused = False;
-  GrpFlags.GrpFileFaultText.clear();
-  std::string text;
-  const TextFileResult file = ReadTextFile(path, text);
-  if (!file.ok) {
-    GrpFlags.GrpFileFaultText = file.words;
-    return 1;
-  }
+/// `path` is what a file of another kind is told by.
+int ReadContent(const std::string& text, const std::string& path) {
   SeqReader items(text);
   std::string product, kind;
   if (!items.ReadText(product) || !items.ReadText(kind)) return Bad(items, Text(kMsgHeadDamaged));
@@ -74,7 +64,24 @@ int GrpFileRead(const std::string& path) {
   return 0;
 }
 
-int GrpFileSave(const std::string& path) {
+}  // namespace
+
+int GrpFileRead(const std::string& path) {
+  GrpFlags.GrpFileRefused = False;
+  GrpFlags.GrpFileFaultText.clear();
+  std::string text;
+  const TextFileResult file = ReadTextFile(path, text);
+  if (file.ok) return ReadContent(text, path);
+  GrpFlags.GrpFileFaultText = file.words;
+  return 1;
+}
+
+int GrpTextRead(const std::string& utf8) {
+  GrpFlags.GrpFileRefused = False;
+  return ReadContent(utf8, {});
+}
+
+std::string GrpFileText(const GrpTableRecord& table) {
   SeqWriter file;
   file.Text(kProducts[0]);
   file.Text(kKind);
@@ -84,11 +91,15 @@ int GrpFileSave(const std::string& path) {
   file.EndLine();
   for (int n = 1; n <= kGroups; ++n) {
     file.Text(std::to_string(n));
-    file.Number(GrpTable.GrpStart[n]);
-    file.Number(GrpTable.GrpEnd[n]);
+    file.Number(table.GrpStart[n]);
+    file.Number(table.GrpEnd[n]);
     file.EndLine();
   }
-  const TextFileResult saved = SaveTextFile(path, file.Result());
+  return file.Result();
+}
+
+int GrpFileSave(const std::string& path) {
+  const TextFileResult saved = SaveTextFile(path, GrpFileText(GrpTable));
   GrpFlags.GrpFileFaultText = saved.words;
   return saved.ok ? 0 : 1;
 }

@@ -90,6 +90,7 @@ const DataKind& GrpKind() {
                              .FileWasRefused = [] { return bool(GrpFlags.GrpFileRefused); },
                              .SaveFile = GrpFileSave,
                              .FileFault = &GrpFlags.GrpFileFaultText,
+                             .Path = &GrpFlags.GrpFilePath,
                              .FailureEndsSession = true,
                              .AskRead = 835,
                              .AskWrite = 839,

@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include "base/text_helpers.h"
-#include "data/grp_table.h"
 #include "forms/frm_grp.h"
 #include "platform/doors.h"
 #include "posi/posi_range.h"
@@ -55,14 +54,21 @@ void ShowFirstBadGroup() {
   doors.forms->SetFocus(frmGrp.Rows[(n - 1) % kGrpPageRows].txtGrpStartNo);
 }
 
+GrpTableRecord GroupsOnScreen() {
+  GrpTableRecord table = GrpTable;
+  for (std::size_t row = 0; row < frmGrp.Rows.size(); ++row) {
+    const GrpRow& shown = frmGrp.Rows[row];
+    table.GrpStart[GroupOfRow(row)] = NumberIn(shown.txtGrpStartNo);
+    table.GrpEnd[GroupOfRow(row)] = NumberIn(shown.txtGrpEndNo);
+  }
+  return table;
+}
+
 void StoreShownGroups() {
   if (!frmGrp.Loaded) return;
+  GrpTable = GroupsOnScreen();
   for (std::size_t row = 0; row < frmGrp.Rows.size(); ++row) {
-    const int n = GroupOfRow(row);
-    GrpRow& shown = frmGrp.Rows[row];
-    GrpTable.GrpStart[n] = NumberIn(shown.txtGrpStartNo);
-    GrpTable.GrpEnd[n] = NumberIn(shown.txtGrpEndNo);
-    shown.lblGrpCover.Caption = CoverText(n);
+    frmGrp.Rows[row].lblGrpCover.Caption = CoverText(GroupOfRow(row));
   }
 }
 

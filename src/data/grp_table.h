@@ -41,6 +41,7 @@ struct GrpFlagsRecord {
   Bool16 GrpSyogoNg;             ///< the compare found a difference
   std::string GrpSyogoList;      ///< numbers of the groups that differ, "," behind each
   Bool16 GrpFileRefused;         ///< the file that was read last is no group file
+  std::string GrpFilePath;       ///< the file that the table is from; empty: none
   std::string GrpFileFaultText;  ///< why a file could not be read or saved
 };
 

@@ -1,6 +1,8 @@
 #include "data/grp_view.h"
 
+#include "data/data_keep.h"
 #include "data/data_view.h"
+#include "data/grp_file.h"
 #include "data/grp_kind.h"
 #include "data/grp_show.h"
 #include "data/grp_table.h"
@@ -24,6 +26,7 @@ void ShowPage(int page) {
 
 void LoadGroups() {
   GrpTable = GrpTableRecord{};
+  GrpFlags.GrpFilePath.clear();
   frmGrp.ShownPage = 0;
   frmGrp.optGrpNo[0].Choose();
   groups_aside.Offer(frmGrp.cmdGrpRestore);
@@ -66,6 +69,20 @@ bool RefusesToEnd() {
   return groups_aside.RefusesToEnd(frmGrp.Loaded && GroupsAreChanged(), frmGrp.Tag);
 }
 
+KeepKind KeptGroups() {
+  return KeptTables<GrpTableRecord>({.word = "grp",
+                                     .view = frmGrp,
+                                     .shown_by = frmMain.mnuViewGrp,
+                                     .aside = groups_aside,
+                                     .held = GrpTable,
+                                     .saved = GrpSaved,
+                                     .path = GrpFlags.GrpFilePath,
+                                     .on_screen = GroupsOnScreen,
+                                     .text_of = GrpFileText,
+                                     .read_to_stage = GrpTextRead,
+                                     .show_stage = GrpKind().TakeStage});
+}
+
 void InstallButtons() {
   FrmGrp& f = frmGrp;
   InstallDataButtons(f, frmMain.mnuViewGrp,
@@ -96,6 +113,8 @@ void InstallGrpView() {
   };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   for (int page = 0; page < 3; ++page) f.optGrpNo[page].Click = [page] { ShowPage(page); };
+  f.OpenedBy = &frmMain.mnuViewGrp;
+  KeepKinds().push_back(KeptGroups());
   InstallButtons();
   SwitchControls(f, true);
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <deque>
 #include <string>
+#include <vector>
 
 #include "forms/control.h"
 #include "platform/doors.h"
@@ -36,6 +37,15 @@ class KeptAside {
     if (table != Table{}) std::rotate(kept_.begin(), kept_.begin() + 1, kept_.end());
     table = brought.table;
     if (brought.saved) saved = table;
+  }
+
+  /// What is kept and stands nowhere else, the oldest first.
+  std::vector<const Table*> Unsaved() const {
+    std::vector<const Table*> tables;
+    for (auto kept = kept_.rbegin(); kept != kept_.rend(); ++kept) {
+      if (!kept->saved) tables.push_back(&kept->table);
+    }
+    return tables;
   }
 
   /// The end of the tool loses what is `unsaved` in the open view of this name, and what is kept

@@ -2,7 +2,6 @@
 
 #include "base/seq_file.h"
 #include "base/text_helpers.h"
-#include "data/sm_table.h"
 #include "state/file_kind.h"
 #include "state/text.h"
 #include "state/text_file.h"
@@ -46,13 +45,8 @@ int ReadMacros(SeqReader& items) {
   return 0;
 }
 
-}  // namespace
-
-int OpenSMFile(const std::string& path) {
-  SmFlags.SmFileFaultText.clear();
-  std::string text;
-  const TextFileResult file = ReadTextFile(path, text);
-  if (!file.ok) return Bad(file.words);
+/// `path` is what a file of another kind is told by.
+int ReadContent(const std::string& text, const std::string& path) {
   SeqReader items(text);
   std::string product, kind;
   if (!items.ReadText(product) || !items.ReadText(kind)) {
@@ -62,7 +56,18 @@ int OpenSMFile(const std::string& path) {
   return ReadMacros(items);
 }
 
-int SmFileSave(const std::string& path) {
+}  // namespace
+
+int OpenSMFile(const std::string& path) {
+  SmFlags.SmFileFaultText.clear();
+  std::string text;
+  const TextFileResult file = ReadTextFile(path, text);
+  return file.ok ? ReadContent(text, path) : Bad(file.words);
+}
+
+int SmTextRead(const std::string& utf8) { return ReadContent(utf8, {}); }
+
+std::string SmFileText(const SmTableRecord& table) {
   SeqWriter file;
   file.Text(kProduct);
   file.Text(kKind);
@@ -74,13 +79,17 @@ int SmFileSave(const std::string& path) {
   for (int n = 1; n <= kMacros; ++n) {
     file.Text(std::to_string(n));
     file.EndLine();
-    for (const SmStep& step : SmTable[n - 1]) {
+    for (const SmStep& step : table[n - 1]) {
       file.Number(step.Command);
       file.Number(step.Value);
       file.EndLine();
     }
   }
-  const TextFileResult saved = SaveTextFile(path, file.Result());
+  return file.Result();
+}
+
+int SmFileSave(const std::string& path) {
+  const TextFileResult saved = SaveTextFile(path, SmFileText(SmTable));
   SmFlags.SmFileFaultText = saved.words;
   return saved.ok ? 0 : 1;
 }

@@ -89,6 +89,7 @@ const DataKind& SmKind() {
                              .FileWasRefused = [] { return false; },  // counts as a failed read
                              .SaveFile = SmFileSave,
                              .FileFault = &SmFlags.SmFileFaultText,
+                             .Path = &SmFlags.SmFilePath,
                              .FailureEndsSession = false,
                              .AskRead = 920,
                              .AskWrite = 937,

@@ -39,6 +39,7 @@ void SmStageFromTable();  ///< table to stage
 struct SmFlagsRecord {
   std::string SmBadList;        ///< macros that the check refuses: "<3>,<7>,"
   std::string SmSyogoList;      ///< macros that differ: "3,7,"
+  std::string SmFilePath;       ///< the file that the table is from; empty: none
   std::string SmFileFaultText;  ///< why a file could not be read or saved
 };
 

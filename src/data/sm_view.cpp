@@ -3,11 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <utility>
 
 #include "base/text_helpers.h"
+#include "data/data_keep.h"
 #include "data/data_view.h"
 #include "data/kept_aside.h"
+#include "data/sm_file.h"
 #include "data/sm_kind.h"
 #include "data/sm_show.h"
 #include "data/sm_table.h"
@@ -33,12 +34,20 @@ struct PickedCommand {
 };
 std::optional<PickedCommand> picked;
 
+/// The table with that command in it.
+SmTableRecord WithPicked() {
+  SmTableRecord table = SmTable;
+  if (!picked) return table;
+  SmStep& step = table[picked->macro][picked->row];
+  step.Command = static_cast<std::int16_t>(frmSqMcr.Rows[picked->row].comboMerei.ListIndex);
+  if (step.Command == kSmEnd) step.Value = 0;
+  return table;
+}
+
 void TakePicked() {
   if (!picked) return;
-  const auto [macro, row] = *std::exchange(picked, std::nullopt);
-  SmStep& step = SmTable[macro][row];
-  step.Command = static_cast<std::int16_t>(frmSqMcr.Rows[row].comboMerei.ListIndex);
-  if (step.Command == kSmEnd) step.Value = 0;
+  SmTable = WithPicked();
+  picked.reset();
   SmShow();
 }
 
@@ -96,6 +105,7 @@ void LoadMacros() {
     frmSqMcr.Rows[row].lblSmStep.Caption = std::to_string(row + 1) + ".";
   }
   SmTable = SmTableRecord{};
+  SmFlags.SmFilePath.clear();
   frmSqMcr.UpDownSmNo.Value = 1;
   macros_aside.Offer(frmSqMcr.cmdSmRestore);
   SmShow();
@@ -118,6 +128,20 @@ bool MacrosAreChanged() { return SmTable != SmTableRecord{} && SmTable != SmSave
 bool RefusesToEnd() {
   TakePicked();
   return macros_aside.RefusesToEnd(frmSqMcr.Loaded && MacrosAreChanged(), frmSqMcr.Tag);
+}
+
+KeepKind KeptMacros() {
+  return KeptTables<SmTableRecord>({.word = "sm",
+                                    .view = frmSqMcr,
+                                    .shown_by = frmMain.mnuViewSM,
+                                    .aside = macros_aside,
+                                    .held = SmTable,
+                                    .saved = SmSaved,
+                                    .path = SmFlags.SmFilePath,
+                                    .on_screen = WithPicked,
+                                    .text_of = SmFileText,
+                                    .read_to_stage = SmTextRead,
+                                    .show_stage = SmKind().TakeStage});
 }
 
 void SwitchCommands(bool on) {
@@ -151,6 +175,8 @@ void InstallSmView() {
   f.CmdYuko = [] { SwitchCommands(true); };
   for (std::size_t row = 0; row < f.Rows.size(); ++row) InstallRow(row);
   f.UpDownSmNo.Change = ShowOtherMacro;
+  f.OpenedBy = &frmMain.mnuViewSM;
+  KeepKinds().push_back(KeptMacros());
   InstallButtons();
   SwitchControls(f, true);
 }

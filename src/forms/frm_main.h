@@ -107,6 +107,8 @@ struct FrmMain : View {
   Timer TimerTest{1000, false};
   Timer TimerClosedViews{1, true};  ///< ends the records of views that were closed
   Timer TimerPolls{1, true};        ///< the monitor that comes next on the line
+  Timer TimerKeep{10000, false};    ///< runs while there is unsaved work
+  Timer TimerKeepNow{1, true};      ///< keeps it, as soon as that disturbs nothing
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
   /// The Escape key, wherever the focus is and whatever box stands. True: it has stopped something,

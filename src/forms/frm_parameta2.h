@@ -138,6 +138,7 @@ struct FrmParameta2 : View {
 
   /// What the fields held when they last agreed with a file or the controller.
   std::string SavedContent;
+  std::string FilePath;         ///< the file that the fields are from; empty: none
   bool CommandsAreOff = false;  ///< a flow runs: fields and buttons are off
   bool RefusalShown = false;    ///< the status bar tells why a field was emptied
   std::string EnteredText;      ///< what the field held when the focus came to it

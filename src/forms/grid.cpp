@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/scope.h"
+
 namespace tr7 {
 
 Grid::Grid(View& owner, const std::string& name, int rows, int cols, int fixed_rows, int fixed_cols)
@@ -31,6 +33,7 @@ void Grid::SetCols(int cols) {
   cells_ = std::move(kept);
   cols_ = cols;
   col_widths_.resize(Index(cols), 1000);
+  user_widths_.resize(Index(cols), 0);
   col_colours_.resize(Index(cols), kWindowColour);
   col_aligns_.resize(Index(cols), ColAlign::General);
   Touch();
@@ -64,6 +67,11 @@ void Grid::SetText(int row, int col, std::string text) {
 
 void Grid::SetColWidth(int col, int twips) {
   col_widths_.at(Index(col)) = twips;
+  Touch();
+}
+
+void Grid::SetUserWidth(int col, int twips) {
+  user_widths_.at(Index(col)) = twips;
   Touch();
 }
 
@@ -120,6 +128,8 @@ bool Grid::MayEdit(int row, int col) const {
 
 EditVerdict Grid::EndEdit(int row, int col, std::string typed) {
   EditVerdict verdict;
+  ++edits_ending_;
+  const ScopeExit over([] { --edits_ending_; });
   if (AcceptEdit) verdict = AcceptEdit(row, col, typed);
   if (verdict.accepted) SetText(row, col, std::move(typed));
   return verdict;

@@ -69,6 +69,9 @@ struct Grid : Control {
   /// Twips; 0 hides the column, -1 takes the width that is left.
   void SetColWidth(int col, int twips);
   int ColWidth(int col) const { return col_widths_[Index(col)]; }
+  /// The width that the user has given a column, twips; 0: the column has its own.
+  void SetUserWidth(int col, int twips);
+  int UserWidth(int col) const { return user_widths_[Index(col)]; }
   void SetRowHeight(int row, int twips);
   /// Twips; 0: the platform's own height.
   int RowHeight(int row) const;
@@ -142,6 +145,8 @@ struct Grid : Control {
   /// Its two halves, for an editor on the screen.
   bool MayEdit(int row, int col) const;
   [[nodiscard]] EditVerdict EndEdit(int row, int col, std::string typed);
+  /// An edit of some grid is coming to its end: what it brings is half in the record.
+  static bool AnEditEnds() { return edits_ending_ > 0; }
 
  private:
   std::size_t Index(int col) const { return static_cast<std::size_t>(col); }
@@ -149,11 +154,14 @@ struct Grid : Control {
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) + Index(col);
   }
 
+  inline static int edits_ending_ = 0;
+
   int rows_ = 0;
   int cols_ = 0;
   std::vector<std::string> cells_;
   mutable std::string asked_;  ///< the body's text that was asked for last
   std::vector<int> col_widths_;
+  std::vector<int> user_widths_;
   std::vector<Colour> col_colours_;
   std::vector<ColAlign> col_aligns_;
   std::vector<int> row_heights_;  ///< of the rows that have one

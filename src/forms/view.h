@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,6 +12,8 @@
 #include "forms/handler.h"
 
 namespace tr7 {
+
+struct Menu;
 
 /// What the frame may ask of the view in front. A command that a view leaves empty is shown
 /// switched off while that view is in front.
@@ -48,6 +51,11 @@ struct View {
   bool MdiChild = false;     ///< lives inside the frame
   bool StaysOpen = false;    ///< open for the whole process: the frame does not offer to close it
   double Left = 0, Top = 0, Width = 0, Height = 0;
+  bool Placed = false;  ///< of a view inside the frame: the rectangle is where the user left it
+  /// Pages in front of the layout's own tab widgets, by the widget's name.
+  std::map<std::string, int> Pages;
+  /// The frame's command that opens the view; null: it does not come back by itself at a start.
+  Menu* OpenedBy = nullptr;
 
   std::vector<Control*> Controls;  ///< in order of construction, which is the tab order
   std::vector<FieldTable> Tables;  ///< the regular parts of the layout

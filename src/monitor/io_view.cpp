@@ -201,6 +201,7 @@ void InstallIoMonitor() {
   f.cmdIoMonitor.Click = cmdIoMonitor_Click;
   f.cmdIoWinClose.Click = cmdIoWinClose_Click;
   f.chkIgnore.Click = [] { IoMonitor.IgnorePending = True; };
+  f.OpenedBy = &frmMain.mnuMonitorIO;
   frmMain.mnuMonitorIO.Click = [] { Open(kIoTab); };
   frmMain.mnuMonitorHensu.Click = [] { Open(kWatchTab); };
   Followers.TakeBackBeforeTheEnd = TakeBackOverride;

@@ -52,6 +52,7 @@ void InstallMotionLogView() {
   f.Load = f.Activate = ShowLog;
   f.cmdCopy.Click = CopyLog;
   f.cmdClose.Click = [] { CloseView(frmMotionLog, CloseReason::Code); };
+  f.OpenedBy = &frmMain.mnuHelpMotionLog;
   frmMain.mnuHelpMotionLog.Click = [] {
     ShowOrBringToFront(frmMotionLog);
     ShowLog();

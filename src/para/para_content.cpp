@@ -25,6 +25,8 @@ std::string Content() {
 
 void MarkParaSaved() { frmParameta2.SavedContent = Content(); }
 
+void MarkParaUnsaved() { frmParameta2.SavedContent.clear(); }
+
 bool ParaIsChanged() { return frmParameta2.SavedContent != Content(); }
 
 }  // namespace tr7

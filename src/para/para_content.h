@@ -8,5 +8,7 @@ namespace tr7 {
 void MarkParaSaved();
 /// True when the fields have been changed since.
 bool ParaIsChanged();
+/// They agree with neither of the two, whatever they hold.
+void MarkParaUnsaved();
 
 }  // namespace tr7

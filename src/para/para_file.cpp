@@ -126,6 +126,15 @@ int Bad(const std::string& words) {
   return 1;
 }
 
+/// `path` is what the file is called.
+int ReadContent(const std::string& text, const std::string& path) {
+  Reading reading(text, ParaTable);
+  const Outcome outcome = reading.Run(path);
+  if (outcome == Outcome::Done) return 0;
+  if (outcome == Outcome::NotOurs) MsgBox(WithReason(TwoLines(22, 20), WhatFileIs(path, text)));
+  return Bad(reading.Words());
+}
+
 // Writing.
 
 void WriteSections(SeqWriter& file, const ParaTableRecord& table) {
@@ -149,15 +158,16 @@ int ReadParaTable(const std::string& path) {
   ParaFlags.FileFaultText.clear();
   std::string text;
   const TextFileResult file = ReadTextFile(path, text);
-  if (!file.ok) return Bad(file.words);
-  Reading reading(text, ParaTable);
-  const Outcome outcome = reading.Run(path);
-  if (outcome == Outcome::Done) return 0;
-  if (outcome == Outcome::NotOurs) MsgBox(WithReason(TwoLines(22, 20), WhatFileIs(path, text)));
-  return Bad(reading.Words());
+  return file.ok ? ReadContent(text, path) : Bad(file.words);
 }
 
-int WriteParaFile(const std::string& path) {
+int ReadParaText(const std::string& utf8) {
+  ParaTable.Clear();
+  ParaFlags.FileFaultText.clear();
+  return ReadContent(utf8, {});
+}
+
+std::string ParaFileText() {
   SeqWriter file;
   file.Text(kProduct);
   file.Text(kKind);
@@ -165,7 +175,11 @@ int WriteParaFile(const std::string& path) {
   file.Number(static_cast<double>(kSections.size()));
   file.EndLine();
   WriteSections(file, ParaTableOf(ParamSet));
-  const TextFileResult saved = SaveTextFile(path, file.Result());
+  return file.Result();
+}
+
+int WriteParaFile(const std::string& path) {
+  const TextFileResult saved = SaveTextFile(path, ParaFileText());
   ParaFlags.ParaFileWriteFailed = !saved.ok;
   ParaFlags.FileFaultText = saved.words;
   return saved.ok ? 0 : 1;

@@ -10,6 +10,11 @@ namespace tr7 {
 /// says what is wrong and on which line, and the caller tells.
 int ReadParaTable(const std::string& path);
 
+/// The same of a file's text that is in memory already.
+int ReadParaText(const std::string& utf8);
+/// The text of a file of `ParamSet`.
+std::string ParaFileText();
+
 /// Saves `ParamSet`. 0; 1 with `ParaFileWriteFailed` and `FileFaultText`, the old file being whole.
 /// The caller tells the user.
 int WriteParaFile(const std::string& path);

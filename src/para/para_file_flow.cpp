@@ -82,6 +82,7 @@ int SaveParaToFile() {
     return 1;
   }
   MarkParaSaved();
+  frmParameta2.FilePath = *path;
   TellDone(14);
   return 0;
 }
@@ -97,6 +98,7 @@ void OpenParaFile() {
   }
   ParametaHyoji();
   MarkParaSaved();
+  frmParameta2.FilePath = *path;
 }
 
 bool ParaFileIsRead(const std::string& path) {

@@ -5,6 +5,7 @@
 #include "device/ct_device.h"
 #include "device/limits.h"
 #include "device/take_ct_device.h"
+#include "forms/frm_parameta2.h"
 #include "para/axes_on_trial.h"
 #include "para/para_columns.h"
 #include "para/para_content.h"
@@ -61,6 +62,7 @@ void ShowRead() {
   YukoJikuHyojiSettei();
   ParametaHyoji();
   MarkParaSaved();
+  frmParameta2.FilePath.clear();
 }
 
 bool ViewMayBeCompared(FilledCheck& filled) { return filled.Holds() && TakeParaView(1524, 1525); }

@@ -10,6 +10,7 @@
 #include "para/para_file_flow.h"
 #include "para/para_flows.h"
 #include "para/para_hint.h"
+#include "para/para_keep.h"
 #include "para/para_marks.h"
 #include "para/para_show.h"
 #include "para/para_sp.h"
@@ -52,6 +53,7 @@ void LoadView() {
   f.chkTokuParaChange.Value = false;
   f.RefusalShown = false;
   f.FormerTexts.clear();
+  f.FilePath.clear();
   f.LiveColumns.fill(false);
   ParaFlags.ShownAxisCount = 0;
   ReadDeviceLists();
@@ -115,6 +117,8 @@ void InstallParaView() {
   Followers.AnotherController = ForgetWhatCtHeld;
   InstallParaMarks();  // behind what the fields do by themselves
   f.Commands.Open = OpenParameters;
+  f.OpenedBy = &frmMain.mnuViewPara;
+  KeepKinds().push_back(KeptParameters());
   frmMain.mnuViewPara.Click = [] { ShowOrBringToFront(frmParameta2); };
 }
 

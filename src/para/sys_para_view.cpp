@@ -1,7 +1,10 @@
 #include "para/sys_para_view.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
+#include "base/seq_file.h"
 #include "forms/frm_main.h"
 #include "forms/frm_system_para.h"
 #include "para/para_hint.h"
@@ -12,6 +15,7 @@
 #include "session/session.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
+#include "state/kept_work.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -84,6 +88,36 @@ bool RefusesToClose(CloseReason) {
   return FlowKeepsViewsOpen() || (AnyFieldIsTheUsersAlone() && !AskToLose(Text(kMsgDropEdits)));
 }
 
+/// Fields that no file can hold: as they stand.
+void KeepFields(KeptWork& work) {
+  SeqWriter screen;
+  for (const SysParaField& field : frmSystemPara.Fields) screen.Text(field.txtSystemPara.Text);
+  work.screen = screen.Result();
+}
+
+bool TakeBackFields(const KeptWork& work) {
+  if (frmSystemPara.Loaded && RefusesToClose(CloseReason::Code)) return false;
+  ShowOrBringToFront(frmSystemPara);
+  SeqReader texts(work.screen);
+  for (SysParaField& field : frmSystemPara.Fields) {
+    if (!texts.ReadText(field.txtSystemPara.Text)) return false;
+  }
+  MarkSysParaFields();
+  return true;
+}
+
+KeepKind KeptFields() {
+  return {.Word = "sys",
+          .NameId = frmSystemPara.Tag,
+          .Unsaved =
+              [] {
+                const bool unsaved = frmSystemPara.Loaded && AnyFieldIsTheUsersAlone();
+                return std::vector<std::string>(unsaved ? 1 : 0);
+              },
+          .Keep = [](const std::string&, KeptWork& work) { KeepFields(work); },
+          .TakeBack = TakeBackFields};
+}
+
 void LoadFields() {
   for (std::size_t index = 0; index < frmSystemPara.Fields.size(); ++index) {
     frmSystemPara.Fields[index].lblSystemPara.Caption = std::to_string(index + 1);
@@ -116,6 +150,8 @@ void InstallSysParaView() {
     box.Change = MarkSysParaFields;
     box.Enter = [index] { GoToNext(index); };
   }
+  f.OpenedBy = &frmMain.mnuViewSysPara;
+  KeepKinds().push_back(KeptFields());
   frmMain.mnuViewSysPara.Click = [] { ShowOrBringToFront(frmSystemPara); };
 }
 

@@ -138,15 +138,9 @@ bool Reading::ReadColumns(int number) {
   return true;
 }
 
-int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
-  trouble = PosiFileTrouble{};
-  std::string text;
-  const TextFileResult file = ReadTextFile(path, text, kPosiFileLimit);
-  if (!file.ok) {
-    AppState.PosiFileNotOurs = True;
-    trouble = {file.fault != FileFault::None && file.fault != FileFault::TooLarge, file.words};
-    return 1;
-  }
+/// `path` is what a file of another kind is told by.
+int ReadContent(const std::string& text, const std::string& path, Layout layout,
+                PosiFileTrouble& trouble) {
   const FileKind kind = KindOfFile(text);
   const bool other_kind = kind != FileKind::Position && kind != FileKind::Unknown;
   Reading reading(text, layout);
@@ -165,10 +159,25 @@ int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
   return 1;
 }
 
+int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
+  trouble = PosiFileTrouble{};
+  std::string text;
+  const TextFileResult file = ReadTextFile(path, text, kPosiFileLimit);
+  if (file.ok) return ReadContent(text, path, layout, trouble);
+  AppState.PosiFileNotOurs = True;
+  trouble = {file.fault != FileFault::None && file.fault != FileFault::TooLarge, file.words};
+  return 1;
+}
+
 }  // namespace
 
 int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble) {
   return ReadFile(path, Layout::Present, trouble);
+}
+
+int ReadPosiText(const std::string& utf8, PosiFileTrouble& trouble) {
+  trouble = PosiFileTrouble{};
+  return ReadContent(utf8, {}, Layout::Present, trouble);
 }
 
 int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble) {

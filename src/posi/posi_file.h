@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace tr7 {
 
@@ -21,6 +22,9 @@ struct PosiFileTrouble {
 /// where its head says so, and the result is 0 with `PosiFileNotOurs`.
 int ReadPosiFile(const std::string& path, PosiFileTrouble& trouble);
 
+/// The same of a file's text that is in memory already.
+int ReadPosiText(const std::string& utf8, PosiFileTrouble& trouble);
+
 /// The same for the oldest layout: no mode, no words, 20 columns behind each number.
 int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble);
 
@@ -30,6 +34,9 @@ std::string NumbersLeftOut(int first, int last);
 
 /// Shows "(New)" or "(Old)" for each axis in use as the file read last says.
 void ShowFileAges();
+
+/// The text of a file of these positions, as the table holds them.
+std::string PosiFileText(const std::vector<int>& numbers);
 
 /// Saves positions `PosiFromNo` to `PosiToNo` but the bad lines, and on success names the table
 /// after the file. 0 done; 1 not, with the old file whole. The caller tells the user.

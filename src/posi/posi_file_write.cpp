@@ -75,12 +75,16 @@ std::string SaveWords(const TextFileResult& saved, const std::vector<int>& numbe
 
 }  // namespace
 
-int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
-  const std::vector<int> numbers = WrittenNumbers();
+std::string PosiFileText(const std::vector<int>& numbers) {
   SeqWriter file;
   WriteHeader(file);
   for (const int number : numbers) WriteRecord(file, number);
-  const TextFileResult saved = SaveTextFile(path, file.Result());
+  return file.Result();
+}
+
+int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
+  const std::vector<int> numbers = WrittenNumbers();
+  const TextFileResult saved = SaveTextFile(path, PosiFileText(numbers));
   if (!saved.ok) {
     trouble = {saved.fault != FileFault::None, SaveWords(saved, numbers)};
     return 1;

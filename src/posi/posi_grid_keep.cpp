@@ -1,5 +1,7 @@
 #include "posi/posi_grid_keep.h"
 
+#include <set>
+
 #include "base/text_helpers.h"
 #include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
@@ -80,6 +82,69 @@ bool KeptEdits::IsUnedited(int row, int axis) const {
 double KeptEdits::Held(int row, int col) const {
   const int number = source_[row - kPosiHeaderRows];
   return ValueOf(PosiTable.PosiRec[col][number]);
+}
+
+int KeptEdits::Lines() const { return rows_ == 0 ? 0 : rows_ - kPosiHeaderRows; }
+
+std::vector<int> KeptEdits::Sources() const {
+  std::set<int> numbers(source_.begin(), source_.end());
+  numbers.erase(0);
+  return {numbers.begin(), numbers.end()};
+}
+
+void KeptEdits::Write(SeqWriter& out) const {
+  out.Number(program_mode_ ? 1 : 0);
+  for (int axis = 0; axis < kAxes; ++axis) {
+    out.Number(muko_[axis] ? 1 : 0);
+    out.Number(lead_[axis]);
+    out.Number(ppr_[axis]);
+  }
+  out.Number(Lines());
+  out.EndLine();
+  for (int row = kPosiHeaderRows; row < rows_; ++row) {
+    out.Number(source_[row - kPosiHeaderRows]);
+    for (int col = 1; col < kPosiColumns; ++col) out.Text(Text(row, col));
+    out.EndLine();
+  }
+}
+
+bool KeptEdits::ReadLayout(SeqReader& items) {
+  int on = 0;
+  if (!items.ReadInteger(0, 1, on)) return false;
+  program_mode_ = on == 1;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    if (!items.ReadInteger(0, 1, on) || !items.ReadNumber(lead_[axis]) ||
+        !items.ReadNumber(ppr_[axis])) {
+      return false;
+    }
+    muko_[axis] = on == 1;
+  }
+  return true;
+}
+
+bool KeptEdits::ReadLines(SeqReader& items) {
+  int lines = 0;
+  if (!items.ReadInteger(1, kPosiMaxNo, lines)) return false;
+  rows_ = lines + kPosiHeaderRows;
+  source_.assign(static_cast<std::size_t>(lines), 0);
+  texts_.assign(static_cast<std::size_t>(rows_) * kPosiColumns, {});
+  auto cell = texts_.begin() + kPosiHeaderRows * kPosiColumns;
+  for (std::int16_t& source : source_) {
+    int number = 0;
+    if (!items.ReadInteger(0, kPosiMaxNo, number)) return false;
+    source = static_cast<std::int16_t>(number);
+    ++cell;  // the column of the numbers
+    for (int col = 1; col < kPosiColumns; ++col) {
+      if (!items.ReadText(*cell++)) return false;
+    }
+  }
+  return true;
+}
+
+bool KeptEdits::Read(SeqReader& items) {
+  if (ReadLayout(items) && ReadLines(items)) return true;
+  rows_ = 0;
+  return false;
 }
 
 }  // namespace tr7

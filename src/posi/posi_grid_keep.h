@@ -7,6 +7,7 @@
 
 #include "base/axes.h"
 #include "base/bool16.h"
+#include "base/seq_file.h"
 #include "state/app_state.h"
 
 namespace tr7 {
@@ -23,12 +24,24 @@ class KeptEdits {
   KeptEdits();
   void PutBack(Unedited keeps) const;
 
+  /// Numbers of the table that the lines were filled from, each once, rising.
+  std::vector<int> Sources() const;
+  int Lines() const;
+  bool InProgramMode() const { return program_mode_; }
+
+  // Over the end of the tool: what was written can be read into any other.
+  void Write(SeqWriter& out) const;
+  /// False where that is damaged: nothing is kept then.
+  [[nodiscard]] bool Read(SeqReader& items);
+
  private:
   const std::string& Text(int row, int col) const;
   std::string NewText(int row, int col, Unedited keeps) const;
   std::string PosiText(int row, int axis, Unedited keeps) const;
   bool IsUnedited(int row, int axis) const;
   double Held(int row, int col) const;
+  bool ReadLayout(SeqReader& items);
+  bool ReadLines(SeqReader& items);
 
   int rows_ = 0;  ///< 0: nothing was kept
   Bool16 program_mode_;

@@ -5,7 +5,6 @@
 #include "device/dev_setting.h"
 #include "device/limits.h"
 #include "forms/frm_posi.h"
-#include "posi/file_devices.h"
 #include "posi/posi_caption.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_file.h"
@@ -40,8 +39,9 @@ void TellNumbersLeftOut() {
   if (!numbers.empty()) MsgBox(Text(kMsgLeftOut, numbers));
 }
 
-/// The stage becomes the table, in the layout of the axes in use.
-void ShowStage(FileDevices devices) {
+}  // namespace
+
+void ShowPosiStage(FileDevices devices) {
   const PosiRange range{AppState.FileFirstNo, AppState.FileLastNo};
   SetLoadedPosiRange(range);
   SetOperationRange(range);
@@ -55,8 +55,6 @@ void ShowStage(FileDevices devices) {
   // The file's words tell the age of its own devices, not of those in use instead.
   if (devices == FileDevices::OfFile) ShowFileAges();
 }
-
-}  // namespace
 
 void PosidataFileOpen() {
   EditCMD_Muko();
@@ -72,7 +70,7 @@ void PosidataFileOpen() {
   if (devices == FileDevices::Refused) return;
   trial.Keep();
   TellNumbersLeftOut();
-  ShowStage(devices);
+  ShowPosiStage(devices);
   SetPosiTableFile(*path);
   frmPosi.PosiChanged = False;
 }

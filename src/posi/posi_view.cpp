@@ -17,6 +17,7 @@
 #include "posi/posi_grid_fill.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_hint.h"
+#include "posi/posi_keep.h"
 #include "posi/posi_new.h"
 #include "posi/posi_rebuild.h"
 #include "posi/posi_table.h"
@@ -24,6 +25,7 @@
 #include "posi/recalc.h"
 #include "session/followers.h"
 #include "state/app_state.h"
+#include "state/kept_work.h"
 #include "state/message_box.h"
 #include "state/settings.h"
 #include "state/text.h"
@@ -114,6 +116,8 @@ void InstallPosiView() {
     doors.forms->BringToFront(frmPosi);
     doors.forms->SetFocus(frmPosi.flgdData);
   };
+  f.OpenedBy = &frmMain.mnuViewPosi;
+  KeepKinds().push_back(KeptPositions());
   Followers.PositionsFollowDevices = [] { PositionsFollowDevices(); };
   Followers.MmFollowsPulses = MmFollowsPulses;
 }

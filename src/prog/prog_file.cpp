@@ -56,9 +56,8 @@ int ReadRows(SeqReader& items, const std::string& path, ProgStore& store) {
 
 }  // namespace
 
-int SaveFileProgAs2(const std::string& path, ProgView& view) {
-  const int steps = ListingSteps(view.flgdProg);
-  if (steps < 1) return 1;
+std::string ProgFileText(const Grid& listing) {
+  const int steps = ListingSteps(listing);
   SeqWriter file;
   file.Text(kProduct);
   file.EndLine();
@@ -67,10 +66,15 @@ int SaveFileProgAs2(const std::string& path, ProgView& view) {
   file.Number(steps);
   file.EndLine();
   for (int step = 1; step <= steps; ++step) {
-    for (const std::string& text : CellsOfStep(view.flgdProg, step).Texts) file.Text(text);
+    for (const std::string& text : CellsOfStep(listing, step).Texts) file.Text(text);
     file.EndLine();
   }
-  const TextFileResult saved = SaveTextFile(path, file.Result());
+  return file.Result();
+}
+
+int SaveFileProgAs2(const std::string& path, ProgView& view) {
+  if (ListingSteps(view.flgdProg) < 1) return 1;
+  const TextFileResult saved = SaveTextFile(path, ProgFileText(view.flgdProg));
   view.Store.FileFault = saved.words;
   if (saved.ok) return 0;
   if (saved.bad_line > kHeadLines) {
@@ -80,16 +84,19 @@ int SaveFileProgAs2(const std::string& path, ProgView& view) {
   return 1;
 }
 
+int ReadProgText(const std::string& utf8, const std::string& path, ProgStore& store) {
+  SeqReader items(utf8);
+  std::string product, kind;
+  const bool ours = items.ReadText(product) && items.ReadText(kind);
+  if (!ours || product != kProduct || kind != kKind) return Refuse(WhatFileIs(path, utf8));
+  return ReadRows(items, path, store);
+}
+
 int OpenProgFile(const std::string& path, ProgStore& store) {
   std::string text;
   const TextFileResult file = ReadTextFile(path, text);
   store.FileFault = file.words;
-  if (!file.ok) return 1;
-  SeqReader items(text);
-  std::string product, kind;
-  const bool ours = items.ReadText(product) && items.ReadText(kind);
-  if (!ours || product != kProduct || kind != kKind) return Refuse(WhatFileIs(path, text));
-  return ReadRows(items, path, store);
+  return file.ok ? ReadProgText(text, path, store) : 1;
 }
 
 void ShowProgFileName(const std::string& path, ProgView& view) {

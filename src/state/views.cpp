@@ -11,6 +11,10 @@
 #include "state/view_instances.h"
 
 namespace tr7 {
+
+void (*ViewComes)(View& view) = nullptr;
+void (*ViewGoes)(View& view) = nullptr;
+
 namespace {
 
 std::vector<View*> open_views;
@@ -59,6 +63,7 @@ void LoadView(View& view) {
   if (view.Loaded) return;
   view.Loaded = true;
   ApplyViewCaptions(view);
+  if (ViewComes) ViewComes(view);
   if (view.Load) view.Load();
 }
 
@@ -103,6 +108,7 @@ void UnloadView(View& view) {
   doors.forms->Hide(view);
   if (view.Loaded) {
     view.Loaded = false;
+    if (ViewGoes) ViewGoes(view);
     if (view.Unload) view.Unload();
   }
   if (active_view == &view) SetActiveView(NewestChild());

@@ -14,6 +14,11 @@ View* ActiveView();
 /// The host tells which view the user has made the active one.
 void SetActiveView(View* view);
 
+/// Called for every view before its `Load`, and before its `Unload` where it is closed; set by who
+/// remembers what the user made of its window.
+extern void (*ViewComes)(View& view);
+extern void (*ViewGoes)(View& view);
+
 /// Fills every caption of the view that has a message id.
 void ApplyViewCaptions(View& view);
 

@@ -119,6 +119,7 @@ void BoundView::FindAreas() {
 
 void BoundView::FindTabs() {
   for (QTabWidget* tabs : window_.findChildren<QTabWidget*>()) {
+    FollowPage(*tabs);
     for (int index = 0; index < tabs->count(); ++index) {
       TabPage page{tabs, index, {}};
       for (const auto& [control, widget] : widgets_) {
@@ -128,6 +129,14 @@ void BoundView::FindTabs() {
       tab_pages_.push_back(std::move(page));
     }
   }
+}
+
+/// The page in front is the one that the record has, and stays so.
+void BoundView::FollowPage(QTabWidget& tabs) {
+  int& page = view_.Pages[tabs.objectName().toStdString()];
+  if (page < tabs.count()) tabs.setCurrentIndex(page);
+  page = tabs.currentIndex();
+  QObject::connect(&tabs, &QTabWidget::currentChanged, &tabs, [&page](int now) { page = now; });
 }
 
 void BoundView::PushTabTitles() {

@@ -55,6 +55,7 @@ class BoundView {
   void FindAreas();
   void FindStrangers();
   void FindTabs();
+  void FollowPage(QTabWidget& tabs);
   void TiePopup();
   void SetTabOrder();
   void PushAreas();

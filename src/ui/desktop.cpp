@@ -42,9 +42,17 @@ std::string SettingsPath(const Profile& profile) {
   return path.toStdString();
 }
 
+std::string WorkPath(const Profile& profile) {
+  if (!profile.settings_file.isEmpty()) return (profile.settings_file + ".kept").toStdString();
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return (folder + "/" + kApplication + (profile.demo ? "/demo.kept" : "/settings.kept"))
+      .toStdString();
+}
+
 Desktop::Desktop(const Profile& profile)
     : files(QCoreApplication::applicationDirPath().toStdString()),
-      settings(files, SettingsPath(profile)) {
+      settings(files, SettingsPath(profile)),
+      work(WorkPath(profile)) {
   SetAtFirstUse(settings, "Language", SpeaksJapanese(profile.locale) ? "1" : "2");
   if (profile.demo) SetAtFirstUse(settings, "PortDevice1", "sim");
   QApplication::setWindowIcon(ProgramIcon());
@@ -57,6 +65,7 @@ Desktop::Desktop(const Profile& profile)
   doors.help = &help;
   doors.guard = &guard;
   doors.printer = &printer;
+  doors.work = &work;
   forms.frame_built = [this, demo = profile.demo](QMainWindow& frame) {
     new FileDrop(frame, forms);
     if (demo) SimDock::AddTo(frame, serial.Sim());

@@ -14,6 +14,7 @@
 #include "ui/qt_printer.h"
 #include "ui/qt_pump.h"
 #include "ui/qt_serial_port.h"
+#include "ui/user_work_folder.h"
 
 namespace tr7 {
 
@@ -26,6 +27,9 @@ struct Profile {
 
 /// Where the settings of a profile stand; the folder is there.
 std::string SettingsPath(const Profile& profile);
+/// The folder where a profile's unsaved work is kept: in the user's data folder, or beside a
+/// settings file that is named.
+std::string WorkPath(const Profile& profile);
 
 /// The desktop's set of doors, installed as long as this lives. The QApplication exists before
 /// and ends after.
@@ -46,6 +50,7 @@ class Desktop {
   QtHelpViewer help;
   StdFiles files;
   IniSettingsStore settings;
+  UserWorkFolder work;
 };
 
 }  // namespace tr7

@@ -12,6 +12,7 @@
 
 #include "state/text.h"
 #include "ui/binding.h"
+#include "base/scope.h"
 #include "ui/cell_bubble.h"
 #include "ui/grid_cell_painter.h"
 #include "ui/grid_header.h"
@@ -27,6 +28,12 @@ constexpr int kRestOfWidth = -1;
 constexpr double kDesignDigit = 6.0;
 constexpr double kLineInEms = 1.7;
 
+/// What the user pulls a column to, never out of sight.
+int UserTwips(int width) {
+  constexpr int kNarrowest = 16;
+  return qRound(Twips(std::max(width, kNarrowest)));
+}
+
 }  // namespace
 
 GridTable::GridTable(QWidget* parent) : QTableView(parent), bubble_(new CellBubble(*this)) {
@@ -41,7 +48,7 @@ GridTable::GridTable(QWidget* parent) : QTableView(parent), bubble_(new CellBubb
   setWordWrap(false);
   setContextMenuPolicy(Qt::CustomContextMenu);
   setFocusPolicy(Qt::StrongFocus);
-  header_->setSectionResizeMode(QHeaderView::Fixed);
+  header_->setSectionResizeMode(QHeaderView::Interactive);
   header_->setMinimumSectionSize(1);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   setCornerButtonEnabled(false);
@@ -80,6 +87,15 @@ void GridTable::Attach(Grid& grid) {
   });
   connect(verticalHeader(), &QHeaderView::sectionEntered, this,
           [this](int section) { SelectRows(section, true); });
+  connect(header_, &QHeaderView::sectionResized, this, [this](int section, int, int width) {
+    const bool by_hand = !sizing_ && QGuiApplication::mouseButtons() & Qt::LeftButton;
+    if (by_hand) grid_->SetUserWidth(section + grid_->FixedCols, UserTwips(width));
+  });
+  // Back to the column's own width.
+  connect(header_, &QHeaderView::sectionHandleDoubleClicked, this, [this](int section) {
+    grid_->SetUserWidth(section + grid_->FixedCols, 0);
+    Push();
+  });
   connect(header_, &QHeaderView::sectionPressed, this, [this](int section) {
     SelectCols(section, QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
   });
@@ -121,7 +137,10 @@ void GridTable::PaintCorner() {
 
 void GridTable::PushWidths() {
   std::vector<int> widths;
-  for (int col = 0; col < grid_->Cols(); ++col) widths.push_back(grid_->ColWidth(col));
+  for (int col = 0; col < grid_->Cols(); ++col) {
+    widths.push_back(grid_->ColWidth(col));
+    widths.push_back(grid_->UserWidth(col));
+  }
   if (widths == shown_widths_) return;
   shown_widths_ = std::move(widths);
   FillWidth();
@@ -130,16 +149,19 @@ void GridTable::PushWidths() {
 /// Widths follow the screen's scale and the size of the font, so that no text is cut.
 void GridTable::FillWidth() {
   if (!grid_ || shown_widths_.empty()) return;
+  sizing_ = true;
+  const ScopeExit sized([this] { sizing_ = false; });
   if (grid_->FitsView) return ShareWidth();
   const double scale = std::max(fontMetrics().horizontalAdvance('0') / kDesignDigit, 1.0);
   const auto scaled = [scale](int twips) { return qRound(Pixels(twips) * scale); };
   int used = 0, rest_col = -1;
   for (int col = grid_->FixedCols; col < grid_->Cols(); ++col) {
     const int section = col - grid_->FixedCols, twips = grid_->ColWidth(col);
+    const int by_hand = Pixels(grid_->UserWidth(col));
     header_->setSectionHidden(section, twips == 0);
-    if (twips == kRestOfWidth) rest_col = section;
-    if (twips <= 0) continue;
-    const int width = std::max(scaled(twips), TitleWidth(col));
+    if (twips == kRestOfWidth && by_hand == 0) rest_col = section;
+    if (twips == 0 || section == rest_col) continue;
+    const int width = by_hand > 0 ? by_hand : std::max(scaled(twips), TitleWidth(col));
     header_->resizeSection(section, width);
     used += width;
   }
@@ -180,6 +202,7 @@ void GridTable::ShareWidth() {
   const int field =
       viewport()->width() + (verticalHeader()->isVisible() ? verticalHeader()->width() : 0);
   const auto share = [&](int col) {
+    if (grid_->UserWidth(col) > 0) return Pixels(grid_->UserWidth(col));
     return std::max(field * grid_->ColWidth(col) / total, TextWidth(col));
   };
   if (grid_->FixedCols > 0) verticalHeader()->setFixedWidth(share(0));

@@ -127,6 +127,7 @@ class GridTable : public QTableView {
   int shown_top_row_ = -1;
   int shown_sights_ = 0;
   bool scrolling_ = false;
+  bool sizing_ = false;  ///< widths change here, not by the user's hand
 };
 
 class GridBinding : public WidgetBinding {

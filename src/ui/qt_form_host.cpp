@@ -129,8 +129,8 @@ static QPoint PlaceOfChild(const QSize& room, const QSize& size, int count) {
   return {kStep * count % (free.width() + 1), kStep * count % (free.height() + 1)};
 }
 
-/// The first view takes the whole frame; later ones open as the one before stands.
-void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
+/// The first view fills the frame where one did so last; later ones open as the one before stands.
+void QtFormHost::ShowChild(View& view, ChildWindow& child) {
   if (child.mdiArea() == mdi_) {
     if (child.isMinimized()) child.showNormal();
     mdi_->setActiveSubWindow(&child);
@@ -138,11 +138,11 @@ void QtFormHost::ShowChild(View& view, QMdiSubWindow& child) {
   }
   const QMdiSubWindow* before = mdi_->activeSubWindow();
   mdi_->addSubWindow(&child);
-  const QSize wanted(Pixels(view.Width), Pixels(view.Height));
   const QSize room = mdi_->viewport()->size();
-  child.resize(wanted.boundedTo(room));
-  child.move(PlaceOfChild(room, child.size(), static_cast<int>(mdi_->subWindowList().size()) - 1));
-  const bool fills = !before || before->isMaximized();
+  const int count = static_cast<int>(mdi_->subWindowList().size()) - 1;
+  child.PlaceByRecord(room);
+  if (!view.Placed) child.move(PlaceOfChild(room, child.size(), count));
+  const bool fills = before ? before->isMaximized() : view.Maximised || !view.Placed;
   fills ? child.showMaximized() : child.show();
   // A frame that becomes active gives the focus to what had it last, and brings its view back.
   if (!frame_->isActiveWindow()) child.setFocus(Qt::OtherFocusReason);
@@ -171,7 +171,7 @@ void QtFormHost::Show(View& view) {
   if (!shown) return;
   if (shown->window == frame_) {
     ShowFrame();
-  } else if (auto* child = qobject_cast<QMdiSubWindow*>(shown->window); child && mdi_) {
+  } else if (auto* child = qobject_cast<ChildWindow*>(shown->window); child && mdi_) {
     ShowChild(view, *child);
   } else if (Is(view, "frmSplash")) {
     shown->window->adjustSize();

@@ -20,6 +20,7 @@ class QMdiSubWindow;
 
 namespace tr7 {
 
+class ChildWindow;
 class FrameWindow;
 
 /// The screen on Qt. A window lives while its view is shown; before the event loop sleeps, every
@@ -70,7 +71,7 @@ class QtFormHost : public FormHost {
   QWidget* MakeWindow(View& view, const ViewForm& form, bool modal, QWidget*& inner);
   QWidget* ParentForDialogs() const;
   void ShowFrame();
-  void ShowChild(View& view, QMdiSubWindow& child);
+  void ShowChild(View& view, ChildWindow& child);
   void FillFrame(const QWidget& gone);
   void ShowDialog(View& view, QWidget& window, bool modal);
   std::optional<std::int64_t> PushWhenDue();

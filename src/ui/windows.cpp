@@ -45,10 +45,21 @@ void AskToClose(View& view, QCloseEvent& event, const CommandGate& gate) {
   }
 }
 
+QRect PlaceOf(const View& view) {
+  return {Pixels(view.Left), Pixels(view.Top), Pixels(view.Width), Pixels(view.Height)};
+}
+
+void PutPlace(const QRect& place, View& view) {
+  view.Left = Twips(place.left());
+  view.Top = Twips(place.top());
+  view.Width = Twips(place.width());
+  view.Height = Twips(place.height());
+}
+
 }  // namespace
 
 void FrameWindow::PlaceByRecord() {
-  QRect wanted(Pixels(view_.Left), Pixels(view_.Top), Pixels(view_.Width), Pixels(view_.Height));
+  QRect wanted = PlaceOf(view_);
   const QScreen* screen = QGuiApplication::screenAt(wanted.center());
   if (!screen) screen = QGuiApplication::primaryScreen();
   // The window's own bar stands above the rectangle.
@@ -80,12 +91,18 @@ void FrameWindow::KeepOnScreen() {
 }
 
 void FrameWindow::KeepRectangle() {
+  if (isMaximized()) FollowScreen();
   if (!isVisible() || isMinimized() || isMaximized() || isFullScreen()) return;
-  const QRect place = geometry();
-  view_.Left = Twips(place.left());
-  view_.Top = Twips(place.top());
-  view_.Width = Twips(place.width());
-  view_.Height = Twips(place.height());
+  PutPlace(geometry(), view_);
+}
+
+/// A window that fills another screen than it came from comes back to that one.
+void FrameWindow::FollowScreen() {
+  QRect place = PlaceOf(view_);
+  const QRect field = screen()->availableGeometry();
+  if (!isVisible() || field.contains(place.center())) return;
+  place.moveCenter(field.center());
+  PutPlace(place, view_);
 }
 
 void FrameWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event, gate_); }
@@ -107,7 +124,36 @@ void FrameWindow::changeEvent(QEvent* event) {
   if (!view_.Minimised) view_.Maximised = isMaximized();
 }
 
+void ChildWindow::PlaceByRecord(const QSize& room) {
+  QRect place = PlaceOf(view_);
+  place.setSize(place.size().boundedTo(room));
+  place.moveTo(std::clamp(place.left(), 0, room.width() - place.width()),
+               std::clamp(place.top(), 0, room.height() - place.height()));
+  setGeometry(place);
+}
+
+void ChildWindow::KeepRectangle() {
+  if (!isVisible() || isMinimized() || isMaximized()) return;
+  PutPlace(geometry(), view_);
+  view_.Placed = true;
+}
+
 void ChildWindow::closeEvent(QCloseEvent* event) { AskToClose(view_, *event, gate_); }
+
+void ChildWindow::moveEvent(QMoveEvent* event) {
+  QMdiSubWindow::moveEvent(event);
+  KeepRectangle();
+}
+
+void ChildWindow::resizeEvent(QResizeEvent* event) {
+  QMdiSubWindow::resizeEvent(event);
+  KeepRectangle();
+}
+
+void ChildWindow::changeEvent(QEvent* event) {
+  QMdiSubWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange && isVisible()) view_.Maximised = isMaximized();
+}
 
 DialogWindow::DialogWindow(View& view, QWidget* parent) : QDialog(parent), view_(view) {
   Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;

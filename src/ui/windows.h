@@ -31,22 +31,30 @@ class FrameWindow : public QMainWindow {
   void PlaceByRecord();
   void KeepOnScreen();
   void KeepRectangle();
+  void FollowScreen();
 
   View& view_;
   CommandGate gate_;
 };
 
-/// A view inside the frame.
+/// A view inside the frame. Its rectangle is kept in the record.
 class ChildWindow : public QMdiSubWindow {
   Q_OBJECT
 
  public:
   ChildWindow(View& view, CommandGate gate) : view_(view), gate_(std::move(gate)) {}
+  /// Where the record has it, as far as that fits in `room`.
+  void PlaceByRecord(const QSize& room);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void KeepRectangle();
+
   View& view_;
   CommandGate gate_;
 };

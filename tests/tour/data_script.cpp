@@ -1,12 +1,16 @@
 #include "tests/tour/data_script.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <fstream>
 
 #include "forms/frm_grp.h"
+#include "forms/frm_kept_work.h"
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_sq_mcr.h"
 #include "forms/frm_system_para.h"
+#include "state/kept_work.h"
 #include "state/text.h"
 #include "tests/tour/steps.h"
 
@@ -169,6 +173,28 @@ void WorkOnData(User& user) {
   WorkOnTuning(user);
   VerifyParameters(user);
   LeaveByMenu(user);
+}
+
+void TakeBackWork(User& user) {
+  constexpr int kBack = 7814, kLost = 6491;
+  const KeptWork work{"grp",
+                      "/jobs/feeder.grp",
+                      ForMode::Positioner,
+                      "2024-08-31 16:05:33",
+                      "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n\"2\",10,25\r\n",
+                      ""};
+  const QString folder = user.file.chopped(3) + "ini.kept";
+  QDir().mkpath(folder);
+  std::ofstream((folder + "/1-1.grp.kept").toStdString()) << BytesOfWork(work);
+  PassSplash(user, true);
+  user.SeeCell(frmKeptWork.flgdKept, 1, 3, work.when);
+  user.Picture("keep-offer");
+  user.Click(frmKeptWork.cmdTakeBackAll);
+  user.SeePanel(kPanelError, Text(kBack));
+  user.SeeText(frmGrp.Rows[1].txtGrpEndNo, "25");
+  user.Picture("keep-taken-back");
+  LeaveByMenu(user);
+  user.AnswerBox(Text(kLost, Text(frmGrp.Tag)), MsgAnswer::Ok);
 }
 
 }  // namespace tr7::tour

@@ -301,6 +301,7 @@ const std::vector<Script>& Scripts() {
       {"compare", {}, CompareJob},
       {"data", {}, WorkOnData},
       {"wire", {}, LookAtLine},
+      {"keep", {}, TakeBackWork},
       {"print", {}, PrintData},
       {"print-prg", {"--mode", "prg"}, PrintPrograms}};
   return scripts;

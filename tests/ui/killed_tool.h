@@ -6,4 +6,8 @@ namespace tr7 {
 /// the settings file. Its exit code tells that it came to no jog.
 int JogUntilKilled(char** arguments);
 
+/// A tool that edits a table of positions until it is killed: `argument` is the settings file. The
+/// first comment holds the time of the last edit.
+int EditUntilKilled(const char* argument);
+
 }  // namespace tr7

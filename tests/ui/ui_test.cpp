@@ -15,8 +15,10 @@ UiTest::FreshState::FreshState() {
   UseJapanese(false);
 }
 
-UiTest::UiTest()
-    : desktop({folder.filePath("settings.ini"), false, QLocale::c()}), user(desktop.forms) {}
+UiTest::UiTest(const QString& settings)
+    : desktop(
+          {settings.isEmpty() ? folder.filePath("settings.ini") : settings, false, QLocale::c()}),
+      user(desktop.forms) {}
 
 void UiTest::UseJapanese(bool japanese) {
   AppState.LanguageNo = japanese ? 1 : 2;

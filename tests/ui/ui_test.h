@@ -16,7 +16,8 @@ namespace tr7 {
 /// The desktop's doors on a screen that nobody sees: start values, English, settings of its own.
 class UiTest : public ::testing::Test {
  protected:
-  UiTest();
+  /// On this settings file; on one of its own where none is named.
+  explicit UiTest(const QString& settings = {});
 
   /// Starts the tool offline, in English unless Japanese is in use, with the devices proposed.
   void StartOffline(bool program_mode = false);
@@ -41,6 +42,13 @@ class UiTest : public ::testing::Test {
   QTemporaryDir folder;
   Desktop desktop;
   ScreenUser user;
+};
+
+/// One start of the tool among several.
+struct OneStart : UiTest {
+  explicit OneStart(const QString& settings = {}) : UiTest(settings) {}
+  using UiTest::folder, UiTest::desktop, UiTest::user, UiTest::StartOffline;
+  void TestBody() override {}
 };
 
 }  // namespace tr7

@@ -25,5 +25,8 @@ int main(int argc, char** argv) {
   if (argc == 4 && std::string_view(argv[1]) == "--jog-until-killed") {
     return tr7::JogUntilKilled(argv + 2);
   }
+  if (argc == 3 && std::string_view(argv[1]) == "--edit-until-killed") {
+    return tr7::EditUntilKilled(argv[2]);
+  }
   return RUN_ALL_TESTS();
 }

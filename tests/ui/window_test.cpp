@@ -1,12 +1,18 @@
 // Windows: closing, dialogues and boxes under the user's keys.
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 
+#include "forms/frm_grp.h"
 #include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_selection.h"
 #include "state/message_box.h"
@@ -85,6 +91,47 @@ TEST_F(WindowTest, TheMenusExitGoesOnWhileBusy) {
   AppState.ComBusy = True;
   frmMain.mnuFileExit.Press();
   EXPECT_TRUE(desktop.forms.Ended() && user.boxes.empty());
+}
+
+QMdiArea& AreaOf(const OneStart& start) {
+  return *start.desktop.forms.WidgetOf(frmMain.lblStatus)->window()->findChild<QMdiArea*>();
+}
+
+TEST(WindowState, WindowsComeBackAsTheyWereLeftAndWhole) {
+  const QTemporaryDir folder;
+  const QRect place(40, 30, 500, 400);
+  int width = 0;
+  {
+    OneStart first(folder.filePath("settings.ini"));
+    first.StartOffline();
+    auto& grid = static_cast<QTableView&>(*first.desktop.forms.WidgetOf(frmPosi.flgdData));
+    QHeaderView& header = *grid.horizontalHeader();
+    const QPoint edge(header.sectionViewportPosition(1) + header.sectionSize(1) - 1, 5);
+    QTest::mousePress(header.viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(header.viewport(), edge + QPoint(33, 0));
+    QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, edge + QPoint(33, 0));
+    width = frmPosi.flgdData.UserWidth(2);
+    EXPECT_GT(width, 0);
+    frmMain.mnuViewGrp.Press();
+    AreaOf(first).activeSubWindow()->showNormal();
+    AreaOf(first).activeSubWindow()->setGeometry(place);
+    frmMain.mnuViewPara.Press();
+    AreaOf(first).findChild<QTabWidget*>("areaTabs")->setCurrentIndex(2);
+    frmMain.mnuViewGrp.Press();
+    frmMain.mnuFileExit.Press();
+  }
+  OneStart second(folder.filePath("settings.ini"));
+  second.StartOffline();
+  EXPECT_EQ(ActiveView(), &frmGrp);
+  EXPECT_TRUE(frmParameta2.Visible);
+  EXPECT_EQ(AreaOf(second).activeSubWindow()->geometry(), place);
+  EXPECT_EQ(AreaOf(second).findChild<QTabWidget*>("areaTabs")->currentIndex(), 2);
+  EXPECT_EQ(frmPosi.flgdData.UserWidth(2), width);
+  frmGrp.cmdClose.Press();
+  AreaOf(second).window()->resize(400, 300);
+  frmMain.mnuViewGrp.Press();
+  const QRect reopened = AreaOf(second).activeSubWindow()->geometry();
+  EXPECT_TRUE(AreaOf(second).viewport()->rect().contains(reopened));
 }
 
 TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
