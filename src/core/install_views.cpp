@@ -1,6 +1,8 @@
 #include "core/install_views.h"
 
+#include "core/about_view.h"
 #include "core/frame_commands.h"
+#include "core/help.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
 #include "data/grp_view.h"
@@ -40,6 +42,8 @@ void InstallLinkTimers() {
 void InstallViews() {
   InstallLinkTimers();
   InstallFrame();
+  InstallHelp();
+  InstallAboutView();
   InstallEntry();
   InstallOptionsView();
   InstallReports();  // ahead of the views, which switch a button without a command off

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/help.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
 #include "forms/frm_main.h"
@@ -31,8 +32,6 @@
 
 namespace tr7 {
 namespace {
-
-constexpr const char* kHelpFile = "qvtr7hlp.chm";
 
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
@@ -163,7 +162,7 @@ void UnloadFrame() {
 }
 
 void Main() {
-  AppState.HelpFilePath = ProgramFile(kHelpFile);
+  FindHelpFile();
   LoadSettingLanguage();  // the splash is already in the user's language
   frmSplash.lblVersion.Caption = VersionText();
   ShowView(frmSplash);

@@ -63,6 +63,8 @@ struct FrmMain : View {
   Menu mnuWindowTileVertical{*this, "mnuWindowTileVertical", 5063};
   Menu mnuHelp{*this, "mnuHelp", 5070};
   Menu mnuHelpContents{*this, "mnuHelpContents", 5071};
+  Menu mnuHelpKeys{*this, "mnuHelpKeys", 7910};
+  Menu mnuHelpTrouble{*this, "mnuHelpTrouble", 7911};
   Menu mnuHelpMotionLog{*this, "mnuHelpMotionLog", 5297};
   Menu mnuHelpAbout{*this, "mnuHelpAbout", 5072};
 
@@ -108,6 +110,8 @@ struct FrmMain : View {
   Timer TimerPolls{1, true};        ///< the monitor that comes next on the line
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
+  /// The F1 key, wherever the focus is: `page` of the manual; empty: that of the view in front.
+  Handler<void(const std::string& page)> Help;
   /// The Escape key, wherever the focus is and whatever box stands. True: it has stopped something,
   /// and means nothing else.
   Handler<bool()> Escape;

@@ -1,5 +1,6 @@
 #include "motion/motion_tabs.h"
 
+#include <array>
 #include <initializer_list>
 #include <string>
 
@@ -22,6 +23,7 @@ constexpr int kHoldTip = 5287, kNoSessionTip = 5288, kOfflineTip = 5289, kMoving
 constexpr int kAtTheEndTip = 5293, kNoServoTip = 5294, kNoGuardNote = 5286, kEmergencyNote = 5285;
 constexpr int kAxis1 = 220;
 constexpr int kMoveTab = 1, kTeachingTab = 2;
+constexpr std::array kHelpPages{"positions", "moves", "teaching"};  ///< a tab each
 
 /// Why nothing can be started now; none where it can.
 MsgId WhyNot() {
@@ -76,7 +78,6 @@ bool AxisIsServed() { return MotionNow.Kind != Motion::None || frmPosi.Teach.Jog
 void ShowJogButtons(bool session) {
   PosiTeaching& f = frmPosi.Teach;
   for (int axis = 0; axis < kAxes; ++axis) {
-    f.lblJogAxis[axis].Caption = Text(MsgId::At(kAxis1, axis));
     f.lblJogAxis[axis].Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
   }
   for (OptionButton* mode : {&f.optJOG, &f.optInching1, &f.optInching10, &f.optInching100}) {
@@ -143,6 +144,7 @@ void ShowTabs() {
     strip->Tabs[kMoveTab].Enabled = (online || moving) && !teaching;
     strip->Tabs[kTeachingTab].Enabled = (online || teaching) && !moving;
   }
+  frmPosi.HelpPage = kHelpPages.at(frmPosi.SSTabCommand().Selected);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "platform/printer.h"
 #include "platform/serial_port.h"
 #include "platform/settings_store.h"
+#include "platform/system_facts.h"
 
 namespace tr7 {
 
@@ -24,6 +25,7 @@ struct Doors {
   HelpViewer* help = nullptr;
   MotionGuard* guard = nullptr;  ///< null: there is none
   Printer* printer = nullptr;
+  SystemFacts* system = nullptr;  ///< null: nothing is known
 };
 
 extern Doors doors;

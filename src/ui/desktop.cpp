@@ -54,6 +54,7 @@ Desktop::Desktop(const Profile& profile)
   doors.help = &help;
   doors.guard = &guard;
   doors.printer = &printer;
+  doors.system = &system;
   forms.frame_built = [this, demo = profile.demo](QMainWindow& frame) {
     new FileDrop(frame, forms);
     if (demo) SimDock::AddTo(frame, serial.Sim());
