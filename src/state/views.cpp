@@ -8,6 +8,7 @@
 #include "state/app_state.h"
 #include "state/status_panel.h"
 #include "state/text.h"
+#include "state/tips.h"
 #include "state/view_instances.h"
 
 namespace tr7 {
@@ -49,6 +50,7 @@ void ApplyViewCaptions(View& view) {
   // The frame sets its own caption: it carries the version.
   if (view.Tag && &view != &frmMain) view.Caption = Text(view.Tag);
   for (Control* control : view.Controls) ApplyControlCaption(*control);
+  ApplyViewTips(view);
 }
 
 namespace {
