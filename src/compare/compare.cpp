@@ -21,7 +21,6 @@ namespace {
 constexpr int kMsgTitle = 5321, kMsgScreen = 5324, kMsgController = 5230, kMsgFile = 5231;
 constexpr int kMsgName = 5329, kMsgPlace = 5330, kMsgNamedFile = 5334;
 constexpr int kMsgOpenHere = 5341, kMsgOpenThere = 5342;
-constexpr int kMsgTakeHint = 5332, kMsgTakeAllHint = 5333;
 constexpr int kMsgCount = 6560, kMsgNoDifference = 6561, kMsgChoose = 6562, kMsgSameSides = 6563;
 constexpr int kMsgTakeAll = 6564, kMsgNotTaken = 6565, kMsgTaken = 6570;
 
@@ -102,8 +101,6 @@ void Comparison::Wire() {
   FrmCompare& f = frmCompare;
   handlers_.Set(f.Load, [this] {
     frmCompare.Caption = Text(kMsgTitle, Text(kind_.title_id));
-    frmCompare.cmdTake.ToolTip = Text(kMsgTakeHint);
-    frmCompare.cmdTakeAll.ToolTip = Text(kMsgTakeAllHint);
     ShowState();
   });
   for (ComboBox* choice : {&f.comboHere, &f.comboThere}) {

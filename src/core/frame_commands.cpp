@@ -13,8 +13,6 @@
 #include "session/session_menus.h"
 #include "state/app_state.h"
 #include "state/frame_menus.h"
-#include "state/message_box.h"
-#include "state/text.h"
 #include "state/view_instances.h"
 #include "state/views.h"
 
@@ -57,17 +55,6 @@ void ToolBarClick(const std::string& key) {
   if (key == "PrgExe") Run(frmMain.mnuContProgTask.Click);
 }
 
-void ShowHelp() {
-  const std::string& path = AppState.HelpFilePath;
-  if (path.empty() || !doors.files->Exists(path) || !doors.help->Open(path)) {
-    MsgBox(Text(5157, path));
-  }
-}
-
-void ShowAbout() {
-  MsgBox(frmMain.Caption + "\n\n" + Text(5160), MsgButtons::Ok, MsgIcon::Information);
-}
-
 void InstallFileAndEditMenus() {
   FrmMain& f = frmMain;
   f.mnuFileNew.Click = OfFront(&ViewCommands::New);
@@ -85,7 +72,7 @@ void InstallFileAndEditMenus() {
   f.mnuEditLineDelete.Click = OfFront(&ViewCommands::DeleteLine);
 }
 
-void InstallWindowAndHelpMenus() {
+void InstallWindowMenu() {
   FrmMain& f = frmMain;
   const auto arrange = [](WindowArrangement how) {
     return [how] { doors.forms->ArrangeWindows(how); };
@@ -93,8 +80,6 @@ void InstallWindowAndHelpMenus() {
   f.mnuWindowCascade.Click = arrange(WindowArrangement::Cascade);
   f.mnuWindowTileHorizontal.Click = arrange(WindowArrangement::TileHorizontal);
   f.mnuWindowTileVertical.Click = arrange(WindowArrangement::TileVertical);
-  f.mnuHelpContents.Click = ShowHelp;
-  f.mnuHelpAbout.Click = ShowAbout;
 }
 
 }  // namespace
@@ -103,7 +88,7 @@ void InstallFrame() {
   FrmMain& f = frmMain;
   InstallFileAndEditMenus();
   InstallRecentFiles();
-  InstallWindowAndHelpMenus();
+  InstallWindowMenu();
   InstallSessionMenus();
   f.mnuSettingOptions.Click = ShowOptions;
   f.tbToolBar.ButtonClick = ToolBarClick;

@@ -1,6 +1,8 @@
 #include "core/install_views.h"
 
+#include "core/about_view.h"
 #include "core/frame_commands.h"
+#include "core/help.h"
 #include "core/keep_work.h"
 #include "core/main_entry.h"
 #include "core/options_view.h"
@@ -44,6 +46,8 @@ void InstallLinkTimers() {
 void InstallViews() {
   InstallLinkTimers();
   InstallFrame();
+  InstallHelp();
+  InstallAboutView();
   InstallEntry();
   InstallWindowState();
   InstallKeepWork();  // ahead of the views, which tell it what they hold

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/help.h"
 #include "core/keep_work.h"
 #include "core/kept_offer.h"
 #include "core/window_state.h"
@@ -34,8 +35,6 @@
 
 namespace tr7 {
 namespace {
-
-constexpr const char* kHelpFile = "qvtr7hlp.chm";
 
 void PumpUntilSplashDone() {
   while (!AppState.SplashDone) Pump();
@@ -170,7 +169,7 @@ void UnloadFrame() {
 }
 
 void Main() {
-  AppState.HelpFilePath = ProgramFile(kHelpFile);
+  FindHelpFile();
   LoadSettingLanguage();  // the splash is already in the user's language
   frmSplash.lblVersion.Caption = VersionText();
   ShowView(frmSplash);

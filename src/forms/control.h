@@ -26,7 +26,10 @@ struct Control {
   std::string Name;
   MsgId Tag;
   std::string Caption;
-  std::string ToolTip;
+  std::string Tip;      ///< what the control is for; it stands for good
+  std::string ToolTip;  ///< said in place of it while there is something to say
+  /// What a screen reader says in front of the caption, or in place of one that there is not.
+  std::vector<const Control*> NamedBy;
   /// What the other side holds in place of this value, in words: the control is marked, and its
   /// tool tip says them. Empty: nothing differs, or nothing is known.
   std::string Difference;

@@ -3,6 +3,7 @@
 namespace tr7 {
 
 FrmCompare::FrmCompare() : View("frmCompare") {
+  HelpPage = "compare";
   constexpr int kName = 0, kPlace = 1, kHere = 2, kThere = 3;
   Width = 13000;
   Height = 8000;

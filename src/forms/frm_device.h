@@ -12,12 +12,18 @@ namespace tr7 {
 struct DeviceView : View {
   DeviceView(const char* name, MsgId tag, bool writes) : View(name, tag) {
     Layout = "frmDevice";
+    HelpPage = "devices";
     Width = 9600;
     Height = 5700;
     cmdDeviceSet.Default = true;
     cmdDeviceCancel.Cancel = true;
     cmdPrmCtWrite.Visible = cmdSyosai.Visible = writes;
-    for (int axis = 0; axis < 4; ++axis) framAxis[axis].Tag = MsgId::At(220, axis);
+    for (int axis = 0; axis < 4; ++axis) {
+      framAxis[axis].Tag = MsgId::At(220, axis);
+      comboDeviceSize[axis].NamedBy = {&framAxis[axis], &lblDeviceSize[axis]};
+      comboDeviceSpeed[axis].NamedBy = {&framAxis[axis], &lblDeviceSpeed[axis]};
+      comboDeviceStroke[axis].NamedBy = {&framAxis[axis], &lblDeviceStroke[axis]};
+    }
   }
   Label lblAxisSelect{*this, "lblAxisSelect", 6252};
   ComboBox comboAxisSelect{*this, "comboAxisSelect"};  ///< index 0: one axis, 3: all four

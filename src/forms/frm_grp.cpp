@@ -22,6 +22,7 @@ FieldTable Column(FrmGrp& f, std::size_t column) {
 }  // namespace
 
 FrmGrp::FrmGrp() : View("frmGrp", 6490) {
+  HelpPage = "groups";
   MdiChild = true;
   Width = 15000;
   Height = 8400;

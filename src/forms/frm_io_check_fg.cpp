@@ -82,6 +82,7 @@ PlotPage::PlotPage(View& owner)
 }
 
 FrmIOCheckFG::FrmIOCheckFG() : View("frmIOCheckFG", 701) {
+  HelpPage = "io";
   MdiChild = true;
   Width = 14400;
   Height = 8400;

@@ -64,6 +64,8 @@ struct FrmMain : View {
   Menu mnuWindowTileVertical{*this, "mnuWindowTileVertical", 5063};
   Menu mnuHelp{*this, "mnuHelp", 5070};
   Menu mnuHelpContents{*this, "mnuHelpContents", 5071};
+  Menu mnuHelpKeys{*this, "mnuHelpKeys", 7910};
+  Menu mnuHelpTrouble{*this, "mnuHelpTrouble", 7911};
   Menu mnuHelpMotionLog{*this, "mnuHelpMotionLog", 5297};
   Menu mnuHelpAbout{*this, "mnuHelpAbout", 5072};
 
@@ -111,6 +113,8 @@ struct FrmMain : View {
   Timer TimerKeepNow{1, true};      ///< keeps it, as soon as that disturbs nothing
 
   std::function<void()> FrontChanged;  ///< another view has come to the front
+  /// The F1 key, wherever the focus is: `page` of the manual; empty: that of the view in front.
+  Handler<void(const std::string& page)> Help;
   /// The Escape key, wherever the focus is and whatever box stands. True: it has stopped something,
   /// and means nothing else.
   Handler<bool()> Escape;

@@ -7,6 +7,7 @@ namespace tr7 {
 /// What this tool has done to the axes, the latest first.
 struct FrmMotionLog : View {
   FrmMotionLog() : View("frmMotionLog", 5298) {
+    HelpPage = "safety";
     MdiChild = true;
     Width = 9000;
     Height = 5000;

@@ -7,6 +7,7 @@ namespace tr7 {
 /// The options: port, position, unit, language.
 struct FrmOptions2 : View {
   FrmOptions2() : View("frmOptions2", 5300) {
+    HelpPage = "options";
     Width = 7200;
     Height = 4800;
     cmdOk.Default = true;

@@ -78,6 +78,7 @@ std::vector<FieldTable> TablesOf(FrmParameta2& f) {
 }  // namespace
 
 FrmParameta2::FrmParameta2() : View("frmParameta2", 6000) {
+  HelpPage = "parameters";
   MdiChild = true;
   Width = 14400;
   Height = 9900;

@@ -3,6 +3,7 @@
 namespace tr7 {
 
 FrmPosi::FrmPosi() : View("frmPosi") {
+  HelpPage = "positions";
   MdiChild = true;
   Width = 15000;
   Height = 8400;

@@ -60,6 +60,13 @@ PosiTeaching::PosiTeaching(View& owner)
   cmdJOGWriteNext.Key = "F4";
   cmdJogSlower.Key = "Ctrl+Down";
   cmdJogFaster.Key = "Ctrl+Up";
+  for (int i = 0; i < static_cast<int>(cmdJOG.size()); ++i) {
+    cmdJOG[i].NamedBy = {&lblJogAxis[i / 2]};
+  }
+  for (int axis = 0; axis < 4; ++axis) {
+    lblJogAxis[axis].Tag = MsgId::At(220, axis);
+    chkSarvoOn[axis].NamedBy = {&lblJogAxis[axis], &lblSarvo};
+  }
 }
 
 }  // namespace tr7

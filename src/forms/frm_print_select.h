@@ -7,6 +7,7 @@ namespace tr7 {
 /// What is to be printed: positions, parameters or both, each as shown or out of a file.
 struct FrmPrintSelect : View {
   FrmPrintSelect() : View("frmPrintSelect", 7600) {
+    HelpPage = "print";
     Width = 7500;
     Height = 4200;
     cmdPrintSet.Default = true;

@@ -4,6 +4,7 @@ namespace tr7 {
 
 FrmProg::FrmProg(int number) : View("frmProg" + std::to_string(number)) {
   Layout = "frmProg";
+  HelpPage = "programs";
   MdiChild = true;
   Width = 11000;
   Height = 7000;

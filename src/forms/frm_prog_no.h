@@ -8,6 +8,7 @@ namespace tr7 {
 /// The 100 programs of the controller, to choose one.
 struct FrmProgNo : View {
   FrmProgNo() : View("frmProgNo", 713) {
+    HelpPage = "programs";
     Width = 4800;
     Height = 7500;
     cmdOk.Default = true;

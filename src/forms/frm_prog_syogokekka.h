@@ -7,6 +7,7 @@ namespace tr7 {
 /// The steps in which a program and the controller's differ: "X" where a field does, else "O".
 struct FrmProgSyogokekka : View {
   FrmProgSyogokekka() : View("frmProgSyogokekka", 2301) {
+    HelpPage = "programs";
     Width = 8400;
     Height = 6000;
     cmdClose.Default = cmdClose.Cancel = true;

@@ -8,6 +8,7 @@ namespace tr7 {
 /// Starts and stops the controller's programs and shows what each task does.
 struct FrmProgTask : View {
   FrmProgTask() : View("frmProgTask", 7100) {
+    HelpPage = "tasks";
     MdiChild = true;
     Width = 13800;
     Height = 7200;

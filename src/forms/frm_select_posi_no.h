@@ -10,6 +10,7 @@ namespace tr7 {
 struct SelectPosiNoView : View {
   SelectPosiNoView(const char* name, MsgId tag) : View(name, tag) {
     Layout = "frmSelectPosiNo";
+    HelpPage = "positions";
     Width = 5400;
     Height = 2850;
     cmdOk.Default = true;

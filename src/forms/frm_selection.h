@@ -12,6 +12,7 @@ namespace tr7 {
 struct SelectionView : View {
   explicit SelectionView(const char* name) : View(name) {
     Layout = "frmSelection";
+    HelpPage = "messages";
     Width = 7200;
     Height = 3600;
     cmdOk.Default = true;

@@ -18,6 +18,7 @@ FieldTable Column(FrmSqMcr& f, std::size_t column) {
 }  // namespace
 
 FrmSqMcr::FrmSqMcr() : View("frmSqMcr", 6504) {
+  HelpPage = "macros";
   MdiChild = true;
   Width = 15000;
   Height = 6600;

@@ -8,6 +8,7 @@ namespace tr7 {
 /// The stroke calculator over the parameter view: pulses of a stroke in mm.
 struct FrmStrokeCalc : View {
   FrmStrokeCalc() : View("frmStrokeCalc", 6080) {
+    HelpPage = "parameters";
     Width = 6600;
     Height = 4800;
     cmdCulStrokePulse.Default = true;

@@ -9,6 +9,7 @@ namespace tr7 {
 /// difference. Its grid has the columns of the position table without the comment.
 struct FrmSyogoKekka : View {
   FrmSyogoKekka() : View("frmSyogoKekka") {
+    HelpPage = "positions";
     Width = 15000;
     Height = 7500;
     cmdClose.Default = cmdClose.Cancel = true;

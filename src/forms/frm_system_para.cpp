@@ -25,6 +25,7 @@ FieldTable Group(FrmSystemPara& f, const std::string& place, std::size_t first, 
 }  // namespace
 
 FrmSystemPara::FrmSystemPara() : View("frmSystemPara", 6530) {
+  HelpPage = "system";
   MdiChild = true;
   Width = 14400;
   Height = 8400;

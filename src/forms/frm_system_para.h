@@ -14,6 +14,7 @@ struct SysParaField {
         txtSystemPara(owner, "txtSystemPara" + std::to_string(index + 1)) {
     txtSystemPara.MaxLength = 5;
     txtSystemPara.AllowedChars = "0123456789";
+    txtSystemPara.NamedBy = {&lblSystemPara};
   }
   Label lblSystemPara;
   TextBox txtSystemPara;

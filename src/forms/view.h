@@ -40,8 +40,9 @@ struct View {
   View& operator=(const View&) = delete;
 
   std::string Name;
-  std::string Layout;  ///< the layout file that draws it; views of one kind share one
-  MsgId Tag;           ///< of the caption; none: the caption is set by logic
+  std::string Layout;              ///< the layout file that draws it; views of one kind share one
+  MsgId Tag;                       ///< of the caption; none: the caption is set by logic
+  std::string HelpPage = "index";  ///< the page of the manual that tells of it
   std::string Caption;
   bool Loaded = false;
   bool Visible = false;

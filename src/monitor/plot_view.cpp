@@ -23,7 +23,7 @@ constexpr DataFile kCsvFile{FileKind::Unknown, 7354, "csv", 7355};
 constexpr DataFile kPictureFile{FileKind::Unknown, 7356, "png", 7355};
 constexpr int kSaveCsv = 7358, kSavePicture = 7359, kSaved = 7360, kNotSaved = 7361,
               kNoValues = 7371, kTimeTitle = 7364, kSeconds = 7369, kCursors = 7351,
-              kHowToPoint = 7352, kChoose = 7353, kKept = 7372;
+              kHowToPoint = 7352, kChoose = 7353;
 constexpr std::array kTitles{MsgId(7348), MsgId(7347), MsgId(7349), MsgId(7350)};
 enum PlotColumn : int { kShown, kName, kAtA, kAtB };
 
@@ -209,7 +209,6 @@ void LoadPlotPage() {
   f.flgdPlot.SetColAlign(kName, ColAlign::Left);
   for (const int col : {kAtA, kAtB}) f.flgdPlot.SetColAlign(col, ColAlign::Right);
   f.flgdPlot.FitsView = true;
-  f.cmdPlotCsv.ToolTip = Text(kKept);
 }
 
 }  // namespace tr7

@@ -28,7 +28,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kTasksMsg = 7114, kPaceMsg = 7115, kAgeMsg = 7116, kStoppedMsg = 7117;
-constexpr int kRanBefore = 7125, kStopAllTip = 7105;
+constexpr int kRanBefore = 7125;
 
 /// Columns of `flgdProgTask2`; those from the command to the result are the listing's.
 enum TaskColumn : int { kSlot, kProgram, kStep, kCommand, kResult = 7, kRunning, kAtStep };
@@ -140,7 +140,6 @@ void LoadTaskMonitor() {
   FrmProgTask& f = frmProgTask;
   f.lblProgNo.Caption = f.lblPace.Caption = "";
   for (Grid* grid : {&f.flgdProgTask, &f.flgdProgTask2}) grid->Row = grid->RowSel = 0;
-  f.cmdStopAllTask.ToolTip = Text(kStopAllTip);
   ListPrograms(f.flgdProgTask);
   DispStepNo(f.flgdProgTask);
   SizeTasks();

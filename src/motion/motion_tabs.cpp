@@ -1,5 +1,6 @@
 #include "motion/motion_tabs.h"
 
+#include <array>
 #include <initializer_list>
 #include <string>
 
@@ -23,6 +24,7 @@ constexpr int kAtTheEndTip = 5293, kNoServoTip = 5294, kNoGuardNote = 5286, kEme
 constexpr int kRowWords = 5510;
 constexpr int kAxis1 = 220;
 constexpr int kMoveTab = 1, kTeachingTab = 2;
+constexpr std::array kHelpPages{"positions", "moves", "teaching"};  ///< a tab each
 
 /// Why nothing can be started now; none where it can.
 MsgId WhyNot() {
@@ -74,7 +76,6 @@ bool AxisIsServed() { return MotionNow.Kind != Motion::None || frmPosi.Teach.Jog
 void ShowJogButtons(bool session) {
   PosiTeaching& f = frmPosi.Teach;
   for (int axis = 0; axis < kAxes; ++axis) {
-    f.lblJogAxis[axis].Caption = Text(MsgId::At(kAxis1, axis));
     f.lblJogAxis[axis].Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
   }
   for (OptionButton* mode : {&f.optJOG, &f.optInching1, &f.optInching10, &f.optInching100}) {
@@ -141,6 +142,7 @@ void ShowTabs() {
     strip->Tabs[kMoveTab].Enabled = (online || moving) && !teaching;
     strip->Tabs[kTeachingTab].Enabled = (online || teaching) && !moving;
   }
+  frmPosi.HelpPage = kHelpPages.at(frmPosi.SSTabCommand().Selected);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "platform/printer.h"
 #include "platform/serial_port.h"
 #include "platform/settings_store.h"
+#include "platform/system_facts.h"
 #include "platform/work_folder.h"
 
 namespace tr7 {
@@ -25,7 +26,8 @@ struct Doors {
   HelpViewer* help = nullptr;
   MotionGuard* guard = nullptr;  ///< null: there is none
   Printer* printer = nullptr;
-  WorkFolder* work = nullptr;  ///< null: unsaved work is not kept
+  WorkFolder* work = nullptr;     ///< null: unsaved work is not kept
+  SystemFacts* system = nullptr;  ///< null: nothing is known
 };
 
 extern Doors doors;

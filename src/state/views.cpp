@@ -8,6 +8,7 @@
 #include "state/app_state.h"
 #include "state/status_panel.h"
 #include "state/text.h"
+#include "state/tips.h"
 #include "state/view_instances.h"
 
 namespace tr7 {
@@ -19,6 +20,7 @@ namespace {
 
 std::vector<View*> open_views;
 View* active_view = nullptr;
+std::vector<View*> modal_views;  ///< the one in front last
 
 void ApplyControlCaption(Control& control) {
   if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
@@ -38,6 +40,7 @@ void ApplyControlCaption(Control& control) {
 
 const std::vector<View*>& OpenViews() { return open_views; }
 View* ActiveView() { return active_view; }
+View* ModalView() { return modal_views.empty() ? nullptr : modal_views.back(); }
 void SetActiveView(View* view) {
   if (active_view == view) return;
   // A hint, or what was told last, is of the view that is left.
@@ -51,6 +54,7 @@ void ApplyViewCaptions(View& view) {
   // The frame sets its own caption: it carries the version.
   if (view.Tag && &view != &frmMain) view.Caption = Text(view.Tag);
   for (Control* control : view.Controls) ApplyControlCaption(*control);
+  ApplyViewTips(view);
 }
 
 namespace {
@@ -88,7 +92,9 @@ void ShowViewModal(View& view) {
   const HandlerRuns asked;  // whoever asked looks at the record when the view has been closed
   LoadView(view);
   view.Visible = true;
+  modal_views.push_back(&view);
   doors.forms->ShowModal(view);
+  std::erase(modal_views, &view);
   UnloadView(view);
 }
 
@@ -123,6 +129,7 @@ bool CloseView(View& view, CloseReason reason) {
 
 void ResetViews() {
   open_views.clear();
+  modal_views.clear();
   active_view = nullptr;
   DestroyViewInstances();
 }

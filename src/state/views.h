@@ -11,6 +11,8 @@ namespace tr7 {
 const std::vector<View*>& OpenViews();
 /// The view inside the frame that the user works in, or null.
 View* ActiveView();
+/// The dialogue that stands before all other views, or null.
+View* ModalView();
 /// The host tells which view the user has made the active one.
 void SetActiveView(View* view);
 

@@ -28,6 +28,7 @@
 #include "ui/look.h"
 #include "ui/plot_widget.h"
 #include "ui/text_box_binding.h"
+#include "ui/tip_text.h"
 #include "ui/wheel_filter.h"
 
 namespace tr7 {
@@ -39,8 +40,9 @@ void WidgetBinding::PushVisible() {
 /// A difference is seen without colours too: bold beside the red.
 void WidgetBinding::PushToolTip() {
   const bool differs = !control_.Difference.empty();
-  if (Changed(tool_tip_, differs ? control_.Difference : control_.ToolTip)) {
-    widget_.setToolTip(Q(*tool_tip_));
+  const std::string& standing = control_.ToolTip.empty() ? control_.Tip : control_.ToolTip;
+  if (Changed(tool_tip_, differs ? control_.Difference : standing)) {
+    widget_.setToolTip(TipText(*tool_tip_));
   }
   if (!differs && !differs_) return;
   if (Changed(differs_, differs)) {

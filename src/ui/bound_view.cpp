@@ -66,6 +66,7 @@ BoundView::BoundView(View& view, const ViewForm& form, QWidget& window, const Co
   }
   TiePopup();
   SetTabOrder();
+  names_.emplace(view, widgets_);
 }
 
 void BoundView::Tie(Control& control, const CommandGate& gate) {
@@ -204,6 +205,7 @@ void BoundView::Push() {
   for (const auto& binding : bindings_) binding->Push();
   PushAreas();
   PushTabTitles();
+  names_->Push();
 }
 
 QWidget* BoundView::WidgetOf(const Control& control) const {

@@ -8,6 +8,7 @@
 
 #include "forms/view.h"
 #include "ui/bindings.h"
+#include "ui/spoken_names.h"
 #include "ui/view_forms.h"
 
 class QStackedWidget;
@@ -70,6 +71,7 @@ class BoundView {
   std::vector<Area> areas_;
   std::vector<TabPage> tab_pages_;
   std::vector<bool> shown_visibility_;
+  std::optional<SpokenNames> names_;
   std::optional<std::string> shown_title_;
   std::vector<std::string> problems_;
 };

@@ -17,13 +17,14 @@ class MenuBinding : public Binding {
     if (action_.isEnabled() != record_.Enabled) action_.setEnabled(record_.Enabled);
     if (Changed(visible_, record_.Visible)) action_.setVisible(record_.Visible);
     if (Changed(caption_, record_.Caption)) action_.setText(Q(record_.Caption));
+    if (Changed(tip_, record_.Tip)) action_.setToolTip(Q(record_.Tip));
   }
 
  private:
   Menu& record_;
   QAction& action_;
   std::optional<bool> visible_;
-  std::optional<std::string> caption_;
+  std::optional<std::string> caption_, tip_;
 };
 
 /// Fills the menu whenever it opens. Ampersands of an entry's own are no mnemonic.
@@ -46,6 +47,7 @@ void FillWhenOpened(MenuList& record, QMenu& menu, const CommandGate& gate) {
 
 std::unique_ptr<Binding> MakeMenuBinding(Menu& record, QObject& target, const CommandGate& gate) {
   if (auto* menu = qobject_cast<QMenu*>(&target)) {
+    menu->setToolTipsVisible(true);
     if (auto* list = dynamic_cast<MenuList*>(&record)) FillWhenOpened(*list, *menu, gate);
     return std::make_unique<MenuBinding>(record, *menu->menuAction());
   }
@@ -81,7 +83,9 @@ void ToolbarBinding::Push() {
     if (actions_[i]->isSeparator()) continue;
     if (actions_[i]->isEnabled() != button.Enabled) actions_[i]->setEnabled(button.Enabled);
     const QString tip = Q(button.ToolTipText);
-    if (actions_[i]->toolTip() != tip) actions_[i]->setToolTip(tip);
+    if (actions_[i]->toolTip() == tip) continue;
+    actions_[i]->setToolTip(tip);
+    actions_[i]->setText(tip);  // for a screen reader; the button shows its picture alone
   }
 }
 

@@ -66,6 +66,7 @@ Desktop::Desktop(const Profile& profile)
   doors.guard = &guard;
   doors.printer = &printer;
   doors.work = &work;
+  doors.system = &system;
   forms.frame_built = [this, demo = profile.demo](QMainWindow& frame) {
     new FileDrop(frame, forms);
     if (demo) SimDock::AddTo(frame, serial.Sim());

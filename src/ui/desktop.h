@@ -8,12 +8,14 @@
 #include "platform/std_files.h"
 #include "ui/escape_key.h"
 #include "ui/guard_process.h"
+#include "ui/help_key.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_form_host.h"
 #include "ui/qt_help_viewer.h"
 #include "ui/qt_printer.h"
 #include "ui/qt_pump.h"
 #include "ui/qt_serial_port.h"
+#include "ui/qt_system_facts.h"
 #include "ui/user_work_folder.h"
 
 namespace tr7 {
@@ -46,8 +48,10 @@ class Desktop {
   QtFormHost forms{pump};
   QtPrinter printer{forms};
   EscapeKey escape;
+  HelpKey help_key;
   QtClipboard clipboard;
   QtHelpViewer help;
+  QtSystemFacts system;
   StdFiles files;
   IniSettingsStore settings;
   UserWorkFolder work;

@@ -8,6 +8,7 @@
 #include "state/text.h"
 #include "ui/binding.h"
 #include "ui/dialog_room.h"
+#include "ui/help_key.h"
 #include "ui/message_dialog.h"
 
 namespace tr7 {
@@ -79,6 +80,7 @@ std::optional<std::string> AskFile(const FileDialogCall& call, QWidget* parent,
 #endif
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.setWindowModality(Qt::ApplicationModal);
+  dialog.setProperty(kHelpPageProperty, "files");
   dialog.setAcceptMode(call.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(call.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(call.Filter));

@@ -13,6 +13,7 @@
 #include "state/text.h"
 #include "ui/binding.h"
 #include "ui/dialog_room.h"
+#include "ui/help_key.h"
 #include "ui/icons.h"
 
 namespace tr7 {
@@ -100,6 +101,7 @@ void FoldLongText(QMessageBox& box) {
 MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor& wait) {
   QMessageBox box(parent);
   box.setWindowModality(Qt::ApplicationModal);
+  box.setProperty(kHelpPageProperty, "messages");
   box.setWindowTitle(Q(call.Title));
   box.setTextFormat(Qt::PlainText);
   box.setText(Q(call.Text));

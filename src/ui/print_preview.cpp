@@ -12,6 +12,7 @@
 #include "state/text.h"
 #include "ui/binding.h"
 #include "ui/dialog_room.h"
+#include "ui/help_key.h"
 #include "ui/paint_page.h"
 
 namespace tr7 {
@@ -22,6 +23,8 @@ constexpr int kMsgOrientation = 7634, kMsgPortrait = 7635, kMsgLandscape = 7636;
 constexpr int kMsgPrint = 7637, kMsgPageOf = 7638, kMsgPrevious = 7639, kMsgNext = 7640;
 constexpr int kMsgZoomIn = 7641, kMsgZoomOut = 7642, kMsgWhole = 7643, kMsgPdfFilter = 7644;
 constexpr int kMsgCancel = 5153;
+constexpr int kTipPrinter = 8900, kTipPaper = 8901, kTipOrientation = 8902, kTipPrint = 8903,
+              kTipCancel = 8904;
 constexpr const char *kPrinterKey = "PrintPrinter", *kPaperKey = "PrintPaper",
                      *kLandscapeKey = "PrintLandscape";
 constexpr QSize kDialogSize(900, 760);
@@ -35,9 +38,10 @@ constexpr Paper kPapers[] = {{"A4", QPageSize::A4},          {"A3", QPageSize::A
                              {"B5 (JIS)", QPageSize::JisB5}, {"Letter", QPageSize::Letter}};
 
 /// A list with its name in front.
-QComboBox* AddList(QHBoxLayout& row, const char* name, MsgId caption) {
+QComboBox* AddList(QHBoxLayout& row, const char* name, MsgId caption, MsgId tip) {
   auto* list = new QComboBox;
   list->setObjectName(name);
+  list->setToolTip(Q(Text(tip)));
   auto* label = new QLabel(Q(Text(caption)));
   label->setBuddy(list);
   row.addWidget(label);
@@ -54,6 +58,7 @@ std::string FileNameOf(const std::string& job) {
 PrintPreview::PrintPreview(const PrintJob& job, QWidget* parent, const WaitFor& wait)
     : QDialog(parent), job_(job), wait_(wait), pages_(new QPrintPreviewWidget(&printer_)) {
   setWindowModality(Qt::ApplicationModal);
+  setProperty(kHelpPageProperty, "print");
   setWindowTitle(Q(Text(kMsgTitle, job.Name)));
   printer_.setOutputFormat(QPrinter::PdfFormat);
   printer_.setFullPage(true);
@@ -73,10 +78,10 @@ PrintPreview::PrintPreview(const PrintJob& job, QWidget* parent, const WaitFor& 
 
 QHBoxLayout* PrintPreview::ChoiceRow() {
   auto* row = new QHBoxLayout;
-  printers_ = AddList(*row, "comboPrinter", kMsgPrinter);
+  printers_ = AddList(*row, "comboPrinter", kMsgPrinter, kTipPrinter);
   printers_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  papers_ = AddList(*row, "comboPaper", kMsgPaper);
-  orientations_ = AddList(*row, "comboOrientation", kMsgOrientation);
+  papers_ = AddList(*row, "comboPaper", kMsgPaper, kTipPaper);
+  orientations_ = AddList(*row, "comboOrientation", kMsgOrientation, kTipOrientation);
   return row;
 }
 
@@ -85,10 +90,9 @@ QPushButton* PrintPreview::AddButton(QHBoxLayout& row, const char* name, const Q
   auto* button = new QPushButton(text);
   button->setObjectName(name);
   button->setAutoDefault(false);
-  if (tip) {
-    button->setToolTip(Q(Text(tip)));
-    button->setAccessibleName(Q(Text(tip)));
-  }
+  button->setToolTip(Q(Text(tip)));
+  // A sign is no name.
+  if (text.size() == 1) button->setAccessibleName(button->toolTip());
   connect(button, &QPushButton::clicked, this, act);
   row.addWidget(button);
   return button;
@@ -105,8 +109,9 @@ QHBoxLayout* PrintPreview::PageRow() {
   AddButton(*row, "cmdZoomIn", QStringLiteral("＋"), kMsgZoomIn, &PrintPreview::ZoomIn);
   AddButton(*row, "cmdWholePage", QStringLiteral("□"), kMsgWhole, &PrintPreview::WholePage);
   row->addStretch(1);
-  AddButton(*row, "cmdPrint", Q(Text(kMsgPrint)), {}, &PrintPreview::Print)->setDefault(true);
-  AddButton(*row, "cmdCancel", Q(Text(kMsgCancel)), {}, &QDialog::reject);
+  AddButton(*row, "cmdPrint", Q(Text(kMsgPrint)), kTipPrint, &PrintPreview::Print)
+      ->setDefault(true);
+  AddButton(*row, "cmdCancel", Q(Text(kMsgCancel)), kTipCancel, &QDialog::reject);
   return row;
 }
 

@@ -19,6 +19,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kTitle = 6960, kPushHome = 6965, kPushAway = 6966, kServoHolds = 6967, kAxis1 = 220;
+constexpr int kToggleTip = 8905;
 constexpr int kInputs = 7140, kOutputs = 7141;
 constexpr int kLookEveryMs = 33;
 constexpr int kPushPulses = 50;
@@ -31,6 +32,7 @@ void SimDock::AddTo(QMainWindow& frame, SimPort& machine) {
   frame.addDockWidget(Qt::BottomDockWidgetArea, dock);
   // Not in a menu: those are off while a flow or a teaching session runs.
   auto* button = new QToolButton(&frame);
+  dock->toggleViewAction()->setToolTip(Q(Text(kToggleTip)));
   button->setDefaultAction(dock->toggleViewAction());
   button->setFocusPolicy(Qt::NoFocus);
   if (QWidget* top = frame.findChild<QWidget*>("areaTop")) top->layout()->addWidget(button);

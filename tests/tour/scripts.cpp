@@ -1,5 +1,6 @@
 #include "tests/tour/scripts.h"
 
+#include "forms/frm_about.h"
 #include "forms/frm_compare.h"
 #include "forms/frm_device.h"
 #include "forms/frm_main.h"
@@ -76,6 +77,10 @@ void FirstLook(User& user) {
   user.Picture("table-pulses");
   MeetSilence(user);
   MeetAlarm(user);
+  user.Choose(frmMain.mnuHelp, frmMain.mnuHelpAbout);
+  user.SeeOn(frmAbout.cmdCopy);
+  user.Picture("about");
+  user.Click(frmAbout.cmdClose);
   LeaveByMenu(user);
 }
 

@@ -1,12 +1,15 @@
 // Every view as its layout file draws it: what is tied, what fits, where the keys lead.
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTabWidget>
+#include <QToolButton>
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "forms/control.h"
 #include "forms/frm_main.h"
@@ -124,6 +127,50 @@ TEST_P(LayoutTest, TheTabKeyFollowsTheRecord) {
       widget = widget->nextInFocusChain();
     } while (widget != first);
     EXPECT_EQ(Joined(chain), Joined(record)) << bound->Record().Name;
+  }
+}
+
+/// A screen reader has something to say for the widget: words or numbers, not a sign alone.
+bool HasName(QWidget& widget) {
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
+  const QString name = spoken ? spoken->text(QAccessible::Name) : QString();
+  return std::any_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); });
+}
+
+void ExpectToldAndNamed(const BoundView& bound, const Control& control, const std::string& where) {
+  QWidget& window = bound.Window();
+  if (const auto* menu = dynamic_cast<const Menu*>(&control)) {
+    const auto* submenu = window.findChild<QMenu*>(Q(menu->Name));
+    const auto* action =
+        submenu ? submenu->menuAction() : window.findChild<QAction*>(Q(menu->Name));
+    EXPECT_EQ(action->toolTip(), Q(menu->Tip)) << where;
+    return;
+  }
+  QWidget& widget = *bound.WidgetOf(control);
+  if (dynamic_cast<const Toolbar*>(&control)) {
+    for (auto* button : widget.findChildren<QToolButton*>()) {
+      const bool told =
+          !button->defaultAction() || (!button->toolTip().isEmpty() && HasName(*button));
+      EXPECT_TRUE(told) << where;
+    }
+    return;
+  }
+  EXPECT_NE(widget.toolTip(), Q(control.Caption)) << where;
+  EXPECT_FALSE(widget.toolTip().isEmpty()) << where;
+  EXPECT_TRUE(HasName(widget)) << where;
+}
+
+TEST_P(LayoutTest, EveryControlTellsWhatItIsForAndHasAName) {
+  static const std::set<std::string> kSilent{"Label", "Frame", "Image", "ProgressBar", "StatusBar"};
+  for (const BoundView* bound : DrawAll()) {
+    for (const Control* control : bound->Record().Controls) {
+      // That one stands for no row and is never on show.
+      if (kSilent.contains(control->TypeName) || control->Name.starts_with("comboM0Disable"))
+        continue;
+      const std::string where = bound->Record().Name + "." + control->Name;
+      EXPECT_FALSE(control->Tip.empty() && std::string(control->TypeName) != "Toolbar") << where;
+      ExpectToldAndNamed(*bound, *control, where);
+    }
   }
 }
 
