@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "platform/clipboard.h"
 #include "platform/help_viewer.h"
