@@ -6,13 +6,9 @@
 #include <QScreen>
 #include <QTabWidget>
 #include <algorithm>
-#include <map>
 
 #include "forms/control.h"
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "prog/prog_view.h"
-#include "state/views.h"
 #include "tests/ui/clipping.h"
 #include "tests/ui/ui_test.h"
 
