@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
-#include <string>
-#include <vector>
 
 #include "bench/counting_port.h"
 #include "bench/figures.h"
