@@ -199,5 +199,24 @@ TEST_F(DeviceStoreTest, ScaleOfTheFirstAxisInUse) {
   EXPECT_EQ(panels(), "|");
 }
 
+TEST_F(DeviceStoreTest, DevicesPassBetweenTheTwoRecords) {
+  for (DevSettingRecord& device : DevSetting) SetDevice(device, "E35", "L", 100);
+  for (DevSettingRecord& device : DevSettei) SetDevice(device, "E35", "L", 200);
+  AppState.AxisMuko[1] = True;
+  LetDevSettingToDevSettei();
+  EXPECT_EQ(DevSettei[0].Stroke, 100);
+  EXPECT_EQ(DevSettei[1].Stroke, 200);
+
+  AppState.AxisMukoOfFile[3] = True;
+  DevSettei[3].Stroke = 300;
+  DevSettei[0].NewType = False;
+  ReflectFileDevice2PcDevice();
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(7));
+  EXPECT_EQ(DevSetting[1].Stroke, 200);
+  EXPECT_EQ(DevSetting[3].Stroke, 100);
+  EXPECT_FALSE(DevSetting[0].NewType);
+  EXPECT_EQ(DevSetting[0].NewTypeWord, "OLD");
+}
+
 }  // namespace
 }  // namespace tr7

@@ -268,5 +268,22 @@ TEST_F(ExchangeTest, CancelEndsAWaitAndItsLateReplyIsNobodys) {
   EXPECT_TRUE(forms.boxes.empty());
 }
 
+TEST_F(ExchangeTest, AnErrorReplyToTheResynchronisationKeepsTheState) {
+  Spoil(FaultKind::kWrongPrefix, "0RP");
+  Spoil(FaultKind::kErrorReply, "0CM0");
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n");
+  EXPECT_TRUE(AppState.AlarmOn);
+  EXPECT_FALSE(AppState.Offline);
+}
+
+TEST_F(ExchangeTest, TheGroupMoveStopEndsTheResynchronisation) {
+  Spoil(FaultKind::kWrongPrefix, "0RP");
+  Spoil(FaultKind::kDelay, "0CM0");
+  AppState.GroupMoveStop = True;
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_TRUE(forms.boxes.empty() && AppState.Offline);
+}
+
 }  // namespace
 }  // namespace tr7

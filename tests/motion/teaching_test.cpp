@@ -180,5 +180,20 @@ TEST_F(JogTest, AtTheEndOfTheStrokeAButtonSaysSo) {
   }
 }
 
+/// The release falls on every moment of a press.
+TEST_F(JogTest, AReleaseAtAnyMomentStopsTheAxis) {
+  for (std::int64_t at_us = 0; at_us < 120'000; at_us += 1'500) {
+    SCOPED_TRACE(at_us);
+    port.sent.clear();
+    pump.RunFor(400'000);
+    Jog(1, at_us);
+    EXPECT_FALSE(Moves());
+    const std::string acts = Acts();
+    EXPECT_TRUE(acts.empty() || acts == "0JR12000 0SP ") << acts;
+    EXPECT_TRUE(frmPosi.Teach.cmdJOG[1].Enabled);
+    EXPECT_FALSE(frmPosi.Teach.JogPending || frmPosi.Teach.JogRunning);
+  }
+}
+
 }  // namespace
 }  // namespace tr7

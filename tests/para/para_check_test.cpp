@@ -99,5 +99,18 @@ TEST_F(ParaCheck, TheDirectWriteLooksAtFewerRows) {
   }
 }
 
+TEST_F(ParaCheck, AxesNotInUseDoNotCount) {
+  const struct {
+    std::int16_t shown;  ///< as the parameter view has been set; 0: not
+    int axis;
+    int result;
+  } rows[] = {{0, 3, 0}, {0, 2, 1}, {2, 2, 0}, {2, 1, 1}, {4, 3, 1}};
+  AppState.AxisMuko = MukoOfMask(7);
+  for (const auto& row : rows) {
+    ParaFlags.ShownAxisCount = row.shown;
+    EXPECT_EQ(CheckWith(1, row.axis, 0), row.result) << row.shown << " " << row.axis;
+  }
+}
+
 }  // namespace
 }  // namespace tr7

@@ -199,5 +199,15 @@ TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
   EXPECT_EQ(f.txtHomeOffset[0].Text, "400");
 }
 
+TEST_F(ParaFileFlow, AFailedSaveIsTold) {
+  virt.files.Put(kPath, "old");
+  f.txtHomePush[3].Text = "255";
+  virt.files.FailAt(2, FileFault::DiskFull);
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(13) + "\n\n" + Text(5912, "job.pmt")});
+  EXPECT_TRUE(ParaFlags.ParaFileWriteFailed && ParaIsChanged());
+  EXPECT_EQ(Saved(), "old");
+}
+
 }  // namespace
 }  // namespace tr7

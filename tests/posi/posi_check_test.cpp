@@ -40,6 +40,7 @@ TEST_F(PosiCheck, ABadCellOfAnyColumnIsFlagged) {
     Put(2, col, text);
     EXPECT_EQ(PosiDataCheck3(), 1);
     EXPECT_EQ(lines, "2: " + std::to_string(col) + ";") << text;
+    EXPECT_EQ(Stored(kPosi, 1), 0) << "nothing is committed when one cell is bad";
   }
   EXPECT_TRUE(PosiTable.PosiLineBad[2]);
   Put(2, kAxis4 + kPosi, "");
@@ -206,6 +207,16 @@ TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
     EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError].substr(0, 5), "Input");
   }
   EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelScale1].substr(0, 3), "<2>") << "of the cell's axis";
+}
+
+TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
+  ShowTable(1, 5);
+  Put(1, kVel, "9999");
+  SetOperationRange({2, 4});
+  EXPECT_EQ(PosiDataCheck3(), 0);
+  SetOperationRange({500, 600});
+  EXPECT_EQ(PosiDataCheck3(), 1) << "a range that is not loaded stands for the whole table";
+  EXPECT_EQ(lines, "1: 1;");
 }
 
 }  // namespace

@@ -168,5 +168,19 @@ TEST_F(PosiFile, TheOldestLayout) {
   EXPECT_EQ(TextOf(Stage(kComment, 3)), "受");
 }
 
+TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
+  PutTwoLines();
+  Field(kComment, 2) = std::string("ok é");
+  virt.files.Put(kPath, "old");
+  frmPosi.PosiChanged = True;
+  PosiTable.PosiLineBad[1] = True;  // left out, it counts as none
+  EXPECT_EQ(SaveFileAs2(kPath, trouble), 1);
+  EXPECT_EQ(trouble.words, "Position No. 2 holds the character \"é\", which the file cannot hold.");
+  EXPECT_FALSE(trouble.may_pass);
+  EXPECT_EQ(virt.files.Content(kPath), "old");
+  EXPECT_TRUE(frmPosi.PosiChanged);
+  EXPECT_EQ(PosiTable.Name, "");
+}
+
 }  // namespace
 }  // namespace tr7

@@ -73,6 +73,8 @@ TEST_F(PosiLines, CopiesWholeLinesAndPartsOfOneColumn) {
   EXPECT_TRUE(frmPosi.CopiedIsColumn);
   EXPECT_EQ(Copied(2, kVel, 3, kAcc), "");
   EXPECT_TRUE(BoxShown(Text(335)));
+  Paste("7");
+  EXPECT_TRUE(BoxShown(Text(481))) << "two columns are no place for it";
   const std::string lines = Copied(3, 1, 2, kComment);
   EXPECT_TRUE(frmPosi.CopiedIsLine);
   EXPECT_TRUE(lines.starts_with("2\t100\t"));

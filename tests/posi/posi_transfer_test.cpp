@@ -176,5 +176,16 @@ TEST_F(WriteTest, APositionAtTheStrokeGoesAndOnePulseMoreDoesNot) {
   EXPECT_EQ(note, "Stroke of the controller: 100.000");
 }
 
+TEST_F(WriteTest, AMovingControllerTakesNothing) {
+  // Somebody else has sent the machine home.
+  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
+  port.Ct().Receive("0MP000F\r\n", pump.NowUs());
+  pump.RunFor(100'000);
+  port.ReadAll();
+  Write(2, 4);
+  EXPECT_EQ(port.sent, "0RA\r\n");
+  EXPECT_EQ(forms.LastBox(), Text(424));
+}
+
 }  // namespace
 }  // namespace tr7

@@ -139,5 +139,20 @@ TEST_F(VerifyTest, WithTheController) {
   EXPECT_EQ(seen, "");
 }
 
+TEST_F(SyogoTest, Overlap) {
+  const PosiRange none;
+  const std::tuple<PosiRange, PosiRange, PosiRange> rows[] = {
+      {{1, 10}, {3, 5}, {3, 5}}, {{3, 5}, {1, 10}, {3, 5}}, {{1, 5}, {5, 9}, {5, 5}},
+      {{1, 5}, {6, 9}, none},    {{6, 9}, {1, 5}, none},    {{1, 9}, {7, 3}, none}};
+  for (const auto& [table, file, both] : rows) {
+    SetLoadedPosiRange(table);
+    AppState.FileFirstNo = static_cast<std::int16_t>(file.first);
+    AppState.FileLastNo = static_cast<std::int16_t>(file.last);
+    EXPECT_EQ(SyogoOverlap(), both == none ? 1 : 0) << table.first << file.first;
+    const PosiRange found{AppState.SyogoFromNo, AppState.SyogoToNo};
+    EXPECT_TRUE(both == none || found == both) << found.first << found.last;
+  }
+}
+
 }  // namespace
 }  // namespace tr7

@@ -144,5 +144,42 @@ TEST_F(ProgTransfer, VerifyTellsEqualOrWhereItDiffers) {
   EXPECT_EQ(rows, "1OXOOO2XXXXX");
 }
 
+TEST_F(ProgTransfer, NothingFaultyIsSent) {
+  ProgView& view = Program({"VEL 500"});
+  view.cmdProgWrite.Press();
+  EXPECT_TRUE(view.ErrPaneIsOpen);
+  EXPECT_TRUE(BoxShown(Text(134)));
+  Put(view, {"TIM 1", "MVP 1 _ _ F200"});  // two digits hold up to 255
+  Write(view, 1);
+  EXPECT_TRUE(BoxShown("Step 2, Result"));
+  Put(view, {"TIM 1"});
+  Write(view, 0);
+  EXPECT_EQ(SentLines(3).find("0WM"), std::string::npos);
+}
+
+TEST_F(ProgTransfer, AWriteThatFailsSaysWhatItHasLeft) {
+  const std::string half = "neither the old one nor the new one";
+  const std::tuple<FaultKind, const char*, bool> rows[] = {{FaultKind::kSilence, "0WM", true},
+                                                           {FaultKind::kErrorReply, "0WM", false},
+                                                           {FaultKind::kSilence, "0MW", true},
+                                                           {FaultKind::kErrorReply, "0MW", true}};
+  const auto start = [this] {
+    StartAnew();
+    StartOnline();
+    AppState.ProgStepsRead = True;
+  };
+  for (const auto& [fault, at, is_half] : rows) {
+    start();
+    Spoil(fault, at, 0);
+    Write(Program({"TIM 1"}), 3);
+    EXPECT_EQ(BoxShown(half), is_half) << at;
+    virt.port.Ct().ClearFaults();
+    Boxes();
+  }
+  start();
+  Write(Program({"TIM 1", "NOP", "TIM 2"}), 3);
+  EXPECT_TRUE(BoxShown(half)) << "an empty step cuts the program";
+}
+
 }  // namespace
 }  // namespace tr7

@@ -255,5 +255,30 @@ TEST_F(ConnectTest, ResetOfAnAlarmConnectsAnew) {
   EXPECT_FALSE(frmMain.imgAlarm.Visible);
 }
 
+TEST_F(ReadCompareTest, AFailureWhileTakingMarksTheDevices) {
+  StartOnline();
+  DropAxis4();
+  OtherStroke();
+  const PcState of_pc;
+  Spoil(FaultKind::kErrorReply, "0RD7");
+  Read({0});
+  EXPECT_EQ(PcState(), of_pc);
+  EXPECT_TRUE(DevSetting[0].NotChosen);
+  ExpectOffline();
+}
+
+TEST_F(EditedTableTest, AnAxisThatComesIntoUseShowsItsOwnData) {
+  ReadAndGoOffline();
+  const std::string axis4 = Cell(AxisBase(3) + kPosi);
+  DropAxis4();
+  RecalcLimits();
+  RebuildPosiViewKeepingEdits();
+  Edit(kVel, "31");
+  GoOnline({0});
+  EXPECT_EQ(Cell(kVel), "31");
+  EXPECT_EQ(Cell(AxisBase(3) + kPosi), axis4);
+  EXPECT_GT(AppState.MaxPulse[3], 0);
+}
+
 }  // namespace
 }  // namespace tr7

@@ -1,5 +1,6 @@
 #include "sim/faults.h"
 
+#include "sim/line.h"
 #include "tests/sim/exchange.h"
 
 namespace qvr7sim {
@@ -65,6 +66,16 @@ TEST(Faults, InputsMoveWhatIsNotHeldAndAPowerCycleLosesWhatIsNotStored) {
     Talk(pc, "0WG01005006>0WG01 0WE3> 0RV>0RV140R4M 0RG01>0RG01001004 0WE3>0WE3");
     EXPECT_EQ(pc.controller.ControlDigits(), "0000");
   }
+}
+
+TEST(Line, WaitingBytesAndRequestsAreLimited) {
+  Line line(9600, true);
+  for (int i = 0; i < 100; ++i) line.FromPc(std::string(10000, 'x'), 0);
+  line.FromPc("\n", 0);
+  EXPECT_EQ(line.NextRequestUs(), std::nullopt);
+  Line unpaced(9600, false);
+  unpaced.FromPc(std::string(3000, 'x') + "\r\n", 0);
+  EXPECT_EQ(unpaced.TakeRequest(0)->size(), 2050u);
 }
 
 }  // namespace
