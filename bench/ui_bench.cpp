@@ -8,8 +8,6 @@
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
-#include <string>
-#include <vector>
 
 #include "bench/counting_port.h"
 #include "bench/figures.h"
@@ -282,23 +280,26 @@ class Bench {
     return 0;
   }
 
+  /// File dialogues are answered with this path from here on.
+  void AnswerFiles(const QString& path) {
+    user_.on_file = [this, path] {
+      answered_ = std::chrono::steady_clock::now();
+      return path;
+    };
+  }
+
   /// From the answer of the file dialogue until the table is painted.
   int OpenFull() {
     constexpr int kOpens = 9;
-    user_.on_file = [this] { return file_; };
+    AnswerFiles(file_);
     frmPosi.cmdPosiSaveAs.Press();
     if (!QFileInfo::exists(file_)) return Failed("the save");
-    std::chrono::steady_clock::time_point answered;
-    user_.on_file = [this, &answered] {
-      answered = std::chrono::steady_clock::now();
-      return file_;
-    };
     std::vector<double> times;
     for (int i = 0; i < kOpens; ++i) {
       frmPosi.flgdData.SetRows(kHeaderRows);
       frmPosi.cmdPosiOpen.Press();
       doors.forms->Refresh();
-      times.push_back(MsSince(answered));
+      times.push_back(MsSince(answered_));
       if (frmPosi.flgdData.Rows() != kPosiMaxNo + kHeaderRows) return Failed("the opening");
     }
     Report("open_999_ms", Median(times), 2);
@@ -307,13 +308,9 @@ class Bench {
 
   /// From the answer of the preview's file dialogue until the file is there.
   int PrintFull() {
-    std::chrono::steady_clock::time_point answered;
-    user_.on_file = [this, &answered] {
-      answered = std::chrono::steady_clock::now();
-      return file_ + ".pdf";
-    };
+    AnswerFiles(file_ + ".pdf");
     frmPosi.cmdPosiPrint.Press();
-    Report("print_999_ms", MsSince(answered), 1);
+    Report("print_999_ms", MsSince(answered_), 1);
     return QFileInfo(file_ + ".pdf").size() > kPosiMaxNo ? 0 : Failed("the print");
   }
 
@@ -325,11 +322,7 @@ class Bench {
       frmPosi.flgdData.SetText(row, kVel, "47");
     }
     std::vector<double> times;
-    std::chrono::steady_clock::time_point answered;
-    user_.on_file = [this, &answered] {
-      answered = std::chrono::steady_clock::now();
-      return file_;
-    };
+    AnswerFiles(file_);
     user_.on_modal["frmCompare"] = [&](View&) {
       FrmCompare& f = frmCompare;
       f.comboThere.Pick(2);
@@ -337,7 +330,7 @@ class Bench {
       for (int i = 0; i < kCompares; ++i) {
         f.cmdCompare.Press();
         doors.forms->Refresh();
-        if (f.flgdCompare.Rows() > kPosiMaxNo * kSm) times.push_back(MsSince(answered));
+        if (f.flgdCompare.Rows() > kPosiMaxNo * kSm) times.push_back(MsSince(answered_));
       }
       f.cmdClose.Press();
     };
@@ -362,6 +355,7 @@ class Bench {
   CountingPort port_{desktop_.serial};
   ScreenUser user_{desktop_.forms};
   const QString file_;
+  std::chrono::steady_clock::time_point answered_;  ///< the last file dialogue
   bool first_choice_ = true;
   int last_no_ = kPosiMaxNo;
 };

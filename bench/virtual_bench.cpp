@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
-#include <string>
-#include <vector>
 
 #include "bench/counting_port.h"
 #include "bench/figures.h"

@@ -1,15 +1,10 @@
 // What keeps the tree a house: who includes whom, that every text is in the message table, and
 // that every view is translated.
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <iostream>
-#include <map>
 #include <regex>
 #include <set>
 
-#include "forms/control.h"
 #include "tests/support/source_tree.h"
 #include "tests/support/state_test.h"
 
@@ -144,17 +139,16 @@ TEST(Structure, OnlyTheDesktopKnowsQt) {
 }
 
 TEST(Structure, ToolAndSimulatorMeetAtThePortAlone) {
-  const struct {
-    const char *from, *but, *to;
-  } forbidden[] = {{"sim/", "-", "src/"},
-                   {"src/", "src/platform/sim_port.", "sim/"},
-                   {"src/", "-", "tests/"},
-                   {"sim/", "-", "tests/"}};
+  const std::tuple<const char*, const char*, const char*> forbidden[] = {
+      {"sim/", "-", "src/"},
+      {"src/", "src/platform/sim_port.", "sim/"},
+      {"src/", "-", "tests/"},
+      {"sim/", "-", "tests/"}};
   for (const auto& [path, included] : IncludeGraph(Tree())) {
-    for (const auto& rule : forbidden) {
-      if (!InFolder(path, rule.from) || InFolder(path, rule.but)) continue;
+    for (const auto& [from, but, to] : forbidden) {
+      if (!InFolder(path, from) || InFolder(path, but)) continue;
       for (const std::string& other : included) {
-        EXPECT_FALSE(InFolder(other, rule.to)) << path << " includes " << other;
+        EXPECT_FALSE(InFolder(other, to)) << path << " includes " << other;
       }
     }
   }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <tuple>
-#include <utility>
 
 #include "base/utf8.h"
 
@@ -46,19 +45,6 @@ TEST(CodePage, DamageCostsNoMoreThanItself) {
       {65001, "<\xED\xA0\x80>", "<" + bad + bad + bad + ">"},
       {65001, "<\xE8\xBB>", "<" + bad + bad + ">"}};
   for (const auto& [page, bytes, text] : rows) EXPECT_EQ(DecodeCodePage(page, bytes).utf8, text);
-}
-
-TEST(CodePage, WritingStopsAtTheFirstMissingCharacter) {
-  const std::tuple<int, std::string, std::string, const char*> rows[] = {
-      {932, "位置\n", "한글", "한"},
-      {932, "ok", "\xFFno", "\uFFFD"},
-      {65001, "a", "\xC0", "\uFFFD"}};
-  for (const auto& [page, good, bad, character] : rows) {
-    const EncodedText encoded = EncodeCodePage(page, good + bad);
-    EXPECT_FALSE(encoded.ok);
-    EXPECT_EQ(encoded.bad_at, good.size());
-    EXPECT_EQ(encoded.bad_character, character);
-  }
 }
 
 }  // namespace

@@ -61,39 +61,6 @@ TEST(SeqReader, Numbers) {
   }
 }
 
-TEST(SeqReader, IntegersWithinTheirRange) {
-  int value = -7;
-  for (const char* bad : {"-1", "42", "1.5", "1e300"}) {
-    EXPECT_FALSE(SeqReader(bad).ReadInteger(0, 41, value) || value != -7) << bad;
-  }
-  for (const char* good : {"0", "41", "4.0"}) {
-    EXPECT_TRUE(SeqReader(good).ReadInteger(0, 41, value)) << good;
-  }
-}
-
-TEST(SeqReader, ItemsKeepTheirKind) {
-  SeqReader reader("12,\"12\",ab,,\" 28\"");
-  for (const Variant& want :
-       {Variant(12.0), Variant("12"s), Variant("ab"s), Variant(""s), Variant(" 28"s)}) {
-    Variant item;
-    ASSERT_TRUE(reader.ReadItem(item));
-    EXPECT_EQ(item, want);
-  }
-}
-
-TEST(SeqWriter, WritesWhatTheReaderReads) {
-  SeqWriter writer;
-  writer.Text("QV-R7, \"demo\"\r\nline");
-  writer.Number(0.0075);
-  writer.EndLine();
-  writer.EndLine();
-  writer.Bare("0A");
-  writer.Item(Variant(-3.0));
-  writer.Item(Variant(" 28"s));
-  writer.EndLine();
-  EXPECT_EQ(writer.Result(), "\"QV-R7, \"\"demo\"\"\r\nline\",0.0075\r\n\r\n0A,-3,\" 28\"\r\n");
-}
-
 TEST(SeqReader, ReadsLongFilesInLinearTime) {
   // Quadratic reading of these would take hours.
   const std::string quotes = "\"" + std::string(4'000'000, '"') + "\"";

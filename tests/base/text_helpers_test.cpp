@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <limits>
-#include <utility>
 
 #include "base/variant.h"
 
@@ -12,47 +11,35 @@ namespace tr7 {
 namespace {
 
 TEST(TextHelpers, ValTakesTheLeadingNumber) {
-  const struct {
-    const char* text;
-    double value;
-  } rows[] = {{"", 0},       {"abc", 0},  {" 1 2\t3 ", 123}, {"12abc", 12}, {"12.5.7", 12.5},
-              {"-.5", -0.5}, {"- 7", -7}, {"+-7", 0},        {"5-3", 5},    {".", 0},
-              {"1E3", 1},    {"0x10", 0}, {"inf", 0},        {"1,234", 1},  {"１２", 0}};
-  for (const auto& row : rows) EXPECT_EQ(Val(row.text), row.value) << '[' << row.text << ']';
+  const std::pair<const char*, double> rows[] = {
+      {"", 0},       {"abc", 0},  {" 1 2\t3 ", 123}, {"12abc", 12}, {"12.5.7", 12.5},
+      {"-.5", -0.5}, {"- 7", -7}, {"+-7", 0},        {"5-3", 5},    {".", 0},
+      {"1E3", 1},    {"0x10", 0}, {"inf", 0},        {"1,234", 1},  {"１２", 0}};
+  for (const auto& [text, value] : rows) EXPECT_EQ(Val(text), value) << '[' << text << ']';
   EXPECT_EQ(Val("-" + std::string(400, '9')), std::numeric_limits<double>::lowest());
 }
 
 TEST(TextHelpers, NumbersAsText) {
-  const struct {
-    double value;
-    std::string plain, mm;
-  } rows[] = {{-0.0, "0", "0.000"},           {-5, "-5", "-5.000"},
-              {0.1 + 0.2, "0.3", "0.300"},    {0.00001, "0.00001", "0.000"},
-              {-0.0005, "-0.0005", "-0.001"}, {-0.0004, "-0.0004", "0.000"},
-              {1.0005, "1.0005", "1.001"},    {99.9995, "99.9995", "100.000"},
-              {std::nan(""), "0", "0.000"}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(PlainDecimal(row.value), row.plain);
-    EXPECT_EQ(Str(row.value), (row.plain[0] == '-' ? "" : " ") + row.plain);
-    EXPECT_EQ(FormatMm(row.value), row.mm) << row.plain;
+  const std::tuple<double, std::string, std::string> rows[] = {
+      {-0.0, "0", "0.000"},           {-5, "-5", "-5.000"},
+      {0.1 + 0.2, "0.3", "0.300"},    {0.00001, "0.00001", "0.000"},
+      {-0.0005, "-0.0005", "-0.001"}, {-0.0004, "-0.0004", "0.000"},
+      {1.0005, "1.0005", "1.001"},    {99.9995, "99.9995", "100.000"},
+      {std::nan(""), "0", "0.000"}};
+  for (const auto& [value, plain, mm] : rows) {
+    EXPECT_EQ(PlainDecimal(value), plain);
+    EXPECT_EQ(Str(value), (plain[0] == '-' ? "" : " ") + plain);
+    EXPECT_EQ(FormatMm(value), mm) << plain;
   }
   EXPECT_EQ(FormatMm(1e20), "100000000000000000000.000");
 }
 
-TEST(TextHelpers, OneDecimalRoundsHalvesAwayFromZero) {
-  const std::pair<double, double> rows[] = {
-      {13333.05, 13333.1}, {13333.04, 13333}, {-0.05, -0.1}, {9.95, 10}, {99999.95, 100000}};
-  for (const auto& [value, rounded] : rows) EXPECT_EQ(RoundToOneDecimal(value), rounded) << value;
-}
-
 TEST(TextHelpers, FixedWidthFields) {
-  const struct {
-    std::string field;
-    const char* text;
-  } rows[] = {{HexPad(10, 2), "0A"},   {HexPad(256, 2), "X"},    {HexPad(-1, 8), "X"},
-              {DecPad(7, 3), "007"},   {DecPad(1000, 3), "X"},   {DecPad(-1, 3), "X"},
-              {SpacePad(5, 3), "  5"}, {SpacePad(-5, 3), " -5"}, {SpacePad(1000, 3), "X"}};
-  for (const auto& row : rows) EXPECT_EQ(row.field, row.text);
+  const std::pair<std::string, const char*> rows[] = {
+      {HexPad(10, 2), "0A"},   {HexPad(256, 2), "X"},    {HexPad(-1, 8), "X"},
+      {DecPad(7, 3), "007"},   {DecPad(1000, 3), "X"},   {DecPad(-1, 3), "X"},
+      {SpacePad(5, 3), "  5"}, {SpacePad(-5, 3), " -5"}, {SpacePad(1000, 3), "X"}};
+  for (const auto& [field, text] : rows) EXPECT_EQ(field, text);
   EXPECT_EQ(RightAlignText("軸", 3), "  軸");
   EXPECT_EQ(RightAlignText("123456789", 8), "-1");
   EXPECT_EQ(HexValue("0aF"), 175);

@@ -30,13 +30,11 @@ TEST_F(OpenFileTest, AFileOpensByItsHeadInTheViewOfItsKindUnasked) {
 }
 
 TEST_F(OpenFileTest, WhatCannotBeOpenedSaysWhyAndChangesNothing) {
-  const struct {
-    const char* path;
-    const char* word;
-  } kRows[] = {{"/letter.txt", "cannot be opened"}, {"/a.prg", "Program Mode"}, {"/gone", "gone"}};
-  for (const auto& row : kRows) {
-    OpenFileByPath(row.path);
-    EXPECT_NE(forms.LastBox().find(row.word), std::string::npos) << forms.LastBox();
+  const std::pair<const char*, const char*> kRows[] = {
+      {"/letter.txt", "cannot be opened"}, {"/a.prg", "Program Mode"}, {"/gone", "gone"}};
+  for (const auto& [path, word] : kRows) {
+    OpenFileByPath(path);
+    EXPECT_NE(forms.LastBox().find(word), std::string::npos) << forms.LastBox();
   }
   {
     const CommandsOff flow;

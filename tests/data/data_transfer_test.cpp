@@ -4,10 +4,8 @@
 #include "data/grp_table.h"
 #include "data/sm_commands.h"
 #include "data/sm_table.h"
-#include "forms/frm_main.h"
 #include "para/sys_para.h"
 #include "para/sys_para_commands.h"
-#include "state/message_box.h"
 #include "steps/outcome.h"
 #include "tests/support/link_test.h"
 
@@ -94,27 +92,6 @@ struct ChangedByte {
   const char* prefix;
   int at_byte;
 };
-
-TEST_F(DataTest, AnotherRecordsNameEndsTheTransfer) {
-  const ChangedByte rows[] = {{ReadGrpFromCt, "0RG05", 4},    {ReadSmFromCt, "0RS14", 3},
-                              {ReadSysParaFromCt, "0RK6", 3}, {WriteGrpToCt, "0WG05", 3},
-                              {WriteSmToCt, "0WS14", 4},      {WriteSysParaToCt, "0WK2", 3}};
-  const Stages before;
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.prefix);
-    Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
-    EXPECT_EQ(row.run(), Outcome::Failed);
-    EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-    EXPECT_EQ(Stages(), before);
-    EXPECT_TRUE(Sent().back().starts_with(row.prefix)) << "nothing more is sent";
-  }
-  // A group's number is compared by its first digit alone, and of the tuning blocks the first
-  // three.
-  for (const auto& row : {ChangedByte{WriteGrpToCt, "0WG05", 4}, {WriteSysParaToCt, "0WK3", 3}}) {
-    Spoil(FaultKind::kChangedByte, row.prefix, row.at_byte);
-    EXPECT_EQ(row.run(), Outcome::Done) << row.prefix;
-  }
-}
 
 }  // namespace
 }  // namespace tr7

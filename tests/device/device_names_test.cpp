@@ -1,7 +1,10 @@
 #include "device/device_names.h"
 
+#include "device/ct_device.h"
 #include "device/dev_setting_store.h"
-#include "device/device_list.h"
+#include "device/device_texts.h"
+#include "device/take_ct_device.h"
+#include "para/take_param_device.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -22,18 +25,6 @@ class DeviceStoreTest : public StateTest {
 };
 
 // Settings.
-
-TEST_F(DeviceStoreTest, AnEmptyStoreGivesTheDefaultDevice) {
-  EXPECT_EQ(LoadDevSetting(), 0);
-  for (const DevSettingRecord& device : {DevSetting[3], DevSettei[3]}) {
-    EXPECT_EQ(device.Size + device.Speed + std::to_string(device.Stroke), " 28L100");
-    EXPECT_TRUE(device.NewType);
-  }
-  EXPECT_EQ(DevSetting[3].Lead, 3) << "that of the list";
-  EXPECT_EQ(DevSetting[3].MmPerPulse, 0.006);
-  EXPECT_TRUE(DevSetting[3].Vertical && DevSetting[3].SeriesOk);
-  EXPECT_FALSE(DevSetting[3].WithPG || DevSetting[3].NotChosen);
-}
 
 TEST_F(DeviceStoreTest, EachStoredValueIsJudged) {
   /// Of AXIS2 with one value stored otherwise: the device there is not in the list.
@@ -60,31 +51,6 @@ TEST_F(DeviceStoreTest, EachStoredValueIsJudged) {
   EXPECT_EQ(loaded("NewType2", "0"), " 35 2 400");
 }
 
-TEST_F(DeviceStoreTest, TheNewListWinsWhateverTheStoreSays) {
-  for (const char* key : {"NewType1", "DevLead1", "DevPPR1", "Vertical1"}) Store(key, "0");
-  Store("WithPG1", "1");
-  Store("Device1", "NB");
-  EXPECT_EQ(LoadDevSetting(), 0);
-  const DevSettingRecord& device = DevSetting[0];
-  EXPECT_EQ(device.Lead, 3);
-  EXPECT_EQ(device.Ppr, 500);
-  EXPECT_FALSE(device.NewType || DevSettei[0].NewType || device.Vertical || device.SeriesOk);
-  EXPECT_EQ(device.NewTypeWord, "OLD");
-  EXPECT_TRUE(device.WithPG);
-}
-
-TEST_F(DeviceStoreTest, WithoutAListTheStoredLeadsServeAndNoNameIsGood) {
-  virt.files.Remove(ProgramFile("nqvdevice.lst"));
-  Store("DevLead4", "12");
-  EXPECT_EQ(LoadDevSetting(), 0);
-  EXPECT_EQ(DevSetting[0].Lead, 2);
-  EXPECT_EQ(DevSetting[3].Lead, 12);
-  EXPECT_EQ(Boxes(), Texts{Text(15)});
-  FileDevice.fill("QV-28L-100");
-  EXPECT_EQ(ParseDeviceNames(), 1);
-  EXPECT_EQ(Boxes(), (Texts{Text(15), Text(4) + "\n" + Text(5)}));
-}
-
 TEST_F(DeviceStoreTest, WhatIsSavedComesBack) {
   for (DevSettingRecord& device : DevSetting) {
     SetDevice(device, " 35", "H", 103);
@@ -99,53 +65,12 @@ TEST_F(DeviceStoreTest, WhatIsSavedComesBack) {
   EXPECT_EQ(Stored("NewType1") + Stored("NewType2") + Stored("Device2"), "01QV");
   EXPECT_EQ(Stored("Vertical1") + Stored("WithPG1") + Stored("WithPG2"), "001")
       << "of the devices under consideration";
-  for (const char* key : {"DevPPR1", "DevSize3", "DevLead3", "NewType3"}) {
-    EXPECT_EQ(Stored(key), "-") << key;
-  }
+  EXPECT_EQ(Stored("DevPPR1") + Stored("DevSize3"), "--");
   DevSetting.fill(DevSettingRecord{});
   EXPECT_EQ(LoadDevSetting(), 0);
   const DevSettingRecord& device = DevSetting[1];
   EXPECT_EQ(device.Size + device.Speed + std::to_string(device.Stroke), " 35H103");
   EXPECT_EQ(device.Lead, 6);
-  EXPECT_EQ(device.Ppr, 400);
-  EXPECT_EQ(DevSetting[2].Size, " 28");
-}
-
-TEST_F(DeviceStoreTest, DevicesPassBetweenTheTwoRecords) {
-  for (DevSettingRecord& device : DevSetting) SetDevice(device, "E35", "L", 100);
-  for (DevSettingRecord& device : DevSettei) SetDevice(device, "E35", "L", 200);
-  AppState.AxisMuko[1] = True;
-  LetDevSettingToDevSettei();
-  EXPECT_EQ(DevSettei[0].Stroke, 100);
-  EXPECT_EQ(DevSettei[1].Stroke, 200);
-
-  AppState.AxisMukoOfFile[3] = True;
-  DevSettei[3].Stroke = 300;
-  DevSettei[0].NewType = False;
-  ReflectFileDevice2PcDevice();
-  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(7));
-  EXPECT_EQ(DevSetting[1].Stroke, 200);
-  EXPECT_EQ(DevSetting[3].Stroke, 100);
-  EXPECT_FALSE(DevSetting[0].NewType);
-  EXPECT_EQ(DevSetting[0].NewTypeWord, "OLD");
-}
-
-TEST_F(DeviceStoreTest, EachOfTheSixFieldsIsCompared) {
-  const auto differs = [](void (*change)(DevSettingRecord&), bool in_file = true) {
-    for (DevSettingRecord& device : DevSetting) SetDevice(device, "E35", "L", 100);
-    DevSettei = DevSetting;
-    change(DevSettei[3]);
-    AppState.AxisMukoOfFile[3] = !in_file;
-    return CompareActuatorSettingOfPosifile2PC() == 1;
-  };
-  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.NewType = False; }));
-  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Size = "35"; }));
-  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Speed = "H"; }));
-  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Stroke = 101; }));
-  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.WithPG = True; }));
-  EXPECT_TRUE(differs([](DevSettingRecord& d) { d.Vertical = True; }));
-  EXPECT_FALSE(differs([](DevSettingRecord& d) { d.Lead = 7; }));
-  EXPECT_FALSE(differs([](DevSettingRecord& d) { d.Stroke = 101; }, false));
 }
 
 // Names.
@@ -183,21 +108,114 @@ TEST_F(DeviceStoreTest, NamesOfEveryForm) {
   }
 }
 
-TEST_F(DeviceStoreTest, SeriesAndAxesOfNames) {
-  DevSetting[0].Series = DevSettei[0].Series = DevSetting[1].Series = DevSettei[1].Series = "";
-  AppState.AxisMuko[2] = True;
-  AppState.AxisMukoOfFile[3] = True;
-  FileDevice = {"QV-28L-100", "NB-28L-100", "never looked at", ""};
-  EXPECT_EQ(ParseDeviceNames(), 0);
-  EXPECT_EQ(DevSetting[0].Series + DevSettei[0].Series, "QVQV");
-  EXPECT_EQ(DevSetting[1].Series + DevSettei[1].Series, "");
+class TakeDevice : public StateTest {};
 
-  // The first bad name ends the parse; the header's word shows only then.
-  DevSettei[0].NewTypeWord = "OLD";
-  FileDevice = {"QV-28L-9", "QV-28L-050", "", ""};
-  EXPECT_EQ(ParseDeviceNames(), 1);
-  EXPECT_FALSE(DevSettei[0].NewType);
-  EXPECT_EQ(DevSettei[1].Stroke, 100);
+/// AXIS1 to AXIS3 in the parameters, each with a device of its own.
+void FillParameters() {
+  ParamSet.OneAxis = 7;
+  const char* texts[] = {" 28L100", " 42H200", "E35L050", ""};
+  for (int axis = 0; axis < kAxes; ++axis) {
+    ParamSet.Actuator[axis] = texts[axis];
+    CutActuator(ParamSet, axis);
+    ParamSet.AxisLead[axis] = static_cast<std::int16_t>(2 + 2 * axis);
+    ParamSet.AxisPulse[axis] = 400;
+    ParamSet.AxisStroke[axis] = 1001;
+  }
+}
+
+TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
+  FillParameters();
+  DevSetting[1].NotChosen = True;
+  AppState.AxisMuko = MukoOfMask(8);
+  TakeDevFromParam2();
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(7));
+  EXPECT_EQ(DevSetting[1].Size + DevSetting[1].Speed, " 42H");
+  EXPECT_EQ(DevSetting[1].Stroke, 200);
+  EXPECT_EQ(DevSetting[1].MmPerPulse, 0.01);
+  EXPECT_FALSE(DevSetting[1].NotChosen);
+  EXPECT_EQ(AppState.StrokePulse[1], 1001);
+  EXPECT_EQ(AppState.StrokeMm[1], 10.01);
+  EXPECT_EQ(DevSetting[3].Size, "") << "an axis that AXIS does not name";
+  ParamSet.Actuator[1].clear();
+  ParamSet.ActSize[0] = "E35";
+  ParamSet.ActSize[2] = " 50";
+  TakeDevFromParam2();
+  EXPECT_EQ(DevSetting[0].Size, "E35");
+  EXPECT_TRUE(DevSetting[1].NotChosen) << "an axis without device text ends it";
+  EXPECT_EQ(DevSetting[2].Size, "E35");
+}
+
+TEST_F(TakeDevice, TypeAndPgOfTheControllersBlock) {
+  const std::tuple<int, const char*, int, bool, bool> rows[] = {
+      {0, " 28", 0, true, true}, {1, " 28", 1, false, true},  {1, "E35", 2, true, true},
+      {1, " 20", 0, true, true}, {1, " 42", 1, true, true},   {1, " 50", 2, false, true},
+      {2, " 28", 0, true, true}, {3, " 42", 1, false, false}, {255, "E35", 0, false, false}};
+  AppState.AxisMuko = MukoOfMask(1);
+  for (const auto& [type, size, pg, new_type, known] : rows) {
+    SCOPED_TRACE(std::to_string(type) + size);
+    DevSetting[0].NewType = DevSettei[0].NewType = !new_type;  // each must be set, not left
+    DevSetting[0].Vertical = DevSettei[0].Vertical = DevSetting[0].SeriesOk = !known;
+    CtDev[0] = {};
+    CtDev[0].Type = type;
+    CtDev[0].PgCode = pg;
+    CtDev[0].Size = size;
+    CtDev[0].Lead = 2;
+    CtDev[0].Ppr = 400;
+    CtDev[0].MaxPulse = 1001;
+    TakeDevFromCt();
+    for (const DevSettingRecord& device : {DevSetting[0], DevSettei[0]}) {
+      EXPECT_TRUE(device.NewType == new_type && device.Vertical == known);
+      EXPECT_EQ(device.WithPG, pg != 0);
+    }
+    EXPECT_EQ(DevSetting[0].SeriesOk, known);
+    EXPECT_EQ(DevSetting[0].NewTypeWord, new_type ? "NEW" : "OLD");
+    EXPECT_EQ(AppState.StrokeMm[0], 5.005);
+  }
+}
+
+TEST_F(DeviceStoreTest, ScaleOfTheFirstAxisInUse) {
+  const int leads[] = {2, 2, 8, 12}, pprs[] = {400, 192, 400, 400};
+  for (int axis = 0; axis < kAxes; ++axis) {
+    SetDevice(DevSetting[axis], " 28", "L", 100);
+    DevSetting[axis].Lead = static_cast<std::int16_t>(leads[axis]);
+    DevSetting[axis].Ppr = pprs[axis];
+  }
+  const auto panels = [] {
+    const auto& all = frmMain.sbStatusBar.Panels;
+    return all[kPanelScale1] + "|" + all[kPanelScale2];
+  };
+  PulseScaleHyoji();
+  EXPECT_EQ(panels(), "<1>1mm = 200.000Pulse|<1>1Pulse= 0.005mm");
+  AppState.AxisMuko = MukoOfMask(12);
+  PulseScaleHyoji();
+  EXPECT_EQ(panels(), "<3>1mm = 50.000Pulse|<3>1Pulse= 0.020mm");
+  PulseScaleHyojiAxis(3);
+  EXPECT_EQ(panels(), "<4>1mm = 33.333Pulse|<4>1Pulse= 0.030mm");
+  PulseScaleHyojiAxis(1);
+  EXPECT_EQ(panels(), "|");
+  PulseScaleHyoji();
+  AppState.AxisMuko = MukoOfMask(0);
+  PulseScaleHyoji();
+  EXPECT_EQ(panels(), "|");
+}
+
+TEST_F(DeviceStoreTest, DevicesPassBetweenTheTwoRecords) {
+  for (DevSettingRecord& device : DevSetting) SetDevice(device, "E35", "L", 100);
+  for (DevSettingRecord& device : DevSettei) SetDevice(device, "E35", "L", 200);
+  AppState.AxisMuko[1] = True;
+  LetDevSettingToDevSettei();
+  EXPECT_EQ(DevSettei[0].Stroke, 100);
+  EXPECT_EQ(DevSettei[1].Stroke, 200);
+
+  AppState.AxisMukoOfFile[3] = True;
+  DevSettei[3].Stroke = 300;
+  DevSettei[0].NewType = False;
+  ReflectFileDevice2PcDevice();
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(7));
+  EXPECT_EQ(DevSetting[1].Stroke, 200);
+  EXPECT_EQ(DevSetting[3].Stroke, 100);
+  EXPECT_FALSE(DevSetting[0].NewType);
+  EXPECT_EQ(DevSetting[0].NewTypeWord, "OLD");
 }
 
 }  // namespace

@@ -1,10 +1,7 @@
 #include "device/unit_conversion.h"
 
 #include <cmath>
-#include <map>
-#include <tuple>
 
-#include "base/text_helpers.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -65,23 +62,13 @@ TEST_F(UnitConversion, ASnappedValueIsThatManyPulses) {
 }
 
 TEST_F(UnitConversion, MillimetresAreCut) {
-  using Typed = std::map<const char*, double>;
-  for (const auto& [text, mm] : Typed{{"12.34567", 12.345},
-                                      {"12345678", 1234567},
-                                      {"1234567.9", 1234567},
-                                      {"0.9999", 0.999},
-                                      {"123456.789", 123456.789},
-                                      {"-1.23456", -1.234},
-                                      {"", 0},
-                                      {"1 2.5", 12.5},
-                                      {"abc", 0}}) {
-    EXPECT_EQ(CutMmText(text), mm) << text;
-  }
-  using Computed = std::map<double, double>;
-  for (const auto& [mm, cut] :
-       Computed{{0.0075, 0.007}, {0.99996, 1}, {0.9999, 0.999}, {100.005, 100.005}, {0.1, 0.1}}) {
-    EXPECT_DOUBLE_EQ(CutComputedMm(mm), cut) << mm;
-  }
+  const std::pair<const char*, double> typed[] = {
+      {"12.34567", 12.345},       {"12345678", 1234567}, {"1234567.9", 1234567}, {"0.9999", 0.999},
+      {"123456.789", 123456.789}, {"-1.23456", -1.234},  {"1 2.5", 12.5},        {"abc", 0}};
+  for (const auto& [text, mm] : typed) EXPECT_EQ(CutMmText(text), mm) << text;
+  const std::pair<double, double> computed[] = {
+      {0.0075, 0.007}, {0.99996, 1}, {0.9999, 0.999}, {100.005, 100.005}, {0.1, 0.1}};
+  for (const auto& [mm, cut] : computed) EXPECT_DOUBLE_EQ(CutComputedMm(mm), cut) << mm;
 }
 
 TEST_F(UnitConversion, StrokeInPulsesIsCarriedUp) {
@@ -130,18 +117,10 @@ TEST_F(UnitConversion, SpeedOfAnAxisInUse) {
 
 TEST_F(UnitConversion, SpeedOfAnAxisNotInUseFollowsItsDevice) {
   AppState.AxisMuko[0] = True;
-  using Speeds = std::map<std::string, int>;
-  for (const auto& [device, vel] : Speeds{{"   D", 30},
-                                          {" 99L", 75},
-                                          {" 42D", 400},
-                                          {" 50L", 100},
-                                          {" 28L", 50},
-                                          {" 50H", 300},
-                                          {" 28H", 150},
-                                          {" 35H", 150},
-                                          {" 42H", 200},
-                                          {"E35H", 200},
-                                          {" 20D", 77}}) {
+  const std::pair<std::string, int> speeds[] = {
+      {"   D", 30},  {" 99L", 75},  {" 42D", 400}, {" 50L", 100}, {" 28L", 50}, {" 50H", 300},
+      {" 28H", 150}, {" 35H", 150}, {" 42H", 200}, {"E35H", 200}, {" 20D", 77}};
+  for (const auto& [device, vel] : speeds) {
     AppState.MaxVel[0] = 77;
     DevSetting[0].Size = device.substr(0, 3);
     DevSetting[0].Speed = device.substr(3);

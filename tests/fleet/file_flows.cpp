@@ -1,14 +1,4 @@
-#include <map>
-#include <optional>
-#include <string>
-
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
-#include "posi/posi_caption.h"
-#include "posi/posi_table.h"
-#include "state/text.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

@@ -4,9 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 
-#include "core/main_entry.h"
 #include "tests/fleet/jog_runs.h"
 #include "tests/fleet/voyage.h"
 
@@ -27,7 +25,7 @@ void RunAnyFlow(Voyage& voyage) {
   }
   std::vector<const Flow*> all;  // each as often as it weighs
   for (const auto& some : {SessionFlows(), TransferFlows(), FileFlows(), EditFlows(), KindFlows(),
-                           MonitorFlows(), ProgramFlows(), WatchFlows()}) {
+                           MonitorFlows(), ProgramFlows()}) {
     for (const Flow& flow : some)
       all.insert(all.end(), static_cast<std::size_t>(flow.weight), &flow);
   }

@@ -1,8 +1,5 @@
 #include <string_view>
-#include <vector>
 
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "forms/grid.h"
 #include "tests/fleet/voyage.h"
 
@@ -35,10 +32,7 @@ void AddTools(Toolbar& bar, std::vector<Press>& presses) {
 void AddTabs(TabStrip& strip, std::vector<Press>& presses) {
   for (std::size_t i = 0; i < strip.Tabs.size(); ++i) {
     if (!strip.Tabs[i].Enabled) continue;
-    presses.push_back([&strip, i] {
-      strip.Selected = static_cast<int>(i);
-      if (strip.Click) strip.Click();
-    });
+    presses.push_back([&strip, i] { ClickTab(strip, static_cast<int>(i)); });
   }
 }
 
@@ -120,13 +114,13 @@ void SeatHastyHand(Voyage& voyage) {
 }
 
 void WorkHastily(Voyage& voyage) {
-  constexpr std::int64_t kRoundUs = 8'000'000;
+  constexpr std::int64_t kRoundUs = 8'000'000, kLastFlowUs = 30'000'000;
   voyage.BeginFlow("write");  // the hand may press that too
   voyage.hasty = true;
   NextPress(voyage);
   voyage.virt.pump.RunFor(kRoundUs);
   voyage.hasty = false;
-  LeaveMonitors(voyage);
+  if (!voyage.virt.forms.ended) voyage.virt.pump.RunFor(kLastFlowUs);
   voyage.sent_at_refusal.reset();  // other flows went on
 }
 

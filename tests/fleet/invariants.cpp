@@ -1,9 +1,5 @@
 #include "device/device_cascade.h"
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "link/request_queue.h"
-#include "posi/posi_grid_layout.h"
-#include "state/text.h"
 #include "tests/fleet/voyage.h"
 
 namespace tr7 {

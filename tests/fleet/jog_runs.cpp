@@ -1,23 +1,15 @@
 #include "tests/fleet/jog_runs.h"
 
 #include <cstdio>
-#include <string>
-#include <utility>
 
-#include "core/main_entry.h"
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
-#include "forms/frm_selection.h"
 #include "link/request_queue.h"
 #include "motion/jog.h"
 #include "motion/motion_now.h"
 #include "motion/motion_view.h"
 #include "motion/present_pos.h"
 #include "state/online.h"
-#include "state/text.h"
 #include "tests/fleet/jog_watch.h"
 #include "tests/fleet/voyage.h"
-#include "tests/support/flow_test.h"
 
 namespace tr7 {
 namespace {
@@ -123,8 +115,7 @@ void PutBack(JogRun& run, std::uint64_t seed) {
 }
 
 bool StartSession() {
-  frmPosi.SSTabCommand().Selected = kTeachingTab;
-  frmPosi.SSTabCommand().Click();
+  ClickTab(frmPosi.SSTabCommand(), kTeachingTab);
   frmPosi.MotionTabs();
   frmPosi.Teach.cmdJOGST.Press();
   return AppState.TeachingNow;
@@ -169,7 +160,8 @@ struct Act {
   const char* name;
   int weight;
   void (*act)(JogRun& run);
-  bool of_held = false;  ///< it needs a button that is held
+  bool of_held = false;     ///< it needs a button that is held
+  bool takes_hand = false;  ///< whether the tool sees it or not
 };
 
 void StopBy(JogRun& run, const std::function<void()>& stop) {
@@ -177,63 +169,31 @@ void StopBy(JogRun& run, const std::function<void()>& stop) {
   stop();
 }
 
+HoldButton& Held() { return *HoldButton::Held(); }
+
 constexpr Act kTakeAway[] = {
-    {"release", 12,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       HoldButton::Held()->LetGo();
-     },
-     true},
+    {"release", 12, [](JogRun&) { Held().LetGo(); }, true, true},
     {"twice", 2,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       HoldButton& held = *HoldButton::Held();
-       held.LetGo();
-       held.LetGo();
+     [](JogRun&) {
+       for (HoldButton* held : {&Held(), &Held()}) held->LetGo();
      },
-     true},
+     true, true},
     {"box", 2,
      [](JogRun&) {
        doors.forms->MessageBox({"a box", "", MsgButtons::Ok, MsgIcon::None});
      }},
-    {"dialog", 1,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       doors.forms->FileDialog({});
-     }},
-    {"hidden", 1,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       frmPosi.Visible = false;
-     }},
-    {"minimised", 1,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       frmPosi.Minimised = true;
-     }},
-    {"off", 1,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       HoldButton::Held()->Enabled = false;
-     },
-     true},
-    {"tab", 1,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       HoldButton::Held()->Visible = false;
-     },
-     true},
+    {"dialog", 1, [](JogRun&) { doors.forms->FileDialog({}); }, false, true},
+    {"hidden", 1, [](JogRun&) { frmPosi.Visible = false; }, false, true},
+    {"minimised", 1, [](JogRun&) { frmPosi.Minimised = true; }, false, true},
+    {"off", 1, [](JogRun&) { Held().Enabled = false; }, true, true},
+    {"tab", 1, [](JogRun&) { Held().Visible = false; }, true, true},
     {"close", 1, [](JogRun&) { CloseView(frmMain, CloseReason::ControlMenu); }},
     {"escape", 2, [](JogRun& run) { StopBy(run, [] { frmMain.Escape(); }); }},
     {"stop", 2,
      [](JogRun& run) {
        if (frmMain.cmdStopNow.Enabled) StopBy(run, [] { frmMain.cmdStopNow.Press(); });
      }},
-    {"complete", 2,
-     [](JogRun& run) {
-       run.watch->HandGone();
-       frmPosi.Teach.cmdJOGend.Press();
-     }},
+    {"complete", 2, [](JogRun&) { frmPosi.Teach.cmdJOGend.Press(); }, false, true},
 };
 
 constexpr Act kBeside[] = {
@@ -267,6 +227,7 @@ void Plan(JogRun& run, const Act& act, std::int64_t within_us) {
     if (run.voyage.virt.forms.box_stands || !run.watch->runaway.empty()) return;
     if (act.of_held && !HoldButton::Held()) return;
     run.voyage.Note(act.name);
+    if (act.takes_hand) run.watch->HandGone();
     act.act(run);
   });
 }

@@ -1,19 +1,10 @@
-#include <algorithm>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "data/grp_table.h"
 #include "data/sm_table.h"
 #include "forms/frm_grp.h"
-#include "forms/frm_main.h"
-#include "forms/frm_parameta2.h"
 #include "forms/frm_sq_mcr.h"
 #include "forms/frm_system_para.h"
 #include "prog/prog_listing.h"
-#include "state/text.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

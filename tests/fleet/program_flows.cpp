@@ -1,17 +1,8 @@
-#include <algorithm>
 #include <array>
-#include <map>
-#include <string>
-#include <vector>
 
-#include "base/text_helpers.h"
-#include "forms/frm_main.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_undo.h"
-#include "state/text.h"
-#include "state/views.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

@@ -1,13 +1,6 @@
-#include <functional>
-
-#include "core/main_entry.h"
-#include "forms/frm_main.h"
 #include "para/change_device.h"
 #include "para/para_file.h"
-#include "state/text.h"
-#include "state/views.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

@@ -1,13 +1,5 @@
 #include "tests/fleet/states.h"
 
-#include <algorithm>
-#include <string_view>
-
-#include "base/text_helpers.h"
-#include "forms/frm_posi.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_table.h"
-
 namespace tr7 {
 namespace {
 

@@ -1,13 +1,8 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include "device/dev_setting.h"
 #include "sim/controller.h"
-#include "state/app_state.h"
 #include "tests/fleet/voyage.h"
 
 namespace tr7 {

@@ -1,11 +1,4 @@
-#include <string>
-
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
-#include "posi/posi_table.h"
-#include "state/text.h"
 #include "tests/fleet/states.h"
-#include "tests/fleet/voyage.h"
 
 namespace tr7 {
 namespace {

@@ -1,16 +1,8 @@
-#include <algorithm>
-
 #include "forms/frm_compare.h"
-#include "forms/frm_device.h"
-#include "forms/frm_main.h"
 #include "forms/frm_options2.h"
 #include "forms/frm_print_select.h"
 #include "forms/frm_prog_no.h"
-#include "forms/frm_select_posi_no.h"
-#include "forms/frm_selection.h"
-#include "state/text.h"
 #include "tests/fleet/voyage.h"
-#include "tests/support/flow_test.h"
 
 namespace tr7 {
 namespace {
@@ -76,8 +68,7 @@ void AnswerRange(Random& random, SelectPosiNoView& view) {
 void AnswerOptions(Random& random) {
   FrmOptions2& f = frmOptions2;
   for (int tab = 0; tab < 4; ++tab) {
-    f.tabOptions.Selected = tab;
-    f.tabOptions.Click();
+    ClickTab(f.tabOptions, tab);
     if (random.Chance(50)) continue;
     f.chkPortOccupy.Set(!f.chkPortOccupy.Value);
     (random.Chance(50) ? f.optRoundUp : f.optRoundDown).Press();

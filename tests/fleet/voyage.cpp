@@ -1,9 +1,5 @@
 #include "tests/fleet/voyage.h"
 
-#include <algorithm>
-
-#include "state/text.h"
-
 namespace tr7 {
 
 namespace {

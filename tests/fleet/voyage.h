@@ -1,18 +1,11 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <initializer_list>
-#include <map>
-#include <optional>
 #include <set>
 #include <span>
-#include <string>
-#include <vector>
 
 #include "prog/prog_store.h"
 #include "tests/fleet/random.h"
-#include "tests/support/state_test.h"
+#include "tests/support/flow_test.h"
 
 namespace tr7 {
 
@@ -105,7 +98,6 @@ std::span<const Flow> SessionFlows();
 std::span<const Flow> TransferFlows();  ///< reading first
 std::span<const Flow> FileFlows();      ///< new data first
 std::span<const Flow> EditFlows();
-std::span<const Flow> WatchFlows();
 std::span<const Flow> MonitorFlows();
 std::span<const Flow> KindFlows();  ///< of parameters, groups, macros, tuning values, programs
 std::span<const Flow> ProgramFlows();
@@ -115,13 +107,10 @@ std::span<const Flow> ProgramFlows();
 std::vector<ProgView*> ProgramViews();
 ProgView* AnyProgram(Voyage& voyage);
 
-/// Closes the monitors that are open: nothing is sent any more, and no override is left on.
-void LeaveMonitors(Voyage& voyage);
-
 /// The start of the tool, with its choice between online and offline.
 void StartTool(Voyage& voyage);
 
-/// Closes what watches the controller; then nothing of it may go on.
+/// Closes the monitors that are open: nothing is sent any more, and no override is left on.
 void CloseMonitors(Voyage& voyage);
 
 /// What holds between any two flows: commands on, the line shut unless kept, lamp, menus and tabs

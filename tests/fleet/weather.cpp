@@ -1,5 +1,3 @@
-#include <utility>
-
 #include "tests/fleet/voyage.h"
 
 namespace tr7 {

@@ -1,6 +1,3 @@
-#include <string>
-
-#include "state/app_state.h"
 #include "tests/fleet/voyage.h"
 
 namespace tr7 {

@@ -2,15 +2,10 @@
 
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "base/code_page.h"
 #include "base/seq_file.h"
 #include "data/grp_file.h"
-#include "data/grp_table.h"
 #include "data/sm_file.h"
-#include "data/sm_table.h"
 #include "forms/frm_posi.h"
 #include "para/para_file.h"
 #include "para/std_lists.h"

@@ -2,8 +2,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
-#include <string>
 #include <string_view>
 
 #include "data/grp_table.h"

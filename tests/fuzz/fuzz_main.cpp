@@ -1,9 +1,6 @@
 // One program for every target: TR7_FUZZ_TARGET names the one to run.
 
-#include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 
 #include "core/reset_state.h"
 #include "tests/fuzz/targets.h"

@@ -3,9 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "base/text_helpers.h"
 #include "prog/command_list.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "tests/fuzz/file_targets.h"
 #include "tests/fuzz/program_targets.h"
 #include "tests/fuzz/wire_target.h"

@@ -1,13 +1,9 @@
 #pragma once
 
 #include <algorithm>
-#include <cstddef>
-#include <string_view>
 
 #include "data/grp_commands.h"
-#include "data/grp_table.h"
 #include "data/sm_commands.h"
-#include "data/sm_table.h"
 #include "forms/frm_main.h"
 #include "link/motion_commands.h"
 #include "link/port.h"

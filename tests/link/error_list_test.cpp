@@ -1,11 +1,6 @@
 #include "link/error_list.h"
 
-#include <utility>
-
-#include "forms/frm_main.h"
 #include "sim/controller.h"
-#include "state/text.h"
-#include "state/text_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -48,22 +43,6 @@ TEST_F(ErrorListTest, DecodesByUnitAndCode) {
   DecodeCtError("0%%204");
   EXPECT_EQ(AppState.CtErrorName, "a") << "the first row of a code";
   EXPECT_TRUE(forms.boxes.empty());
-}
-
-TEST_F(ErrorListTest, DamagedFilesAreRefusedWhole) {
-  std::string pairs;
-  for (int i = 0; i < 41; ++i) pairs += "\"" + std::to_string(i) + "\",\"text\"\r\n";
-  EXPECT_EQ(Read("40\r\n" + pairs + "40\r\n" + pairs), 0);
-  EXPECT_EQ(Read("-1,-1"), 0);
-  const std::string bad[] = {"", "41\r\n" + pairs + "\"41\",\"text\"\r\n-1\r\n", "-2\r\n-1\r\n",
-                             "0\r\n\"1\",\"a\"\r\n0\r\n\"1\"\r\n",
-                             std::string(kListFileLimit + 1, ' ')};
-  for (const std::string& content : bad) {
-    ASSERT_EQ(Read(kSmall), 0);
-    EXPECT_EQ(Read(content), 1) << content.substr(0, 80);
-    EXPECT_TRUE(ErrorList.ErrListMissing);
-    EXPECT_TRUE(ErrorList.ErrListMain.empty() && ErrorList.ErrListAxis.empty());
-  }
 }
 
 TEST_F(ErrorListTest, ShippedListsKnowWhatTheSimulatorReports) {

@@ -1,12 +1,4 @@
-#include <functional>
-#include <map>
-#include <optional>
-#include <tuple>
-#include <utility>
-
-#include "base/text_helpers.h"
 #include "core/main_entry.h"
-#include "forms/frm_main.h"
 #include "forms/timer.h"
 #include "link/error_list.h"
 #include "link/motion_commands.h"
@@ -17,7 +9,6 @@
 #include "link/tusin_wait.h"
 #include "state/online.h"
 #include "state/progress.h"
-#include "state/text.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -61,11 +52,7 @@ TEST_F(ExchangeTest, ControllerOffFourSendsOneBoxPortShut) {
 }
 
 TEST_F(ExchangeTest, AFaultOfTheLineIsMendedOrToldInItsWords) {
-  struct Second {
-    FaultKind kind;
-    const char* prefix;
-    int at_request;
-  };
+  using Second = std::tuple<FaultKind, const char*, int>;
   const Second none{FaultKind::kSplit, "none", 1}, mute{FaultKind::kDeaf, "0CM0", 1};
   const struct {
     FaultKind first;
@@ -92,7 +79,7 @@ TEST_F(ExchangeTest, AFaultOfTheLineIsMendedOrToldInItsWords) {
     port.Ct().ClearFaults();
     port.Ct().ClearRequests();
     Spoil(row.first, "0RP");
-    Spoil(row.second.kind, row.second.prefix, row.second.at_request);
+    std::apply([this](auto... second) { Spoil(second...); }, row.second);
     const bool good = row.box.empty();
     EXPECT_EQ(Read(), good ? TusinOutcome::Good : TusinOutcome::Failed);
     EXPECT_EQ(SentLines(), row.sent);
@@ -100,15 +87,6 @@ TEST_F(ExchangeTest, AFaultOfTheLineIsMendedOrToldInItsWords) {
     EXPECT_EQ(AppState.Offline, !good);
     EXPECT_EQ(port.IsOpen(), row.open);
   }
-}
-
-TEST_F(ExchangeTest, AnErrorReplyToTheResynchronisationKeepsTheState) {
-  Spoil(FaultKind::kWrongPrefix, "0RP");
-  Spoil(FaultKind::kErrorReply, "0CM0");
-  EXPECT_EQ(Read(), TusinOutcome::Failed);
-  EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n");
-  EXPECT_TRUE(AppState.AlarmOn);
-  EXPECT_FALSE(AppState.Offline);
 }
 
 TEST_F(ExchangeTest, TheGroupMoveStopEndsTheResynchronisation) {
@@ -134,15 +112,6 @@ TEST_F(ExchangeTest, AnAlarmWhilePollingIsShownAtOnce) {
   port.Ct().PowerCycle(pump.NowUs());
   EXPECT_EQ(Read(), TusinOutcome::Good);
   EXPECT_FALSE(AppState.AlarmOn || frmMain.imgAlarm.Visible);
-}
-
-TEST_F(ExchangeTest, AnAlarmUnaskedEndsTheRequestThatWaits) {
-  pump.After(20'000, [this] { port.Ct().RaiseAlarm({'3', '0', '9'}, pump.NowUs(), true); });
-  Spoil(FaultKind::kSilence, "0RP");
-  EXPECT_EQ(Read(), TusinOutcome::Failed);
-  EXPECT_EQ(port.sent, "0RP001\r\n");
-  EXPECT_EQ(forms.LastBox(), Text(104) + "\nError No.9\n[" + AppState.CtErrorName + "]");
-  EXPECT_TRUE(AppState.Offline);
 }
 
 TEST_F(ExchangeTest, APortThatDoesNotOpenIsTriedFourTimesAndTold) {
@@ -196,22 +165,6 @@ TEST_F(ExchangeTest, AStopEndsTheWaitOfACommandWithoutTimeout) {
   EXPECT_NE(StartProgToCt(1), 0);
   EXPECT_EQ(port.sent, "0MG01\r\n0SP\r\n");
   EXPECT_TRUE(forms.boxes.empty());
-}
-
-TEST_F(ExchangeTest, AnAlarmWithoutAListShowsItsNumberAndHintsOnce) {
-  ErrorList = ErrorListRecord{};
-  const std::string words = Text(5921, "9");
-  for (const std::size_t boxes : {2u, 1u}) {
-    SetOnline();
-    forms.boxes.clear();
-    port.Ct().RaiseAlarm({'2', '0', '9'}, pump.NowUs());
-    EXPECT_EQ(Read(), TusinOutcome::Failed);
-    ASSERT_EQ(forms.boxes.size(), boxes);
-    EXPECT_EQ(BoxShown(Text(30) + "\n" + Text(31)), boxes == 2);
-    EXPECT_EQ(forms.LastBox(), Text(104) + "\n[" + words + "]");
-    EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(221) + ":" + words);
-    EXPECT_TRUE(frmMain.imgAlarm.Visible);
-  }
 }
 
 // A wait inside a wait, and what becomes of those that queue.
@@ -344,6 +297,15 @@ TEST_F(ExchangeTest, CancelEndsAWaitAndItsLateReplyIsNobodys) {
   EXPECT_EQ(reply.substr(0, 6), "0RP002");
   EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n0RP002\r\n");
   EXPECT_TRUE(forms.boxes.empty());
+}
+
+TEST_F(ExchangeTest, AnErrorReplyToTheResynchronisationKeepsTheState) {
+  Spoil(FaultKind::kWrongPrefix, "0RP");
+  Spoil(FaultKind::kErrorReply, "0CM0");
+  EXPECT_EQ(Read(), TusinOutcome::Failed);
+  EXPECT_EQ(port.sent, "0RP001\r\n0CM0\r\n");
+  EXPECT_TRUE(AppState.AlarmOn);
+  EXPECT_FALSE(AppState.Offline);
 }
 
 }  // namespace

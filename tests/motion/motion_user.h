@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "motion/motion_now.h"
 #include "tests/support/flow_test.h"
 
@@ -28,11 +25,7 @@ class MotionTest : public FlowTest {
     Forget();
   }
 
-  static void ShowTab(int tab) {
-    TabStrip& strip = frmPosi.SSTabCommand();
-    strip.Selected = tab;
-    strip.Click();
-  }
+  static void ShowTab(int tab) { ClickTab(frmPosi.SSTabCommand(), tab); }
 
   void StartTeaching() {
     frmPosi.Teach.cmdJOGST.Press();

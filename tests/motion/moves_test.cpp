@@ -1,7 +1,6 @@
 // Homing and the moves of the table: their frames, their stops, and what a failing step leaves.
 
 #include "data/grp_table.h"
-#include "forms/frm_main.h"
 #include "tests/motion/motion_user.h"
 
 namespace tr7 {
@@ -47,37 +46,24 @@ TEST_F(MoveTest, HomingIsDoneOnceAndAskedForAgainAfterAnAlarm) {
   EXPECT_FALSE(AppState.HomeDone);
 }
 
-TEST_F(MoveTest, AHomeSensorThatFailsIsToldWithAdvice) {
-  port.Ct().FailNextHoming(1);
-  frmPosi.Move.cmdHome.Press();
-  const Texts boxes = Boxes();
-  ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_EQ(boxes[0].substr(0, 54), "Home sensor could not be detected at homing.\nConfirm t");
-  EXPECT_EQ(std::count(boxes[0].begin(), boxes[0].end(), '\n'), 6);
-  EXPECT_FALSE(AppState.HomeDone);
-}
-
 TEST_F(MoveTest, TheListEndsAtAnEmptyRowAndAtARowThatIsNoNumber) {
-  const struct {
-    std::vector<std::string> list;
-    const char* moved;
-    const char* box;
-  } rows[] = {{{"1", "2", "", "3"}, "0MP001F 0MP002F ", ""},
-              {{"2", "1000"}, "0MP002F ", "Input position No. by decimal(Using 1 to 999)"},
-              {{"0"}, "", "Input position No. by decimal(Using 1 to 999)"},
-              {{}, "", ""}};
   frmPosi.Move.chkRepeat.Set(true);
   List(std::vector<std::string>(kSelectRows, "1"));
   frmPosi.Move.cmdSelectMove.Press();
   EXPECT_EQ(Moved().size(), kSelectRows * 8U) << "a full list ends, also one that repeats";
   EXPECT_TRUE(frmPosi.Move.flgdProgram.IsMarked(kSelectRows, 1));
   frmPosi.Move.chkRepeat.Set(false);
-  for (const auto& row : rows) {
+  const std::tuple<std::vector<std::string>, const char*, const char*> rows[] = {
+      {{"1", "2", "", "3"}, "0MP001F 0MP002F ", ""},
+      {{"2", "1000"}, "0MP002F ", "Input position No. by decimal(Using 1 to 999)"},
+      {{"0"}, "", "Input position No. by decimal(Using 1 to 999)"},
+      {{}, "", ""}};
+  for (const auto& [list, moved, box] : rows) {
     port.sent.clear();
-    List(row.list);
+    List(list);
     frmPosi.Move.cmdSelectMove.Press();
-    EXPECT_EQ(Moved(), row.moved);
-    EXPECT_EQ(Boxes(), *row.box ? Texts{row.box} : Texts{});
+    EXPECT_EQ(Moved(), moved);
+    EXPECT_EQ(Boxes(), *box ? Texts{box} : Texts{});
   }
 }
 
@@ -157,15 +143,6 @@ TEST_F(MoveTest, EscapeEndsAFlowFromItsClickOn) {
   }
 }
 
-TEST_F(MoveTest, ClosingStopsFirstAndAsksThen) {
-  frmPosi.PosiChanged = True;
-  forms.answers = {MsgAnswer::Cancel};
-  pump.After(120'000, [] { EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu)); });
-  frmPosi.Move.cmdMove.Press();
-  EXPECT_TRUE(Acts().ends_with("0MP001F 0SP ")) << Acts();
-  EXPECT_EQ(Boxes(), Texts{Text(391)});
-}
-
 TEST_F(MoveTest, ARangeRepeatsUntilItIsStoppedAndGoesOnAfterAPause) {
   PosiMoveTest& f = frmPosi.Move;
   f.updownStartPosiNo.Set(2);
@@ -185,10 +162,6 @@ TEST_F(MoveTest, ARangeRepeatsUntilItIsStoppedAndGoesOnAfterAPause) {
   f.cmdMove.Press();
   EXPECT_TRUE(Moved().ends_with("0MP003F "));
   EXPECT_EQ(Moved().starts_with("0MP003F"), last == "0MP002F ");
-  port.sent.clear();
-  f.optMoveWay[1].Press();
-  f.cmdMove.Press();
-  EXPECT_EQ(Moved(), "0MP002F ");
 }
 
 TEST_F(MoveTest, AGroupMovesThroughItsRange) {
@@ -202,10 +175,6 @@ TEST_F(MoveTest, AGroupMovesThroughItsRange) {
   f.sldrGrpNo.Set(8);
   f.cmdGrpMove.Press();
   EXPECT_EQ(Boxes(), Texts{"The range of group 8 (No. 0 to 1) is not valid."});
-  AppState.CtMode = True;
-  f.cmdGrpMove.Press();
-  AppState.CtMode = False;
-  EXPECT_EQ(Boxes(), Texts{"The Group Move cannot be executed in the program mode."});
 }
 
 }  // namespace

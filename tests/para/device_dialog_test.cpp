@@ -2,8 +2,6 @@
 
 #include "para/device_dialog.h"
 
-#include "device/device_list.h"
-#include "para/param_set.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -29,22 +27,6 @@ class DeviceDialogTest : public StateTest {
   }
   DeviceView& v = frmDevice2;
 };
-
-TEST_F(DeviceDialogTest, OpensWithTheDevicesInUse) {
-  SetDevice(DevSetting[1], "E35", "L", 150);
-  AppState.AxisMuko = MukoOfMask(7);
-  Ask(v, [&] {
-    EXPECT_EQ(Shown(v, 0), " 28L-100");
-    EXPECT_EQ(Shown(v, 1), "E35L-150");
-    for (int axis = 0; axis < kAxes; ++axis) {
-      EXPECT_EQ(v.chkAxisEnable[axis].Value, axis < 3);
-      EXPECT_EQ(v.framAxis[axis].Enabled, axis < 3);
-    }
-    EXPECT_EQ(Shown(v, 3), "-") << "lists of an absent axis are left alone";
-    v.chkAxisEnable[3].Set(true);
-    EXPECT_EQ(Shown(v, 3), " 28L-100") << "until it comes into use";
-  });
-}
 
 TEST_F(DeviceDialogTest, ASizeOffersItsSpeedsAndTheseTheirStrokes) {
   Ask(v, [&] {
@@ -133,41 +115,7 @@ TEST_F(DeviceDialogTest, AnAxisIsSwitchedToTheOldListAndBack) {
   });
 }
 
-TEST_F(DeviceDialogTest, OnlyTheWritingDialogueBeginsWithOldDevices) {
-  SetDevice(DevSetting[1], " 30", "H", 150);
-  DevSetting[1].NewType = False;
-  Ask(v, [&] { EXPECT_FALSE(v.chkNewOrOld[1].Value); });
-  Ask(frmDevice3, [] {
-    EXPECT_TRUE(frmDevice3.chkNewOrOld[1].Value && !frmDevice3.chkNewOrOld[0].Value);
-    EXPECT_EQ(Shown(frmDevice3, 1), "30H-150");
-    frmDevice3.cmdDeviceSet.Press();
-  });
-  TakeShownDevices(frmDevice3);
-  EXPECT_EQ(DevSettei[1].Size, " 30") << "a size has three characters, whichever list names it";
-  EXPECT_TRUE(DevSettei[1].NewType);
-}
-
 // What leaves the dialogue.
-
-TEST_F(DeviceDialogTest, OkTakesEveryFieldAsNewAndVertical) {
-  AppState.AxisMuko = MukoOfMask(7);
-  SetDevice(DevSettei[3], "old", "", 0);
-  Ask(v, [&] {
-    v.chkNewOrOld[2].Set(true);
-    PickDevice(v, 1, " 42");
-    v.chkDevPgUse[1].Set(true);
-    v.cmdDeviceSet.Press();
-  });
-  EXPECT_TRUE(Boxes().empty()) << "the axes are as they were";
-  EXPECT_EQ(DevSettei[1].Size + DevSettei[1].Speed, " 42L");
-  EXPECT_EQ(DevSettei[1].Stroke, 100);
-  EXPECT_EQ(DevSettei[3].Size, "old");
-  for (int axis = 0; axis < kAxes; ++axis) {
-    EXPECT_EQ(DevSettei[axis].Series, "QV");
-    EXPECT_EQ(DevSettei[axis].WithPG, axis == 1);
-    EXPECT_TRUE(axis == 3 || (DevSettei[axis].NewType && DevSettei[axis].Vertical));
-  }
-}
 
 TEST_F(DeviceDialogTest, OtherAxesAreAskedAbout) {
   const struct {
@@ -197,6 +145,7 @@ TEST_F(DeviceDialogTest, OtherAxesAreAskedAbout) {
     EXPECT_EQ(Boxes(), row.answer ? Texts{Text(1151) + "\n" + Text(1152)} : Texts{});
     EXPECT_EQ(AppState.AxisMuko, MukoOfMask(row.after));
     EXPECT_EQ(ParaFlags.AxisMask, row.wanted);
+    EXPECT_TRUE(DevSettei[0].NewType && DevSettei[0].Vertical);
     EXPECT_EQ(DevSettei[0].Size, " 50") << "taken whatever the answer";
     for (int axis = 0; axis < kAxes; ++axis) {
       EXPECT_TRUE(AppState.AxisMuko[axis] || !DevSettei[axis].Size.empty()) << axis;

@@ -1,9 +1,5 @@
 // Devices written to the controller from the device dialogue, with the bytes on the line.
 
-#include "para/device_write.h"
-
-#include "para/param_set.h"
-#include "posi/posi_table.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -55,8 +51,6 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
     frmDevice3.chkDevPgUse[0].Set(true);
   });
   EXPECT_EQ(SentLines(4), kHeld + kMask + kReadBack + kReadTwoAxes + kWriteTwoAxes + "0CM0 ");
-  EXPECT_EQ(SentLines(8).substr(0, 13), "0RA 0CM01111 ");
-  EXPECT_TRUE(port.sent.ends_with("0CM00000\r\n"));
   EXPECT_EQ(Boxes(), Texts{Text(1527) + "\n\n" + Text(496)}) << "it is to start anew with two axes";
   // The controller has stored the mask, and the device of AXIS1: lead 8, 400 pulses.
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(2, 2), "03");
@@ -65,46 +59,12 @@ TEST_F(DeviceWriteTest, AxesAndParametersGoOutAndComeIntoUse) {
   EXPECT_EQ(ParamSet.Actuator[0], " 42H200");
   EXPECT_EQ(AppState.MaxPulse[0], 10000);
   EXPECT_EQ(frmPosi.lblDeviceType[0]->Caption, "QV- 42H-200E");
-  EXPECT_EQ(virt.settings.Get("Settings", "DevSize1", ""), " 42");
   GoOffline();
   port.Ct().PowerCycle(pump.NowUs());
   asked.clear();
   frmMain.mnuSettingOnline.Press();
   EXPECT_EQ(asked, Texts{}) << "the controller says what was written";
   ExpectOnline();
-  InDialog("frmDevice3", {[] {
-             frmDevice3.chkDevPgUse[1].Set(true);
-             frmDevice3.cmdDeviceSet.Press();
-           }});
-  frmMain.mnuSettingDeviceOnline.Press();
-  EXPECT_TRUE(DevSetting[1].WithPG) << "a PG is a device's as well";
-}
-
-TEST_F(DeviceWriteTest, AFailedStepSaysWhatTheControllerMayHold) {
-  constexpr MsgId kHeld = 6363, kLeft = 6338;  // the next connection releases the axes
-  const struct {
-    const char* prefix;
-    std::vector<MsgId> boxes;  ///< messages that the boxes begin with
-  } rows[] = {{"0CM01111", {104, 377}},
-              {"0WD0", {104, 377, kHeld}},
-              {"0RD7", {104, kHeld, kLeft}},
-              {"0WD4", {104, kHeld, 1528}}};
-  StartOnline();
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.prefix);
-    Spoil(FaultKind::kErrorReply, row.prefix);
-    Write();
-    const bool asks = row.boxes.back() == kLeft;
-    ASSERT_EQ(forms.boxes.size(), row.boxes.size());
-    for (std::size_t i = 0; i < row.boxes.size(); ++i) {
-      EXPECT_TRUE(forms.boxes[i].Text.starts_with(Text(row.boxes[i], "3"))) << i;
-    }
-    asked.clear();
-    if (!asks) port.Ct().PowerCycle(pump.NowUs());
-    if (asks) Choose({1});
-    frmMain.cmdReset.Press();
-    EXPECT_EQ(asked, asks ? Texts{Text(371)} : Texts{}) << "axes that are left are asked about";
-  }
 }
 
 TEST_F(DeviceWriteTest, AValueOfTheControllersOwnThatDoesNotFitPutsTheAxesBack) {
@@ -132,7 +92,6 @@ TEST_F(DeviceWriteTest, ParametersThatCannotBeMadeEndItBeforeTheLine) {
   } rows[] = {
       {"no list", "", {Text(28) + "\n" + Text(29), Text(36)}},
       {"no row", header + "0,13\r\n", {Text(36) + "\n\n" + Text(6340, "AXIS1", " 42H-200")}},
-      {"a value out of range", With(good, "\" 42H-200\",100", "\" 42H-200\",0"), {misfit}},
       {"axes with a gap", good, {misfit}, 5},
   };
   StartOnline();
@@ -179,37 +138,6 @@ TEST_F(ThreeAxesWriteTest, AWriteBegunOfflineAsksForTheControllersAxesAndEndsOff
   EXPECT_EQ(DevSetting[0].Size, " 42");
   EXPECT_EQ(AppState.AxisMuko, MukoOfMask(3));
   ExpectOffline();
-}
-
-TEST_F(ThreeAxesWriteTest, OtherAxesAskForAPowerCycle) {
-  StartOnline();
-  Write([] {});
-  EXPECT_EQ(Boxes(), Texts{Text(1527)});
-  Write();
-  EXPECT_EQ(Boxes(), Texts{Text(1527) + "\n\n" + Text(496)});
-  Write();
-  EXPECT_EQ(Boxes(), Texts{Text(424)});
-  port.Ct().PowerCycle(pump.NowUs());
-  Write();
-  EXPECT_EQ(Boxes(), Texts{Text(1527)});
-}
-
-TEST_F(DeviceWriteTest, TheDialogueRestsWhileItWrites) {
-  StartOnline();
-  int looks = 0;
-  pump.After(300'000, [&] {
-    ++looks;
-    EXPECT_TRUE(AppState.ComBusy);
-    EXPECT_FALSE(frmDevice3.cmdDeviceCancel.Enabled || frmDevice3.cmdPrmCtWrite.Enabled ||
-                 frmDevice3.framAxis[0].Enabled);
-    EXPECT_FALSE(CloseView(frmDevice3, CloseReason::ControlMenu));
-  });
-  Write(ChooseTwoAxes, [] {
-    EXPECT_TRUE(frmDevice3.framAxis[1].Enabled && frmDevice3.cmdSyosai.Enabled);
-    EXPECT_FALSE(frmDevice3.framAxis[2].Enabled) << "an axis not in use stays off";
-    frmDevice3.cmdDeviceCancel.Press();
-  });
-  EXPECT_EQ(looks, 1);
 }
 
 TEST_F(DeviceWriteTest, InTheMillimetreViewTheUserIsWarned) {

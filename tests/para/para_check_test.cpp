@@ -1,6 +1,5 @@
 #include "para/para_check.h"
 
-#include "para/param_set.h"
 #include "para/std_lists.h"
 #include "tests/support/state_test.h"
 
@@ -66,33 +65,17 @@ TEST_F(ParaCheck, AxisMasks) {
 }
 
 TEST_F(ParaCheck, Actuators) {
-  const struct {
-    const char *text, *size, *speed;
-    std::int16_t stroke;
-    int result;
-  } rows[] = {{"E35L000", "E35", "L", 0, 0},     {"E35L600", "E35", "L", 600, 0},
-              {"E35L601", "E35", "L", 601, 1},   {"E35L-01", "E35", "L", -1, 1},
-              {"", "E35", "L", 100, 1},          {"35L100", "35", "L", 100, 1},
-              {"E355L100", "E355", "L", 100, 1}, {"E35100", "E35", "", 100, 1}};
-  for (const auto& row : rows) {
-    ParamSet.Actuator[2] = row.text;
-    ParamSet.ActSize[2] = row.size;
-    ParamSet.ActSpeed[2] = row.speed;
-    ParamSet.ActStroke[2] = row.stroke;
-    EXPECT_EQ(ParametaValueCheck(), row.result) << row.text;
-  }
-}
-
-TEST_F(ParaCheck, AxesNotInUseDoNotCount) {
-  const struct {
-    std::int16_t shown;  ///< as the parameter view has been set; 0: not
-    int axis;
-    int result;
-  } rows[] = {{0, 3, 0}, {0, 2, 1}, {2, 2, 0}, {2, 1, 1}, {4, 3, 1}};
-  AppState.AxisMuko = MukoOfMask(7);
-  for (const auto& row : rows) {
-    ParaFlags.ShownAxisCount = row.shown;
-    EXPECT_EQ(CheckWith(1, row.axis, 0), row.result) << row.shown << " " << row.axis;
+  const std::tuple<const char*, const char*, const char*, std::int16_t, int> rows[] = {
+      {"E35L000", "E35", "L", 0, 0},     {"E35L600", "E35", "L", 600, 0},
+      {"E35L601", "E35", "L", 601, 1},   {"E35L-01", "E35", "L", -1, 1},
+      {"", "E35", "L", 100, 1},          {"35L100", "35", "L", 100, 1},
+      {"E355L100", "E355", "L", 100, 1}, {"E35100", "E35", "", 100, 1}};
+  for (const auto& [text, size, speed, stroke, result] : rows) {
+    ParamSet.Actuator[2] = text;
+    ParamSet.ActSize[2] = size;
+    ParamSet.ActSpeed[2] = speed;
+    ParamSet.ActStroke[2] = stroke;
+    EXPECT_EQ(ParametaValueCheck(), result) << text;
   }
 }
 
@@ -113,6 +96,19 @@ TEST_F(ParaCheck, TheDirectWriteLooksAtFewerRows) {
     EXPECT_EQ(CheckParaFromStd(), row.result) << row.row << " " << row.value;
     AppState.AxisMuko[3] = True;
     EXPECT_EQ(CheckParaFromStd(), axis == 3 ? 0 : row.result) << row.row << " of an absent axis";
+  }
+}
+
+TEST_F(ParaCheck, AxesNotInUseDoNotCount) {
+  const struct {
+    std::int16_t shown;  ///< as the parameter view has been set; 0: not
+    int axis;
+    int result;
+  } rows[] = {{0, 3, 0}, {0, 2, 1}, {2, 2, 0}, {2, 1, 1}, {4, 3, 1}};
+  AppState.AxisMuko = MukoOfMask(7);
+  for (const auto& row : rows) {
+    ParaFlags.ShownAxisCount = row.shown;
+    EXPECT_EQ(CheckWith(1, row.axis, 0), row.result) << row.shown << " " << row.axis;
   }
 }
 

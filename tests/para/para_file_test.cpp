@@ -2,14 +2,11 @@
 
 #include <set>
 
-#include "device/device_list.h"
-#include "forms/frm_parameta2.h"
 #include "para/para_actuator.h"
 #include "para/para_axis_show.h"
 #include "para/para_content.h"
 #include "para/para_file_flow.h"
 #include "para/para_show.h"
-#include "para/param_set.h"
 #include "para/std_lists.h"
 #include "tests/support/state_test.h"
 
@@ -20,17 +17,13 @@ const std::string kPath = "/data/job.pmt";
 
 /// A file whose every item tells its axis and its row.
 std::string NumberedFile() {
-  const struct {
-    const char* tag;
-    int first, last;
-  } sections[] = {
+  const std::tuple<const char*, int, int> sections[] = {
       {"HOME", 1, 6}, {"AXIS", 7, 13}, {"PG", 14, 15}, {"ETC", 16, 24}, {"SPECIAL", 25, 34}};
   const std::set<int> one_value{16, 17, 18, 19, 25, 26, 27, 31, 32, 33, 34};
   std::string text = "\"QV-R7\",\"PRM\"\r\n5\r\n";
-  for (const auto& section : sections) {
-    text += std::string("\"") + section.tag + "\"," +
-            std::to_string(section.last - section.first + 1) + ",4\r\n";
-    for (int row = section.first; row <= section.last; ++row) {
+  for (const auto& [tag, first, last] : sections) {
+    text += std::string("\"") + tag + "\"," + std::to_string(last - first + 1) + ",4\r\n";
+    for (int row = first; row <= last; ++row) {
       const std::string n = std::to_string(row / 10) + std::to_string(row % 10);
       text += "1" + n +
               (one_value.contains(row) ? ",0,0,0\r\n" : ",2" + n + ",3" + n + ",4" + n + "\r\n");
@@ -109,62 +102,7 @@ TEST_F(ParaFile, ADamagedFileSaysWhere) {
   EXPECT_TRUE(forms.boxes.empty()) << "the caller tells";
 }
 
-TEST_F(ParaFile, AFileOfAnotherKindIsTold) {
-  for (const bool positions : {false, true}) {
-    EXPECT_EQ(Read(positions ? "\"QV-R7\"\r\n\"QV- 28L-100\",\"\"" : "\"QV-R8\",\"PRM\",5"), 1);
-    EXPECT_TRUE(ParaFlags.ParaFileBad);
-    EXPECT_EQ(ParaFlags.FileFaultText, "");
-    const std::string reason =
-        positions ? "\n\n" + std::string("The file \"job.pmt\" is a position data file.") : "";
-    EXPECT_EQ(Boxes(), Texts{Text(22) + "\n" + Text(20) + reason});
-    EXPECT_EQ(Slot(0), "") << "no file was read";
-  }
-}
-
-TEST_F(ParaFile, AnImpossibleValueIsNamedByItsRow) {
-  const struct {
-    const char *item, *other;
-    int row;
-  } rows[] = {{"101,", "101,", 0},          {"401", "", 0},
-              {"402", "40000", 2},          {"309", "9e9", 9},
-              {"\" 28L100\"", "7", 0},      {"\r\n131", "\r\nB", 31},
-              {"134,0,0,0", "134,x,y,z", 0}};
-  for (const auto& row : rows) {
-    ASSERT_EQ(Read(With(kLines, row.item, row.other)), 0);
-    EXPECT_EQ(RefusedParaRow(), row.row) << row.other;
-  }
-}
-
 // The file from which devices are taken.
-
-TEST_F(ParaFile, ForDevicesFourAttemptsAreMade) {
-  const ParamSetRecord before = ParamSet;
-  const std::string failed = Text(681) + "\n\n", not_ours = Text(22) + "\n" + Text(20);
-  const struct {
-    std::string bytes;
-    int pauses;  ///< of 100 ms
-    Texts boxes;
-  } rows[] = {{"not, one, of ours", 3, {not_ours, not_ours, not_ours, not_ours, Text(681)}},
-              // Another attempt would read the same.
-              {With(kLines, "\r\n134", "\r\n40000"), 0, {failed + Text(6151, "PPUT Write")}}};
-  for (const auto& row : rows) {
-    virt.files.Put(kPath, row.bytes);
-    forms.file_answers = {kPath};
-    const std::int64_t start_us = pump.NowUs();
-    EXPECT_EQ(OpenParaForDevice(), 1);
-    EXPECT_EQ((pump.NowUs() - start_us) / 100'000, row.pauses);
-    EXPECT_EQ(Boxes(), row.boxes);
-    EXPECT_TRUE(ParaFlags.ParaFileBad);
-    EXPECT_EQ(ParamSet, before);
-  }
-  virt.files.Put(kPath, kLines);
-  virt.files.FailAt(1, FileFault::Other);
-  forms.file_answers = {kPath};
-  EXPECT_EQ(OpenParaForDevice(), 0) << "a fault that passes";
-  EXPECT_FALSE(ParaFlags.ParaFileBad);
-  EXPECT_EQ(Boxes(), Texts{});
-  EXPECT_EQ(ParamSet.PputWrite, 134);
-}
 
 // The parameter view, saved and opened.
 
@@ -221,27 +159,12 @@ TEST_F(ParaFileFlow, SavedOpenedAndSavedAgainIsTheSame) {
 TEST_F(ParaFileFlow, OnlyAWholeAndGoodViewIsSaved) {
   f.lblAxis[3].Caption = "AXIS4";
   f.lblHomePush.Caption = "PUSH";
+  f.comboActSize[0].ListIndex = -1;  // behind it in the order of the Tab key
   f.txtHomePush[3].Text.clear();
   EXPECT_EQ(Save(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(7) + "\n" + Text(8) + "\n\nAXIS4 PUSH"});
-  const struct {
-    std::function<void()> change;
-    const Control* field;  ///< the first in the order of the Tab key that is empty
-  } rows[] = {{[] {}, &f.txtHomePush[3]},
-              {[&] { f.comboActSize[0].ListIndex = -1; }, &f.txtHomePush[3]},
-              {[&] { f.txtHomeOffset[3].Text.clear(); }, &f.txtHomeOffset[3]},
-              {[&] {
-                 f.comboActSize[0].ListIndex = 0;
-                 f.txtHomeOffset[3].Text = f.txtHomePush[3].Text = "1";
-                 f.txtZoneSet1[1].Text.clear();
-               },
-               &f.txtMmZone1[1]}};  // which the pulses follow
-  for (const auto& row : rows) {
-    row.change();
-    EXPECT_EQ(Save(), 1);
-    EXPECT_EQ(forms.focus, row.field);
-  }
-  f.txtZoneSet1[1].Text = "100";
+  EXPECT_EQ(forms.focus, &f.txtHomePush[3]);
+  f.comboActSize[0].ListIndex = 0;
   f.txtHomePush[3].Text = "256";
   EXPECT_EQ(Save(), 1);
   EXPECT_EQ(Boxes(), Texts{Text(9) + "\n" + Text(10)});
@@ -252,16 +175,6 @@ TEST_F(ParaFileFlow, OnlyAWholeAndGoodViewIsSaved) {
     EXPECT_EQ(Boxes(), Texts{});
   }
   EXPECT_TRUE(ParaIsChanged());
-}
-
-TEST_F(ParaFileFlow, AFailedSaveIsTold) {
-  virt.files.Put(kPath, "old");
-  f.txtHomePush[3].Text = "255";
-  virt.files.FailAt(2, FileFault::DiskFull);
-  EXPECT_EQ(Save(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(13) + "\n\n" + Text(5912, "job.pmt")});
-  EXPECT_TRUE(ParaFlags.ParaFileWriteFailed && ParaIsChanged());
-  EXPECT_EQ(Saved(), "old");
 }
 
 TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
@@ -284,6 +197,16 @@ TEST_F(ParaFileFlow, AFileThatCannotBeOpenedChangesNothing) {
   Open();
   EXPECT_FALSE(ParaFlags.ParaFileBad);
   EXPECT_EQ(f.txtHomeOffset[0].Text, "400");
+}
+
+TEST_F(ParaFileFlow, AFailedSaveIsTold) {
+  virt.files.Put(kPath, "old");
+  f.txtHomePush[3].Text = "255";
+  virt.files.FailAt(2, FileFault::DiskFull);
+  EXPECT_EQ(Save(), 1);
+  EXPECT_EQ(Boxes(), Texts{Text(13) + "\n\n" + Text(5912, "job.pmt")});
+  EXPECT_TRUE(ParaFlags.ParaFileWriteFailed && ParaIsChanged());
+  EXPECT_EQ(Saved(), "old");
 }
 
 }  // namespace

@@ -1,13 +1,8 @@
 // The parameter view's buttons, from the click to the controller's memory.
 
-#include "forms/frm_parameta2.h"
 #include "para/para_content.h"
 #include "para/para_file.h"
-#include "para/para_show.h"
 #include "para/para_verify.h"
-#include "para/param_set.h"
-#include "posi/posi_log.h"
-#include "state/message_box.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -107,11 +102,7 @@ TEST_F(ParaFlows, AWriteThatFailsTellsWhatTheControllerHas) {
   using enum qvr7sim::FaultKind;
   const std::string all = Text(6511, Text(6520, "0"), Text(6521, "D", "AXIS4"));
   const std::string some = Text(6511, Text(6520, "0"), Text(6521, "4", "AXIS1"));
-  const struct {
-    qvr7sim::FaultKind fault;
-    const char* at;
-    std::string told;
-  } rows[] = {
+  const std::tuple<qvr7sim::FaultKind, const char*, std::string> rows[] = {
       {kErrorReply, "0WD0", Text(6512, Text(6520, "0")) + "\n" + Text(6514)},
       {kErrorReply, "0WD5",
        Text(6510, some) + "\n" + Text(6512, Text(6521, "5", "AXIS2")) + "\n" + Text(6515)},
@@ -163,12 +154,6 @@ TEST_F(ParaFlows, AVerificationNamesWhatDiffers) {
   ASSERT_EQ(WriteParaFile(path), 0);
   EXPECT_EQ(Press(f.cmdConpareCT), Texts{Text(826)});
   EXPECT_EQ(Press(f.cmdConpareFile, {Ok}), (Texts{Text(679), Text(826)}));
-  UseAxes(7);  // the view has an axis more than those in use, which alone are read
-  forms.answers = {Ok};
-  f.comboOneAxis.Pick(3);
-  f.comboOneAxis.LostFocus();
-  EXPECT_EQ(Press(f.cmdConpareCT), Texts{Text(826)});
-  UseAxes(kAllAxes);
   for (const int axis : {0, 2}) Type(f.txtHomeOffset[axis], "123");
   Pick(f.comboActSize[0], " 42");
   f.comboPgFunc[3].Pick(1);
@@ -181,18 +166,6 @@ TEST_F(ParaFlows, AVerificationNamesWhatDiffers) {
       "<Etc Parameter> :HOME OUT,IN-P WID(3),\n<SP Parameter> :PPUT Write\n";
   EXPECT_EQ(Press(f.cmdConpareCT), Texts{report});
   EXPECT_EQ(Press(f.cmdConpareFile, {Ok}).back(), report);
-  virt.files.Put(path, "\"QV-R7\",\"GRP\"\r\n5\r\n");
-  EXPECT_EQ(Press(f.cmdConpareFile, {Ok}).back().substr(0, 30), Text(681));
-}
-
-TEST_F(ParaFlows, WhatIsPrintedAndLogged) {
-  AppState.DispMmUnit = AppState.AxisMuko[1] = True;
-  TorikomiParametaValue();
-  ParaFromViewToTable();
-  EXPECT_EQ(TextOf(ParaTable[0][kRowStroke]) + TextOf(ParaTable[0][36]), "100.000 28");
-  EXPECT_EQ(WriteLogToFile(), 0);
-  EXPECT_EQ(virt.files.Content(virt.files.program_folder + "/TR7V162Log.txt"),
-            "QV-TR7 Log File\r\nPOS MODE\r\n0,,0,0\r\n");
 }
 
 }  // namespace

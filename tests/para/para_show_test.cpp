@@ -1,13 +1,9 @@
 #include "para/para_show.h"
 
 #include <regex>
-#include <utility>
 
-#include "base/text_helpers.h"
-#include "device/device_list.h"
 #include "para/para_actuator.h"
 #include "para/para_axis_show.h"
-#include "para/para_columns.h"
 #include "para/para_content.h"
 #include "para/std_lists.h"
 #include "tests/support/state_test.h"
@@ -78,43 +74,6 @@ TEST_F(ParaShow, PulsesFinerThanAMicrometreKeepTheirCount) {
   EXPECT_EQ(f.txtMmZone1[0].Text, "  0.002");
   TorikomiParametaValue();
   EXPECT_EQ(ParamSet.Zone1[0], 100);
-}
-
-TEST_F(ParaShow, WithoutLeadAndPulseThereIsNoMm) {
-  ParamSet.AxisLead[0] = 0;
-  ParamSet.AxisPulse[1] = 0;
-  ParametaHyoji();
-  for (const int axis : {0, 1}) EXPECT_EQ(f.txtAxisMmStroke[axis].Text, "");
-  f.txtAxisMmStroke[1].Text = "55";
-  TorikomiParametaValue();
-  EXPECT_EQ(ParamSet.AxisStroke[0], 20000);
-  EXPECT_EQ(ParamSet.AxisStroke[1], 20000);  // nothing can be converted: both stay
-  EXPECT_EQ(f.txtAxisMmStroke[1].Text, "55");
-}
-
-TEST_F(ParaShow, AxesNotInUseAreEmptyOffAndLeftAlone) {
-  AppState.AxisMuko = MukoOfMask(5);
-  const ParamSetRecord before = ParamSet;
-  ParametaHyoji();
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const bool live = axis % 2 == 0;
-    for (const ParaTextField& field : ParaTextFields()) {
-      if (!IsAxisRow(field.Row)) continue;
-      const TextBox& box = ParaControl(field.Place, axis);
-      EXPECT_EQ(box.Text.empty(), !live) << box.Name;
-      EXPECT_EQ(box.Enabled, live && field.MaxLength > 0 && field.Row < 25) << box.Name;
-    }
-    for (const ComboBox* list : {&f.comboAxisAutoDrv[axis], &f.comboActSize[axis]}) {
-      EXPECT_TRUE(list->Enabled == live && (list->ListIndex >= 0) == live) << list->Name;
-    }
-    EXPECT_TRUE(f.txtMmZone1[axis].Enabled == live && f.txtMmZone1[axis].Text.empty() != live);
-  }
-  f.txtHomeOffset[3].Text = f.txtHomeOffset[2].Text = "9";
-  TorikomiParametaValue();
-  EXPECT_EQ(ParamSet.Actuator, before.Actuator);
-  EXPECT_EQ(ParamSet.AxisStroke, before.AxisStroke);
-  EXPECT_EQ(ParamSet.HomeOffset[3], before.HomeOffset[3]);
-  EXPECT_EQ(ParamSet.HomeOffset[2], 9);
 }
 
 TEST_F(ParaShow, EveryFieldOfALiveAxisMustHoldSomething) {

@@ -1,11 +1,9 @@
 // The parameter memory in blocks: the place of every row, and the bytes that carry it both ways.
 
 #include "device/ct_device.h"
-#include "link/port.h"
 #include "para/para_blocks.h"
 #include "para/para_check.h"
 #include "para/para_transfer_commands.h"
-#include "state/message_box.h"
 #include "steps/outcome.h"
 #include "tests/support/link_test.h"
 
@@ -82,7 +80,6 @@ TEST_F(BlocksTest, DeviceTexts) {
     EXPECT_EQ(table[1][kRowActuator], Variant(set.Actuator[1]));
     return blocks[7].substr(16, 8);
   };
-  EXPECT_EQ(encoded(" 28", "L", 100), "28L 6400");
   EXPECT_EQ(encoded(" 42", "D", 600), "42D 5802");
   EXPECT_EQ(encoded("E35", "L", 255), "35E FF00");
   for (const char* size : {"E35", "A28"}) EXPECT_EQ(encoded(size, "H", 100), "refused");
@@ -100,36 +97,6 @@ TEST_F(BlocksTest, ReadsAllBlocks) {
   EXPECT_EQ(ParamSet.SmTimer, 30);
   EXPECT_EQ(ParamSet.AxisLead, (AxisArray<std::int16_t>{2, 6, 8, 4}));
   EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
-}
-
-TEST_F(BlocksTest, AxesNotInUseAreSkippedAndZeroed) {
-  Axes(true, false, true, false);
-  ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
-  EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD8 0RD9 0RDA");
-  EXPECT_EQ(ParaTable[0][kRowLead], Variant(2.0));
-  EXPECT_EQ(ParaTable[1][kRowLead], Variant(0.0));
-  EXPECT_EQ(ParaTable[1][kRowActuator], Variant(std::string()));
-  EXPECT_EQ(ParaTable[1][6], Variant(0.0)) << "its place is in a block that was read";
-  EXPECT_EQ(ParaTable[2][6], Variant(3.0));
-}
-
-TEST_F(BlocksTest, DataThatMakesNoSenseLeavesTheTableWhole) {
-  ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
-  const ParaTableRecord before = ParaTable;
-  const std::string device = port.Ct().WrittenBlock(7), home = port.Ct().WrittenBlock(2);
-  const std::function<void()> rows[] = {
-      [&] { Spoil(FaultKind::kChangedByte, "0RD7", 3); },  // the name of another block
-      [&] { PlantBlock(7, std::string(device).replace(2, 2, "0G")); },
-      [&] {
-        PlantBlock(7, device);
-        PlantBlock(2, std::string(home).replace(8, 4, "8000"));  // a speed beyond its row
-      }};
-  for (const auto& spoil : rows) {
-    spoil();
-    EXPECT_EQ(ReadParaFromCt(), Outcome::Failed);
-    EXPECT_EQ(ParaTable, before);
-    EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-  }
 }
 
 // Writing.
@@ -182,21 +149,6 @@ TEST_F(BlocksTest, AxesThatAreNotLiveKeepTheirBlocks) {
   ParaFlags.ShownAxisCount = 2;
   EXPECT_EQ(WriteParaToCt(), Outcome::Done);
   EXPECT_NE(Commands().find("0WD7"), std::string::npos);
-}
-
-TEST_F(BlocksTest, WhatEndsAWriteIsTold) {
-  Take();
-  Spoil(FaultKind::kChangedByte, "0WD5", 3);
-  EXPECT_EQ(WriteParaToCt(), Outcome::Failed);
-  EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
-  EXPECT_TRUE(Commands().ends_with("0WD5"));
-  ParamSet.JogVel[2] = -1;
-  EXPECT_EQ(WriteAxesAndParaToCt(), Outcome::Failed);
-  EXPECT_EQ(Boxes(), Texts{Text(6180, "JOGVEL(3)")});
-  EXPECT_EQ(Commands().find("0WD"), std::string::npos) << "nothing goes out";
-  Spoil(FaultKind::kChangedByte, "0WD0", 3);
-  EXPECT_EQ(WriteAxisPatternToCt(7), 1);
-  EXPECT_EQ(Boxes(), Texts{TwoLines(384, 385)});
 }
 
 TEST_F(BlocksTest, TheAxisMaskGoesOutInAFormOfItsOwn) {

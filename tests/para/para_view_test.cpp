@@ -1,21 +1,12 @@
-#include <deque>
-
-#include "base/text_helpers.h"
-#include "device/device_list.h"
-#include "forms/frm_main.h"
-#include "para/para_after_device.h"
+#include "forms/frm_stroke_calc.h"
 #include "para/para_columns.h"
-#include "para/para_content.h"
 #include "para/para_fields.h"
 #include "para/para_show.h"
 #include "para/std_lists.h"
-#include "state/busy_scope.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
 namespace {
-
-constexpr std::int64_t kMs = 1000;
 
 /// The open view over a set from the standard lists: " 28L-100", lead 2, 400 pulses.
 class ParaView : public StateTest {
@@ -66,26 +57,6 @@ TEST_F(ParaView, AFieldTakesDigitsWithinItsRange) {
   EXPECT_EQ(forms.beeps, 0);
 }
 
-TEST_F(ParaView, TheStatusBarTellsTheRangeAndARefusal) {
-  f.txtHomePush[0].GotFocus();
-  EXPECT_EQ(Panel(), "Input range: 1 to 255");
-  f.txtHomePush[0].Type("999");
-  f.txtHomePush[0].LostFocus();
-  const std::string refusal = "AXIS1 PUSH  Home push: Input range: 1 to 255 (Ctrl+Z: back to 60)";
-  f.txtHomeVel[0].GotFocus();  // the refusal stays readable
-  EXPECT_EQ(Panel(), refusal);
-  f.txtHomeVel[0].LostFocus();
-  EXPECT_EQ(Panel(), "");
-  f.txtMmZone1[0].GotFocus();
-  EXPECT_EQ(Panel(), "Input range: 0 to 100");
-  AppState.AlarmOn = True;
-  f.txtAxisMmStroke[0].GotFocus();
-  EXPECT_EQ(Panel(), "Input range: 0 to 100");  // an alarm in its place would stay
-  AppState.AlarmOn = False;
-  f.txtAxisMmStroke[0].GotFocus();
-  EXPECT_EQ(Panel(), "Input range: 0 to 1310.715");
-}
-
 TEST_F(ParaView, UndoBringsBackWhatARefusedFieldHeld) {
   for (TextBox* box : {&f.txtHomePush[1], &f.txtAxisStroke[0], &f.txtMmZone1[2]}) {
     const std::string former = Trim(box->Text);
@@ -104,71 +75,20 @@ TEST_F(ParaView, UndoBringsBackWhatARefusedFieldHeld) {
   EXPECT_FALSE(f.txtHomePush[1].Text.empty() || f.txtHomePush[1].Undo()) << "another set's";
 }
 
-TEST_F(ParaView, EnterGoesToTheNextFieldThatIsOn) {
-  AppState.AxisMuko[3] = True;
-  YukoJikuHyojiSettei();
-  const std::pair<TextBox&, Control*> rows[] = {
-      {f.txtHomeOffset[2], &f.txtHomePush[0]},
-      {f.txtJogHighVel[2], &f.comboAxisAutoDrv[0]},
-      {f.txtMmZone1[2], &f.txtMmZone2[0]},
-      {f.txtPushHoldTime[2], &f.txtHomeOffset[0]}};  // behind lies the locked group
-  for (const auto& [from, next] : rows) {
-    from.Enter();
-    EXPECT_EQ(forms.focus, next) << from.Name;
-  }
-}
-
-TEST_F(ParaView, LengthsInMmDemandTheirInputs) {
-  const auto told = [this](const char* lead, const char* pulses, TextBox& box) {
-    f.txtAxisLead[1].Type(lead);
-    f.txtAxisPulse[1].Type(pulses);
-    Enter(box, "10");
-    EXPECT_EQ(box.Text, "");
-    Leave(box);  // an empty field demands nothing
-    return Boxes();
-  };
-  const Texts no_scale{Text(694) + "\n" + Text(695)};
-  EXPECT_EQ(told("", "400", f.txtAxisMmStroke[1]), no_scale);
-  EXPECT_EQ(told("2", "", f.txtMmZone1[1]), no_scale);
-  EXPECT_EQ(told("2", "400", f.txtMmZone2[1]), Texts{Text(696) + "\n" + Text(697)}) << "no stroke";
-  AppState.AxisMuko[1] = True;
-  YukoJikuHyojiSettei();
-  f.txtMmZone1[1].Text = "10";
-  Leave(f.txtMmZone1[1]);  // of an axis not in use: nothing happens
-  EXPECT_EQ(Boxes(), Texts{});
-}
-
-TEST_F(ParaView, AZoneLiesWithinTheWholeMillimetresOfTheStroke) {
-  Enter(f.txtAxisMmStroke[0], "99.5");
-  for (const char* typed : {"0", "99", "99.005", "100"}) {
-    const bool good = Val(typed) <= 99;
-    forms.beeps = 0;
-    Enter(f.txtMmZone2[0], typed);
-    EXPECT_EQ(f.txtMmZone2[0].Text.empty(), !good) << typed;
-    EXPECT_EQ(f.txtZoneSet2[0].Text.empty(), !good) << typed;
-    EXPECT_EQ(forms.beeps, good ? 0 : 1) << typed;
-  }
-  // The field takes what the check of the whole set then refuses.
-  Enter(f.txtMmZone1[0], "0.02");
-  EXPECT_EQ(f.txtZoneSet1[0].Text, "4");
-}
-
 TEST_F(ParaView, PulsesAndScaleKeepTheLengthsInStep) {
-  const struct {
-    TextBox& box;
-    const char *typed, *pulses, *mm;
-  } rows[] = {{f.txtAxisStroke[0], "12345", "12345", " 61.725"},  // what counts is the mm field
-              {f.txtAxisLead[0], "4", "6172", " 61.725"},
-              {f.txtAxisLead[0], "2", "12345", " 61.725"},  // there and back loses nothing
-              {f.txtAxisStroke[0], "999999", "", ""},
-              {f.txtAxisLead[0], "", "", ""},
-              {f.txtAxisStroke[0], "20000", "20000", ""},
-              {f.txtAxisLead[0], "2", "20000", "100.000"},  // now it can be told
-              {f.txtAxisMmStroke[0], "", "", ""}};
-  for (const auto& row : rows) {
-    Enter(row.box, row.typed);
-    EXPECT_EQ(f.txtAxisStroke[0].Text, row.pulses) << row.typed;
-    EXPECT_EQ(f.txtAxisMmStroke[0].Text, row.mm) << row.typed;
+  const std::tuple<TextBox&, const char*, const char*, const char*> rows[] = {
+      {f.txtAxisStroke[0], "12345", "12345", " 61.725"},  // what counts is the mm field
+      {f.txtAxisLead[0], "4", "6172", " 61.725"},
+      {f.txtAxisLead[0], "2", "12345", " 61.725"},  // there and back loses nothing
+      {f.txtAxisStroke[0], "999999", "", ""},
+      {f.txtAxisLead[0], "", "", ""},
+      {f.txtAxisStroke[0], "20000", "20000", ""},
+      {f.txtAxisLead[0], "2", "20000", "100.000"},  // now it can be told
+      {f.txtAxisMmStroke[0], "", "", ""}};
+  for (const auto& [box, typed, pulses, mm] : rows) {
+    Enter(box, typed);
+    EXPECT_EQ(f.txtAxisStroke[0].Text, pulses) << typed;
+    EXPECT_EQ(f.txtAxisMmStroke[0].Text, mm) << typed;
   }
 }
 
@@ -245,61 +165,67 @@ TEST_F(ParaView, ClosingOffersToSave) {
   EXPECT_EQ(ParamSet.HomePush[0], 60);
 }
 
-TEST_F(ParaView, OpeningAFileOffersToSave) {
-  f.txtHomePush[0].Type("77");
-  forms.answers = {MsgAnswer::Cancel};
-  f.cmdReadParaFile.Press();
-  EXPECT_EQ(Boxes(), Texts{Text(6450)});
-  EXPECT_TRUE(forms.file_dialogs.empty());
-  forms.answers = {MsgAnswer::No};
-  forms.file_answers = {std::nullopt};
-  f.cmdReadParaFile.Press();
-  EXPECT_EQ(forms.file_dialogs.size(), 1u);
-}
-
-TEST_F(ParaView, AFlowHoldsTheViewOpenAndMayBringOtherAxes) {
-  std::optional<CommandsOff> flow(std::in_place);
-  for (Control* control : f.Controls) {
-    const bool can_act = dynamic_cast<CommandButton*>(control) || dynamic_cast<TextBox*>(control) ||
-                         dynamic_cast<ComboBox*>(control) || dynamic_cast<CheckBox*>(control);
-    EXPECT_FALSE(can_act && control->Enabled) << control->Name;
+class StrokeCalc : public StateTest {
+ protected:
+  StrokeCalc() {
+    ShowView(frmParameta2);
+    for (int axis = 0; axis < kAxes; ++axis) {
+      p.txtAxisLead[axis].Type("2");
+      p.txtAxisPulse[axis].Type("400");
+    }
   }
-  EXPECT_FALSE(CloseView(f, CloseReason::ControlMenu));
-  AppState.AxisMuko = MukoOfMask(3);
-  flow.reset();
-  EXPECT_EQ(f.txtHomePush[2].Text, "");
-  EXPECT_FALSE(ParaIsChanged()) << "nobody typed it";
-  AppState.AxisMuko = MukoOfMask(7);
-  AllViewsCmdYuko();
-  EXPECT_EQ(f.txtHomePush[2].Text, "60");
-  EXPECT_FALSE(ParaIsChanged());
-  EXPECT_TRUE(CloseView(f, CloseReason::ControlMenu));
+  /// Opens the dialogue; `use` is what the user does in it.
+  template <typename Use>
+  void Open(Use use) {
+    forms.on_modal["frmStrokeCalc"] = [use](View&) {
+      use();
+      frmStrokeCalc.cmdClose.Press();
+    };
+    p.cmdCalculate.Press();
+  }
+  static std::string Calculate(const std::string& stroke, const std::string& lead) {
+    c.txtCulStroke.Type(stroke);
+    c.txtCulLead.Type(lead);
+    c.cmdCulStrokePulse.Press();
+    return c.lblStrokePulse.Caption;
+  }
+  static inline FrmStrokeCalc& c = frmStrokeCalc;
+  FrmParameta2& p = frmParameta2;
+};
+
+TEST_F(StrokeCalc, PulsesOfAStroke) {
+  const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
+      {"100", "2", "20000", "9600"},
+      {"100", "6", "6667", "3200"},  // 6666.67: up
+      {"25", "12", "834", "400"},    // 833.33: up
+      {"24", "2", "Invalidity", "Invalidity"},
+      {"601", "2", "Invalidity", "Invalidity"},
+      {"100", "9", "Invalidity", "Invalidity"},
+      {"100", "", "Invalidity", "Invalidity"}};
+  Open([&] {
+    for (const auto& [stroke, lead, first, second] : rows) {
+      c.optActType[0].Press();
+      EXPECT_EQ(Calculate(stroke, lead), first) << stroke << "/" << lead;
+      c.optActType[1].Press();
+      EXPECT_EQ(Calculate(stroke, lead), second) << stroke << "/" << lead;
+    }
+  });
 }
 
-TEST_F(ParaView, WithoutParametersTheFieldsAreEmpty) {
-  CloseView(f, CloseReason::Code);
-  ParamSet = ParamSetRecord{};
-  DeviceList.fill({});
-  AppState.AxisMuko[3] = True;
-  frmMain.mnuViewPara.Click();
-  EXPECT_EQ(f.txtHomeOffset[0].Text + f.txtSmTimeoutTimer.Text, "");
-  EXPECT_EQ(f.optPosPrg.Chosen(), -1);
-  AppState.AxisMuko[3] = False;
-  AllViewsCmdYuko();
-  for (const int axis : {0, 3}) EXPECT_GT(f.comboActSize[axis].List.size(), 3u) << axis;
-  EXPECT_TRUE(f.txtHomeOffset[0].Enabled);
-}
-
-TEST_F(ParaView, TheDeviceDialogueOpensItOnceWhenNoFlowRuns) {
-  CloseView(f, CloseReason::Code);
-  forms.on_modal["frmParameta2"] = [](View& view) { CloseView(view, CloseReason::ControlMenu); };
-  OpenParaAfterDevice();
-  AppState.CommandsOffDepth = 1;
-  pump.RunFor(2500 * kMs);
-  EXPECT_TRUE(forms.modals.empty());
-  AppState.CommandsOffDepth = 0;
-  pump.RunFor(6000 * kMs);
-  EXPECT_EQ(forms.modals, Texts{"frmParameta2"});
+TEST_F(StrokeCalc, TheResultGoesIntoTheChosenAxisAndTheFocusOn) {
+  const Control* next[] = {&p.txtAxisStroke[1], &p.txtAxisLead[2], &p.txtAxisStroke[3],
+                           &p.txtAxisLead[0]};
+  for (int axis = 0; axis < kAxes; ++axis) {
+    forms.focus = nullptr;
+    Open([&] {
+      Calculate("100", "2");
+      c.optInputSaki[axis].Press();
+      c.cmdInputStroke.Press();
+      EXPECT_FALSE(c.Visible);
+    });
+    EXPECT_EQ(p.txtAxisStroke[axis].Text, "20000") << axis;
+    EXPECT_EQ(forms.focus, next[axis]) << axis;
+  }
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "para/std_lists.h"
 
-#include "para/param_set.h"
 #include "para/std_table.h"
 #include "tests/support/state_test.h"
 
@@ -89,17 +88,6 @@ TEST_F(StdListsTest, TheOrderOfHomingComesFromTheRowOfTheLastScan) {
   EXPECT_EQ(orders(" 35", "H", 200), (Orders{0, 2, 2, 2}));
 }
 
-TEST_F(StdListsTest, TheAxisMaskIsThatOfTheAxesInUseUnlessAWriteHasFixedIt) {
-  for (const bool fixed : {false, true}) {
-    AppState.AxisMuko = MukoOfMask(5);
-    ParaFlags.AxisMaskFixed = fixed;
-    ParaFlags.AxisMask = 3;
-    EXPECT_EQ(IniParaFromStd(), 0);
-    EXPECT_EQ(ParamSet.OneAxis, fixed ? 3 : 5);
-    EXPECT_EQ(ParaFlags.AxisMask, fixed ? 3 : 5);
-  }
-}
-
 TEST_F(StdListsTest, TheDirectWriteLeavesWhatTheControllerHas) {
   for (int row = 1; row <= kParaRows; ++row) {
     for (int axis = 0; axis < kAxes; ++axis) SetParaValue(ParamSet, row, axis, 7);
@@ -128,81 +116,33 @@ TEST_F(StdListsTest, AMissingDeviceComesOutAfterTheCommonRowsChanged) {
   EXPECT_EQ(ParamSet.SmTimer, 50);
   AppState.AxisMuko[1] = True;  // an absent axis needs no device
   EXPECT_EQ(IniParaFromStd(), 0);
-  AppState.AxisMuko[1] = False;
-  SetDevice(DevSettei[1], " 28", "L", 100);
-  DevSettei[1].Series = "NB";  // its list is not read
-  EXPECT_EQ(IniParaFromStd(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(36) + "\n\n" + Text(6340, "AXIS2", " 28L-100")});
 }
 
-TEST_F(StdListsTest, DamagedStandardListsSayWhatIsWrong) {
-  const std::string header = kHeader, row = kRow28;
-  const std::string wrong = Text(26) + "(1AXIS)", none = Text(28) + "\n" + Text(29);
-  const struct {
-    std::string content, box;
-  } files[] = {
-      {"\"QV-R7\",\"NB-STDPRM\",0,x", ""},
-      {"\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + row, wrong + "\n\n" + Text(6332, "1", kNewFile)},
-      {CommonFile(), wrong + "\n\n" + Text(6322, kNewFile, Text(6329))},
-      {header + "1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n",
-       none + "\n\n" + Text(6332, "3", kNewFile)},
-      {std::string(100 << 20, ' '), none + "\n\n" + Text(5913, kNewFile)}};
-  for (const auto& file : files) {
-    SCOPED_TRACE(file.content.substr(0, 80));
-    PutList(kNewFile, file.content);
-    EXPECT_EQ(ReadStdLists(), file.box.empty() ? 0 : 1);
-    EXPECT_EQ(Boxes(), file.box.empty() ? Texts{} : Texts{file.box});
-  }
-  virt.files.Remove(ProgramFile(kNewFile));
-  for (const auto ini : {IniParaFromStd, IniParaFromStdForWrite}) {
-    EXPECT_EQ(ini(), 1);
-    EXPECT_EQ(Boxes(), (Texts{none, Text(36)}));
-  }
-  EXPECT_EQ(ParamSet, ParamSetRecord{});
-
-  DevSettei[0].NewType = DevSettei[1].NewType = False;  // the old list is good
-  PutList(kNewFile, "\"QV-R7\",\"PRM\"");
-  EXPECT_EQ(ReadStdLists(), 1);
-  EXPECT_EQ(Boxes(), Texts{Text(26) + "(3AXIS)\n\n" + Text(6322, kNewFile, Text(6324))});
-}
-
-TEST_F(StdListsTest, DamagedCommonListsSayWhatIsWrong) {
+TEST_F(StdListsTest, ADamagedListSaysWhatIsWrongAndChangesNothing) {
   const std::string good = CommonFile(), none = Text(28) + "\n" + Text(29);
-  const auto at = [&](const char* number) { return Text(6332, number, kCommonFile); };
-  const auto line = [&](const char* number) { return none + "\n\n" + at(number); };
-  const auto sections = [&](const char* count) {
-    return With(good, "\r\n3\r\n", "\r\n" + std::string(count) + "\r\n");
-  };
-  // Only FUNCTION and ALM have a use for the column behind their values.
-  std::string narrow = With(good, "\"ETC\",9,3", "\"ETC\",9,2");
-  for (int row = 2; row < 11; ++row) {
-    narrow = With(narrow, "," + std::to_string(10 * row + 5) + "\r", "\r");
-  }
-  const struct {
-    std::string content;
-    std::string box, reason;  ///< the list's own box, and what stands behind the flow's
-  } files[] = {{good, "", ""},
-               {narrow, "", ""},
-               {sections("4") + "passed over", "", ""},
-               {sections("4"), line("26"), ""},
-               {With(good, "QV-R7", "QV-R8"), Text(27) + "\n\n" + at("1"), ""},
-               {With(good, "QV-CMNPRM", "QV-STDPRM"),
-                Text(27) + "\n\n" + Text(6322, kCommonFile, Text(6328)), ""},
-               {With(good, "\"ETC\"", "\"SPECIAL\""), "", "\n\n" + at("6")},
-               {With(good, "\"PG\",2,3", "\"PG\",2,2"), line("3"), ""}};
-  for (const auto& file : files) {
-    SCOPED_TRACE(file.content);
-    const bool bad = !file.box.empty() || !file.reason.empty();
-    PutList(kCommonFile, file.content);
-    ParaFlags.ParaFileBad = False;
-    const ParamSetRecord before = ParamSet;
-    EXPECT_EQ(IniParaFromStd(), bad ? 1 : 0);
-    EXPECT_TRUE(!bad || ParamSet == before);
-    EXPECT_EQ(ParaFlags.ParaFileBad, file.box.starts_with(Text(27)));
-    Texts boxes;
-    if (!file.box.empty()) boxes.push_back(file.box);
-    if (bad) boxes.push_back(Text(36) + file.reason);
+  const auto at = [](const char* line, const char* list) { return Text(6332, line, list); };
+  const std::tuple<const char*, std::string, std::string, std::string> rows[] = {
+      {kNewFile, "\"QV-R6\",\"QV-STDPRM\"\r\n1,13\r\n" + std::string(kRow28),
+       Text(26) + "(1AXIS)\n\n" + at("1", kNewFile), ""},
+      {kNewFile, good, Text(26) + "(1AXIS)\n\n" + Text(6322, kNewFile, Text(6329)), ""},
+      {kNewFile, kHeader + std::string("1,13\r\n\"a\",1,32768,1,1,1,1,1,1,1,1,1,\"a\"\r\n"),
+       none + "\n\n" + at("3", kNewFile), ""},
+      {kCommonFile, With(good, "\r\n3\r\n", "\r\n4\r\n"), none + "\n\n" + at("26", kCommonFile),
+       ""},
+      {kCommonFile, With(good, "QV-R7", "QV-R8"), Text(27) + "\n\n" + at("1", kCommonFile), ""},
+      {kCommonFile, With(good, "\"ETC\"", "\"SPECIAL\""), "", "\n\n" + at("6", kCommonFile)},
+      {kCommonFile, With(good, "\"PG\",2,3", "\"PG\",2,2"), none + "\n\n" + at("3", kCommonFile),
+       ""}};
+  for (const auto& [list, content, box, reason] : rows) {
+    SCOPED_TRACE(content);
+    const std::string before = *virt.files.Content(ProgramFile(list));
+    PutList(list, content);
+    EXPECT_EQ(IniParaFromStd(), 1);
+    EXPECT_EQ(ParamSet, ParamSetRecord{});
+    Texts boxes{Text(36) + reason};
+    if (!box.empty()) boxes.insert(boxes.begin(), box);
     EXPECT_EQ(Boxes(), boxes);
+    PutList(list, before);
   }
 }
 

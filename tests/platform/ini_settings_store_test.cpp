@@ -66,15 +66,5 @@ TEST(IniSettingsStore, WhatCannotBeSavedIsKeptForThisRun) {
   EXPECT_EQ(files.Content(kPath), "[Settings]\nPortNo=4\n");
 }
 
-TEST(IniSettingsStore, NamesThatTheFileCannotHoldAreRefused) {
-  MemoryFiles files;
-  IniSettingsStore store(files, kPath);
-  for (const char* name : {"", "a=b", "[a]", " a", "a\nb"}) {
-    EXPECT_FALSE(store.Set(kSection, name, "x")) << name;
-    EXPECT_FALSE(store.Set(name, "Key", "x")) << name;
-  }
-  EXPECT_TRUE(files.Paths().empty());
-}
-
 }  // namespace
 }  // namespace tr7

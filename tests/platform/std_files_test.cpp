@@ -1,7 +1,5 @@
 #include "platform/std_files.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

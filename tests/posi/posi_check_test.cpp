@@ -1,22 +1,8 @@
 // The one check of the grid, the one commit of its texts to the table, and the rule of each cell.
 
-#include "posi/posi_check.h"
-
 #include <span>
-#include <tuple>
-#include <utility>
 
-#include "device/dev_setting.h"
-#include "forms/frm_main.h"
-#include "forms/frm_syogo_kekka.h"
 #include "posi/cell_rules.h"
-#include "posi/device_change.h"
-#include "posi/posi_grid_fill.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_lines.h"
-#include "posi/posi_range.h"
-#include "posi/posi_table.h"
-#include "state/text.h"
 #include "tests/support/posi_table_test.h"
 
 namespace tr7 {
@@ -54,24 +40,13 @@ TEST_F(PosiCheck, ABadCellOfAnyColumnIsFlagged) {
     Put(2, col, text);
     EXPECT_EQ(PosiDataCheck3(), 1);
     EXPECT_EQ(lines, "2: " + std::to_string(col) + ";") << text;
+    EXPECT_EQ(Stored(kPosi, 1), 0) << "nothing is committed when one cell is bad";
   }
   EXPECT_TRUE(PosiTable.PosiLineBad[2]);
   Put(2, kAxis4 + kPosi, "");
   AppState.AxisMuko[3] = True;
   EXPECT_EQ(PosiDataCheck3(), 0) << "an axis not in use is filled and not judged";
   EXPECT_EQ(Stored(kAxis4 + kVel, 2) + Stored(kAxis4 + kPs, 2), 30);
-}
-
-TEST_F(PosiCheck, NothingIsCommittedWhenOneCellIsBad) {
-  ShowTable(1, 3);
-  Put(1, kVel, "71");
-  Put(3, kPf, "10");
-  Put(3, kPs, "");
-  EXPECT_EQ(PosiDataCheck3(), 1);
-  EXPECT_EQ(Stored(kVel, 1), 30);
-  EXPECT_EQ(lines, "3: 5 6;");
-  EXPECT_EQ(PosiTable.PosiBadLineList, "3,");
-  EXPECT_EQ(PosiTable.SyogoCount, 0) << "the flags are gone with the result view";
 }
 
 TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
@@ -91,23 +66,6 @@ TEST_F(PosiCheck, TheCommitStoresEveryColumnInItsOwnUnit) {
   EXPECT_EQ(Stored(kPosi, 1), 1646);
 }
 
-TEST_F(PosiCheck, ProgramModeTakesTheWayFromTheSignAndFillsTheRest) {
-  ShowTable(1, 3, true);
-  Put(3, kVel, "");
-  const char* typed[] = {"250", "+250", "-250"};  // ways 1 to 3
-  for (int n = 1; n <= 3; ++n) Type(n, kPosi, typed[n - 1]);
-  ASSERT_EQ(PosiDataCheck3(), 0);
-  for (int n = 1; n <= 3; ++n) {
-    EXPECT_EQ(Stored(kWay, n), n);
-    EXPECT_EQ(Stored(kPosi, n), 250);
-    EXPECT_EQ(Stored(kVel, n) + Stored(kAcc, n), 31);
-  }
-  EXPECT_EQ(Stored(kAxis4 + kWay, 3), 0) << "N";
-  Put(2, kPosi, "   13335");
-  EXPECT_EQ(PosiDataCheck3(), 1);
-  EXPECT_EQ(lines, "2: 4;");
-}
-
 TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
   for (DevSettingRecord& device : DevSetting) device.Ppr = 20000;  // 3 mm/s: below VEL's default
   ShowTable(1, 3, true);
@@ -119,23 +77,6 @@ TEST_F(PosiCheck, ProgramModeIsNotLockedByWhatItHides) {
   EXPECT_TRUE(PosiDataCheckAll()) << lines;
   EXPECT_EQ(Stored(kVel, 1), 30);
   EXPECT_EQ(Stored(kOut, 2) + Stored(kSm, 3), 0);
-  // A position-mode table with edits, whose mode changes under it.
-  ShowTable(1, 3);
-  Put(2, kVel, "0");
-  frmPosi.PosiChanged = True;
-  AppState.CtMode = True;
-  RebuildPosiViewKeepingEdits();
-  EXPECT_TRUE(PosiDataCheckAll()) << lines;
-}
-
-TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
-  ShowTable(1, 5);
-  Put(1, kVel, "9999");
-  SetOperationRange({2, 4});
-  EXPECT_EQ(PosiDataCheck3(), 0);
-  SetOperationRange({500, 600});
-  EXPECT_EQ(PosiDataCheck3(), 1) << "a range that is not loaded stands for the whole table";
-  EXPECT_EQ(lines, "1: 1;");
 }
 
 TEST_F(PosiCheck, TheCheckCommandGoesToTheFirstBadLineAndTellsOfSpeeds) {
@@ -244,11 +185,7 @@ TEST_F(CellRules, AnEditIsTakenOrRefusedAsAWhole) {
   EXPECT_EQ(Type(6, kVel, "1000"), 1);
   EXPECT_EQ(Type(6, kVel, "70"), 0) << "left as it was";
   EXPECT_EQ(forms.beeps, 1);
-  frmPosi.flgdData.Enabled = false;
-  EXPECT_EQ(Type(6, kVel, "60"), 1) << "a grid that is off takes nothing";
-  EXPECT_EQ(Cell(6, kVel), "70");
   EXPECT_FALSE(frmPosi.PosiChanged);
-  frmPosi.flgdData.Enabled = true;
   Type(5, kPosi, "1234");
   EXPECT_EQ(PosiTable.PosiPulse[0][1], 1234) << "the live mirror stands at the row";
   EXPECT_EQ(PosiTable.PosiPulse[0][5], 0) << "not at the number";
@@ -272,13 +209,14 @@ TEST_F(CellRules, WhatIsRoundedOrCutIsTold) {
   EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelScale1].substr(0, 3), "<2>") << "of the cell's axis";
 }
 
-TEST_F(CellRules, AnEditorLeftAsItOpenedIsNoEdit) {
-  ShowTable(1, 3, false, true);
-  Put(2, kPosi, " 999.000");  // as an old file may have it
-  // The editor opens with the text alone, without the blanks that align it.
-  EXPECT_EQ(Type(2, kPosi, "999.000"), 0);
-  EXPECT_EQ(Cell(2, kPosi), " 999.000");
-  EXPECT_FALSE(frmPosi.PosiChanged || forms.beeps > 0);
+TEST_F(PosiCheck, ANarrowedRangeLooksAtItsOwnLinesOnly) {
+  ShowTable(1, 5);
+  Put(1, kVel, "9999");
+  SetOperationRange({2, 4});
+  EXPECT_EQ(PosiDataCheck3(), 0);
+  SetOperationRange({500, 600});
+  EXPECT_EQ(PosiDataCheck3(), 1) << "a range that is not loaded stands for the whole table";
+  EXPECT_EQ(lines, "1: 1;");
 }
 
 }  // namespace

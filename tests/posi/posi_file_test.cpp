@@ -1,14 +1,5 @@
 #include "posi/posi_file.h"
 
-#include <tuple>
-#include <utility>
-
-#include "device/dev_setting.h"
-#include "forms/frm_posi.h"
-#include "posi/posi_caption.h"
-#include "posi/posi_range.h"
-#include "posi/posi_table.h"
-#include "state/text.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -102,20 +93,6 @@ TEST_F(PosiFile, BadLinesAndLinesOutsideTheRangeAreNotWritten) {
   EXPECT_FALSE(frmPosi.PosiChanged);
 }
 
-TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
-  PutTwoLines();
-  Field(kComment, 2) = std::string("ok é");
-  virt.files.Put(kPath, "old");
-  frmPosi.PosiChanged = True;
-  PosiTable.PosiLineBad[1] = True;  // left out, it counts as none
-  EXPECT_EQ(SaveFileAs2(kPath, trouble), 1);
-  EXPECT_EQ(trouble.words, "Position No. 2 holds the character \"é\", which the file cannot hold.");
-  EXPECT_FALSE(trouble.may_pass);
-  EXPECT_EQ(virt.files.Content(kPath), "old");
-  EXPECT_TRUE(frmPosi.PosiChanged);
-  EXPECT_EQ(PosiTable.Name, "");
-}
-
 TEST_F(PosiFile, AnyOrderOfNumbersReadsAsItStands) {
   // Numbers as they come, and those left out of 4 to 11.
   const std::tuple<std::string, const char*, const char*> rows[] = {
@@ -173,13 +150,6 @@ TEST_F(PosiFile, ADamagedFileSaysWhere) {
   EXPECT_EQ(trouble.words, Text(5914, "job.qvd"));
 }
 
-TEST_F(PosiFile, CommentsFromElsewhereBecomeOneLine) {
-  ASSERT_EQ(Read(kHead + kWords + Line("1", "a\tb\r\nc \"\"x\"\" \x95\x5c\x8e\xa6")), 0);
-  EXPECT_EQ(TextOf(Stage(kComment, 1)), "a b  c \"x\" 表示");
-  ASSERT_EQ(Read(kHead + kWords + Line("1").substr(0, Line("1").size() - 4) + "12\r\n"), 0);
-  EXPECT_EQ(Stage(kComment, 1), Variant(std::string("12"))) << "a comment is a text";
-}
-
 TEST_F(PosiFile, TheOldestLayout) {
   const std::string head = "\"QV-R7\"\r\n\"QV- 28L-100\",\"\",\"\",\"\"\r\n";
   const std::string record =
@@ -198,17 +168,18 @@ TEST_F(PosiFile, TheOldestLayout) {
   EXPECT_EQ(TextOf(Stage(kComment, 3)), "受");
 }
 
-TEST_F(PosiFile, APositionOutOfAllBoundsStaysSo) {
-  SetRange(5, 5);
-  const std::pair<const char*, int> rows[] = {
-      {" 1000", 1000}, {"262144", 262144},          {"-5", -5},
-      {"9.5", 10},     {"99999999999", 2147483647}, {"x", 0}};
-  for (const auto& [staged, pulses] : rows) {
-    PosiTable.PosiStage[kPosi][5] = std::string(staged);
-    PosiStageCommit();
-    EXPECT_EQ(PosiTable.PosiPulse[0][5], pulses);
-    EXPECT_EQ(ValueOf(PosiTable.PosiRec[kPosi][5]), pulses) << staged;
-  }
+TEST_F(PosiFile, ACharacterThatTheFileCannotHoldIsNamedWithItsPosition) {
+  PutTwoLines();
+  Field(kComment, 2) = std::string("ok é");
+  virt.files.Put(kPath, "old");
+  frmPosi.PosiChanged = True;
+  PosiTable.PosiLineBad[1] = True;  // left out, it counts as none
+  EXPECT_EQ(SaveFileAs2(kPath, trouble), 1);
+  EXPECT_EQ(trouble.words, "Position No. 2 holds the character \"é\", which the file cannot hold.");
+  EXPECT_FALSE(trouble.may_pass);
+  EXPECT_EQ(virt.files.Content(kPath), "old");
+  EXPECT_TRUE(frmPosi.PosiChanged);
+  EXPECT_EQ(PosiTable.Name, "");
 }
 
 }  // namespace

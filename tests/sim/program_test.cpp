@@ -1,6 +1,7 @@
 // Programs that run.
 
 #include <fstream>
+#include <span>
 
 #include "sim/input_script.h"
 #include "sim/parse.h"
@@ -90,14 +91,21 @@ void ExpectFacts(const std::string& program, int wait_ms, const std::string& fac
   EXPECT_EQ(Facts(pc, facts), facts);
 }
 
-TEST(Program, EveryCommandDoesWhatTheTableOfMeaningsSays) {
-  const struct {
-    const char* program;
-    int wait_ms;
-    const char* facts;
-    const char* inputs = "";
-  } rows[] = {
-      // Flow.
+struct Meaning {
+  const char* program;
+  int wait_ms;
+  const char* facts;
+  const char* inputs = "";
+};
+
+void ExpectMeanings(std::span<const Meaning> meanings) {
+  for (const auto& [program, wait_ms, facts, inputs] : meanings) {
+    ExpectFacts(program, wait_ms, facts, inputs);
+  }
+}
+
+TEST(Program, CommandsOfFlow) {
+  const Meaning meanings[] = {
       {"ON,O1 TIM,0.5,,,F1 ON,O2", 499, "O1=1 F1=0 O2=0 T=1"},
       {"ON,O1 TIM,0.5,,,F1 ON,O2", 515, "O1=1 F1=1 O2=1 T=0"},
       {"ON,O1,,I1 ON,O2,,/I1 ON,O3,,I2 ON,F1,F2 OFF,F1,,F2", 10, "O1=1 O2=0 O3=0 F1=0 F2=1",
@@ -114,7 +122,12 @@ TEST(Program, EveryCommandDoesWhatTheTableOfMeaningsSays) {
        "F1=1 F2=0 F9=1 F3=1 F4=0 T=0"},
       {"STPG,2 EDPG,1 ON,O1", 50, "F9=1 O1=0 T=1"},
       {"PAUSE ON,O1 REM ON,O2", 50, "O1=0 T=1"},
-      // Values.
+  };
+  ExpectMeanings(meanings);
+}
+
+TEST(Program, CommandsOfValues) {
+  const Meaning meanings[] = {
       {"=,R1,7 /,R1,2 =,PR1,7 /,PR1,2 %,PR1,2 =,r2,PR1 *,PR2,5", 50, "R1=3 PR1=1500 r2=1 PR2=0"},
       {"=,R1,5 -,R1,9 *,R1,2.5 ==,R1,R1,,F1 !=,R1,0,,F2 >,R1,0,,F3 <=,R1,PR1,,F4 >=,R1,R1,,F5", 50,
        "R1=-10 F1=1 F2=1 F3=0 F4=1 F5=1"},
@@ -122,8 +135,14 @@ TEST(Program, EveryCommandDoesWhatTheTableOfMeaningsSays) {
       {"IN,R1,I3 INB,R2,I3 OUT,165,O9 OUTB,R2,F11", 50,
        "R1=33 R2=21 O9=1 O10=0 O16=1 F11=1 F12=0 F16=1", "0 3 1\n0 8 1"},
       {"INB,R1,I1", 50, "err=003:1", "0 2 1\n0 4 1"},
+  };
+  ExpectMeanings(meanings);
+}
+
+// 50 mm/s and 100 ms, 200 pulses a mm, where nothing else is told.
+TEST(Program, CommandsOfMotion) {
+  const Meaning meanings[] = {
       {"HOME,1 PMOV,50 PGR,1", 9000, "err=117:3"},
-      // Motion: 50 mm/s and 100 ms, 200 pulses a mm, where nothing else is told.
       {"MVP,50 ON,O1", 200, "O1=0 A1=997"},
       {"MVP,50 ON,O1", 215, "A1=1000 O1=1"},
       {"VEL,10 ACC,10 MVP,50,,,F1 ON,O1", 520, "F1=0 O1=0"},
@@ -147,7 +166,7 @@ TEST(Program, EveryCommandDoesWhatTheTableOfMeaningsSays) {
       {"PUST1,20,50 MVP,50 ON,O1", 310, "A1=1000 O1=0"},
       {"PUST1,20,50 MVP,50 ON,O1", 320, "O1=1"},
   };
-  for (const auto& row : rows) ExpectFacts(row.program, row.wait_ms, row.facts, row.inputs);
+  ExpectMeanings(meanings);
 }
 
 TEST(Program, WhatHasNoMeaningOrCannotBeDoneIsAnAlarmAtItsStep) {
@@ -195,29 +214,6 @@ TEST(Program, TheLineStartsShowsAndStopsTasks) {
   EXPECT_EQ(Exchange(setup).Ask("0DM0A"), "0%%003");
 }
 
-TEST(Program, AxesThatThePcHoldsOrAnotherTaskMovesAreWaitedFor) {
-  qvr7sim::Setup setup = ProgramSetup();
-  setup.programs[1] = Assemble("MVP,51,,,F1");
-  setup.programs[2] = Assemble("MVP,50,,,F2");
-  Exchange pc(setup);
-  Talk(pc, "0CM11000>0CM11000 0DM01>0DM 0DM02>0DM +500 0RC1>0RC100000 0CM00000>0CM00000 +100");
-  EXPECT_GT(pc.Axis(1).pulses, 300);
-  EXPECT_EQ(Facts((pc.Wait(240'000), pc), "F1 F2"), "F1=1 F2=0");
-  EXPECT_EQ(Facts((pc.Wait(300'000), pc), "F1 F2 A1"), "F1=1 F2=1 A1=1000");
-  EXPECT_EQ(pc.controller.MotionStarts().back().request, "program 2 step 1");
-}
-
-TEST(Program, AHandsPushIsMadeGood) {
-  qvr7sim::Setup setup = ProgramSetup();
-  setup.programs[1] = Assemble("MVP,54 PAUSE PGR,2 ON,O1");
-  Exchange pc(setup);
-  Talk(pc, "0DM01>0DM +2000 0CM10200>0CM10200");
-  ASSERT_TRUE(pc.controller.PushAxis(2, -500, pc.now_us));
-  EXPECT_EQ(Facts(pc, "A2 O1 T"), "A2=3500 O1=0 T=1");
-  Talk(pc, "0CM00000>0CM00000 0DM01>0DM +1000");
-  EXPECT_EQ(Facts(pc, "A2 O1 T"), "A2=4000 O1=1 T=0");
-}
-
 TEST(Program, AnyStepsEndInAnAlarmOrGoOn) {
   const char* operands[] = {"000000", "0003E8", "0007D0", "3FF001", "3FF015", "3FF064",
                             "3FF12C", "3FF190", "3FF1F5", "3FF000", "FFFFFF", "200001"};
@@ -241,14 +237,11 @@ TEST(Program, AnyStepsEndInAnAlarmOrGoOn) {
 }
 
 TEST(Program, TheSamplesDoWhatTheySay) {
-  const struct {
-    std::vector<std::string> files;
-    int seconds;
-    const char* facts;
-  } rows[] = {{{"pick_and_place"}, 60, "R1=2 O1=0 O2=0 O3=0 A1=400 A2=0 A3=0 A4=12000 T=0"},
-              {{"palletising"}, 600, "R1=12 R2=41 O1=0 O3=1 A1=400 A2=0 A3=0 A4=12000 T=0"},
-              {{"handshake_a", "handshake_b"}, 120, "R1=3 F1=0 F2=0 O1=1 O2=0 A4=12000 T=0"},
-              {{"handshake_a"}, 120, "R1=0 F1=0 O1=0 O2=1 T=0"}};
+  const std::tuple<std::vector<std::string>, int, const char*> rows[] = {
+      {{"pick_and_place"}, 60, "R1=2 O1=0 O2=0 O3=0 A1=400 A2=0 A3=0 A4=12000 T=0"},
+      {{"palletising"}, 600, "R1=12 R2=41 O1=0 O3=1 A1=400 A2=0 A3=0 A4=12000 T=0"},
+      {{"handshake_a", "handshake_b"}, 120, "R1=3 F1=0 F2=0 O1=1 O2=0 A4=12000 T=0"},
+      {{"handshake_a"}, 120, "R1=0 F1=0 O1=0 O2=1 T=0"}};
   for (const auto& [files, seconds, facts] : rows) {
     SCOPED_TRACE(files[0]);
     qvr7sim::Setup setup = qvr7sim::Setup::Useful();

@@ -105,35 +105,6 @@ TEST_F(PtyTest, ServesPortsOpenedAgainAndControlLines) {
   close(port);
 }
 
-TEST_F(PtyTest, TellsMotionAndRestWhenTheyComeAndAtTheEnd) {
-  Start(qvr7sim::Setup::Useful());
-  const int port = OpenPort();
-  for (const char* request : {"0JR02000\r\n", "0SP\r\n"}) {
-    Send(port, request);
-    const std::string told = ReadUntil(motion_[0], '\n');
-    EXPECT_NE(told.find(request[1] == 'J' ? " moving axis1=" : " at rest axis1="),
-              std::string::npos)
-        << told;
-  }
-  close(port);
-  Command("quit");
-  EXPECT_NE(ReadUntil(motion_[0], '\n').find(" at rest axis1="), std::string::npos);
-}
-
-TEST_F(PtyTest, WhatAClosedPortHadNotReadIsGone) {
-  ASSERT_EQ(pty_.Open(), "");
-  if (pty_.watch_fd() < 0) GTEST_SKIP() << "this system cannot watch a port being closed";
-  const int port = OpenPort();
-  pty_.Write("0RV140R4M\r\n");
-  close(port);
-  EXPECT_TRUE(pty_.TakeClosed());
-  EXPECT_FALSE(pty_.TakeClosed());
-  const int again = OpenPort();
-  pty_.Write("0RA\n");
-  EXPECT_EQ(ReadUntil(again, '\n'), "0RA\n");
-  close(again);
-}
-
 TEST_F(PtyTest, SleepsWhileNothingIsDueAndEndsOnQuitAndOnASignal) {
   Start(qvr7sim::Setup::Useful());
   close(OpenPort());

@@ -1,8 +1,5 @@
 #include "state/settings.h"
 
-#include <tuple>
-
-#include "forms/frm_main.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -27,22 +24,6 @@ TEST_F(SettingsTest, WhatIsStoredIsTakenWithinItsRange) {
     LoadDefaults();
     EXPECT_EQ(AppState.*field, expected) << key << " = " << stored;
   }
-}
-
-TEST_F(SettingsTest, TheWindowsRectangleGoesToTheStore) {
-  frmMain.Left = -12.5;
-  frmMain.Top = 30;
-  frmMain.Width = 15240;
-  frmMain.Height = 11000;
-  frmMain.Maximised = true;
-  AppState.PortNo = 4;
-  SaveSettingsAtExit();
-  std::string stored;
-  for (const char* key :
-       {"MainMaximised", "MainLeft", "MainTop", "MainWidth", "MainHeight", "PortNo"}) {
-    stored += virt.settings.Get("Settings", key, "") + " ";
-  }
-  EXPECT_EQ(stored, "1 -12.5 30 15240 11000 4 ");
 }
 
 }  // namespace

@@ -1,10 +1,4 @@
-#include "state/text_file.h"
-
-#include <tuple>
-
 #include "platform/atomic_save.h"
-#include "state/text.h"
-#include "tests/support/memory_files.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -46,20 +40,6 @@ TEST_F(TextFile, AFileOfAnotherCodePageIsRefusedWithItsLine) {
   }
 }
 
-TEST_F(TextFile, ReadingFailsInWords) {
-  const FileFault faults[] = {FileFault::NotFound, FileFault::NotPermitted, FileFault::DiskFull,
-                              FileFault::TooLarge, FileFault::Other};
-  files.Put(kPath, "content");
-  std::string text = "kept";
-  for (int i = 0; i < 5; ++i) {
-    files.FailAt(1, faults[i]);
-    EXPECT_EQ(ReadTextFile(kPath, text).words, Text(MsgId::At(5910, i), "位置.qvd"));
-  }
-  EXPECT_EQ(ReadTextFile(kPath, text, 6).fault, FileFault::TooLarge);
-  EXPECT_EQ(text, "kept");
-  EXPECT_TRUE(ReadTextFile(kPath, text, 7).ok);
-}
-
 TEST_F(TextFile, AFaultAtAnyCallOfASaveLeavesTheOldFile) {
   const int calls_before = files.Calls();
   ASSERT_TRUE(SaveTextFile(kPath, "old").ok);
@@ -91,12 +71,6 @@ TEST_F(TextFile, APowerCutAtAnyCallOfASaveLeavesOneFileWhole) {
       EXPECT_EQ(disk.Paths(), std::vector{kPath});
     }
   }
-}
-
-TEST_F(TextFile, TheTitleOfAPath) {
-  const char* const paths[] = {"/a/b/c.qvd", "C:\\data\\c.qvd", "c.qvd"};
-  for (const char* path : paths) EXPECT_EQ(FileTitle(path), "c.qvd");
-  EXPECT_EQ(FileTitle("/a/"), "");
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "state/view_instances.h"
 
 #include "state/busy_scope.h"
-#include "state/message_box.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {

@@ -1,11 +1,5 @@
 #include "tests/support/flow_test.h"
 
-#include <utility>
-
-#include "base/text_helpers.h"
-#include "forms/frm_device.h"
-#include "posi/posi_grid_layout.h"
-
 namespace tr7 {
 
 void HoldProgram(VirtualDoors& virt, int program, const std::string& steps) {
@@ -14,6 +8,11 @@ void HoldProgram(VirtualDoors& virt, int program, const std::string& steps) {
   virt.pump.RunFor(2000 * static_cast<std::int64_t>(frame.size()));
   static_cast<void>(virt.port.Axes());  // it has come to where it hears of it
   virt.port.Ct().DropLine();
+}
+
+void ClickTab(TabStrip& strip, int tab) {
+  strip.Selected = tab;
+  if (strip.Click) strip.Click();
 }
 
 void AnswerSelection(SelectionView& view, int choice) {
@@ -40,14 +39,12 @@ qvr7sim::Setup InProgramMode() {
   return setup;
 }
 
-std::string PcState::Devices() {
+std::string PcState::Of(const AxisArray<DevSettingRecord>& devices) {
   std::string all;
-  for (const AxisArray<DevSettingRecord>* devices : {&DevSetting, &DevSettei}) {
-    for (const DevSettingRecord& device : *devices) {
-      all += device.Size + device.Speed + std::to_string(device.Stroke) + " " +
-             std::to_string(device.Lead) + " " + std::to_string(device.Ppr) +
-             (device.WithPG ? "E " : "_ ");
-    }
+  for (const DevSettingRecord& device : devices) {
+    all += device.Size + device.Speed + std::to_string(device.Stroke) + " " +
+           std::to_string(device.Lead) + " " + std::to_string(device.Ppr) +
+           (device.WithPG ? "E " : "_ ");
   }
   return all;
 }

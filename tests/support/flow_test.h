@@ -1,14 +1,11 @@
 #pragma once
 
-#include <string>
-
 #include "core/main_entry.h"
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
-#include "state/text.h"
-#include "state/views.h"
+#include "forms/frm_syogo_kekka.h"
+#include "posi/posi_caption.h"
+#include "posi/posi_file.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -20,9 +17,10 @@ qvr7sim::Setup InProgramMode();
 struct PcState {
   AxisArray<Bool16> muko = AppState.AxisMuko;
   bool mode = AppState.CtMode;
-  std::string devices = Devices();
+  std::string devices = Of(DevSetting) + Of(DevSettei);
 
-  static std::string Devices();
+  /// What these devices are, axis by axis.
+  static std::string Of(const AxisArray<DevSettingRecord>& devices);
   bool operator==(const PcState&) const = default;
 };
 
@@ -66,6 +64,8 @@ class FlowTest : public StateTest {
 
 /// The controller holds a program of these steps, as they lie on the line. The port is shut.
 void HoldProgram(VirtualDoors& virt, int program, const std::string& steps);
+/// The user turns to this tab.
+void ClickTab(TabStrip& strip, int tab);
 /// Answers a choice box as a user does.
 void AnswerSelection(SelectionView& view, int choice);
 /// Accepts the devices that a device dialogue shows.

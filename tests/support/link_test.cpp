@@ -1,7 +1,6 @@
 #include "tests/support/link_test.h"
 
 #include "link/error_list.h"
-#include "link/port.h"
 #include "link/tusin_wait.h"
 #include "state/online.h"
 

@@ -1,12 +1,6 @@
 #include "tests/support/posi_table_test.h"
 
-#include "device/dev_setting.h"
-#include "device/limits.h"
-#include "posi/posi_commands.h"
-#include "posi/posi_grid_layout.h"
 #include "posi/posi_rebuild.h"
-#include "posi/posi_table.h"
-#include "posi/posi_view.h"
 
 namespace tr7 {
 

@@ -1,8 +1,12 @@
 #pragma once
 
-#include <string>
-
-#include "forms/frm_posi.h"
+#include "forms/frm_syogo_kekka.h"
+#include "posi/device_change.h"
+#include "posi/posi_caption.h"
+#include "posi/posi_check.h"
+#include "posi/posi_clipboard.h"
+#include "posi/posi_grid_fill.h"
+#include "posi/posi_lines.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {

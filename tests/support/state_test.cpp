@@ -1,9 +1,5 @@
 #include "tests/support/state_test.h"
 
-#include <algorithm>
-
-#include "state/text_file.h"
-
 namespace tr7 {
 void SetDevice(DevSettingRecord& device, const char* size, const char* speed, int stroke) {
   device.Size = size;

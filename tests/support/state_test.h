@@ -4,17 +4,26 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <optional>
-#include <string>
-#include <vector>
+#include <algorithm>
+#include <tuple>
 
+#include "base/text_helpers.h"
 #include "core/reset_state.h"
 #include "device/dev_setting.h"
+#include "device/device_list.h"
+#include "device/limits.h"
 #include "forms/control.h"
 #include "forms/frm_device.h"
+#include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_posi.h"
+#include "para/param_set.h"
 #include "platform/doors.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_range.h"
+#include "posi/posi_table.h"
 #include "state/app_state.h"
+#include "state/message_box.h"
 #include "state/text.h"
 #include "state/text_file.h"
 #include "state/views.h"

@@ -1,17 +1,10 @@
-#include "tests/tour/data_script.h"
-
 #include <QDir>
-#include <QFileInfo>
 #include <fstream>
 
-#include "forms/frm_grp.h"
 #include "forms/frm_kept_work.h"
-#include "forms/frm_main.h"
-#include "forms/frm_parameta2.h"
-#include "forms/frm_sq_mcr.h"
 #include "forms/frm_system_para.h"
 #include "state/kept_work.h"
-#include "state/text.h"
+#include "tests/tour/scripts.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -19,12 +12,16 @@ namespace {
 
 constexpr std::size_t kFirst = 0, kSecond = 1;
 
-/// One view of data, with a field to change.
+/// One view of data: `bad` in its field is refused, `good` goes to the controller and into a file,
+/// `other` differs from both.
 struct DataView {
   std::string name;  ///< of its pictures and of its file's kind
-  CommandButton &read, &write, &verify, &save, &verify_file;
+  View& view;
+  Menu& menu;
+  CommandButton &read, &write, &verify, &save, &verify_file, &close;
   MsgId ask_read, refused, ask_write, equal, different;
   TextBox& field;
+  const char *bad, *good, *other;
 };
 
 void Fill(User& user, TextBox& field, const std::string& text) {
@@ -56,13 +53,14 @@ void Write(User& user, const DataView& data) {
   user.Picture(data.name + "-written");
 }
 
-/// `bad` is refused, `good` goes to the controller and into a file, `other` differs from both.
-void WorkOn(User& user, const DataView& data, const std::string& bad, const std::string& good,
-            const std::string& other) {
-  Fill(user, data.field, bad);
+void WorkOn(User& user, const DataView& data) {
+  user.Choose(frmMain.mnuView, data.menu);
+  Read(user, data);
+  if (&data.view == &frmSqMcr) user.Pick(frmSqMcr.Rows[kFirst].comboMerei, "1. IN-ON");
+  Fill(user, data.field, data.bad);
   user.Click(data.write);
   user.AnswerBox(Text(data.refused), MsgAnswer::Ok, (data.name + "-refused").c_str());
-  Fill(user, data.field, good);
+  Fill(user, data.field, data.good);
   Write(user, data);
   const QString file = user.file.chopped(3) + QString::fromStdString(data.name);
   user.Click(data.save);
@@ -71,53 +69,23 @@ void WorkOn(User& user, const DataView& data, const std::string& bad, const std:
   user.SeeReady();
   SeeVerified(user, data.verify, data.equal, data.name + "-equal");
   SeeVerified(user, data.verify_file, data.equal, data.name + "-file-equal", file);
-  Fill(user, data.field, other);
+  Fill(user, data.field, data.other);
   SeeVerified(user, data.verify, data.different, data.name + "-differs");
   SeeVerified(user, data.verify_file, data.different, data.name + "-file-differs", file);
-  Fill(user, data.field, good);  // what is saved may be closed unasked
+  Fill(user, data.field, data.good);  // what is saved may be closed unasked
+  user.Leave(data.view, data.close);
 }
 
-void WorkOnGroups(User& user) {
-  FrmGrp& f = frmGrp;
-  const DataView data{"grp",
-                      f.cmdReadGrp,
-                      f.cmdWriteGrp,
-                      f.cmdGrpCtVerify,
-                      f.cmdGrpFileSave,
-                      f.cmdGrpFileVerify,
-                      835,
-                      820,
-                      839,
-                      826,
-                      823,
-                      f.Rows[kSecond].txtGrpEndNo};
-  user.Choose(frmMain.mnuView, frmMain.mnuViewGrp);
-  Read(user, data);
-  WorkOn(user, data, "0", "15", "16");
-  user.Click(f.cmdClose);
-  user.SeeGone(f);
-}
-
-void WorkOnMacros(User& user) {
-  FrmSqMcr& f = frmSqMcr;
-  const DataView data{"smd",
-                      f.cmdReadSMfromCt,
-                      f.cmdWriteSMtoCt,
-                      f.cmdSmCTShogo,
-                      f.cmdSmFileSave,
-                      f.cmdSmFileShogo,
-                      920,
-                      921,
-                      937,
-                      926,
-                      923,
-                      f.Rows[kFirst].txtSmData};
-  user.Choose(frmMain.mnuView, frmMain.mnuViewSM);
-  Read(user, data);
-  user.Pick(f.Rows[kFirst].comboMerei, "1. IN-ON");
-  WorkOn(user, data, "", "3", "4");
-  user.Click(f.cmdClose);
-  user.SeeGone(f);
+void WorkOnGroupsAndMacros(User& user) {
+  FrmGrp& g = frmGrp;
+  FrmSqMcr& s = frmSqMcr;
+  const DataView views[] = {{"grp", g, frmMain.mnuViewGrp, g.cmdReadGrp, g.cmdWriteGrp,
+                             g.cmdGrpCtVerify, g.cmdGrpFileSave, g.cmdGrpFileVerify, g.cmdClose,
+                             835, 820, 839, 826, 823, g.Rows[kSecond].txtGrpEndNo, "0", "15", "16"},
+                            {"smd", s, frmMain.mnuViewSM, s.cmdReadSMfromCt, s.cmdWriteSMtoCt,
+                             s.cmdSmCTShogo, s.cmdSmFileSave, s.cmdSmFileShogo, s.cmdClose, 920,
+                             921, 937, 926, 923, s.Rows[kFirst].txtSmData, "", "3", "4"}};
+  for (const DataView& data : views) WorkOn(user, data);
 }
 
 /// None of the values is known before they are read.
@@ -148,10 +116,7 @@ void WorkOnTuning(User& user) {
 void VerifyParameters(User& user) {
   constexpr int kEqual = 826, kSaveBeforeClose = 6067;
   FrmParameta2& f = frmParameta2;
-  user.Choose(frmMain.mnuView, frmMain.mnuViewPara);
-  user.Click(f.cmdParaRead);
-  user.SeeText(f.txtHomePush[kSecond], "50");
-  user.SeeReady(User::kTransferMs);
+  ReadParameters(user);
   SeeVerified(user, f.cmdConpareCT, kEqual, "parameters-equal");
   Fill(user, f.txtHomePush[kSecond], "77");
   user.Picture("parameter-marked");
@@ -166,10 +131,8 @@ void VerifyParameters(User& user) {
 }  // namespace
 
 void WorkOnData(User& user) {
-  PassSplash(user, true);
-  SeeOnline(user, false);
-  WorkOnGroups(user);
-  WorkOnMacros(user);
+  StartOnline(user);
+  WorkOnGroupsAndMacros(user);
   WorkOnTuning(user);
   VerifyParameters(user);
   LeaveByMenu(user);

@@ -1,10 +1,5 @@
-#include "tests/tour/io_script.h"
-
 #include "forms/frm_io_check_fg.h"
-#include "forms/frm_main.h"
-#include "state/text.h"
-#include "state/views.h"
-#include "tests/tour/in_tool.h"
+#include "tests/tour/scripts.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -93,8 +88,7 @@ void ShowThePlot(User& user, std::initializer_list<int> rows) {
 }  // namespace
 
 void WatchProgram(User& user) {
-  PassSplash(user, true);
-  SeeOnline(user, true);
+  StartOnline(user, true);
   StartWatching(user, "io-program");
   NamePoints(user);
   ForceOutput(user, kOut7Row);
@@ -110,8 +104,7 @@ void WatchProgram(User& user) {
 
 void WatchHandshake(User& user) {
   Grid& outputs = frmIOCheckFG.Io.flgdOutput;
-  PassSplash(user, true);
-  SeeOnline(user, false);
+  StartOnline(user);
   StartWatching(user, "io-position");
   user.TellSim("input P1 on");
   user.TellSim("input P2 on");

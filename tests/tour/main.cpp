@@ -5,14 +5,11 @@
 #include <QCommandLineParser>
 #include <QCursor>
 #include <QDir>
-#include <QProcess>
 #include <QScreen>
 #include <QSettings>
 #include <QThread>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
-#include <semaphore>
 
 #include "core/install_views.h"
 #include "core/main_entry.h"

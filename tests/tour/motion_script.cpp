@@ -1,13 +1,5 @@
-#include "tests/tour/motion_script.h"
-
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "motion/motion_now.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_table.h"
-#include "state/app_state.h"
-#include "state/text.h"
-#include "tests/tour/in_tool.h"
+#include "tests/tour/scripts.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -118,8 +110,7 @@ void Teach(User& user) {
 
 void MoveAndTeach(User& user) {
   constexpr int kDropChanges = 391;
-  PassSplash(user, true);
-  SeeOnline(user, false);
+  StartOnline(user);
   ReadAll(user);
   user.ClickTab(frmPosi.tabCmd, kMoveTab);
   user.Picture("move-tab");
@@ -135,8 +126,7 @@ void MoveAndTeach(User& user) {
 
 void BeRefusedByAProgram(User& user) {
   constexpr int kProgramRuns = 451, kStopPrograms = 452;
-  PassSplash(user, true);
-  SeeOnline(user, true);
+  StartOnline(user, true);
   user.ClickTab(frmPosi.tabCmdPrg, kTeachingTab);
   user.Click(frmPosi.Teach.cmdJOGST);
   user.AnswerBox(Text(kProgramRuns), MsgAnswer::Ok, "program-runs");

@@ -1,9 +1,7 @@
 // The picture of the whole screen.
 
-#include <QApplication>
 #include <QPainter>
 #include <QScreen>
-#include <QWindow>
 #include <algorithm>
 
 #include "tests/tour/screen.h"

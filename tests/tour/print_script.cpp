@@ -1,21 +1,9 @@
-#include "tests/tour/print_script.h"
-
 #include <QDialog>
-#include <QFileInfo>
-#include <QProcess>
 
-#include "forms/frm_grp.h"
-#include "forms/frm_main.h"
-#include "forms/frm_parameta2.h"
-#include "forms/frm_posi.h"
 #include "forms/frm_print_select.h"
-#include "forms/frm_sq_mcr.h"
-#include "posi/posi_table.h"
 #include "prog/prog_store.h"
-#include "state/text.h"
-#include "state/views.h"
-#include "tests/tour/in_tool.h"
 #include "tests/tour/screen.h"
+#include "tests/tour/scripts.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -59,10 +47,7 @@ void PrintPositions(User& user, const std::string& name) {
 }
 
 void PrintParameters(User& user) {
-  user.Choose(frmMain.mnuView, frmMain.mnuViewPara);
-  user.Click(frmParameta2.cmdParaRead);
-  user.SeeText(frmParameta2.txtHomePush[1], "50");
-  user.SeeReady(User::kTransferMs);
+  ReadParameters(user);
   user.Click(frmParameta2.cmdParaPrint);
   user.AnswerBox(Text(kShownParameters), MsgAnswer::Yes);
   PrintPdf(user, "parameters", "<< HOMING PARAMETER >>");
@@ -87,22 +72,18 @@ void PrintMacros(User& user) {
 }  // namespace
 
 void PrintData(User& user) {
-  PassSplash(user, true);
-  SeeOnline(user, false);
+  StartOnline(user);
   ReadAll(user);
   PrintPositions(user, "positions");
   PrintParameters(user);
   PrintGroups(user);
   PrintMacros(user);
   LeaveByMenu(user);
-  for (const View* view : {static_cast<View*>(&frmGrp), static_cast<View*>(&frmSqMcr)}) {
-    user.AnswerBox(Text(view->Tag), MsgAnswer::Ok);  // what is typed is not saved
-  }
+  for (const MsgId view : {frmGrp.Tag, frmSqMcr.Tag}) user.AnswerBox(Text(view), MsgAnswer::Ok);
 }
 
 void PrintPrograms(User& user) {
-  PassSplash(user, true);
-  SeeOnline(user, true);
+  StartOnline(user, true);
   ReadAll(user);
   PrintPositions(user, "positions-prg");
   user.Choose(frmMain.mnuFile, frmMain.mnuFileOpenProg);

@@ -1,16 +1,8 @@
-#include "tests/tour/prog_script.h"
-
-#include <QFileInfo>
-
-#include "forms/frm_compare.h"
-#include "forms/frm_main.h"
 #include "forms/frm_prog_no.h"
 #include "forms/frm_prog_syogokekka.h"
 #include "monitor/task_monitor.h"
 #include "prog/prog_store.h"
-#include "state/text.h"
-#include "state/views.h"
-#include "tests/tour/in_tool.h"
+#include "tests/tour/scripts.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {
@@ -181,8 +173,7 @@ int SeeAtWork(User& user, const ProgView& view, int before) {
 
 void EditProgram(User& user) {
   constexpr int kProgramChanged = 1033;
-  PassSplash(user, true);
-  SeeOnline(user, true);
+  StartOnline(user, true);
   user.Choose(frmMain.mnuFile, frmMain.mnuFileNewProg);
   ChooseProgram(user);
   ProgView& view = ProgramInFront(user);
@@ -198,8 +189,7 @@ void EditProgram(User& user) {
 void WatchTasks(User& user) {
   constexpr int kEmpty = 3, kDoesNotRun = 7109;
   FrmProgTask& f = frmProgTask;
-  PassSplash(user, true);
-  SeeOnline(user, true);
+  StartOnline(user, true);
   user.Choose(frmMain.mnuCont, frmMain.mnuContProg, frmMain.mnuContProgRead);
   ChooseProgram(user, nullptr, 1);
   user.SeeReady();
@@ -225,8 +215,7 @@ void WatchTasks(User& user) {
   Press(user, kEmpty, f.cmdStartTask);
   user.SeePanel(kPanelError, Text(kDoesNotRun, std::to_string(kEmpty)));
   user.Picture("nothing-to-run");
-  user.Click(f.cmdClose);
-  user.SeeGone(f);
+  user.Leave(f, f.cmdClose);
   LeaveByMenu(user);
 }
 

@@ -1,22 +1,9 @@
 #include "tests/tour/scripts.h"
 
 #include "forms/frm_about.h"
-#include "forms/frm_compare.h"
 #include "forms/frm_device.h"
-#include "forms/frm_main.h"
-#include "forms/frm_parameta2.h"
-#include "forms/frm_posi.h"
 #include "forms/frm_stroke_calc.h"
-#include "posi/posi_table.h"
-#include "state/app_state.h"
-#include "state/text.h"
-#include "tests/tour/data_script.h"
-#include "tests/tour/io_script.h"
-#include "tests/tour/motion_script.h"
-#include "tests/tour/print_script.h"
-#include "tests/tour/prog_script.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/wire_script.h"
 
 namespace tr7::tour {
 namespace {
@@ -67,8 +54,7 @@ void MeetAlarm(User& user) {
 }
 
 void FirstLook(User& user) {
-  PassSplash(user, true);
-  SeeOnline(user, false);
+  StartOnline(user);
   user.Picture("online");
   BreakOffReading(user);
   ReadAll(user);
@@ -89,8 +75,7 @@ void FirstLook(User& user) {
 void MainJob(User& user) {
   const Cell speed{3, AxisBase(0) + kVel}, place{3, AxisBase(0) + kPosi},
       push{4, AxisBase(0) + kPf};
-  PassSplash(user, true);
-  SeeOnline(user, false);
+  StartOnline(user);
   ReadAll(user);
   BeRefused(user, speed, "500", "30");
   EditCell(user, speed, "45");
@@ -130,8 +115,7 @@ void ChooseDevices(User& user) {
   user.Click(view.chkAxisEnable[3]);
   user.SeeOn(view.comboDeviceSize[3], false);
   user.Picture("offline-devices-chosen");
-  user.Click(view.cmdDeviceSet);
-  user.SeeGone(view);
+  user.Leave(view, view.cmdDeviceSet);
   user.SeeReady();
   user.SeeText(*frmPosi.lblDeviceType[kFirst], "QV- 50H-400");
 }
@@ -166,8 +150,7 @@ void CalculateStroke(User& user) {
   // 150 mm at 6 mm and 400 pulses a turn.
   user.SeeText(frmStrokeCalc.lblStrokePulse, "10000");
   user.Picture("stroke-result");
-  user.Click(frmStrokeCalc.cmdClose);
-  user.SeeGone(frmStrokeCalc);
+  user.Leave(frmStrokeCalc, frmStrokeCalc.cmdClose);
 }
 
 void ShowParameters(User& user) {
@@ -239,13 +222,6 @@ void OfflineFirst(User& user) {
 
 // Parameters beside the controller's: one is taken over, another is written.
 
-void ReadParameters(User& user) {
-  user.Choose(frmMain.mnuView, frmMain.mnuViewPara);
-  user.Click(frmParameta2.cmdParaRead);
-  user.SeeText(frmParameta2.txtHomePush[kSecond], "50");
-  user.SeeReady(User::kTransferMs);
-}
-
 void WriteParameters(User& user) {
   constexpr int kWrite = 470, kReflect = 685, kWritten = 1527;
   user.Click(frmParameta2.cmdParaWrite);
@@ -257,8 +233,7 @@ void WriteParameters(User& user) {
 
 void CompareJob(User& user) {
   TextBox &push = frmParameta2.txtHomePush[kSecond], &hold = frmParameta2.txtHomeVel[kFirst];
-  PassSplash(user, true);
-  SeeOnline(user, false);
+  StartOnline(user);
   ReadParameters(user);
   user.Type(push, "77");
   user.Type(hold, "12");
@@ -272,8 +247,7 @@ void CompareJob(User& user) {
   user.Key(Qt::Key_Return);
   user.SeeCell(frmCompare.flgdCompare, 1, 2, "12");
   user.Picture("compare-taken");
-  user.Click(frmCompare.cmdClose);
-  user.SeeGone(frmCompare);
+  user.Leave(frmCompare, frmCompare.cmdClose);
   user.SeeText(push, "50");
   WriteParameters(user);
   user.Click(frmParameta2.cmdParaCompare);

@@ -1,18 +1,10 @@
 #include "tests/tour/steps.h"
 
-#include <QFileInfo>
-
-#include "forms/frm_compare.h"
-#include "forms/frm_main.h"
 #include "forms/frm_options2.h"
-#include "forms/frm_posi.h"
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_selection.h"
 #include "forms/frm_splash.h"
 #include "forms/frm_syogo_kekka.h"
-#include "posi/posi_grid_layout.h"
-#include "posi/posi_table.h"
-#include "state/text.h"
 
 namespace tr7::tour {
 namespace {
@@ -42,8 +34,7 @@ void SeeResult(User& user, MsgId title, const std::initializer_list<std::string>
   user.SeeTitle(frmSyogoKekka, Text(title));
   for (const std::string& word : words) user.SeeText(frmSyogoKekka.lblLine, word);
   user.Picture(picture);
-  user.Click(frmSyogoKekka.cmdClose);
-  user.SeeGone(frmSyogoKekka);
+  user.Leave(frmSyogoKekka, frmSyogoKekka.cmdClose);
   user.SeeReady();
 }
 
@@ -86,6 +77,11 @@ void SeeOnline(User& user, bool program_mode) {
   user.SeeReady();
 }
 
+void StartOnline(User& user, bool program_mode) {
+  PassSplash(user, true);
+  SeeOnline(user, program_mode);
+}
+
 void StartReading(User& user, bool pictures) {
   user.Click(frmPosi.cmdPosiRead);
   user.SeeOn(frmSelectPosiNo2.txtFromNo);
@@ -104,6 +100,13 @@ void ReadAll(User& user) {
   user.See("40 lines", [] { return frmPosi.flgdData.Rows() == kPosiHeaderRows + 40; });
 }
 
+void ReadParameters(User& user) {
+  user.Choose(frmMain.mnuView, frmMain.mnuViewPara);
+  user.Click(frmParameta2.cmdParaRead);
+  user.SeeText(frmParameta2.txtHomePush[1], "50");
+  user.SeeReady(User::kTransferMs);
+}
+
 void SwitchToPulses(User& user) {
   constexpr int kUnitTab = 2;
   user.Choose(frmMain.mnuSetting, frmMain.mnuSettingOptions);
@@ -112,8 +115,7 @@ void SwitchToPulses(User& user) {
   user.ClickTab(frmOptions2.tabOptions, kUnitTab);
   user.Click(frmOptions2.optUnitPulse);
   user.Picture("options-unit");
-  user.Click(frmOptions2.cmdOk);
-  user.SeeGone(frmOptions2);
+  user.Leave(frmOptions2, frmOptions2.cmdOk);
   user.SeeReady();
 }
 
@@ -214,8 +216,7 @@ void CompareFile(User& user, const QString& path, const std::string& own,
   user.Click(frmCompare.chkEqualToo);
   user.See("all cells", [] { return frmCompare.flgdCompare.Rows() > 1000; });
   user.Picture("compare-positions-all");
-  user.Click(frmCompare.cmdClose);
-  user.SeeGone(frmCompare);
+  user.Leave(frmCompare, frmCompare.cmdClose);
 }
 
 void OpenAgain(User& user, const QString& path, const Cell& cell, const std::string& saved) {

@@ -1,7 +1,19 @@
 #pragma once
 
-#include <string>
+#include <QFileInfo>
 
+#include "forms/frm_compare.h"
+#include "forms/frm_grp.h"
+#include "forms/frm_main.h"
+#include "forms/frm_parameta2.h"
+#include "forms/frm_posi.h"
+#include "forms/frm_sq_mcr.h"
+#include "posi/posi_grid_layout.h"
+#include "posi/posi_table.h"
+#include "state/app_state.h"
+#include "state/text.h"
+#include "state/views.h"
+#include "tests/tour/in_tool.h"
 #include "tests/tour/user.h"
 
 namespace tr7::tour {
@@ -13,9 +25,13 @@ void Choose(User& user, MsgId prompt, const char* picture, bool second = false);
 /// Waits for the first choice behind the splash, and answers it.
 void PassSplash(User& user, bool online);
 void SeeOnline(User& user, bool program_mode);
+/// Both, for a script that begins online.
+void StartOnline(User& user, bool program_mode = false);
 /// Starts a read of lines 1 to 40 and confirms it; the pictures are of its questions.
 void StartReading(User& user, bool pictures = false);
 void ReadAll(User& user);
+/// Opens the parameter view and fills it from the controller.
+void ReadParameters(User& user);
 /// By the unit tab of the options.
 void SwitchToPulses(User& user);
 void LeaveByMenu(User& user);

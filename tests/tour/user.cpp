@@ -78,6 +78,11 @@ void User::Click(Control& control) {
   });
 }
 
+void User::Leave(View& view, CommandButton& close) {
+  Click(close);
+  SeeGone(view);
+}
+
 void User::Hold(HoldButton& button, int ms, const char* picture) {
   SeeOn(button);
   doing_ = "hold " + NameOf(button);
@@ -220,12 +225,7 @@ void User::AnswerBox(const std::string& part, MsgAnswer answer, const char* pict
 void User::ChooseFile(const QString& path, const char* picture) {
   See("the file dialogue", [] { return FrontDialog<QFileDialog>() != nullptr; });
   if (picture) Picture(picture);
-  ClickPlace("the file's name", []() -> Place {
-    const auto* dialog = FrontDialog<QFileDialog>();
-    auto* name = dialog ? dialog->findChild<QLineEdit*>("fileNameEdit") : nullptr;
-    if (!name) return {};
-    return {name, name->rect().center()};
-  });
+  ClickInDialog("fileNameEdit");
   Key(Qt::Key_A, Qt::ControlModifier);
   Keys(path.toStdString());
   // The list of names that fit what was typed goes first.

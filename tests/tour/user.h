@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QPoint>
-#include <QString>
 #include <functional>
-#include <string>
 
 #include "forms/control.h"
 #include "forms/grid.h"
@@ -30,6 +28,8 @@ class User {
 
   // Acts.
   void Click(Control& control);
+  /// Clicks the button that closes the view.
+  void Leave(View& view, CommandButton& close);
   /// Holds a button for this long, and takes a picture of it where that has a name.
   void Hold(HoldButton& button, int ms, const char* picture = nullptr);
   void ClickTab(TabStrip& strip, int index);

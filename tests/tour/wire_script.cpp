@@ -1,9 +1,8 @@
-#include "tests/tour/wire_script.h"
-
 #include "forms/frm_main.h"
 #include "forms/frm_wire.h"
 #include "state/text.h"
 #include "state/views.h"
+#include "tests/tour/scripts.h"
 #include "tests/tour/steps.h"
 
 namespace tr7::tour {

@@ -2,13 +2,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLineEdit>
-#include <QTest>
-#include <string>
 #include <utility>
 
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "posi/posi_grid_layout.h"
 #include "posi/posi_table.h"
 #include "tests/ui/ui_test.h"
@@ -33,24 +28,14 @@ class GridTest : public UiTest {
     Settle();
     table = qobject_cast<GridTable*>(desktop.forms.WidgetOf(grid));
     ASSERT_NE(table, nullptr);
-    table->window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(table->window()));
+    Activate(*table);
     GoTo(kFirst, FirstShownColumn());
   }
   void GoTo(int row, int col) {
     grid.SelectCell(row, col);
     Settle();
   }
-  /// Keys by their names, "Shift+Down Return", to whatever has them: the open editor, else the
-  /// grid.
-  void Press(const char* keys) {
-    for (const QString& name : QString(keys).split(' ')) {
-      const QKeyCombination key = QKeySequence::fromString(name)[0];
-      QWidget* target = table->Editor();
-      QTest::keyClick(target ? target : table, key.key(), key.keyboardModifiers());
-      Settle();
-    }
-  }
+  void Press(const char* keys) { PressKeys(*table, keys); }
   void Type(const char* text) {
     for (; *text; ++text) {
       QWidget* target = table->Editor();

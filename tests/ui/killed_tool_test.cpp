@@ -4,13 +4,10 @@
 
 #include <signal.h>
 
-#include <QApplication>
-#include <QProcess>
 #include <QThread>
 #include <random>
 
 #include "core/main_entry.h"
-#include "forms/frm_posi.h"
 #include "forms/frm_splash.h"
 #include "tests/ui/sim_process.h"
 #include "tests/ui/ui_test.h"

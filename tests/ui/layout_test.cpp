@@ -12,10 +12,7 @@
 #include <set>
 
 #include "forms/control.h"
-#include "forms/frm_main.h"
-#include "forms/frm_posi.h"
 #include "prog/prog_view.h"
-#include "state/views.h"
 #include "tests/ui/clipping.h"
 #include "tests/ui/ui_test.h"
 

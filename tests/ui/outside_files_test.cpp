@@ -1,13 +1,11 @@
 // Files that come from outside: a later start, and what is dropped on the frame.
 
-#include <QApplication>
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
 #include <QUrl>
 
 #include "forms/frm_grp.h"
-#include "forms/frm_main.h"
 #include "tests/ui/ui_test.h"
 #include "ui/first_start.h"
 

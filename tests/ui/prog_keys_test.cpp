@@ -1,12 +1,9 @@
 // A listing under real keys and a real mouse.
 
-#include <QLineEdit>
 #include <QListWidget>
-#include <QTest>
 
 #include "prog/prog_listing.h"
 #include "prog/prog_view.h"
-#include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/grid_cell_painter.h"
 #include "ui/grid_table.h"
@@ -26,20 +23,10 @@ class ProgKeysTest : public UiTest {
     view->flgdProg.SelectCell(row, col);
     Settle();
     table = qobject_cast<GridTable*>(desktop.forms.WidgetOf(view->flgdProg));
-    table->window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(table->window()));
+    Activate(*table);
     table->setFocus();
   }
-  void Press(const char* keys) {
-    for (const QString& name : QString(keys).split(' ')) {
-      const QKeyCombination key = QKeySequence::fromString(name)[0];
-      QWidget* target = table;
-      if (table->Editor()) target = table->Editor();
-      name.size() == 1 ? QTest::keyClick(target, name[0].toLatin1())
-                       : QTest::keyClick(target, key.key(), key.keyboardModifiers());
-      Settle();
-    }
-  }
+  void Press(const char* keys) { PressKeys(*table, keys); }
   /// "JUMP 7/LB 7 @1,2": first operands and the cursor.
   std::string Seen() const {
     const Grid& listing = view->flgdProg;

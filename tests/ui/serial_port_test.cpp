@@ -2,15 +2,9 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QSerialPort>
-#include <algorithm>
-#include <atomic>
-#include <chrono>
 #include <cstdlib>
-#include <string>
-#include <thread>
 
 #include "link/port.h"
 #include "tests/support/as_ordinary_user.h"
@@ -93,38 +87,6 @@ TEST_F(SerialPortTest, AVanishedDeviceShutsThePortAndLetsTheToolSleep) {
 }
 
 // An expected reply gathers; whatever else comes is there at once.
-
-TEST_F(SerialPortTest, AnExpectedReplyWakesSeldomAndIsThereWithItsLastByte) {
-  Open();
-  const std::string reply = "0RP001" + std::string(60, '7') + "\r\n";
-  port.ExpectReply(reply.size());
-  const std::uint64_t sleeps = desktop.pump.sleeps;
-  const std::int64_t start_ms = NowMs();
-  std::atomic<std::int64_t> whole_ms = 0;
-  std::thread controller([&] {
-    // At 9600 baud by the clock: a busy machine may hold a byte up, but not slow the line down.
-    auto due = std::chrono::steady_clock::now();
-    for (const char byte : reply) {
-      std::this_thread::sleep_until(due += std::chrono::microseconds(1041));
-      line.Send(std::string(1, byte));
-    }
-    whole_ms = NowMs();
-  });
-  std::string got;
-  EXPECT_TRUE(Until([&] {
-    // As the receive timer does: nothing is taken before it is shown.
-    if (port.InBufferCount() > 0) got += port.ReadAll();
-    return got.size() >= reply.size();
-  }));
-  const std::int64_t seen_ms = NowMs();
-  controller.join();
-  EXPECT_EQ(got, reply);
-  EXPECT_LE(seen_ms - whole_ms, 1000);
-  // On a busy machine the bytes come more slowly, and there is time for more wakes.
-  const auto bytes = static_cast<std::int64_t>(reply.size());
-  const std::int64_t late_ms = std::max<std::int64_t>(0, seen_ms - start_ms - bytes);
-  EXPECT_LE(static_cast<std::int64_t>(desktop.pump.sleeps - sleeps), bytes * 2 / 3 + late_ms);
-}
 
 TEST_F(SerialPortTest, AReplyOfAnotherLengthArrivesWholeAndAPartIsKept) {
   for (const std::string& reply : {std::string("\n"), std::string("0%%101\r\n"),

@@ -3,7 +3,6 @@
 #include "ui/sim_dock.h"
 
 #include <QMainWindow>
-#include <QTest>
 #include <QToolButton>
 
 #include "tests/ui/ui_test.h"

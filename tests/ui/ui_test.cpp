@@ -7,6 +7,7 @@
 #include "core/reset_state.h"
 #include "forms/frm_selection.h"
 #include "forms/frm_splash.h"
+#include "ui/grid_table.h"
 
 namespace tr7 {
 
@@ -53,6 +54,22 @@ bool UiTest::Until(const std::function<bool()>& holds, int ms) {
 
 void UiTest::WaitMs(int ms) {
   Until([] { return false; }, ms);
+}
+
+void UiTest::PressKeys(GridTable& table, const char* keys) {
+  for (const QString& name : QString(keys).split(' ')) {
+    const QKeyCombination key = QKeySequence::fromString(name)[0];
+    QWidget* target = &table;
+    if (table.Editor()) target = table.Editor();
+    name.size() == 1 ? QTest::keyClick(target, name[0].toLatin1())
+                     : QTest::keyClick(target, key.key(), key.keyboardModifiers());
+    Settle();
+  }
+}
+
+void UiTest::Activate(QWidget& widget) {
+  widget.window()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(widget.window()));
 }
 
 void UiTest::Settle() {

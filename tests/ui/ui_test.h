@@ -2,16 +2,25 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
-#include <functional>
+#include <QTest>
 
+#include "forms/frm_main.h"
+#include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/text.h"
+#include "state/views.h"
 #include "tests/ui/screen_user.h"
 #include "ui/desktop.h"
 
 namespace tr7 {
+
+class GridTable;
 
 /// The desktop's doors on a screen that nobody sees: start values, English, settings of its own.
 class UiTest : public ::testing::Test {
@@ -29,6 +38,11 @@ class UiTest : public ::testing::Test {
   bool Until(const std::function<bool()>& holds, int ms = 5000);
   /// Serves events and ticks for so long.
   void WaitMs(int ms);
+  /// Keys by their names, "Shift+Down Return $", to whatever has them: the open editor, else the
+  /// grid.
+  void PressKeys(GridTable& table, const char* keys);
+  /// Brings the widget's window to the front.
+  static void Activate(QWidget& widget);
   /// Draws what the records hold and serves the events that this makes.
   void Settle();
 

@@ -1,24 +1,17 @@
 // Windows: closing, dialogues and boxes under the user's keys.
 
-#include <QApplication>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPointer>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTest>
 
 #include "forms/frm_grp.h"
-#include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
-#include "forms/frm_posi.h"
 #include "forms/frm_selection.h"
 #include "state/message_box.h"
 #include "state/selection.h"
 #include "state/view_instances.h"
-#include "state/views.h"
 #include "tests/ui/ui_test.h"
 #include "ui/twips.h"
 
@@ -76,23 +69,6 @@ TEST_F(WindowTest, ClosingTheWindowEndsTheToolUnlessSomethingSpeaksAgainstIt) {
   EXPECT_TRUE(close());
 }
 
-TEST_F(WindowTest, TheToolBarOpensPositionsAndFileCloseSparesThem) {
-  StartOffline();
-  frmMain.mnuViewPara.Press();
-  ASSERT_NE(ActiveView(), &frmPosi);
-  frmMain.tbToolBar.Press("Open");
-  EXPECT_EQ(ActiveView(), &frmPosi) << "whichever view was in front";
-  frmMain.mnuFileClose.Click();
-  EXPECT_TRUE(frmPosi.Visible);
-}
-
-TEST_F(WindowTest, TheMenusExitGoesOnWhileBusy) {
-  StartOffline();
-  AppState.ComBusy = True;
-  frmMain.mnuFileExit.Press();
-  EXPECT_TRUE(desktop.forms.Ended() && user.boxes.empty());
-}
-
 QMdiArea& AreaOf(const OneStart& start) {
   return *start.desktop.forms.WidgetOf(frmMain.lblStatus)->window()->findChild<QMdiArea*>();
 }
@@ -142,15 +118,9 @@ TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
   EXPECT_EQ(frmMain.Width, Twips(900));
   Frame().showMaximized();
   Settle();
+  EXPECT_TRUE(frmMain.Maximised);
   EXPECT_EQ(frmMain.Width, Twips(900)) << "a full screen is not a place";
-  desktop.forms.Hide(frmMain);
-  desktop.forms.Show(frmMain);
-  Settle();
-  EXPECT_TRUE(Frame().isMaximized());
-  EXPECT_EQ(frmMain.Width, Twips(900));
   Frame().showNormal();
-  Settle();
-  EXPECT_FALSE(frmMain.Maximised);
   desktop.forms.Hide(frmMain);
   Settle();
   frmMain.Left = Twips(-9000);
@@ -163,63 +133,6 @@ TEST_F(WindowTest, TheFrameOpensWhereItStoodAndNeverOutsideTheScreen) {
   const QRect screen = Frame().screen()->availableGeometry();
   EXPECT_TRUE(screen.adjusted(-kBorders, 0, kBorders, kBorders).contains(place))
       << place.x() << "," << place.y() << " " << place.width() << "x" << place.height();
-}
-
-TEST_F(WindowTest, AnIdleScreenDrawsNothingAndKeepsItsTitle) {
-  StartOffline();
-  const QString title = Frame().windowTitle();
-  EXPECT_TRUE(title.contains("QV-TR7"));
-  WaitMs(300);  // the layout of what has just opened comes to rest
-  const std::uint64_t sleeps = desktop.pump.sleeps;
-  WaitMs(300);
-  EXPECT_LE(desktop.pump.sleeps - sleeps, 8u);
-  EXPECT_EQ(Frame().windowTitle(), title) << "a child that fills the frame leaves it alone";
-}
-
-/// A kind of view that there may be many of, drawn by a layout that stands for its own.
-struct PageView : View {
-  explicit PageView(int number) : View("frmPage" + std::to_string(number)) {
-    Layout = "frmSplash";
-    MdiChild = true;
-    Caption = Name;
-  }
-  ~PageView() override { --living; }
-  Label lblProduct{*this, "lblProduct"};
-  Label lblSubtitle{*this, "lblSubtitle"};
-  Label lblVersion{*this, "lblVersion"};
-  inline static int living = 0;
-};
-
-TEST_F(WindowTest, ViewsInNumbersShareALayoutAndGoWhenTheyAreClosed) {
-  StartOffline();
-  PageView::living = 3;
-  bool refuse = true;
-  std::vector<QPointer<QWidget>> windows;
-  for (int number = 1; number <= 3; ++number) {
-    PageView& page = NewView<PageView>(number);
-    page.lblProduct.Caption = "page " + std::to_string(number);
-    page.QueryUnload = [&refuse](CloseReason) { return refuse; };
-    ShowView(page);
-    Settle();
-    auto* label = qobject_cast<QLabel*>(desktop.forms.WidgetOf(page.lblProduct));
-    ASSERT_NE(label, nullptr);
-    EXPECT_EQ(label->text().toStdString(), page.lblProduct.Caption);
-    QWidget* window = label->parentWidget();
-    while (window && !qobject_cast<QMdiSubWindow*>(window)) window = window->parentWidget();
-    ASSERT_NE(window, nullptr);
-    EXPECT_EQ(window->windowTitle().toStdString(), page.Caption);
-    windows.emplace_back(window);
-  }
-  frmMain.mnuWindowTileVertical.Press();
-  Settle();
-  EXPECT_LT(windows[0]->geometry().right(), windows[1]->geometry().left() + 8);
-  for (const auto& window : windows) window->close();
-  EXPECT_EQ(PageView::living, 3) << "each refuses";
-  refuse = false;
-  for (const auto& window : windows) window->close();
-  EXPECT_TRUE(Until(
-      [&windows] { return PageView::living == 0 && windows[0].isNull() && windows[2].isNull(); }));
-  EXPECT_EQ(ActiveView(), &frmPosi);
 }
 
 TEST_F(WindowTest, KeysPressTheirButtons) {
@@ -270,11 +183,7 @@ TEST_F(WindowTest, KeysAnswerADialogueAndOneWithoutCancelStays) {
 // Boxes.
 
 TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
-  const struct {
-    MsgButtons buttons;
-    std::vector<MsgAnswer> answers;
-    MsgAnswer escaped;
-  } kinds[] = {
+  const std::tuple<MsgButtons, std::vector<MsgAnswer>, MsgAnswer> kinds[] = {
       {MsgButtons::Ok, {MsgAnswer::Ok}, MsgAnswer::Ok},
       {MsgButtons::OkCancel, {MsgAnswer::Ok, MsgAnswer::Cancel}, MsgAnswer::Cancel},
       // Escape is no answer to it: the button pressed next is.
