@@ -9,6 +9,7 @@ FrmKeptWork::FrmKeptWork() : View("frmKeptWork", 7800) {
   cmdTakeBackAll.Default = true;
   cmdLater.Cancel = true;
   FirstFocus = &cmdTakeBackAll;
+  HelpPage = "files";
   flgdKept.FitsView = true;
   for (int col = 0; col < flgdKept.Cols(); ++col) {
     flgdKept.SetColWidth(col, kShares[col]);

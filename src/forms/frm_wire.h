@@ -16,6 +16,7 @@ struct FrmWire : View {
     cmdFindPrevious.Key = "Shift+F3";
     for (TextBox* box : {&txtFilter, &txtFind}) box->InputMethodOff = false;
     FirstFocus = &flgdWire;
+    HelpPage = "line";
   }
   TextBox txtFilter{*this, "txtFilter"};
   ComboBox comboDirection{*this, "comboDirection"};  ///< both ways, sent, received

@@ -31,6 +31,7 @@ constexpr Tip kFrmMain[] = {{"cmdComCancel", 8005},
                             {"mnuViewSysPara", 8029},
                             {"mnuViewGrp", 8030},
                             {"mnuViewSM", 8031},
+                            {"mnuViewWire", 8288},
                             {"mnuContPosiRead", 8032},
                             {"mnuContPosiWrite", 8033},
                             {"mnuContPosiVerify", 8034},
@@ -246,6 +247,18 @@ constexpr Tip kAnyView[] = {{"cmdClose", 8000},        {"cmdIoWinClose", 8000}, 
                             {"cmdDeviceCancel", 8001}, {"cmdOk", 8002},         {"cmdBack", 8003},
                             {"cmdDeviceBack", 8003},   {"optChoice", 8004}};
 
+constexpr Tip kFrmWire[] = {
+    {"txtFilter", 8270},   {"comboDirection", 8271},  {"chkHidePolls", 8272},
+    {"chkPause", 8273},    {"flgdWire", 8274},        {"txtFind", 8275},
+    {"cmdFindNext", 8276}, {"cmdFindPrevious", 8277}, {"txtFrame", 8278},
+    {"cmdSend", 8279},     {"cmdCopy", 8280},         {"cmdSave", 8281},
+    {"cmdClear", 8282}};
+constexpr Tip kFrmKeptWork[] = {{"flgdKept", 8283},
+                                {"cmdTakeBackAll", 8284},
+                                {"cmdTakeBack", 8285},
+                                {"cmdDiscard", 8286},
+                                {"cmdLater", 8287}};
+
 constexpr ViewTips kViews[] = {{"", kAnyView},
                                {"frmMain", kFrmMain},
                                {"frmAbout", kFrmAbout},
@@ -266,7 +279,9 @@ constexpr ViewTips kViews[] = {{"", kAnyView},
                                {"frmStrokeCalc", kFrmStrokeCalc},
                                {"frmSyogoKekka", kFrmSyogoKekka},
                                {"frmPrintSelect", kFrmPrintSelect},
-                               {"frmIOCheckFG", kFrmIOCheckFG}};
+                               {"frmIOCheckFG", kFrmIOCheckFG},
+                               {"frmWire", kFrmWire},
+                               {"frmKeptWork", kFrmKeptWork}};
 
 }  // namespace
 
