@@ -10,9 +10,9 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "base/scope.h"
 #include "state/text.h"
 #include "ui/binding.h"
-#include "base/scope.h"
 #include "ui/cell_bubble.h"
 #include "ui/grid_cell_painter.h"
 #include "ui/grid_header.h"

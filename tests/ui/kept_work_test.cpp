@@ -51,7 +51,7 @@ namespace {
 
 TEST(KilledTool, TheNextStartOffersWhatWasEditedAndNoneWhileItRuns) {
   long long oldest = 0;
-  for (int left = qEnvironmentVariable("TR7_KILLS", "10").toInt(); left > 0; --left) {
+  for (int left = qEnvironmentVariable("TR7_KILLS", "3").toInt(); left > 0; --left) {
     OneStart next;
     const QString settings = next.folder.filePath("settings.ini");
     UserWorkFolder other(WorkPath({settings})), another(WorkPath({settings}));
