@@ -181,6 +181,7 @@ bool TusinStopAgain() {
   request->sent_again = true;
   const std::string bytes = request->message + "\r\n";
   NoteSent(bytes.size());
+  FrameLog.Note(FrameEvent::SentAgain, bytes);
   return doors.serial->Write(bytes);
 }
 

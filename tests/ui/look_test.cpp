@@ -18,7 +18,8 @@ double Luminance(const QColor& colour) {
 }
 
 double Contrast(const QColor& a, const QColor& b) {
-  const auto [low, high] = std::minmax(Luminance(a), Luminance(b));
+  const double first = Luminance(a), second = Luminance(b);
+  const auto [low, high] = std::minmax(first, second);
   return (high + 0.05) / (low + 0.05);
 }
 
