@@ -44,7 +44,9 @@ void ProgErrClear(Grid& errors) {
 }
 
 void ProgErrPaneOpen(ProgView& view) {
-  if (view.Maximised || view.Minimised) return;
+  // A view that fills the frame has room for it: without the pane nothing would tell the errors,
+  // nor take their mark away.
+  if (view.Minimised) return;
   if (!view.ErrPaneIsOpen) view.Height += kPaneHeight;
   view.ErrPaneIsOpen = view.flgdPrgErr.Visible = view.cmdCloseSyntaxErr.Visible = true;
 }
