@@ -23,6 +23,8 @@ KeepRecord KeepState;
 namespace {
 
 constexpr int kMsgNotKept = 7813;
+/// What is unsaved is found by a look at every field, and nobody types faster than this.
+constexpr int kAskEveryMs = 250;
 
 /// Something that is unsaved, and the name of its file.
 struct Unsaved {
@@ -136,6 +138,7 @@ void InstallKeepWork() {
   KeepKinds().clear();
   frmMain.TimerKeep.Tick = [] { KeepState.due = true; };
   frmMain.TimerKeepNow.HasWork = HasWork;
+  frmMain.TimerKeepNow.AskEveryMs = kAskEveryMs;
   frmMain.TimerKeepNow.Tick = Tick;
   KeepUnsavedWork = [] { static_cast<void>(KeepNow()); };
 }

@@ -12,7 +12,8 @@ namespace tr7 {
 /// except in a pumped wait, and a one-shot timer stops itself in its tick.
 ///
 /// A timer with `HasWork` is served at once whenever that says so, and costs no wake-up
-/// while it does not; its interval is then only the bound of the design it stands for.
+/// while it does not; its interval is then only the bound of the design it stands for. One whose
+/// question costs something is asked it at rest and every `AskEveryMs` at most.
 struct Timer {
   explicit Timer(int interval_ms = 0, bool enabled = false);
   ~Timer();
@@ -29,8 +30,12 @@ struct Timer {
   bool Enabled;
   Handler<void()> Tick;
   std::function<bool()> HasWork;  ///< a question, no handler: it changes nothing
+  int AskEveryMs = 0;             ///< 0: whenever the pump turns
 
-  std::int64_t DueUs = kNotArmed;  ///< kept by the pump
+  // Kept by the pump.
+  std::int64_t DueUs = kNotArmed;
+  std::int64_t AskedUs = kNotArmed;
+  bool Wanted = false;  ///< the answer of a question that is asked now and then
   static constexpr std::int64_t kNotArmed = -1;
 };
 

@@ -8,9 +8,19 @@
 namespace tr7 {
 namespace {
 
+/// Ahead of a sleep; the time of the next question where it is too early for one.
+std::optional<std::int64_t> AskNowAndThen(Timer& timer, std::int64_t now) {
+  if (!timer.Enabled || timer.Wanted) return timer.Wanted ? std::optional(now) : std::nullopt;
+  const std::int64_t next = timer.AskedUs + std::int64_t{timer.AskEveryMs} * 1000;
+  if (timer.AskedUs != Timer::kNotArmed && now < next) return next;
+  timer.AskedUs = now;
+  timer.Wanted = timer.HasWork();
+  return timer.Wanted ? std::optional(now) : std::nullopt;
+}
+
 bool IsDue(Timer& timer, std::int64_t now) {
   if (!timer.Enabled) return false;
-  if (timer.HasWork) return timer.HasWork();
+  if (timer.HasWork) return timer.AskEveryMs > 0 ? timer.Wanted : timer.HasWork();
   if (timer.Interval <= 0) return false;
   if (timer.DueUs == Timer::kNotArmed) timer.DueUs = now + std::int64_t{timer.Interval} * 1000;
   return now >= timer.DueUs;
@@ -24,6 +34,7 @@ bool ServeDueTimers() {
     Timer& timer = *TimerTable()[i];
     if (!IsDue(timer, doors.pump->NowUs())) continue;
     timer.DueUs = Timer::kNotArmed;
+    timer.Wanted = false;
     served = true;
     if (timer.Tick) timer.Tick();
   }
@@ -34,6 +45,12 @@ std::optional<std::int64_t> NextDueUs() {
   std::optional<std::int64_t> next = doors.serial ? doors.serial->NextEventUs() : std::nullopt;
   const std::int64_t now = doors.pump->NowUs();
   for (Timer* timer : TimerTable()) {
+    if (timer->HasWork && timer->AskEveryMs > 0) {
+      const auto asked = AskNowAndThen(*timer, now);
+      if (asked == now) return now;
+      if (asked) next = std::min(next.value_or(*asked), *asked);
+      continue;
+    }
     if (IsDue(*timer, now)) return now;
     if (!timer->Enabled || timer->HasWork || timer->Interval <= 0) continue;
     next = std::min(next.value_or(timer->DueUs), timer->DueUs);

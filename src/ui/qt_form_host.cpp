@@ -28,7 +28,7 @@ namespace tr7 {
 namespace {
 
 /// Records that change all the time are drawn this often.
-constexpr std::int64_t kPushEveryUs = 50'000;
+constexpr std::int64_t kPushEveryUs = 100'000;
 /// How long a picture may take to get to the screen before the start goes on without it.
 constexpr std::int64_t kExposeUs = 200'000;
 

@@ -1,6 +1,7 @@
 #include "ui/qt_pump.h"
 
 #include <QAbstractEventDispatcher>
+#include <QDateTime>
 #include <QTime>
 #include <algorithm>
 #include <chrono>
@@ -54,8 +55,16 @@ std::string QtPump::TimeOfDay() const {
   return QTime::currentTime().toString(QStringLiteral("HH:mm:ss")).toStdString();
 }
 
+/// Every frame on the line is stamped, and the system takes its time to tell the zone; no zone
+/// changes its clock but at a quarter of an hour.
 std::uint32_t QtPump::MsOfDay() const {
-  return static_cast<std::uint32_t>(QTime::currentTime().msecsSinceStartOfDay());
+  constexpr qint64 kQuarterMs = 15 * 60'000, kDayMs = 24 * 60 * 60'000;
+  const qint64 now_ms = QDateTime::currentMSecsSinceEpoch();
+  if (quarter_ != now_ms / kQuarterMs) {
+    quarter_ = now_ms / kQuarterMs;
+    zone_ms_ = QDateTime::currentDateTime().offsetFromUtc() * qint64{1000};
+  }
+  return static_cast<std::uint32_t>((now_ms + zone_ms_ + kDayMs) % kDayMs);
 }
 
 std::string QtPump::Date() const {

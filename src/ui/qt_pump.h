@@ -50,6 +50,8 @@ class QtPump : public QObject, public EventPump {
   std::int64_t armed_us_ = 0;
   std::int64_t last_events_us_ = 0;
   int holds_ = 0;
+  mutable qint64 quarter_ = -1;  ///< of an hour, since 1970, for which the next one holds
+  mutable qint64 zone_ms_ = 0;   ///< local time less UTC
 };
 
 }  // namespace tr7

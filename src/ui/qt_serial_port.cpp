@@ -72,8 +72,7 @@ QtSerialPort::QtSerialPort() {
   QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { OnBytes(); });
   rest_.setSingleShot(true);
   rest_.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&rest_, &QTimer::timeout, &port_,
-                   [this] { port_.setReadBufferSize(NextLook()); });
+  QObject::connect(&rest_, &QTimer::timeout, &port_, [this] { Look(); });
 }
 
 /// A device that is gone calls for a read as long as it stays open, so it is shut; not from within
@@ -88,34 +87,42 @@ void QtSerialPort::Vanish(const QString& why) {
 }
 
 /// A line that hangs up wakes the loop, yet nothing is said of it: it is looked at ahead of a
-/// sleep, not more often than a user would notice.
+/// sleep, not more often than a user would notice. Nor is listening switched but here: each switch
+/// wakes the loop once more, and of two frames in a row the one undoes the other's.
 std::optional<std::int64_t> QtSerialPort::NextEventUs() {
   constexpr qint64 kLookEveryMs = 50;
   if (port_.isOpen() && (!looked_.isValid() || looked_.hasExpired(kLookEveryMs))) {
     looked_.start();
     if (HasHungUp(port_)) Vanish(qt_error_string(ENODEV));
   }
+  Listen(!gathering_ || late_);
   return sim_.NextEventUs();
 }
 
 void QtSerialPort::ExpectReply(std::size_t bytes) {
   LetAllIn();
-  if (!port_.isOpen() || port_.bytesAvailable() > 0) return;
-  expected_ = static_cast<qint64>(bytes);
-  // A full buffer wakes nobody: the first byte says that the reply is under way.
-  if (expected_ > 1) port_.setReadBufferSize(1);
+  if (port_.isOpen() && port_.bytesAvailable() == 0) expected_ = static_cast<qint64>(bytes);
 }
 
 /// Every byte on its own would wake the tool a thousand times a second, for a reply that can do
-/// nothing before its end. So the next ones gather while the line takes its time for them.
-void QtSerialPort::OnBytes() {
-  const qint64 gathered = port_.bytesAvailable();
-  if (gathered >= expected_ || port_.canReadLine()) return LetAllIn();
-  if (gathered == 1) since_first_.start();
+/// nothing before its end. So nobody listens while the line takes its time for what was sent and
+/// for the answer; one that is late wakes by its first byte.
+void QtSerialPort::Gather(qint64 bytes_on_the_line) {
+  constexpr qint64 kLongestRestMs = 250;  // a hang-up is heard as well
   gathering_ = true;
-  if (gathered < port_.readBufferSize()) return;  // late ones: each of them says when it comes
-  const qint64 due_us = (NextLook() - 1) * byte_us_ - since_first_.nsecsElapsed() / 1000;
-  rest_.start(static_cast<int>(std::max<qint64>(due_us + 999, 0) / 1000));
+  late_ = false;
+  const qint64 due_ms = (bytes_on_the_line * byte_us_ + 999) / 1000;
+  rest_.start(static_cast<int>(std::clamp<qint64>(due_ms, 1, kLongestRestMs)));
+}
+
+void QtSerialPort::Look() {
+  late_ = !port_.waitForReadyRead(0);  // else `OnBytes` has been told
+}
+
+void QtSerialPort::OnBytes() {
+  if (!gathering_) return;
+  if (port_.bytesAvailable() >= expected_ || port_.canReadLine()) return LetAllIn();
+  Gather(NextLook() - port_.bytesAvailable());
 }
 
 /// How many bytes of the reply to let gather next.
@@ -129,7 +136,18 @@ void QtSerialPort::LetAllIn() {
   rest_.stop();
   gathering_ = false;
   expected_ = 0;
-  if (port_.readBufferSize() != 0) port_.setReadBufferSize(0);
+}
+
+/// Whether what comes in wakes the loop.
+void QtSerialPort::Listen(bool on) {
+  if (listener_ && listener_->isEnabled() != on) listener_->setEnabled(on);
+}
+
+/// The port's own, made anew at each opening; a system without one wakes as it likes.
+void QtSerialPort::FindListener() {
+  for (QSocketNotifier* each : port_.findChildren<QSocketNotifier*>()) {
+    if (each->type() == QSocketNotifier::Read) listener_ = each;
+  }
 }
 
 PortFault QtSerialPort::FaultOfOpening(const QString& path) const {
@@ -154,7 +172,10 @@ PortFault QtSerialPort::Open(const std::string& device) {
   if (!QFileInfo::exists(file)) return PortFault::NoSuchPort;
 #endif
   dead_ = false;
-  if (port_.open(QIODevice::ReadWrite)) return PortFault::None;
+  if (port_.open(QIODevice::ReadWrite)) {
+    FindListener();
+    return PortFault::None;
+  }
   fault_text_ = port_.errorString().toStdString();
   return FaultOfOpening(file);
 }
@@ -188,6 +209,7 @@ bool QtSerialPort::Write(std::string_view bytes) {
   const auto size = static_cast<qint64>(bytes.size());
   if (port_.write(bytes.data(), size) != size) return false;
   port_.flush();
+  if (expected_ > 1 && !dead_) Gather(size + NextLook());
   return !dead_;
 }
 
@@ -199,7 +221,8 @@ std::size_t QtSerialPort::InBufferCount() {
 std::string QtSerialPort::ReadAll() {
   if (sim_.IsOpen()) return sim_.ReadAll();
   LetAllIn();
-  return port_.isOpen() ? port_.readAll().toStdString() : std::string();
+  // Not all that may come: asked for more than there is, the port would begin to listen.
+  return port_.isOpen() ? port_.read(port_.bytesAvailable()).toStdString() : std::string();
 }
 
 std::vector<std::string> QtSerialPort::PortNames() const {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QSerialPort>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <optional>
 #include <string>
@@ -39,18 +41,24 @@ class QtSerialPort : public SerialPort {
 
  private:
   PortFault FaultOfOpening(const QString& path) const;
+  void FindListener();
+  void Gather(qint64 bytes_on_the_line);
+  void Look();
   void OnBytes();
   qint64 NextLook() const;
   void LetAllIn();
+  void Listen(bool on);
   void Vanish(const QString& why);
 
   QSerialPort port_;
-  QTimer rest_;                ///< while it runs, nobody is woken by what comes in
-  bool gathering_ = false;     ///< a part of the expected reply is there and shown to nobody yet
-  QElapsedTimer since_first_;  ///< since the reply's first byte
-  QElapsedTimer looked_;       ///< since the last look whether the line has hung up
-  qint64 expected_ = 0;        ///< bytes of the reply on its way; 0: nobody knows
-  qint64 byte_us_ = 0;         ///< time of a byte on the line
+  QPointer<QSocketNotifier> listener_;  ///< what wakes the loop for bytes that have come in
+  QTimer rest_;                         ///< until what is expected can be there
+  bool gathering_ =
+      false;              ///< the expected reply is on its way, its first part shown to nobody yet
+  bool late_ = false;     ///< it has not come in its time: the next byte wakes
+  QElapsedTimer looked_;  ///< since the last look whether the line has hung up
+  qint64 expected_ = 0;   ///< bytes of the reply; 0: nobody knows
+  qint64 byte_us_ = 0;    ///< time of a byte on the line
   SimPort sim_;
   bool dead_ = false;  ///< the device went away while open
   std::string fault_text_;

@@ -59,7 +59,7 @@ QString Plain(const std::string& caption) {
 SpokenNames::SpokenNames(const View& view, const Widgets& widgets) {
   for (const auto& [control, widget] : widgets) {
     if (Is(*control, {"Label", "Image", "Frame", "Menu", "StatusBar", "ProgressBar"})) continue;
-    Name name{widget, &control->Tip, {}, {}};
+    Name name{widget, &control->Tip, {}, {}, false};
     for (const Control* label : LabelsOf(view, *control)) name.words.push_back(&label->Caption);
     if (Is(*control, {"CommandButton", "HoldButton", "CheckBox", "OptionButton"})) {
       name.words.push_back(&control->Caption);
@@ -75,7 +75,7 @@ void SpokenNames::Push() {
   for (Name& name : names_) {
     const bool same = std::equal(name.words.begin(), name.words.end(), name.shown.begin(),
                                  name.shown.end(), stands);
-    if (same && !name.widget->accessibleName().isEmpty()) continue;
+    if (same && name.told) continue;
     name.shown.clear();
     QStringList words;
     for (const std::string* word : name.words) {
@@ -83,6 +83,7 @@ void SpokenNames::Push() {
       if (!word->empty()) words << Plain(*word);
     }
     name.widget->setAccessibleName(words.isEmpty() ? Q(*name.tip) : words.join(' '));
+    name.told = !name.widget->accessibleName().isEmpty();
   }
 }
 

@@ -26,6 +26,7 @@ class SpokenNames {
     const std::string* tip;  ///< the name where there are no words
     std::vector<const std::string*> words;
     std::vector<std::string> shown;
+    bool told;
   };
   std::vector<Name> names_;
 };
