@@ -129,20 +129,6 @@ void Axes::TripAbove(int axis, double top, const Alarm& alarm) {
   state.trip = Trip{state.motion->start_us + std::llround(time_s / kMicro), alarm};
 }
 
-void Axes::Linger(unsigned mask, std::int64_t time_us, std::int64_t now_us) {
-  int last = -1, lowest = -1;
-  for (int axis = kAxes - 1; axis >= 0; --axis) {
-    if (((mask >> axis) & 1U) == 0) continue;
-    lowest = axis;
-    if (!Moving(axis)) continue;
-    if (last < 0 || At(axis).DueUs() > At(last).DueUs()) last = axis;
-  }
-  if (lowest < 0) return;
-  State& state = At(last < 0 ? lowest : last);
-  if (last < 0) state.motion = Motion{.start_us = now_us, .from = state.pulses, .to = state.pulses};
-  state.motion->after_us += time_us;
-}
-
 void Axes::Home(int axis, double speed, std::int64_t search_us, std::int64_t now_us) {
   constexpr double kHomingRise = 0.1;
   State& state = At(axis);

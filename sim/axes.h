@@ -50,8 +50,6 @@ class Axes {
                const Alarm& alarm);
   /// The move just begun trips when it gets faster than `top` pulses a second.
   void TripAbove(int axis, double top, const Alarm& alarm);
-  /// The axes of a command count as moving for this time behind their last one's arrival.
-  void Linger(unsigned mask, std::int64_t time_us, std::int64_t now_us);
   void Home(int axis, double speed, std::int64_t search_us, std::int64_t now_us);
   /// Brakes the moving axes of the mask within `fall_s`; a homing given up leaves the axis without
   /// a home.

@@ -237,9 +237,7 @@ const std::vector<std::string>& Controller::Requests() const { return impl_->req
 void Controller::ClearRequests() { impl_->requests.clear(); }
 
 const std::deque<MotionStart>& Controller::MotionStarts() const { return impl_->machine.starts; }
-std::optional<std::int64_t> Controller::NextRestUs() const {
-  return impl_->machine.axes.NextRestUs();
-}
+std::optional<std::int64_t> Controller::NextRestUs() const { return impl_->machine.NextRestUs(); }
 
 std::optional<std::int64_t> Controller::NextInsideUs() const {
   return impl_->machine.NextInsideUs();

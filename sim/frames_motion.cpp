@@ -82,7 +82,7 @@ std::string Stop(Machine& machine, std::string_view args, std::int64_t now_us) {
   machine.NoteStop(now_us);
   machine.tasks.StopAll(machine, now_us);
   machine.axes.Stop(kStopFall, now_us);
-  machine.arrival_outputs.reset();
+  machine.arrival.reset();
   return "0SP";
 }
 

@@ -42,7 +42,7 @@ std::string AxisDigit(const Machine& machine, Holds holds) {
 
 std::string RestState(Machine& machine, std::string_view args, std::int64_t) {
   if (!args.empty()) return BadFrame();
-  return "0RA" + AxisDigit(machine, [&](int axis) { return !machine.axes.Moving(axis); });
+  return "0RA" + AxisDigit(machine, [&](int axis) { return !machine.Busy(axis); });
 }
 
 std::string HomeState(Machine& machine, std::string_view args, std::int64_t) {

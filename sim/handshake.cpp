@@ -67,10 +67,10 @@ std::optional<Alarm> Machine::MoveToPosition(int number, unsigned mask, bool wit
     steps[axis] = {true, to, target.vel, target.acc * kTenMilliseconds, target.pf != 0};
   }
   if (const auto refused = StartMoves(*this, steps, now_us)) return refused;
-  const std::int64_t macro_us = with_macro ? MacroUs(record.sm) : 0;
-  if (macro_us > 0) axes.Linger(mask, macro_us, now_us);
-  arrival_outputs = record.out;
-  SeeArrival();
+  const bool has_macro = with_macro && record.sm >= 1 && record.sm <= kMacros;
+  const std::string macro = has_macro ? memory.macros.Written(record.sm) : std::string();
+  arrival = Arrival{.outputs = record.out, .macro = macro, .axes = mask};
+  SeeArrival(now_us);
   return std::nullopt;
 }
 
@@ -83,7 +83,7 @@ void Machine::InputWentOn(int number, std::int64_t now_us) {
   if (number == kStb) StartByInputs(now_us);
   if (number != kStop && number != kPause) return;
   axes.Stop(kStopFall, now_us);
-  arrival_outputs.reset();
+  arrival.reset();
 }
 
 }  // namespace qvr7sim

@@ -67,6 +67,7 @@ std::optional<std::int64_t> Machine::NextInsideUs() const {
     if (!next || us < *next) next = us;
   };
   if (const auto step = tasks.NextUs()) earlier(*step);
+  if (const auto step = MacroStepEndUs()) earlier(*step);
   if (inputs_done_ < setup.inputs.size()) earlier(setup.inputs[inputs_done_].at_us);
   return next;
 }
@@ -75,7 +76,8 @@ void Machine::Settle(std::int64_t now_us) {
   for (auto next = NextInsideUs(); next && *next <= now_us; next = NextInsideUs()) {
     const std::int64_t at_us = *next;
     if (const auto failed = axes.Settle(at_us)) Raise(*failed, at_us);
-    SeeArrival();
+    SeeArrival(at_us);
+    PlayMacro(at_us);
     for (; inputs_done_ < setup.inputs.size(); ++inputs_done_) {
       const TimedInput& input = setup.inputs[inputs_done_];
       if (input.at_us > at_us) break;
@@ -91,7 +93,7 @@ void Machine::Settle(std::int64_t now_us) {
 void Machine::Raise(const Alarm& raised, std::int64_t now_us) {
   axes.Halt(now_us);
   tasks.Drop();
-  arrival_outputs.reset();
+  arrival.reset();
   alarm = raised;
   failed_step = {};
 }
@@ -100,6 +102,7 @@ void Machine::SetInput(int number, bool on, std::int64_t now_us) {
   const bool was_on = values.IsOn({RefKind::kInput, number}, 0);
   values.SetInput(number, on);
   if (on && !was_on) InputWentOn(number, now_us);
+  PlayMacro(now_us);
   tasks.Poke(now_us);
 }
 
@@ -111,15 +114,6 @@ void Machine::Set(const Signal& signal, std::int32_t value, std::int64_t now_us)
   values.Switch(place, signal.program, value != 0);
   values.Store(place, signal.program, std::int64_t{value} * (whole ? kThousand : 1));
   tasks.Poke(now_us);
-}
-
-void Machine::SeeArrival() {
-  constexpr int kArrivalOutputs = 4;
-  if (!arrival_outputs || AnyMoving()) return;
-  for (int bit = 0; bit < kArrivalOutputs; ++bit) {
-    values.Switch({RefKind::kOutput, bit + 1}, 0, ((*arrival_outputs >> bit) & 1) != 0);
-  }
-  arrival_outputs.reset();
 }
 
 bool Machine::StartProgram(int program, std::int64_t now_us) {
@@ -138,7 +132,7 @@ void Machine::PowerCycle(std::int64_t now_us) {
   values.Clear();
   settings = {};
   forced = {};
-  arrival_outputs.reset();
+  arrival.reset();
   alarm.reset();
   servo_lost = 0;
   pc_command = false;
@@ -161,20 +155,6 @@ void Machine::TakeControl(std::string_view digits, std::int64_t now_us) {
 void Machine::LoseServo(int axis, std::int64_t now_us) {
   servo_lost |= 1U << axis;
   Raise({static_cast<char>('1' + axis), '2', error_code::kMotorLine}, now_us);
-}
-
-std::int64_t Machine::MacroUs(int number) const {
-  constexpr std::int64_t kTimerUs = 100'000, kTimer10Us = 1'000'000;
-  if (number < 1 || number > kMacros) return 0;
-  const std::string& steps = memory.macros.Written(number);
-  std::int64_t time_us = 0;
-  for (std::size_t at = 0; at < steps.size() && steps[at] != '0' && steps[at] != 'F'; at += 2) {
-    const int value = HexValue(std::string_view(steps).substr(at + 1, 1));
-    if (steps[at] == '1' || steps[at] == '2') time_us += setup.input_wait_us;
-    if (steps[at] == '5') time_us += value * kTimerUs;
-    if (steps[at] == '6') time_us += value * kTimer10Us;
-  }
-  return time_us;
 }
 
 void Machine::MoveByInputs(std::int64_t time_us, std::int64_t now_us) {

@@ -22,14 +22,19 @@ struct Machine : Plant {
   void Settle(std::int64_t now_us);
   void Raise(const Alarm& raised, std::int64_t now_us);
   void PowerCycle(std::int64_t now_us);
-  /// When a move ends, an input changes or a program does a step.
+  /// When a move ends, an input changes, or a program or a macro does a step.
   std::optional<std::int64_t> NextInsideUs() const;
   /// Input 1 to 21.
   void SetInput(int number, bool on, std::int64_t now_us);
   /// The same for whatever stands in `values`.
   void Set(const Signal& signal, std::int32_t value, std::int64_t now_us);
-  /// When all axes rest, the outputs of the position that was moved to go on and off.
-  void SeeArrival();
+  /// When all axes rest, the outputs of the position that was moved to go on and off, and its macro
+  /// begins.
+  void SeeArrival(std::int64_t now_us);
+  /// Carries out the macro's steps that are due.
+  void PlayMacro(std::int64_t now_us);
+  /// When the next axis comes to rest; where a macro runs, when it ends as the inputs stand.
+  std::optional<std::int64_t> NextRestUs() const;
   /// Programs run in program mode alone; false elsewhere, and where no task is free.
   bool StartProgram(int program, std::int64_t now_us);
   /// The inputs start every axis in use that the PC does not hold; a move of about `time_us`.
@@ -40,8 +45,6 @@ struct Machine : Plant {
   void TakeControl(std::string_view digits, std::int64_t now_us);
   /// The servo of an axis fails: it can be pushed, and all axes stop with the alarm.
   void LoseServo(int axis, std::int64_t now_us);
-  /// How long a macro runs; 0 where there is none of that number.
-  std::int64_t MacroUs(int number) const;
   /// Moves axes of the mask to a stored position, number 0 to home. `with_macro`: its macro runs
   /// when they have arrived. Why not, where they do not start.
   std::optional<Alarm> MoveToPosition(int number, unsigned mask, bool with_macro,
@@ -53,6 +56,8 @@ struct Machine : Plant {
   /// that stands on the inputs, and STOP and PAUSE brake.
   void InputWentOn(int number, std::int64_t now_us);
   void StartByInputs(std::int64_t now_us);
+  /// When the macro goes on by itself.
+  std::optional<std::int64_t> MacroStepEndUs() const;
 
   std::size_t inputs_done_ = 0;  // of the setup's, which are in the order of time
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <optional>
@@ -22,6 +23,16 @@ struct ForcedOutputs {
   unsigned own = 0;
 };
 
+/// What follows when the axes of a move to a position rest: its outputs, then its macro.
+struct Arrival {
+  int outputs = 0;
+  std::string macro;          ///< pairs of digits; empty: there is none
+  unsigned axes = 0;          ///< of the move
+  bool reached = false;       ///< the outputs stand, and the macro runs
+  std::size_t at = 0;         ///< its step that runs
+  std::int64_t began_us = 0;  ///< when that began
+};
+
 /// What the controller keeps, what moves and what stands: all that requests and programs act on.
 struct Plant {
   explicit Plant(const Setup& start);
@@ -33,7 +44,13 @@ struct Plant {
   bool Push(int axis, int pulses);
   /// The fastest that an axis can run, in pulses a second.
   double TopSpeed(int axis) const;
-  bool AnyMoving() const { return axes.MovingMask() != 0; }
+  /// The macro of the position that the axes have reached.
+  bool MacroRuns() const { return arrival && arrival->reached; }
+  /// The axis moves, or its macro runs: both count as the move.
+  bool Busy(int axis) const {
+    return axes.Moving(axis) || (MacroRuns() && ((arrival->axes >> axis) & 1U) != 0);
+  }
+  bool AnyMoving() const { return axes.MovingMask() != 0 || MacroRuns(); }
   bool InUse(int axis) const { return ((mask >> axis) & 1U) != 0; }
   /// Pulses a second of an axis at a speed in mm/s; 0 when its device block holds no scale.
   double PulseSpeed(int axis, int mm_s) const;
@@ -62,8 +79,8 @@ struct Plant {
   std::array<std::int64_t, kAxes> travelled_at_stop{};
   ProgramValues values;
   std::array<AxisSettings, kAxes> settings;
-  unsigned pushing = 0;                ///< axes whose last move was one with force
-  std::optional<int> arrival_outputs;  ///< of the position that axes are on the way to
+  unsigned pushing = 0;            ///< axes whose last move was one with force
+  std::optional<Arrival> arrival;  ///< of the position that axes are on the way to, or have reached
   ForcedOutputs forced;
   std::pair<int, int> failed_step{};  ///< program and step (from 1) that the last alarm came from
 };

@@ -90,7 +90,7 @@ struct Setup {
   int jog_mm_s = 30;               ///< Jog at 100 percent.
   int home_mm_s = 20;
   std::int64_t home_search_us = 300000;  ///< Search of the sensor, on top of the way home.
-  std::int64_t input_wait_us = 300000;   ///< Until an input that a macro waits for comes.
+  std::int64_t input_wait_us = 300000;   ///< Longest wait of a macro for an input; 0: for ever.
   std::array<int, kAxes> start_pulses{};
   std::int64_t step_us = 1000;     ///< Time of one program step, above 0.
   std::vector<TimedInput> inputs;  ///< What the inputs do, in any order.
