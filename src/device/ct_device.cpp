@@ -7,7 +7,6 @@
 #include "device/dev_setting.h"
 #include "link/reply_fields.h"
 #include "link/status_commands.h"
-#include "link/tusin_wait.h"
 #include "state/axes_in_use.h"
 #include "state/message_box.h"
 #include "state/text.h"
@@ -62,15 +61,9 @@ int ReadAxisDevice(int axis, CtDeviceRecord& device) {
   return BadData();
 }
 
-bool DeviceDiffers(const DevSettingRecord& pc, const CtDeviceRecord& ct, double pc_pulses) {
-  const bool pg_differs = pc.WithPG ? ct.PgCode == 0 : ct.PgCode == 1 || ct.PgCode == 2;
-  return pc.Lead != ct.Lead || pc.Ppr != ct.Ppr || pc_pulses != ct.MaxPulse || pc.Size != ct.Size ||
-         pc.Speed != ct.Speed || pc.Stroke != ct.Stroke || pg_differs;
-}
-
 /// Writes block 0 as it stands in `data` (32 characters).
-int WriteBlock0(const std::string& data) {
-  if (SendEchoed({"0WD0" + data, 6, kBlockTimeoutMs, 4}) != Outcome::Done) return 1;
+int WriteBlock0(const std::string& data, TusinSent* sent = nullptr) {
+  if (SendEchoed({"0WD0" + data, 6, kBlockTimeoutMs, 4}, sent) != Outcome::Done) return 1;
   AxisSettingSent = {};
   return 0;
 }
@@ -130,12 +123,20 @@ int ReadCtDeviceFromCt() {
   return 0;
 }
 
+bool DeviceDiffersFromCt(int axis) {
+  const DevSettingRecord& pc = DevSetting[axis];
+  const CtDeviceRecord& ct = CtDev[axis];
+  const bool pg_differs = pc.WithPG ? ct.PgCode == 0 : ct.PgCode == 1 || ct.PgCode == 2;
+  return pc.Lead != ct.Lead || pc.Ppr != ct.Ppr || AppState.StrokePulse[axis] != ct.MaxPulse ||
+         pc.Size != ct.Size || pc.Speed != ct.Speed || pc.Stroke != ct.Stroke || pg_differs;
+}
+
 int CompareCtDevice() {
   if (ReadCtModeAndAxis() != 0) return -1;
   if (AppState.AxisMuko != AppState.AxisMukoOfCt) return 1;
   if (ReadCtDeviceFromCt() != 0) return -1;
   for (const int axis : AxesInUse()) {
-    if (DeviceDiffers(DevSetting[axis], CtDev[axis], AppState.StrokePulse[axis])) return 1;
+    if (DeviceDiffersFromCt(axis)) return 1;
   }
   return 0;
 }
@@ -170,12 +171,12 @@ int ReadAxisMaxPulseFromCt(AxisArray<std::int32_t>& pulses) {
   return 0;
 }
 
-int WriteAxisPatternToCt(int mask) {
+int WriteAxisPatternToCt(int mask, TusinSent* sent) {
   std::string reply;
   if (ReadParaBlock('0', kBlockTimeoutMs, reply) != 0) return 1;
   const std::string data = std::string(ReplyField(reply, 5, 2)) + HexPad(mask, 2) +
                            std::string(ReplyField(reply, 9, 28));
-  if (WriteBlock0(data) != 0) return 1;
+  if (WriteBlock0(data, sent) != 0) return 1;
   AppState.AxisPattern = static_cast<std::int16_t>(mask);
   return 0;
 }

@@ -5,6 +5,7 @@
 
 #include "base/axes.h"
 #include "base/bool16.h"
+#include "link/tusin_wait.h"
 #include "state/app_state.h"
 
 namespace tr7 {
@@ -58,6 +59,8 @@ int CompareCtModeAndAxis();
 int ReadCtDeviceFromCt();
 /// The controller's axes and devices against the PC's: 0 equal, 1 different, -1 failure.
 int CompareCtDevice();
+/// The device of an axis (0 to 3) as last reported against the PC's.
+bool DeviceDiffersFromCt(int axis);
 
 /// The four values of block 1, one for each axis: the order in which they home.
 int ReadCtBlock1(AxisArray<std::int32_t>& values);
@@ -68,8 +71,8 @@ int ReadAxisMaxPulse(int axis, std::int32_t& pulses);
 int ReadAxisMaxPulseFromCt(AxisArray<std::int32_t>& pulses);
 
 /// Writes the mask of axes in use (axis i: 1 << i) into block 0; on success `AxisPattern` is it.
-/// Also known as WriteAxisMaskToCt.
-int WriteAxisPatternToCt(int mask);
+/// Also known as WriteAxisMaskToCt. `sent` takes how the frame that bears it ended.
+int WriteAxisPatternToCt(int mask, TusinSent* sent = nullptr);
 
 /// Writes the controller mode (0 position, 1 program) into block 0 and commits it. A mode other
 /// than the one read tells the user to switch the controller off and on.

@@ -1,5 +1,9 @@
 #include "device/take_ct_device.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
 #include "device/ct_device.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
@@ -23,6 +27,13 @@ void TakeType(int type, DevSettingRecord& device, DevSettingRecord& pending) {
 }
 
 }  // namespace
+
+bool DevicesOfCtCanBeTaken() {
+  constexpr int kMaxStroke = std::numeric_limits<std::int16_t>::max();
+  const auto axes = AxesInUse();
+  return std::all_of(axes.begin(), axes.end(),
+                     [](int axis) { return CtDev[axis].Stroke <= kMaxStroke; });
+}
 
 void TakeDevFromCt() {
   for (const int axis : AxesInUse()) {

@@ -82,6 +82,7 @@ struct PosiTeaching {
   AxisArray<Bool16> SarvoEnable{};  ///< the axis has a servo switch
   AxisArray<Bool16> ServoOn{};
   Bool16 DirectTeaching;
+  Bool16 TickWaits;  ///< a tick of `timerTeaching` found the line in use, and the next one reads
   std::int16_t TeachLineNo = 0;  ///< 0: none
 };
 

@@ -19,6 +19,7 @@ struct SelectionView : View {
     cmdCancel.Cancel = true;
   }
   Label lblPrompt{*this, "lblPrompt"};
+  Label lblDetails{*this, "lblDetails"};
   OptionButton optChoice1{*this, "optChoice1", 1};
   OptionButton optChoice2{*this, "optChoice2", 1};
   OptionButton optChoice3{*this, "optChoice3", 1};

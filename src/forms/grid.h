@@ -120,6 +120,7 @@ struct Grid : Control {
   Handler<char(int col, char typed)> FoldKey;
   Handler<bool(int col)> InputMethodOn;      ///< true: the column takes composed text
   Handler<bool(int row, int col)> IsMarked;  ///< flagged cell, drawn apart
+  Handler<bool(int row, int col)> IsDone;    ///< dealt with: bears a check sign
   Handler<bool(int row, int col)> IsUnused;  ///< what stands there counts for nothing: drawn grey
   Handler<CellLamp(int row, int col)> LampOf;
   Handler<RowMark(int row)> MarkOfRow;

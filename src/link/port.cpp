@@ -6,6 +6,7 @@
 #include "link/request_queue.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/settings.h"
 #include "state/text.h"
 
@@ -87,7 +88,8 @@ int TusinPortOpen() {
 }
 
 void TusinPortClose() {
-  if (!AppState.PortOccupy && TusinQueue.IsEmpty()) TusinPortCloseForce();
+  const bool kept = AppState.PortOccupy || AppState.TeachingNow;
+  if (!kept && TusinQueue.IsEmpty()) TusinPortCloseForce();
 }
 
 void TusinPortCloseForce() {
@@ -100,10 +102,7 @@ bool PortIsLost() { return !AppState.OpenPortName.empty() && !doors.serial->IsOp
 
 std::string LostPortText() { return Text(5905, AppState.OpenPortName, doors.serial->FaultText()); }
 
-bool LineIsInUse() {
-  return AppState.ComBusy || AppState.CommandsOffDepth > 0 || !TusinQueue.IsEmpty() ||
-         TusinQueue.untold;
-}
+bool LineIsInUse() { return FlowRuns() || !TusinQueue.IsEmpty() || TusinQueue.untold; }
 
 bool PortLampLies() { return frmMain.imgComPort.Visible != doors.serial->IsOpen(); }
 

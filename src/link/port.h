@@ -16,8 +16,9 @@ int TusinPortOpen();
 inline constexpr int kPortOpenAttempts = 4;
 inline constexpr int kPortOpenPauseMs = 100;
 
-/// Closes the line unless `PortOccupy` keeps it, or a request that waits: a sequence inside another
-/// one's wait leaves the line to the outer one.
+/// Closes the line unless something keeps it: `PortOccupy`, a teaching session, whose stop is not
+/// to open it first, or a request that waits: a sequence inside another one's wait leaves the line
+/// to the outer one.
 void TusinPortClose();
 /// Closes the line always.
 void TusinPortCloseForce();

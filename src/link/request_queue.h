@@ -43,8 +43,6 @@ struct RequestQueue {
   Exchange exchange;  ///< of the request on the line
   /// A failed request whose waiter has not told the user and gone offline yet: the line is shut.
   const TusinRequest* untold = nullptr;
-  TusinEnd failed_end = TusinEnd::Good;  ///< of the last failed request, and how often it was sent
-  int failed_sends = 0;
   /// A request was withdrawn while its reply may be on the way.
   bool late_reply_possible = false;
   std::int64_t sent_us = 0;  ///< when a line was handed to the port last

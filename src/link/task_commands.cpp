@@ -9,6 +9,7 @@
 #include "link/reply_fields.h"
 #include "link/status_commands.h"
 #include "state/app_state.h"
+#include "state/message_box.h"
 
 namespace tr7 {
 namespace {
@@ -27,8 +28,9 @@ TusinOutcome Command(const std::string& frame, TusinPriority priority) {
 int ReadTaskCountFromCt() {
   const PortClosedAfter port_closed;
   int count = -1;
-  if (TusinPortOpen() != 0) return -1;
-  return ReadTaskCount(count) == TusinOutcome::Good ? count : -1;
+  if (TusinPortOpen() != 0 || ReadTaskCount(count) != TusinOutcome::Good) return -1;
+  if (count < 0) MsgBox(TwoLines(384, 385));
+  return count;
 }
 
 TusinOutcome ReadTaskCount(int& count) {

@@ -70,11 +70,6 @@ void TellFailure(const TusinRequest& request, const TusinOptions& options) {
   TusinQueue.untold = nullptr;
 }
 
-void NoteFailed(const TusinRequest& request) {
-  TusinQueue.failed_end = request.end;
-  TusinQueue.failed_sends = request.sends;
-}
-
 }  // namespace
 
 TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
@@ -97,12 +92,10 @@ TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout
     case TusinEnd::Withdrawn:
       return TusinOutcome::Withdrawn;
     case TusinEnd::GivenUp:
-      NoteFailed(request);
       return TusinOutcome::Failed;
     default:
       TellFailure(request, options);
       if (!options.failure) TusinAbort();
-      NoteFailed(request);
       return TusinOutcome::Failed;
   }
 }
@@ -112,10 +105,6 @@ int TusinCommand(const std::string& command, int reply_length, int timeout_ms, s
   const TusinOutcome outcome =
       TusinWait(command, reply_length, timeout_ms, reply, {priority, true});
   return outcome == TusinOutcome::Good ? 0 : 1;
-}
-
-bool TusinRefusedAtOnce() {
-  return TusinQueue.failed_end == TusinEnd::ErrorReply && TusinQueue.failed_sends == 1;
 }
 
 void TusinAbort() {

@@ -56,10 +56,6 @@ struct TusinOptions {
                                std::string& reply,
                                TusinPriority priority = TusinPriority::Ordinary);
 
-/// The last request that failed was refused at its first send: the controller has taken nothing of
-/// it. An error reply to a later send leaves open what became of the sends before.
-bool TusinRefusedAtOnce();
-
 /// Lets the line come to rest for about 110 ms, then gives up everything queued, a stop apart.
 void TusinAbort();
 

@@ -63,7 +63,7 @@ void TakeBackOverride() {
   IoMonitor.IgnorePending = IoMonitor.OverrideOn = False;
   ShowOverride();
   // The end of a teaching session gives all axes back.
-  if (AppState.TeachingNow || SendRelease()) return TellDone(kTakenBack);
+  if ((AppState.TeachingNow && !AppState.Offline) || SendRelease()) return TellDone(kTakenBack);
   AppState.AxesMayBeHeld = True;
   SettleLostSession();
   Tell(kMayStand);

@@ -26,10 +26,11 @@ namespace {
 constexpr int kFirstPollMs = 2000, kNextPollMs = 500;
 
 /// Between two requests: whether the poll has still someone to ask for, and the line for it. A hand
-/// on a jog button takes it at once.
+/// on a jog button or on a slide takes it at once.
 bool GoesOn() {
-  const bool moves = MotionNow.Kind != Motion::None || frmPosi.Teach.JogPending;
-  return IoMonitor.Ticks.GoesOn() && !IoMonitor.IoStopReq && !moves;
+  const PosiTeaching& teach = frmPosi.Teach;
+  const bool hand = MotionNow.Kind != Motion::None || teach.JogPending || teach.TickWaits;
+  return IoMonitor.Ticks.GoesOn() && !IoMonitor.IoStopReq && !hand;
 }
 
 void TakeBits(const IoBits& read, IoBits& known, std::array<std::int64_t, kIoPoints>& changed_us) {

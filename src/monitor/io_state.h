@@ -36,7 +36,7 @@ struct IoMonitorRecord {
   Bool16 OverrideOn;            ///< the controller has been told to let inputs start nothing
   std::int32_t ModesSent = -1;  ///< `AppState.ControlModesSent` behind our own frame
 
-  Poll Ticks{frmIOCheckFG.timerInputOutput1};
+  Poll Ticks{frmIOCheckFG.timerInputOutput1, Poll::Teaching::GoesOn};
 };
 extern IoMonitorRecord IoMonitor;
 

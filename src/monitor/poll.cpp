@@ -11,6 +11,7 @@
 #include "platform/doors.h"
 #include "session/open_port.h"
 #include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -51,7 +52,7 @@ TusinOutcome AskQuietly(const std::function<TusinOutcome()>& ask) {
 bool FlowHoldsLine() {
   const bool moves =
       MotionNow.Kind != Motion::None || MotionNow.Stopping || frmPosi.Teach.JogPending;
-  return moves || AppState.ComBusy || AppState.CommandsOffDepth > 0;
+  return moves || frmPosi.Teach.TickWaits || FlowRuns();
 }
 
 bool LineIsHeld() {
@@ -59,12 +60,16 @@ bool LineIsHeld() {
 }
 
 void SettleLostSession() {
-  if (!AppState.Offline || AppState.CommandsOffDepth > 0) return;
+  if (!AppState.Offline || FlowRuns()) return;
   EndSession();
-  AllViewsCmdYuko();
+  if (AppState.CommandsOffDepth == 0) AllViewsCmdYuko();
 }
 
 bool Poll::IsOnLine() const { return PollLine.on_line == this; }
+
+bool Poll::IsHeld() const {
+  return LineIsHeld() || (AppState.TeachingNow && teaching_ == Teaching::Rests);
+}
 
 void Poll::LeaveLine() { std::erase(PollLine.waiting, this); }
 
@@ -101,7 +106,7 @@ PollEnd Poll::Run(const std::function<TusinOutcome()>& ask) {
     WaitInLine();
     return PollEnd::Skipped;
   }
-  if (LineIsHeld()) {
+  if (IsHeld()) {
     started_us_ = pace_ms_ = 0;  // what a flow takes says nothing of the pace
     return PollEnd::Skipped;
   }

@@ -23,6 +23,8 @@ enum class PollEnd {
 ///
 /// - One poll is on the line at a time, and none while something else has the line: a transfer, a
 ///   flow that holds the commands off, a motion, a hand on a jog button.
+/// - In a teaching session the monitors that are made for it poll between two acts. The others,
+///   whose frames take command or start programs, rest until its end.
 /// - Who ticks while such a flow runs loses that tick, and goes on with its next one.
 /// - Who ticks while another monitor's poll runs comes next, as soon as that is over; they go in
 /// the
@@ -35,7 +37,9 @@ enum class PollEnd {
 /// its interval counts anew from then.
 class Poll {
  public:
-  explicit Poll(Timer& ticks) : ticks_(&ticks) {}
+  enum class Teaching { Rests, GoesOn };
+  explicit Poll(Timer& ticks, Teaching teaching = Teaching::Rests)
+      : ticks_(&ticks), teaching_(teaching) {}
 
   /// The monitor begins; nothing is known of its pace.
   void Begin();
@@ -65,10 +69,12 @@ class Poll {
 
  private:
   bool IsOnLine() const;
+  bool IsHeld() const;
   void WaitInLine();
   void LeaveLine();
 
   Timer* ticks_;
+  Teaching teaching_;
   bool on_ = false;
   int begun_ = 0;  ///< how often: tells a poll that waits that its monitor has begun anew
   std::int64_t started_us_ = 0, known_us_ = 0;
@@ -87,7 +93,8 @@ void SettleLostSession();
 
 /// Something else than a poll has the line, or the line must not be used.
 bool LineIsHeld();
-/// A flow, a motion or a hand on a jog button has the line, whoever polls beside it.
+/// A flow, a motion, a hand on a jog button or a slide that is pushed by hand has the line, whoever
+/// polls beside it.
 bool FlowHoldsLine();
 
 /// Wires the frame's timer that serves who comes next.

@@ -58,7 +58,9 @@ void cmdGrpMove_Click() {
 
 void cmdGrpMoveStop_Click() {
   LogMotion(kActionStop, "", kAtStepsEnd);
-  frmPosi.Move.GrpStopReq = AppState.GroupMoveStop = True;
+  frmPosi.Move.GrpStopReq = True;
+  // What a stop of the axes asks is not the group's, and goes on until they stand.
+  AppState.GroupMoveStop = !MotionNow.Stopping && !MotionNow.Braking;
 }
 
 }  // namespace tr7

@@ -16,6 +16,7 @@ struct MotionNowRecord {
   Motion Kind = Motion::None;
   MoveFlow Flow = MoveFlow::None;
   Bool16 Stopping;               ///< a stop is being sent
+  Bool16 Braking;                ///< behind a stop the controller is asked until the axes stand
   Bool16 MayRunOn;               ///< a stop was not taken: an axis may be moving still
   std::int32_t StopsAsked = 0;   ///< stops by the red button or Escape: a flow ends where it rises
   std::int32_t StopsBefore = 0;  ///< how many there were when the user's latest act began

@@ -21,6 +21,8 @@ namespace {
 
 constexpr int kHoldTip = 5287, kNoSessionTip = 5288, kOfflineTip = 5289, kMovingTip = 5290;
 constexpr int kAtTheEndTip = 5293, kNoServoTip = 5294, kNoGuardNote = 5286, kEmergencyNote = 5285;
+constexpr int kOfRunningTip = 7130, kOfPausedTip = 7131, kBusyTip = 7132, kServoOffTip = 7133,
+              kDirectTip = 7134, kLineGoneTip = 7135, kTeachingTip = 7136;
 constexpr int kRowWords = 5510;
 constexpr int kAxis1 = 220;
 constexpr int kMoveTab = 1, kTeachingTab = 2;
@@ -28,9 +30,21 @@ constexpr std::array kHelpPages{"positions", "moves", "teaching"};  ///< a tab e
 
 /// Why nothing can be started now; none where it can.
 MsgId WhyNot() {
+  if (AppState.TeachingNow) return kTeachingTip;
   if (AppState.Offline) return kOfflineTip;
-  const bool busy = MotionNow.Flow != MoveFlow::None || AppState.CommandsOffDepth > 0;
-  return busy ? MsgId(kMovingTip) : MsgId();
+  if (MotionNow.Flow != MoveFlow::None) return kMovingTip;
+  return AppState.CommandsOffDepth > 0 ? MsgId(kBusyTip) : MsgId();
+}
+
+/// What moves by a hand or by a step is not interfered with from beside it.
+bool AxisIsServed() { return MotionNow.Kind != Motion::None || frmPosi.Teach.JogPending; }
+
+/// Why an act of a session cannot begin; none where it can, as far as the line and the other acts
+/// go.
+MsgId WhyNoAct() {
+  if (!AppState.TeachingNow) return kNoSessionTip;
+  if (AppState.Offline) return kLineGoneTip;
+  return AxisIsServed() || !frmPosi.Teach.JogButtonsAreOn ? MsgId(kBusyTip) : MsgId();
 }
 
 void Switch(Control& control, bool on, MsgId why_not) {
@@ -50,6 +64,22 @@ void ShowReadout() {
   ShowHomeState();
 }
 
+/// Off while a flow runs, but for the end of a range, which the flow looks at after every step.
+void ShowMoveSettings() {
+  PosiMoveTest& f = frmPosi.Move;
+  const bool idle = MotionNow.Flow == MoveFlow::None;
+  for (Control* setting : std::initializer_list<Control*>{
+           &f.flgdProgram, &f.chkRepeat, &f.chkNoSqMcr1, &f.chkTimerUse, &f.txtTimer,
+           &f.optMoveWay[0], &f.optMoveWay[1], &f.sldrStartPosiNo, &f.updownStartPosiNo,
+           &f.chkRepeat2, &f.chkNoSqMcr2, &f.chkTimerUse2, &f.txtTimer2, &f.sldrGrpNo}) {
+    Switch(*setting, idle, kMovingTip);
+  }
+  const bool end_counts = MotionNow.Flow == MoveFlow::Continue && !f.optMoveWay[1].Value;
+  for (Control* end : std::initializer_list<Control*>{&f.sldrEndPosiNo, &f.updownEndPosiNo}) {
+    Switch(*end, idle || end_counts, kMovingTip);
+  }
+}
+
 void ShowMoveTab() {
   PosiMoveTest& f = frmPosi.Move;
   const MsgId why_not = WhyNot();
@@ -57,73 +87,80 @@ void ShowMoveTab() {
   for (CommandButton* start : {&f.cmdHome, &f.cmdSelectMove, &f.cmdMove, &f.cmdGrpMove}) {
     Switch(*start, idle, why_not);
   }
-  f.cmdTmpStop.Enabled = MotionNow.Flow == MoveFlow::Select;
-  f.cmdTempStop2.Enabled = MotionNow.Flow == MoveFlow::Continue;
-  f.cmdGrpMoveStop.Enabled = MotionNow.Flow == MoveFlow::Group;
-  for (Control* setting : std::initializer_list<Control*>{
-           &f.flgdProgram, &f.chkNoSqMcr1, &f.optMoveWay[0], &f.optMoveWay[1], &f.sldrStartPosiNo,
-           &f.updownStartPosiNo, &f.chkNoSqMcr2, &f.sldrGrpNo}) {
-    setting->Enabled = MotionNow.Flow == MoveFlow::None;
-  }
+  Switch(f.cmdTmpStop, MotionNow.Flow == MoveFlow::Select, kOfRunningTip);
+  Switch(f.cmdTempStop2, MotionNow.Flow == MoveFlow::Continue, kOfRunningTip);
+  Switch(f.cmdGrpMoveStop, MotionNow.Flow == MoveFlow::Group, kOfRunningTip);
+  ShowMoveSettings();
   ShowMoveRange();
   ShowGroupRange();
   ShowKeptPlaces();
 }
 
-/// What moves by a hand or by a step is not interfered with from beside it.
-bool AxisIsServed() { return MotionNow.Kind != Motion::None || frmPosi.Teach.JogPending; }
+/// Why a jog button is off; none where it is on. The one under the hand stays on while it is
+/// served.
+MsgId WhyNoJog(int axis) {
+  const PosiTeaching& f = frmPosi.Teach;
+  if (!AppState.TeachingNow || AppState.Offline) return WhyNoAct();
+  if (!f.JogButtonsAreOn) return kBusyTip;
+  if (f.DirectTeaching) return kDirectTip;
+  return f.ServoOn[axis] ? MsgId() : MsgId(kServoOffTip);
+}
 
-void ShowJogButtons(bool session) {
+std::string JogTip(int button, const std::string& key) {
+  const std::string hold = Text(kHoldTip, key);
+  return StandsAtEnd(button) ? Text(kAtTheEndTip) + "\n" + hold : hold;
+}
+
+void ShowJogButtons() {
   PosiTeaching& f = frmPosi.Teach;
   for (int axis = 0; axis < kAxes; ++axis) {
     f.lblJogAxis[axis].Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
   }
   for (OptionButton* mode : {&f.optJOG, &f.optInching1, &f.optInching10, &f.optInching100}) {
-    mode->Enabled = !AxisIsServed();
+    Switch(*mode, !AxisIsServed(), kBusyTip);
   }
-  const bool on = session && f.JogButtonsAreOn && !f.DirectTeaching;
   for (int i = 0; i < static_cast<int>(f.cmdJOG.size()); ++i) {
     HoldButton& button = f.cmdJOG[i];
     const int axis = i / 2;
     button.Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
-    button.Enabled = on && f.ServoOn[axis];
-    button.ToolTip = session ? Text(kHoldTip, button.Key) : Text(kNoSessionTip);
-    if (session && StandsAtEnd(i)) button.ToolTip = Text(kAtTheEndTip) + "\n" + button.ToolTip;
+    const MsgId why_not = WhyNoJog(axis);
+    Switch(button, !why_not, why_not);
+    if (!why_not) button.ToolTip = JogTip(i, button.Key);
   }
 }
 
-void ShowServos(bool session) {
+void ShowServos() {
   PosiTeaching& f = frmPosi.Teach;
-  const bool busy = !f.JogButtonsAreOn || AxisIsServed();
+  const MsgId no_act = WhyNoAct();
   bool any = false;
   for (int axis = 0; axis < kAxes; ++axis) {
     CheckBox& box = f.chkSarvoOn[axis];
     const bool has = f.SarvoEnable[axis];
     any = any || has;
     box.Visible = f.cmdJOGST.Visible && !AppState.AxisMuko[axis];
-    const MsgId why_not = !has ? MsgId(kNoServoTip) : busy ? MsgId(kMovingTip) : MsgId();
-    Switch(box, session && has && !busy && !f.DirectTeaching, session ? why_not : MsgId());
+    const MsgId why_not = no_act             ? no_act
+                          : !has             ? MsgId(kNoServoTip)
+                          : f.DirectTeaching ? MsgId(kDirectTip)
+                                             : MsgId();
+    Switch(box, !why_not, why_not);
   }
   f.lblSarvo.Visible = f.cmdJOGST.Visible;
   f.chkDirectTeach.Visible = f.cmdJOGST.Visible && any;
-  f.chkDirectTeach.Enabled = session && !busy;
+  Switch(f.chkDirectTeach, !no_act, no_act);
 }
 
 void ShowTeachingTab() {
   PosiTeaching& f = frmPosi.Teach;
   const bool teaching = AppState.TeachingNow;
-  const bool session = teaching && !AppState.Offline;
-  const MsgId why_not = WhyNot();
-  Switch(f.cmdJOGST, !teaching && !why_not, teaching ? MsgId() : why_not);
-  f.cmdJOGend.Enabled = teaching && f.JogButtonsAreOn;
+  Switch(f.cmdJOGST, !WhyNot(), WhyNot());
+  Switch(f.cmdJOGend, teaching && f.JogButtonsAreOn,
+         teaching ? MsgId(kBusyTip) : MsgId(kNoSessionTip));
   f.Frame1.Enabled = true;
-  ShowJogButtons(session);
-  ShowServos(session);
-  const MsgId no_take = !teaching ? MsgId(kNoSessionTip)
-                        : session ? MsgId(kMovingTip)
-                                  : MsgId(kOfflineTip);
+  ShowJogButtons();
+  ShowServos();
+  const MsgId no_take = WhyNoAct();
   for (CommandButton* take : {&f.cmdJOGWrite, &f.cmdJOGWriteNext}) {
-    Switch(*take, session && f.JogButtonsAreOn && !AxisIsServed(), no_take);
+    Switch(*take, !no_take, no_take);
   }
   f.lblJogVEL.Caption = std::to_string(f.sldrJogVEL.Value);
   const bool guarded = doors.guard && doors.guard->IsThere() && !MotionNow.Unguarded;
@@ -151,8 +188,8 @@ void ShowKeptPlaces() {
   PosiMoveTest& f = frmPosi.Move;
   const bool idle = MotionNow.Flow == MoveFlow::None;
   const int row = SelectPlace(), number = ContinuePlace();
-  f.cmdStop.Enabled = MotionNow.Flow == MoveFlow::Select || (idle && row > 0);
-  f.cmdStop2.Enabled = MotionNow.Flow == MoveFlow::Continue || (idle && number > 0);
+  Switch(f.cmdStop, MotionNow.Flow == MoveFlow::Select || (idle && row > 0), kOfPausedTip);
+  Switch(f.cmdStop2, MotionNow.Flow == MoveFlow::Continue || (idle && number > 0), kOfPausedTip);
   if (!idle) return;
   std::string& next = f.lblNextNo.Caption;
   next = row > 0 ? Text(kRowWords, std::to_string(row)) : "";

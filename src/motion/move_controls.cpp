@@ -42,7 +42,7 @@ void RefuseLongWait(TextBox& wait) {
 bool IsDone(int row, int col) { return col == 1 && row <= MotionNow.RowsDone; }
 
 void MarkDone(Grid& list) {
-  list.IsMarked = IsDone;
+  list.IsDone = IsDone;
   list.CellToolTip = [](int row, int col) {
     return IsDone(row, col) ? Text(kRowIsDone) : std::string();
   };

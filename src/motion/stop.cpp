@@ -92,6 +92,8 @@ void TellStop(StopEnd end) {
 }  // namespace
 
 bool WaitForBraking(TusinFailure* failure) {
+  MotionNow.Braking = True;
+  const ScopeExit ended([] { MotionNow.Braking = False; });
   const std::int64_t until_us = doors.pump->NowUs() + kLongestBrakingUs;
   int rest = ReadAlarmFromCt(failure);
   while (rest == 0 && doors.pump->NowUs() < until_us) rest = ReadAlarmFromCt(failure);

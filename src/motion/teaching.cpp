@@ -75,7 +75,7 @@ void ClearTeaching() {
   PosiTeaching& f = frmPosi.Teach;
   ClearJog();
   f.timerTeaching.Stop();
-  f.DirectTeaching = False;
+  f.DirectTeaching = f.TickWaits = False;
   f.chkDirectTeach.Value = false;
   for (int axis = 0; axis < kAxes; ++axis) f.ServoOn[axis] = f.SarvoEnable[axis] = False;
 }
@@ -163,6 +163,8 @@ void cmdJOGend_Click() {
   // Its key may come while a jog is held: the axis is stopped while the session still knows of it.
   LetGoOfHeldButton();
   if (!AppState.TeachingNow) return;  // its stop has found the session lost
+  // What answers on a line that was lost may be another controller: the next connection looks.
+  const bool line_was_lost = AppState.Offline;
   ClearTeaching();
   ShowServoBoxes();
   // Nothing is sent into an alarm: the next connection comes after it.
@@ -172,6 +174,7 @@ void cmdJOGend_Click() {
     AxesStayHeld();
     MsgBox(WithReason(Text(kMsgLineFailed), Text(kMsgMayBeHeld)));
   }
+  if (line_was_lost) EndSession();
   LeaveSession();
 }
 
@@ -218,7 +221,7 @@ void DirectTeachStart() {
 
 void DirectTeachEnd() {
   frmPosi.Teach.timerTeaching.Stop();
-  frmPosi.Teach.DirectTeaching = False;
+  frmPosi.Teach.DirectTeaching = frmPosi.Teach.TickWaits = False;
   if (!AppState.Offline)
     static_cast<void>(ServoApplyToCt(ServoMask()));  // its failure has been told
 }
@@ -237,9 +240,12 @@ void chkDirectTeach_Click() {
 }
 
 void timerTeaching_Tick() {
-  // A tick while something else has the line is none.
-  if (!TusinQueue.IsEmpty()) return;
-  if (AppState.Offline || ReadnDisp_PresentPos() != 0) frmPosi.Teach.timerTeaching.Stop();
+  // A tick while something else has the line is none; no monitor's poll begins before the next.
+  frmPosi.Teach.TickWaits = !TusinQueue.IsEmpty();
+  if (frmPosi.Teach.TickWaits) return;
+  if (!AppState.Offline && ReadnDisp_PresentPos() == 0) return;
+  frmPosi.Teach.timerTeaching.Stop();
+  ShowMotionTabs();
 }
 
 }  // namespace tr7

@@ -97,10 +97,10 @@ bool ParametersCanBeMade() {
 }
 
 /// The axes that the dialogue asks for, here and in the controller.
-bool WriteAxes() {
+bool WriteAxes(TusinSent& sent) {
   TakeChosenAxes(frmDevice3);
   ParaFlags.AxisMaskFixed = True;
-  return GoodOrTold(WriteAxisPatternToCt(ParaFlags.AxisMask));
+  return GoodOrTold(WriteAxisPatternToCt(ParaFlags.AxisMask, &sent));
 }
 
 /// The controller's own parameters with the standard ones over them.
@@ -111,7 +111,10 @@ bool MakeParameters() {
 }
 
 WriteResult WriteHeld() {
-  if (!WriteAxes()) return TusinRefusedAtOnce() ? WriteResult::Refused : WriteResult::Cut;
+  TusinSent axes_sent;
+  if (!WriteAxes(axes_sent)) {
+    return axes_sent.TookNothing() ? WriteResult::Refused : WriteResult::Cut;
+  }
   if (ReadCtAxisFromCt() != 0 || ReadParaFromCt() != Outcome::Done) return WriteResult::Cut;
   if (!MakeParameters()) return WriteResult::Refused;
   return WriteParaToCt() == Outcome::Done ? WriteResult::Done : WriteResult::Failed;

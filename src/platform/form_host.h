@@ -17,7 +17,8 @@ struct MessageBoxCall {
   std::string Title;
   MsgButtons Buttons = MsgButtons::Ok;
   MsgIcon Icon = MsgIcon::None;
-  bool Loses = false;  ///< the first answer loses something: Enter means the last one
+  bool Loses = false;        ///< the first answer loses something: Enter means the last one
+  std::string Details = {};  ///< a list beside the text, one thing a line, folded until asked for
 };
 
 struct FileDialogCall {

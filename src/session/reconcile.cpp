@@ -1,6 +1,7 @@
 #include "session/reconcile.h"
 
 #include "device/ct_device.h"
+#include "device/ct_difference.h"
 #include "device/dev_setting.h"
 #include "device/limits.h"
 #include "device/take_ct_device.h"
@@ -15,6 +16,7 @@
 #include "state/selection.h"
 #include "state/text.h"
 #include "state/views.h"
+#include "steps/record_frames.h"
 
 namespace tr7 {
 namespace {
@@ -22,10 +24,12 @@ namespace {
 constexpr int kMsgModeNotWritten = 5973;
 
 /// First: the controller's values. Second: the PC's.
-Selection AskReconcile(MsgId prompt_id, MsgId pc_choice_id, bool may_cancel) {
+Selection AskReconcile(MsgId prompt_id, const std::string& details, MsgId pc_choice_id,
+                       bool may_cancel) {
   return SelectionDialog({.Title = Text(471),
                           .Prompt = Text(prompt_id),
                           .Choices = {Text(372), Text(pc_choice_id)},
+                          .Details = details,
                           .MayCancel = may_cancel});
 }
 
@@ -54,10 +58,17 @@ int TakeModeOfCt(ProgressScope& progress) {
 
 /// Reads axes and devices and takes both, or neither: axes without their devices would be a state
 /// that is neither the PC's nor the controller's.
+bool ReadDevicesToTake() {
+  if (ReadCtAxisFromCt() != 0 || ReadCtDeviceFromCt() != 0) return false;
+  if (DevicesOfCtCanBeTaken()) return true;
+  static_cast<void>(TellBadData());
+  return false;
+}
+
 bool TakeAxesAndDevicesOfCt() {
   const auto muko = AppState.AxisMuko;
   const std::int16_t pattern = AppState.AxisPattern;
-  if (ReadCtAxisFromCt() != 0 || ReadCtDeviceFromCt() != 0) {
+  if (!ReadDevicesToTake()) {
     AppState.AxisMuko = muko;
     AppState.AxisPattern = pattern;
     return false;
@@ -96,7 +107,7 @@ int ReconcileMode(ProgressScope& progress) {
   const int difference = CompareCtModeAndAxis();
   if (difference < 0) return 1;
   if (difference < 2) return 0;  // axes alone: the device dialogue asks about them
-  const Selection choice = AskReconcile(490, 491, false);
+  const Selection choice = AskReconcile(490, ModeAndAxesDifference(), 491, false);
   if (choice == Selection::Second) WriteAxesOfPc(progress);
   return choice == Selection::First ? TakeModeOfCt(progress) : 1;
 }
@@ -108,7 +119,7 @@ int ReconcileDevices(DeviceReconcile flow) {
   if (difference == 0) return 0;
   const bool reading = flow == DeviceReconcile::Read;
   if (!reading) WarnOfDeviceChange(false);
-  switch (AskReconcile(371, 373, reading)) {
+  switch (AskReconcile(371, DeviceDifference(), 373, reading)) {
     case Selection::First:
       return TakeDevicesOfCt(flow);
     case Selection::Second:

@@ -6,6 +6,7 @@
 #include "device/limits.h"
 #include "device/take_ct_device.h"
 #include "forms/frm_main.h"
+#include "forms/hold_button.h"
 #include "link/port.h"
 #include "link/status_commands.h"
 #include "platform/doors.h"
@@ -146,8 +147,11 @@ void PortWatchTick() {
   PortLampHyoji();
   if (!PortIsLost() || LineIsInUse()) return;
   const std::string lost = LostPortText();
+  // A jog that is held would run on unseen: its stop goes over a new connection.
+  LetGoOfHeldButton();
+  if (!AppState.Offline && !PortIsLost()) return;  // there was one, and the user knows
   FailToOffline();
-  AllViewsCmdYuko();
+  if (AppState.CommandsOffDepth == 0) AllViewsCmdYuko();
   MsgBox(lost + "\n\n" + Text(kMsgPortLost));
 }
 

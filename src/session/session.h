@@ -25,7 +25,8 @@ void ChangeToOfflineMenu();
 [[nodiscard]] bool FirstConnection();
 
 /// Watches the port: the lamp tells the truth, and a port that is lost while nothing has the line
-/// takes the session offline, with a box. A flow whose port is lost tells by itself.
+/// takes the session offline, with a box; a jog that is held then counts as let go. A flow whose
+/// port is lost tells by itself.
 void PortWatchTick();
 bool PortWatchHasWork();
 

@@ -1,5 +1,6 @@
 #include "state/busy_scope.h"
 
+#include "forms/frm_posi.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/frame_menus.h"
@@ -26,6 +27,13 @@ CommandsOff::~CommandsOff() {
 
 BusyScope::BusyScope() : was_busy_(AppState.ComBusy) { AppState.ComBusy = True; }
 BusyScope::~BusyScope() { AppState.ComBusy = was_busy_; }
+
+bool FlowRuns() {
+  const PosiTeaching& f = frmPosi.Teach;
+  const bool session = AppState.TeachingNow;
+  if (AppState.ComBusy || AppState.CommandsOffDepth > (session ? 1 : 0)) return true;
+  return session && (!f.JogButtonsAreOn || (f.JogPending && !f.JogRunning));
+}
 
 void TellFlowRuns() {
   constexpr int kMsgBusy = 5941;

@@ -25,6 +25,11 @@ class BusyScope {
   bool was_busy_;
 };
 
+/// A flow has the commands, or an act of a teaching session has the axes. A session alone, which
+/// holds the commands off from its start to its end, is none: between two acts, and while a jog
+/// runs under the hand, it leaves the line alone.
+bool FlowRuns();
+
 /// Tells in the status panel, with a beep, that a flow runs and must come to its end first.
 void TellFlowRuns();
 /// For a view that may not close while a flow runs: true where one does, which is told.

@@ -14,6 +14,18 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
   return doors.forms->MessageBox({text, title, buttons, icon});
 }
 
+MsgAnswer MsgBoxWithDetails(const std::string& text, const std::string& details, MsgButtons buttons,
+                            MsgIcon icon) {
+  return doors.forms->MessageBox(
+      {.Text = text, .Title = Text(201), .Buttons = buttons, .Icon = icon, .Details = details});
+}
+
+std::string DifferenceLine(const std::string& what, const std::string& here,
+                           const std::string& there) {
+  constexpr int kMsgHereAndThere = 7820;
+  return Text(kMsgHereAndThere, what, here, there) + "\n";
+}
+
 std::string TwoLines(MsgId id1, MsgId id2) { return Text(id1) + "\n" + Text(id2); }
 
 std::string WithReason(const std::string& text, const std::string& reason) {

@@ -14,6 +14,14 @@ MsgAnswer MsgBox(const std::string& text, MsgButtons buttons = MsgButtons::Ok,
 MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
                  const std::string& title);
 
+/// The same with a list beside it, one thing a line, which the user may unfold and copy. The text
+/// says all that the answer depends on.
+MsgAnswer MsgBoxWithDetails(const std::string& text, const std::string& details,
+                            MsgButtons buttons = MsgButtons::Ok, MsgIcon icon = MsgIcon::Warning);
+/// A line of such a list: what it is about, and what stands here and on the other side.
+std::string DifferenceLine(const std::string& what, const std::string& here,
+                           const std::string& there);
+
 /// Two messages, one line each.
 std::string TwoLines(MsgId id1, MsgId id2);
 

@@ -20,6 +20,8 @@ Selection ChosenOption(const SelectionView& view) {
 void Fill(SelectionView& view, const SelectionCall& call) {
   view.Caption = call.Title;
   view.lblPrompt.Caption = call.Prompt;
+  view.lblDetails.Caption = call.Details.substr(0, call.Details.find_last_not_of('\n') + 1);
+  view.lblDetails.Visible = !call.Details.empty();
   for (std::size_t i = 0; i < view.options.size(); ++i) {
     view.options[i]->Visible = i < call.Choices.size();
     if (i < call.Choices.size()) view.options[i]->Caption = call.Choices[i];

@@ -10,6 +10,7 @@ struct SelectionCall {
   std::string Title;
   std::string Prompt;
   std::vector<std::string> Choices;  ///< two or three
+  std::string Details = {};          ///< what the choice is about, one thing a line; may be empty
   int Preselected = 0;               ///< index of the choice that is marked at first
   bool MayCancel = true;             ///< false: no cancel button, and no other way to close
   bool MayGoBack = false;            ///< true: a back button

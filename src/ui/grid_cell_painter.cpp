@@ -58,6 +58,17 @@ void GridCellPainter::PaintMark(QPainter& painter, const QRect& cell) const {
   painter.setBrush(Qt::NoBrush);
 }
 
+/// A check sign at the end of a cell that is done.
+void GridCellPainter::PaintCheck(QPainter& painter, const QRect& cell) const {
+  constexpr int kInset = 15;
+  const QPointF at(cell.right() - kInset, cell.center().y());
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(look::Colours().at_work, 2));
+  painter.drawPolyline(QPolygonF({at, at + QPointF(4, 4), at + QPointF(11, -4)}));
+  painter.restore();
+}
+
 /// A lit lamp is full, a dark one a ring.
 void GridCellPainter::PaintLamp(QPainter& painter, const QRect& cell, bool lit,
                                 bool enabled) const {
@@ -109,6 +120,7 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
     ground = Mixed(ground, look::Colours().selection, 0.35);
   painter->fillRect(option.rect, ground);
   if (IsMarked(row, col)) PaintMark(*painter, option.rect);
+  if (grid_.IsDone && grid_.IsDone(row, col)) PaintCheck(*painter, option.rect);
   const QString text = model_.TextAt(index.row(), index.column());
   const CellLamp lamp = grid_.LampOf ? grid_.LampOf(row, col) : CellLamp::None;
   const bool grey = grid_.IsUnused && grid_.IsUnused(row, col);

@@ -32,6 +32,7 @@ class GridCellPainter : public QStyledItemDelegate {
   void PaintLamp(QPainter& painter, const QRect& cell, bool lit, bool enabled) const;
   void PaintArrow(QPainter& painter, const QRect& field) const;
   void PaintMark(QPainter& painter, const QRect& cell) const;
+  void PaintCheck(QPainter& painter, const QRect& cell) const;
   Qt::Alignment AlignmentOf(int col, const QString& text) const;
 
   const Grid& grid_;

@@ -19,7 +19,7 @@ constexpr int kWarning = 7723, kMoves = 7724, kWrites = 7725, kNoCommand = 7726,
 /// The line takes a frame of the user's now; else it says why not.
 bool LineTakesIt() {
   if (AppState.Offline) return Tell(kOnlineOnly), false;
-  if (FlowHoldsLine()) return Tell(kNotNow), false;
+  if (FlowHoldsLine() || AppState.TeachingNow) return Tell(kNotNow), false;
   return true;
 }
 

@@ -167,6 +167,13 @@ TEST_F(ExchangeTest, AStopEndsTheWaitOfACommandWithoutTimeout) {
   EXPECT_TRUE(forms.boxes.empty());
 }
 
+TEST_F(ExchangeTest, AStopIsNotConfusedByTheReplyToWhatItCutShort) {
+  port.Ct().AddFault({FaultKind::kDelay, 0.0, 1, "0RP", 400'000, 0});
+  pump.After(100'000, [this] { EXPECT_EQ(StopToCt(1000, failure), 0); });
+  EXPECT_EQ(Read(), TusinOutcome::Withdrawn);
+  EXPECT_EQ(port.sent, "0RP001\r\n0SP\r\n");
+}
+
 // A wait inside a wait, and what becomes of those that queue.
 
 /// Ticks once, as soon as it may.

@@ -51,7 +51,7 @@ TEST_F(MoveTest, TheListEndsAtAnEmptyRowAndAtARowThatIsNoNumber) {
   List(std::vector<std::string>(kSelectRows, "1"));
   frmPosi.Move.cmdSelectMove.Press();
   EXPECT_EQ(Moved().size(), kSelectRows * 8U) << "a full list ends, also one that repeats";
-  EXPECT_TRUE(frmPosi.Move.flgdProgram.IsMarked(kSelectRows, 1));
+  EXPECT_TRUE(frmPosi.Move.flgdProgram.IsDone(kSelectRows, 1));
   frmPosi.Move.chkRepeat.Set(false);
   const std::tuple<std::vector<std::string>, const char*, const char*> rows[] = {
       {{"1", "2", "", "3"}, "0MP001F 0MP002F ", ""},

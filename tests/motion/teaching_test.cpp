@@ -1,5 +1,6 @@
 // Teaching from its start to its end; jog and inching: what goes out for a hand on a button.
 
+#include "forms/frm_io_check_fg.h"
 #include "motion/inching.h"
 #include "motion/motion_log.h"
 #include "motion/present_pos.h"
@@ -60,6 +61,7 @@ TEST_F(TeachingTest, ServosAndTheSlideByHand) {
   EXPECT_EQ(f.chkSarvoOn[1].Caption, "OFF");
   EXPECT_FALSE(AppState.HomeDone);
   EXPECT_FALSE(f.cmdJOG[2].Enabled);
+  EXPECT_EQ(f.cmdJOG[2].ToolTip, Text(7133));
   port.sent.clear();
   f.chkDirectTeach.Set(true);
   EXPECT_EQ(Acts(), "0CM12222 ");
@@ -73,6 +75,18 @@ TEST_F(TeachingTest, ServosAndTheSlideByHand) {
   pump.After(2'000, [&f] { EXPECT_FALSE(f.chkSarvoOn[1].Value) << "not answered yet"; });
   f.chkSarvoOn[1].Set(true);
   EXPECT_FALSE(f.chkSarvoOn[1].Value) << "the box goes back";
+}
+
+TEST_F(TeachingTest, TheMonitorOfInputsPollsBetweenTwoActsAndNotUnderAHand) {
+  frmMain.mnuMonitorIO.Press();
+  frmIOCheckFG.cmdIoMonitor.Press();
+  StartTeaching();
+  pump.After(300'000, [this] { port.sent.clear(); });
+  pump.After(1'400'000, [this] { EXPECT_EQ(port.sent, ""); });
+  Jog(1, 1'500'000);
+  pump.RunFor(1'000'000);
+  EXPECT_TRUE(Acts().starts_with("0SP 0RI 0RO ")) << Acts();
+  frmIOCheckFG.cmdIoMonitor.Press();
 }
 
 TEST_F(TeachingInProgramMode, ARunningProgramRefusesIt) {
@@ -145,6 +159,34 @@ TEST_F(JogTest, AnAlarmDuringAJogIsToldAsOne) {
   frmPosi.Teach.cmdJOGend.Press();
   frmMain.cmdReset.Press();
   EXPECT_FALSE(frmMain.imgMoving.Visible) << "the controller says that all stand";
+}
+
+TEST_F(JogTest, APortThatVanishesLetsTheButtonGoAndIsTold) {
+  pump.After(200'000, [this] { port.Vanish(); });
+  pump.After(1'200'000, [this] { EXPECT_FALSE(HoldButton::Held() || Moves()); });
+  Jog(1, 5'000'000);
+  EXPECT_EQ(Boxes(), (Texts{Text(6541), Text(5509)})) << "its stop found a new connection";
+  StartTeaching();
+  port.Vanish();
+  pump.RunFor(1'000'000);
+  EXPECT_EQ(Boxes(), Texts{Text(5905, "sim", "simulated fault") + "\n\n" + Text(5920)});
+  EXPECT_TRUE(AppState.Offline && frmPosi.Teach.cmdJOGend.Enabled);
+}
+
+/// The release was seen, and no stop of it is on its way.
+TEST_F(JogTest, AStartThatIsAnsweredBehindItsReleaseIsStopped) {
+  Spoil(FaultKind::kDelay, "0JR");
+  pump.After(100'000, [] { frmPosi.Teach.JogReleased = True; });
+  pump.After(500'000, [this] { EXPECT_FALSE(Moves()); });
+  Jog(1, 600'000);
+}
+
+TEST_F(JogTest, AStepThatIsGivenUpAsksNothingMore) {
+  frmPosi.Teach.optInching10.Press();
+  Spoil(FaultKind::kDelay, "0RC");
+  pump.After(100'000, [] { frmMain.Escape(); });
+  Jog(1, 1'000);
+  EXPECT_EQ(SentLines(3), "0RA 0RC ");
 }
 
 TEST_F(JogTest, APressTooSoonIsNoneAndSoIsItsRelease) {

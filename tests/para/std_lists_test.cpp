@@ -131,6 +131,8 @@ TEST_F(StdListsTest, ADamagedListSaysWhatIsWrongAndChangesNothing) {
        ""},
       {kCommonFile, With(good, "QV-R7", "QV-R8"), Text(27) + "\n\n" + at("1", kCommonFile), ""},
       {kCommonFile, With(good, "\"ETC\"", "\"SPECIAL\""), "", "\n\n" + at("6", kCommonFile)},
+      {kCommonFile, With(good, "\"SPECIAL\",10", "\"SPECIAL\",9"),
+       none + "\n\n" + at("25", kCommonFile), ""},
       {kCommonFile, With(good, "\"PG\",2,3", "\"PG\",2,2"), none + "\n\n" + at("3", kCommonFile),
        ""}};
   for (const auto& [list, content, box, reason] : rows) {

@@ -57,9 +57,14 @@ TEST_F(ConnectTest, EveryDifferenceAndEveryAnswer) {
   constexpr MsgId kMode = 490, kDevs = 371;
   const std::string mode = kVersion + kBlock0, write = mode + "0RD0 0WD0 ";
   const std::string take = kBlock0 + kDevices, took_mode = mode + kBlock0 + take;
-  const auto all = [] {
+  // An axis not in use has no limits.
+  const auto mode_and_axes = [] {
     DropAxis4();
     OtherMode();
+    RecalcLimits();
+  };
+  const auto all = [&] {
+    mode_and_axes();
     OtherStroke();
   };
   const struct {
@@ -77,6 +82,7 @@ TEST_F(ConnectTest, EveryDifferenceAndEveryAnswer) {
       {"mode, Ct's", OtherMode, {0}, took_mode, true, {kMode}, true},
       {"mode, PC's", OtherMode, {1}, write, false, {kMode}, false},
       {"mode, none", OtherMode, {-1}, mode, false, {kMode}, false},
+      {"mode and axes, Ct's", mode_and_axes, {0}, took_mode, true, {kMode}, true},
       {"device, Ct's", OtherStroke, {0}, kEqual + take, true, {kDevs}, true},
       {"device, PC's", OtherStroke, {1}, kEqual, true, {kDevs}, false},
       {"device, none", OtherStroke, {-1}, kEqual, false, {kDevs}, false},
@@ -193,6 +199,8 @@ TEST_F(ReadCompareTest, ADifferenceIsAskedAboutAndMayBeCancelled) {
   const PcState of_pc;
   EXPECT_EQ(Read({-1}), compare) << "nothing is read after a cancel";
   EXPECT_EQ(asked, Texts{Text(371)});
+  EXPECT_TRUE(frmSelection.lblDetails.Caption.starts_with("AXIS1: here "))
+      << frmSelection.lblDetails.Caption;
   ExpectOnline();
   EXPECT_EQ(Read({1}), compare + read);
   EXPECT_EQ(PcState(), of_pc);
