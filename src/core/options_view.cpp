@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/text_helpers.h"
+#include "core/settings_exchange.h"
 #include "forms/frm_options2.h"
 #include "link/port.h"
 #include "platform/doors.h"
@@ -95,17 +96,23 @@ void ShowTab() {
   }
 }
 
-void LoadOptions() {
+/// What the next start speaks.
+bool JapaneseIsPicked() { return (AppState.LanguageNo == 1) != AppState.LanguageChanged; }
+
+void ShowPresent() {
   FrmOptions2& f = frmOptions2;
-  f.tabOptions.Selected = kPortTab;
   f.txtPortNo.Text = std::to_string(AppState.PortNo);
   ListDevices();
   ShowDeviceOfPort();
   f.chkPortOccupy.Value = AppState.PortOccupy;
   (AppState.MmRoundUp ? f.optRoundUp : f.optRoundDown).Choose();
   (AppState.DispMmUnit ? f.optUnitMm : f.optUnitPulse).Choose();
-  const bool japanese = (AppState.LanguageNo == 1) != AppState.LanguageChanged;
-  (japanese ? f.optJapanese : f.optEnglish).Choose();
+  (JapaneseIsPicked() ? f.optJapanese : f.optEnglish).Choose();
+}
+
+void LoadOptions() {
+  frmOptions2.tabOptions.Selected = kPortTab;
+  ShowPresent();
   ShowTab();
 }
 
@@ -143,8 +150,7 @@ void TakePort() {
   PortLampHyoji();
 }
 
-void TakeUnit() {
-  const bool mm = frmOptions2.optUnitMm.Value;
+void TakeUnit(bool mm) {
   if (mm == AppState.DispMmUnit) return;
   // The grid still holds the old unit's texts: they are taken into the table before it changes.
   if (!CheckInPlace()) {
@@ -160,7 +166,7 @@ void TakeOptions() {
   FrmOptions2& f = frmOptions2;
   TakePort();
   AppState.LanguageChanged = f.optJapanese.Value != (AppState.LanguageNo == 1);
-  TakeUnit();
+  TakeUnit(f.optUnitMm.Value);
   AppState.MmRoundUp = f.optRoundUp.Value;
   PutSetting("MmRoundUp", AppState.MmRoundUp ? 1 : 0);
   AppState.PortOccupy = f.chkPortOccupy.Value;
@@ -169,11 +175,48 @@ void TakeOptions() {
   if (AppState.LanguageChanged) MsgBox(TwoLines(420, 421), MsgButtons::Ok, MsgIcon::Information);
 }
 
+/// Shows the options that a file holds as if the user had chosen them.
+void ShowOptionsOf(const SettingKeys& keys) {
+  FrmOptions2& f = frmOptions2;
+  const auto text_of = [&keys](const std::string& key) {
+    const auto found = keys.find(key);
+    return found == keys.end() ? std::string() : found->second;
+  };
+  const auto number = [&](const char* key) { return keys.contains(key) ? Val(text_of(key)) : 1; };
+  const int port = static_cast<int>(std::clamp(number("PortNo"), 0.0, 10.0));
+  f.txtPortNo.Text = std::to_string(IsPortNo(port) ? port : 1);
+  f.comboPortDevice.ListIndex = -1;
+  f.comboPortDevice.TypedText = text_of("PortDevice" + f.txtPortNo.Text);
+  f.chkPortOccupy.Value = number("PortOccupy") > 0;
+  (number("MmRoundUp") > 0 ? f.optRoundUp : f.optRoundDown).Choose();
+  (number("DispMmUnit") > 0 ? f.optUnitMm : f.optUnitPulse).Choose();
+  (number("Language") == 1 ? f.optJapanese : f.optEnglish).Choose();
+}
+
+/// The options of the file go the way of an OK, and what they end as holds, also where one of them
+/// was refused; the other settings follow.
+void ImportSettings() {
+  auto keys = AskForSettings();
+  if (!keys) return;
+  ShowOptionsOf(*keys);
+  TakeOptions();
+  (*keys)["PortNo"] = std::to_string(AppState.PortNo);
+  (*keys)["DispMmUnit"] = AppState.DispMmUnit ? "1" : "0";
+  PutImportedSettings(*keys);
+  PortLampHyoji();
+  ShowPresent();
+}
+
 void Close() { frmOptions2.Visible = false; }
 
 }  // namespace
 
 void ShowOptions() { ShowViewModal(frmOptions2); }
+
+void ChangeUnit() {
+  const CommandsOff commands_off;
+  TakeUnit(!AppState.DispMmUnit);
+}
 
 void InstallOptionsView() {
   FrmOptions2& f = frmOptions2;
@@ -191,6 +234,8 @@ void InstallOptionsView() {
   // Apply closes without taking anything, as Cancel does: that is how this view has always worked.
   f.cmdApply.Click = Close;
   f.cmdCancel.Click = Close;
+  f.cmdExport.Click = [] { ExportSettings(JapaneseIsPicked() ? 1 : 2); };
+  f.cmdImport.Click = ImportSettings;
 }
 
 }  // namespace tr7

@@ -36,6 +36,8 @@ struct FrmOptions2 : View {
   OptionButton optJapanese{*this, "optJapanese", 4, 5309};
   OptionButton optEnglish{*this, "optEnglish", 4, 5314};
 
+  CommandButton cmdExport{*this, "cmdExport", 7150};
+  CommandButton cmdImport{*this, "cmdImport", 7151};
   CommandButton cmdOk{*this, "cmdOk", 1015};
   CommandButton cmdApply{*this, "cmdApply", 5155};
   CommandButton cmdCancel{*this, "cmdCancel", 5153};

@@ -186,6 +186,14 @@ void InstallTimers() {
 
 }  // namespace
 
+void FollowIoSettings() {
+  if (!frmIOCheckFG.Loaded) return;
+  LoadIoNames();
+  LoadWatchPage();
+  ShowPointNames();
+  FollowPlotItems();
+}
+
 void InstallIoMonitor() {
   FrmIOCheckFG& f = frmIOCheckFG;
   InstallTables();

@@ -4,16 +4,16 @@
 #include <string>
 #include <string_view>
 
+#include "base/setting_line.h"
 #include "platform/files.h"
 #include "platform/settings_store.h"
 
 namespace tr7 {
 
 /// Settings in a plain UTF-8 file that a person can read: "[Settings]", then key=value lines.
-/// A value stands in quotes where it has blanks at an end or a control character in it; within,
-/// \\, \", \n, \r and \t stand for what they say. Lines that cannot be read are dropped, and the
-/// rest holds; of a key that comes twice the last one counts. Keys ahead of any section, or under
-/// a section line that cannot be read, belong to "Settings".
+/// Lines that cannot be read are dropped, and the rest holds; of a key that comes twice the last
+/// one counts. Keys ahead of any section, or under a section line that cannot be read, belong to
+/// "Settings".
 ///
 /// Each `Set` saves the file at once, so that a power cut leaves the old or the new settings.
 /// Where the medium cannot be written, values hold for this run. A file that is there and could
@@ -23,19 +23,19 @@ class IniSettingsStore : public SettingsStore {
   /// Reads the file. None at all, or a damaged one, is no error: what it lacks is at its default.
   IniSettingsStore(Files& files, std::string path);
 
+  SettingKeys All(const std::string& section) const override;
   std::string Get(const std::string& section, const std::string& key,
                   const std::string& fallback) const override;
   bool Set(const std::string& section, const std::string& key, const std::string& value) override;
+  bool Replace(const std::string& section, const SettingKeys& keys) override;
 
  private:
-  using Keys = std::map<std::string, std::string>;
-
   void ReadLines(std::string_view text);
   bool Save();
 
   Files& files_;
   std::string path_;
-  std::map<std::string, Keys> sections_;
+  std::map<std::string, SettingKeys> sections_;
   bool may_save_ = true;
   bool unsaved_ = false;  ///< the file lacks what is held here
 };

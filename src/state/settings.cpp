@@ -38,6 +38,9 @@ void PutSetting(const std::string& key, const std::string& value) {
 
 void PutSetting(const std::string& key, int value) { PutSetting(key, std::to_string(value)); }
 
+SettingKeys AllSettings() { return doors.settings->All(kSection); }
+bool ReplaceSettings(const SettingKeys& keys) { return doors.settings->Replace(kSection, keys); }
+
 void LoadSettingLanguage() {
   AppState.LanguageNo = GetSettingInt16("Language", 1);
   AppState.LangOffset = AppState.LanguageNo == 1 ? 0 : 10000;

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "base/setting_line.h"
+
 namespace tr7 {
 
 /// Text under a key of section "Settings", or the fallback when it is absent.
@@ -13,6 +15,10 @@ double GetSettingNumber(const std::string& key, double fallback);
 std::int16_t GetSettingInt16(const std::string& key, int fallback);
 void PutSetting(const std::string& key, const std::string& value);
 void PutSetting(const std::string& key, int value);
+/// All keys of section "Settings", and these keys in their place; false when they hold for this run
+/// alone.
+SettingKeys AllSettings();
+[[nodiscard]] bool ReplaceSettings(const SettingKeys& keys);
 
 /// One key each into `AppState`; the language sets `LanguageNo` and `LangOffset`.
 void LoadSettingLanguage();

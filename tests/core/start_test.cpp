@@ -135,6 +135,34 @@ TEST_F(StartTest, AnotherPortEndsTheSessionAndTheNextUseConnects) {
   ExpectOnline();
 }
 
+TEST_F(StartTest, SettingsTravelByTheOptionsOwnWayAndADamagedFileChangesNothing) {
+  StartOnline();
+  const auto options = [this](CommandButton FrmOptions2::*button) {
+    forms.file_answers = {"/a.qvs"};
+    InDialog("frmOptions2", {[button] {
+               (frmOptions2.*button).Press();
+               frmOptions2.cmdCancel.Press();
+             }});
+    frmMain.mnuSettingOptions.Press();
+  };
+  options(&FrmOptions2::cmdExport);
+  const std::string exported = virt.files.Content("/a.qvs").value();
+  const auto before = virt.settings.values;
+  virt.files.Put("/a.qvs", exported + "x");
+  options(&FrmOptions2::cmdImport);
+  EXPECT_TRUE(BoxShown("Nothing has changed"));
+  EXPECT_EQ(virt.settings.values, before);
+  ExpectOnline();
+  virt.settings.Set("Settings", "Vari0", "0,1");
+  virt.files.Put("/a.qvs", With(exported, "[end]", "IoNameIn0=door\nMmRoundUp=0\nPortNo=2\n[end]"));
+  forms.answers = {MsgAnswer::Ok};
+  options(&FrmOptions2::cmdImport);
+  EXPECT_TRUE(BoxShown(Text(5971)));
+  ExpectOffline();
+  EXPECT_TRUE(AppState.PortNo == 2 && !AppState.MmRoundUp);
+  EXPECT_EQ(Stored("IoNameIn0") + Stored("Vari0") + Stored("PortNo"), "door2");
+}
+
 // The offline start's devices.
 
 class OfflineStartTest : public FlowTest {

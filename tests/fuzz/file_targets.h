@@ -12,6 +12,7 @@
 #include "posi/posi_file.h"
 #include "posi/posi_range.h"
 #include "posi/posi_table.h"
+#include "state/settings_text.h"
 #include "state/text.h"
 #include "tests/fuzz/fuzz_doors.h"
 
@@ -189,6 +190,13 @@ inline void FuzzDataFiles(std::string_view bytes) {
     CheckRoundTrip(
         virt.files, path, [&] { return SmFileSave(path); },
         [&] { return OpenSMFile(path) + (SmStage == SmTable ? 0 : 1); });
+}
+
+/// Any bytes as settings: what was read comes back from what is written of it.
+inline void FuzzSettings(std::string_view bytes) {
+  const SettingsRead read = ReadSettingsText(bytes);
+  FuzzCheck(read.bad_line == 0 || read.keys.empty(), "damage gives nothing");
+  FuzzCheck(ReadSettingsText(SettingsAsText(read.keys)).keys == read.keys, "they come back");
 }
 
 /// What a reader has left behind, whatever it was given. True: a file was read.

@@ -18,6 +18,6 @@ inline constexpr FuzzTarget kFuzzTargets[] = {
     {"device_list", FuzzDeviceList}, {"error_list", FuzzErrorList},   {"para_file", FuzzParaFile},
     {"posi_file", FuzzPosiFile},     {"prog_file", FuzzProgFile},     {"prog_steps", FuzzSteps},
     {"seq_file", FuzzSeqFile},       {"std_list", FuzzStdList},       {"wire", FuzzWire},
-    {"wire_words", FuzzWireWords}};
+    {"wire_words", FuzzWireWords},   {"settings", FuzzSettings}};
 
 }  // namespace tr7

@@ -265,6 +265,16 @@ TEST_F(IoMonitorTest, NamesOfTheUsersOwnAreKeptAndTravel) {
   io.cmdNamesLoad.Press();
   EXPECT_EQ(io.flgdInput.Text(4, kPointOwnName), "door closed");
   EXPECT_EQ(frmIOCheckFG.Chart.flgdPlot.Text(5, 1), "In IN1 door closed");
+  const std::string other = With(virt.files.Content("/work/n.ion").value(), "door", "gate");
+  for (const std::string& damaged :
+       {With(other, "ION", "GRP"), With(other, "QV-R7", "QV-R8"), With(other, "gate", "\"gate"),
+        other.substr(0, other.size() - 4), other + "\"more\"\r\n", std::string()}) {
+    virt.files.Put("/work/n.ion", damaged);
+    forms.file_answers = {"/work/n.ion"};
+    io.cmdNamesLoad.Press();
+    EXPECT_TRUE(forms.LastBox().starts_with(Text(7336))) << damaged;
+    EXPECT_EQ(io.flgdInput.Text(4, kPointOwnName), "door closed");
+  }
 }
 
 TEST_F(IoMonitorTest, ThePlotKeepsTenMinutesAndTellsThemAtItsCursors) {
@@ -290,6 +300,10 @@ TEST_F(IoMonitorTest, ThePlotKeepsTenMinutesAndTellsThemAtItsCursors) {
   const std::string csv = virt.files.Content("/work/p.csv").value();
   EXPECT_TRUE(csv.starts_with("\"Time [s]\",\"In IN1\"\r\n")) << csv.substr(0, 60);
   EXPECT_TRUE(csv.ends_with(",0\r\n"));
+  chart.plotIo.Picture = [] { return "as it is drawn"; };
+  forms.file_answers = {"/work/p.png"};
+  chart.cmdPlotPicture.Press();
+  EXPECT_EQ(virt.files.Content("/work/p.png"), "as it is drawn");
 }
 
 }  // namespace

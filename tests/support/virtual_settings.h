@@ -11,6 +11,13 @@ namespace tr7 {
 /// Settings in memory.
 class VirtualSettings : public SettingsStore {
  public:
+  SettingKeys All(const std::string& section) const override {
+    SettingKeys keys;
+    for (const auto& [place, value] : values) {
+      if (place.first == section) keys[place.second] = value;
+    }
+    return keys;
+  }
   std::string Get(const std::string& section, const std::string& key,
                   const std::string& fallback) const override {
     const auto found = values.find({section, key});
@@ -18,6 +25,11 @@ class VirtualSettings : public SettingsStore {
   }
   bool Set(const std::string& section, const std::string& key, const std::string& value) override {
     values[{section, key}] = value;
+    return true;
+  }
+  bool Replace(const std::string& section, const SettingKeys& keys) override {
+    std::erase_if(values, [&](const auto& entry) { return entry.first.first == section; });
+    for (const auto& [key, value] : keys) Set(section, key, value);
     return true;
   }
 
