@@ -104,8 +104,10 @@ class Trial : public FlowTest {
     frmPosi.cmdPosiWrite.Press();
   }
   void CompareBy(CommandButton& button) {
-    InDialog("frmCompare",
-             {[] { frmCompare.cmdCompare.Press(); }, [] { frmCompare.Visible = false; }});
+    InDialog("frmCompare", {[] {
+               frmCompare.cmdCompare.Press();
+               frmCompare.Visible = false;
+             }});
     button.Press();
   }
   void ComparePositions() { CompareBy(frmPosi.cmdPosiCompare); }

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "compare/compare_reading.h"
 #include "forms/frm_compare.h"
 #include "platform/doors.h"
 #include "session/session.h"
@@ -23,6 +24,7 @@ constexpr int kMsgName = 5329, kMsgPlace = 5330, kMsgNamedFile = 5334;
 constexpr int kMsgOpenHere = 5341, kMsgOpenThere = 5342;
 constexpr int kMsgCount = 6560, kMsgNoDifference = 6561, kMsgChoose = 6562, kMsgSameSides = 6563;
 constexpr int kMsgTakeAll = 6564, kMsgNotTaken = 6565, kMsgTaken = 6570;
+constexpr int kMsgNotIn = 7832, kMsgNoFile = 7833, kMsgNoLine = 7834;
 
 constexpr int kTitleRow = 0;
 constexpr int kNameCol = 0, kPlaceCol = 1, kHereCol = 2, kThereCol = 3;
@@ -53,6 +55,7 @@ class Comparison {
   bool AskForFiles();
   bool Fetch();
   bool FetchOverLine();
+  bool IsEmptyFor(const std::string& reason);
   bool Holds(CompareSource source) const;
   void Forget();
   void ShowRows();
@@ -66,7 +69,6 @@ class Comparison {
   const CompareKind& kind_;
   HandlersForOnce handlers_;
   std::array<Side, 2> sides_{};
-  bool wanted_ = false;    ///< the view is away for the line, not for good
   bool compared_ = false;  ///< both sides are in
   int count_ = 0, differing_ = 0;
   // By row on show.
@@ -89,11 +91,7 @@ void Comparison::Run() {
   Wire();
   OfferSides();
   Forget();
-  do {
-    wanted_ = false;
-    ShowViewModal(frmCompare);
-    if (wanted_) BringIn();
-  } while (wanted_);
+  ShowViewModal(frmCompare);
   Forget();
 }
 
@@ -142,13 +140,8 @@ void Comparison::AskToCompare() {
   const CompareSource there = SourceIn(frmCompare.comboThere);
   if (here == there && here != CompareSource::File) return Tell(kMsgSameSides);
   sides_ = {Side{here, {}}, Side{there, {}}};
-  if (Holds(CompareSource::Controller)) {
-    wanted_ = true;
-    frmCompare.Visible = false;
-  } else {
-    BringIn();
-    doors.forms->SetFocus(RowsGrid());
-  }
+  BringIn();
+  doors.forms->SetFocus(compared_ ? static_cast<Control&>(RowsGrid()) : frmCompare.cmdCompare);
 }
 
 bool Comparison::Holds(CompareSource source) const {
@@ -160,7 +153,7 @@ bool Comparison::Holds(CompareSource source) const {
 void Comparison::BringIn() {
   Forget();
   compared_ = AskForFiles() && (Holds(CompareSource::Controller) ? FetchOverLine() : Fetch());
-  if (!compared_) return;
+  if (!compared_) return ShowState();
   frmCompare.lblNote.Caption = kind_.note ? kind_.note() : std::string();
   ShowRows();
   RowsGrid().SelectCell(RowsGrid().FixedRows, kNameCol);
@@ -171,15 +164,22 @@ bool Comparison::AskForFiles() {
     if (sides_[side].source != CompareSource::File) continue;
     const auto path =
         AskOpenPath(kind_.file, side == kHere ? MsgId(kMsgOpenHere) : MsgId(kMsgOpenThere));
-    if (!path || path->empty()) return false;
+    if (!path || path->empty()) return IsEmptyFor(Text(kMsgNoFile));
     sides_[side].path = *path;
   }
   return true;
 }
 
 bool Comparison::FetchOverLine() {
+  const CompareReading reading;
   const TransferScope transfer;
-  return ConnectOrOpenPort() && Fetch();
+  return ConnectOrOpenPort() ? Fetch() : IsEmptyFor(Text(kMsgNoLine));
+}
+
+/// The list says why it is empty, beside what a box has told. False, for its caller to return.
+bool Comparison::IsEmptyFor(const std::string& reason) {
+  frmCompare.lblNote.Caption = reason;
+  return false;
 }
 
 bool Comparison::Fetch() {
@@ -187,7 +187,8 @@ bool Comparison::Fetch() {
     return sides_[side].source == CompareSource::Controller;
   };
   const auto fetch = [this](CompareSide side) {
-    return kind_.fetch(side, sides_[side].source, sides_[side].path);
+    return kind_.fetch(side, sides_[side].source, sides_[side].path) ||
+           IsEmptyFor(Text(kMsgNotIn, sides_[side].Name()));
   };
   // What the controller is asked for may follow from the other side.
   return of_controller(kHere) ? fetch(kThere) && fetch(kHere) : fetch(kHere) && fetch(kThere);
@@ -239,6 +240,10 @@ void Comparison::ShowState() {
   const bool may_take =
       compared_ && sides_[kHere].source == CompareSource::Screen && differing_ > 0;
   f.cmdTake.Enabled = f.cmdTakeAll.Enabled = may_take;
+  const auto asks = [](const ComboBox& choice) {
+    return SourceIn(choice) == CompareSource::Controller;
+  };
+  f.cmdCompare.Connects = asks(f.comboHere) || asks(f.comboThere);
 }
 
 void Comparison::TakeSelected() {
@@ -284,12 +289,6 @@ std::string Comparison::RowWords(int key) const {
 }
 
 }  // namespace
-
-bool CompareList::Counts(bool differs) {
-  ++compared_;
-  differing_ += differs ? 1 : 0;
-  return differs || equal_too_;
-}
 
 void ShowCompare(const CompareKind& kind) {
   const CommandsOff commands_off;

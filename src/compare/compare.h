@@ -34,7 +34,11 @@ class CompareList {
  public:
   explicit CompareList(bool equal_too) : equal_too_(equal_too) {}
   /// Counts one thing that was compared. True: its row is wanted, and `Add` follows.
-  [[nodiscard]] bool Counts(bool differs);
+  [[nodiscard]] bool Counts(bool differs) {
+    ++compared_;
+    differing_ += differs ? 1 : 0;
+    return differs || equal_too_;
+  }
   void Add(CompareRow row) { rows_.push_back(std::move(row)); }
 
   std::vector<CompareRow>& Rows() { return rows_; }
@@ -71,8 +75,8 @@ struct CompareKind {
 };
 
 /// Shows the view for this kind of data, modal. The commands of all views are off meanwhile, so
-/// nothing changes behind it. While the controller is read it is off the screen: the progress bar
-/// and its cancel button stand in the frame.
+/// nothing changes behind it. While the controller is read it stands switched off, with progress
+/// and cancel button.
 void ShowCompare(const CompareKind& kind);
 
 }  // namespace tr7

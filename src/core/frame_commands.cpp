@@ -70,6 +70,7 @@ void InstallFileAndEditMenus() {
   f.mnuEditPaste.Click = OfFront(&ViewCommands::Paste);
   f.mnuEditInsert.Click = OfFront(&ViewCommands::InsertLine);
   f.mnuEditLineDelete.Click = OfFront(&ViewCommands::DeleteLine);
+  f.mnuViewGoTo.Click = OfFront(&ViewCommands::GoTo);
 }
 
 void InstallWindowMenu() {
@@ -91,6 +92,7 @@ void InstallFrame() {
   InstallWindowMenu();
   InstallSessionMenus();
   f.mnuSettingOptions.Click = ShowOptions;
+  f.mnuViewUnit.Click = ChangeUnit;
   f.tbToolBar.ButtonClick = ToolBarClick;
   f.cmdComCancel.Click = [] { AppState.CancelRequested = True; };
   f.Timer1.Tick = PortWatchTick;

@@ -7,6 +7,7 @@
 #include "base/scope.h"
 #include "compare/compare.h"
 #include "data/data_flows.h"
+#include "state/message_box.h"
 
 namespace tr7 {
 
@@ -44,6 +45,20 @@ template <typename Table>
   }
   side = data.stage;
   return true;
+}
+
+/// What differs between two tables, a line each. `name_of`: what a row is called by its key.
+template <typename Table>
+std::string LinesOfDifferences(const Table& here, const Table& there,
+                               void (*rows)(const std::array<Table, 2>&, CompareList&),
+                               std::string (*name_of)(int key)) {
+  CompareList list(false);
+  rows({here, there}, list);
+  std::string lines;
+  for (const CompareRow& row : list.Rows()) {
+    lines += DifferenceLine(name_of(row.key), row.here, row.there);
+  }
+  return lines;
 }
 
 /// The compare button of such a view.

@@ -20,7 +20,9 @@ void ReportDifferences(const DataKind& kind) {
   const std::string numbers = kind.Differing();
   if (numbers.empty()) return TellDone(kind.Equal);
   // Meant so: the list stands ahead of the words that name it.
-  MsgBox(TwoLines(kind.DifferHead, kind.DifferList) + "\n" + numbers + Text(kind.DifferName));
+  MsgBoxWithDetails(
+      TwoLines(kind.DifferHead, kind.DifferList) + "\n" + numbers + Text(kind.DifferName),
+      kind.Details());
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ struct DataKind {
   void (*TakeStage)();         ///< the stage becomes the table and is shown
   void (*MarkSaved)();         ///< a file or the controller holds the table too
   std::string (*Differing)();  ///< numbers that differ between table and stage: "3,7,"
+  std::string (*Details)();    ///< the same with what both hold, a line each
 
   // The other sides. `FileFault` is why a file could not be read or saved.
   Outcome (*ReadFromCt)();  ///< into the stage

@@ -19,6 +19,23 @@ constexpr int kMsgTitle = 6490, kMsgGroup = 5338, kMsgNone = 5335;
 /// Start of a group that a file leaves out.
 constexpr std::int16_t kLeftOut = std::numeric_limits<std::int16_t>::min();
 
+bool IsLeftOut(const GrpTableRecord& table, int n) { return table.GrpStart[n] == kLeftOut; }
+
+std::string NameOf(int n) { return Text(kMsgGroup) + " " + std::to_string(n); }
+
+std::string RangeText(const GrpTableRecord& table, int n) {
+  if (IsLeftOut(table, n)) return Text(kMsgNone);
+  return std::to_string(table.GrpStart[n]) + " - " + std::to_string(table.GrpEnd[n]);
+}
+
+std::string BadGroups() {
+  std::string lines;
+  for (int n = 1; n <= kGroups; ++n) {
+    if (!GroupIsGood(n)) lines += NameOf(n) + ": " + RangeText(GrpTable, n) + "\n";
+  }
+  return lines;
+}
+
 bool AllAreGood() {
   StoreShownGroups();
   GrpFlags.GrpCheckFirst = 1;
@@ -28,14 +45,14 @@ bool AllAreGood() {
 
 bool MayBeCompared() {
   if (AllAreGood()) return true;
-  MsgBox(TwoLines(820, 821));
+  MsgBoxWithDetails(TwoLines(820, 821), BadGroups());
   ShowFirstBadGroup();
   return false;
 }
 
 bool MayBeSent() {
   if (AllAreGood()) return true;
-  MsgBox(TwoLines(820, 836) + "\n" + TwoLines(837, 838));
+  MsgBoxWithDetails(TwoLines(820, 836) + "\n" + TwoLines(837, 838), BadGroups());
   ShowFirstBadGroup();
   return false;
 }
@@ -50,13 +67,6 @@ std::string Differing() {
   return GrpFlags.GrpSyogoList;
 }
 
-bool IsLeftOut(const GrpTableRecord& table, int n) { return table.GrpStart[n] == kLeftOut; }
-
-std::string RangeText(const GrpTableRecord& table, int n) {
-  if (IsLeftOut(table, n)) return Text(kMsgNone);
-  return std::to_string(table.GrpStart[n]) + " - " + std::to_string(table.GrpEnd[n]);
-}
-
 void Rows(const std::array<GrpTableRecord, 2>& sides, CompareList& list) {
   const auto& [here, there] = sides;
   for (int n = 1; n <= kGroups; ++n) {
@@ -66,6 +76,8 @@ void Rows(const std::array<GrpTableRecord, 2>& sides, CompareList& list) {
         {n, Text(kMsgGroup), std::to_string(n), RangeText(here, n), RangeText(there, n), differs});
   }
 }
+
+std::string Details() { return LinesOfDifferences(GrpTable, GrpStage, Rows, NameOf); }
 
 bool Take(const GrpTableRecord& there, int n) {
   if (IsLeftOut(there, n)) return false;
@@ -84,6 +96,7 @@ const DataKind& GrpKind() {
                              .TakeStage = TakeStage,
                              .MarkSaved = [] { GrpSaved = GrpTable; },
                              .Differing = Differing,
+                             .Details = Details,
                              .ReadFromCt = ReadGrpFromCt,
                              .WriteToCt = WriteGrpToCt,
                              .ReadFile = GrpFileRead,

@@ -17,8 +17,32 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgTitle = 6504, kMsgStep = 5339, kMsgNone = 5335, kMsgBlank = 5340;
+constexpr int kMsgStepOfMacro = 7826;
 /// Command of a step that a file leaves out.
 constexpr std::int16_t kLeftOut = std::numeric_limits<std::int16_t>::min();
+
+/// "1. IN-ON 3"; an end has no value.
+std::string StepText(const SmStep& step) {
+  if (step.Command == kLeftOut) return Text(kMsgNone);
+  if (step.Command == kSmBlank) return Text(kMsgBlank);
+  const bool known = step.Command >= 0 && step.Command < static_cast<int>(kSmCommands.size());
+  const std::string command = known ? kSmCommands[step.Command] : std::to_string(step.Command);
+  return step.Command == kSmEnd ? command : command + " " + std::to_string(step.Value);
+}
+
+std::string NameOf(int at) {
+  return Text(kMsgStepOfMacro, std::to_string(at / kMacroSteps + 1),
+              std::to_string(at % kMacroSteps + 1));
+}
+
+std::string BadSteps() {
+  std::string lines;
+  for (int at = 0; at < kMacros * kMacroSteps; ++at) {
+    const SmStep& step = SmTable[at / kMacroSteps][at % kMacroSteps];
+    if (!SmStepIsGood(step)) lines += NameOf(at) + ": " + StepText(step) + "\n";
+  }
+  return lines;
+}
 
 /// The check may have put steps right, which does not count as a change by the user.
 bool AreGood() {
@@ -27,7 +51,8 @@ bool AreGood() {
   if (saved) SmSaved = SmTable;
   SmShow();
   if (result == 0) return true;
-  MsgBox(Text(921) + "\n\n" + Text(922) + "\n\n" + Text(938) + "\n\n" + SmFlags.SmBadList);
+  MsgBoxWithDetails(
+      Text(921) + "\n\n" + Text(922) + "\n\n" + Text(938) + "\n\n" + SmFlags.SmBadList, BadSteps());
   return false;
 }
 
@@ -46,15 +71,6 @@ int ReadFile(const std::string& path) {
   return OpenSMFile(path);
 }
 
-/// "1. IN-ON 3"; an end has no value.
-std::string StepText(const SmStep& step) {
-  if (step.Command == kLeftOut) return Text(kMsgNone);
-  if (step.Command == kSmBlank) return Text(kMsgBlank);
-  const bool known = step.Command >= 0 && step.Command < static_cast<int>(kSmCommands.size());
-  const std::string command = known ? kSmCommands[step.Command] : std::to_string(step.Command);
-  return step.Command == kSmEnd ? command : command + " " + std::to_string(step.Value);
-}
-
 void Rows(const std::array<SmTableRecord, 2>& sides, CompareList& list) {
   for (int at = 0; at < kMacros * kMacroSteps; ++at) {
     const int n = at / kMacroSteps, s = at % kMacroSteps;
@@ -65,6 +81,8 @@ void Rows(const std::array<SmTableRecord, 2>& sides, CompareList& list) {
               StepText(there), differs});
   }
 }
+
+std::string Details() { return LinesOfDifferences(SmTable, SmStage, Rows, NameOf); }
 
 bool Take(const SmTableRecord& there, int at) {
   const SmStep& step = there[at / kMacroSteps][at % kMacroSteps];
@@ -83,6 +101,7 @@ const DataKind& SmKind() {
                              .TakeStage = TakeStage,
                              .MarkSaved = [] { SmSaved = SmTable; },
                              .Differing = Differing,
+                             .Details = Details,
                              .ReadFromCt = ReadSmFromCt,
                              .WriteToCt = WriteSmToCt,
                              .ReadFile = ReadFile,

@@ -6,10 +6,9 @@ namespace tr7 {
 namespace {
 
 /// Code 15 becomes an end, and an end has no value.
-bool StepIsGood(SmStep& step) {
+void PutRight(SmStep& step) {
   if (step.Command == kSmBlank) step.Command = kSmEnd;
   if (step.Command == kSmEnd) step.Value = 0;
-  return step.Command == kSmEnd || (step.Value >= 1 && step.Value <= SmHighestValue(step.Command));
 }
 
 }  // namespace
@@ -25,6 +24,10 @@ int SmHighestValue(int command) {
   return command > kLastSignal && command <= kLastTimer ? 9 : 0;
 }
 
+bool SmStepIsGood(const SmStep& step) {
+  return step.Command == kSmEnd || (step.Value >= 1 && step.Value <= SmHighestValue(step.Command));
+}
+
 bool MacroHoldsData(const SmTableRecord::value_type& macro) {
   return std::any_of(macro.begin(), macro.end(),
                      [](const SmStep& step) { return SmHighestValue(step.Command) > 0; });
@@ -37,7 +40,10 @@ int SmData_Check() {
   SmFlags.SmBadList.clear();
   for (int n = 1; n <= kMacros; ++n) {
     bool good = true;
-    for (SmStep& step : SmTable[n - 1]) good = StepIsGood(step) && good;
+    for (SmStep& step : SmTable[n - 1]) {
+      PutRight(step);
+      good = good && SmStepIsGood(step);
+    }
     if (!good) SmFlags.SmBadList += "<" + std::to_string(n) + ">,";
   }
   return SmFlags.SmBadList.empty() ? 0 : 1;

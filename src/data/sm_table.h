@@ -48,6 +48,9 @@ extern SmFlagsRecord SmFlags;
 /// The highest value of a step command, whose lowest is 1; 0: it takes none, or is no command.
 int SmHighestValue(int command);
 
+/// An end, or a command with a value within its range.
+bool SmStepIsGood(const SmStep& step);
+
 /// True for a macro that does something.
 bool MacroHoldsData(const SmTableRecord::value_type& macro);
 

@@ -35,6 +35,7 @@ struct Control {
   std::string Difference;
   bool Enabled = true;
   bool Visible = true;
+  bool Connects = false;  ///< a command that goes online by itself where the session is offline
 };
 
 /// The controls that a part of a view has built: those from the making of this to `Close`.
@@ -196,7 +197,11 @@ struct ProgressBar : Control {
 /// A menu or a menu command; "-" in the layout makes separators, which have no record.
 struct Menu : Control {
   Menu(View& owner, const std::string& name, MsgId tag = {}) : Control(owner, "Menu", name, tag) {}
+  Menu* In = nullptr;  ///< the menu that it stands in
   Handler<void()> Click;
+  /// In reach of the user: neither it nor a menu on the way to it is off or hidden.
+  bool IsOn() const { return Enabled && Visible && (!In || In->IsOn()); }
+  /// By its own state: logic gives commands too, and needs no way through the menus.
   void Press() {
     if (Enabled && Visible && Click) Click();
   }

@@ -9,7 +9,8 @@ FrmCompare::FrmCompare() : View("frmCompare") {
   Height = 8000;
   FirstFocus = &flgdCompare;
   cmdCompare.Default = true;
-  cmdClose.Cancel = true;
+  cmdClose.Cancel = cmdComCancel.Cancel = true;
+  ProgressBar1.Visible = cmdComCancel.Visible = cmdComCancel.Enabled = false;
   constexpr int kRestOfView = -1;
   flgdCompare.SetColWidth(kName, 1800);
   flgdCompare.SetColWidth(kPlace, 850);

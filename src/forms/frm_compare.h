@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/grid.h"
+#include "forms/timer.h"
 
 namespace tr7 {
 
@@ -14,12 +15,16 @@ struct FrmCompare : View {
   ComboBox comboThere{*this, "comboThere"};
   CommandButton cmdCompare{*this, "cmdCompare", 5325};
   CheckBox chkEqualToo{*this, "chkEqualToo", 5326};
-  Label lblCount{*this, "lblCount"};  ///< how many differ
+  Label lblCount{*this, "lblCount"};  ///< how many differ, or what is being read
+  ProgressBar ProgressBar1{*this, "ProgressBar1"};
+  CommandButton cmdComCancel{*this, "cmdComCancel", 5111};
   Grid flgdCompare{*this, "flgdCompare", 1, 4, 1, 0};
   Label lblNote{*this, "lblNote"};  ///< what there is to know of the comparison, or of a take
   CommandButton cmdTake{*this, "cmdTake", 5327};
   CommandButton cmdTakeAll{*this, "cmdTakeAll", 5328};
   CommandButton cmdClose{*this, "cmdClose", 2202};
+
+  Timer TimerReading{100};  ///< while the controller is read: how far that is
 };
 
 inline Standing<FrmCompare> frmCompare;

@@ -38,6 +38,8 @@ struct FrmMain : View {
   Menu mnuViewSysPara{*this, "mnuViewSysPara", 5023};
   Menu mnuViewGrp{*this, "mnuViewGrp", 5024};
   Menu mnuViewSM{*this, "mnuViewSM", 5025};
+  Menu mnuViewGoTo{*this, "mnuViewGoTo", 5611};
+  Menu mnuViewUnit{*this, "mnuViewUnit", 5614};
   Menu mnuViewWire{*this, "mnuViewWire", 7701};
   Menu mnuCont{*this, "mnuCont", 5030};
   Menu mnuContPosiRead{*this, "mnuContPosiRead", 5031};

@@ -20,6 +20,7 @@ struct Menu;
 struct ViewCommands {
   Handler<void()> New, Open, Save, SaveAs, Print;
   Handler<void()> Undo, Redo, Copy, Paste, InsertLine, DeleteLine;
+  Handler<void()> GoTo;  ///< asks for a line's number and goes there
 };
 
 /// Which edit commands the selection of a view allows; the frame's menus follow it.

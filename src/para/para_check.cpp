@@ -59,14 +59,17 @@ bool ParaRowInRange(const ParamSetRecord& set, int row, int axis) {
   }
 }
 
-int ParametaValueCheck() {
+std::vector<ParaCell> ParaCellsOutOfRange() {
+  std::vector<ParaCell> cells;
   for (int row = 1; row <= kParaRows; ++row) {
     for (int axis = 0; axis < (IsAxisRow(row) ? kAxes : 1); ++axis) {
       const bool counts = !IsAxisRow(row) || IsLiveAxis(axis);
-      if (counts && !ParaRowInRange(ParamSet, row, axis)) return 1;
+      if (counts && !ParaRowInRange(ParamSet, row, axis)) cells.push_back({row, axis});
     }
   }
-  return 0;
+  return cells;
 }
+
+int ParametaValueCheck() { return ParaCellsOutOfRange().empty() ? 0 : 1; }
 
 }  // namespace tr7

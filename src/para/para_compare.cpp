@@ -22,13 +22,14 @@
 #include "para/param_set.h"
 #include "state/app_state.h"
 #include "state/axes_in_use.h"
+#include "state/message_box.h"
 #include "state/text.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgTitle = 6000, kMsgAxis1 = 220, kMsgNone = 5335;
-constexpr int kMsgNothingThere = 6566, kMsgLocked = 6567;
+constexpr int kMsgNothingThere = 6566, kMsgLocked = 6567, kMsgFillFirst = 7835;
 constexpr int kAllAxesMask = (1 << kAxes) - 1;
 
 struct ParaSide {
@@ -47,7 +48,10 @@ ParaCell CellOf(int key) { return {key / kAxes, key % kAxes}; }
 /// The view into `ParamSet`. Axes that have come into use with the line get their columns first.
 bool TakeScreen(FilledCheck& filled) {
   SettleParaColumns();
-  return filled.Holds() && TakeParaView(1524, 1525);
+  const std::string words = TwoLines(7, 8);
+  const bool never_filled = ParamSet == ParamSetRecord{};
+  return filled.Holds(never_filled ? WithReason(words, Text(kMsgFillFirst)) : words) &&
+         TakeParaView(1524, 1525);
 }
 
 bool FetchTable(CompareSource source, const std::string& path) {

@@ -14,24 +14,30 @@ namespace {
 bool IsEmpty(const TextBox& box) { return Trim(box.Text).empty(); }
 bool IsEmpty(const ComboBox& list) { return list.ListIndex < 0; }
 
-/// Gathers the empty fields and keeps the first in the order of the Tab key.
+/// Gathers the empty fields: their names, and the first in the order of the Tab key.
 class FirstEmpty {
  public:
   void Add(Control& control, bool per_axis, int axis) {
+    names_ += ParaFieldName(control, per_axis, axis) + "\n";
+    ++count_;
     const auto& controls = frmParameta2.Controls;
     const auto place = std::find(controls.begin(), controls.end(), &control) - controls.begin();
     if (first_.Field && place >= place_) return;
     place_ = place;
-    first_ = {&control, ParaFieldName(control, per_axis, axis)};
+    first_ = {&control, ParaFieldName(control, per_axis, axis), {}};
   }
   template <typename Kind>
   void AddIfEmpty(Kind& control, bool per_axis, int axis = 0) {
     if (IsEmpty(control)) Add(control, per_axis, axis);
   }
-  const MissingParaField& First() const { return first_; }
+  MissingParaField First() const {
+    return {first_.Field, first_.Name, count_ > 1 ? names_ : std::string()};
+  }
 
  private:
   MissingParaField first_;
+  std::string names_;
+  int count_ = 0;
   std::ptrdiff_t place_ = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "device/ct_device.h"
+#include "device/ct_difference.h"
 #include "device/limits.h"
 #include "device/take_ct_device.h"
 #include "forms/frm_parameta2.h"
@@ -43,7 +44,8 @@ Devices AgreeOnDevices(bool other_axes) {
   if (difference < 0) return Devices::Ended;
   if (difference == 0 && !other_axes) return Devices::AsHere;
   const std::string question = TwoLines(356, 357) + "\n" + Text(358);
-  if (MsgBox(question, MsgButtons::OkCancel, MsgIcon::Question) != MsgAnswer::Ok) {
+  if (MsgBoxWithDetails(question, DeviceDifference(), MsgButtons::OkCancel, MsgIcon::Question) !=
+      MsgAnswer::Ok) {
     return Devices::Ended;
   }
   if (!WarnOfDeviceChange(true)) return Devices::Ended;
@@ -73,7 +75,7 @@ void ReportComparison(int mask) {
     case 0:
       return TellDone(826);
     case 1:
-      MsgBox(ParaVerifyText());
+      MsgBoxWithDetails(ParaVerifyText(), ParaFlags.VerifyDetails);
       return;
     default:
       Tell(kMsgError);

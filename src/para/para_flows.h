@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace tr7 {
 
 // The parameter view and the controller, or a file. The user has been told of every failure.
@@ -16,8 +18,8 @@ void GetParametaValue();
 void WriteParaFlow();
 
 /// 0: the controller has at least as many axes as are to be written; 1: it has less; -1: it did not
-/// tell.
-int CheckCtAxisAndParaAxis();
+/// tell. `counts` takes the two numbers in words.
+int CheckCtAxisAndParaAxis(std::string* counts = nullptr);
 
 /// Reads the controller's parameters into `ParaTable`, over a line that is open. False: `ParaTable`
 /// is as it was.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "base/msg_id.h"
 #include "forms/control.h"
 
@@ -17,13 +19,16 @@ class FilledCheck {
 
   /// False after the user has been told which field is empty.
   [[nodiscard]] bool Holds();
+  /// The same, told by these words.
+  [[nodiscard]] bool Holds(const std::string& words);
 
  private:
   Control* missing_ = nullptr;
 };
 
-/// Takes the view into `ParamSet`, which keeps it. False after these two messages: some value is
-/// out of its range.
+/// Takes the view into `ParamSet`, which keeps it. False after these words, or two messages: some
+/// value is out of its range.
+[[nodiscard]] bool TakeParaView(const std::string& words);
 [[nodiscard]] bool TakeParaView(MsgId wrong_id, MsgId again_id);
 
 }  // namespace tr7

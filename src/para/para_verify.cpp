@@ -4,8 +4,10 @@
 #include <optional>
 
 #include "para/para_blocks.h"
+#include "para/para_value_text.h"
 #include "para/param_set.h"
 #include "state/app_state.h"
+#include "state/message_box.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -32,12 +34,20 @@ std::string Label(int row, int axis) {
   return ParaCellName({row, axis}) + (row == kRowPputWrite ? "" : ",");
 }
 
+void NoteDifference(const ParamSetRecord& other, const ParaCell& cell) {
+  ParaFlags.VerifyDetails +=
+      DifferenceLine(ParaCellName(cell), ParaValueText(ParamSet, cell.Row, cell.Axis),
+                     ParaValueText(other, cell.Row, cell.Axis));
+}
+
 std::string LineOf(const VerifyGroup& group, const AxisList& axes, const ParamSetRecord& other) {
   const AxisList first_alone(1);
   std::string line;
   for (int row = group.FirstRow; row <= group.LastRow; ++row) {
     for (const int axis : IsAxisRow(row) ? axes : first_alone) {
-      if (!SameParaCell(ParamSet, other, {row, axis})) line += Label(row, axis);
+      if (SameParaCell(ParamSet, other, {row, axis})) continue;
+      line += Label(row, axis);
+      NoteDifference(other, {row, axis});
     }
   }
   return line;
@@ -52,6 +62,7 @@ bool SameParaCell(const ParamSetRecord& a, const ParamSetRecord& b, const ParaCe
 
 int BuildParaVerifyReport(int mask) {
   ParaFlags.VerifyLines.fill({});
+  ParaFlags.VerifyDetails.clear();
   const std::optional<ParamSetRecord> other = ParamSetOfTable();
   if (!other) return -1;
   bool equal = true;

@@ -14,8 +14,8 @@ namespace tr7 {
 
 /// Compares `ParamSet` with `ParaTable` by value, over the rows of the controller and of the axes
 /// in `mask` (axis i: 1 << i), which the other side must have, and fills `ParaFlags.VerifyLines`:
-/// what differs, in each of the five groups. 0 equal; 1 not; -1 where `ParaTable` holds what no row
-/// can.
+/// what differs, in each of the five groups, and `VerifyDetails`. 0 equal; 1 not; -1 where
+/// `ParaTable` holds what no row can.
 int BuildParaVerifyReport(int mask);
 
 /// The report as a box says it: the groups that differ, and what differs in each.

@@ -1,6 +1,7 @@
 #include <optional>
 
 #include "device/ct_device.h"
+#include "device/ct_difference.h"
 #include "forms/frm_main.h"
 #include "forms/frm_parameta2.h"
 #include "link/status_commands.h"
@@ -23,7 +24,7 @@
 namespace tr7 {
 namespace {
 
-constexpr int kMsgWriteFailed = 1528;
+constexpr int kMsgWriteFailed = 1528, kMsgNumberOfAxes = 7837;
 
 enum class AxesOf { Both, Pc, Ct, Neither };
 
@@ -57,8 +58,10 @@ AxesOf TakeAxesOfCt() {
 /// Also known as CheckParaAxisOfCt: which side's axes count, by those just read with the mode.
 AxesOf AgreeOnAxes() {
   if (AppState.AxisMuko == AppState.AxisMukoOfCt) return AxesOf::Both;
-  switch (SelectionDialog(
-      {.Title = Text(471), .Prompt = Text(472), .Choices = {Text(473), Text(474)}})) {
+  switch (SelectionDialog({.Title = Text(471),
+                           .Prompt = Text(472),
+                           .Choices = {Text(473), Text(474)},
+                           .Details = AxesDifference()})) {
     case Selection::First:
       return AxesOf::Pc;
     case Selection::Second:
@@ -69,10 +72,11 @@ AxesOf AgreeOnAxes() {
 }
 
 bool AxesMayBeWritten() {
-  const int more = CheckCtAxisAndParaAxis();
+  std::string counts;
+  const int more = CheckCtAxisAndParaAxis(&counts);
   if (more != 1) return more == 0;
-  return MsgBox(TwoLines(631, 632) + "\n" + Text(633), MsgButtons::YesNo, MsgIcon::Question) ==
-         MsgAnswer::Yes;
+  return MsgBoxWithDetails(TwoLines(631, 632) + "\n" + Text(633), counts, MsgButtons::YesNo,
+                           MsgIcon::Question) == MsgAnswer::Yes;
 }
 
 bool ViewIsTaken(AxesOf axes) {
@@ -128,12 +132,15 @@ bool WriteAndTell() {
 
 }  // namespace
 
-int CheckCtAxisAndParaAxis() {
+int CheckCtAxisAndParaAxis(std::string* counts) {
   const int of_ct = GetVersionNoAxis();
   if (of_ct < 0) return -1;
   const int chosen = frmParameta2.comboOneAxis.ListIndex;
   const int of_view = chosen >= 1 && chosen < kAxes ? chosen + 1 : 1;
   const int wanted = frmParameta2.chkTokuParaChange.Value ? of_view : AppState.AxisCount;
+  if (counts) {
+    *counts = DifferenceLine(Text(kMsgNumberOfAxes), std::to_string(wanted), std::to_string(of_ct));
+  }
   return wanted <= of_ct ? 0 : 1;
 }
 

@@ -138,6 +138,7 @@ struct ParaFlagsRecord {
   std::int16_t ShownAxisCount = 0;
   /// What the last verification found different, a line each for HOME, AXIS, PG, ETC and SP.
   std::array<std::string, 5> VerifyLines;
+  std::string VerifyDetails;  ///< the same with the values of both sides, a line each
 };
 
 extern ParaFlagsRecord ParaFlags;

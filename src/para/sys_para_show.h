@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace tr7 {
 
 /// `SysParaRead` into the 72 fields.
@@ -13,6 +15,9 @@ int SysParaFieldsFilled();
 
 /// Puts the focus on the first field that is empty, else on the first out of its range.
 void GoToRefusedSysPara();
+
+/// Those fields, empty or else out of range, a line each: "No. 17: 256 (0 to 255)".
+std::string RefusedSysPara();
 
 /// Marks the fields that differ from what the controller last gave; none before it gave any.
 void MarkSysParaFields();

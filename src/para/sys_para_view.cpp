@@ -42,13 +42,13 @@ void GetSystemParametaValue() {
 /// Takes the fields. False after the user has been told what is missing or wrong.
 bool TakeFields() {
   if (SysParaFieldsFilled() != 0) {
-    MsgBox(TwoLines(7, 8));
+    MsgBoxWithDetails(TwoLines(7, 8), RefusedSysPara());
     GoToRefusedSysPara();
     return false;
   }
   TorikomiSystemParametaValue();
   if (SystemParametaValueCheck() == 0) return true;
-  MsgBox(TwoLines(1524, 1525));
+  MsgBoxWithDetails(TwoLines(1524, 1525), RefusedSysPara());
   GoToRefusedSysPara();
   return false;
 }

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <string>
 
+#include "base/text_helpers.h"
 #include "device/dev_setting_store.h"
 #include "device/device_names.h"
 #include "forms/frm_parameta2.h"
+#include "forms/frm_posi.h"
 #include "para/device_take.h"
 #include "para/para_file_flow.h"
 #include "para/para_show.h"
@@ -77,10 +79,25 @@ void DevicesHaveChanged() {
   if (frmParameta2.Loaded) ParametaHyoji();
 }
 
+std::string DevicesThatDiffer() {
+  constexpr int kMsgAxis1 = 220, kMsgNone = 5335;
+  const auto name = [](const std::string& device) {
+    return device.empty() ? Text(kMsgNone) : device;
+  };
+  std::string lines;
+  for (const OtherDevice& other : OtherDevicesOfFile()) {
+    lines += DifferenceLine(Text(MsgId::At(kMsgAxis1, other.axis)), name(other.in_use),
+                            name(other.of_file));
+  }
+  return lines;
+}
+
 /// Asks by whose devices the positions are shown; those are in use then.
 bool AskAndFollow(Choice& choice) {
-  const Selection answer = SelectionDialog2(
-      {.Title = Text(471), .Prompt = Text(44), .Choices = {Text(45), Text(46), Text(47)}});
+  const Selection answer = SelectionDialog2({.Title = Text(471),
+                                             .Prompt = Text(44),
+                                             .Choices = {Text(45), Text(46), Text(47)},
+                                             .Details = DevicesThatDiffer()});
   if (answer == Selection::Cancelled) return TellStopped();
   choice = static_cast<Choice>(answer);
   if (choice == Choice::DevicesOfFile) return TakeDevicesOfFile();
@@ -106,6 +123,16 @@ DevicesOnTrial::~DevicesOnTrial() {
   AppState.StrokePulse = stroke_pulse_;
   AppState.StrokeMm = stroke_mm_;
   AppState.AxisCount = axis_count_;
+}
+
+std::vector<OtherDevice> OtherDevicesOfFile() {
+  std::vector<OtherDevice> others;
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const std::string in_use =
+        AppState.AxisMuko[axis] ? std::string() : frmPosi.lblDeviceType[axis]->Caption;
+    if (Trim(FileDevice[axis]) != Trim(in_use)) others.push_back({axis, in_use, FileDevice[axis]});
+  }
+  return others;
 }
 
 FileDevices ReconcileFileDevices() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "base/axes.h"
 #include "device/ct_device.h"
@@ -43,6 +45,14 @@ class DevSetteiKept {
  private:
   AxisArray<DevSettingRecord> kept_ = DevSettei;
 };
+
+/// A device that the position file read last names for an axis (0 to 3), where another is in use
+/// there; an empty name is none.
+struct OtherDevice {
+  int axis;
+  std::string in_use, of_file;
+};
+std::vector<OtherDevice> OtherDevicesOfFile();
 
 /// By whose devices the positions of a file are shown. `Refused`: they are not to be shown.
 enum class FileDevices { Refused, OfFile, Others };

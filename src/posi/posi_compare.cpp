@@ -38,7 +38,7 @@ namespace {
 constexpr int kMsgTitle = 202, kMsgNone = 5335, kMsgData = 5336, kMsgWholePosition = 5337;
 constexpr int kMsgAxis1 = 220;
 constexpr int kMsgNothingThere = 6566, kMsgNotBehindLast = 6568, kMsgOutOfRange = 6569;
-constexpr int kMsgOtherDevices = 6571, kMsgRange = 6572;
+constexpr int kMsgOtherDevices = 6571, kMsgRange = 6572, kMsgNotRead = 7836;
 constexpr int kMsgStopped = 425;
 
 /// Column 0 stands for a whole position.
@@ -53,6 +53,7 @@ struct Side : PosiSide {
 
 struct Comparison {
   std::array<Side, 2> sides;
+  std::size_t not_read = 0;  ///< positions of the controller that the other side does not hold
 
   bool Fetch(CompareSide side, CompareSource source, const std::string& path);
   void AddRows(int number, CompareList& list) const;
@@ -84,13 +85,9 @@ bool FetchController(Side& side, const Side& other) {
 /// Where the devices that a file names are others than those in use.
 std::string OtherDevices() {
   std::string names;
-  for (int axis = 0; axis < kAxes; ++axis) {
-    const std::string& of_file = FileDevice[axis];
-    const std::string in_use =
-        AppState.AxisMuko[axis] ? std::string() : frmPosi.lblDeviceType[axis]->Caption;
-    if (Trim(of_file) == Trim(in_use)) continue;
-    const std::string name = of_file.empty() ? Text(kMsgNone) : of_file;
-    names += (names.empty() ? "" : ", ") + Text(MsgId::At(kMsgAxis1, axis)) + ": " + name;
+  for (const OtherDevice& other : OtherDevicesOfFile()) {
+    const std::string name = other.of_file.empty() ? Text(kMsgNone) : other.of_file;
+    names += (names.empty() ? "" : ", ") + Text(MsgId::At(kMsgAxis1, other.axis)) + ": " + name;
   }
   return names;
 }
@@ -106,10 +103,12 @@ bool FetchFile(Side& side, const std::string& path) {
 
 bool Comparison::Fetch(CompareSide side, CompareSource source, const std::string& path) {
   sides[side].other_devices.clear();
+  not_read = 0;  // the controller comes last
   switch (source) {
     case CompareSource::Screen:
       return FetchScreen(sides[side]);
     case CompareSource::Controller:
+      not_read = kPosiMaxNo - sides[side == kHere ? kThere : kHere].Holds.count();
       return FetchController(sides[side], sides[side == kHere ? kThere : kHere]);
     default:
       return FetchFile(sides[side], path);
@@ -162,6 +161,7 @@ std::string Comparison::Note() const {
   const PosiRange here = sides[kHere].Range(), there = sides[kThere].Range();
   std::string note = Text(kMsgRange, std::to_string(std::min(here.first, there.first)),
                           std::to_string(std::max(here.last, there.last)));
+  if (not_read > 0) note += "\n" + Text(kMsgNotRead, std::to_string(not_read));
   for (const Side& side : sides) {
     if (!side.other_devices.empty()) note += "\n" + Text(kMsgOtherDevices, side.other_devices);
   }

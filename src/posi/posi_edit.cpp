@@ -1,5 +1,6 @@
 #include "posi/posi_edit.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -19,6 +20,7 @@
 #include "posi/speed_decimals.h"
 #include "posi/unit_change.h"
 #include "state/app_state.h"
+#include "state/go_to.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -54,6 +56,17 @@ EditVerdict AcceptEdit(int row, int col, std::string& text) {
     TellRounded(typed, text);
   }
   return {};
+}
+
+/// The line of a number that the user types.
+void GoToLine() {
+  constexpr int kNothingYet = 6368;
+  Grid& grid = frmPosi.flgdData;
+  if (grid.Rows() <= kPosiHeaderRows) return TellInStatusPanel(Text(kNothingYet));
+  const auto number = AskLineNumber(PositionOfRow(kPosiHeaderRows), PositionOfRow(grid.Rows() - 1));
+  if (!number) return;
+  GoToPosiCell(*number, std::max(grid.Col, 1));
+  doors.forms->SetFocus(grid);
 }
 
 /// The shown body column beside `col` in a direction; 0 when there is none.
@@ -148,6 +161,7 @@ void InstallPosiEdit() {
   f.cmdPosiCopy.Click = cmdPosiCopy_Click;
   f.cmdPosiPaste.Click = cmdPosiPaste_Click;
   f.cmdPosiCheck.Click = cmdPosiCheck_Click;
+  f.Commands.GoTo = GoToLine;
   f.Commands.Undo = NotWhileTeaching(PosiUndoClick);
   f.Commands.Redo = NotWhileTeaching(PosiRedoClick);
   f.Commands.InsertLine = NotWhileTeaching(cmdInsertLine_Click);

@@ -12,6 +12,7 @@
 #include "posi/posi_range.h"
 #include "posi/range_dialogs.h"
 #include "state/busy_scope.h"
+#include "state/for_mode.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -81,6 +82,17 @@ Attempt AttemptOf(int result, const PosiFileTrouble& trouble) {
   return trouble.may_pass ? Attempt::MayPass : Attempt::Useless;
 }
 
+bool FileIsOfThisMode() {
+  constexpr int kMsgMode = 7828;
+  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
+  const auto name = [](bool program_mode) {
+    return Text(ModeNameId(program_mode ? ForMode::Program : ForMode::Positioner));
+  };
+  MsgBoxWithDetails(TwoLines(330, 331), DifferenceLine(Text(kMsgMode), name(AppState.CtMode),
+                                                       name(AppState.FileIsPrgMode)));
+  return false;
+}
+
 bool ReadPosiFileToStage(const std::string& path) {
   PosiFileTrouble trouble;
   const bool read = TryFourTimes([&] {
@@ -94,9 +106,7 @@ bool ReadPosiFileToStage(const std::string& path) {
   // A file of another kind has been told. The flow goes on with what was there before, and that
   // is on show as it is, with what the user has typed into it.
   if (AppState.PosiFileNotOurs) return false;
-  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
-  MsgBox(TwoLines(330, 331));
-  return false;
+  return FileIsOfThisMode();
 }
 
 void PosidataSaveToFile() {

@@ -22,6 +22,9 @@ void PosiDataSaveAs();
 /// What a result of the file's reader or writer (0 or 1) and its trouble say of another attempt.
 Attempt AttemptOf(int result, const PosiFileTrouble& trouble);
 
+/// The position file read last is for the mode in use. False after the user has been told.
+[[nodiscard]] bool FileIsOfThisMode();
+
 /// Up to four attempts at a file. True when the stage holds it and it is of the present mode;
 /// otherwise the user knows why not.
 [[nodiscard]] bool ReadPosiFileToStage(const std::string& path);

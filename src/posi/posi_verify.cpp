@@ -50,10 +50,7 @@ bool ReadIntoStage(ReadFile read, const std::string& path) {
   AppState.PosiFileNotOurs = False;
   PosiFileTrouble trouble;
   if (read(path, trouble) != 0) MsgBox(WithReason(Text(484), trouble.words));
-  if (AppState.PosiFileNotOurs) return false;
-  if (AppState.CtMode == AppState.FileIsPrgMode) return true;
-  MsgBox(TwoLines(330, 331));
-  return false;
+  return !AppState.PosiFileNotOurs && FileIsOfThisMode();
 }
 
 /// The older range dialogue knows no bounds; beyond them there is nothing to compare.

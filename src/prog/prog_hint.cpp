@@ -145,9 +145,9 @@ std::string CellFault(int code, int column, const std::string& cell_text) {
   if (column == kProgCommand) return SeekCmdCode(text) < 0 ? Text(kMsgNoCommand, text) : "";
   const CommandRule* rule = RuleOfCode(code);
   if (!rule) return {};
+  if (!ColumnIsUsed(code, column)) return Text(kMsgIgnored, text);
   const auto cell = SplitCell(text);
   if (!cell) return Text(kMsgUnreadable, text);
-  if (!ColumnIsUsed(code, column)) return Text(kMsgIgnored, text);
   return FaultText(Judge(*rule, column, *cell), text, *cell, Taken(*rule, column));
 }
 

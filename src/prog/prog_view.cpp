@@ -24,6 +24,7 @@
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
+#include "state/go_to.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -173,6 +174,10 @@ void WireButtons(ProgView& view) {
   view.cmdProgLinePaste.Click = [&view] {
     ProgDataLinePaste(view);
     SwitchLineCommands(view);
+  };
+  view.Commands.GoTo = [&view] {
+    const auto step = AskLineNumber(1, view.flgdProg.Rows() - 1);
+    if (step) GoToStep(view.flgdProg, *step, view.flgdProg.Col);
   };
   view.Commands.New = NewProgram;
   view.Commands.Open = OpenProgram;

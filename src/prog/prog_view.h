@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "prog/prog_store.h"
 
@@ -21,6 +22,10 @@ void ReadProgramData();
 /// `SelChange` of the listing: what the cell takes and what its command does in the status panel,
 /// and which line commands there are.
 void ProgSelectionMoved(ProgView& view);
+
+/// A name that the view offers and nothing asks for: there is nothing to seek, whatever it is
+/// given.
+inline std::string SeekProgCmd(const std::string& /*command*/) { return {}; }
 
 /// Wires the frame's program commands and the views that there is one of.
 void InstallProgViews();

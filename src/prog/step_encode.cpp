@@ -93,9 +93,9 @@ const Band* BandOf(std::string_view prefix) {
 }
 
 std::optional<std::int32_t> seekInputData(int code, int column, std::string_view text) {
+  if (!ColumnIsUsed(code, column)) return 0;  // whatever it holds
   const auto cell = SplitCell(text);
   if (!cell) return std::nullopt;
-  if (!ColumnIsUsed(code, column)) return 0;
   if (column == kProgCondition) return CondToCode(*cell);
   if (column == kProgResult) return ResultToCode(*cell);
   return OperandCode(RuleOfCode(code)->Operand(column), *cell);

@@ -23,7 +23,8 @@ std::optional<CellParts> SplitCell(std::string_view text);
 const Band* BandOf(std::string_view prefix);
 
 /// Encodes one cell of the operand, condition or result column of a command. None where its number
-/// part cannot be read. What the column does not take becomes 0 without a word: the check judges.
+/// part cannot be read. What the column does not take becomes 0 without a word, and so does all
+/// that stands in a column that the command has not: the check judges.
 std::optional<std::int32_t> seekInputData(int code, int column, std::string_view text);
 
 /// The condition: a reference to I, O, F or f, with "/" in front its negation, which adds 1000;

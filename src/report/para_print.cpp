@@ -25,7 +25,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgAskShown = 684, kMsgAskFile = 682, kMsgFileTitle = 683, kMsgUnknown = 7610;
-constexpr int kMsgWrong = 1524, kMsgAgain = 1525, kMsgUnit = 7649;
+constexpr int kMsgWrong = 1524, kMsgUnit = 7649;
 constexpr int kRowPosPrg = 33;
 
 bool IsLength(int row) { return row == kRowStroke || row == kRowZone1 || row == kRowZone2; }
@@ -87,14 +87,18 @@ Outcome PrintKnown() {
   return Print(set, LiveAxisMask(), {});
 }
 
+/// An empty field would stand as 0 on paper: it counts as a wrong one.
+bool ViewMayBePrinted(FilledCheck& filled) {
+  return filled.Holds(Text(kMsgWrong)) && TakeParaView(Text(kMsgWrong));
+}
+
 }  // namespace
 
 Outcome PrintShownPara() {
   if (!frmParameta2.Loaded) return PrintKnown();
   SettleParaColumns();
   FilledCheck filled;
-  if (!filled.Holds() || !TakeParaView(kMsgWrong, kMsgAgain)) return Outcome::Failed;
-  return PrintParamSet();
+  return ViewMayBePrinted(filled) ? PrintParamSet() : Outcome::Failed;
 }
 
 Outcome PrintParaFile(const std::string& path) {
@@ -109,7 +113,7 @@ void PrintParaOnScreen() {
   const CommandsOff commands_off;
   const BusyScope busy;
   if (!AskYes(kMsgAskShown)) return;
-  if (filled.Holds() && TakeParaView(kMsgWrong, kMsgAgain)) static_cast<void>(PrintParamSet());
+  if (ViewMayBePrinted(filled)) static_cast<void>(PrintParamSet());
 }
 
 void PrintParaOfFile() {

@@ -12,6 +12,7 @@
 #include "posi/posi_file_flows.h"
 #include "posi/posi_format.h"
 #include "posi/posi_grid_fill.h"
+#include "posi/posi_range.h"
 #include "posi/posi_table.h"
 #include "report/para_print.h"
 #include "report/posi_report.h"
@@ -34,6 +35,7 @@ std::string NameOfTable() {
   return PosiTableHasFile() ? FileTitle(PosiTablePath()) : PosiTable.Name;
 }
 
+/// A number that is not loaded stands on paper as one without data.
 Outcome PrintShown(const PosiRange& range) {
   const KeepPlace place;  // from which the check goes away
   if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return Outcome::Failed;
@@ -41,7 +43,10 @@ Outcome PrintShown(const PosiRange& range) {
   for (int n = range.first; n <= range.last; ++n) rows.Numbers.push_back(n);
   rows.AxisMask = AxesInUseMask();
   rows.Mm = AppState.DispMmUnit;
-  rows.Cell = [](int col, int number) { return PosiCellText(col, number, AppState.CtMode); };
+  rows.Cell = [](int col, int number) {
+    return LoadedPosiRange().Holds(number) ? PosiCellText(col, number, AppState.CtMode)
+                                           : std::string();
+  };
   return Print(rows, HeadOfMachine(DevicesInUse(), NameOfTable()));
 }
 

@@ -95,12 +95,12 @@ void Correct(TextBox& box, int instead) {
   if (number < 1 || number > kPosiMaxNo) box.Text = std::to_string(instead);
 }
 
-/// The typed range as far as there are positions; empty where it is none.
+/// The typed range, also where no position is loaded; empty where it is none.
 PosiRange TypedRange() {
   const auto first = static_cast<int>(Val(frmPrintSelect.txtPrintStartPosi.Text));
   const auto last = static_cast<int>(Val(frmPrintSelect.txtPrintEndPosi.Text));
   if (first < 0 || last > kPosiMaxNo || first > last) return {1, 0};
-  return {std::max(first, Loaded().first), std::min(last, Loaded().last)};
+  return {std::max(first, 1), std::max(last, 1)};
 }
 
 bool Accept(const Rows& rows, PrintChoice& choice) {

@@ -28,6 +28,7 @@ void SwitchFileCommands() {
   frmMain.mnuFileSave.Enabled = front.Commands.Save != nullptr;
   frmMain.mnuFileSaveAs.Enabled = front.Commands.SaveAs != nullptr;
   frmMain.mnuFileClose.Enabled = !front.StaysOpen;
+  frmMain.mnuViewGoTo.Enabled = bool(front.Commands.GoTo);
 }
 
 constexpr int kToolCut = 7, kToolPrgEdit = 11, kToolPrgExe = 12;

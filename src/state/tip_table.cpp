@@ -3,9 +3,11 @@
 namespace tr7 {
 namespace {
 
+constexpr bool kConnects = true;
+
 constexpr Tip kFrmMain[] = {{"cmdComCancel", 8005},
                             {"cmdStopNow", 5295},
-                            {"cmdReset", 8006},
+                            {"cmdReset", 8006, kConnects},
                             {"mnuFileNew", 8007},
                             {"mnuFileNewProg", 8008},
                             {"mnuFileOpen", 8009},
@@ -32,20 +34,22 @@ constexpr Tip kFrmMain[] = {{"cmdComCancel", 8005},
                             {"mnuViewGrp", 8030},
                             {"mnuViewSM", 8031},
                             {"mnuViewWire", 8288},
-                            {"mnuContPosiRead", 8032},
-                            {"mnuContPosiWrite", 8033},
-                            {"mnuContPosiVerify", 8034},
-                            {"mnuContProgRead", 8035},
-                            {"mnuContProgTask", 8036},
-                            {"mnuContAlarmReset", 8037},
-                            {"mnuContVersion", 8038},
+                            {"mnuViewGoTo", 8290},
+                            {"mnuViewUnit", 8291},
+                            {"mnuContPosiRead", 8032, kConnects},
+                            {"mnuContPosiWrite", 8033, kConnects},
+                            {"mnuContPosiVerify", 8034, kConnects},
+                            {"mnuContProgRead", 8035, kConnects},
+                            {"mnuContProgTask", 8036, kConnects},
+                            {"mnuContAlarmReset", 8037, kConnects},
+                            {"mnuContVersion", 8038, kConnects},
                             {"mnuMonitorIO", 8039},
                             {"mnuMonitorHensu", 8040},
                             {"mnuSettingOnline", 8041},
                             {"mnuSettingOffline", 8042},
                             {"mnuSettingDevice", 8043},
                             {"mnuSettingDeviceOnline", 8044},
-                            {"mnuSettingCtMode", 8045},
+                            {"mnuSettingCtMode", 8045, kConnects},
                             {"mnuSettingOptions", 8046},
                             {"mnuWindowCascade", 8047},
                             {"mnuWindowTileHorizontal", 8048},
@@ -68,9 +72,9 @@ constexpr Tip kFrmMain[] = {{"cmdComCancel", 8005},
 constexpr Tip kFrmAbout[] = {{"lstAbout", 8065}, {"cmdCopy", 8066}};
 constexpr Tip kFrmPosi[] = {{"tabCmd", 8067},
                             {"tabCmdPrg", 8067},
-                            {"cmdPosiRead", 8068},
-                            {"cmdPosiWrite", 8069},
-                            {"cmdPosiCtVerify", 8070},
+                            {"cmdPosiRead", 8068, kConnects},
+                            {"cmdPosiWrite", 8069, kConnects},
+                            {"cmdPosiCtVerify", 8070, kConnects},
                             {"cmdPosiNew", 8071},
                             {"cmdPosiOpen", 8072},
                             {"cmdPosiSave", 8073},
@@ -125,32 +129,53 @@ constexpr Tip kFrmPosi[] = {{"tabCmd", 8067},
                             {"cmdJOGWriteNext", 8116}};
 constexpr Tip kFrmCompare[] = {{"comboHere", 8117},   {"comboThere", 8118},  {"cmdCompare", 8119},
                                {"chkEqualToo", 8120}, {"flgdCompare", 8121}, {"cmdTake", 5332},
-                               {"cmdTakeAll", 5333}};
+                               {"cmdTakeAll", 5333},  {"cmdComCancel", 8005}};
 constexpr Tip kFrmDevice[] = {
     {"comboAxisSelect", 8122}, {"chkAxisEnable", 8123},    {"chkNewOrOld", 8124},
     {"comboDeviceSize", 8125}, {"comboDeviceSpeed", 8126}, {"comboDeviceStroke", 8127},
     {"chkDevPgUse", 8128},     {"chkDevVsiyou", 8129},     {"cmdSyosai", 8130},
     {"cmdPrmCtWrite", 8131},   {"cmdDeviceSet", 8132}};
-constexpr Tip kFrmGrp[] = {
-    {"optGrpNo", 8133},         {"cmdGrpCompare", 8134},   {"cmdGrpRestore", 8135},
-    {"areaTable", 8136},        {"cmdReadGrp", 8137},      {"cmdWriteGrp", 8138},
-    {"cmdGrpCtVerify", 8139},   {"cmdGrpFileOpen", 8140},  {"cmdGrpFileSave", 8141},
-    {"cmdGrpFileVerify", 8142}, {"cmdGrpDataPrint", 8143}, {"cmdGrpFilePrint", 8144}};
-constexpr Tip kFrmSqMcr[] = {
-    {"UpDownSmNo", 8145},     {"cmdSmCompare", 8146},    {"cmdSmRestore", 8147},
-    {"areaTable", 8148},      {"cmdReadSMfromCt", 8149}, {"cmdWriteSMtoCt", 8150},
-    {"cmdSmCTShogo", 8151},   {"cmdSmFileOpen", 8152},   {"cmdSmFileSave", 8153},
-    {"cmdSmFileShogo", 8154}, {"cmdSMDispPrint", 8155},  {"cmdSMFilePrint", 8156}};
-constexpr Tip kFrmParameta2[] = {
-    {"cmdIniPrm", 8157},       {"cmdCalculate", 8158},     {"cmdParaCompare", 8159},
-    {"cmdParaRead", 8160},     {"cmdParaWrite", 8161},     {"cmdConpareCT", 8162},
-    {"cmdReadParaFile", 8163}, {"cmdSaveParaFile", 8164},  {"cmdConpareFile", 8165},
-    {"cmdParaPrint", 8166},    {"cmdParaFilePrint", 8167}, {"chkTokuParaChange", 8168},
-    {"areaTable", 8169}};
+constexpr Tip kFrmGrp[] = {{"optGrpNo", 8133},
+                           {"cmdGrpCompare", 8134},
+                           {"cmdGrpRestore", 8135},
+                           {"areaTable", 8136},
+                           {"cmdReadGrp", 8137, kConnects},
+                           {"cmdWriteGrp", 8138, kConnects},
+                           {"cmdGrpCtVerify", 8139, kConnects},
+                           {"cmdGrpFileOpen", 8140},
+                           {"cmdGrpFileSave", 8141},
+                           {"cmdGrpFileVerify", 8142},
+                           {"cmdGrpDataPrint", 8143},
+                           {"cmdGrpFilePrint", 8144}};
+constexpr Tip kFrmSqMcr[] = {{"UpDownSmNo", 8145},
+                             {"cmdSmCompare", 8146},
+                             {"cmdSmRestore", 8147},
+                             {"areaTable", 8148},
+                             {"cmdReadSMfromCt", 8149, kConnects},
+                             {"cmdWriteSMtoCt", 8150, kConnects},
+                             {"cmdSmCTShogo", 8151, kConnects},
+                             {"cmdSmFileOpen", 8152},
+                             {"cmdSmFileSave", 8153},
+                             {"cmdSmFileShogo", 8154},
+                             {"cmdSMDispPrint", 8155},
+                             {"cmdSMFilePrint", 8156}};
+constexpr Tip kFrmParameta2[] = {{"cmdIniPrm", 8157},
+                                 {"cmdCalculate", 8158},
+                                 {"cmdParaCompare", 8159},
+                                 {"cmdParaRead", 8160, kConnects},
+                                 {"cmdParaWrite", 8161, kConnects},
+                                 {"cmdConpareCT", 8162, kConnects},
+                                 {"cmdReadParaFile", 8163},
+                                 {"cmdSaveParaFile", 8164},
+                                 {"cmdConpareFile", 8165},
+                                 {"cmdParaPrint", 8166},
+                                 {"cmdParaFilePrint", 8167},
+                                 {"chkTokuParaChange", 8168},
+                                 {"areaTable", 8169}};
 constexpr Tip kFrmSystemPara[] = {
-    {"cmdReadFromCt", 8170}, {"cmdWritetoCt", 8171}, {"txtSystemPara", 8172}};
-constexpr Tip kFrmProg[] = {{"cmdProgWrite", 8173},
-                            {"cmdProgVerifyCt", 8174},
+    {"cmdReadFromCt", 8170, kConnects}, {"cmdWritetoCt", 8171, kConnects}, {"txtSystemPara", 8172}};
+constexpr Tip kFrmProg[] = {{"cmdProgWrite", 8173, kConnects},
+                            {"cmdProgVerifyCt", 8174, kConnects},
                             {"cmdProgSaveAs", 8175},
                             {"cmdProgCompare", 8176},
                             {"cmdProgPrint", 8177},
@@ -174,7 +199,8 @@ constexpr Tip kFrmOptions2[] = {
     {"tabOptions", 8198},    {"txtPortNo", 8199},    {"comboPortDevice", 8200},
     {"chkPortOccupy", 8201}, {"optRoundUp", 8202},   {"optRoundDown", 8203},
     {"optUnitMm", 8204},     {"optUnitPulse", 8205}, {"optJapanese", 8206},
-    {"optEnglish", 8207},    {"cmdOk", 8208},        {"cmdApply", 8209}};
+    {"optEnglish", 8207},    {"cmdOk", 8208},        {"cmdApply", 8209},
+    {"cmdExport", 7152},     {"cmdImport", 7153}};
 constexpr Tip kFrmMotionLog[] = {{"flgdLog", 8210}, {"cmdCopy", 8211}};
 constexpr Tip kFrmStrokeCalc[] = {{"optActType1", 8212},       {"optActType2", 8213},
                                   {"txtCulStroke", 8214},      {"txtCulLead", 8215},
@@ -258,6 +284,7 @@ constexpr Tip kFrmKeptWork[] = {{"flgdKept", 8283},
                                 {"cmdTakeBack", 8285},
                                 {"cmdDiscard", 8286},
                                 {"cmdLater", 8287}};
+constexpr Tip kFrmGoTo[] = {{"txtNumber", 8292}};
 
 constexpr ViewTips kViews[] = {{"", kAnyView},
                                {"frmMain", kFrmMain},
@@ -281,7 +308,8 @@ constexpr ViewTips kViews[] = {{"", kAnyView},
                                {"frmPrintSelect", kFrmPrintSelect},
                                {"frmIOCheckFG", kFrmIOCheckFG},
                                {"frmWire", kFrmWire},
-                               {"frmKeptWork", kFrmKeptWork}};
+                               {"frmKeptWork", kFrmKeptWork},
+                               {"frmGoTo", kFrmGoTo}};
 
 }  // namespace
 

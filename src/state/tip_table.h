@@ -12,6 +12,7 @@ namespace tr7 {
 struct Tip {
   const char* name;
   MsgId text;
+  bool connects = false;  ///< a command that goes online by itself where the session is offline
 };
 
 /// The tips of the views of one layout; an empty layout stands for every view.

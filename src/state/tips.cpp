@@ -13,25 +13,25 @@ namespace {
 
 constexpr std::string_view kFieldOfTable = "areaTable";
 
-MsgId FindIn(std::string_view layout, std::string_view name) {
+const Tip* FindIn(std::string_view layout, std::string_view name) {
   for (const ViewTips& view : TipTable()) {
     if (layout != view.layout) continue;
     for (const Tip& tip : view.tips) {
-      if (name == tip.name) return tip.text;
+      if (name == tip.name) return &tip;
     }
   }
-  return {};
+  return nullptr;
 }
 
 /// By the name as it is, then without the number at its end; of the view, then of any view.
-MsgId FindTip(const View& view, std::string_view name) {
+const Tip* FindTip(const View& view, std::string_view name) {
   const std::string_view base = name.substr(0, name.find_last_not_of("0123456789") + 1);
   for (const std::string_view layout : {std::string_view(view.Layout), std::string_view()}) {
     for (const std::string_view wanted : {name, base}) {
-      if (const MsgId found = FindIn(layout, wanted)) return found;
+      if (const Tip* found = FindIn(layout, wanted)) return found;
     }
   }
-  return {};
+  return nullptr;
 }
 
 std::string KeyOf(const Control& control) {
@@ -54,14 +54,15 @@ void ApplyTableTips(const FieldTable& table, MsgId tip) {
 
 void ApplyViewTips(View& view) {
   for (Control* control : view.Controls) {
-    const MsgId tip = FindTip(view, control->Name);
+    const Tip* tip = FindTip(view, control->Name);
     if (!tip) continue;
+    control->Connects = tip->connects;
     const std::string key = KeyOf(*control);
-    control->Tip = Text(tip) + (key.empty() ? std::string() : " (" + key + ")");
+    control->Tip = Text(tip->text) + (key.empty() ? std::string() : " (" + key + ")");
   }
-  const MsgId of_fields = FindTip(view, kFieldOfTable);
+  const Tip* of_fields = FindTip(view, kFieldOfTable);
   for (const FieldTable& table : view.Tables) {
-    if (of_fields) ApplyTableTips(table, of_fields);
+    if (of_fields) ApplyTableTips(table, of_fields->text);
   }
 }
 

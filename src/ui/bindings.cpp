@@ -1,26 +1,21 @@
 #include "ui/bindings.h"
 
-#include <QAbstractButton>
-#include <QButtonGroup>
-#include <QCheckBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMainWindow>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QShortcut>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTabBar>
 #include <algorithm>
 #include <vector>
 
+#include "ui/button_bindings.h"
 #include "ui/combo_box_binding.h"
 #include "ui/command_bindings.h"
+#include "ui/connect_sign.h"
 #include "ui/grid_table.h"
 #include "ui/hold_button_binding.h"
 #include "ui/label_binding.h"
@@ -41,7 +36,9 @@ void WidgetBinding::PushVisible() {
 void WidgetBinding::PushToolTip() {
   const bool differs = !control_.Difference.empty();
   const std::string& standing = control_.ToolTip.empty() ? control_.Tip : control_.ToolTip;
-  if (Changed(tool_tip_, differs ? control_.Difference : standing)) {
+  const std::string& words = differs ? control_.Difference : standing;
+  if (ConnectsFirst(control_) ? Changed(tool_tip_, WithConnects(words))
+                              : Changed(tool_tip_, words)) {
     widget_.setToolTip(TipText(*tool_tip_));
   }
   if (!differs && !differs_) return;
@@ -86,49 +83,6 @@ class FrameBinding : public WidgetBinding {
   std::optional<std::string> caption_;
 };
 
-/// What the three kinds of buttons share.
-class ButtonBinding : public WidgetBinding {
- public:
-  ButtonBinding(Control& control, QAbstractButton& button)
-      : WidgetBinding(control, button), button_(button) {}
-  void Push() override {
-    WidgetBinding::Push();
-    if (Changed(caption_, control_.Caption)) button_.setText(Q(control_.Caption));
-  }
-
- protected:
-  QAbstractButton& button_;
-
- private:
-  std::optional<std::string> caption_;
-};
-
-class CommandButtonBinding : public ButtonBinding {
- public:
-  CommandButtonBinding(CommandButton& record, QPushButton& button, const CommandGate& gate)
-      : ButtonBinding(record, button) {
-    // Enter presses the button that has the focus, and the default one from a field.
-    button.setAutoDefault(true);
-    button.setDefault(record.Default);
-    if (record.Urgent) {
-      QObject::connect(&button, &QPushButton::pressed, &button, [&record] { record.Press(); });
-    } else {
-      QObject::connect(&button, &QPushButton::clicked, &button, [&record, gate] {
-        // Cancel takes nothing, so an edit that is refused does not hold it up.
-        if (record.Cancel || gate()) record.Press();
-      });
-    }
-    if (!record.Key.empty()) {
-      auto* key = new QShortcut(QKeySequence(Q(record.Key)), &button);
-      QObject::connect(key, &QShortcut::activated, &button, [&button] { button.click(); });
-    }
-    // In a dialogue the window has the key; in the frame it goes wherever the focus is.
-    if (!record.Cancel || !qobject_cast<QMainWindow*>(button.window())) return;
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &button);
-    QObject::connect(escape, &QShortcut::activated, &button, [&button] { button.click(); });
-  }
-};
-
 class SliderBinding : public QObject, public WidgetBinding {
  public:
   SliderBinding(Slider& record, QSlider& slider)
@@ -152,41 +106,6 @@ class SliderBinding : public QObject, public WidgetBinding {
  private:
   Slider& record_;
   QSlider& slider_;
-};
-
-class CheckBoxBinding : public ButtonBinding {
- public:
-  CheckBoxBinding(CheckBox& record, QCheckBox& box) : ButtonBinding(record, box), record_(record) {
-    QObject::connect(&box, &QCheckBox::clicked, &box, [&record](bool on) { record.Set(on); });
-  }
-  void Push() override {
-    ButtonBinding::Push();
-    if (button_.isChecked() != record_.Value) button_.setChecked(record_.Value);
-  }
-
- private:
-  CheckBox& record_;
-};
-
-class OptionButtonBinding : public ButtonBinding {
- public:
-  OptionButtonBinding(OptionButton& record, QRadioButton& button, QButtonGroup& group)
-      : ButtonBinding(record, button), record_(record), group_(group) {
-    group.addButton(&button);
-    QObject::connect(&button, &QRadioButton::clicked, &button, [&record] { record.Press(); });
-  }
-  void Push() override {
-    ButtonBinding::Push();
-    if (button_.isChecked() == record_.Value) return;
-    // A group whose record holds no choice shows none.
-    group_.setExclusive(false);
-    button_.setChecked(record_.Value);
-    group_.setExclusive(true);
-  }
-
- private:
-  OptionButton& record_;
-  QButtonGroup& group_;
 };
 
 class ListBoxBinding : public QObject, public WidgetBinding {

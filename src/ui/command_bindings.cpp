@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include "state/text.h"
+#include "ui/connect_sign.h"
 #include "ui/icons.h"
 
 namespace tr7 {
@@ -14,10 +15,15 @@ class MenuBinding : public Binding {
  public:
   MenuBinding(Menu& record, QAction& action) : record_(record), action_(action) {}
   void Push() override {
-    if (action_.isEnabled() != record_.Enabled) action_.setEnabled(record_.Enabled);
+    // An entry of a menu that is off is off too, also for its key and for a screen reader.
+    if (action_.isEnabled() != record_.IsOn()) action_.setEnabled(record_.IsOn());
     if (Changed(visible_, record_.Visible)) action_.setVisible(record_.Visible);
     if (Changed(caption_, record_.Caption)) action_.setText(Q(record_.Caption));
-    if (Changed(tip_, record_.Tip)) action_.setToolTip(Q(record_.Tip));
+    const bool connects = ConnectsFirst(record_);
+    if (Changed(tip_, connects ? WithConnects(record_.Tip) : record_.Tip)) {
+      action_.setToolTip(Q(*tip_));
+      action_.setIcon(connects ? ConnectIcon() : QIcon());
+    }
   }
 
  private:

@@ -1,7 +1,9 @@
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QPushButton>
 #include <QTreeView>
 #include <memory>
 
@@ -10,6 +12,7 @@
 #include "ui/dialog_room.h"
 #include "ui/help_key.h"
 #include "ui/message_dialog.h"
+#include "ui/tip_text.h"
 
 namespace tr7 {
 namespace {
@@ -39,6 +42,31 @@ void SetTexts(QFileDialog& dialog, const FileDialogCall& call) {
   dialog.setLabelText(QFileDialog::Accept,
                       Q(Text(call.Save ? MsgId(kSaveText) : MsgId(kOpenText))));
   dialog.setLabelText(QFileDialog::Reject, Q(Text(kCancelText)));
+}
+
+struct PartTip {
+  const char* part;  ///< what the toolkit calls it
+  MsgId tip;
+};
+
+/// The toolkit gives tips to the buttons above the list alone.
+void SetTips(QFileDialog& dialog, bool save) {
+  constexpr PartTip kTips[] = {{"fileNameEdit", 7840}, {"fileTypeCombo", 7841},
+                               {"lookInCombo", 7842},  {"treeView", 7843},
+                               {"listView", 7843},     {"sidebar", 7844}};
+  const auto tell = [](QWidget* widget, MsgId tip) {
+    if (!widget) return;
+    widget->setToolTip(TipText(Text(tip)));
+    if (!qobject_cast<QPushButton*>(widget)) widget->setAccessibleName(Q(Text(tip)));
+  };
+  for (const PartTip& tip : kTips) {
+    tell(dialog.findChild<QWidget*>(QLatin1String(tip.part)), tip.tip);
+  }
+  const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  if (!buttons) return;
+  const auto accept = save ? QDialogButtonBox::Save : QDialogButtonBox::Open;
+  tell(buttons->button(accept), save ? MsgId(7846) : MsgId(7845));
+  tell(buttons->button(QDialogButtonBox::Cancel), 8001);
 }
 
 /// Names take the width that the other columns leave.
@@ -89,6 +117,7 @@ std::optional<std::string> AskFile(const FileDialogCall& call, QWidget* parent,
   const QFileInfo proposed(Q(call.ProposedName));
   dialog.setDirectory(proposed.isAbsolute() ? proposed.absolutePath() : LastFolder());
   if (call.Save) dialog.selectFile(proposed.fileName());
+  SetTips(dialog, call.Save);
   ShareColumns(dialog);
   dialog.resize(kDialogSize.boundedTo(RoomForDialog(dialog)));
   for (;;) {

@@ -14,6 +14,7 @@
 #include "state/text.h"
 #include "ui/binding.h"
 #include "ui/cell_bubble.h"
+#include "ui/column_shares.h"
 #include "ui/grid_cell_painter.h"
 #include "ui/grid_header.h"
 #include "ui/grid_model.h"
@@ -196,19 +197,22 @@ int GridTable::TextWidth(int col) const {
 }
 
 void GridTable::ShareWidth() {
-  int total = 0;
-  for (int col = 0; col < grid_->Cols(); ++col) total += std::max(grid_->ColWidth(col), 0);
-  if (total == 0) return;
+  std::vector<int> wanted, least;
+  for (int col = 0; col < grid_->Cols(); ++col) {
+    wanted.push_back(grid_->ColWidth(col));
+    least.push_back(TextWidth(col));
+  }
   const int field =
       viewport()->width() + (verticalHeader()->isVisible() ? verticalHeader()->width() : 0);
-  const auto share = [&](int col) {
-    if (grid_->UserWidth(col) > 0) return Pixels(grid_->UserWidth(col));
-    return std::max(field * grid_->ColWidth(col) / total, TextWidth(col));
+  const std::vector<int> shares = ColumnShares(field, wanted, least);
+  const auto width_of = [&](int col) {
+    const int by_hand = grid_->UserWidth(col);
+    return by_hand > 0 ? Pixels(by_hand) : shares[static_cast<std::size_t>(col)];
   };
-  if (grid_->FixedCols > 0) verticalHeader()->setFixedWidth(share(0));
+  if (grid_->FixedCols > 0 && width_of(0) > 0) verticalHeader()->setFixedWidth(width_of(0));
   for (int col = grid_->FixedCols; col < grid_->Cols(); ++col) {
     header_->setSectionHidden(col - grid_->FixedCols, grid_->ColWidth(col) == 0);
-    if (grid_->ColWidth(col) > 0) header_->resizeSection(col - grid_->FixedCols, share(col));
+    if (grid_->ColWidth(col) > 0) header_->resizeSection(col - grid_->FixedCols, width_of(col));
   }
 }
 

@@ -128,6 +128,16 @@ void DrawPrgExe(QPainter& p, const Inks& inks) {
   p.drawPolygon(QPolygonF({{11, 11}, {21, 16}, {11, 21}}));
 }
 
+/// A plug with two prongs and its cable.
+void DrawPlug(QPainter& p, const Inks& inks) {
+  p.setPen(QPen(inks.accent, 3, Qt::SolidLine, Qt::RoundCap));
+  p.setBrush(inks.accent);
+  p.drawLine(QPointF(8, 2.5), QPointF(8, 8));
+  p.drawLine(QPointF(16, 2.5), QPointF(16, 8));
+  p.drawRoundedRect(QRectF(5, 9, 14, 7), 3, 3);
+  p.drawLine(QPointF(12, 16), QPointF(12, 22));
+}
+
 /// A slide on its rail, four times over in the program's colours.
 void DrawProgram(QPainter& p, const Inks& inks) {
   p.setPen(Qt::NoPen);
@@ -232,6 +242,8 @@ QIcon MessageIcon(const std::string& kind) {
   if (kind == "Warning") return QIcon(new DrawnIcon(DrawWarning));
   return QIcon(new DrawnIcon(DrawError));
 }
+
+QIcon ConnectIcon() { return QIcon(new DrawnIcon(DrawPlug)); }
 
 QIcon ProgramIcon() { return QIcon(new DrawnIcon(DrawProgram)); }
 

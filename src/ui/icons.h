@@ -11,6 +11,9 @@ QIcon ToolIcon(const std::string& key);
 /// The picture of a message box: "Information", "Question", "Warning" or "Error".
 QIcon MessageIcon(const std::string& kind);
 
+/// The sign of a command that goes online by itself.
+QIcon ConnectIcon();
+
 /// The program's own picture.
 QIcon ProgramIcon();
 

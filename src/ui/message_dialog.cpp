@@ -12,6 +12,7 @@
 
 #include "state/text.h"
 #include "ui/binding.h"
+#include "ui/box_details.h"
 #include "ui/dialog_room.h"
 #include "ui/help_key.h"
 #include "ui/icons.h"
@@ -77,12 +78,13 @@ int HeightOf(const QString& text, int width, const QFont& font) {
 }
 
 /// A text that the screen has no room for scrolls in a field of its own. A list of numbers has no
-/// blanks to be broken at, so it is broken anywhere.
-void FoldLongText(QMessageBox& box) {
+/// blanks to be broken at, so it is broken anywhere. `beneath`: what else needs height.
+void FoldLongText(QMessageBox& box, int beneath) {
   auto* label = box.findChild<QLabel*>("qt_msgbox_label");
   if (!label) return;
   constexpr int kWidth = 480;
-  const QSize room = RoomForDialog(box) - QSize(150, 150);  // beside picture, margins and buttons
+  const QSize room =
+      RoomForDialog(box) - QSize(150, 150 + beneath);  // beside picture, margins, buttons
   const QRect asked =
       QFontMetrics(label->font())
           .boundingRect(QRect({}, QSize(kWidth, QWIDGETSIZE_MAX)), Qt::TextWordWrap, label->text());
@@ -114,7 +116,8 @@ MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor&
     if (answer.answer == MsgAnswer::Cancel || answers.size() == 1) box.setEscapeButton(button);
     if (&answer == (call.Loses ? &answers.back() : &answers.front())) box.setDefaultButton(button);
   }
-  FoldLongText(box);
+  FoldLongText(box, call.Details.empty() ? 0 : kDetailsHeight);
+  AddDetails(box, call.Details);
   box.show();
   box.raise();
   box.activateWindow();

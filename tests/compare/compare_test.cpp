@@ -112,17 +112,15 @@ class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::s
       frmCompare.cmdCompare.Press();
     };
   }
-  /// Presses the kind's button; the view comes up once for each visit.
+  /// Presses the kind's button; what the user does in the view, one after the other.
   void Run(std::vector<Visit> visits) {
-    const std::size_t count = visits.size();
-    visits.back() = [last = visits.back()] {
-      last();
-      frmCompare.cmdClose.Press();
-    };
     forms.modals.clear();
-    InDialog("frmCompare", std::move(visits));
+    InDialog("frmCompare", {[visits] {
+               for (const Visit& visit : visits) visit();
+               frmCompare.cmdClose.Press();
+             }});
     kind.compare.Press();
-    EXPECT_EQ(std::count(forms.modals.begin(), forms.modals.end(), "frmCompare"), count);
+    EXPECT_EQ(std::count(forms.modals.begin(), forms.modals.end(), "frmCompare"), 1);
   }
   static std::string Row(int row) {
     const Grid& grid = frmCompare.flgdCompare;
@@ -146,6 +144,7 @@ class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::s
 
 TEST_P(CompareTest, AgainstTheControllerAndTakenOverOneByOne) {
   kind.edit(kind.typed);
+  pump.After(20'000, [] { EXPECT_TRUE(frmCompare.Visible && !frmCompare.cmdClose.Enabled); });
   Run({Compare(kScreen, kController), [this] {
          EXPECT_EQ(Shown(), Texts{kind.row});
          EXPECT_EQ(frmCompare.lblCount.Caption, Count(1, kind.compared));
@@ -191,6 +190,7 @@ TEST_P(CompareTest, WhatDoesNotComeInLeavesNothingToTake) {
   virt.files.Put("/bad", "\"QV-R7\",\"PRG\"\r\n1\r\n");
   const auto nothing = [this] {
     EXPECT_EQ(frmCompare.lblCount.Caption, Text(6562));
+    EXPECT_FALSE(frmCompare.lblNote.Caption.empty()) << "it says why there is nothing";
     EXPECT_EQ(Shown(), Texts());
     EXPECT_FALSE(frmCompare.cmdTake.Enabled || frmCompare.cmdTakeAll.Enabled);
     EXPECT_EQ(kind.held(), kind.typed);
@@ -234,6 +234,18 @@ TEST_P(ComparePositions, PositionsOfOneSideAndValuesThatTheTableRefuses) {
               Text(6570, "2") + "\n" + Text(6565, "1", "Whole position 2: " + Text(6568)));
   }});
   EXPECT_EQ(AppState.PosiLastNo, 4);
+}
+
+TEST_P(ComparePositions, TheReadingOfTheControllerIsCancelledInTheView) {
+  ReadRange(1, 99);
+  Forget();
+  Run({[this] {
+    pump.After(1'000'000, [] { frmCompare.cmdComCancel.Press(); });
+    Compare(kScreen, kController)();
+    EXPECT_EQ(Boxes(), Texts{Text(425)});
+    EXPECT_EQ(frmCompare.lblNote.Caption, Text(7832, "Controller"));
+    EXPECT_TRUE(frmCompare.cmdClose.Enabled && !frmCompare.cmdComCancel.Visible);
+  }});
 }
 
 using CompareParameters = CompareTest;

@@ -17,6 +17,14 @@ using qvr7sim::FaultKind;
 
 constexpr int kGood = 7, kOther = 8, kBad = 0;  ///< values for the first place
 
+/// What the details of a box say of the first place.
+struct Details {
+  const char *difference, *bad;
+};
+constexpr Details kOfGroups{"Group 1: here 1 - 8, other side 1 - 7\n", "Group 1: 1 - 0\n"};
+constexpr Details kOfMacros{"SM No. 1, step 1: here 5. TIMER 8, other side 5. TIMER 7\n",
+                            "SM No. 1, step 1: 5. TIMER 0\n"};
+
 /// One of the two kinds that have a file, as the user meets it.
 struct Kind {
   const char* name;
@@ -30,6 +38,7 @@ struct Kind {
   const char* bad_to_send;
   const char* bad_to_compare;
   const char* differs;
+  Details details;
   const char* not_read;
 };
 
@@ -62,13 +71,13 @@ std::vector<Kind> Kinds() {
        " 1.Is the value setting the range of 1 to 999?\n"
        " 2.Isn't value of start position larger than one of end position.",
        "Invalid value in some of group data.\nConfirm the value and try it again.",
-       "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.",
+       "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.", kOfGroups,
        "An error occured in Reading file."},
       {"macros", s, frmMain.mnuViewSM, s.cmdReadSMfromCt, s.cmdWriteSMtoCt, s.cmdSmCTShogo,
        s.cmdSmFileOpen, s.cmdSmFileSave, s.cmdSmFileShogo, s.cmdSmRestore, "/a.smd",
        "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n", ChooseAndTypeStep,
        [] { return int{SmTable[0][0].Value}; }, kBadMacros, kBadMacros,
-       "Result of Verify - NG\n<Unmatched items>\n1,SM No.",
+       "Result of Verify - NG\n<Unmatched items>\n1,SM No.", kOfMacros,
        "An error occured while openig SM Data file."},
   };
 }
@@ -101,6 +110,7 @@ TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
   kind.edit(kOther);
   Press(kind.verify_ct);
+  EXPECT_EQ(forms.boxes.back().Details, kind.details.difference);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   Press(kind.read, {MsgAnswer::Cancel});
   EXPECT_EQ(kind.held(), kOther);
@@ -134,6 +144,7 @@ TEST_P(DataViewsTest, BadDataGoNowhere) {
   kind.edit(kBad);
   for (CommandButton* button : {&kind.verify_ct, &kind.verify_file, &kind.save, &kind.write}) {
     button->Press();
+    EXPECT_EQ(forms.boxes.back().Details, kind.details.bad);
     EXPECT_EQ(Boxes(), Texts{button == &kind.write ? kind.bad_to_send : kind.bad_to_compare});
   }
   EXPECT_EQ(SentLines(), "");
@@ -278,6 +289,7 @@ TEST_F(SysParaViewTest, AreReadMarkedRefusedAndWritten) {
     forms.answers = {MsgAnswer::Yes};
     f.cmdWritetoCt.Press();
     EXPECT_TRUE(BoxShown(box));
+    EXPECT_EQ(forms.boxes.back().Details, slot17.Text == "256" ? "No. 17: 256 (0 to 255)\n" : "");
     Forget();
   }
   EXPECT_EQ(port.Ct().CommittedSystemBlock(2).substr(0, 2), "FF");

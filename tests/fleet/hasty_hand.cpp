@@ -1,5 +1,3 @@
-#include <string_view>
-
 #include "forms/grid.h"
 #include "tests/fleet/voyage.h"
 
@@ -11,16 +9,6 @@ constexpr int kLongestPauseUs = 700'000;
 constexpr int kDeepest = 3;
 
 using Press = std::function<void()>;
-
-/// A menu's command is reached through the menus whose names its own begins with.
-bool IsReachable(const Menu& menu) {
-  for (const Control* other : menu.Owner->Controls) {
-    const bool above = other != &menu && other->TypeName == std::string_view("Menu") &&
-                       menu.Name.starts_with(other->Name);
-    if (above && !(other->Enabled && other->Visible)) return false;
-  }
-  return true;
-}
 
 void AddTools(Toolbar& bar, std::vector<Press>& presses) {
   for (const ToolButton& button : bar.Buttons) {
@@ -42,7 +30,7 @@ void AddPresses(Control& control, std::vector<Press>& presses) {
   if (auto* button = dynamic_cast<CommandButton*>(&control)) {
     if (button->Click) presses.push_back([button] { button->Press(); });
   } else if (auto* menu = dynamic_cast<Menu*>(&control)) {
-    if (menu->Click && IsReachable(*menu)) presses.push_back([menu] { menu->Press(); });
+    if (menu->Click && menu->IsOn()) presses.push_back([menu] { menu->Press(); });
   } else if (auto* label = dynamic_cast<Label*>(&control)) {
     if (label->DblClick) presses.push_back(label->DblClick);
   } else if (auto* bar = dynamic_cast<Toolbar*>(&control)) {

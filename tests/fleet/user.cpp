@@ -75,10 +75,11 @@ void AnswerOptions(Random& random) {
     (random.Chance(50) ? f.optUnitMm : f.optUnitPulse).Press();
     (random.Chance(50) ? f.optJapanese : f.optEnglish).Press();
   }
+  if (random.Chance(20)) (random.Chance(60) ? f.cmdExport : f.cmdImport).Press();
   (random.Chance(80) ? f.cmdOk : f.cmdCancel).Press();
 }
 
-/// Compares any two sides, takes over this and that, and comes back where the line was asked.
+/// Compares any two sides, and takes over this and that.
 void AnswerCompare(Voyage& voyage) {
   Random& random = voyage.random;
   FrmCompare& f = frmCompare;

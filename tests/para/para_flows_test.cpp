@@ -28,6 +28,7 @@ class ParaFlows : public FlowTest {
     Choose(choices);
     button.Press();
     EXPECT_TRUE(forms.answers.empty() && choices_.empty());
+    details = forms.boxes.empty() ? "" : forms.boxes.back().Details;
     return Boxes();
   }
   static void Type(TextBox& box, const std::string& text) {
@@ -40,6 +41,7 @@ class ParaFlows : public FlowTest {
   }
   qvr7sim::Controller& Ct() { return port.Ct(); }
   FrmParameta2& f = frmParameta2;
+  std::string details;  ///< of the last box
 };
 
 TEST_F(ParaFlows, WhatIsTypedIsMarkedUntilItIsTheControllersAgain) {
@@ -90,9 +92,11 @@ TEST_F(ParaFlows, AWriteStopsWhereItMust) {
   UseAxes(7);
   stops({Yes}, {-1}, Text(470));
   stops({Yes}, {1}, TwoLines(7, 8) + "\n\nAXIS4 OFFSET  Home offset (PLS)");
+  EXPECT_NE(details.find("\nAXIS4 PUSH  Home push\n"), std::string::npos) << details;
   UseAxes(kAllAxes);
   f.txtHomePush[0].Text = "0";
   stops({Yes}, {}, TwoLines(1524, 1525));
+  EXPECT_EQ(details, "PUSH(1): 0\n");
   f.chkTokuParaChange.Set(false);
   AppState.AxisCount = 5;
   stops({Yes, No}, {}, TwoLines(631, 632) + "\n" + Text(633));
@@ -165,6 +169,8 @@ TEST_F(ParaFlows, AVerificationNamesWhatDiffers) {
       "<AXIS Parameter> :ACTUATOR(1),\n<PG Parameter> :FUNCTION(4),\n"
       "<Etc Parameter> :HOME OUT,IN-P WID(3),\n<SP Parameter> :PPUT Write\n";
   EXPECT_EQ(Press(f.cmdConpareCT), Texts{report});
+  EXPECT_TRUE(details.starts_with("OFFSET(1): here 123, other side ")) << details;
+  EXPECT_EQ(std::count(details.begin(), details.end(), '\n'), 7);
   EXPECT_EQ(Press(f.cmdConpareFile, {Ok}).back(), report);
 }
 

@@ -1,6 +1,7 @@
 // How the position grid is laid out, filled and told about; new data, the unit, and leaving.
 
 #include "core/options_view.h"
+#include "forms/frm_go_to.h"
 #include "forms/frm_options2.h"
 #include "posi/posi_commands.h"
 #include "tests/support/flow_test.h"
@@ -148,7 +149,7 @@ TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
     EXPECT_EQ(PosiTable.PosiPulse[0][6], 1000);
     EXPECT_TRUE(frmPosi.PosiChanged) << "it is in no file yet";
     EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(6)) << "the user stays where he was";
-    Take(false);
+    frmMain.mnuViewUnit.Press();
     EXPECT_EQ(Cell(6, kPosi), program_mode ? "   +1000" : "1000");
   }
   ShowTable(5, 7);
@@ -160,6 +161,18 @@ TEST_F(PosiUnit, TheTableIsShownInTheOtherUnitAndKeepsItsPulses) {
 }
 
 // Commands and leaving.
+
+TEST_F(PosiGrid, ANumberLeadsToItsLine) {
+  ShowTable(5, 7);
+  for (const char* number : {"6", "8", ""}) {
+    forms.on_modal["frmGoTo"] = [number](View&) {
+      frmGoTo.txtNumber.Type(number);
+      frmGoTo.cmdOk.Press();
+    };
+    frmMain.mnuViewGoTo.Press();
+    EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(6));
+  }
+}
 
 TEST_F(PosiGrid, EditCommandsFollowTheSelectionAndTheActiveView) {
   ShowTable(998, 998);

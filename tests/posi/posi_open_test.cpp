@@ -74,6 +74,18 @@ class OpenTest : public FlowTest {
     EXPECT_EQ(port.sent, "") << "a file is no matter of the line";
   }
   void Open(const FileText& file) { Open(Bytes(file)); }
+  /// Its strokes have been taken when it turns out that an axis has no device.
+  void ChooseParaFileWithoutDevices() {
+    const ParamSetRecord good = ParamSet;
+    ParamSet.OneAxis = 15;
+    ParamSet.Actuator[0] = " 28H200";
+    ParamSet.AxisLead.fill(6);
+    ParamSet.AxisPulse.fill(400);
+    ParamSet.AxisStroke.fill(12345);
+    EXPECT_EQ(WriteParaFile(kParaPath), 0);
+    ParamSet = good;
+    forms.file_answers = {kParaPath};
+  }
   FileText own;  ///< a file of the devices in use
 };
 
@@ -111,18 +123,7 @@ TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {
                    "\" 20L-010\",192,40,10,5,5,1,960,2,192,15,0,\" 20L010\"\r\n");
   };
   const auto no_para = [&] { forms.file_answers = {std::nullopt}; };
-  // Its strokes have been taken when it turns out that an axis has no device.
-  const auto no_actuator = [&] {
-    const ParamSetRecord good = ParamSet;
-    ParamSet.OneAxis = 15;
-    ParamSet.Actuator[0] = " 28H200";
-    ParamSet.AxisLead.fill(6);
-    ParamSet.AxisPulse.fill(400);
-    ParamSet.AxisStroke.fill(12345);
-    EXPECT_EQ(WriteParaFile(kParaPath), 0);
-    ParamSet = good;
-    forms.file_answers = {kParaPath};
-  };
+  const auto no_actuator = [&] { ChooseParaFileWithoutDevices(); };
   const struct {
     const char* what;
     std::string bytes;

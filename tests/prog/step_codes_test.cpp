@@ -35,7 +35,7 @@ TEST_F(StepCodes, TypedTextsBecomeCodes) {
       "WTON 3 1000 1000000 range  ON 2 I1 0 nothing  OUT 2 256 256000 range  = 3 -5 0 nothing "
       "= 3 PR4 4190712 _  <= 3 0.0005 1 _  ZOUT 3 0.5 500 range  PUST1 2 0 0 _ "
       "PUST4 2 19 19000 range  MVP 4 /f50 1249 _  MVP 4 I18 18 _  MVP 4 R1 0 nothing  LB 4 I1 0 "
-      "use "
+      "use  LB 4 I 0 use  "
       "MVP 5 F100 199 _  MVP 5 I3 3 range  MVP 5 7 0 nothing  VEL 5 O1 0 use "
       "MVP 2 99999999999999999999 0 nothing");
   std::string command, text, code, marked;
@@ -47,7 +47,7 @@ TEST_F(StepCodes, TypedTextsBecomeCodes) {
     const std::string fault = CellFault(SeekCmdCode(command), column, text);
     EXPECT_TRUE(marked == "_" ? fault.empty() : fault.find(marked) != std::string::npos) << fault;
   }
-  EXPECT_EQ(count, 38);
+  EXPECT_EQ(count, 39);
 }
 
 TEST_F(StepCodes, CodesBecomeTexts) {

@@ -49,7 +49,6 @@ TEST_F(PrintFlowTest, TheChoiceRefusesWhatCannotBePrinted) {
   const std::string file = "Invalid file name. Confirm file name and print it again.";
   const std::pair<std::function<void()>, Texts> rows[] = {
       {[] { f.txtPrintStartPosi.Type("10"), f.txtPrintEndPosi.Type("9"); }, {range}},
-      {[] { f.txtPrintStartPosi.Type("4"), f.txtPrintEndPosi.Type("999"); }, {range}},
       {[] { f.optPrintPosi[1].Press(); }, {file}},
       {[] { f.chkPrintPosi.Set(false); }, {}}};
   for (const auto& [act, boxes] : rows) {
@@ -64,6 +63,8 @@ TEST_F(PrintFlowTest, TheChoiceRefusesWhatCannotBePrinted) {
     f.txtPrintEndPosi.Type("2");
   });
   EXPECT_TRUE(OnPaper("  2:  ") && !OnPaper("  3:  ") && OnPaper("File Name:Inside of C/T"));
+  PrintChosen(frmPosi.cmdPosiPrint, [] { f.txtPrintEndPosi.Type("5"); });
+  EXPECT_TRUE(OnPaper("  5:  ") && !OnPaper("  6:  ")) << "also without data";
 }
 
 TEST_F(PrintFlowTest, PositionsPrintAsShownOrOutOfAFile) {

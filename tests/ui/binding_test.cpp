@@ -141,6 +141,17 @@ TEST_F(BindingTest, TheWheelChoosesNothingAndScrollsWhatIsAround) {
   EXPECT_EQ(frmSqMcr.UpDownSmNo.Value, 2);
 }
 
+TEST_F(BindingTest, ACommandThatGoesOnlineSaysSoWhileOffline) {
+  const auto& button = Draw<QPushButton>(frmMain.cmdReset);
+  for (const bool offline : {true, false}) {
+    AppState.Offline = offline;
+    Settle();
+    EXPECT_EQ(button.toolTip().contains(Q(Text(7831))), offline);
+    const auto* sign = button.findChild<QWidget*>();
+    EXPECT_EQ(sign && sign->isVisible(), offline);
+  }
+}
+
 TEST_F(BindingTest, WhatIsOffIsNotPressed) {
   auto& button = Draw<QPushButton>(frmMain.cmdReset);
   frmMain.cmdReset.Click = Note("reset");

@@ -4,6 +4,7 @@
 #include <QScrollBar>
 
 #include "tests/ui/grid_screen.h"
+#include "ui/column_shares.h"
 
 namespace tr7 {
 namespace {
@@ -203,6 +204,24 @@ TEST_F(GridTest, DevicesStandOverTheirAxesWhereverTheGridIsScrolledTo) {
       EXPECT_TRUE(label.isVisible() && beside >= 0 && beside < 20) << axis << " at " << first;
     }
   }
+}
+
+TEST_F(ProgramGridTest, DevicesKeepToTheirColumns) {
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const QWidget& label = *desktop.forms.WidgetOf(*frmPosi.lblDeviceType[axis]);
+    const QRect cell = table->CellRect(kFirst, AxisBase(axis) + kPosi);
+    const int first = table->viewport()->mapTo(table->window(), cell.topLeft()).x();
+    const int beside = label.mapTo(table->window(), QPoint()).x() - first;
+    EXPECT_TRUE(label.isVisible() && beside >= 0 && beside + label.width() <= cell.width() + 4)
+        << axis << " at " << beside << ", " << label.width() << " in " << cell.width();
+  }
+}
+
+TEST(ColumnSharesTest, WhatOneTakesBeyondItsShareTheOthersGive) {
+  using Widths = std::vector<int>;
+  EXPECT_EQ(ColumnShares(300, {1, 0, 1, 1}, {50, 9, 160, 60}), (Widths{70, 0, 160, 70}));
+  EXPECT_EQ(ColumnShares(300, {1, 1, 1}, {60, 160, 80}), (Widths{60, 160, 80}));
+  EXPECT_EQ(ColumnShares(100, {3, 1}, {90, 40}), (Widths{90, 40})) << "no text is cut";
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
 // Windows: closing, dialogues and boxes under the user's keys.
 
+#include <QClipboard>
 #include <QHeaderView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 
 #include "forms/frm_grp.h"
 #include "forms/frm_parameta2.h"
@@ -203,6 +206,22 @@ TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
     };
     EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), escaped);
   }
+}
+
+TEST_F(WindowTest, ABoxUnfoldsItsDetailsAndCopiesThem) {
+  user.on_box = [](const std::string&) {
+    const QWidget& box = *QApplication::activeModalWidget();
+    const auto* list = box.findChild<QPlainTextEdit*>();
+    EXPECT_FALSE(list->isVisible());
+    box.findChild<QToolButton*>()->click();
+    EXPECT_TRUE(list->isVisible() && list->toPlainText() == "one\ntwo");
+    for (auto* button : box.findChildren<QPushButton*>()) {
+      if (button->text().toStdString() == Text(5211)) button->click();
+    }
+    return MsgAnswer::Ok;
+  };
+  EXPECT_EQ(MsgBoxWithDetails("text", "one\ntwo\n"), MsgAnswer::Ok);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "one\r\ntwo");
 }
 
 }  // namespace
