@@ -113,7 +113,9 @@ class Bench {
     return !AppState.Offline || Failed("going online") == 0;
   }
 
+  /// Closed windows go as they do in the tool, whose loop returns between two acts of the user.
   void WaitMs(int ms) {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     bool over = false;
     QTimer::singleShot(ms, &user_, [&over] { over = true; });
     while (!over) Pump();
