@@ -12,11 +12,7 @@
 namespace tr7 {
 namespace {
 
-using qvr7sim::FaultKind;
-
 class DataTest : public LinkTest {};
-
-// Both ways.
 
 TEST_F(DataTest, GroupsGoOutAndComeBack) {
   GrpTable.GrpStart[1] = 1;
@@ -76,22 +72,6 @@ TEST_F(DataTest, TuningValuesGoOutAndComeBack) {
   EXPECT_EQ(SysParaRead, SysPara);
   EXPECT_EQ(Commands(), "0RK0 0RK1 0RK2 0RK3 0RK4 0RK5 0RK6");
 }
-
-// Failures.
-
-struct Stages {
-  GrpTableRecord Grp = GrpStage;
-  SmTableRecord Sm = SmStage;
-  SysParaRecord Sys = SysParaRead;
-  bool operator==(const Stages&) const = default;
-};
-
-/// What happens when one byte of a reply is another.
-struct ChangedByte {
-  Outcome (*run)();
-  const char* prefix;
-  int at_byte;
-};
 
 }  // namespace
 }  // namespace tr7

@@ -39,7 +39,6 @@ struct Kind {
   const char* bad_to_compare;
   const char* differs;
   Details details;
-  const char* not_read;
 };
 
 void TypeGroupEnd(int value) {
@@ -71,14 +70,12 @@ std::vector<Kind> Kinds() {
        " 1.Is the value setting the range of 1 to 999?\n"
        " 2.Isn't value of start position larger than one of end position.",
        "Invalid value in some of group data.\nConfirm the value and try it again.",
-       "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.", kOfGroups,
-       "An error occured in Reading file."},
+       "Result of Verify - NG\n<Unmatched group No.>\n1, Group No.", kOfGroups},
       {"macros", s, frmMain.mnuViewSM, s.cmdReadSMfromCt, s.cmdWriteSMtoCt, s.cmdSmCTShogo,
        s.cmdSmFileOpen, s.cmdSmFileSave, s.cmdSmFileShogo, s.cmdSmRestore, "/a.smd",
        "\"QV-R7\",\"SM\"\r\n16,2,20\r\n\"1\"\r\n5,7\r\n0,0\r\n", ChooseAndTypeStep,
        [] { return int{SmTable[0][0].Value}; }, kBadMacros, kBadMacros,
-       "Result of Verify - NG\n<Unmatched items>\n1,SM No.", kOfMacros,
-       "An error occured while openig SM Data file."},
+       "Result of Verify - NG\n<Unmatched items>\n1,SM No.", kOfMacros},
   };
 }
 

@@ -5,8 +5,6 @@
 namespace tr7 {
 namespace {
 
-using qvr7sim::FaultKind;
-
 /// Two axes, the first with another device.
 void ChooseTwoAxes() {
   PickDevice(frmDevice3, 0, " 42", "H", "200");

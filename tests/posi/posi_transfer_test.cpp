@@ -5,8 +5,6 @@
 namespace tr7 {
 namespace {
 
-using qvr7sim::FaultKind;
-
 const std::string kBefore =
     "0RA\r\n0CM01111\r\n0CM1\r\n0RD0\r\n"                        // still, held, state
     "0CM1\r\n0CM1\r\n0RD0\r\n0RD4\r\n0RD7\r\n0RDA\r\n0RDD\r\n";  // the check
