@@ -24,7 +24,7 @@ constexpr int kMsgName = 5329, kMsgPlace = 5330, kMsgNamedFile = 5334;
 constexpr int kMsgOpenHere = 5341, kMsgOpenThere = 5342;
 constexpr int kMsgCount = 6560, kMsgNoDifference = 6561, kMsgChoose = 6562, kMsgSameSides = 6563;
 constexpr int kMsgTakeAll = 6564, kMsgNotTaken = 6565, kMsgTaken = 6570;
-constexpr int kMsgNotIn = 7832, kMsgNoFile = 7833, kMsgNoLine = 7834;
+constexpr int kMsgNotIn = 7832, kMsgNoFile = 7833, kMsgNoLine = 7834, kMsgGivenUp = 5970;
 
 constexpr int kTitleRow = 0;
 constexpr int kNameCol = 0, kPlaceCol = 1, kHereCol = 2, kThereCol = 3;
@@ -173,7 +173,8 @@ bool Comparison::AskForFiles() {
 bool Comparison::FetchOverLine() {
   const CompareReading reading;
   const TransferScope transfer;
-  return ConnectOrOpenPort() ? Fetch() : IsEmptyFor(Text(kMsgNoLine));
+  if (ConnectOrOpenPort()) return Fetch();
+  return IsEmptyFor(AppState.CancelRequested ? Text(kMsgGivenUp) : Text(kMsgNoLine));
 }
 
 /// The list says why it is empty, beside what a box has told. False, for its caller to return.

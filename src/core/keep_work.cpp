@@ -114,6 +114,7 @@ bool HasWork() {
 }
 
 void Tick() {
+  frmMain.TimerKeepNow.AskEveryMs = kAskEveryMs;
   const std::vector<Unsaved> unsaved = AllUnsaved();
   ForgetSaved(unsaved);
   if (KeepState.due) KeepAll(unsaved);
@@ -136,7 +137,11 @@ void StopKeeping() {
 
 void InstallKeepWork() {
   KeepKinds().clear();
-  frmMain.TimerKeep.Tick = [] { KeepState.due = true; };
+  // What is due is kept in the first moment that allows it, also between two requests.
+  frmMain.TimerKeep.Tick = [] {
+    KeepState.due = true;
+    frmMain.TimerKeepNow.AskEveryMs = 0;
+  };
   frmMain.TimerKeepNow.HasWork = HasWork;
   frmMain.TimerKeepNow.AskEveryMs = kAskEveryMs;
   frmMain.TimerKeepNow.Tick = Tick;

@@ -201,6 +201,8 @@ void ImportSettings() {
   ShowOptionsOf(*keys);
   TakeOptions();
   (*keys)["PortNo"] = std::to_string(AppState.PortNo);
+  const std::string device_key = "PortDevice" + (*keys)["PortNo"];
+  (*keys)[device_key] = GetSetting(device_key, "");  // as it was taken, without blanks at its ends
   (*keys)["DispMmUnit"] = AppState.DispMmUnit ? "1" : "0";
   PutImportedSettings(*keys);
   PortLampHyoji();

@@ -8,6 +8,7 @@
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
 #include "state/axes_in_use.h"
+#include "steps/record_frames.h"
 
 namespace tr7 {
 namespace {
@@ -31,8 +32,10 @@ void TakeType(int type, DevSettingRecord& device, DevSettingRecord& pending) {
 bool DevicesOfCtCanBeTaken() {
   constexpr int kMaxStroke = std::numeric_limits<std::int16_t>::max();
   const auto axes = AxesInUse();
-  return std::all_of(axes.begin(), axes.end(),
-                     [](int axis) { return CtDev[axis].Stroke <= kMaxStroke; });
+  const bool can = std::all_of(axes.begin(), axes.end(),
+                               [](int axis) { return CtDev[axis].Stroke <= kMaxStroke; });
+  if (!can) static_cast<void>(TellBadData());
+  return can;
 }
 
 void TakeDevFromCt() {

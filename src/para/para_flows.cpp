@@ -49,7 +49,9 @@ Devices AgreeOnDevices(bool other_axes) {
     return Devices::Ended;
   }
   if (!WarnOfDeviceChange(true)) return Devices::Ended;
-  if (ReadCtDeviceFromCt() == 0) return Devices::FromCt;
+  if (ReadCtDeviceFromCt() == 0) {
+    return DevicesOfCtCanBeTaken() ? Devices::FromCt : Devices::Ended;
+  }
   EndSession();
   return Devices::Ended;
 }

@@ -10,7 +10,8 @@ namespace {
 
 /// Ahead of a sleep; the time of the next question where it is too early for one.
 std::optional<std::int64_t> AskNowAndThen(Timer& timer, std::int64_t now) {
-  if (!timer.Enabled || timer.Wanted) return timer.Wanted ? std::optional(now) : std::nullopt;
+  if (!timer.Enabled) return std::nullopt;
+  if (timer.Wanted) return now;
   const std::int64_t next = timer.AskedUs + std::int64_t{timer.AskEveryMs} * 1000;
   if (timer.AskedUs != Timer::kNotArmed && now < next) return next;
   timer.AskedUs = now;
@@ -20,7 +21,10 @@ std::optional<std::int64_t> AskNowAndThen(Timer& timer, std::int64_t now) {
 
 bool IsDue(Timer& timer, std::int64_t now) {
   if (!timer.Enabled) return false;
-  if (timer.HasWork) return timer.AskEveryMs > 0 ? timer.Wanted : timer.HasWork();
+  if (timer.HasWork) {
+    // What was found ahead of the sleep may hold no more: an event has come in between.
+    return (timer.AskEveryMs == 0 || timer.Wanted) && timer.HasWork();
+  }
   if (timer.Interval <= 0) return false;
   if (timer.DueUs == Timer::kNotArmed) timer.DueUs = now + std::int64_t{timer.Interval} * 1000;
   return now >= timer.DueUs;

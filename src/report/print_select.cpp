@@ -99,8 +99,8 @@ void Correct(TextBox& box, int instead) {
 PosiRange TypedRange() {
   const auto first = static_cast<int>(Val(frmPrintSelect.txtPrintStartPosi.Text));
   const auto last = static_cast<int>(Val(frmPrintSelect.txtPrintEndPosi.Text));
-  if (first < 0 || last > kPosiMaxNo || first > last) return {1, 0};
-  return {std::max(first, 1), std::max(last, 1)};
+  if (first < 0 || last < 1 || last > kPosiMaxNo || first > last) return {1, 0};
+  return {std::max(first, 1), last};
 }
 
 bool Accept(const Rows& rows, PrintChoice& choice) {

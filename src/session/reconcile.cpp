@@ -16,7 +16,6 @@
 #include "state/selection.h"
 #include "state/text.h"
 #include "state/views.h"
-#include "steps/record_frames.h"
 
 namespace tr7 {
 namespace {
@@ -58,17 +57,10 @@ int TakeModeOfCt(ProgressScope& progress) {
 
 /// Reads axes and devices and takes both, or neither: axes without their devices would be a state
 /// that is neither the PC's nor the controller's.
-bool ReadDevicesToTake() {
-  if (ReadCtAxisFromCt() != 0 || ReadCtDeviceFromCt() != 0) return false;
-  if (DevicesOfCtCanBeTaken()) return true;
-  static_cast<void>(TellBadData());
-  return false;
-}
-
 bool TakeAxesAndDevicesOfCt() {
   const auto muko = AppState.AxisMuko;
   const std::int16_t pattern = AppState.AxisPattern;
-  if (!ReadDevicesToTake()) {
+  if (ReadCtAxisFromCt() != 0 || ReadCtDeviceFromCt() != 0 || !DevicesOfCtCanBeTaken()) {
     AppState.AxisMuko = muko;
     AppState.AxisPattern = pattern;
     return false;

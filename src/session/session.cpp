@@ -79,7 +79,7 @@ bool FirstConnectionSteps() {
   progress.Set(2);
   DispControlerMode();
   ChangeMenuDisp(AppState.CtMode);
-  if (ReadCtDeviceFromCt() != 0 || GivenUp()) return false;
+  if (ReadCtDeviceFromCt() != 0 || GivenUp() || !DevicesOfCtCanBeTaken()) return false;
   progress.Set(3);
   TakeDevFromCt();
   RecalcLimits();

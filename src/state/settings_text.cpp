@@ -1,6 +1,7 @@
 #include "state/settings_text.h"
 
 #include "base/code_page.h"
+#include "base/text_helpers.h"
 
 namespace tr7 {
 namespace {
@@ -13,12 +14,23 @@ bool Stays(const std::string& key) {
          key == "MainMaximised";
 }
 
+/// The acceleration of a step has two hexadecimal digits in its frame.
+bool MayBeTaken(const std::string& key, const std::string& value) {
+  return !key.starts_with("AccOf100Pls") || (Val(value) >= 0 && Val(value) <= 0xFF);
+}
+
 /// Takes a key's line into what was read; false when it is damaged.
 bool TakeKey(std::string_view line, SettingKeys& keys) {
   if (!DecodeCodePage(kCodePageUtf8, line).ok()) return false;
   auto read = ReadSettingLine(line);
-  if (!read) return false;
+  if (!read || !MayBeTaken(read->first, read->second)) return false;
   return Stays(read->first) || keys.insert(std::move(*read)).second;
+}
+
+/// Nothing goes out that would make the file a damaged one.
+bool CanBeTaken(std::string_view line) {
+  SettingKeys taken;
+  return TakeKey(TakeSettingLine(line), taken);
 }
 
 bool IsEmptyFrom(std::string_view text) {
@@ -33,7 +45,8 @@ bool IsEmptyFrom(std::string_view text) {
 std::string SettingsAsText(const SettingKeys& keys) {
   std::string text = std::string(kHead) + "\n";
   for (const auto& [key, value] : keys) {
-    if (!Stays(key)) text += SettingLine(key, value);
+    const std::string line = SettingLine(key, value);
+    if (!Stays(key) && CanBeTaken(line)) text += line;
   }
   return text + std::string(kEnd) + "\n";
 }

@@ -60,7 +60,7 @@ std::unique_ptr<Binding> MakeMenuBinding(Menu& record, QObject& target, const Co
   auto* action = qobject_cast<QAction*>(&target);
   if (!action) return nullptr;
   QObject::connect(action, &QAction::triggered, action, [&record, gate] {
-    if (gate()) record.Press();
+    if (gate() && record.IsOn()) record.Press();
   });
   return std::make_unique<MenuBinding>(record, *action);
 }
