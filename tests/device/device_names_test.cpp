@@ -4,6 +4,7 @@
 #include "device/dev_setting_store.h"
 #include "device/device_texts.h"
 #include "device/take_ct_device.h"
+#include "para/take_param_device.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -108,6 +109,41 @@ TEST_F(DeviceStoreTest, NamesOfEveryForm) {
 }
 
 class TakeDevice : public StateTest {};
+
+/// AXIS1 to AXIS3 in the parameters, each with a device of its own.
+void FillParameters() {
+  ParamSet.OneAxis = 7;
+  const char* texts[] = {" 28L100", " 42H200", "E35L050", ""};
+  for (int axis = 0; axis < kAxes; ++axis) {
+    ParamSet.Actuator[axis] = texts[axis];
+    CutActuator(ParamSet, axis);
+    ParamSet.AxisLead[axis] = static_cast<std::int16_t>(2 + 2 * axis);
+    ParamSet.AxisPulse[axis] = 400;
+    ParamSet.AxisStroke[axis] = 1001;
+  }
+}
+
+TEST_F(TakeDevice, ParametersBringAxesDevicesAndStrokes) {
+  FillParameters();
+  DevSetting[1].NotChosen = True;
+  AppState.AxisMuko = MukoOfMask(8);
+  TakeDevFromParam2();
+  EXPECT_EQ(AppState.AxisMuko, MukoOfMask(7));
+  EXPECT_EQ(DevSetting[1].Size + DevSetting[1].Speed, " 42H");
+  EXPECT_EQ(DevSetting[1].Stroke, 200);
+  EXPECT_EQ(DevSetting[1].MmPerPulse, 0.01);
+  EXPECT_FALSE(DevSetting[1].NotChosen);
+  EXPECT_EQ(AppState.StrokePulse[1], 1001);
+  EXPECT_EQ(AppState.StrokeMm[1], 10.01);
+  EXPECT_EQ(DevSetting[3].Size, "") << "an axis that AXIS does not name";
+  ParamSet.Actuator[1].clear();
+  ParamSet.ActSize[0] = "E35";
+  ParamSet.ActSize[2] = " 50";
+  TakeDevFromParam2();
+  EXPECT_EQ(DevSetting[0].Size, "E35");
+  EXPECT_TRUE(DevSetting[1].NotChosen) << "an axis without device text ends it";
+  EXPECT_EQ(DevSetting[2].Size, "E35");
+}
 
 TEST_F(TakeDevice, TypeAndPgOfTheControllersBlock) {
   const std::tuple<int, const char*, int, bool, bool> rows[] = {

@@ -44,6 +44,25 @@ class ChangeDeviceTest : public FlowTest {
   }
 };
 
+TEST_F(ChangeDeviceTest, AChosenDeviceComesIntoUse) {
+  Start();
+  Choose({0});
+  InDialog("frmDevice2", {[] {
+             frmDevice2.chkDevPgUse[1].Set(true);
+             ChooseHigh42();
+           }});
+  frmMain.mnuSettingDevice.Press();
+  EXPECT_EQ(asked, Texts{Text(41)});
+  EXPECT_EQ(Boxes(), Texts{});
+  EXPECT_EQ(Device(DevSetting[0]), " 42H200");
+  EXPECT_TRUE(DevSetting[1].WithPG && DevSetting[0].NewType && DevSetting[0].SeriesOk);
+  EXPECT_FALSE(DevSetting[0].WithPG);
+  EXPECT_EQ(AppState.MaxPulse[0], 10000);
+  EXPECT_EQ(frmPosi.lblDeviceType[1]->Caption, "QV- 28L-100E");
+  EXPECT_EQ(virt.settings.Get("Settings", "DevLead1", ""), "8");
+  EXPECT_EQ(port.sent, "");
+}
+
 TEST_F(ChangeDeviceTest, WhoeverLeavesKeepsWhatHeHad) {
   const struct {
     const char* what;

@@ -24,6 +24,7 @@ TEST_F(ReadTest, PositionsAreTakenAsTheControllerHasThem) {
   EXPECT_EQ(Cell(4, kVel), std::to_string(record.axis[0].vel));
   EXPECT_EQ(Cell(4, kAcc), std::to_string(record.axis[0].acc * 10));
   EXPECT_EQ(PosiTable.PosiPulse[1][4], record.axis[1].pulses);
+  EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
 }
 
 TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {

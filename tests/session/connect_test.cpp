@@ -267,5 +267,18 @@ TEST_F(ReadCompareTest, AFailureWhileTakingMarksTheDevices) {
   ExpectOffline();
 }
 
+TEST_F(EditedTableTest, AnAxisThatComesIntoUseShowsItsOwnData) {
+  ReadAndGoOffline();
+  const std::string axis4 = Cell(AxisBase(3) + kPosi);
+  DropAxis4();
+  RecalcLimits();
+  RebuildPosiViewKeepingEdits();
+  Edit(kVel, "31");
+  GoOnline({0});
+  EXPECT_EQ(Cell(kVel), "31");
+  EXPECT_EQ(Cell(AxisBase(3) + kPosi), axis4);
+  EXPECT_GT(AppState.MaxPulse[3], 0);
+}
+
 }  // namespace
 }  // namespace tr7
