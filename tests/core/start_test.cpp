@@ -85,19 +85,6 @@ TEST_F(StartTest, TheFilesMenuActsOnTheViewInFront) {
   EXPECT_EQ(forms.file_dialogs.back().DefaultExtension, "qvd");
 }
 
-TEST_F(StartTest, CancellingTheSaveQuestionKeepsEverything) {
-  StartOnline();
-  ReadRange(1, 3);
-  frmPosi.PosiChanged = True;
-  forms.answers = {MsgAnswer::Cancel};
-  EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu));
-  EXPECT_FALSE(forms.ended);
-  EXPECT_EQ(forms.boxes.back().Title, Text(390));
-  forms.answers = {MsgAnswer::No};
-  EXPECT_TRUE(CloseView(frmMain, CloseReason::ControlMenu));
-  EXPECT_TRUE(forms.ended);
-}
-
 TEST_F(StartTest, TheLanguageChangesAtExitOnly) {
   const auto choose = [this](OptionButton& language) {
     SetOptions([&language] {

