@@ -15,7 +15,7 @@ import sys
 from collections import defaultdict
 from pathlib import Path
 
-TYPE = re.compile(r"(?:class|struct|union|enum class|enum|concept|using|namespace) (\w+)")
+TYPE = re.compile(r"(?:class|struct|union|enum class|enum|concept|using|namespace) (?:\[\[\w+\]\] )?(\w+)")
 VALUE = re.compile(r"(\w+)(?:\[.*\])?(?:\(| =|\{|;|$)")
 CONSTANT = re.compile(r"\b(k[A-Z]\w*)\b(?:\[\w*\])? ?[={]")
 # Whether one of these is of use is asked of the whole batch: it would be hidden by a use elsewhere.
