@@ -15,11 +15,11 @@ import sys
 from collections import defaultdict
 from pathlib import Path
 
-TYPE = re.compile(r"(?:class|struct|union|enum class|enum|concept|using|namespace) (\w+)")
+TYPE = re.compile(r"(?:class|struct|union|enum class|enum|concept|using|namespace) (?:\[\[\w+\]\] )?(\w+)")
 VALUE = re.compile(r"(\w+)(?:\[.*\])?(?:\(| =|\{|;|$)")
 CONSTANT = re.compile(r"\b(k[A-Z]\w*)\b(?:\[\w*\])? ?[={]")
-# Whether one of these is of use is asked of the whole batch: it would be hidden by a use elsewhere.
-ASKED_OF_ALL = re.compile(r"^ *using (?:namespace )?[\w:]+::\w+;|^using namespace", re.M)
+# These reach into the rest of a batch, or a use there would hide that they are of none.
+ASKED_OF_ALL = re.compile(r"^ *using (?:namespace )?[\w:]+::\w+;|^using (?:namespace|enum) ", re.M)
 
 
 def declared_by(line):
