@@ -293,9 +293,10 @@ bool NoAxisRunsOn(std::uint64_t seed) {
     voyage.Fail(std::string("does not end: ") + exceeded.what());
   }
   for (const std::string& failure : voyage.failures) std::printf("%s\n", failure.c_str());
-  if (voyage.failures.empty()) return true;
-  delete std::exchange(run, nullptr);  // what a failure leaves behind is nobody's start
-  return false;
+  const bool held = voyage.failures.empty();
+  // Neither a tool that was closed nor what a failure leaves behind is anybody's start.
+  if (!held || !frmMain.Loaded) delete std::exchange(run, nullptr);
+  return held;
 }
 
 }  // namespace tr7
