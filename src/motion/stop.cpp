@@ -118,8 +118,9 @@ void StopUnheard(TusinFailure& failure) {
   if (IsTaken(end)) static_cast<void>(WaitForBraking(&of_poll));
   EndMotion();
   if (end == StopEnd::Taken && !failure.text.empty()) failure.text += "\n\n" + Text(kMsgStopped);
-  // The alarm that has ended the motion is told by the flow that met it.
-  if (end != StopEnd::Alarm || failure.end != TusinEnd::ErrorReply) TellStop(end);
+  // The alarm that has ended the motion is told by the flow that met it. A second start that was
+  // refused because the first one moves is not what refuses the stop.
+  if (end != StopEnd::Alarm || failure.reply != AppState.LastCtErrorText) TellStop(end);
   EndLostTeaching();
 }
 

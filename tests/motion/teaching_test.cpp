@@ -140,6 +140,17 @@ TEST_F(JogTest, AStopThatNobodyAnswersIsSentOverANewConnectionAndThenTold) {
   EXPECT_EQ(Boxes(), Texts{Text(5509)});
 }
 
+TEST_F(JogTest, ARefusedStopIsToldThoughItsStartWasRefusedAsWell) {
+  Spoil(FaultKind::kChangedByte, "0JR");
+  Spoil(FaultKind::kErrorReply, "0SP", 0);
+  Jog(1, 500'000);
+  const Texts told = Boxes();
+  ASSERT_EQ(told.size(), 2u) << "the start's second send finds the axis moving";
+  EXPECT_TRUE(told[0].starts_with("The controller has an alarm (")) << told[0];
+  port.Ct().ClearFaults();
+  frmMain.cmdStopNow.Press();
+}
+
 TEST_F(JogTest, APressWhileAStopIsUnansweredSendsItAtOnce) {
   Spoil(FaultKind::kDeaf, "0SP");
   for (const std::int64_t at_us : {600'000, 820'000, 825'000}) {
