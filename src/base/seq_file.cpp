@@ -164,11 +164,10 @@ void SeqWriter::Bare(std::string_view text) {
 }
 
 void SeqWriter::Item(const Variant& item) {
-  const auto* text = std::get_if<std::string>(&item);
-  if (text) {
-    Text(*text);
+  if (item.Text()) {
+    Text(*item.Text());
   } else {
-    Number(*std::get_if<double>(&item));
+    Number(item.Number());
   }
 }
 

@@ -4,14 +4,10 @@
 
 namespace tr7 {
 
-double ValueOf(const Variant& field) {
-  const auto* text = std::get_if<std::string>(&field);
-  return text ? Val(*text) : *std::get_if<double>(&field);
-}
+double ValueOf(const Variant& field) { return field.Text() ? Val(*field.Text()) : field.Number(); }
 
 std::string TextOf(const Variant& field) {
-  const auto* text = std::get_if<std::string>(&field);
-  return text ? *text : PlainDecimal(*std::get_if<double>(&field));
+  return field.Text() ? *field.Text() : PlainDecimal(field.Number());
 }
 
 }  // namespace tr7

@@ -64,12 +64,9 @@ void WithSlot(SetRef& set, int row, int axis, Use use) {
 }
 
 bool NumberOf(const Variant& item, double& value) {
-  if (const auto* number = std::get_if<double>(&item)) {
-    value = *number;
-    return true;
-  }
-  value = 0;
-  SeqReader reader(*std::get_if<std::string>(&item));
+  value = item.Number();
+  if (!item.Text()) return true;
+  SeqReader reader(*item.Text());
   return reader.AtEnd() || (reader.ReadNumber(value) && reader.AtEnd());
 }
 
