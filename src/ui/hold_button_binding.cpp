@@ -7,6 +7,8 @@
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 
+#include "ui/key_repeat.h"
+
 namespace tr7 {
 
 HoldButtonBinding::HoldButtonBinding(HoldButton& record, QPushButton& button,
@@ -69,12 +71,10 @@ bool HoldButtonBinding::IsOurKey(const QEvent& event) const {
   return key.key() == Qt::Key_Space && button_.hasFocus();
 }
 
-/// A held key repeats as releases and presses in pairs. Where the window system does not say so,
-/// the first release ends the hold, and no press this close behind a release begins another.
+/// Where the window system does not say that a key repeats, the first release ends the hold, and
+/// the press right behind it begins none.
 bool HoldButtonBinding::Bounces(const QEvent& event) const {
-  constexpr std::uint64_t kPairMs = 20;
-  const std::uint64_t down_ms = static_cast<const QKeyEvent&>(event).timestamp();
-  return key_up_ms_ != 0 && down_ms - key_up_ms_ < kPairMs;
+  return ClosesPair(static_cast<const QKeyEvent&>(event), key_up_ms_);
 }
 
 /// What ends a hold though no button and no key goes up.

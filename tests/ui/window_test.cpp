@@ -205,6 +205,15 @@ TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
       return MsgAnswer::Yes;
     };
     EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), escaped);
+    user.on_box = [](const std::string&) {
+      QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+      QApplication::sendEvent(QApplication::activeModalWidget(), &held);
+      return MsgAnswer::No;
+    };
+    if (buttons == MsgButtons::YesNoCancel) {
+      EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), MsgAnswer::No)
+          << "the key was down before the box was there";
+    }
   }
 }
 
