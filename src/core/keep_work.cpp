@@ -103,6 +103,12 @@ bool KeepAll(const std::vector<Unsaved>& unsaved) {
   return all;
 }
 
+/// What is due is kept in the first moment that allows it, also between two requests.
+void SetDue(bool due) {
+  KeepState.due = due;
+  frmMain.TimerKeepNow.AskEveryMs = due ? 0 : kAskEveryMs;
+}
+
 /// The timer follows what is unsaved, and so do the files, at once.
 bool HasWork() {
   if (!MayKeep() || MotionIsComing() || !TusinQueue.IsEmpty()) return false;
@@ -114,11 +120,10 @@ bool HasWork() {
 }
 
 void Tick() {
-  frmMain.TimerKeepNow.AskEveryMs = kAskEveryMs;
   const std::vector<Unsaved> unsaved = AllUnsaved();
   ForgetSaved(unsaved);
   if (KeepState.due) KeepAll(unsaved);
-  KeepState.due = false;
+  SetDue(false);
   if (unsaved.empty()) frmMain.TimerKeep.Stop();
   if (!unsaved.empty() && !frmMain.TimerKeep.Enabled) frmMain.TimerKeep.Start();
 }
@@ -137,13 +142,9 @@ void StopKeeping() {
 
 void InstallKeepWork() {
   KeepKinds().clear();
-  // What is due is kept in the first moment that allows it, also between two requests.
-  frmMain.TimerKeep.Tick = [] {
-    KeepState.due = true;
-    frmMain.TimerKeepNow.AskEveryMs = 0;
-  };
+  SetDue(false);
+  frmMain.TimerKeep.Tick = [] { SetDue(true); };
   frmMain.TimerKeepNow.HasWork = HasWork;
-  frmMain.TimerKeepNow.AskEveryMs = kAskEveryMs;
   frmMain.TimerKeepNow.Tick = Tick;
   KeepUnsavedWork = [] { static_cast<void>(KeepNow()); };
 }

@@ -64,7 +64,9 @@ void ShowReadout() {
   ShowHomeState();
 }
 
-/// Off while a flow runs, but for the end of a range, which the flow looks at after every step.
+/// Off while a flow runs, which reads them anew step by step: rows and numbers, repeat, macro and
+/// wait alike; the group alone is read at the start. The end of a range is left to the user: how
+/// far it goes may be settled while it goes.
 void ShowMoveSettings() {
   PosiMoveTest& f = frmPosi.Move;
   const bool idle = MotionNow.Flow == MoveFlow::None;
