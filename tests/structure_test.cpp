@@ -157,7 +157,7 @@ TEST(Structure, ToolAndSimulatorMeetAtThePortAlone) {
 // The message table.
 
 /// "%1" and "%2" as far as the text has them.
-int Placeholders(const std::string& text) {
+int Placeholders(std::string_view text) {
   return (text.find("%1") != std::string::npos) + 2 * (text.find("%2") != std::string::npos);
 }
 

@@ -21,39 +21,49 @@ bool IsLead(unsigned byte) {
   return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
 }
 
-/// The characters of two bytes. 0 marks a code or a character that does not exist.
-struct ShiftJisTable {
-  std::vector<char16_t> character_of = std::vector<char16_t>(0x10000);  ///< [lead * 256 + trail]
-  std::vector<std::uint16_t> code_of = std::vector<std::uint16_t>(0x10000);
+/// One for each code of two bytes, or for each character. 0: there is no such code or character.
+using PairTable = std::vector<char16_t>;
 
-  ShiftJisTable() {
-    std::string_view rest(tr7_res_cp932, tr7_res_cp932_size);
-    while (!rest.empty()) {
-      const std::size_t end = std::min(rest.find('\n'), rest.size());
-      AddRow(rest.substr(0, end));
-      rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
+/// A row is "+" or "-", tab, the first code in four hexadecimal digits, tab, the characters of
+/// codes in a row. The codes of a "-" are read, never written.
+template <typename Use>
+void ForEachPair(std::string_view row, Use use) {
+  if (row.size() < 8) return;
+  unsigned code = 0;
+  std::from_chars(row.data() + 2, row.data() + 6, code, 16);
+  const std::string_view characters = row.substr(7);
+  bool good = true;
+  for (std::size_t at = 0; at < characters.size() && code < 0x10000; ++code) {
+    use(static_cast<char16_t>(code), static_cast<char16_t>(TakeUtf8(characters, at, good)));
   }
+}
 
-  /// "+" or "-", tab, first code in four hexadecimal digits, tab, characters of codes in a row.
-  void AddRow(std::string_view row) {
-    if (row.size() < 8) return;
-    const bool encodes = row[0] == '+';
-    unsigned code = 0;
-    std::from_chars(row.data() + 2, row.data() + 6, code, 16);
-    const std::string_view characters = row.substr(7);
-    bool good = true;
-    for (std::size_t at = 0; at < characters.size() && code < 0x10000; ++code) {
-      const char32_t character = TakeUtf8(characters, at, good);
-      character_of[code] = static_cast<char16_t>(character);
-      if (encodes) code_of[character & 0xFFFF] = static_cast<std::uint16_t>(code);
+template <typename Use>
+PairTable MakeTable(std::string_view signs, Use use) {
+  PairTable table(0x10000);
+  std::string_view rest(tr7_res_cp932, tr7_res_cp932_size);
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\n'), rest.size());
+    if (signs.find(rest[0]) != std::string_view::npos) {
+      ForEachPair(rest.substr(0, end),
+                  [&](char16_t code, char16_t character) { use(table, code, character); });
     }
+    rest.remove_prefix(std::min(end + 1, rest.size()));
   }
-};
-
-const ShiftJisTable& Table() {
-  static const ShiftJisTable table;
   return table;
+}
+
+char16_t CharacterOf(unsigned code) {
+  static const PairTable table = MakeTable(
+      "+-", [](PairTable& of, char16_t code, char16_t character) { of[code] = character; });
+  return table[code];
+}
+
+/// Made when a text is written first; many a session reads only.
+char16_t CodeOf(char32_t character) {
+  static const PairTable table = MakeTable(
+      "+", [](PairTable& of, char16_t code, char16_t character) { of[character] = code; });
+  return character < table.size() ? table[character] : char16_t{0};
 }
 
 char32_t TakeShiftJis(std::string_view bytes, std::size_t& at) {
@@ -63,7 +73,7 @@ char32_t TakeShiftJis(std::string_view bytes, std::size_t& at) {
   if (first >= kKanaFirst && first <= kKanaLast) return kKanaCharacter + (first - kKanaFirst);
   if (!IsLead(first) || at == bytes.size()) return kBadCharacter;
   const unsigned second = byte(at);
-  const char16_t character = Table().character_of[first << 8 | second];
+  const char16_t character = CharacterOf(first << 8 | second);
   // An ASCII byte behind a stray lead byte stays itself, so that damage never eats a separator.
   if (character != 0 || second >= 0x80) ++at;
   return character != 0 ? character : kBadCharacter;
@@ -78,7 +88,7 @@ bool AppendShiftJis(std::string& bytes, char32_t character) {
     bytes += static_cast<char>(character - kKanaCharacter + kKanaFirst);
     return true;
   }
-  const std::uint16_t code = character < 0x10000 ? Table().code_of[character] : std::uint16_t{0};
+  const char16_t code = CodeOf(character);
   if (code == 0) return false;
   bytes += static_cast<char>(code >> 8);
   bytes += static_cast<char>(code & 0xFF);

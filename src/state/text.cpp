@@ -38,8 +38,7 @@ std::vector<MessageRow> ReadTable() {
     if (tab2 == std::string_view::npos) continue;
     int id = 0;
     std::from_chars(line.data(), line.data() + tab1, id);
-    rows.push_back(
-        {id, Unescaped(line.substr(tab1 + 1, tab2 - tab1 - 1)), Unescaped(line.substr(tab2 + 1))});
+    rows.push_back({id, line.substr(tab1 + 1, tab2 - tab1 - 1), line.substr(tab2 + 1)});
   }
   return rows;
 }
@@ -63,7 +62,7 @@ std::string Text(MsgId id) {
   if (row == table.end() || row->id != id.Number()) {
     return "#" + std::to_string(id.Number());
   }
-  return AppState.LangOffset == 0 ? row->japanese : row->english;
+  return Unescaped(AppState.LangOffset == 0 ? row->japanese : row->english);
 }
 
 std::string Text(MsgId id, const std::string& arg1, const std::string& arg2,

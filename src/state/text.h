@@ -1,17 +1,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/msg_id.h"
 
 namespace tr7 {
 
-/// One row of the message table.
+/// One row of the message table, as it stands there: a line's end is a backslash and an n.
 struct MessageRow {
   int id;
-  std::string japanese;
-  std::string english;
+  std::string_view japanese;
+  std::string_view english;
 };
 
 /// All rows, sorted by id.
