@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <system_error>
 
@@ -124,7 +125,14 @@ std::string Str(double value) {
   return text[0] == '-' ? text : " " + text;
 }
 
-std::string PlainDecimal(double value) { return Spelled(ToDecimal(value), 0); }
+std::string PlainDecimal(double value) {
+  constexpr double kMostWhole = 1e15;
+  // Most fields of a table are whole numbers: a save spells tens of thousands of them.
+  if (std::fabs(value) < kMostWhole && value == std::trunc(value)) {
+    return std::to_string(static_cast<std::int64_t>(value));
+  }
+  return Spelled(ToDecimal(value), 0);
+}
 
 std::string FormatMm(double value) {
   Decimal decimal = ToDecimal(value);
