@@ -33,7 +33,7 @@ add_custom_command(OUTPUT ${CHANGELOG} COMMAND gzip -9nc ${CMAKE_SOURCE_DIR}/CHA
                    DEPENDS CHANGELOG.md VERBATIM)
 add_custom_target(qv-tr7-pages ALL DEPENDS ${PAGES} ${CHANGELOG})
 install(FILES ${PAGES} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES ${CHANGELOG} README.md docs/files.md docs/safety.md docs/simulator.md docs/protocol.md
+install(FILES ${CHANGELOG} docs/files.md docs/safety.md docs/simulator.md docs/protocol.md docs/licences.md
         DESTINATION ${DOC})
 install(FILES lists/README.md RENAME lists.md DESTINATION ${DOC})
 install(FILES LICENSE RENAME copyright DESTINATION ${DOC})
@@ -52,5 +52,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-noto-cjk")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core")
+# F1 opens the manual in the browser.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils, firefox-esr | www-browser")
 include(CPack)

@@ -1,6 +1,5 @@
-// Takes the manual's pictures from what a tour has left: qv-tr7-help-pictures TOUR HELP. A page
-// names
-// "../pictures/NAME.png"; the tour's picture of it is "NNN-NAME.png".
+// Takes the manual's pictures from what a tour has left: qv-tr7-help-pictures TOUR HELP PICTURES.
+// A page in HELP names "../pictures/NAME.png"; the tour's picture of it is "NNN-NAME.png".
 
 #include <QDir>
 #include <QFile>
@@ -66,13 +65,12 @@ QImage InFewColours(const QImage& picture) {
 
 int main(int argc, char** argv) {
   QTextStream out(stdout);
-  if (argc != 3) {
-    out << "usage: qv-tr7-help-pictures TOUR HELP\n";
+  if (argc != 4) {
+    out << "usage: qv-tr7-help-pictures TOUR HELP PICTURES\n";
     return 2;
   }
-  const QDir tour(argv[1]), help(argv[2]);
-  help.mkpath("pictures");
-  bool all = true;
+  const QDir tour(argv[1]), help(argv[2]), pictures(argv[3]);
+  bool all = pictures.mkpath(".");
   for (const QString& name : NamedInPages(help)) {
     const QStringList taken = tour.entryList({"[0-9][0-9][0-9]-" + name + ".png"});
     const QImage picture(taken.isEmpty() ? QString() : tour.filePath(taken.constFirst()));
@@ -83,7 +81,7 @@ int main(int argc, char** argv) {
     }
     const QImage small = Cropped(picture.convertToFormat(QImage::Format_RGB32))
                              .scaledToWidth(kWidth, Qt::SmoothTransformation);
-    all = InFewColours(small).save(help.filePath("pictures/" + name + ".png"), "PNG", 0) && all;
+    all = InFewColours(small).save(pictures.filePath(name + ".png"), "PNG", 0) && all;
   }
   return all ? 0 : 1;
 }

@@ -74,6 +74,7 @@ struct Showing {
   const char* name;
   int language;
   look::Theme theme;
+  QStringList scripts = {};  ///< that a tour of all shows so; empty: all
 };
 
 /// One session in this process.
@@ -118,17 +119,26 @@ bool PlayApart(const QString& session, const Arguments& arguments) {
                            {"--sim", arguments.sim, "--play", session, arguments.folder}) == 0;
 }
 
-/// The sessions asked for; without a name all of them.
+/// What a tour is to play; a name that is asked for counts above what a tour of all leaves out.
+bool Wanted(const Script& script, const Showing& showing, const QString& session,
+            const QStringList& only) {
+  if (!only.isEmpty()) return only.contains(script.name) || only.contains(session);
+  return showing.scripts.isEmpty() || showing.scripts.contains(script.name);
+}
+
+/// The sessions asked for; without a name all of them. Each script is seen in Japanese and is seen
+/// dark, so that a few are enough to show both at once.
 int Run(const Arguments& arguments) {
-  const Showing showings[] = {
-      {"en", 2, look::Theme::Light}, {"ja", 1, look::Theme::Light}, {"dark", 2, look::Theme::Dark}};
+  const Showing showings[] = {{"en", 2, look::Theme::Light},
+                              {"ja", 1, look::Theme::Light},
+                              {"dark", 2, look::Theme::Dark},
+                              {"ja-dark", 1, look::Theme::Dark, {"look", "prog", "io", "data"}}};
   if (arguments.session.isEmpty()) RemoveOldTour(arguments.folder);
   for (const Script& script : Scripts()) {
     for (const Showing& showing : showings) {
       const QString session = QString("%1-%2").arg(script.name, showing.name);
       if (arguments.session == session) return Play(script, showing, arguments);
-      const bool wanted = arguments.only.isEmpty() || arguments.only.contains(script.name) ||
-                          arguments.only.contains(session);
+      const bool wanted = Wanted(script, showing, session, arguments.only);
       if (!arguments.session.isEmpty() || !wanted || PlayApart(session, arguments)) continue;
       std::printf("tour: session %s failed\n", qPrintable(session));
       return EXIT_FAILURE;
