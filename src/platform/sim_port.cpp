@@ -78,6 +78,8 @@ void SimPort::SetInput(int number, bool on) {
   controller_.SetInput(number, on, doors.pump->NowUs());
 }
 
+void SimPort::PowerCycle() { controller_.PowerCycle(doors.pump->NowUs()); }
+
 void SimPort::Collect() {
   if (open_) in_buffer_ += controller_.Take(doors.pump->NowUs());
 }

@@ -39,6 +39,8 @@ class SimPort : public SerialPort {
   SimPoints Points();
   /// A hand switches an input, from 1.
   void SetInput(int number, bool on);
+  /// Its controller goes off and on.
+  void PowerCycle();
   /// When something changes in it by itself, the next time; nothing while it rests or waits.
   std::optional<std::int64_t> NextChangeUs() const { return controller_.NextInsideUs(); }
 

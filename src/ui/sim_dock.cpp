@@ -3,15 +3,16 @@
 #include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform/doors.h"
 #include "state/text.h"
 #include "ui/binding.h"
+#include "ui/help_key.h"
 #include "ui/sim_picture.h"
 #include "ui/sim_point.h"
 
@@ -20,10 +21,12 @@ namespace {
 
 constexpr int kTitle = 6960, kPushHome = 6965, kPushAway = 6966, kServoHolds = 6967, kAxis1 = 220;
 constexpr int kToggleTip = 8905;
+constexpr int kPower = 6968, kPowerTip = 6969;
 constexpr int kInputs = 7140, kOutputs = 7141;
 constexpr int kLookEveryMs = 33;
 constexpr int kPushPulses = 50;
 constexpr int kButtonWidth = 24;
+constexpr int kTitleGap = 4;
 
 }  // namespace
 
@@ -41,6 +44,7 @@ void SimDock::AddTo(QMainWindow& frame, SimPort& machine) {
 SimDock::SimDock(QMainWindow& frame, SimPort& machine)
     : QDockWidget(Q(Text(kTitle)), &frame), machine_(machine) {
   setObjectName("areaSimMachine");
+  setProperty(kHelpPageProperty, "simulator");
   setAllowedAreas(Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea);
   setWidget(MakeMachine());
   next_look_.setSingleShot(true);
@@ -58,20 +62,24 @@ QWidget* SimDock::MakeMachine() {
   return machine;
 }
 
+/// In two rows: one of all would be wider than a small screen.
 QLayout* SimDock::MakePoints() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(2);
-  const auto add = [row](auto& points, SimPoint::Kind kind, MsgId name) {
-    row->addWidget(new QLabel(Q(Text(name))));
+  auto* grid = new QGridLayout;
+  grid->setSpacing(2);
+  const auto add = [grid](int row, auto& points, SimPoint::Kind kind, MsgId name) {
+    auto* title = new QLabel(Q(Text(name)));
+    title->setContentsMargins(0, 0, kTitleGap, 0);
+    grid->addWidget(title, row, 0);
     for (std::size_t i = 0; i < points.size(); ++i) {
       points[i] = new SimPoint(kind, static_cast<int>(i) + 1);
-      row->addWidget(points[i]);
+      grid->addWidget(points[i], row, static_cast<int>(i) + 1);
     }
   };
-  add(inputs_, SimPoint::Kind::Input, kInputs);
-  row->addSpacing(16);
-  add(outputs_, SimPoint::Kind::Output, kOutputs);
-  row->addStretch(1);
+  add(0, inputs_, SimPoint::Kind::Input, kInputs);
+  add(1, outputs_, SimPoint::Kind::Output, kOutputs);
+  const int beyond = std::max(kSimInputs, kSimOutputs) + 1;
+  grid->setColumnStretch(beyond, 1);
+  grid->addWidget(MakePowerButton(), 0, beyond + 1, 2, 1);
   for (int n = 1; n <= kSimInputs; ++n) {
     QObject::connect(inputs_.at(static_cast<std::size_t>(n) - 1), &SimPoint::switched, this,
                      [this, n](bool on) {
@@ -79,7 +87,20 @@ QLayout* SimDock::MakePoints() {
                        ShowPoints();
                      });
   }
-  return row;
+  return grid;
+}
+
+QToolButton* SimDock::MakePowerButton() {
+  auto* button = new QToolButton;
+  button->setObjectName("power");
+  button->setText(Q(Text(kPower)));
+  button->setToolTip(Q(Text(kPowerTip)));
+  button->setFocusPolicy(Qt::TabFocus);
+  QObject::connect(button, &QToolButton::clicked, this, [this] {
+    machine_.PowerCycle();
+    Look();
+  });
+  return button;
 }
 
 QGridLayout* SimDock::MakeAxes() {
@@ -118,6 +139,7 @@ void SimDock::Show(const Row& row, const SimAxis& axis) {
     row.push[i]->setEnabled(free);
     const MsgId tip = i == 0 ? MsgId(kPushHome) : MsgId(kPushAway);
     row.push[i]->setToolTip(Q(Text(free ? tip : MsgId(kServoHolds))));
+    row.push[i]->setAccessibleName(row.push[i]->toolTip());
   }
 }
 

@@ -38,6 +38,7 @@ class SimDock : public QDockWidget {
   QGridLayout* MakeAxes();
   QLayout* MakePoints();
   QToolButton* MakePushButton(int axis, int direction);
+  QToolButton* MakePowerButton();
   void Push(int axis, int pulses);
   static void Show(const Row& row, const SimAxis& axis);
   void ShowPoints();

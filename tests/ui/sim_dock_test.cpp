@@ -48,6 +48,13 @@ TEST_F(SimDockTest, AHandMovesASlideWhoseServoIsOff) {
   EXPECT_TRUE(Follows());
 }
 
+TEST_F(SimDockTest, ThePowerTakesTheMotorsHoldAndHoming) {
+  machine_.Write("0CM10200\r\n");
+  EXPECT_TRUE(Until([this] { return !machine_.Axes()[1].servo_on; }));
+  QTest::mouseClick(frame_.findChildren<QToolButton*>("power").at(0), Qt::LeftButton);
+  EXPECT_TRUE(machine_.Axes()[1].servo_on && Follows());
+}
+
 TEST_F(SimDockTest, AHandSwitchesAnInput) {
   auto* input = frame_.findChildren<SimPoint*>("input3").at(0);
   QTest::mouseClick(input, Qt::LeftButton);
