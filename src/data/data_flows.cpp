@@ -3,11 +3,13 @@
 #include "session/open_port.h"
 #include "session/session.h"
 #include "state/busy_scope.h"
+#include "state/files_here.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
 #include "steps/held_write.h"
 #include "steps/transfer_scope.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -51,9 +53,12 @@ std::optional<std::string> AskAndReadDataFile(const DataKind& kind, const DataFi
 }
 
 void ReadData(const DataKind& kind) {
+  const auto may_replace = [&kind] {
+    return kind.IsChanged() ? AskToLose(Text(kind.AskRead)) : AskOk(kind.AskRead);
+  };
   const TransferScope transfer;
   kind.StoreShown();
-  if (!AskOk(kind.AskRead) || !ConnectOrOpenPort()) return;
+  if (!may_replace() || !ConnectOrOpenPort()) return;
   if (ReadDataToStage(kind) != Outcome::Done) return;
   kind.TakeStage();
   kind.MarkSaved();
@@ -62,10 +67,11 @@ void ReadData(const DataKind& kind) {
 
 void WriteData(const DataKind& kind) {
   const TransferScope transfer;
-  if (!kind.MayBeSent() || !AskYes(kind.AskWrite) || !ConnectOrOpenPort()) return;
+  if (!kind.MayBeSent() || !AskYesToLose(Text(kind.AskWrite)) || !ConnectOrOpenPort()) return;
   if (WriteHeld(kind.WriteToCt) != Outcome::Done) return;
   kind.MarkSaved();
   TellInStatusPanel(Text(kMsgWritten));
+  WarnOfRepeats();
 }
 
 void VerifyDataToCt(const DataKind& kind) {
@@ -91,6 +97,7 @@ void OpenDataFile(const DataKind& kind) {
   if (kind.FileWasRefused()) return;
   kind.MarkSaved();
   *kind.Path = *path;
+  FileIsShown(*path);
 }
 
 void SaveDataFile(const DataKind& kind) {
@@ -106,6 +113,7 @@ void SaveDataFile(const DataKind& kind) {
   }
   kind.MarkSaved();
   *kind.Path = *path;
+  FileIsShown(*path);
   TellInStatusPanel(Text(kMsgSaved, *path));
 }
 

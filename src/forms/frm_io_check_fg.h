@@ -110,6 +110,7 @@ struct FrmIOCheckFG : View {
   Timer timerInputOutput1{2000};
   Timer TimerBtnOff{500};
   Timer TimerDispInit{10};
+  Timer TimerAge{500};  ///< looks, while a poll waits long, whether what is on show has aged
 };
 
 inline Standing<FrmIOCheckFG> frmIOCheckFG;

@@ -27,6 +27,8 @@ struct PosiReadout {
   Label lblKanryoCaption;
   Label lblkanryoNo;   ///< the position reached last in a move; "H0" is home
   Label lblKanryoiti;  ///< the same as the last read of the positions found it
+
+  Timer TimerAge{500};  ///< looks, while axes move, whether the positions have grown old
 };
 
 /// The teaching tab of the position view.

@@ -12,7 +12,8 @@ enum class TusinEnd {
   Good,              ///< a whole reply of the right prefix and length
   ErrorReply,        ///< the controller reported an error
   TimedOut,          ///< no reply to any send
-  PortFailed,        ///< the port did not open, or died; `PortFaultText` says why
+  PortFailed,        ///< the port did not open; `PortFaultText` says why
+  PortLost,          ///< the port has died; `PortFaultText` names it
   BadPrefix,         ///< a bad reply, and no sense in the answer to the re-synchronisation
   BadLength,         ///< the same after a reply of the wrong length
   BadTwice,          ///< a bad reply to the repeated message as well

@@ -64,6 +64,9 @@ struct RequestQueue {
   void EndWaiting(TusinEnd end, bool (*picks)(const TusinRequest& request));
   bool StopWaits() const;
   bool StopIsServed() const;
+  /// The controller owes an answer for longer than the line and its own work take, or a failure is
+  /// being told: what was read before is not being renewed.
+  bool IsUnanswered(std::int64_t now_us) const;
 };
 
 extern RequestQueue TusinQueue;

@@ -107,7 +107,7 @@ bool SendLine(const std::string& line, int timeout_ms, int reply_length, bool ag
 TusinEnd PortLost() {
   AppState.PortFaultText = LostPortText();
   FrameLog.Note(FrameEvent::PortFailed, AppState.PortFaultText);
-  return TusinEnd::PortFailed;
+  return TusinEnd::PortLost;
 }
 
 /// The last of the lines, ends included, that came in one piece.

@@ -53,6 +53,7 @@ void NoteFailure(const TusinRequest& request) {
   switch (request.end) {
     case TusinEnd::TimedOut:
     case TusinEnd::PortFailed:
+    case TusinEnd::PortLost:
       TusinPortCloseForce();
       TusinQueue.untold = &request;
       break;

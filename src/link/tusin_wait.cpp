@@ -11,9 +11,13 @@
 #include "state/wait.h"
 
 namespace tr7 {
+
+FailureFollowersRecord FailureFollowers;
+
 namespace {
 
 constexpr int kRestMs = 110;
+constexpr int kMsgNowOffline = 5920, kMsgCompleteFirst = 7135;
 
 /// The request's place in the queue, given back on every way out.
 class Queued {
@@ -35,8 +39,14 @@ std::string ErrorBoxText() {
   return text + "[" + AppState.CtErrorName + "]";
 }
 
-/// The words for a failure; empty where the user is not told.
-std::string FailureText(TusinEnd end) {
+/// In a teaching session the way back online is behind its end.
+std::string LostPortWords(bool to_offline) {
+  if (!to_offline) return AppState.PortFaultText;
+  const std::string told = WithReason(AppState.PortFaultText, Text(kMsgNowOffline));
+  return AppState.TeachingNow ? WithReason(told, Text(kMsgCompleteFirst)) : told;
+}
+
+std::string WordsFor(TusinEnd end, bool to_offline) {
   switch (end) {
     case TusinEnd::ErrorReply:
     case TusinEnd::ErrorInResync:
@@ -45,6 +55,8 @@ std::string FailureText(TusinEnd end) {
       return Text(100) + "\n\n" + Text(101) + "\n\n" + Text(102) + "\n\n" + Text(103);
     case TusinEnd::PortFailed:
       return Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText;
+    case TusinEnd::PortLost:
+      return LostPortWords(to_offline);
     case TusinEnd::BadPrefix:
       return Text(104);
     case TusinEnd::BadLength:
@@ -58,7 +70,8 @@ std::string FailureText(TusinEnd end) {
 
 /// Tells the user; where the line is shut until then, the state goes offline behind the box.
 void TellFailure(const TusinRequest& request, const TusinOptions& options) {
-  const std::string text = FailureText(request.end);
+  // Who takes the failure may still save the session, by a stop over a new connection.
+  const std::string text = TusinFailureText(request.end, !options.failure);
   if (options.failure) {
     options.failure->text = text;
     if (request.end == TusinEnd::ErrorReply) options.failure->reply = request.reply;
@@ -71,6 +84,12 @@ void TellFailure(const TusinRequest& request, const TusinOptions& options) {
 }
 
 }  // namespace
+
+std::string TusinFailureText(TusinEnd end, bool to_offline) {
+  const std::string text = WordsFor(end, to_offline);
+  if (text.empty() || !FailureFollowers.WhatGoesOn) return text;
+  return WithReason(text, FailureFollowers.WhatGoesOn(end));
+}
 
 TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
                        std::string& reply, const TusinOptions& options) {

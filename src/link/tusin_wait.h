@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "link/request_queue.h"
@@ -32,6 +33,17 @@ struct TusinSent {
   /// The controller has taken nothing of it.
   bool TookNothing() const { return sends == 0 || RefusedAtOnce(); }
 };
+
+/// What goes on without the line is known to higher floors only: who knows of it registers here. It
+/// is asked for its words when a failure is about to be told, and switches off what serves no more.
+struct FailureFollowersRecord {
+  std::function<std::string(TusinEnd end)> WhatGoesOn;
+};
+extern FailureFollowersRecord FailureFollowers;
+
+/// The words for a failure, with what goes on in spite of it; empty where the user is not told.
+/// `to_offline`: the session ends with it, which a port that was lost tells.
+std::string TusinFailureText(TusinEnd end, bool to_offline = true);
 
 struct TusinOptions {
   TusinPriority priority = TusinPriority::Ordinary;

@@ -34,7 +34,9 @@ bool SendRelease() {
 
 TusinOutcome TellFailed(const TusinFailure& failure) {
   if (failure.end == TusinEnd::Withdrawn) return TusinOutcome::Withdrawn;
-  if (!failure.text.empty()) MsgBox(failure.text);
+  const bool lost = failure.end == TusinEnd::PortLost;
+  const std::string text = lost ? TusinFailureText(failure.end) : failure.text;
+  if (!text.empty()) MsgBox(text);
   TusinAbort();
   return TusinOutcome::Failed;
 }

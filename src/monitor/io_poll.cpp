@@ -1,5 +1,7 @@
 #include "monitor/io_poll.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "base/text_helpers.h"
@@ -8,6 +10,7 @@
 #include "forms/frm_posi.h"
 #include "link/motion_commands.h"
 #include "link/port.h"
+#include "link/request_queue.h"
 #include "monitor/io_override.h"
 #include "monitor/io_show.h"
 #include "monitor/io_state.h"
@@ -24,6 +27,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kFirstPollMs = 2000, kNextPollMs = 500;
+constexpr std::int64_t kOldMs = 2000, kOldBeforeAnyPaceMs = 10'000;
 
 /// Between two requests: whether the poll has still someone to ask for, and the line for it. A hand
 /// on a jog button or on a slide takes it at once.
@@ -72,7 +76,9 @@ TusinOutcome ReadPoints() {
   IoMonitor.Known = true;
   IoMonitor.Stale = false;
   IoMonitor.TrueAt = doors.pump->TimeOfDay();
+  IoMonitor.TrueUs = doors.pump->NowUs();
   IoStateHyoji2();
+  if (IoMonitor.Aged) ShowIoAge();
   return outcome;
 }
 
@@ -86,6 +92,14 @@ TusinOutcome ReadnDisp_PresentPosMoni() {
     IoMonitor.PositionMm[axis] = mm;
   }
   return TusinOutcome::Good;
+}
+
+/// A long list on a slow line makes the values old by itself, a line without an answer does not.
+bool HaveAged() {
+  if (!IoMonitor.IoMonOn || !IoMonitor.Known) return false;
+  const std::int64_t now_us = doors.pump->NowUs();
+  const std::int64_t age_ms = (now_us - IoMonitor.TrueUs) / 1000;
+  return age_ms > kOldMs && (age_ms > IoMonitor.OldAfterMs || TusinQueue.IsUnanswered(now_us));
 }
 
 /// A poll's requests in their order; nothing more is sent once the monitor is to end.
@@ -123,7 +137,10 @@ void PollFailed() {
 void EndTick() {
   Timer& timer = frmIOCheckFG.timerInputOutput1;
   if (AppState.Offline && IoMonitor.IoMonOn) return PollFailed();
-  ShowIoPace();
+  if (const int pace_ms = IoMonitor.Ticks.PaceMs()) {
+    IoMonitor.OldAfterMs = std::max(kOldMs, 2 * std::int64_t{pace_ms});
+  }
+  ShowIoAge();
   if (!IoMonitor.IoStopReq || FlowHoldsLine()) {
     if (IoMonitor.IoMonOn || IoMonitor.IoStopReq) timer.Start(kNextPollMs);
     return;
@@ -136,7 +153,8 @@ void EndTick() {
 void StartIoMonitor() {
   IoMonitor.IoMonOn = True;
   IoMonitor.IoStopReq = IoMonitor.IoStopped = IoMonitor.IoWritePending = False;
-  IoMonitor.Known = IoMonitor.Stale = false;
+  IoMonitor.Known = IoMonitor.Stale = IoMonitor.Aged = false;
+  IoMonitor.OldAfterMs = kOldBeforeAnyPaceMs;
   IoMonitor.TrueAt.clear();
   IoMonitor.ModesSent = -1;
   IoMonitor.InChangedUs.fill(0);
@@ -151,7 +169,7 @@ void StopIoMonitor() {
   frmIOCheckFG.timerInputOutput1.Stop();
   IoMonitor.Ticks.End();
   IoMonitor.IoMonOn = IoMonitor.IoWritePending = False;
-  IoMonitor.Known = IoMonitor.Stale = false;
+  IoMonitor.Known = IoMonitor.Stale = IoMonitor.Aged = false;
   AllLED_Off();
   ForgetShownWatchValues();
   RecordPlotGap();
@@ -165,6 +183,7 @@ void FreezeIoMonitor() {
   IoMonitor.IoMonOn = IoMonitor.IoWritePending = False;
   IoMonitor.IoOutFlip.fill(false);
   IoMonitor.Stale = IoMonitor.Known;
+  IoMonitor.Aged = false;
   IoStateHyoji2();
   TouchWatchLists();
   RecordPlotGap();
@@ -179,6 +198,19 @@ void ShowIoPause() {
   }
   IoStateHyoji2();
   TouchWatchLists();
+  ShowIoAge();
+}
+
+void ShowIoAge() {
+  if (const bool aged = HaveAged(); aged != IoMonitor.Aged) {
+    IoMonitor.Aged = aged;
+    if (aged && !IoMonitor.Parted) {
+      IoMonitor.Parted = true;
+      RecordPlotGap();
+    }
+    IoStateHyoji2();
+    TouchWatchLists();
+  }
   ShowIoPace();
 }
 
@@ -186,7 +218,10 @@ void timerInputOutput1_Timer() {
   frmIOCheckFG.timerInputOutput1.Stop();
   if (IoMonitor.IoStopReq) return EndTick();
   IoMonitor.Parted = false;
-  switch (IoMonitor.Ticks.Run(AskIo)) {
+  frmIOCheckFG.TimerAge.Start();
+  const PollEnd end = IoMonitor.Ticks.Run(AskIo);
+  frmIOCheckFG.TimerAge.Stop();
+  switch (end) {
     case PollEnd::Over:
       if (!IoMonitor.IoStopReq) return;
       break;

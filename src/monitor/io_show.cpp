@@ -18,7 +18,7 @@ namespace {
 constexpr const char *kOn = "O", *kOff = "-";
 constexpr int kForced = 7307, kWaiting = 7308, kFlipTip = 7309, kNameTip = 7306;
 constexpr int kOverrideMsg = 7312, kPace = 7315, kLinePace = 7316, kAge = 7317, kTrueAt = 7318,
-              kNotRunning = 7319, kFirstValues = 7320, kHeldUp = 7327, kKnownAt = 7338;
+              kNotRunning = 7319, kFirstValues = 7320, kKnownAt = 7338;
 constexpr int kAxis1 = 220;
 constexpr int kNameWidth = 1200, kStateWidth = 750, kOwnNameWidth = 2400, kForcedWidth = 1000;
 constexpr std::int64_t kMarkedUs = 1'000'000;
@@ -71,7 +71,7 @@ std::string PaceText() {
     return IoMonitor.Stale ? Text(kTrueAt, IoMonitor.TrueAt) : Text(kNotRunning);
   }
   if (!IoMonitor.Known) return Text(kFirstValues);
-  if (FlowHoldsLine()) return Text(kHeldUp, IoMonitor.TrueAt);
+  if (IoValuesAreOld()) return NotRenewedText(IoMonitor.TrueAt);
   if (ticks.PaceMs() == 0) return Text(kKnownAt, IoMonitor.TrueAt);
   if (!ticks.IsLate()) return Text(kPace, Seconds(ticks.PaceMs()));
   const std::int64_t age = ticks.AgeMs();

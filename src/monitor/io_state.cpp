@@ -16,6 +16,8 @@ void ResetIoMonitor() {
   PlotData = PlotDataRecord{};
 }
 
-bool IoValuesAreOld() { return IoMonitor.Stale || (IoMonitor.Known && FlowHoldsLine()); }
+bool IoValuesAreOld() {
+  return IoMonitor.Stale || (IoMonitor.Known && (IoMonitor.Aged || FlowHoldsLine()));
+}
 
 }  // namespace tr7

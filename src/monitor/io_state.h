@@ -26,10 +26,13 @@ struct IoMonitorRecord {
   Bool16 MsecElapsed;     ///< of `MsecTimer`
   AxisArray<std::optional<double>> PositionMm{};
 
-  bool Known = false;   ///< a poll of this run has told the points
-  bool Stale = false;   ///< what is shown was true once and is no longer renewed
-  bool Parted = false;  ///< a flow has had the line since the running poll began
-  std::string TrueAt;   ///< the time of day of the last good poll
+  bool Known = false;           ///< a poll of this run has told the points
+  bool Stale = false;           ///< what is shown was true once and is no longer renewed
+  bool Aged = false;            ///< it runs, but what is on show is older than its pace explains
+  bool Parted = false;          ///< a flow or a silence has come since the running poll began
+  std::string TrueAt;           ///< the time of day when the points were read last
+  std::int64_t TrueUs = 0;      ///< the same on the pump's clock
+  std::int64_t OldAfterMs = 0;  ///< what is older than this has aged, also where the line answers
   std::array<std::int64_t, kIoPoints> InChangedUs{}, OutChangedUs{};  ///< 0: not seen to change
 
   Bool16 IgnorePending;         ///< the control mode has to be sent
@@ -40,7 +43,7 @@ struct IoMonitorRecord {
 };
 extern IoMonitorRecord IoMonitor;
 
-/// What is on show was true once: the monitor has ended, or a flow has the line.
+/// What is on show was true once: the monitor has ended, a flow has the line, or no answer comes.
 bool IoValuesAreOld();
 
 /// All that the monitor keeps, the recorded plot included, is as at the start.

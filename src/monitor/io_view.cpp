@@ -174,6 +174,7 @@ void InstallTimers() {
     timerInputOutput1_Timer();
     ShowButtons();
   };
+  f.TimerAge.Tick = ShowIoAge;
   f.TimerBtnOff.Tick = [] {
     frmIOCheckFG.TimerBtnOff.Stop();
     IoMonitor.MsecElapsed = True;

@@ -7,11 +7,13 @@
 #include "forms/frm_main.h"
 #include "forms/frm_posi.h"
 #include "link/port.h"
+#include "link/request_queue.h"
 #include "motion/motion_now.h"
 #include "platform/doors.h"
 #include "session/open_port.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
+#include "state/text.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -21,6 +23,7 @@ PollLineRecord PollLine;
 namespace {
 
 constexpr int kUsPerMs = 1000;
+constexpr int kNoAnswerYet = 7197, kLineBusy = 7327, kTrueAt = 7338;
 
 std::int64_t Now() { return doors.pump->NowUs(); }
 
@@ -147,6 +150,11 @@ std::int64_t Poll::AgeMs() const { return (Now() - known_us_) / kUsPerMs; }
 bool Poll::IsLate() const {
   const int limit = ticks_->Interval + ticks_->Interval / 4;
   return on_ && (pace_ms_ > limit || AgeMs() > limit);
+}
+
+std::string NotRenewedText(const std::string& true_at) {
+  if (TusinQueue.untold) return Text(kTrueAt, true_at);
+  return Text(TusinQueue.IsUnanswered(Now()) ? MsgId(kNoAnswerYet) : MsgId(kLineBusy), true_at);
 }
 
 void InstallPolls() {

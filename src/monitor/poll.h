@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "forms/timer.h"
@@ -96,6 +97,9 @@ bool LineIsHeld();
 /// A flow, a motion, a hand on a jog button or a slide that is pushed by hand has the line, whoever
 /// polls beside it.
 bool FlowHoldsLine();
+
+/// When what is on show was true, and why it is not renewed just now.
+std::string NotRenewedText(const std::string& true_at);
 
 /// Wires the frame's timer that serves who comes next.
 void InstallPolls();

@@ -1,6 +1,7 @@
 #include "monitor/task_buttons.h"
 
 #include "base/text_helpers.h"
+#include "link/request_queue.h"
 #include "monitor/task_monitor.h"
 #include "state/app_state.h"
 
@@ -28,7 +29,7 @@ void ShowTaskButtons() {
   f.cmdStartTask.Enabled = free;
   f.cmdStopTask.Enabled =
       free && TaskMonitor.Seen.TaskCount != 0 && TaskMonitor.Seen.Runs(ChosenProgram());
-  f.cmdStopAllTask.Enabled = f.Loaded && !AppState.Offline && AnyMayRun();
+  f.cmdStopAllTask.Enabled = f.Loaded && !LineIsBarred() && AnyMayRun();
 }
 
 }  // namespace tr7

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "base/bool16.h"
 #include "base/indexed_array.h"
@@ -45,6 +46,7 @@ struct TaskMonitorRecord {
   TasksSeen Seen;
   IndexedArray<TaskTimes, kTaskSlots> Times{};
   bool AllSeen = false;         ///< a poll has ended well
+  std::string TrueAt;           ///< the time of day when `Seen` was read
   bool StopAllSent = false;     ///< a stop of all programs is on its way
   std::int32_t StopsAsked = 0;  ///< stops of all programs by the button
   /// A command that the controller took, until the next poll shows what came of it.

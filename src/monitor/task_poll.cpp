@@ -88,6 +88,7 @@ void Take(const TasksSeen& seen) {
   }
   TaskMonitor.Seen = seen;
   TaskMonitor.AllSeen = true;
+  TaskMonitor.TrueAt = doors.pump->TimeOfDay();
 }
 
 TusinOutcome AskTasks() {

@@ -6,8 +6,11 @@
 #include "base/text_helpers.h"
 #include "forms/frm_main.h"
 #include "link/port.h"
+#include "link/request_queue.h"
+#include "link/tusin_wait.h"
 #include "monitor/task_buttons.h"
 #include "monitor/task_command.h"
+#include "monitor/task_lost.h"
 #include "monitor/task_marks.h"
 #include "monitor/task_monitor.h"
 #include "monitor/task_poll.h"
@@ -27,7 +30,8 @@
 namespace tr7 {
 namespace {
 
-constexpr int kTasksMsg = 7114, kPaceMsg = 7115, kAgeMsg = 7116, kStoppedMsg = 7117;
+constexpr int kTasksMsg = 7114, kPaceMsg = 7115, kAgeMsg = 7116, kStoppedMsg = 7117,
+              kNoTaskMsg = 7177;
 constexpr int kRanBefore = 7125;
 
 /// Columns of `flgdProgTask2`; those from the command to the result are the listing's.
@@ -48,14 +52,25 @@ std::string Seconds(std::int64_t ms) {
   return PlainDecimal(RoundToOneDecimal(static_cast<double>(ms) / 1000.0));
 }
 
-/// The view says how old it is, where that is more than it should be.
+/// The view says how old it is, where that is more than it should be; else, while no task runs, how
+/// one starts.
 void ShowPace() {
   const Poll& poll = TaskMonitor.TaskPoll;
   std::string& pace = frmProgTask.lblPace.Caption;
   frmProgTask.lblTasks.Caption = Text(kTasksMsg, std::to_string(TaskMonitor.Seen.TaskCount));
-  if (!poll.IsLate()) return pace.clear();
+  if (!poll.IsLate()) {
+    const bool rests = TaskMonitor.Seen.TaskCount == 0 && !TaskMonitor.TaskStopped;
+    pace = rests ? Text(kNoTaskMsg) : std::string();
+    return;
+  }
   const std::int64_t age = poll.AgeMs();
-  pace = age > poll.PaceMs() ? Text(kAgeMsg, Seconds(age)) : Text(kPaceMsg, Seconds(poll.PaceMs()));
+  if (TusinQueue.IsUnanswered(doors.pump->NowUs())) {
+    pace = NotRenewedText(TaskMonitor.TrueAt);
+  } else if (age > poll.PaceMs()) {
+    pace = Text(kAgeMsg, Seconds(age));
+  } else {
+    pace = Text(kPaceMsg, Seconds(poll.PaceMs()));
+  }
 }
 
 /// How many tasks run; -1 after the user has been told.
@@ -73,7 +88,7 @@ void GiveUpPolling() {
   TaskMonitor.TaskStopped = True;
   TaskMonitor.TaskPoll.End();
   ClearRunningSteps();
-  frmProgTask.lblPace.Caption = Text(kStoppedMsg, doors.pump->TimeOfDay());
+  frmProgTask.lblPace.Caption = Text(kStoppedMsg, TaskMonitor.TrueAt);
   ShowTaskButtons();
 }
 
@@ -147,6 +162,7 @@ void LoadTaskMonitor() {
   const int count = CountAtOpening();
   TaskMonitor.Seen.TaskCount = static_cast<std::int16_t>(count < 0 ? 0 : count);
   TaskMonitor.TaskStopped = count < 0;
+  TaskMonitor.TrueAt = doors.pump->TimeOfDay();
   TaskMonitor.TaskPoll.Begin();
   TaskMonitor.TaskPoll.Soon();
   f.TimerProgramTask.Start();
@@ -235,6 +251,7 @@ void InstallTaskMonitor() {
     SettleTaskCommand();
     return false;
   };
+  FailureFollowers.WhatGoesOn = WordsOfTasks;
   f.CmdMuko = ShowTaskButtons;
   f.CmdYuko = [] {
     DispStepNo(frmProgTask.flgdProgTask);

@@ -50,6 +50,7 @@ void CopyLog() {
 void InstallMotionLogView() {
   FrmMotionLog& f = frmMotionLog;
   f.Load = f.Activate = ShowLog;
+  f.flgdLog.WhenEmpty = 7175;
   f.cmdCopy.Click = CopyLog;
   f.cmdClose.Click = [] { CloseView(frmMotionLog, CloseReason::Code); };
   f.OpenedBy = &frmMain.mnuHelpMotionLog;

@@ -66,6 +66,7 @@ void InstallMotion() {
   InstallMotionLogView();
   PosiMoveTest& f = frmPosi.Move;
   f.cmdHome.Click = cmdHome_Click;
+  frmPosi.Readout.TimerAge.Tick = LookAtPresentPosAge;
   f.timerEventCheck.Tick = ShowHomeState;
   // An idle tool is not woken for a lamp that tells the truth.
   f.timerEventCheck.HasWork = [] {

@@ -36,7 +36,7 @@ Rest WaitForRest(TusinFailure& failure) {
     // A stop cuts short what is asked meanwhile, and the axes have their ramp still before them.
     if (StopAsked()) {
       failure = {};
-      if (rest != 1 && !MotionNow.MayRunOn) WaitForBraking();
+      ShowPosBehindStop(rest == 1 || (!MotionNow.MayRunOn && WaitForBraking()));
       return Rest::Stopped;
     }
     if (rest != 0) return rest == 1 ? Rest::Standing : Rest::Failed;

@@ -7,6 +7,9 @@
 #include "device/unit_conversion.h"
 #include "forms/frm_posi.h"
 #include "link/motion_commands.h"
+#include "link/request_queue.h"
+#include "motion/motion_now.h"
+#include "platform/doors.h"
 #include "state/app_state.h"
 #include "state/axes_in_use.h"
 #include "state/text.h"
@@ -16,6 +19,9 @@ namespace tr7 {
 PresentPosRecord PresentPos;
 
 namespace {
+
+constexpr int kTrueAt = 7338;
+constexpr std::int64_t kOldUs = 2'000'000;
 
 std::string InDisplayUnit(int axis, std::int32_t pulses) {
   if (!AppState.DispMmUnit) return std::to_string(pulses);
@@ -28,12 +34,23 @@ std::string InDisplayUnit(int axis, std::int32_t pulses) {
 
 void ShowPresentPos() {
   PosiReadout& r = frmPosi.Readout;
+  const bool old = PresentPos.Known && PresentPos.Old;
   for (int axis = 0; axis < kAxes; ++axis) {
     r.lblPosi[axis].Caption =
         PresentPos.Known ? InDisplayUnit(axis, PresentPos.Pulses[axis]) : std::string("-");
+    r.lblPosi[axis].Enabled = !old;
+    r.lblPosi[axis].ToolTip = old ? Text(kTrueAt, PresentPos.TrueAt) : std::string();
     r.lblStroke[axis].Caption = "0 - " + InDisplayUnit(axis, AppState.MaxPulse[axis]);
   }
   r.lblPosiUnit.Caption = Text(5278) + " " + Text(AppState.DispMmUnit ? MsgId(5259) : MsgId(5258));
+}
+
+void LookAtPresentPosAge() {
+  if (MotionNow.Kind == Motion::None) return frmPosi.Readout.TimerAge.Stop();
+  const std::int64_t now_us = doors.pump->NowUs();
+  if (now_us - PresentPos.TrueUs <= kOldUs || !TusinQueue.IsUnanswered(now_us)) return;
+  PresentPos.Old = true;
+  ShowPresentPos();
 }
 
 bool StandsAtEnd(int jog_button) {
@@ -48,9 +65,20 @@ void ForgetPresentPos() {
   ShowPresentPos();
 }
 
+void ShowPosBehindStop(bool stand) {
+  TusinFailure unheard;
+  if (stand && ReadnDisp_PresentPos(&unheard) == 0) return;
+  PresentPos.Known = false;
+  ShowPresentPos();
+}
+
 int ReadnDisp_PresentPos(TusinFailure* failure) {
   if (ReadPresentPosFromCt(PresentPos.Pulses, failure) != 0) return 1;
   PresentPos.Known = true;
+  PresentPos.Old = false;
+  PresentPos.TrueAt = doors.pump->TimeOfDay();
+  PresentPos.TrueUs = doors.pump->NowUs();
+  if (!frmPosi.Readout.TimerAge.Enabled) frmPosi.Readout.TimerAge.Start();
   ShowPresentPos();
   frmPosi.Readout.lblKanryoiti.Caption = frmPosi.Readout.lblkanryoNo.Caption;
   return 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "base/axes.h"
 #include "link/tusin_wait.h"
@@ -11,6 +12,9 @@ namespace tr7 {
 struct PresentPosRecord {
   AxisArray<std::int32_t> Pulses{};
   bool Known = false;
+  bool Old = false;         ///< axes move, and no answer has come since
+  std::string TrueAt;       ///< the time of day when they were read
+  std::int64_t TrueUs = 0;  ///< the same on the pump's clock
 };
 extern PresentPosRecord PresentPos;
 
@@ -24,7 +28,14 @@ bool StandsAtEnd(int jog_button);
 /// Another session: where its axes stand nobody knows yet.
 void ForgetPresentPos();
 
-/// Shows what is known, in the display unit.
+/// Shows what is known, in the display unit; grey where it is old.
 void ShowPresentPos();
+
+/// While axes move: where no answer comes any more, the positions on show are old.
+void LookAtPresentPosAge();
+
+/// Behind a stop the axes are not where they were seen last: shows where they have come to rest, or
+/// that nobody knows. `stand`: they are known to. Nobody is told of a failure.
+void ShowPosBehindStop(bool stand);
 
 }  // namespace tr7

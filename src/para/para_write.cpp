@@ -20,6 +20,7 @@
 #include "state/views.h"
 #include "steps/held_write.h"
 #include "steps/transfer_scope.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -59,6 +60,7 @@ AxesOf TakeAxesOfCt() {
 AxesOf AgreeOnAxes() {
   if (AppState.AxisMuko == AppState.AxisMukoOfCt) return AxesOf::Both;
   switch (SelectionDialog({.Title = Text(471),
+                           .What = 7190,
                            .Prompt = Text(472),
                            .Choices = {Text(473), Text(474)},
                            .Details = AxesDifference()})) {
@@ -75,8 +77,7 @@ bool AxesMayBeWritten() {
   std::string counts;
   const int more = CheckCtAxisAndParaAxis(&counts);
   if (more != 1) return more == 0;
-  return MsgBoxWithDetails(TwoLines(631, 632) + "\n" + Text(633), counts, MsgButtons::YesNo,
-                           MsgIcon::Question) == MsgAnswer::Yes;
+  return AskYesToLose(TwoLines(631, 632) + "\n" + Text(633), counts);
 }
 
 bool ViewIsTaken(AxesOf axes) {
@@ -106,7 +107,7 @@ void Reflect(AxesOnTrial& before) {
 }
 
 void TellWritten(bool other_mode) {
-  TellDone(1527);
+  TellWriteDone(1527);
   if (!other_mode) return;
   AppState.CtModePending = True;
   MsgBox(TwoLines(492, 497), MsgButtons::Ok, MsgIcon::Information);
@@ -116,7 +117,7 @@ void TellWritten(bool other_mode) {
 bool WriteAndTell() {
   FilledCheck filled;
   const TransferScope transfer;
-  if (!AskYes(470) || !ConnectOrOpenPort() || !ModeIsRead()) return false;
+  if (!AskYesToLose(Text(470)) || !ConnectOrOpenPort() || !ModeIsRead()) return false;
   const bool ct_runs_programs = AppState.CtModeOfCt;
   AxesOnTrial before;
   const AxesOf axes = AgreeOnAxes();

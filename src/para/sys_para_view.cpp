@@ -22,6 +22,7 @@
 #include "state/views.h"
 #include "steps/held_write.h"
 #include "steps/transfer_scope.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -55,7 +56,7 @@ bool TakeFields() {
 
 void WriteSysParaFlow() {
   const TransferScope transfer;
-  if (!AskYes(475) || !ConnectOrOpenPort() || !TakeFields()) return;
+  if (!AskYesToLose(Text(475)) || !ConnectOrOpenPort() || !TakeFields()) return;
   std::optional<Outcome> sent;  // nothing: why it was not begun has been told
   static_cast<void>(WriteHeld([&] {
     sent = WriteSysParaToCt();
@@ -66,7 +67,7 @@ void WriteSysParaFlow() {
   SysParaRead = SysPara;
   SysParaKnown = True;
   MarkSysParaFields();
-  TellDone(1527);
+  TellWriteDone(1527);
 }
 
 void FieldEntered(std::size_t slot) {

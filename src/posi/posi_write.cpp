@@ -128,7 +128,7 @@ bool MayFillUnusedAxes(const PosiRange& range) {
   for (const int axis : unused)
     names += (names.empty() ? "" : ", ") + Text(MsgId::At(kMsgAxis1, axis));
   const std::string numbers = std::to_string(range.first) + "-" + std::to_string(range.last);
-  return MsgBox(Text(kMsgFillers, names, numbers), MsgButtons::OkCancel) == MsgAnswer::Ok;
+  return AskToLose(Text(kMsgFillers, names, numbers), MsgIcon::Warning);
 }
 
 bool StateIsHeard() {
@@ -170,7 +170,7 @@ void PosidataLoadtoCt() {
   const WholeRangeAfter whole_range;
   if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return;
   const std::optional<PosiRange> range = AskRange();
-  if (!range || PosiDataCheck3() != 0 || !AskOk(375)) return;
+  if (!range || PosiDataCheck3() != 0 || !AskToLose(WithRange(375, *range))) return;
   if (!GoOnlineAndRecheck() || !MayFillUnusedAxes(*range)) return;
   AppState.CancelRequested = False;
   if (!AxesStandStill()) return;
@@ -185,7 +185,7 @@ void PosidataLoadtoCt() {
   }
   static_cast<void>(held.Release());  // a failure has been told; the positions are stored
   if (outcome == Outcome::Done) {
-    TellDone(376);
+    TellWriteDone(376);
   } else {
     // The line that the stop has cut short stands in the range that was stored.
     MsgBox(WithReason(Text(kMsgStopped, std::to_string(next)), FailedRecordText()), MsgButtons::Ok,

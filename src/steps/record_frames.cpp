@@ -35,6 +35,7 @@ Outcome SendEchoed(const RecordFrame& frame, TusinSent* sent) {
 Outcome SendRecord(const RecordFrame& frame, const std::string& name) {
   TusinSent sent;
   const Outcome outcome = SendEchoed(frame, &sent);
+  WriteTaken.Repeated |= sent.sends > 1;
   if (outcome == Outcome::Done) {
     if (WriteTaken.First.empty()) WriteTaken.First = name;
     WriteTaken.Last = name;
@@ -49,6 +50,7 @@ Outcome SendStore(const RecordFrame& frame) {
   using enum WriteTakenRecord::Storing;
   TusinSent sent;
   const Outcome outcome = SendEchoed(frame, &sent);
+  WriteTaken.Repeated |= sent.sends > 1;
   if (outcome == Outcome::Done) {
     WriteTaken.Stored = Done;
   } else if (sent.sends > 0) {

@@ -1,5 +1,6 @@
 #include "steps/write_taken.h"
 
+#include "state/message_box.h"
 #include "state/text.h"
 
 namespace tr7 {
@@ -13,6 +14,7 @@ constexpr int kMsgTaken = 6510;
 constexpr int kMsgFromTo = 6511;
 constexpr int kMsgRefused = 6512, kMsgTakenOrNot = 6513;
 constexpr int kMsgAsBefore = 6514, kMsgNotStored = 6515;
+constexpr int kMsgRepeated = 6524;
 constexpr int kMsgStoreRefused = 6516, kMsgStoredOrNot = 6517;
 
 MsgId StoredId() {
@@ -46,6 +48,15 @@ std::string WriteTakenText() {
   }
   if (!taken.Failed.empty()) text += FailedRecordText() + "\n";
   return text + Text(StoredId());
+}
+
+void TellWriteDone(MsgId id) {
+  if (!WriteTaken.Repeated) return TellDone(id);
+  MsgBox(Text(id) + "\n\n" + Text(kMsgRepeated), MsgButtons::Ok, MsgIcon::Warning);
+}
+
+void WarnOfRepeats() {
+  if (WriteTaken.Repeated) MsgBox(Text(kMsgRepeated), MsgButtons::Ok, MsgIcon::Warning);
 }
 
 }  // namespace tr7

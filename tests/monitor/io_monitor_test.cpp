@@ -141,6 +141,14 @@ TEST_F(IoMonitorTest, NothingIsForcedBeforeThePointsAreKnownNorWhenTheyAreNot) {
   After(3000);
   EXPECT_EQ(SentLines(3).find("0WO"), std::string::npos);
   Spoil(FaultKind::kSilence, "0RO", 0);
+  pump.After(3500 * kMs, [this] {
+    EXPECT_TRUE(io.flgdInput.IsUnused(0, kPointState) && !io.lblCurrentPos[0].Enabled);
+    EXPECT_EQ(f.lblPace.Caption, Text(7197, IoMonitor.TrueAt));
+    port.Ct().ClearFaults();
+  });
+  After(12'000);
+  EXPECT_TRUE(!io.flgdInput.IsUnused(0, kPointState) && io.lblCurrentPos[0].Enabled);
+  Spoil(FaultKind::kSilence, "0RO", 0);
   After(30'000);
   EXPECT_EQ(forms.boxes.size(), 1u);
   ExpectOffline();

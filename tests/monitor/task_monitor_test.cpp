@@ -84,13 +84,23 @@ TEST_F(TaskMonitorTest, TheRunningStepIsMarkedWhereItsListingIsOpenUntilTheLineF
   EXPECT_EQ(view.flgdProg.AtWork(), (RowAtWork{2, true}));
   port.Ct().SetSilent(true);
   pump.After(2'500'000, [] { frmProgTask.cmdStopTask.Press(); });  // a poll waits in vain
+  pump.After(3'000'000,
+             [] { EXPECT_EQ(frmProgTask.lblPace.Caption, Text(7197, TaskMonitor.TrueAt)); });
   After(12'000);
   ASSERT_EQ(forms.boxes.size(), 2u);
+  EXPECT_TRUE(forms.boxes[0].Text.ends_with(Text(7198)));
   EXPECT_EQ(Boxes()[1], Text(7112, "3"));
   EXPECT_EQ(MotionLog.back().outcome, Text(5412));
   EXPECT_EQ(Shown(), "3 2 TIM 5");
   EXPECT_FALSE(frmProgTask.Loaded || frmProgTask.TimerProgramTask.Enabled);
   EXPECT_EQ(view.flgdProg.AtWork(), RowAtWork{});
+}
+
+TEST_F(TaskMonitorTest, AnAlarmIsToldWithWhatRanBefore) {
+  FramesOf(3, frmProgTask.cmdStartTask);
+  port.Ct().RaiseAlarm({'1', '3', 'D'}, pump.NowUs());
+  After(4000);
+  EXPECT_TRUE(forms.LastBox().ends_with("\nPRG No. 3   STP No. 2")) << forms.LastBox();
 }
 
 }  // namespace

@@ -85,6 +85,7 @@ TEST_F(MoveTest, APauseKeepsThePlaceAndAStopForgetsIt) {
     pump.After(120'000, [&row] { row.end.Press(); });
     frmPosi.Move.cmdSelectMove.Press();
     EXPECT_FALSE(Moves()) << Acts() << forms.LastBox();
+    EXPECT_EQ(frmPosi.Readout.lblPosi[0].Caption, std::to_string(Pulses(1)));
     const bool paused = &row.end != &frmPosi.Move.cmdStop;
     EXPECT_EQ(frmPosi.Move.lblNextNo.Caption.starts_with("Row "), paused);
     EXPECT_EQ(frmPosi.Move.cmdStop.Enabled, paused);

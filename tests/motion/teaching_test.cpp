@@ -180,7 +180,8 @@ TEST_F(JogTest, APortThatVanishesLetsTheButtonGoAndIsTold) {
   StartTeaching();
   port.Vanish();
   pump.RunFor(1'000'000);
-  EXPECT_EQ(Boxes(), Texts{Text(5905, "sim", "simulated fault") + "\n\n" + Text(5920)});
+  EXPECT_EQ(Boxes(), Texts{Text(5905, "sim", "simulated fault") + "\n\n" + Text(5920) + "\n\n" +
+                           Text(7135)});
   EXPECT_TRUE(AppState.Offline && frmPosi.Teach.cmdJOGend.Enabled);
 }
 

@@ -102,10 +102,17 @@ TEST_F(WriteTest, TheRangeGoesOutAndIsStored) {
   EXPECT_EQ(port.sent, kBefore + Sent(2) + Sent(3) + Sent(4) + "0WA002004\r\n" + kRelease);
   EXPECT_EQ(StoredVel(1), untouched);
   for (int n = 2; n <= 4; ++n) EXPECT_EQ(StoredVel(n), 47);
-  EXPECT_EQ(Boxes(), (Texts{Text(375), Text(376)}));
+  EXPECT_EQ(Boxes(), (Texts{Text(375) + "\n\n" + Text(7192, "2", "4"), Text(376)}));
   EXPECT_TRUE(frmPosi.PosiChanged) << "written is not saved";
   EXPECT_EQ(OperationRange(), (PosiRange{1, 5})) << "the next operation means the whole table";
   EXPECT_EQ(forms.focus, &frmPosi.flgdData);
+}
+
+TEST_F(WriteTest, APowerFailureAtTheStoreIsNoSilentLoss) {
+  Spoil(qvr7sim::FaultKind::kPowerCycle, "0WA");
+  Write(2, 4);
+  EXPECT_NE(StoredVel(2), 47);
+  EXPECT_EQ(forms.LastBox(), Text(376) + "\n\n" + Text(6524));
 }
 
 TEST_F(WriteTest, NothingIsSentBeforeTheUserHasAgreed) {
