@@ -18,7 +18,8 @@ struct DataKind {
   bool (*MayBeSent)();      ///< the same before a write
   void (*StageFromTable)();
   void (*TakeStage)();         ///< the stage becomes the table and is shown
-  void (*MarkSaved)();         ///< a file or the controller holds the table too
+  bool (*IsChanged)();         ///< neither a file nor the controller holds the table
+  void (*MarkSaved)();         ///< one of them does
   std::string (*Differing)();  ///< numbers that differ between table and stage: "3,7,"
   std::string (*Details)();    ///< the same with what both hold, a line each
 

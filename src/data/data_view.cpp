@@ -1,5 +1,6 @@
 #include "data/data_view.h"
 
+#include "state/text_file.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -13,6 +14,8 @@ void InstallDataButtons(View& view, Menu& menu, const DataButtons& buttons, cons
   buttons.Save.Click = flow(SaveDataFile);
   buttons.VerifyFile.Click = flow(VerifyDataToFile);
   buttons.Close.Click = [&view] { CloseView(view, CloseReason::Code); };
+  view.IsChanged = kind.IsChanged;
+  view.FileName = [&kind] { return FileTitle(*kind.Path); };
   menu.Click = [&view] { ShowOrBringToFront(view); };
 }
 

@@ -10,7 +10,7 @@ struct DataButtons {
   CommandButton &Read, &Write, &VerifyCt, &Open, &Save, &VerifyFile, &Close;
 };
 
-/// Wires them, the view's open command and its menu.
+/// Wires them, the view's open command, its menu, and what its title says of the data.
 void InstallDataButtons(View& view, Menu& menu, const DataButtons& buttons, const DataKind& kind);
 
 }  // namespace tr7

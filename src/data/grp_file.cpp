@@ -70,7 +70,7 @@ int GrpFileRead(const std::string& path) {
   GrpFlags.GrpFileRefused = False;
   GrpFlags.GrpFileFaultText.clear();
   std::string text;
-  const TextFileResult file = ReadTextFile(path, text);
+  const TextFileResult file = ReadDataFile(path, text);
   if (file.ok) return ReadContent(text, path);
   GrpFlags.GrpFileFaultText = file.words;
   return 1;

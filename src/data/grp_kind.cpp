@@ -62,6 +62,8 @@ void TakeStage() {
   GrpShow();
 }
 
+bool IsChanged() { return GrpTable != GrpTableRecord{} && GrpTable != GrpSaved; }
+
 std::string Differing() {
   GrpStageCompare();
   return GrpFlags.GrpSyogoList;
@@ -94,6 +96,7 @@ const DataKind& GrpKind() {
                              .MayBeSent = MayBeSent,
                              .StageFromTable = GrpStageFromTable,
                              .TakeStage = TakeStage,
+                             .IsChanged = IsChanged,
                              .MarkSaved = [] { GrpSaved = GrpTable; },
                              .Differing = Differing,
                              .Details = Details,

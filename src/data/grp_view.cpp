@@ -38,6 +38,7 @@ void ForgetGroups() { groups_aside.Keep(GrpTable, GrpTable == GrpSaved); }
 void BringBack() {
   StoreShownGroups();
   groups_aside.BringBack(GrpTable, GrpSaved);
+  GrpFlags.GrpFilePath.clear();  // which file they came from is not kept
   groups_aside.Offer(frmGrp.cmdGrpRestore);
   GrpShow();
 }
@@ -62,11 +63,9 @@ bool RefusesToClose(CloseReason) {
   return FlowKeepsViewsOpen();
 }
 
-bool GroupsAreChanged() { return GrpTable != GrpTableRecord{} && GrpTable != GrpSaved; }
-
 bool RefusesToEnd() {
   StoreShownGroups();
-  return groups_aside.RefusesToEnd(frmGrp.Loaded && GroupsAreChanged(), frmGrp.Tag);
+  return groups_aside.RefusesToEnd(frmGrp.Loaded && GrpKind().IsChanged(), frmGrp.Tag);
 }
 
 KeepKind KeptGroups() {
@@ -101,7 +100,6 @@ void InstallGrpView() {
   f.Load = LoadGroups;
   f.QueryUnload = RefusesToClose;
   f.QueryEnd = RefusesToEnd;
-  f.IsChanged = GroupsAreChanged;
   f.Unload = ForgetGroups;
   // What the groups cover may be other positions now. In program mode an open view stays: only the
   // menu goes, the data is the user's.

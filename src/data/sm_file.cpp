@@ -61,7 +61,7 @@ int ReadContent(const std::string& text, const std::string& path) {
 int OpenSMFile(const std::string& path) {
   SmFlags.SmFileFaultText.clear();
   std::string text;
-  const TextFileResult file = ReadTextFile(path, text);
+  const TextFileResult file = ReadDataFile(path, text);
   return file.ok ? ReadContent(text, path) : Bad(file.words);
 }
 

@@ -61,6 +61,8 @@ void TakeStage() {
   SmShow();
 }
 
+bool IsChanged() { return SmTable != SmTableRecord{} && SmTable != SmSaved; }
+
 std::string Differing() {
   SmStageCompare();
   return SmFlags.SmSyogoList;
@@ -99,6 +101,7 @@ const DataKind& SmKind() {
                              .MayBeSent = AreGood,
                              .StageFromTable = SmStageFromTable,
                              .TakeStage = TakeStage,
+                             .IsChanged = IsChanged,
                              .MarkSaved = [] { SmSaved = SmTable; },
                              .Differing = Differing,
                              .Details = Details,

@@ -119,15 +119,14 @@ void ForgetMacros() {
 void BringBack() {
   TakePicked();
   macros_aside.BringBack(SmTable, SmSaved);
+  SmFlags.SmFilePath.clear();  // which file they came from is not kept
   macros_aside.Offer(frmSqMcr.cmdSmRestore);
   SmShow();
 }
 
-bool MacrosAreChanged() { return SmTable != SmTableRecord{} && SmTable != SmSaved; }
-
 bool RefusesToEnd() {
   TakePicked();
-  return macros_aside.RefusesToEnd(frmSqMcr.Loaded && MacrosAreChanged(), frmSqMcr.Tag);
+  return macros_aside.RefusesToEnd(frmSqMcr.Loaded && SmKind().IsChanged(), frmSqMcr.Tag);
 }
 
 KeepKind KeptMacros() {
@@ -169,7 +168,6 @@ void InstallSmView() {
   f.Load = LoadMacros;
   f.QueryUnload = [](CloseReason) { return FlowKeepsViewsOpen(); };
   f.QueryEnd = RefusesToEnd;
-  f.IsChanged = MacrosAreChanged;
   f.Unload = ForgetMacros;
   f.CmdMuko = [] { SwitchCommands(false); };
   f.CmdYuko = [] { SwitchCommands(true); };

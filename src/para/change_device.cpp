@@ -30,8 +30,11 @@ enum class Source { Choice, ParaFile };
 
 /// False: the user leaves.
 bool AskSource(Source& source) {
-  const Selection choice = SelectionDialog(
-      {.Title = Text(471), .Prompt = Text(41), .Choices = {Text(42), Text(43)}, .OkIsNext = true});
+  const Selection choice = SelectionDialog({.Title = Text(471),
+                                            .What = 7191,
+                                            .Prompt = Text(41),
+                                            .Choices = {Text(42), Text(43)},
+                                            .OkIsNext = true});
   source = choice == Selection::First ? Source::Choice : Source::ParaFile;
   return choice != Selection::Cancelled;
 }

@@ -62,7 +62,7 @@ void SwitchDialog(bool on) {
 /// In the millimetre view the loaded positions will follow the devices.
 bool WarnBeforeWrite() {
   if (!AppState.DispMmUnit || AppState.PosiFirstNo < 1) return true;
-  return MsgBox(TwoLines(1505, 1506), MsgButtons::OkCancel) == MsgAnswer::Ok;
+  return AskToLose(TwoLines(1505, 1506), MsgIcon::Warning);
 }
 
 /// What the controller says of its axes at rest is held against its own axes. Offline, those of the

@@ -157,7 +157,7 @@ int ReadParaTable(const std::string& path) {
   ParaTable.Clear();
   ParaFlags.FileFaultText.clear();
   std::string text;
-  const TextFileResult file = ReadTextFile(path, text);
+  const TextFileResult file = ReadDataFile(path, text);
   return file.ok ? ReadContent(text, path) : Bad(file.words);
 }
 

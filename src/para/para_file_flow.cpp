@@ -11,6 +11,7 @@
 #include "para/param_set.h"
 #include "state/busy_scope.h"
 #include "state/file_kind.h"
+#include "state/files_here.h"
 #include "state/message_box.h"
 #include "state/text.h"
 #include "steps/file_steps.h"
@@ -83,6 +84,7 @@ int SaveParaToFile() {
   }
   MarkParaSaved();
   frmParameta2.FilePath = *path;
+  FileIsShown(*path);
   TellDone(14);
   return 0;
 }
@@ -99,6 +101,7 @@ void OpenParaFile() {
   ParametaHyoji();
   MarkParaSaved();
   frmParameta2.FilePath = *path;
+  FileIsShown(*path);
 }
 
 bool ParaFileIsRead(const std::string& path) {

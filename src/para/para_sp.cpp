@@ -13,9 +13,7 @@ namespace {
 
 void SpSwitchClicked() {
   CheckBox& box = frmParameta2.chkTokuParaChange;
-  if (box.Value && MsgBox(TwoLines(671, 672), MsgButtons::YesNo) != MsgAnswer::Yes) {
-    box.Value = false;
-  }
+  if (box.Value && !AskYesWarned(TwoLines(671, 672))) box.Value = false;
   EnableParaControls();
 }
 

@@ -19,6 +19,7 @@
 #include "session/followers.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
+#include "state/text_file.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -100,6 +101,7 @@ void InstallParaView() {
   f.Unload = UnloadParaView;
   f.QueryUnload = QueryUnloadView;
   f.IsChanged = ParaIsChanged;
+  f.FileName = [] { return FileTitle(frmParameta2.FilePath); };
   f.CmdMuko = CommandsGoOff;
   f.CmdYuko = CommandsComeOn;
   f.cmdParaRead.Click = GetParametaValue;

@@ -95,6 +95,7 @@ std::string DevicesThatDiffer() {
 /// Asks by whose devices the positions are shown; those are in use then.
 bool AskAndFollow(Choice& choice) {
   const Selection answer = SelectionDialog2({.Title = Text(471),
+                                             .What = 7189,
                                              .Prompt = Text(44),
                                              .Choices = {Text(45), Text(46), Text(47)},
                                              .Details = DevicesThatDiffer()});

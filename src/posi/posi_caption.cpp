@@ -2,6 +2,7 @@
 
 #include "forms/frm_posi.h"
 #include "posi/posi_table.h"
+#include "state/files_here.h"
 #include "state/text.h"
 #include "state/text_file.h"
 
@@ -20,6 +21,7 @@ void SetPosiTableFile(const std::string& path) {
   const std::size_t length = usual ? dot : path.size();
   PosiTable.FileEnding = path.substr(length);
   SetPosiTableName(path.substr(0, length));
+  FileIsShown(path);
 }
 
 std::string PosiTablePath() { return PosiTable.Name + PosiTable.FileEnding; }

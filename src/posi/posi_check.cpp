@@ -196,6 +196,18 @@ bool PosiDataCheckAll() {
   return PosiDataCheck3() == 0;
 }
 
+std::bitset<kPosiSlots> RefusedLines() {
+  std::bitset<kPosiSlots> refused;
+  if (!ConversionTrouble().empty()) return refused;
+  ClearResult();
+  for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
+    CheckLine(n);
+    refused[n] = PosiTable.PosiLineBad[n];
+  }
+  ClearResult();
+  return refused;
+}
+
 int Check_flgdLineNo() {
   if (AppState.PosiFirstNo >= 1 && frmPosi.flgdData.Rows() > kPosiHeaderRows) return 0;
   MsgBox(TwoLines(433, 434));

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <bitset>
 #include <string>
+
+#include "posi/posi_table.h"
 
 namespace tr7 {
 
@@ -15,6 +18,10 @@ int PosiDataCheck3Prg();
 /// The same over the whole loaded range, which becomes the range of the operation: for whoever
 /// lets the user narrow it afterwards or not at all. True: all is good.
 [[nodiscard]] bool PosiDataCheckAll();
+
+/// The loaded lines that the check would refuse; nothing is shown, and the table is as it was. None
+/// where an axis has no device to convert by: the check tells that first.
+std::bitset<kPosiSlots> RefusedLines();
 
 /// Which axis in use has no device to convert by, in the user's language; empty: none.
 std::string ConversionTrouble();

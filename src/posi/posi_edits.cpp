@@ -60,8 +60,12 @@ bool ShowsPosiLine(int line, const PosiLine& of) {
 }
 
 PosiShot PosiShotOf(const PosiShot& like) {
-  PosiShot shot{
-      {}, AppState.PosiFirstNo, frmPosi.flgdData.Row, frmPosi.flgdData.Col, PosiUndo.commits};
+  PosiShot shot{{},
+                AppState.PosiFirstNo,
+                frmPosi.flgdData.Row,
+                frmPosi.flgdData.Col,
+                PosiUndo.commits,
+                static_cast<bool>(frmPosi.PosiChanged)};
   const int lines = Lines(), before = static_cast<int>(like.lines.size());
   const auto same = [&](int line, int old) {
     const PosiLine& of = *like.lines[static_cast<std::size_t>(old)];
@@ -100,6 +104,12 @@ PosiEditStep::~PosiEditStep() {
   if (--PosiUndo.steps_open > 0 || PosiUndo.done.empty()) return;
   if (ShowsShot(PosiUndo.done.back())) PosiUndo.done.pop_back();
   ShowInMenu();
+}
+
+void PosiEditsAreSaved() {
+  for (auto* shots : {&PosiUndo.done, &PosiUndo.undone}) {
+    for (PosiShot& shot : *shots) shot.changed = true;
+  }
 }
 
 void ForgetPosiEdits() {

@@ -24,7 +24,8 @@ struct PosiShot {
   std::vector<std::shared_ptr<const PosiLine>> lines;
   std::int16_t first = 0;  ///< number of the first line; 0: there is none
   int row = 0, col = 0;
-  int commits = 0;  ///< how often the grid had gone into the table by then
+  int commits = 0;      ///< how often the grid had gone into the table by then
+  bool changed = true;  ///< no file holds this
 };
 
 struct PosiUndoRecord {
@@ -51,6 +52,9 @@ class PosiEditStep {
 };
 
 void ForgetPosiEdits();
+
+/// What the grid shows is in a file now, and none of what can be brought back.
+void PosiEditsAreSaved();
 
 /// The grid as it is; lines at head and end that stand in `like` too are shared with it.
 PosiShot PosiShotOf(const PosiShot& like);

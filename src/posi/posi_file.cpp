@@ -162,7 +162,7 @@ int ReadContent(const std::string& text, const std::string& path, Layout layout,
 int ReadFile(const std::string& path, Layout layout, PosiFileTrouble& trouble) {
   trouble = PosiFileTrouble{};
   std::string text;
-  const TextFileResult file = ReadTextFile(path, text, kPosiFileLimit);
+  const TextFileResult file = ReadDataFile(path, text, kPosiFileLimit);
   if (file.ok) return ReadContent(text, path, layout, trouble);
   AppState.PosiFileNotOurs = True;
   trouble = {file.fault != FileFault::None && file.fault != FileFault::TooLarge, file.words};
@@ -184,20 +184,24 @@ int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble) {
   return ReadFile(path, Layout::Oldest, trouble);
 }
 
-std::string NumbersLeftOut(int first, int last) {
+std::string NumberRuns(const std::bitset<kPosiSlots>& numbers, int first, int last) {
   constexpr int kMostRuns = 20;
-  const auto left_out = [last](int n) { return n <= last && !PosiTable.StageHolds[n]; };
+  const auto meant = [&numbers, last](int n) { return n <= last && numbers[n]; };
   std::string text;
   int runs = 0;
   for (int n = first; n <= last; ++n) {
-    if (!left_out(n)) continue;
+    if (!meant(n)) continue;
     if (++runs > kMostRuns) return text + ", ...";
     const int start = n;
-    while (left_out(n + 1)) ++n;
+    while (meant(n + 1)) ++n;
     text += (runs > 1 ? ", " : "") + std::to_string(start);
     if (n > start) text += "-" + std::to_string(n);
   }
   return text;
+}
+
+std::string NumbersLeftOut(int first, int last) {
+  return NumberRuns(~PosiTable.StageHolds, first, last);
 }
 
 void ShowFileAges() {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include "posi/posi_table.h"
 
 namespace tr7 {
 
@@ -28,8 +31,9 @@ int ReadPosiText(const std::string& utf8, PosiFileTrouble& trouble);
 /// The same for the oldest layout: no mode, no words, 20 columns behind each number.
 int ReadOldPosiFile(const std::string& path, PosiFileTrouble& trouble);
 
-/// The numbers from first to last that the file read last does not hold, such as "3-5, 9"; empty:
-/// it holds them all. A long list ends in dots.
+/// Those of the numbers from first to last as a text, such as "3-5, 9". A long list ends in dots.
+std::string NumberRuns(const std::bitset<kPosiSlots>& numbers, int first, int last);
+/// The same of the numbers that the file read last does not hold; empty: it holds them all.
 std::string NumbersLeftOut(int first, int last);
 
 /// Shows "(New)" or "(Old)" for each axis in use as the file read last says.

@@ -29,6 +29,14 @@ std::optional<std::string> AskPath(MsgId title_id) {
   return path;
 }
 
+/// The table's own file, or one that the user names.
+std::optional<std::string> PathToSave() {
+  if (!PosiTableHasFile()) return AskPath(423);
+  const std::string path = PosiTablePath();
+  frmPosi.SaveCancelled = !MayReplaceFile(path);
+  return frmPosi.SaveCancelled ? std::nullopt : std::optional(path);
+}
+
 void TellNotSaved(const PosiFileTrouble& trouble) { MsgBox(WithReason(Text(422), trouble.words)); }
 
 /// The save may have been asked for from another view: the status bar says what went where.
@@ -42,7 +50,7 @@ void TellSaved(const std::string& path) {
 std::string SaveWhole() {
   const KeepPlace place;  // from which the check goes away
   if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return {};
-  const auto path = PosiTableHasFile() ? PosiTablePath() : AskPath(423);
+  const auto path = PathToSave();
   if (!path) return {};
   PosiFileTrouble trouble;
   if (TryFourTimes([&] { return AttemptOf(SaveFileAs2(*path, trouble), trouble); })) return *path;
@@ -66,7 +74,8 @@ bool IsPartOverOwnFile(const std::string& path) {
 void SaveAs() {
   const WholeRangeAfter whole_range;
   if (Check_flgdLineNo() != 0 || !PosiDataCheckAll()) return;
-  if (!AskRange() || PosiDataCheck3() != 0 || !AskOk(405)) return;
+  const std::optional<PosiRange> range = AskRange();
+  if (!range || PosiDataCheck3() != 0 || !AskOk(WithRange(405, *range))) return;
   const auto path = AskPath(406);
   if (!path) return;
   if (IsPartOverOwnFile(*path)) return Tell(kMsgPartOverWhole);

@@ -6,6 +6,7 @@
 #include "device/dev_setting.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_edits.h"
 #include "posi/posi_file.h"
 #include "posi/posi_file_words.h"
 #include "posi/posi_range.h"
@@ -90,6 +91,7 @@ int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
     return 1;
   }
   SetPosiTableFile(path);
+  PosiEditsAreSaved();
   // What lies outside a narrowed range is in no file yet.
   if (RangeIsWholeTable()) frmPosi.PosiChanged = False;
   return 0;

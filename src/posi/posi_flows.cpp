@@ -22,6 +22,9 @@ void InstallPosiFlows() {
   f.cmdPosiRead.Click = frmMain.mnuContPosiRead.Click = PosidataGetfromCt;
   f.cmdPosiWrite.Click = frmMain.mnuContPosiWrite.Click = PosidataLoadtoCt;
   f.cmdPosiCtVerify.Click = frmMain.mnuContPosiVerify.Click = PosiDataCtShogo;
+  frmMain.mnuContPosiRead.Button = &f.cmdPosiRead;
+  frmMain.mnuContPosiWrite.Button = &f.cmdPosiWrite;
+  frmMain.mnuContPosiVerify.Button = &f.cmdPosiCtVerify;
 }
 
 }  // namespace tr7

@@ -6,6 +6,7 @@
 #include "device/limits.h"
 #include "forms/frm_posi.h"
 #include "posi/posi_caption.h"
+#include "posi/posi_check.h"
 #include "posi/posi_commands.h"
 #include "posi/posi_file.h"
 #include "posi/posi_file_flows.h"
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int kMsgSaveBeforeOpen = 6450;
 constexpr int kMsgLeftOut = 6458;
+constexpr int kMsgRefused = 7195;
 
 /// The first series has the word "QV", which the standard lists go by.
 void NameSeries() {
@@ -37,6 +39,12 @@ void NameSeries() {
 void TellNumbersLeftOut() {
   const std::string numbers = NumbersLeftOut(AppState.FileFirstNo, AppState.FileLastNo);
   if (!numbers.empty()) MsgBox(Text(kMsgLeftOut, numbers));
+}
+
+/// Who goes on with the table should know now, not at the save or the write that refuses it.
+void TellRefusedLines() {
+  const std::string numbers = NumberRuns(RefusedLines(), AppState.PosiFirstNo, AppState.PosiLastNo);
+  if (!numbers.empty()) MsgBox(Text(kMsgRefused, numbers));
 }
 
 }  // namespace
@@ -73,6 +81,7 @@ void PosidataFileOpen() {
   ShowPosiStage(devices);
   SetPosiTableFile(*path);
   frmPosi.PosiChanged = False;
+  TellRefusedLines();
 }
 
 }  // namespace tr7

@@ -111,7 +111,7 @@ void PosidataGetfromCt() {
   if (!MayReplaceTable(369)) return;
   AppState.ProgressWriting = True;
   const std::optional<PosiRange> range = AskReadRange();
-  if (!range || !AskOk(370)) return;
+  if (!range || !AskOk(WithRange(370, *range))) return;
   if (AppState.Offline && !ChangeToOnlineFromCommand()) return;
   AppState.CancelRequested = False;
   if (ReconcileDevices(DeviceReconcile::Read) != 0) return;

@@ -35,6 +35,8 @@ void Show(const PosiShot& shot) {
   }
   AppState.PosiFirstNo = shot.first;
   PosiLinesChanged();
+  // Over a commit, pulses come back from texts alone: the file may hold others.
+  frmPosi.PosiChanged = shot.changed || shot.commits != PosiUndo.commits;
   grid.SelectCell(std::min(shot.row, grid.Rows() - 1), shot.col);
   FG_HighSyoriEnd();
 }

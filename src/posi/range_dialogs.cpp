@@ -109,4 +109,10 @@ std::optional<PosiRange> AskVerifyRange(bool overlaps) {
   return Ask({frmSelectPosiNo4, range, range, false, overlaps});
 }
 
+std::string WithRange(MsgId question, const PosiRange& range) {
+  constexpr int kMsgPositions = 7192;
+  return WithReason(Text(question),
+                    Text(kMsgPositions, std::to_string(range.first), std::to_string(range.last)));
+}
+
 }  // namespace tr7

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
+#include "base/msg_id.h"
 #include "posi/posi_range.h"
 
 namespace tr7 {
@@ -20,5 +22,8 @@ namespace tr7 {
 /// `frmSelectPosiNo4`: a range within `SyogoFromNo` to `SyogoToNo`; with `overlaps` false it only
 /// says that nothing can be compared.
 [[nodiscard]] std::optional<PosiRange> AskVerifyRange(bool overlaps);
+
+/// The question about what was chosen, with the range beneath it.
+std::string WithRange(MsgId question, const PosiRange& range);
 
 }  // namespace tr7

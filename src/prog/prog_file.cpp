@@ -6,6 +6,7 @@
 #include "base/text_helpers.h"
 #include "prog/prog_listing.h"
 #include "state/file_kind.h"
+#include "state/files_here.h"
 #include "state/message_box.h"
 #include "state/text.h"
 #include "state/text_file.h"
@@ -94,12 +95,14 @@ int ReadProgText(const std::string& utf8, const std::string& path, ProgStore& st
 
 int OpenProgFile(const std::string& path, ProgStore& store) {
   std::string text;
-  const TextFileResult file = ReadTextFile(path, text);
+  const TextFileResult file = ReadDataFile(path, text);
   store.FileFault = file.words;
   return file.ok ? ReadProgText(text, path, store) : 1;
 }
 
 void ShowProgFileName(const std::string& path, ProgView& view) {
+  view.Store.FilePath = path;
+  FileIsShown(path);
   const std::string title = FileTitle(path);
   const std::string name = title.substr(0, title.size() - std::min(kEnding, title.size()));
   view.Caption = Text(kMsgCaption, "[" + name + "]");

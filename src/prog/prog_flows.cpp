@@ -13,6 +13,7 @@
 #include "prog/prog_file.h"
 #include "prog/prog_listing.h"
 #include "prog/prog_no.h"
+#include "prog/prog_undo.h"
 #include "prog/prog_verify.h"
 #include "session/session.h"
 #include "state/busy_scope.h"
@@ -57,7 +58,8 @@ bool WriteWhileHeld(ProgView& view, int program) {
   const ProgWrite written = WriteProgdataToCt(program, view.Store.ProgDA);
   if (written == ProgWrite::HalfWritten) MsgBox(Text(kMsgHalfWritten, std::to_string(program)));
   if (written != ProgWrite::Done) return false;
-  view.Store.ProgChanged = False;
+  if (view.Store.ProgChanged) view.Store.FilePath.clear();  // the file holds another program
+  ProgIsSaved(view);
   return held.Release();
 }
 
@@ -149,7 +151,7 @@ void ProgDataSaveAs(ProgView& view) {
   FGProg_InitPos(view.flgdProg);
   if (PrepareProg(view) != 0) return;
   static_cast<void>(ProgDataCheckOrPane(view, true));  // with errors it may be saved all the same
-  if (!AskOk(view.Store.ProgSyntaxNg ? MsgId(441) : MsgId(405))) return;
+  if (!(view.Store.ProgSyntaxNg ? AskToLose(Text(441)) : AskOk(405))) return;
   const auto path = AskSavePath(kFileToSave, 436);
   if (!path) return;
   if (SaveFileProgAs2(*path, view) != 0) {
@@ -157,7 +159,8 @@ void ProgDataSaveAs(ProgView& view) {
     return;
   }
   ShowProgFileName(*path, view);
-  view.Store.ProgCmdBad = view.Store.ProgChanged = False;
+  view.Store.ProgCmdBad = False;
+  ProgIsSaved(view);
   TellInStatusPanel(Text(kMsgSaved, *path));
   doors.forms->SetFocus(view.flgdProg);
 }
@@ -177,6 +180,16 @@ bool ProgFileIsRead(const std::string& path, ProgStore& store) {
   return false;
 }
 
+ProgView* ReadProgFile(const std::string& path, ProgView& (*make_view)()) {
+  ProgStore incoming;
+  if (!ProgFileIsRead(path, incoming)) return nullptr;
+  ProgView& view = make_view();
+  view.Store = std::move(incoming);
+  ShowProgFileName(path, view);
+  ProgDataHyoji2(view);
+  return &view;
+}
+
 ProgView* ProgDataFileOpen(ProgView& (*make_view)()) {
   const CommandsOff commands_off;
   const BusyScope busy;
@@ -185,14 +198,9 @@ ProgView* ProgDataFileOpen(ProgView& (*make_view)()) {
     Tell(367);
     return nullptr;
   }
-  ProgStore incoming;
-  if (!ProgFileIsRead(*path, incoming)) return nullptr;
-  ProgView& view = make_view();
-  view.Store = std::move(incoming);
-  ShowProgFileName(*path, view);
-  ProgDataHyoji2(view);
-  TellTooManySteps(view);
-  return &view;
+  ProgView* view = ReadProgFile(*path, make_view);
+  if (view) TellTooManySteps(*view);
+  return view;
 }
 
 }  // namespace tr7

@@ -24,6 +24,10 @@ void ProgDataSaveAs(ProgView& view);
 /// come.
 [[nodiscard]] ProgView* ProgDataFileOpen(ProgView& (*make_view)());
 
+/// Reads a file that is known into a view that is made once it is there; null after the user has
+/// been told.
+[[nodiscard]] ProgView* ReadProgFile(const std::string& path, ProgView& (*make_view)());
+
 inline constexpr DataFile kProgDataFile{FileKind::Program, 131, "prg", 438};  ///< to be opened
 
 /// Reads a program file into the store; false after the user has been told.

@@ -1,6 +1,7 @@
 #include "prog/prog_keep.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,17 +42,30 @@ void Keep(const std::string& which, KeptWork& work) {
     work.file = ProgFileText(view->flgdProg);
     SeqWriter screen;
     screen.Number(view->Store.ProgCopyNo);
+    screen.Text(view->Store.FilePath);
     work.screen = screen.Result();
   }
 }
 
-/// Each cell as it stood, whatever the command list holds by now.
-bool PutProgram(const KeptWork& work, ProgView& view) {
+/// What is kept beside the listing.
+struct Beside {
   int number = 0;
+  std::string path;  ///< empty also where an earlier version of the tool has kept it
+};
+
+std::optional<Beside> BesideOf(const KeptWork& work) {
+  Beside beside;
   SeqReader screen(work.screen);
-  if (!screen.ReadInteger(0, kPrograms, number)) return false;
+  if (!screen.ReadInteger(0, kPrograms, beside.number)) return std::nullopt;
+  static_cast<void>(screen.ReadText(beside.path));
+  return beside;
+}
+
+/// Each cell as it stood, whatever the command list holds by now.
+bool PutProgram(const KeptWork& work, const Beside& beside, ProgView& view) {
   if (ReadProgText(work.file, work.name, view.Store) != 0) return false;
-  view.Store.ProgCopyNo = static_cast<std::int16_t>(number);
+  view.Store.ProgCopyNo = static_cast<std::int16_t>(beside.number);
+  view.Store.FilePath = beside.path;
   view.Caption = work.name;
   PutListing(view.flgdProg, view.Store.ProgFileDA);
   FGProg_InitPos(view.flgdProg);
@@ -59,12 +73,15 @@ bool PutProgram(const KeptWork& work, ProgView& view) {
   return true;
 }
 
+/// Into the view of its file, where the start has opened that.
 bool TakeBack(const KeptWork& work) {
-  if (ReadCommandLst() != 0) return false;
-  ProgView& view = NewProgView();
+  const auto beside = BesideOf(work);
+  if (!beside || ReadCommandLst() != 0) return false;
+  ProgView* of_file = UnchangedViewOf(beside->path);
+  ProgView& view = of_file ? *of_file : NewProgView();
   ShowView(view);
-  if (PutProgram(work, view)) return true;
-  UnloadView(view);
+  if (PutProgram(work, *beside, view)) return true;
+  if (!of_file) UnloadView(view);
   return false;
 }
 

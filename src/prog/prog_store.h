@@ -21,6 +21,7 @@ struct ProgError {
 struct ListingShot {
   std::vector<ProgCells> steps;
   int row, column;
+  bool changed;  ///< neither a file nor the controller holds this
 };
 
 /// What belongs to the one program of a view. The text form is the view's listing, the master copy;
@@ -35,6 +36,7 @@ struct ProgStore {
   Bool16 ProgCmdBad;                  ///< the command typed last is none
   std::vector<ProgError> ProgErrList;
   std::vector<ListingShot> Undo, Redo;  ///< the newest at the end
+  std::string FilePath;                 ///< of the file that holds it, edits apart; empty: none
   std::string FileFault;                ///< why a file could not be read or saved
 };
 

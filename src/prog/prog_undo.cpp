@@ -10,8 +10,10 @@ namespace {
 
 constexpr std::size_t kMostEdits = 200;
 
-ListingShot ShotOf(const Grid& listing) {
-  return {CellsOfListing(listing), listing.Row, listing.Col};
+ListingShot ShotOf(const ProgView& view) {
+  const Grid& listing = view.flgdProg;
+  return {CellsOfListing(listing), listing.Row, listing.Col,
+          static_cast<bool>(view.Store.ProgChanged)};
 }
 
 void Show(Grid& listing, const ListingShot& shot) {
@@ -24,9 +26,9 @@ bool BringBack(ProgView& view, std::vector<ListingShot>& from, std::vector<Listi
   if (from.empty()) return false;
   const ListingShot shot = std::move(from.back());
   from.pop_back();
-  to.push_back(ShotOf(view.flgdProg));
+  to.push_back(ShotOf(view));
   Show(view.flgdProg, shot);
-  view.Store.ProgChanged = True;
+  view.Store.ProgChanged = shot.changed;
   return true;
 }
 
@@ -34,9 +36,16 @@ bool BringBack(ProgView& view, std::vector<ListingShot>& from, std::vector<Listi
 
 void RememberForUndo(ProgView& view) {
   auto& done = view.Store.Undo;
-  done.push_back(ShotOf(view.flgdProg));
+  done.push_back(ShotOf(view));
   if (done.size() > kMostEdits) done.erase(done.begin());
   view.Store.Redo.clear();
+}
+
+void ProgIsSaved(ProgView& view) {
+  view.Store.ProgChanged = False;
+  for (auto* shots : {&view.Store.Undo, &view.Store.Redo}) {
+    for (ListingShot& shot : *shots) shot.changed = true;
+  }
 }
 
 bool ProgUndo(ProgView& view) { return BringBack(view, view.Store.Undo, view.Store.Redo); }

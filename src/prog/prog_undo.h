@@ -9,6 +9,9 @@ namespace tr7 {
 /// Before an edit: what the listing shows can be brought back. What was undone is gone for good.
 void RememberForUndo(ProgView& view);
 
+/// A file or the controller holds what the listing shows, and none of what can be brought back.
+void ProgIsSaved(ProgView& view);
+
 /// Take back the last edit, or the last taking back. False: there is none.
 bool ProgUndo(ProgView& view);
 bool ProgRedo(ProgView& view);

@@ -256,6 +256,22 @@ void OpenProgram() {
   if (ProgView* view = ProgDataFileOpen(NewProgView)) ShowView(*view);
 }
 
+ProgView* ShowProgFile(const std::string& path) {
+  if (ReadCommandLst() != 0) return nullptr;
+  ProgView* view = ReadProgFile(path, NewProgView);
+  if (view) ShowView(*view);
+  return view;
+}
+
+ProgView* UnchangedViewOf(const std::string& path) {
+  if (path.empty()) return nullptr;
+  for (View* open : OpenViews()) {
+    auto* view = dynamic_cast<ProgView*>(open);
+    if (view && view->Store.FilePath == path && !view->Store.ProgChanged) return view;
+  }
+  return nullptr;
+}
+
 void ReadProgramData() {
   const TransferScope transfer;
   if (ReadCommandLst() != 0) return;

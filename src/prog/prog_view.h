@@ -19,6 +19,11 @@ void NewProgram();
 void OpenProgram();
 void ReadProgramData();
 
+/// A program file in a view of its own, unasked; null after the user has been told.
+ProgView* ShowProgFile(const std::string& path);
+/// The open view of this file's program, where nothing of it is unsaved; null: there is none.
+ProgView* UnchangedViewOf(const std::string& path);
+
 /// `SelChange` of the listing: what the cell takes and what its command does in the status panel,
 /// and which line commands there are.
 void ProgSelectionMoved(ProgView& view);

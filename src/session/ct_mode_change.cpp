@@ -12,6 +12,7 @@ void ChangeCtModeMenu() {
   const TransferScope transfer;
   if (!ConnectOrOpenPort()) return;
   const Selection choice = SelectionDialog2({.Title = Text(471),
+                                             .What = 7186,
                                              .Prompt = Text(476),
                                              .Choices = {Text(477), Text(478)},
                                              .Preselected = AppState.CtMode ? 1 : 0});

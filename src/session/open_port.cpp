@@ -1,6 +1,7 @@
 #include "session/open_port.h"
 
 #include "link/port.h"
+#include "link/tusin_wait.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/frame_menus.h"
@@ -36,7 +37,7 @@ bool OpensBeforeLong() {
 bool OpenPortOrTell() {
   if (TusinPortOpen() == 0 || OpensBeforeLong()) return true;
   EndSession();
-  MsgBox(Text(109) + "\n\n" + Text(110) + "\n\n" + AppState.PortFaultText);
+  MsgBox(TusinFailureText(TusinEnd::PortFailed));
   return false;
 }
 

@@ -23,9 +23,10 @@ namespace {
 constexpr int kMsgModeNotWritten = 5973;
 
 /// First: the controller's values. Second: the PC's.
-Selection AskReconcile(MsgId prompt_id, const std::string& details, MsgId pc_choice_id,
-                       bool may_cancel) {
+Selection AskReconcile(MsgId what_id, MsgId prompt_id, const std::string& details,
+                       MsgId pc_choice_id, bool may_cancel) {
   return SelectionDialog({.Title = Text(471),
+                          .What = what_id,
                           .Prompt = Text(prompt_id),
                           .Choices = {Text(372), Text(pc_choice_id)},
                           .Details = details,
@@ -99,7 +100,7 @@ int ReconcileMode(ProgressScope& progress) {
   const int difference = CompareCtModeAndAxis();
   if (difference < 0) return 1;
   if (difference < 2) return 0;  // axes alone: the device dialogue asks about them
-  const Selection choice = AskReconcile(490, ModeAndAxesDifference(), 491, false);
+  const Selection choice = AskReconcile(7187, 490, ModeAndAxesDifference(), 491, false);
   if (choice == Selection::Second) WriteAxesOfPc(progress);
   return choice == Selection::First ? TakeModeOfCt(progress) : 1;
 }
@@ -111,7 +112,7 @@ int ReconcileDevices(DeviceReconcile flow) {
   if (difference == 0) return 0;
   const bool reading = flow == DeviceReconcile::Read;
   if (!reading) WarnOfDeviceChange(false);
-  switch (AskReconcile(371, DeviceDifference(), 373, reading)) {
+  switch (AskReconcile(7188, 371, DeviceDifference(), 373, reading)) {
     case Selection::First:
       return TakeDevicesOfCt(flow);
     case Selection::Second:
@@ -123,8 +124,8 @@ int ReconcileDevices(DeviceReconcile flow) {
 
 bool WarnOfDeviceChange(bool may_cancel) {
   if (!AppState.DispMmUnit || AppState.PosiFirstNo < 1) return true;
-  const MsgButtons buttons = may_cancel ? MsgButtons::OkCancel : MsgButtons::Ok;
-  return MsgBox(TwoLines(408, 409), buttons) == MsgAnswer::Ok;
+  const std::string warning = TwoLines(408, 409);
+  return may_cancel ? AskToLose(warning, MsgIcon::Warning) : MsgBox(warning) == MsgAnswer::Ok;
 }
 
 }  // namespace tr7

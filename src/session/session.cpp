@@ -9,6 +9,7 @@
 #include "forms/hold_button.h"
 #include "link/port.h"
 #include "link/status_commands.h"
+#include "link/tusin_wait.h"
 #include "platform/doors.h"
 #include "session/followers.h"
 #include "session/open_port.h"
@@ -29,7 +30,6 @@ namespace tr7 {
 namespace {
 
 constexpr int kConnectSteps = 4;
-constexpr int kMsgPortLost = 5920;
 constexpr int kMsgGivenUp = 5970;
 
 /// What a connection tells one controller from another by.
@@ -152,7 +152,8 @@ void PortWatchTick() {
   if (!AppState.Offline && !PortIsLost()) return;  // there was one, and the user knows
   FailToOffline();
   if (AppState.CommandsOffDepth == 0) AllViewsCmdYuko();
-  MsgBox(lost + "\n\n" + Text(kMsgPortLost));
+  AppState.PortFaultText = lost;
+  MsgBox(TusinFailureText(TusinEnd::PortLost));
 }
 
 }  // namespace tr7

@@ -4,7 +4,8 @@
 
 #include "base/text_helpers.h"
 #include "forms/frm_go_to.h"
-#include "state/status_panel.h"
+#include "platform/doors.h"
+#include "state/message_box.h"
 #include "state/text.h"
 #include "state/views.h"
 
@@ -13,23 +14,28 @@ namespace tr7 {
 std::optional<int> AskLineNumber(int first, int last) {
   constexpr int kAsk = 5612, kNone = 5613;
   FrmGoTo& f = frmGoTo;
-  bool accepted = false;
+  const std::string from = std::to_string(first), to = std::to_string(last);
+  std::optional<int> number;
   HandlersForOnce handlers;
-  handlers.Set(f.Load, [=] {
-    frmGoTo.lblNumber.Caption = Text(kAsk, std::to_string(first), std::to_string(last));
+  handlers.Set(f.Load, [&] {
+    frmGoTo.lblNumber.Caption = Text(kAsk, from, to);
     frmGoTo.txtNumber.Text.clear();
   });
   handlers.Set(f.cmdOk.Click, [&] {
-    accepted = true;
+    const std::string typed = Trim(frmGoTo.txtNumber.Text);
+    const auto line = static_cast<int>(Val(typed));
+    if (line >= first && line <= last) {
+      number = line;
+    } else if (!typed.empty()) {
+      MsgBox(Text(kNone, typed, from, to));
+      doors.forms->SetFocus(frmGoTo.txtNumber);
+      return;
+    }
     frmGoTo.Visible = false;
   });
   handlers.Set(f.cmdCancel.Click, [] { frmGoTo.Visible = false; });
   ShowViewModal(f);
-  if (!accepted || Trim(f.txtNumber.Text).empty()) return std::nullopt;
-  const auto number = static_cast<int>(Val(f.txtNumber.Text));
-  if (number >= first && number <= last) return number;
-  TellInStatusPanel(Text(kNone, f.txtNumber.Text));
-  return std::nullopt;
+  return number;
 }
 
 }  // namespace tr7

@@ -4,8 +4,8 @@
 
 namespace tr7 {
 
-/// Asks for the number of a line, `first` to `last`. None: cancelled, or there is no such line,
-/// which the user has been told.
+/// Asks for the number of a line, `first` to `last`. It asks on where there is no such line, after
+/// telling so. None: cancelled, or left empty.
 std::optional<int> AskLineNumber(int first, int last);
 
 }  // namespace tr7

@@ -35,22 +35,29 @@ std::string WithReason(const std::string& text, const std::string& reason) {
 void Tell(MsgId id) { MsgBox(Text(id)); }
 void TellDone(MsgId id) { MsgBox(Text(id), MsgButtons::Ok, MsgIcon::Information); }
 
-bool AskOk(MsgId id) {
-  return MsgBox(Text(id), MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
+bool AskOk(MsgId id) { return AskOk(Text(id)); }
+
+bool AskOk(const std::string& question) {
+  return MsgBox(question, MsgButtons::OkCancel, MsgIcon::Question) == MsgAnswer::Ok;
 }
 
-bool AskToLose(const std::string& question) {
-  return doors.forms->MessageBox(
-             {question, Text(201), MsgButtons::OkCancel, MsgIcon::Question, true}) == MsgAnswer::Ok;
+bool AskToLose(const std::string& question, MsgIcon icon) {
+  return doors.forms->MessageBox({question, Text(201), MsgButtons::OkCancel, icon, true}) ==
+         MsgAnswer::Ok;
 }
 
 bool AskYes(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNo, MsgIcon::Question) == MsgAnswer::Yes;
 }
 
-bool AskYesWarned(MsgId id) {
+bool AskYesToLose(const std::string& question, const std::string& details) {
+  return doors.forms->MessageBox({question, Text(201), MsgButtons::YesNo, MsgIcon::Question, true,
+                                  details}) == MsgAnswer::Yes;
+}
+
+bool AskYesWarned(const std::string& question) {
   return doors.forms->MessageBox(
-             {Text(id), Text(201), MsgButtons::YesNo, MsgIcon::Warning, true}) == MsgAnswer::Yes;
+             {question, Text(201), MsgButtons::YesNo, MsgIcon::Warning, true}) == MsgAnswer::Yes;
 }
 
 MsgAnswer AskYesNoCancel(MsgId id) {

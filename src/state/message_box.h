@@ -36,12 +36,16 @@ void Tell(MsgId id);
 void TellDone(MsgId id);
 /// A question with OK and Cancel: true for OK.
 [[nodiscard]] bool AskOk(MsgId id);
-/// The same, where OK loses what is not kept anywhere: Enter is a Cancel.
-[[nodiscard]] bool AskToLose(const std::string& question);
+[[nodiscard]] bool AskOk(const std::string& question);
+/// The same, where OK loses or replaces what cannot come back: Enter is a Cancel.
+[[nodiscard]] bool AskToLose(const std::string& question, MsgIcon icon = MsgIcon::Question);
 /// A question with Yes and No: true for Yes.
 [[nodiscard]] bool AskYes(MsgId id);
+/// The same, where Yes loses or replaces what cannot come back: Enter is a No. `details`: a list
+/// beside it, one thing a line.
+[[nodiscard]] bool AskYesToLose(const std::string& question, const std::string& details = {});
 /// The same, where Yes leads into something that is not looked after: Enter is a No.
-[[nodiscard]] bool AskYesWarned(MsgId id);
+[[nodiscard]] bool AskYesWarned(const std::string& question);
 /// A question with Yes, No and Cancel.
 [[nodiscard]] MsgAnswer AskYesNoCancel(MsgId id);
 

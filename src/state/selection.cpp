@@ -17,8 +17,14 @@ Selection ChosenOption(const SelectionView& view) {
   return Selection::Cancelled;
 }
 
+/// The product ahead of it, as boxes have it.
+std::string CaptionOf(const SelectionCall& call) {
+  const std::string caption = Text(201) + " - " + call.Title;
+  return call.What ? caption + ": " + Text(call.What) : caption;
+}
+
 void Fill(SelectionView& view, const SelectionCall& call) {
-  view.Caption = call.Title;
+  view.Caption = CaptionOf(call);
   view.lblPrompt.Caption = call.Prompt;
   view.lblDetails.Caption = call.Details.substr(0, call.Details.find_last_not_of('\n') + 1);
   view.lblDetails.Visible = !call.Details.empty();

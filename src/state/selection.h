@@ -3,11 +3,14 @@
 #include <string>
 #include <vector>
 
+#include "base/msg_id.h"
+
 namespace tr7 {
 
 /// What a choice box asks.
 struct SelectionCall {
   std::string Title;
+  MsgId What = {};  ///< named behind the title
   std::string Prompt;
   std::vector<std::string> Choices;  ///< two or three
   std::string Details = {};          ///< what the choice is about, one thing a line; may be empty

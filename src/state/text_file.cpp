@@ -7,6 +7,7 @@
 #include "base/code_page.h"
 #include "platform/atomic_save.h"
 #include "platform/doors.h"
+#include "state/files_here.h"
 #include "state/settings.h"
 #include "state/text.h"
 
@@ -21,6 +22,7 @@ constexpr int kMsgTooLarge = 5913;
 constexpr int kMsgOther = 5914;
 constexpr int kMsgBadCharacter = 5915;
 constexpr int kMsgNotOfCodePage = 6320;
+constexpr int kMsgEmpty = 7196;
 
 MsgId MessageOf(FileFault fault) {
   switch (fault) {
@@ -66,6 +68,7 @@ TextFileResult ReadTextFile(const std::string& path, std::string& utf8, std::siz
   std::string bytes;
   TextFileResult result = ResultOf(doors.files->Read(path, limit, bytes), path);
   if (!result.ok) return result;
+  NoteBytes(path, bytes);
   DecodedText decoded = DecodeCodePage(FileCodePage(), bytes);
   if (decoded.ok()) {
     utf8 = std::move(decoded.utf8);
@@ -77,10 +80,22 @@ TextFileResult ReadTextFile(const std::string& path, std::string& utf8, std::siz
   return result;
 }
 
+TextFileResult ReadDataFile(const std::string& path, std::string& utf8, std::size_t limit) {
+  TextFileResult result = ReadTextFile(path, utf8, limit);
+  if (!result.ok || !utf8.empty()) return result;
+  result.ok = false;
+  result.words = Text(kMsgEmpty, FileTitle(path));
+  return result;
+}
+
 TextFileResult SaveTextFile(const std::string& path, const std::string& utf8) {
   const EncodedText encoded = EncodeCodePage(FileCodePage(), utf8);
-  if (encoded.ok) return ResultOf(SaveAtomically(*doors.files, path, encoded.bytes), path);
   TextFileResult result;
+  if (encoded.ok) {
+    result = ResultOf(SaveAtomically(*doors.files, path, encoded.bytes), path);
+    if (result.ok) NoteBytes(path, encoded.bytes);
+    return result;
+  }
   result.ok = false;
   result.bad_line = LineAt(utf8, encoded.bad_at);
   result.bad_character = encoded.bad_character;

@@ -26,6 +26,10 @@ inline constexpr std::size_t kListFileLimit = 4u << 20;  ///< bytes; longer file
 TextFileResult ReadTextFile(const std::string& path, std::string& utf8,
                             std::size_t limit = kListFileLimit);
 
+/// The same of a file that a user saves his work in: one without a byte is refused as empty.
+TextFileResult ReadDataFile(const std::string& path, std::string& utf8,
+                            std::size_t limit = kListFileLimit);
+
 /// Saves to a new file in the same folder, flushes it to the disk, then gives it the old one's
 /// name: a failed save leaves the old file whole and no new one behind, and a power cut leaves one
 /// of the two whole under that name. A character that the code page does not hold refuses the save

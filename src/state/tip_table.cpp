@@ -8,6 +8,7 @@ constexpr bool kConnects = true;
 constexpr Tip kFrmMain[] = {{"cmdComCancel", 8005},
                             {"cmdStopNow", 5295},
                             {"cmdReset", 8006, kConnects},
+                            {"lblCtMode", 8918},
                             {"mnuFileNew", 8007},
                             {"mnuFileNewProg", 8008},
                             {"mnuFileOpen", 8009},

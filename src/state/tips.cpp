@@ -54,6 +54,10 @@ void ApplyTableTips(const FieldTable& table, MsgId tip) {
 
 void ApplyViewTips(View& view) {
   for (Control* control : view.Controls) {
+    if (auto* lamp = dynamic_cast<Image*>(control)) {
+      lamp->Tip = Text(lamp->Dark);
+      lamp->LitTip = Text(lamp->Lit);
+    }
     const Tip* tip = FindTip(view, control->Name);
     if (!tip) continue;
     control->Connects = tip->connects;

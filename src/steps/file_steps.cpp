@@ -3,8 +3,11 @@
 #include <utility>
 
 #include "platform/doors.h"
+#include "state/files_here.h"
+#include "state/message_box.h"
 #include "state/recent_files.h"
 #include "state/text.h"
+#include "state/text_file.h"
 #include "state/wait.h"
 
 namespace tr7 {
@@ -40,9 +43,14 @@ std::optional<std::string> AskSavePath(const DataFile& kind, MsgId title_id) {
                                              .ProposedName = Text(kind.proposed_name_id),
                                              .DefaultExtension = kind.extension,
                                              .OverwritePrompt = true});
-  if (!path || path->empty()) return std::nullopt;
+  if (!path || path->empty() || !MayReplaceFile(*path)) return std::nullopt;
   RememberFile(kind.kind, *path);
   return path;
+}
+
+bool MayReplaceFile(const std::string& path) {
+  constexpr int kMsgChangedOutside = 7193;
+  return !FileIsChangedOutside(path) || AskYesToLose(Text(kMsgChangedOutside, FileTitle(path)));
 }
 
 bool TryFourTimes(const std::function<Attempt()>& attempt) {

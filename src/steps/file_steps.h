@@ -32,8 +32,12 @@ class GivenPath {
 [[nodiscard]] std::optional<std::string> AskOpenPath(const DataFile& kind, MsgId title_id);
 
 /// Asks for a file to save to, with a question before an old one is replaced; nothing on Cancel or
-/// without a name.
+/// without a name, or where the user leaves it as another program has it now.
 [[nodiscard]] std::optional<std::string> AskSavePath(const DataFile& kind, MsgId title_id);
+
+/// A save to the file of a view may replace what stands there. Asks where another program has
+/// changed it since; a file that is no view's has been asked about in the dialogue that named it.
+[[nodiscard]] bool MayReplaceFile(const std::string& path);
 
 /// How one attempt at a file ended.
 enum class [[nodiscard]] Attempt{

@@ -110,6 +110,7 @@ TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
   EXPECT_EQ(forms.boxes.back().Details, kind.details.difference);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
   Press(kind.read, {MsgAnswer::Cancel});
+  EXPECT_TRUE(forms.boxes.back().Loses) << "the edit stands nowhere else";
   EXPECT_EQ(kind.held(), kOther);
   std::string refusal;
   pump.After(100'000, [&] {
@@ -124,6 +125,7 @@ TEST_P(DataViewsTest, GoOutComeBackAndAreCompared) {
 TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
   kind.edit(kGood);
   PressWithFile(kind.save, kind.file);
+  EXPECT_TRUE(kind.view.Title().ends_with(std::string("-[") + (kind.file + 1) + "]"));
   const std::string saved = virt.files.Content(kind.file).value();
   EXPECT_TRUE(saved.starts_with(kind.head)) << saved.substr(0, 60);
   kind.edit(kOther);
@@ -220,7 +222,7 @@ TEST_F(GrpViewTest, PagesKeysAndWhatAGroupCovers) {
   AppState.PosiFirstNo = 1;
   AppState.PosiLastNo = 20;
   const std::tuple<const char*, const char*, const char*> rows[] = {
-      {"10", "20", "No. 10 to 20, 11 positions"},
+      {"10", "20", "No. 10 to 20, positions: 11"},
       {"10", "21", "not in the table"},
       {"10", "9", "no range"}};
   for (const auto& [start, end, cover] : rows) {

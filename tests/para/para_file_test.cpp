@@ -85,7 +85,7 @@ TEST_F(ParaFile, ADamagedFileSaysWhere) {
     std::string bytes;
     int line;
     std::string words;
-  } rows[] = {{"empty", "", 1, head},
+  } rows[] = {{"no line to the end", "\r\n", 1, head},
               {"a count that is none", With(kLines, "\n5\r", "\nfive\r"), 2, head},
               {"another tag", With(kLines, "\"PG\"", "\"ETC\""), 18, Text(6334, "ETC", "PG")},
               {"cut short in a row", UpTo(kLines, "409"), 13, section("AXIS")},

@@ -168,6 +168,8 @@ TEST_F(PosiGrid, ANumberLeadsToItsLine) {
     forms.on_modal["frmGoTo"] = [number](View&) {
       frmGoTo.txtNumber.Type(number);
       frmGoTo.cmdOk.Press();
+      EXPECT_EQ(frmGoTo.Visible, number == std::string("8")) << "it asks on";
+      frmGoTo.cmdCancel.Press();
     };
     frmMain.mnuViewGoTo.Press();
     EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(6));

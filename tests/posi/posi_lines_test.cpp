@@ -216,5 +216,16 @@ TEST_F(PosiUndoTest, AnyEditsComeBackOneByOneAndGoForwardAgain) {
   EXPECT_TRUE(PosiDataCheckAll()) << "numbers and range are those of the lines";
 }
 
+TEST_F(PosiUndoTest, WhatTheFileHoldsIsNoChange) {
+  ShowTable(1, 3);
+  Type(1, kVel, "7");
+  frmMain.mnuEditUndo.Press();
+  EXPECT_FALSE(frmPosi.PosiChanged);
+  frmMain.mnuEditRedo.Press();
+  PosiEditsAreSaved();
+  frmMain.mnuEditUndo.Press();
+  EXPECT_TRUE(frmPosi.PosiChanged) << "the file holds the edit";
+}
+
 }  // namespace
 }  // namespace tr7

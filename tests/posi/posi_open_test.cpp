@@ -105,6 +105,18 @@ TEST_F(OpenTest, AFileReplacesTheTable) {
     EXPECT_EQ(virt.files.Content(kPath), Bytes(own)) << "saved again it is the same file";
   }
   EXPECT_EQ(Boxes(), Texts{Text(6450)});
+  for (const MsgAnswer answer : {MsgAnswer::No, MsgAnswer::Yes}) {
+    virt.files.Put(kPath, "of another program");
+    frmPosi.PosiChanged = True;
+    forms.answers = {answer};
+    frmPosi.cmdPosiSave.Press();
+    EXPECT_EQ(Boxes(), Texts{Text(7193, "job.qvd")});
+    EXPECT_EQ(virt.files.Content(kPath) == Bytes(own), answer == MsgAnswer::Yes);
+    EXPECT_EQ(frmPosi.PosiChanged, answer == MsgAnswer::No);
+  }
+  own.way = "9";
+  Open(own);
+  EXPECT_EQ(Boxes(), Texts{Text(7195, "5-7")});
 }
 
 TEST_F(OpenTest, WhateverFailsEverythingIsAsItWas) {

@@ -111,6 +111,9 @@ TEST_F(ProgListing, AFileKeepsEveryCell) {
             "\"QV-R7\"\r\n\"Program\"\r\n2\r\n\"MVP\",\"1\",\"\",\"\",\"O1\",\"a,\"\"b\"\"\"\r\n"
             "\"VEL\",\"500\",\"\",\"\",\"\",\"\"\r\n");
   view.flgdProg.TypeInto(1, 2, "2");
+  view.Commands.Undo();
+  EXPECT_FALSE(view.Store.ProgChanged);
+  view.Commands.Redo();
   forms.answers = {MsgAnswer::No};
   frmMain.mnuFileClose.Press();
   EXPECT_EQ(Boxes(), Texts{Text(1033) + "\n" + Text(1034)});
