@@ -110,6 +110,7 @@ bool QueryUnloadFrame(CloseReason reason) {
 
 bool ChooseOnline() {
   return SelectionDialog({.Title = Text(471),
+                          .What = 7185,
                           .Prompt = Text(71),
                           .Choices = {Text(72), Text(73)},
                           .MayCancel = false}) == Selection::First;
@@ -117,6 +118,7 @@ bool ChooseOnline() {
 
 void ChooseModeOffline() {
   const Selection choice = SelectionDialog({.Title = Text(471),
+                                            .What = 7186,
                                             .Prompt = Text(74),
                                             .Choices = {Text(128), Text(129)},
                                             .MayCancel = false});

@@ -9,7 +9,10 @@
 #include "forms/frm_parameta2.h"
 #include "forms/frm_posi.h"
 #include "forms/frm_sq_mcr.h"
+#include "motion/motion_now.h"
 #include "platform/doors.h"
+#include "prog/prog_view.h"
+#include "state/app_state.h"
 #include "state/busy_scope.h"
 #include "state/file_kind.h"
 #include "state/for_mode.h"
@@ -17,6 +20,7 @@
 #include "state/recent_files.h"
 #include "state/text.h"
 #include "state/text_file.h"
+#include "state/views.h"
 #include "steps/file_steps.h"
 
 namespace tr7 {
@@ -49,14 +53,24 @@ const Road* RoadOf(FileKind kind) {
   return found == std::end(kRoads) ? nullptr : found;
 }
 
+/// A program that is open from this file, with nothing unsaved, is not there twice: what the disk
+/// holds takes its place.
+void OpenProgramAnew(Menu& opens, const std::string& path) {
+  ProgView* before = UnchangedViewOf(path);
+  opens.Press();
+  const auto* now = dynamic_cast<const ProgView*>(ActiveView());
+  if (before && now && now != before && now->Store.FilePath == path) UnloadView(*before);
+}
+
 void TakeRoad(const Road& road, const std::string& path) {
   if (!FitsMode(road.mode)) {
     MsgBox(Text(kMsgOtherMode, FileTitle(path), Text(ModeNameId(road.mode))));
     return;
   }
   const GivenPath given(path);
+  if (!road.view) return OpenProgramAnew(road.shows, path);
   road.shows.Press();
-  if (road.view && road.view->Visible && road.view->Commands.Open) road.view->Commands.Open();
+  if (road.view->Visible && road.view->Commands.Open) road.view->Commands.Open();
 }
 
 /// A file that is not there any more leaves its list.
@@ -71,10 +85,16 @@ void OpenRecent(FileKind kind, int index) {
 
 }  // namespace
 
+bool MayOpenFile() {
+  const bool moves = MotionNow.Kind != Motion::None || MotionNow.Stopping || MotionIsComing();
+  return frmMain.Visible && frmMain.mnuFile.Enabled && !HandlerRuns::Any() && !FlowRuns() &&
+         !AppState.TeachingNow && !AppState.Closing && !moves;
+}
+
 void OpenFileByPath(const std::string& path) {
   if (!frmMain.mnuFile.Enabled) return TellFlowRuns();
   std::string utf8;
-  const TextFileResult read = ReadTextFile(path, utf8);
+  const TextFileResult read = ReadDataFile(path, utf8);
   if (!read.ok) {
     MsgBox(read.words);
     return;

@@ -9,6 +9,10 @@ namespace tr7 {
 /// runs nothing is opened.
 void OpenFileByPath(const std::string& path);
 
+/// Nothing stands against it now: the start is over, nobody is asked, no command runs, nobody
+/// teaches and nothing moves.
+[[nodiscard]] bool MayOpenFile();
+
 /// The File menu's lists of recent files.
 void InstallRecentFiles();
 

@@ -25,6 +25,7 @@ namespace {
 constexpr const char* kSimDevice = "sim";
 constexpr int kMsgPortChanged = 5971;
 constexpr int kMsgPortRow = 5942;
+constexpr int kMsgNoPortNumber = 7194;
 constexpr int kPortTab = 0, kPosiTab = 1, kUnitTab = 2, kLanguageTab = 3;
 
 constexpr int kLastTypedPort = 3, kLastPort = 9;
@@ -36,9 +37,13 @@ int TypedPortNo() { return static_cast<int>(Val(frmOptions2.txtPortNo.Text)); }
 
 bool IsPortNo(int number) { return number >= 1 && number <= kLastPort; }
 
+/// The port that OK takes: what is no port number leaves the present one.
+int PortToTake() { return IsPortNo(TypedPortNo()) ? TypedPortNo() : AppState.PortNo; }
+
+/// Of the port that OK takes, also while the number is being typed: an empty field wipes no device.
 void ShowDeviceOfPort() {
   ComboBox& combo = frmOptions2.comboPortDevice;
-  const std::string device = IsPortNo(TypedPortNo()) ? PortDevice(TypedPortNo()) : std::string();
+  const std::string device = PortDevice(PortToTake());
   const auto found = std::find(listed_devices.begin(), listed_devices.end(), device);
   const bool listed = found != listed_devices.end();
   combo.ListIndex = listed ? static_cast<int>(found - listed_devices.begin()) : -1;
@@ -130,9 +135,10 @@ void LeavePort() {
 
 void TakePort() {
   const int typed = TypedPortNo();
+  if (!IsPortNo(typed)) MsgBox(Text(kMsgNoPortNumber, std::to_string(AppState.PortNo)));
   const std::string before = PortDevice(AppState.PortNo);
   const std::string key = "PortDevice" + std::to_string(AppState.PortNo);
-  const bool other = typed != AppState.PortNo || ChosenDevice() != GetSetting(key, "");
+  const bool other = PortToTake() != AppState.PortNo || ChosenDevice() != GetSetting(key, "");
   // While the port is the same.
   if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
   if (other && Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();

@@ -14,6 +14,7 @@
 #include "link/frame_log.h"
 #include "link/motion_commands.h"
 #include "link/request_queue.h"
+#include "link/tusin_wait.h"
 #include "monitor/io_state.h"
 #include "monitor/poll.h"
 #include "monitor/task_monitor.h"
@@ -29,6 +30,7 @@
 #include "prog/prog_store.h"
 #include "session/followers.h"
 #include "state/app_state.h"
+#include "state/files_here.h"
 #include "state/views.h"
 #include "steps/write_taken.h"
 #include "wire/wire_rows.h"
@@ -38,8 +40,10 @@ void ResetState() {
   ResetMotion();
   ResetViews();
   Followers = FollowersRecord{};
+  FailureFollowers = FailureFollowersRecord{};
   AppState = AppStateRecord{};
   TusinQueue = RequestQueue{};
+  FilesHere = FilesHereRecord{};
   FrameLog = FrameLogRecord{};
   PollLine = PollLineRecord{};
   ResetIoMonitor();

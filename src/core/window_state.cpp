@@ -1,13 +1,20 @@
 #include "core/window_state.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 #include "base/seq_file.h"
 #include "forms/frm_main.h"
 #include "forms/grid.h"
 #include "platform/doors.h"
+#include "prog/command_list.h"
+#include "prog/prog_view.h"
 #include "state/app_state.h"
+#include "state/for_mode.h"
+#include "state/status_panel.h"
+#include "state/text.h"
+#include "state/text_file.h"
 #include "state/views.h"
 
 namespace tr7 {
@@ -17,7 +24,7 @@ WindowStateRecord WindowState;
 namespace {
 
 constexpr const char* kSection = "Windows";
-constexpr const char* kOpen = "Open";    ///< views that were open, the one in front last
+constexpr const char* kOpen = "Open";    ///< what was open, as `WordOf` says; the one in front last
 constexpr const char* kFilled = "Fill";  ///< a view inside the frame fills it
 /// Twips; what is stored lies within, or it is damaged.
 constexpr int kFarthest = 150000, kSmallest = 1500, kNarrowestColumn = 150;
@@ -148,8 +155,17 @@ void RecallTab(TabStrip& tabs, const std::string& key) {
   if (tabs.Click) tabs.Click();
 }
 
+/// By what it opens again: a view by its name, a program by its file. Empty: it does not.
+std::string WordOf(const View& view) {
+  if (view.OpenedBy) return view.Name;
+  const auto* program = dynamic_cast<const ProgView*>(&view);
+  return program ? program->Store.FilePath : std::string();
+}
+
+bool IsPath(std::string_view word) { return word.find_first_of("/\\") != word.npos; }
+
 /// Its command opens the view, where it is on.
-void Reopen(const std::string& name) {
+void ReopenView(const std::string& name) {
   for (View* view : AllViews()) {
     if (view->Name != name || !view->OpenedBy) continue;
     if (!view->Visible) view->OpenedBy->Press();
@@ -163,20 +179,34 @@ void Reopen(const std::string& name) {
 }  // namespace
 
 void RestoreWindows() {
-  if (AppState.Closing) return;
-  SeqReader names(Recall(kOpen));
-  std::string name;
-  while (!names.AtEnd() && names.ReadText(name)) Reopen(name);
+  constexpr int kMsgNotAgain = 7171;
+  bool programs = FitsMode(ForMode::Program);
+  SeqReader words(Recall(kOpen));
+  std::string word, left_out;
+  while (!AppState.Closing && !words.AtEnd() && words.ReadText(word)) {
+    if (!IsPath(word)) {
+      ReopenView(word);
+    } else if (programs && !(doors.files->Exists(word) && ShowProgFile(word))) {
+      left_out = FileTitle(word);
+      // Without its list of commands none can be shown, and that is told once.
+      programs = CommandList.CmdCount > 0 || !doors.files->Exists(word);
+    }
+  }
+  if (!left_out.empty()) TellInStatusPanel(Text(kMsgNotAgain, left_out));
 }
 
 void RememberWindows() {
   SeqWriter open;
+  const auto note = [&open](const View& view) {
+    const std::string word = WordOf(view);
+    if (!word.empty()) open.Text(word);
+  };
   const View* front = ActiveView();
   for (View* view : OpenViews()) {
     NoteView(*view);
-    if (view->OpenedBy && view != front) open.Text(view->Name);
+    if (view != front) note(*view);
   }
-  if (front && front->OpenedBy) open.Text(front->Name);
+  if (front) note(*front);
   Note(kOpen, open.Result());
   if (front) Note(kFilled, front->Maximised ? "1" : "0");
   for (const auto& [key, value] : WindowState.notes) doors.settings->Set(kSection, key, value);

@@ -13,7 +13,7 @@ struct WindowStateRecord {
 extern WindowStateRecord WindowState;
 
 /// At the end of the start: the views that were open at the last end open again, as far as the mode
-/// and the line allow, and the one in front and the tabs are as they were. No file is opened.
+/// and the line allow, and programs by their files; the one in front and the tabs are as they were.
 void RestoreWindows();
 /// At the end of the tool, while the views are still open.
 void RememberWindows();

@@ -58,10 +58,12 @@ struct Label : Control {
   Handler<void()> DblClick;
 };
 
-/// A picture lamp: lit or dark by `Visible`.
+/// A picture lamp: lit or dark by `Visible`. Its tip says which, and what that means.
 struct Image : Control {
-  Image(View& owner, const std::string& name, MsgId tag = {})
-      : Control(owner, "Image", name, tag) {}
+  Image(View& owner, const std::string& name, MsgId lit, MsgId dark)
+      : Control(owner, "Image", name), Lit(lit), Dark(dark) {}
+  MsgId Lit, Dark;     ///< messages of the tip
+  std::string LitTip;  ///< in place of `Tip` while it is lit
 };
 
 struct Frame : Control {
@@ -198,6 +200,9 @@ struct ProgressBar : Control {
 struct Menu : Control {
   Menu(View& owner, const std::string& name, MsgId tag = {}) : Control(owner, "Menu", name, tag) {}
   Menu* In = nullptr;  ///< the menu that it stands in
+  std::string Key;     ///< shown behind the caption; what takes it is not the menu
+  /// The button that does the same in its view: while that is in front, its key is shown.
+  const CommandButton* Button = nullptr;
   Handler<void()> Click;
   /// In reach of the user: neither it nor a menu on the way to it is off or hidden.
   bool IsOn() const { return Enabled && Visible && (!In || In->IsOn()); }

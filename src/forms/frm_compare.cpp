@@ -7,7 +7,7 @@ FrmCompare::FrmCompare() : View("frmCompare") {
   constexpr int kName = 0, kPlace = 1, kHere = 2, kThere = 3;
   Width = 13000;
   Height = 8000;
-  FirstFocus = &flgdCompare;
+  FirstFocus = &cmdCompare;
   cmdCompare.Default = true;
   cmdClose.Cancel = cmdComCancel.Cancel = true;
   ProgressBar1.Visible = cmdComCancel.Visible = cmdComCancel.Enabled = false;

@@ -39,6 +39,7 @@ void BuildMenus(FrmMain& f) {
 FrmMain::FrmMain() : View("frmMain") {
   BuildMenus(*this);
   cmdStopNow.Urgent = true;
+  mnuFileClose.Key = "Ctrl+W";
   imgAlarm.Visible = false;
   imgComPort.Visible = false;
   imgOnline.Visible = false;

@@ -92,14 +92,15 @@ struct FrmMain : View {
   Label lblStatus{*this, "lblStatus"};
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   CommandButton cmdComCancel{*this, "cmdComCancel", 5111};
-  Image imgMoving{*this, "imgMoving"};  ///< an axis moves by this tool's command, or may do so
+  /// An axis moves by this tool's command, or may do so.
+  Image imgMoving{*this, "imgMoving", 8914, 8915};
   CommandButton cmdStopNow{*this, "cmdStopNow", 5118};
   Label lblAlarm{*this, "lblAlarm", 5113};
-  Image imgAlarm{*this, "imgAlarm"};
+  Image imgAlarm{*this, "imgAlarm", 8916, 8917};
   CommandButton cmdReset{*this, "cmdReset", 5110};
   Label lblComPort{*this, "lblComPort", 5112};
-  Image imgComPort{*this, "imgComPort"};
-  Image imgOnline{*this, "imgOnline"};  ///< the online lamp
+  Image imgComPort{*this, "imgComPort", 8912, 8913};
+  Image imgOnline{*this, "imgOnline", 8910, 8911};
   StatusBar sbStatusBar{*this, "sbStatusBar", 4};
 
   Timer TimerJusin{1, true};

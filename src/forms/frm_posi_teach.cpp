@@ -20,8 +20,8 @@ PosiReadout::PosiReadout(View& owner)
       lblStroke(owner, "lblStroke"),
       lblPosiUnit(owner, "lblPosiUnit"),
       lblHomeState(owner, "lblHomeState"),
-      imgHomeGreen(owner, "imgHomeGreen"),
-      imgHomeWhite(owner, "imgHomeWhite"),
+      imgHomeGreen(owner, "imgHomeGreen", 5276, 5277),
+      imgHomeWhite(owner, "imgHomeWhite", 5277, 5276),
       lblKanryoCaption(owner, "lblKanryoCaption", 5274),
       lblkanryoNo(owner, "lblkanryoNo"),
       lblKanryoiti(owner, "lblKanryoiti") {

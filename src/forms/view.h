@@ -71,6 +71,8 @@ struct View {
   Handler<bool()> QueryEnd;
   /// Holds what is in no file and no controller yet; the window's title says so.
   std::function<bool()> IsChanged;
+  /// The file that its data are from, where the caption does not name it; empty: none.
+  std::function<std::string()> FileName;
   Handler<void()> Unload;
   Handler<void()> Activate;       ///< the view became the active one
   Handler<void()> CmdMuko;        ///< commands off while a long sequence runs
@@ -85,8 +87,12 @@ struct View {
   /// been made at run time.
   std::function<void()> Renew;
 
-  /// The caption, with a star behind it while there is something to save.
-  std::string Title() const { return IsChanged && IsChanged() ? Caption + " *" : Caption; }
+  /// The caption, with the file's name and, while there is something to save, a star behind it.
+  std::string Title() const {
+    const std::string file = FileName ? FileName() : std::string();
+    const std::string named = file.empty() ? Caption : Caption + "-[" + file + "]";
+    return IsChanged && IsChanged() ? named + " *" : named;
+  }
 
   Control* Find(std::string_view name) const;
 };

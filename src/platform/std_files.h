@@ -14,7 +14,8 @@ namespace tr7 {
 class StdFiles : public Files {
  public:
   /// The program folder is the executable's own when list files stand there, else
-  /// "../share/qv-tr7" beside it, where an installation puts them, else the source tree's lists.
+  /// "../share/qv-tr7" beside it, where an installation puts them, else the folder that the build
+  /// has named: the source tree's lists, or in a package where the package puts them.
   explicit StdFiles(const std::string& executable_folder);
 
   bool Exists(const std::string& path) const override;

@@ -58,15 +58,21 @@ void WidgetBinding::Push() {
 
 namespace {
 
-/// A lamp is always there: the record's `Visible` lights it.
+/// A lamp is always there: the record's `Visible` lights it, and its words follow.
 class LampBinding : public Binding {
  public:
   LampBinding(Image& image, Lamp& lamp) : image_(image), lamp_(lamp) {}
-  void Push() override { lamp_.SetLit(image_.Visible); }
+  void Push() override {
+    lamp_.SetLit(image_.Visible);
+    if (!Changed(words_, image_.Visible ? image_.LitTip : image_.Tip)) return;
+    lamp_.setToolTip(TipText(*words_));
+    lamp_.setAccessibleName(Q(*words_));
+  }
 
  private:
   Image& image_;
   Lamp& lamp_;
+  std::optional<std::string> words_;
 };
 
 class FrameBinding : public WidgetBinding {

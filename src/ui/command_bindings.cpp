@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMenu>
 
+#include "state/frame_menus.h"
 #include "state/text.h"
 #include "ui/connect_sign.h"
 #include "ui/icons.h"
@@ -18,7 +19,8 @@ class MenuBinding : public Binding {
     // An entry of a menu that is off is off too, also for its key and for a screen reader.
     if (action_.isEnabled() != record_.IsOn()) action_.setEnabled(record_.IsOn());
     if (Changed(visible_, record_.Visible)) action_.setVisible(record_.Visible);
-    if (Changed(caption_, record_.Caption)) action_.setText(Q(record_.Caption));
+    const bool key = Changed(key_, KeyNow());
+    if (Changed(caption_, record_.Caption) || key) PushText();
     const bool connects = ConnectsFirst(record_);
     if (Changed(tip_, connects ? WithConnects(record_.Tip) : record_.Tip)) {
       action_.setToolTip(Q(*tip_));
@@ -27,10 +29,22 @@ class MenuBinding : public Binding {
   }
 
  private:
+  /// The key that does the same just now. It is text alone: as a shortcut it would stand against
+  /// that of the button.
+  std::string KeyNow() const {
+    const CommandButton* button = record_.Button;
+    if (!button) return record_.Key;
+    return button->Visible && button->Owner == &FrontView() ? button->Key : std::string();
+  }
+  void PushText() {
+    const QString caption = Q(*caption_);
+    action_.setText(key_->empty() ? caption : caption + '\t' + Q(*key_));
+  }
+
   Menu& record_;
   QAction& action_;
   std::optional<bool> visible_;
-  std::optional<std::string> caption_, tip_;
+  std::optional<std::string> key_, caption_, tip_;
 };
 
 /// Fills the menu whenever it opens. Ampersands of an entry's own are no mnemonic.

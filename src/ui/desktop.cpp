@@ -68,7 +68,7 @@ Desktop::Desktop(const Profile& profile)
   doors.work = &work;
   doors.system = &system;
   forms.frame_built = [this, demo = profile.demo](QMainWindow& frame) {
-    new FileDrop(frame, forms);
+    new FileDrop(frame, outside);
     if (demo) SimDock::AddTo(frame, serial.Sim());
   };
 }

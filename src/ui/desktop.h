@@ -9,6 +9,7 @@
 #include "ui/escape_key.h"
 #include "ui/guard_process.h"
 #include "ui/help_key.h"
+#include "ui/outside_files.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_form_host.h"
 #include "ui/qt_help_viewer.h"
@@ -46,6 +47,7 @@ class Desktop {
   QtSerialPort serial;
   GuardProcess guard{serial};
   QtFormHost forms{pump};
+  OutsideFiles outside{forms};
   QtPrinter printer{forms};
   EscapeKey escape;
   HelpKey help_key;

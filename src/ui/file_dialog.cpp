@@ -86,7 +86,7 @@ bool MayOverwrite(const FileDialogCall& call, const QString& path, QWidget* pare
                   const WaitFor& wait) {
   if (!call.Save || !call.OverwritePrompt || !QFileInfo::exists(path)) return true;
   const MessageBoxCall question{Text(kOverwriteText, QFileInfo(path).fileName().toStdString()),
-                                call.Title, MsgButtons::YesNo, MsgIcon::Question};
+                                call.Title, MsgButtons::YesNo, MsgIcon::Question, true};
   return AskMessage(question, parent, wait) == MsgAnswer::Yes;
 }
 

@@ -1,15 +1,11 @@
 #include "ui/file_drop.h"
 
-#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
 
-#include "core/open_file.h"
-#include "forms/frm_main.h"
-#include "ui/binding.h"
-#include "ui/qt_form_host.h"
+#include "ui/outside_files.h"
 
 namespace tr7 {
 namespace {
@@ -24,7 +20,7 @@ QStringList FilesIn(const QMimeData& data) {
 
 }  // namespace
 
-FileDrop::FileDrop(QMainWindow& frame, QtFormHost& forms) : QObject(&frame), forms_(forms) {
+FileDrop::FileDrop(QMainWindow& frame, OutsideFiles& files) : QObject(&frame), files_(files) {
   frame.setAcceptDrops(true);
   frame.installEventFilter(this);
 }
@@ -37,23 +33,11 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
     drop.acceptProposedAction();
     // The questions come once the other window is done with its drag.
     if (event->type() == QEvent::Drop) {
-      QTimer::singleShot(0, this, [this, paths] { OpenFilesFromOutside(paths, forms_); });
+      QTimer::singleShot(0, this, [this, paths] { files_.Add(paths); });
     }
     return true;
   }
   return QObject::eventFilter(watched, event);
-}
-
-void OpenFilesFromOutside(const QStringList& paths, QtFormHost& forms) {
-  if (QApplication::activeModalWidget()) {
-    QApplication::alert(QApplication::activeModalWidget());
-    forms.Beep();
-    return;
-  }
-  forms.BringToFront(frmMain);
-  for (const QString& path : paths) {
-    if (!forms.Ended() && forms.MayCommand()) OpenFileByPath(path.toStdString());
-  }
 }
 
 }  // namespace tr7

@@ -60,18 +60,23 @@ bool FirstStart::HandOver(const QString& file) {
          path.size();
 }
 
-void FirstStart::Listen(std::function<void(const QString& file)> open) {
+bool FirstStart::Claim() {
+  if (listens_) return true;
   const auto is_there = [](const sockaddr* to, socklen_t size) {
     const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     const int result = connect(probe, to, size);
     close(probe);
     return result;
   };
-  if (AtAddress(address_, is_there)) return;
+  if (AtAddress(address_, is_there)) return false;
   QFile::remove(QString::fromUtf8(address_));  // left by one that was killed
   listens_ = AtAddress(
       address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });
-  if (!listens_) return;
+  return listens_;
+}
+
+void FirstStart::Listen(std::function<void(const QString& file)> open) {
+  if (!Claim()) return;
   notifier_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this, open] {
     std::array<char, kLongestPath> path;

@@ -17,9 +17,12 @@ class FirstStart {
   FirstStart(const FirstStart&) = delete;
   FirstStart& operator=(const FirstStart&) = delete;
 
+  /// Takes the place of the first start: what later ones hand over waits until it is listened to.
+  /// False: another has it, or it cannot be had.
+  bool Claim();
   /// True: a tool is open and has been given the file.
   [[nodiscard]] bool HandOver(const QString& file);
-  /// From now on later starts come to this one, unless they do to another already.
+  /// From now on this one is told what later starts hand over, unless they come to another.
   void Listen(std::function<void(const QString& file)> open);
 
  private:

@@ -14,7 +14,7 @@ QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
   return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
 
-constexpr int kLampWidth = 14;
+constexpr int kLampWidth = 14, kCellEnd = 4;
 
 bool LooksLikeNumber(const QString& text) {
   if (text.startsWith(' ')) return true;  // padded to the right by logic
@@ -73,7 +73,7 @@ void GridCellPainter::PaintCheck(QPainter& painter, const QRect& cell) const {
 void GridCellPainter::PaintLamp(QPainter& painter, const QRect& cell, bool lit,
                                 bool enabled) const {
   constexpr double kRadius = 5.5;
-  const QColor on = enabled ? look::Colours().lamp_on : look::Colours().faint_text;
+  const QColor on = enabled ? look::Colours().good : look::Colours().faint_text;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(lit ? on.darker(140) : look::Colours().faint_text, 1.2));
@@ -128,8 +128,11 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
     PaintLamp(*painter, option.rect, lamp == CellLamp::On, enabled && !grey);
   const int beside = lamp == CellLamp::None ? 3 : kLampWidth + 6;
   painter->setPen(enabled ? look::Colours().text : look::Colours().faint_text);
-  painter->drawText(option.rect.adjusted(beside, 0, -4, 0),
-                    Qt::AlignVCenter | AlignmentOf(col, text), text.trimmed());
+  // A number that loses digits at the edge reads as another one.
+  const QRect field = option.rect.adjusted(beside, 0, -kCellEnd, 0);
+  painter->drawText(
+      field, Qt::AlignVCenter | AlignmentOf(col, text),
+      painter->fontMetrics().elidedText(text.trimmed(), Qt::ElideRight, field.width() + kCellEnd));
   if (!current || !enabled) return;
   if (grid_.List.Box && col == grid_.List.Col) PaintArrow(*painter, ListArrowIn(option.rect));
   painter->setPen(QPen(look::Colours().selection, 2));

@@ -89,7 +89,7 @@ void GridRowHeader::PaintMark(QPainter& painter, const QRect& rect, RowMark mark
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(isEnabled() ? look::Colours().selection : look::Colours().faint_text);
+  painter.setBrush(isEnabled() ? look::Colours().link : look::Colours().faint_text);
   if (mark == RowMark::Target) {
     painter.drawEllipse(at, kHalf, kHalf);
   } else {

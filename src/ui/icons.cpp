@@ -162,7 +162,7 @@ void Sign(QPainter& p, const QPainterPath& field, const QColor& colour, const QS
   font.setPixelSize(15);
   font.setBold(true);
   p.setFont(font);
-  p.setPen(Qt::white);
+  p.setPen(look::Colours().base);
   p.drawText(field.boundingRect(), Qt::AlignCenter, sign);
 }
 
@@ -174,13 +174,13 @@ QPainterPath Disc() {
 
 void DrawInformation(QPainter& p, const Inks& inks) { Sign(p, Disc(), inks.accent, "i"); }
 void DrawQuestion(QPainter& p, const Inks& inks) { Sign(p, Disc(), inks.accent, "?"); }
-void DrawError(QPainter& p, const Inks&) { Sign(p, Disc(), QColor(0xc6, 0x28, 0x28), "\u00d7"); }
+void DrawError(QPainter& p, const Inks&) { Sign(p, Disc(), look::Colours().alarm, "\u00d7"); }
 
 void DrawWarning(QPainter& p, const Inks&) {
-  p.setPen(QPen(QColor(0xe8, 0x94, 0x00), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  p.setBrush(QColor(0xf5, 0xa6, 0x1d));
+  p.setPen(QPen(look::Colours().caution, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  p.setBrush(look::Colours().caution);
   p.drawPolygon(QPolygonF({{12, 2.5}, {22.5, 21}, {1.5, 21}}));
-  p.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap));
+  p.setPen(QPen(look::Colours().base, 2.4, Qt::SolidLine, Qt::RoundCap));
   p.drawLine(QPointF(12, 9), QPointF(12, 14.5));
   p.drawPoint(QPointF(12, 18));
 }

@@ -1,20 +1,24 @@
 #pragma once
 
-#include <QColor>
 #include <QWidget>
 
 namespace tr7 {
 
-/// A round signal lamp: glowing when lit, a dark glass when not.
+/// A round signal lamp. Lit it is full and bears the sign of what it tells, dark it is an empty
+/// ring: it reads without its colour.
 class Lamp : public QWidget {
   Q_OBJECT
-  Q_PROPERTY(QColor colour READ Colour WRITE setColour)
+  Q_PROPERTY(Light light READ ShownLight WRITE setLight)
 
  public:
+  /// What it tells when it is lit.
+  enum class Light { Good, Moving, Unknown, Alarm };
+  Q_ENUM(Light)
+
   explicit Lamp(QWidget* parent = nullptr) : QWidget(parent) {}
-  QColor Colour() const { return colour_; }
+  Light ShownLight() const { return light_; }
   /// Named as the code made from layout files calls it.
-  void setColour(const QColor& colour) { colour_ = colour; }
+  void setLight(Light light) { light_ = light; }
   void SetLit(bool lit);
   bool IsLit() const { return lit_; }
   QSize sizeHint() const override { return {16, 16}; }
@@ -24,7 +28,7 @@ class Lamp : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QColor colour_ = Qt::green;
+  Light light_ = Light::Good;
   bool lit_ = false;
 };
 

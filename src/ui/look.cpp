@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QScreen>
 #include <QStyleOption>
 #include <optional>
 
@@ -16,14 +17,14 @@ namespace {
 
 constexpr qreal kFontPoints = 9.5;
 /// Japanese letters fill their field, and their lines are high.
-constexpr qreal kJapanesePoints = 9;
+constexpr qreal kJapaneseLess = 0.5;
 
 Palette Light() {
   return {.window = {0xee, 0xf1, 0xf4},
           .base = {0xff, 0xff, 0xff},
           .alternate_base = {0xf6, 0xf8, 0xfa},
           .text = {0x1a, 0x24, 0x2e},
-          .faint_text = {0x5f, 0x6b, 0x77},
+          .faint_text = {0x5a, 0x66, 0x72},
           .button = {0xf8, 0xf9, 0xfb},
           .selection = {0x1f, 0x6f, 0xb2},
           .selected_text = {0xff, 0xff, 0xff},
@@ -37,8 +38,9 @@ Palette Light() {
           .at_work = {0x1b, 0x6b, 0x3a},
           .at_work_row = {0xd6, 0xf0, 0xdd},
           .marked_cell = {0xff, 0xc9, 0xc4},
-          .lamp_on = {0x2f, 0xa8, 0x4f},
-          .lamp_off = {0xc9, 0xd1, 0xd9},
+          .good = {0x16, 0x74, 0x3a},
+          .caution = {0xa6, 0x50, 0x00},
+          .alarm = {0xc6, 0x28, 0x28},
           .tip = {0xff, 0xfb, 0xe8},
           .icon_line = {0x33, 0x47, 0x5b},
           .icon_paper = {0xff, 0xff, 0xff},
@@ -50,12 +52,12 @@ Palette Dark() {
           .base = {0x17, 0x1c, 0x21},
           .alternate_base = {0x1c, 0x22, 0x28},
           .text = {0xe4, 0xe9, 0xee},
-          .faint_text = {0x97, 0xa3, 0xaf},
+          .faint_text = {0xa5, 0xb1, 0xbc},
           .button = {0x2c, 0x34, 0x3c},
           .selection = {0x2a, 0x74, 0xb5},
           .selected_text = {0xff, 0xff, 0xff},
           .link = {0x6c, 0xb4, 0xf0},
-          .difference = {0xff, 0x8f, 0x86},
+          .difference = {0xff, 0xa2, 0x9a},
           .header = {0x2a, 0x32, 0x3a},
           .header_selected = {0x31, 0x48, 0x5e},
           .header_line = {0x46, 0x52, 0x5e},
@@ -64,8 +66,9 @@ Palette Dark() {
           .at_work = {0x3f, 0xb5, 0x70},
           .at_work_row = {0x1d, 0x3a, 0x2a},
           .marked_cell = {0x6e, 0x2b, 0x28},
-          .lamp_on = {0x37, 0xc0, 0x5d},
-          .lamp_off = {0x3c, 0x46, 0x50},
+          .good = {0x37, 0xc0, 0x5d},
+          .caution = {0xff, 0xb8, 0x4a},
+          .alarm = {0xff, 0x6b, 0x62},
           .tip = {0x39, 0x42, 0x4b},
           .icon_line = {0xc8, 0xd3, 0xde},
           .icon_paper = {0x2c, 0x34, 0x3c},
@@ -86,6 +89,7 @@ QPalette PaletteOf(const Palette& colours) {
   palette.setColor(QPalette::ButtonText, colours.text);
   palette.setColor(QPalette::BrightText, Qt::white);
   palette.setColor(QPalette::Mid, colours.header_line);
+  if (is_dark) palette.setColor(QPalette::Light, colours.header_line);  // lines under tabs
   palette.setColor(QPalette::Highlight, colours.selection);
   palette.setColor(QPalette::HighlightedText, colours.selected_text);
   palette.setColor(QPalette::Link, colours.link);
@@ -104,6 +108,19 @@ QPalette FieldPalette() {
   QPalette palette = PaletteOf(in_use);
   palette.setColor(QPalette::Disabled, QPalette::Base, in_use.window);
   return palette;
+}
+
+/// The system's size, as far as the views have room for it: with letters of `kFontPoints` they fit
+/// the smallest screen. A system that has no size of its own leaves the toolkit's, which is small.
+qreal PointsAfter(const QFont& systems) {
+  constexpr qreal kToolkits = 9;
+  constexpr qreal kSmallestWidth = 1024, kSmallestHeight = 768;
+  const qreal wanted = systems.pointSizeF();
+  const bool bare = systems.family() == QLatin1String("Sans Serif") && wanted == kToolkits;
+  if (bare || wanted <= 0) return kFontPoints;
+  const QSize room = QGuiApplication::primaryScreen()->availableSize();
+  const qreal scale = qMin(room.width() / kSmallestWidth, room.height() / kSmallestHeight);
+  return qMin(wanted, kFontPoints * qMax(scale, 1.0));
 }
 
 /// The first of the families that is installed; they carry every sign of factory Japanese.
@@ -176,9 +193,10 @@ void Apply(QApplication& application, Theme theme) {
   application.setPalette(PaletteOf(in_use));
   QApplication::setPalette(FieldPalette(), "QLineEdit");
   QCoreApplication::installTranslator(new QtTexts(&application));
-  QFont font = application.font();
-  font.setPointSizeF(kFontPoints);
-  application.setFont(font);
+  static const QFont systems = QApplication::font();
+  QFont font = systems;
+  font.setPointSizeF(PointsAfter(systems));
+  QApplication::setFont(font);
 }
 
 void UseLanguage(bool japanese) {
@@ -190,7 +208,7 @@ void UseLanguage(bool japanese) {
   const QString family = japanese ? JapaneseFamily() : QString();
   if (!family.isEmpty()) {
     font.setFamilies({family, plain.family()});
-    font.setPointSizeF(kJapanesePoints);
+    font.setPointSizeF(plain.pointSizeF() - kJapaneseLess);
   }
   QApplication::setFont(font);
 }

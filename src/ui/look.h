@@ -15,7 +15,9 @@ struct Palette {
   QColor window, base, alternate_base, text, faint_text, button;
   QColor selection, selected_text, link, difference;
   QColor header, header_selected, header_line, grid_line;
-  QColor unused_cell, at_work, at_work_row, marked_cell, lamp_on, lamp_off;
+  QColor unused_cell, at_work, at_work_row, marked_cell;
+  /// Grounds of signs, which stand on them in `base`.
+  QColor good, caution, alarm;
   QColor tip, icon_line, icon_paper, icon_off;
 };
 const Palette& Colours();

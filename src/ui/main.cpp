@@ -1,13 +1,13 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <optional>
 
 #include "core/install_views.h"
 #include "core/main_entry.h"
 #include "ui/desktop.h"
-#include "ui/file_drop.h"
 #include "ui/first_start.h"
 #include "ui/look.h"
 
@@ -32,49 +32,71 @@ std::optional<tr7::look::Theme> ThemeOf(const QString& name) {
   return name == "dark" ? std::optional(Theme::Dark) : std::nullopt;
 }
 
-/// Ends the process on --help and --version, and on an option that there is not.
-Arguments ReadArguments(const QCoreApplication& application) {
+/// What the toolkit takes for itself from the command line.
+void AddToolkitOptions(QCommandLineParser& parser) {
+  const QStringList with_value{
+      "platform",     "platformpluginpath", "platformtheme", "plugin",     "display",
+      "session",      "geometry",           "title",         "icon",       "qwindowgeometry",
+      "qwindowtitle", "qwindowicon",        "style",         "stylesheet", "qmljsdebugger"};
+  for (const QString& name : with_value) {
+    QCommandLineOption option(name, {}, "value");
+    option.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(option);
+  }
+  for (const char* name : {"reverse", "widgetcount"}) {
+    QCommandLineOption option(name);
+    option.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(option);
+  }
+  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+}
+
+/// Ends the process with the words that were asked for, or with those on how it is used.
+[[noreturn]] void Answer(QCommandLineParser& parser, bool understood, int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  if (understood) parser.process(application);
+  const QString error = parser.errorText();
+  std::fputs(qPrintable((error.isEmpty() ? "" : error + "\n\n") + parser.helpText()), stderr);
+  std::exit(2);
+}
+
+/// Ahead of everything that needs a screen. Ends the process on --help and --version, and on an
+/// option or a value that there is not.
+Arguments ReadArguments(int argc, char** argv) {
   QCommandLineParser parser;
   parser.addHelpOption();
   parser.addVersionOption();
   parser.addOptions({kDemo, kSettings, kTheme});
   parser.addPositionalArgument(
       "file", "Positions, parameters, groups, macros or a program to open.", "[file]");
-  parser.process(application);
+  AddToolkitOptions(parser);
+  QStringList words;
+  for (int i = 0; i < argc; ++i) words << QString::fromLocal8Bit(argv[i]);
+  const bool understood = parser.parse(words);
   const auto theme = ThemeOf(parser.value(kTheme));
-  if (!theme) parser.showHelp(2);
+  const bool asked = parser.isSet("help") || parser.isSet("help-all") || parser.isSet("version");
+  if (!understood || !theme || asked) Answer(parser, understood && asked, argc, argv);
   return {{parser.value(kSettings), parser.isSet(kDemo), QLocale::system()},
           *theme,
           parser.positionalArguments().value(0)};
-}
-
-/// These are answered also where there is no screen to draw on.
-bool AsksForWords(int argc, char** argv) {
-  return std::any_of(argv + std::min(argc, 1), argv + argc, [](std::string_view argument) {
-    constexpr std::string_view kWords[] = {"-h", "--help", "--help-all", "-v", "--version"};
-    return std::find(std::begin(kWords), std::end(kWords), argument) != std::end(kWords);
-  });
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   QCoreApplication::setApplicationVersion(QString::fromStdString(tr7::VersionText()));
-  if (AsksForWords(argc, argv)) ReadArguments(QCoreApplication(argc, argv));
+  const Arguments arguments = ReadArguments(argc, argv);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  const Arguments arguments = ReadArguments(application);
   tr7::look::Apply(application, arguments.theme);
   tr7::FirstStart first(QString::fromStdString(tr7::SettingsPath(arguments.profile)));
-  if (!arguments.file.isEmpty() && first.HandOver(arguments.file)) return 0;
+  // Several may start at once: one is the first, the others come to it.
+  const bool is_first = first.Claim(), names_file = !arguments.file.isEmpty();
+  if (!is_first && names_file && first.HandOver(arguments.file)) return 0;
   tr7::Desktop desktop(arguments.profile);
   tr7::InstallViews();
+  if (names_file) desktop.outside.Add({QFileInfo(arguments.file).absoluteFilePath()});
+  first.Listen([&desktop](const QString& file) { desktop.outside.Add({file}); });
   tr7::Main();
-  if (desktop.forms.Ended()) return 0;
-  const auto open = [&desktop](const QString& file) {
-    tr7::OpenFilesFromOutside({file}, desktop.forms);
-  };
-  if (!arguments.file.isEmpty()) open(QFileInfo(arguments.file).absoluteFilePath());
-  first.Listen(open);
   return desktop.forms.Ended() ? 0 : QApplication::exec();
 }

@@ -115,7 +115,7 @@ void PlotWidget::DrawLane(QPainter& painter, const PlotTrace& trace, const QRect
     const qreal from = XOf(sample->AtMs), to = XOf(next->AtMs);
     if (*sample->Value != 0) {
       painter.fillRect(QRectF(from, lane.top() + 2, to - from, lane.height() - 4),
-                       look::Colours().lamp_on);
+                       look::Colours().good);
     }
     painter.drawLine(QPointF(from, lane.bottom() - 2), QPointF(to, lane.bottom() - 2));
   }

@@ -354,6 +354,14 @@ bool QtFormHost::MayCommand() {
   return true;
 }
 
+bool QtFormHost::EditIsOpen() const {
+  return std::any_of(shown_.begin(), shown_.end(), [](const auto& entry) {
+    const std::vector<GridTable*>& grids = entry.second.bound->Grids();
+    return std::any_of(grids.begin(), grids.end(),
+                       [](const GridTable* grid) { return grid->Editor() != nullptr; });
+  });
+}
+
 void QtFormHost::Wait(const std::function<bool()>& answered) {
   while (!answered() && !ended_) pump_.Run();
 }

@@ -60,6 +60,8 @@ class QtFormHost : public FormHost {
   void Push();
   /// Finishes an open edit before a command runs; false where the edit is refused, which is shown.
   bool MayCommand();
+  /// An edit is open in some grid.
+  bool EditIsOpen() const;
 
  private:
   struct Shown {

@@ -51,7 +51,7 @@ std::string SendByHand(const std::string& frame, bool& warned) {
     return {};
   }
   if (!LineTakesIt()) return {};
-  if (!warned && !AskYesWarned(kWarning)) return {};
+  if (!warned && !AskYesWarned(Text(kWarning))) return {};
   warned = true;
   if (!LineTakesIt()) return {};  // things may have changed behind the question
   std::string reply;

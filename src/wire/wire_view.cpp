@@ -86,6 +86,7 @@ void ShowRows() {
     grid.Row = std::max(grid.Row - gone, 1);
     grid.RowSel = std::max(grid.RowSel - gone, 1);
   }
+  grid.WhenEmpty = WireRows.Source().Size() == 0 ? MsgId(7176) : MsgId(7178);
   grid.Touch();
   frmWire.lblCount.Caption =
       Text(kShown, std::to_string(WireRows.Shown.size()), std::to_string(WireRows.Source().Size()));
@@ -210,6 +211,7 @@ void InstallWireView() {
   FrmWire& f = frmWire;
   f.Load = Load;
   f.Unload = Unload;
+  f.OpenedBy = &frmMain.mnuViewWire;
   f.OnlineChanged = f.CmdMuko = f.CmdYuko = ShowButtons;
   f.flgdWire.BodyText = CellText;
   f.flgdWire.IsMarked = IsMarked;

@@ -3,6 +3,7 @@
 #include "core/keep_work.h"
 
 #include "core/kept_offer.h"
+#include "core/open_file.h"
 #include "forms/frm_grp.h"
 #include "forms/frm_kept_work.h"
 #include "forms/frm_parameta2.h"
@@ -98,6 +99,25 @@ TEST_F(KeepTest, EveryKindComesBackAsItStoodOnTheScreen) {
     ASSERT_TRUE(Files().size() == 1 && virt.work.TakeLeft().empty()) << "it is this tool's now";
     virt.files.Remove(Files().front());
   }
+}
+
+TEST_F(KeepTest, AProgramThatWasOpenComesBackByItsFileAndTogetherWithWhatWasKept) {
+  virt.files.Put("/a.prg", "\"QV-R7\",\"Program\"\r\n1\r\n\"NOP\",,,,,\"file\"\r\n");
+  StartOffline(true);
+  for (int times = 0; times < 2; ++times) OpenFileByPath("/a.prg");
+  frmMain.mnuFileExit.Press();
+  forms.ended = false;
+  StartAnew();
+  StartOffline(true);
+  ASSERT_TRUE(UnchangedViewOf("/a.prg"));
+  UnchangedViewOf("/a.prg")->flgdProg.TypeInto(1, kProgComment, "mine");
+  RunUntilKept();
+  DieAndStart(true, frmKeptWork.cmdTakeBackAll);
+  ASSERT_EQ(OpenViews().size(), 3u) << "the frame, the positions and one program";
+  EXPECT_EQ(static_cast<ProgView*>(ActiveView())->flgdProg.Text(1, kProgComment), "mine");
+  virt.files.Remove("/a.prg");
+  DieAndStart(true, frmKeptWork.cmdLater);
+  EXPECT_EQ(frmMain.sbStatusBar.Panels[kPanelError], Text(7171, "a.prg"));
 }
 
 TEST_F(KeepTest, WhatIsSavedOrLeftByTheUsersWishIsKeptNoLonger) {

@@ -18,6 +18,7 @@ class OpenFileTest : public FlowTest {
     Forget();
     virt.files.Put("/a.grp", kGroups);
     virt.files.Put("/letter.txt", "Dear all\r\n");
+    virt.files.Put("/empty.qvd", "");
     virt.files.Put("/a.prg", "\"QV-R7\",\"Program\"\r\n");
   }
 };
@@ -30,14 +31,17 @@ TEST_F(OpenFileTest, AFileOpensByItsHeadInTheViewOfItsKindUnasked) {
 }
 
 TEST_F(OpenFileTest, WhatCannotBeOpenedSaysWhyAndChangesNothing) {
-  const std::pair<const char*, const char*> kRows[] = {
-      {"/letter.txt", "cannot be opened"}, {"/a.prg", "Program Mode"}, {"/gone", "gone"}};
+  const std::pair<const char*, const char*> kRows[] = {{"/letter.txt", "cannot be opened"},
+                                                       {"/a.prg", "Program Mode"},
+                                                       {"/gone", "gone"},
+                                                       {"/empty.qvd", "is empty"}};
   for (const auto& [path, word] : kRows) {
     OpenFileByPath(path);
     EXPECT_NE(forms.LastBox().find(word), std::string::npos) << forms.LastBox();
   }
   {
     const CommandsOff flow;
+    EXPECT_FALSE(MayOpenFile());
     OpenFileByPath("/a.grp");
   }
   EXPECT_FALSE(frmGrp.Visible);

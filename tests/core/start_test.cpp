@@ -115,6 +115,8 @@ TEST_F(StartTest, AnotherPortEndsTheSessionAndTheNextUseConnects) {
     frmOptions2.chkPortOccupy.Set(false);
   });
   EXPECT_EQ(AppState.PortNo, 2);
+  SetOptions([] { frmOptions2.txtPortNo.Type("0"); });
+  EXPECT_EQ(forms.LastBox(), Text(7194, "2"));
   EXPECT_EQ(Stored("PortDevice2") + Stored("PortOccupy"), "sim0");
   port.sent.clear();
   ReadRange(1, 2);

@@ -120,6 +120,13 @@ TEST_F(ManualTest, F1OpensThePageOfWhatIsInFront) {
     return MsgAnswer::Yes;
   };
   EXPECT_EQ(MsgBox("question", MsgButtons::YesNo), MsgAnswer::Yes);
+  // What is no view names its own page.
+  QWidget& part = *desktop.forms.WidgetOf(frmPosi.cmdPosiNew);
+  part.setProperty(kHelpPageProperty, "simulator");
+  Activate(part);
+  part.setFocus();
+  QTest::keyClick(part.window()->windowHandle(), Qt::Key_F1);
+  EXPECT_TRUE(Until([this] { return pages.opened.endsWith("/en/simulator.html"); }));
   // A box says where there is no manual.
   user.on_box = nullptr;
   AppState.HelpFilePath = "/nowhere/help/index.html";

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "forms/frm_grp.h"
+#include "state/message_box.h"
 #include "tests/ui/ui_test.h"
 #include "ui/first_start.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 class OutsideFilesTest : public UiTest {
  protected:
+  void LookAtChoice(View&) override { EXPECT_FALSE(frmGrp.Visible); }
   QString Settings() { return folder.filePath("settings.ini"); }
 };
 
@@ -32,13 +34,27 @@ TEST_F(OutsideFilesTest, ALaterStartHandsItsFileToTheOneThatIsOpen) {
   EXPECT_FALSE(FirstStart(Settings()).HandOver("/d.qvd"));
 }
 
-TEST_F(OutsideFilesTest, AFileDroppedOnTheFrameOpensInItsView) {
-  StartOffline();
+TEST_F(OutsideFilesTest, AFileOpensInItsViewOnceNothingStandsAgainstIt) {
   const QString path = folder.filePath("a.grp");
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write("\"QV-R7\",\"GRP\"\r\n99,2\r\n\"2\",10,25\r\n");
   file.close();
+  desktop.outside.Add({path});
+  StartOffline();
+  const auto opened = [] { return frmGrp.Visible; };
+  EXPECT_TRUE(Until(opened));
+  frmGrp.cmdClose.Press();
+  user.on_box = [&](const std::string&) {
+    desktop.outside.Add({path});
+    WaitMs(50);
+    EXPECT_TRUE(!opened() && frmMain.sbStatusBar.Panels[kPanelError] == Text(7170, "a.grp"));
+    return MsgAnswer::Ok;
+  };
+  MsgBox("question");
+  user.on_box = nullptr;
+  EXPECT_TRUE(Until(opened));
+  frmGrp.cmdClose.Press();
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(path)});
   QWidget* frame = desktop.forms.WidgetOf(frmMain.lblStatus)->window();
@@ -46,7 +62,7 @@ TEST_F(OutsideFilesTest, AFileDroppedOnTheFrameOpensInItsView) {
   QApplication::sendEvent(frame, &enter);
   QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(frame, &drop);
-  EXPECT_TRUE(Until([] { return frmGrp.Visible; }));
+  EXPECT_TRUE(Until(opened));
 }
 
 }  // namespace

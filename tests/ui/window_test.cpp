@@ -12,6 +12,7 @@
 #include "forms/frm_grp.h"
 #include "forms/frm_parameta2.h"
 #include "forms/frm_selection.h"
+#include "forms/frm_wire.h"
 #include "state/message_box.h"
 #include "state/selection.h"
 #include "state/view_instances.h"
@@ -96,13 +97,14 @@ TEST(WindowState, WindowsComeBackAsTheyWereLeftAndWhole) {
     AreaOf(first).activeSubWindow()->setGeometry(place);
     frmMain.mnuViewPara.Press();
     AreaOf(first).findChild<QTabWidget*>("areaTabs")->setCurrentIndex(2);
+    frmMain.mnuViewWire.Press();
     frmMain.mnuViewGrp.Press();
     frmMain.mnuFileExit.Press();
   }
   OneStart second(folder.filePath("settings.ini"));
   second.StartOffline();
   EXPECT_EQ(ActiveView(), &frmGrp);
-  EXPECT_TRUE(frmParameta2.Visible);
+  EXPECT_TRUE(frmParameta2.Visible && frmWire.Visible);
   EXPECT_EQ(AreaOf(second).activeSubWindow()->geometry(), place);
   EXPECT_EQ(AreaOf(second).findChild<QTabWidget*>("areaTabs")->currentIndex(), 2);
   EXPECT_EQ(frmPosi.flgdData.UserWidth(2), width);
