@@ -84,7 +84,7 @@ bool RequestQueue::StopIsServed() const { return on_line && IsUrgent(*on_line); 
 
 bool RequestQueue::IsUnanswered(std::int64_t now_us) const {
   constexpr std::int64_t kLongestWorkUs = 1'000'000;
-  if (untold) return true;
+  if (untold || AppState.Offline) return true;
   if (!on_line || !on_line->awaits_reply) return false;
   return on_line->sends > 1 || now_us - line_busy_us > kLongestWorkUs;
 }

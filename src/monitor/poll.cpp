@@ -153,7 +153,7 @@ bool Poll::IsLate() const {
 }
 
 std::string NotRenewedText(const std::string& true_at) {
-  if (TusinQueue.untold) return Text(kTrueAt, true_at);
+  if (LineIsBarred()) return Text(kTrueAt, true_at);
   return Text(TusinQueue.IsUnanswered(Now()) ? MsgId(kNoAnswerYet) : MsgId(kLineBusy), true_at);
 }
 

@@ -56,7 +56,11 @@ void StopJog(int timeout_ms) {
   const bool stopped = StopAxes(timeout_ms);
   f.JogPending = f.JogRunning = False;
   f.timerJogStop.Stop();
-  if (stopped && WaitForBraking() && ReadnDisp_PresentPos() == 0) SayAtTheEnd();
+  if (stopped && WaitForBraking() && ReadnDisp_PresentPos() == 0) {
+    SayAtTheEnd();
+  } else {
+    ShowPosBehindStop(false);
+  }
   EndMotion();
   EndPress();
 }

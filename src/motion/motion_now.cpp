@@ -44,6 +44,7 @@ void BeginMotion(Motion kind) {
   // A simulated axis ends with the tool.
   MotionNow.Unguarded =
       doors.guard && !doors.guard->Watch(kind == Motion::Jog) && !doors.serial->IsSimulated();
+  frmPosi.Readout.TimerAge.Start();
   ShowMotionLamp();
 }
 

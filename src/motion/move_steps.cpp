@@ -13,6 +13,7 @@
 #include "motion/present_pos.h"
 #include "motion/stop.h"
 #include "platform/doors.h"
+#include "state/app_state.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -83,8 +84,14 @@ Rest StartAndWait(MsgId action, const std::string& frame,
   return rest;
 }
 
+std::string WordsOf(const TusinFailure& failure) {
+  const bool lost = failure.end == TusinEnd::PortLost && AppState.Offline;
+  return lost ? TusinFailureText(failure.end) : failure.text;
+}
+
 void TellOf(const TusinFailure& failure) {
-  if (!failure.text.empty()) MsgBox(failure.text);
+  const std::string words = WordsOf(failure);
+  if (!words.empty()) MsgBox(words);
 }
 
 bool MoveToPosition(int number, bool without_macro) {

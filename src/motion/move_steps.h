@@ -20,6 +20,9 @@ enum class Rest { Standing, Failed, Stopped };
 /// and is told: nothing goes out that moves an axis.
 [[nodiscard]] bool MustRest();
 
+/// The words of a failure that a flow has taken, as things stand by now: a stop may have saved the
+/// session.
+std::string WordsOf(const TusinFailure& failure);
 /// Sends the start of a motion that ends by itself, unless all must rest, and polls until the axes
 /// stand; where they are is shown on the way. A start or a poll whose answer is lost is followed by
 /// a stop. Nobody is told of it: `failure` has the words.

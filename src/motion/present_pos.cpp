@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/scope.h"
 #include "base/text_helpers.h"
 #include "device/dev_setting.h"
 #include "device/unit_conversion.h"
@@ -65,9 +66,11 @@ void ForgetPresentPos() {
   ShowPresentPos();
 }
 
-void ShowPosBehindStop(bool stand) {
-  TusinFailure unheard;
-  if (stand && ReadnDisp_PresentPos(&unheard) == 0) return;
+void ShowPosBehindStop(bool stand, TusinFailure* failure) {
+  // A group's stop ends the polls of its move without words: not this one.
+  MotionNow.Braking = True;
+  const ScopeExit ended([] { MotionNow.Braking = False; });
+  if (stand && ReadnDisp_PresentPos(failure) == 0) return;
   PresentPos.Known = false;
   ShowPresentPos();
 }

@@ -35,7 +35,8 @@ void ShowPresentPos();
 void LookAtPresentPosAge();
 
 /// Behind a stop the axes are not where they were seen last: shows where they have come to rest, or
-/// that nobody knows. `stand`: they are known to. Nobody is told of a failure.
-void ShowPosBehindStop(bool stand);
+/// that nobody knows. `stand`: they are known to. The user is told of a failure, or `failure` takes
+/// it.
+void ShowPosBehindStop(bool stand, TusinFailure* failure = nullptr);
 
 }  // namespace tr7

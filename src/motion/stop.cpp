@@ -115,7 +115,7 @@ bool MayHaveStarted(const TusinFailure& failure) {
 void StopUnheard(TusinFailure& failure) {
   const StopEnd end = SendStops(kStopTimeoutMs);
   TusinFailure of_poll;  // one failure is told
-  ShowPosBehindStop(IsTaken(end) && WaitForBraking(&of_poll));
+  ShowPosBehindStop(IsTaken(end) && WaitForBraking(&of_poll), &of_poll);
   EndMotion();
   if (end == StopEnd::Taken && !failure.text.empty()) failure.text += "\n\n" + Text(kMsgStopped);
   // The alarm that has ended the motion is told by the flow that met it. A second start that was
