@@ -135,12 +135,12 @@ void LeavePort() {
 
 void TakePort() {
   const int typed = TypedPortNo();
-  if (!IsPortNo(typed)) MsgBox(Text(kMsgNoPortNumber, std::to_string(AppState.PortNo)));
   const std::string before = PortDevice(AppState.PortNo);
   const std::string key = "PortDevice" + std::to_string(AppState.PortNo);
   const bool other = PortToTake() != AppState.PortNo || ChosenDevice() != GetSetting(key, "");
   // While the port is the same.
   if (Followers.StopBeforeTheEnd) Followers.StopBeforeTheEnd();
+  if (!IsPortNo(typed)) MsgBox(Text(kMsgNoPortNumber, std::to_string(AppState.PortNo)));
   if (other && Followers.TakeBackBeforeTheEnd) Followers.TakeBackBeforeTheEnd();
   if (IsPortNo(typed)) {
     AppState.PortNo = static_cast<std::int16_t>(typed);

@@ -69,6 +69,7 @@ void WriteData(const DataKind& kind) {
   const TransferScope transfer;
   if (!kind.MayBeSent() || !AskYesToLose(Text(kind.AskWrite)) || !ConnectOrOpenPort()) return;
   if (WriteHeld(kind.WriteToCt) != Outcome::Done) return;
+  if (kind.IsChanged()) kind.Path->clear();  // the file holds other data
   kind.MarkSaved();
   TellInStatusPanel(Text(kMsgWritten));
   WarnOfRepeats();
@@ -87,10 +88,24 @@ void VerifyDataToFile(const DataKind& kind) {
   if (AskAndReadDataFile(kind, kind.File, kind.VerifyTitle)) ReportDifferences(kind);
 }
 
+namespace {
+
+/// What no file and no controller holds is saved first where the user wants that.
+bool MayReplaceData(const DataKind& kind) {
+  constexpr int kMsgSaveBeforeOpen = 6450;
+  if (!kind.IsChanged()) return true;
+  const MsgAnswer answer = AskYesNoCancel(kMsgSaveBeforeOpen);
+  if (answer == MsgAnswer::Yes) SaveDataFile(kind);
+  return answer == MsgAnswer::No || (answer == MsgAnswer::Yes && !kind.IsChanged());
+}
+
+}  // namespace
+
 void OpenDataFile(const DataKind& kind) {
   const CommandsOff commands_off;
   const BusyScope busy;
   kind.StoreShown();
+  if (!MayReplaceData(kind)) return;
   const auto path = AskAndReadDataFile(kind, kind.FileToOpen, kind.OpenTitle);
   if (!path) return;
   kind.TakeStage();

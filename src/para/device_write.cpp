@@ -23,6 +23,7 @@
 #include "state/text.h"
 #include "steps/held_axes.h"
 #include "steps/transfer_scope.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -111,6 +112,7 @@ bool MakeParameters() {
 }
 
 WriteResult WriteHeld() {
+  WriteTaken = {};
   TusinSent axes_sent;
   if (!WriteAxes(axes_sent)) {
     return axes_sent.TookNothing() ? WriteResult::Refused : WriteResult::Cut;
@@ -139,6 +141,7 @@ void TellWhatIsLeft(WriteResult result, bool other_axes) {
 void TellWritten(bool other_axes) {
   const std::string power_cycle = other_axes ? "\n\n" + Text(kMsgPowerCycle) : std::string();
   MsgBox(Text(1527) + power_cycle, MsgButtons::Ok, MsgIcon::Information);
+  WarnOfRepeats();
 }
 
 void TakeWritten() {

@@ -124,6 +124,7 @@ bool WriteAndTell() {
   if (axes == AxesOf::Neither) return false;
   if (!filled.Holds() || !AxesMayBeWritten() || !ViewIsTaken(axes) || !Write(axes)) return false;
   ShowParaAxisMask();
+  if (ParaIsChanged()) frmParameta2.FilePath.clear();  // the file holds other values
   MarkParaSaved();
   Reflect(before);
   const bool other_mode = (ParamSet.PosPrg == 1) != ct_runs_programs;

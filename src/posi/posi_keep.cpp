@@ -1,5 +1,6 @@
 #include "posi/posi_keep.h"
 
+#include <string>
 #include <vector>
 
 #include "base/seq_file.h"
@@ -15,6 +16,7 @@
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
+#include "state/files_here.h"
 #include "state/settings.h"
 #include "state/text.h"
 
@@ -29,11 +31,14 @@ struct Screen {
   int in_mm = 0;
   int first = 0;
   KeptEdits edits;
+  std::string file_mark;  ///< empty also where an earlier version of the tool has kept it
 
   bool Read(const std::string& text) {
     SeqReader items(text);
-    return items.ReadInteger(0, 1, in_mm) && items.ReadInteger(1, kPosiMaxNo, first) &&
-           edits.Read(items) && first + edits.Lines() - 1 <= kPosiMaxNo;
+    const bool good = items.ReadInteger(0, 1, in_mm) && items.ReadInteger(1, kPosiMaxNo, first) &&
+                      edits.Read(items) && first + edits.Lines() - 1 <= kPosiMaxNo;
+    static_cast<void>(good && items.ReadText(file_mark));
+    return good;
   }
 };
 
@@ -49,6 +54,7 @@ void Keep(KeptWork& work) {
   screen.Number(AppState.DispMmUnit ? 1 : 0);
   screen.Number(AppState.PosiFirstNo);
   edits.Write(screen);
+  screen.Text(ShownMark(work.name));
   work.screen = screen.Result();
 }
 
@@ -84,6 +90,7 @@ bool TakeBack(const KeptWork& work) {
   FG_ShowTable();
   screen.edits.PutBack(KeptEdits::Unedited::Pulses);
   work.name.empty() ? SetPosiTableName(Text(kMsgNewData)) : SetPosiTableFile(work.name);
+  FileWasShown(work.name, screen.file_mark);
   frmPosi.PosiChanged = True;
   return true;
 }

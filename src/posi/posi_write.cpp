@@ -190,6 +190,7 @@ void PosidataLoadtoCt() {
     // The line that the stop has cut short stands in the range that was stored.
     MsgBox(WithReason(Text(kMsgStopped, std::to_string(next)), FailedRecordText()), MsgButtons::Ok,
            MsgIcon::Information);
+    WarnOfRepeats();
   }
 }
 

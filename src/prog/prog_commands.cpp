@@ -16,6 +16,7 @@
 #include "state/text.h"
 #include "steps/bulk.h"
 #include "steps/record_frames.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -138,7 +139,11 @@ ProgWrite WriteProgdataToCt(int program, const std::vector<ProgStep>& steps) {
     return steps_sent.TookNothing() ? ProgWrite::NotBegun : ProgWrite::HalfWritten;
   }
   progress.Set(1);
-  const Outcome ended = SendEchoed({FrameOf("0MW", program), kWriteReplyLength, kTimeoutMs, kEcho});
+  TusinSent end_sent;
+  const Outcome ended =
+      SendEchoed({FrameOf("0MW", program), kWriteReplyLength, kTimeoutMs, kEcho}, &end_sent);
+  WriteTaken = {};
+  WriteTaken.Repeated = end_sent.sends > 1;  // the steps that it was to store may be gone
   if (ended != Outcome::Done) return ProgWrite::HalfWritten;
   progress.Set(2);
   TusinPortClose();

@@ -26,6 +26,7 @@
 #include "steps/file_steps.h"
 #include "steps/held_axes.h"
 #include "steps/transfer_scope.h"
+#include "steps/write_taken.h"
 
 namespace tr7 {
 namespace {
@@ -135,7 +136,7 @@ void ProgDataWrite2Ct(ProgView& view) {
   const auto program = AskProgNoOfCt();
   if (!program || !FitsNumber(view, *program) || !OpenPortOrTell()) return;
   if (!WriteWhileHeld(view, *program)) return;
-  TellDone(376);
+  TellWriteDone(376);
   view.Store.ProgCopyNo = static_cast<std::int16_t>(*program);
   if (!RenewStepCount(view, *program)) return;
   view.Caption = Text(kMsgCaption, std::to_string(*program));
@@ -144,6 +145,21 @@ void ProgDataWrite2Ct(ProgView& view) {
 void cmdProgVerifyCt_Click(ProgView& view) {
   if (Verify(view) == Verified::Closes) CloseView(view, CloseReason::Code);
 }
+
+namespace {
+
+/// The file holds this view's program now: another view that it held is in no file any more.
+void LeaveFileTo(const ProgView& view) {
+  for (View* open : OpenViews()) {
+    auto* other = dynamic_cast<ProgView*>(open);
+    if (!other || other == &view || other->Store.FilePath != view.Store.FilePath) continue;
+    other->Store.FilePath.clear();
+    ProgIsSaved(*other);  // none of its steps back is in a file
+    other->Store.ProgChanged = True;
+  }
+}
+
+}  // namespace
 
 void ProgDataSaveAs(ProgView& view) {
   const CommandsOff commands_off;
@@ -159,6 +175,7 @@ void ProgDataSaveAs(ProgView& view) {
     return;
   }
   ShowProgFileName(*path, view);
+  LeaveFileTo(view);
   view.Store.ProgCmdBad = False;
   ProgIsSaved(view);
   TellInStatusPanel(Text(kMsgSaved, *path));

@@ -1,7 +1,9 @@
 #include "state/files_here.h"
 
+#include <charconv>
 #include <filesystem>
 #include <functional>
+#include <system_error>
 
 #include "platform/doors.h"
 
@@ -27,6 +29,19 @@ void NoteBytes(const std::string& path, std::string_view bytes) {
 void FileIsShown(const std::string& path) {
   const auto seen = FilesHere.Seen.find(KeyOf(path));
   if (seen != FilesHere.Seen.end()) FilesHere.Shown[seen->first] = seen->second;
+}
+
+std::string ShownMark(const std::string& path) {
+  const auto shown = FilesHere.Shown.find(KeyOf(path));
+  return shown == FilesHere.Shown.end() ? std::string() : std::to_string(shown->second);
+}
+
+void FileWasShown(const std::string& path, const std::string& mark) {
+  std::size_t hash = 0;
+  const auto read = std::from_chars(mark.data(), mark.data() + mark.size(), hash);
+  if (read.ec == std::errc() && read.ptr == mark.data() + mark.size()) {
+    FilesHere.Shown[KeyOf(path)] = hash;
+  }
 }
 
 bool FileIsChangedOutside(const std::string& path) {

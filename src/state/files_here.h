@@ -22,6 +22,11 @@ void NoteBytes(const std::string& path, std::string_view bytes);
 /// that is only looked at, to compare or to print, is none of these.
 void FileIsShown(const std::string& path);
 
+/// What `FileIsShown` has noted, for work that is kept beyond the end of the tool; empty: nothing.
+std::string ShownMark(const std::string& path);
+/// The file was a view's with this mark.
+void FileWasShown(const std::string& path, const std::string& mark);
+
 /// The file of a view holds other bytes by now. False also of one that is gone or is no view's.
 [[nodiscard]] bool FileIsChangedOutside(const std::string& path);
 

@@ -131,8 +131,13 @@ TEST_P(DataViewsTest, AreSavedOpenedAndCompared) {
   kind.edit(kOther);
   PressWithFile(kind.verify_file, kind.file);
   EXPECT_EQ(Boxes(), Texts{kind.differs});
+  Press(kind.open, {MsgAnswer::Cancel});
+  EXPECT_EQ(kind.held(), kOther);
+  EXPECT_EQ(Boxes(), Texts{Text(6450)});
+  forms.answers = {MsgAnswer::No};
   PressWithFile(kind.open, kind.file);
   EXPECT_EQ(kind.held(), kGood);
+  EXPECT_EQ(Boxes(), Texts{Text(6450)});
   PressWithFile(kind.verify_file, kind.file);
   EXPECT_EQ(Boxes(), Texts{"Result of Verify - OK"});
   PressWithFile(kind.save, "/again");
@@ -243,9 +248,10 @@ TEST_F(GrpViewTest, FilesOfOlderProductsAndOfOtherKinds) {
   GrpShow();
   virt.files.Put("/p.pmt", "\"QV-R7\",\"PRM\"\r\n5\r\n");
   forms.file_answers = {"/p.pmt"};
+  forms.answers = {MsgAnswer::No};
   frmGrp.cmdGrpFileOpen.Press();
   EXPECT_EQ(GrpTable.GrpEnd[7], 8);
-  ASSERT_EQ(forms.boxes.size(), 1u);
+  ASSERT_EQ(forms.boxes.size(), 2u);
   EXPECT_TRUE(BoxShown("Not GRP Data file for QV-TR7.\nOpening file is canceled."));
 }
 
