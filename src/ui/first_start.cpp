@@ -61,7 +61,13 @@ bool FirstStart::HandOver(const QString& file) {
 }
 
 bool FirstStart::Claim() {
-  if (listens_) return true;
+  // Only one of several that start at once gets the address.
+  const auto take = [this] {
+    listens_ = AtAddress(
+        address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });
+    return listens_;
+  };
+  if (listens_ || take()) return true;
   const auto is_there = [](const sockaddr* to, socklen_t size) {
     const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     const int result = connect(probe, to, size);
@@ -70,9 +76,7 @@ bool FirstStart::Claim() {
   };
   if (AtAddress(address_, is_there)) return false;
   QFile::remove(QString::fromUtf8(address_));  // left by one that was killed
-  listens_ = AtAddress(
-      address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });
-  return listens_;
+  return take();
 }
 
 void FirstStart::Listen(std::function<void(const QString& file)> open) {

@@ -128,11 +128,14 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
     PaintLamp(*painter, option.rect, lamp == CellLamp::On, enabled && !grey);
   const int beside = lamp == CellLamp::None ? 3 : kLampWidth + 6;
   painter->setPen(enabled ? look::Colours().text : look::Colours().faint_text);
-  // A number that loses digits at the edge reads as another one.
-  const QRect field = option.rect.adjusted(beside, 0, -kCellEnd, 0);
-  painter->drawText(
-      field, Qt::AlignVCenter | AlignmentOf(col, text),
-      painter->fontMetrics().elidedText(text.trimmed(), Qt::ElideRight, field.width() + kCellEnd));
+  // A number that loses a sign or digits at the edge reads as another one: first the margin goes,
+  // then dots say that something is missing.
+  const QString shown = text.trimmed();
+  QRect field = option.rect.adjusted(beside, 0, -kCellEnd, 0);
+  if (painter->fontMetrics().horizontalAdvance(shown) > field.width())
+    field.setRight(option.rect.right());
+  painter->drawText(field, Qt::AlignVCenter | AlignmentOf(col, text),
+                    painter->fontMetrics().elidedText(shown, Qt::ElideRight, field.width()));
   if (!current || !enabled) return;
   if (grid_.List.Box && col == grid_.List.Col) PaintArrow(*painter, ListArrowIn(option.rect));
   painter->setPen(QPen(look::Colours().selection, 2));

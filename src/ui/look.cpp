@@ -117,8 +117,9 @@ qreal PointsAfter(const QFont& systems) {
   constexpr qreal kSmallestWidth = 1024, kSmallestHeight = 768;
   const qreal wanted = systems.pointSizeF();
   const bool bare = systems.family() == QLatin1String("Sans Serif") && wanted == kToolkits;
-  if (bare || wanted <= 0) return kFontPoints;
-  const QSize room = QGuiApplication::primaryScreen()->availableSize();
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (bare || wanted <= 0 || !screen) return kFontPoints;
+  const QSize room = screen->availableSize();
   const qreal scale = qMin(room.width() / kSmallestWidth, room.height() / kSmallestHeight);
   return qMin(wanted, kFontPoints * qMax(scale, 1.0));
 }

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 #include "core/install_views.h"
 #include "core/main_entry.h"
@@ -89,14 +90,17 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   tr7::look::Apply(application, arguments.theme);
-  tr7::FirstStart first(QString::fromStdString(tr7::SettingsPath(arguments.profile)));
+  std::optional<tr7::FirstStart> first(
+      std::in_place, QString::fromStdString(tr7::SettingsPath(arguments.profile)));
   // Several may start at once: one is the first, the others come to it.
-  const bool is_first = first.Claim(), names_file = !arguments.file.isEmpty();
-  if (!is_first && names_file && first.HandOver(arguments.file)) return 0;
+  const bool is_first = first->Claim(), names_file = !arguments.file.isEmpty();
+  if (!is_first && names_file && first->HandOver(arguments.file)) return 0;
   tr7::Desktop desktop(arguments.profile);
   tr7::InstallViews();
   if (names_file) desktop.outside.Add({QFileInfo(arguments.file).absoluteFilePath()});
-  first.Listen([&desktop](const QString& file) { desktop.outside.Add({file}); });
+  first->Listen([&desktop](const QString& file) { desktop.outside.Add({file}); });
   tr7::Main();
-  return desktop.forms.Ended() ? 0 : QApplication::exec();
+  const int end = desktop.forms.Ended() ? 0 : QApplication::exec();
+  first.reset();  // who starts from now on starts anew
+  return end;
 }
