@@ -182,6 +182,8 @@ void EditProgram(User& user) {
   Save(user, view);
   WriteAndRead(user, view);
   Verify(user, ProgramInFront(user));
+  user.ClickCell(ProgramInFront(user).flgdProg, 1, kProgOperand1);
+  TypeCell(user, "3");
   user.Choose(frmMain.mnuFile, frmMain.mnuFileExit);
   user.AnswerBox(Text(kProgramChanged), MsgAnswer::No);
 }
