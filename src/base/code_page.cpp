@@ -102,6 +102,12 @@ DecodedText DecodeCodePage(int page, std::string_view bytes) {
   result.utf8.reserve(bytes.size());
   for (std::size_t at = 0; at < bytes.size();) {
     const std::size_t begin = at;
+    // Most bytes are themselves on every page.
+    while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) < 0x80) ++at;
+    if (at > begin) {
+      result.utf8.append(bytes, begin, at - begin);
+      continue;
+    }
     bool good = true;
     const char32_t character =
         page == kCodePageUtf8 ? TakeUtf8(bytes, at, good) : TakeShiftJis(bytes, at);

@@ -120,7 +120,7 @@ bool SeqReader::ReadItem(Variant& item) {
   if (!quoted && ParseNumber(text, value)) {
     item = value;
   } else {
-    item = std::move(text);
+    item = Variant(text);
   }
   return true;
 }
@@ -164,8 +164,8 @@ void SeqWriter::Bare(std::string_view text) {
 }
 
 void SeqWriter::Item(const Variant& item) {
-  if (item.Text()) {
-    Text(*item.Text());
+  if (item.IsText()) {
+    Text(item.Text());
   } else {
     Number(item.Number());
   }

@@ -88,9 +88,20 @@ std::string Padded(std::string digits, int width, char fill) {
   return digits;
 }
 
+/// A whole number of a few digits, as most texts of a table are.
+bool IsShortWhole(std::string_view text) {
+  constexpr std::size_t kMostDigits = 9;
+  return !text.empty() && text.size() <= kMostDigits && std::ranges::all_of(text, IsDigit);
+}
+
 }  // namespace
 
 double Val(std::string_view text) {
+  if (IsShortWhole(text)) {
+    int whole = 0;
+    for (const char c : text) whole = whole * 10 + (c - '0');
+    return whole;
+  }
   std::string number;
   bool point = false;
   for (const char c : text) {

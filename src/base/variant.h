@@ -1,48 +1,74 @@
 #pragma once
 
-#include <memory>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace tr7 {
 
 /// A field that holds a number or a text, as the file or the controller delivered it. Tables hold
-/// tens of thousands of numbers and a few texts: a number takes no more room than it must.
+/// tens of thousands of them: a number, and a text of up to 15 bytes, take 16 bytes and no more.
 class Variant {
  public:
   /// 0.
-  Variant() = default;
-  Variant(double number) : number_(number) {}
-  Variant(std::string text) : text_(std::make_unique<const std::string>(std::move(text))) {}
-  Variant(const Variant& other) : number_(other.number_), text_(CopyOf(other.text_)) {}
-  Variant(Variant&&) noexcept = default;
+  Variant() : Variant(0.0) {}
+  Variant(double number) { std::memcpy(bytes_, &number, sizeof number); }
+  Variant(std::string_view text);
+  Variant(const std::string& text) : Variant(std::string_view(text)) {}
+  Variant(const Variant& other) { CopyFrom(other); }
+  Variant(Variant&& other) noexcept { Swap(other); }
   Variant& operator=(const Variant& other) {
-    number_ = other.number_;
-    text_ = CopyOf(other.text_);
+    if (this == &other) return *this;
+    if (kind_ == kLong) FreeText();
+    CopyFrom(other);
     return *this;
   }
-  Variant& operator=(Variant&&) noexcept = default;
-  ~Variant() = default;
+  Variant& operator=(Variant&& other) noexcept {
+    Swap(other);
+    return *this;
+  }
+  ~Variant() {
+    if (kind_ == kLong) FreeText();
+  }
 
-  /// The text, or null where a number is held.
-  const std::string* Text() const { return text_.get(); }
+  bool IsText() const { return kind_ != kNumber; }
+  /// The text; empty where a number is held. Good until the field is changed.
+  std::string_view Text() const;
   /// The number; 0 where a text is held.
-  double Number() const { return number_; }
+  double Number() const;
 
   friend bool operator==(const Variant& a, const Variant& b) {
-    if (!a.text_ || !b.text_) return !a.text_ && !b.text_ && a.number_ == b.number_;
-    return *a.text_ == *b.text_;
+    if (a.IsText() != b.IsText()) return false;
+    return a.IsText() ? a.Text() == b.Text() : a.Number() == b.Number();
   }
 
  private:
-  using Owned = std::unique_ptr<const std::string>;
-  static Owned CopyOf(const Owned& text) {
-    return text ? std::make_unique<const std::string>(*text) : nullptr;
+  static constexpr std::size_t kRoom = 15;
+  /// Up to `kRoom`: a text of so many bytes, which stands in the field itself. `kLong`: the field
+  /// holds the address of its text.
+  static constexpr std::uint8_t kLong = 0xFE, kNumber = 0xFF;
+
+  const std::string* LongText() const;
+  void FreeText();
+  void CopyFrom(const Variant& other) {
+    std::memcpy(bytes_, other.bytes_, kRoom);
+    kind_ = other.kind_;
+    if (kind_ == kLong) OwnText();
+  }
+  void OwnText();  ///< a text of its own in place of the other's
+  void Swap(Variant& other) noexcept {
+    std::swap(bytes_, other.bytes_);
+    std::swap(kind_, other.kind_);
   }
 
-  double number_ = 0;
-  Owned text_;
+  alignas(8) char bytes_[kRoom] = {};
+  std::uint8_t kind_ = kNumber;
 };
+
+static_assert(sizeof(Variant) == 16);
 
 /// The decimal value: of a text its leading number (`Val`).
 double ValueOf(const Variant& field);

@@ -65,8 +65,8 @@ void WithSlot(SetRef& set, int row, int axis, Use use) {
 
 bool NumberOf(const Variant& item, double& value) {
   value = item.Number();
-  if (!item.Text()) return true;
-  SeqReader reader(*item.Text());
+  if (!item.IsText()) return true;
+  SeqReader reader{std::string(item.Text())};
   return reader.AtEnd() || (reader.ReadNumber(value) && reader.AtEnd());
 }
 

@@ -79,13 +79,14 @@ std::int32_t StagedPulses(const Variant& field) {
 }  // namespace
 
 void PosiStageCommit() {
-  for (int n = AppState.PosiFirstNo; n <= AppState.PosiLastNo; ++n) {
-    if (n < 1 || n > kPosiMaxNo) continue;
-    for (std::size_t col = 1; col < kPosiColumns; ++col) {
-      PosiTable.PosiRec[col][n] = PosiTable.PosiStage[col][n];
-    }
-    for (int axis = 0; axis < kAxes; ++axis) {
-      const int col = AxisBase(axis) + kPosi;
+  const int first = std::max<int>(AppState.PosiFirstNo, 1);
+  const int last = std::min<int>(AppState.PosiLastNo, kPosiMaxNo);
+  for (std::size_t col = 1; col < kPosiColumns; ++col) {
+    for (int n = first; n <= last; ++n) PosiTable.PosiRec[col][n] = PosiTable.PosiStage[col][n];
+  }
+  for (int axis = 0; axis < kAxes; ++axis) {
+    const int col = AxisBase(axis) + kPosi;
+    for (int n = first; n <= last; ++n) {
       const std::int32_t pulses = StagedPulses(PosiTable.PosiStage[col][n]);
       PosiTable.PosiPulse[axis][n] = pulses;
       PosiTable.PosiRec[col][n] = static_cast<double>(pulses);
