@@ -23,6 +23,17 @@ bool LooksLikeNumber(const QString& text) {
   return good;
 }
 
+/// Asking for a text's width takes longer than drawing it; most cells hold a few digits, of which
+/// all are of one width, and a sign that is hardly wider.
+bool ClearlyFits(const QString& text, const QFontMetrics& metrics, int width) {
+  constexpr qsizetype kMost = 12;
+  if (text.size() > kMost) return false;
+  for (const QChar c : text) {
+    if ((c < '0' || c > '9') && c != '.' && c != '-' && c != '+') return false;
+  }
+  return (static_cast<int>(text.size()) + 1) * metrics.horizontalAdvance(QChar('0')) <= width;
+}
+
 }  // namespace
 
 bool GridCellPainter::IsSelected(int row, int col) const {
@@ -130,12 +141,14 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   painter->setPen(enabled ? look::Colours().text : look::Colours().faint_text);
   // A number that loses a sign or digits at the edge reads as another one: first the margin goes,
   // then dots say that something is missing.
-  const QString shown = text.trimmed();
   QRect field = option.rect.adjusted(beside, 0, -kCellEnd, 0);
-  if (painter->fontMetrics().horizontalAdvance(shown) > field.width())
-    field.setRight(option.rect.right());
-  painter->drawText(field, Qt::AlignVCenter | AlignmentOf(col, text),
-                    painter->fontMetrics().elidedText(shown, Qt::ElideRight, field.width()));
+  QString shown = text.trimmed();
+  const QFontMetrics metrics = painter->fontMetrics();
+  if (!ClearlyFits(shown, metrics, field.width())) {
+    if (metrics.horizontalAdvance(shown) > field.width()) field.setRight(option.rect.right());
+    shown = metrics.elidedText(shown, Qt::ElideRight, field.width());
+  }
+  painter->drawText(field, Qt::AlignVCenter | AlignmentOf(col, text), shown);
   if (!current || !enabled) return;
   if (grid_.List.Box && col == grid_.List.Col) PaintArrow(*painter, ListArrowIn(option.rect));
   painter->setPen(QPen(look::Colours().selection, 2));
