@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <utility>
 
 #include "compare/compare_reading.h"
@@ -60,7 +61,10 @@ class Comparison {
   void Forget();
   void ShowRows();
   void ShowState();
-  bool Differs(int row) const { return differs_[row - RowsGrid().FixedRows]; }
+  /// What stands in a row of the grid's body.
+  const CompareRow& RowAt(int row) const { return rows_[row - RowsGrid().FixedRows]; }
+  bool Differs(int row) const { return RowAt(row).differs; }
+  std::string CellText(int row, int col) const;
   void TakeSelected();
   void TakeAll();
   void Take(const std::vector<int>& keys);
@@ -71,9 +75,7 @@ class Comparison {
   std::array<Side, 2> sides_{};
   bool compared_ = false;  ///< both sides are in
   int count_ = 0, differing_ = 0;
-  // By row on show.
-  std::vector<int> keys_;
-  std::vector<bool> differs_;
+  std::deque<CompareRow> rows_;  ///< on show
 };
 
 std::string Comparison::Side::Name() const {
@@ -108,6 +110,7 @@ void Comparison::Wire() {
   handlers_.Set(f.chkEqualToo.Click, [this] {
     if (compared_) ShowRows();
   });
+  handlers_.Set(f.flgdCompare.BodyText, [this](int row, int col) { return CellText(row, col); });
   handlers_.Set(f.flgdCompare.IsMarked, [this](int row, int col) {
     return frmCompare.chkEqualToo.Value && col >= kHereCol && Differs(row);
   });
@@ -198,8 +201,7 @@ bool Comparison::Fetch() {
 void Comparison::Forget() {
   compared_ = false;
   count_ = differing_ = 0;
-  keys_.clear();
-  differs_.clear();
+  rows_.clear();
   Grid& grid = RowsGrid();
   grid.SetRows(grid.FixedRows);
   for (int col = 0; col < grid.Cols(); ++col) grid.SetText(kTitleRow, col, {});
@@ -217,19 +219,23 @@ void Comparison::ShowRows() {
   grid.SetText(kTitleRow, kPlaceCol, Text(kMsgPlace));
   grid.SetText(kTitleRow, kHereCol, sides_[kHere].Name());
   grid.SetText(kTitleRow, kThereCol, sides_[kThere].Name());
-  grid.SetRows(grid.FixedRows + static_cast<int>(list.Rows().size()));
-  keys_.clear();
-  differs_.clear();
-  int at = grid.FixedRows;
-  for (CompareRow& row : list.Rows()) {
-    keys_.push_back(row.key);
-    differs_.push_back(row.differs);
-    grid.SetText(at, kNameCol, std::move(row.name));
-    grid.SetText(at, kPlaceCol, std::move(row.place));
-    grid.SetText(at, kHereCol, std::move(row.here));
-    grid.SetText(at++, kThereCol, std::move(row.there));
-  }
+  rows_ = list.TakeRows();
+  grid.SetRows(grid.FixedRows + static_cast<int>(rows_.size()));
   ShowState();
+}
+
+std::string Comparison::CellText(int row, int col) const {
+  const CompareRow& shown = RowAt(row);
+  switch (col) {
+    case kNameCol:
+      return shown.name;
+    case kPlaceCol:
+      return shown.place;
+    case kHereCol:
+      return shown.here;
+    default:
+      return shown.there;
+  }
 }
 
 void Comparison::ShowState() {
@@ -252,7 +258,7 @@ void Comparison::TakeSelected() {
   const auto [first, last] = std::minmax(grid.Row, grid.RowSel);
   std::vector<int> keys;
   for (int row = std::max(first, grid.FixedRows); row <= last; ++row) {
-    if (Differs(row)) keys.push_back(keys_[row - grid.FixedRows]);
+    if (Differs(row)) keys.push_back(RowAt(row).key);
   }
   if (!keys.empty()) Take(keys);
 }
@@ -261,8 +267,8 @@ void Comparison::TakeAll() {
   const std::string question = Text(kMsgTakeAll, std::to_string(differing_));
   if (MsgBox(question, MsgButtons::YesNo, MsgIcon::Question) != MsgAnswer::Yes) return;
   std::vector<int> keys;
-  for (std::size_t i = 0; i < keys_.size(); ++i) {
-    if (differs_[i]) keys.push_back(keys_[i]);
+  for (const CompareRow& row : rows_) {
+    if (row.differs) keys.push_back(row.key);
   }
   Take(keys);
 }
@@ -284,9 +290,9 @@ void Comparison::Take(const std::vector<int>& keys) {
 }
 
 std::string Comparison::RowWords(int key) const {
-  const auto at = std::find(keys_.begin(), keys_.end(), key) - keys_.begin();
-  const int row = RowsGrid().FixedRows + static_cast<int>(at);
-  return RowsGrid().Text(row, kNameCol) + " " + RowsGrid().Text(row, kPlaceCol);
+  const auto of_key = [key](const CompareRow& row) { return row.key == key; };
+  const auto at = std::find_if(rows_.begin(), rows_.end(), of_key);
+  return at == rows_.end() ? std::string() : at->name + " " + at->place;
 }
 
 }  // namespace

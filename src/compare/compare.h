@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/msg_id.h"
@@ -41,14 +43,16 @@ class CompareList {
   }
   void Add(CompareRow row) { rows_.push_back(std::move(row)); }
 
-  std::vector<CompareRow>& Rows() { return rows_; }
+  const std::deque<CompareRow>& Rows() const { return rows_; }
+  /// The same, for good: the list is rid of them.
+  std::deque<CompareRow> TakeRows() { return std::move(rows_); }
   int Compared() const { return compared_; }
   int Differing() const { return differing_; }
 
  private:
   bool equal_too_;
   int compared_ = 0, differing_ = 0;
-  std::vector<CompareRow> rows_;
+  std::deque<CompareRow> rows_;
 };
 
 /// Why a row was not taken over.

@@ -123,9 +123,10 @@ class CompareTest : public FlowTest, public ::testing::WithParamInterface<std::s
     EXPECT_EQ(std::count(forms.modals.begin(), forms.modals.end(), "frmCompare"), 1);
   }
   static std::string Row(int row) {
-    const Grid& grid = frmCompare.flgdCompare;
-    return grid.Text(row, 0) + " " + grid.Text(row, 1) + ": " + grid.Text(row, 2) + " | " +
-           grid.Text(row, 3);
+    const auto cell = [row](int col) -> std::string {
+      return frmCompare.flgdCompare.Text(row, col);
+    };
+    return cell(0) + " " + cell(1) + ": " + cell(2) + " | " + cell(3);
   }
   /// The rows on show, and the words above and below them.
   static Texts Shown() {
