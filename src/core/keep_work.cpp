@@ -11,6 +11,7 @@
 #include "platform/atomic_save.h"
 #include "platform/doors.h"
 #include "state/app_state.h"
+#include "state/files_here.h"
 #include "state/kept_work.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -72,6 +73,7 @@ FileFault Keep(const Unsaved& one) {
   work.kind = one.kind->Word;
   work.when = doors.pump->Date() + " " + doors.pump->TimeOfDay();
   one.kind->Keep(one.which, work);
+  work.mark = ShownMark(work.path);
   // A table that was emptied is nothing to bring back; what it held before still is.
   if (work.file.empty() && work.screen.empty()) return FileFault::None;
   const std::string bytes = BytesOfWork(work), hash = bytes.substr(0, kWorkHashChars);

@@ -8,6 +8,7 @@
 #include "core/keep_work.h"
 #include "forms/frm_kept_work.h"
 #include "platform/doors.h"
+#include "state/files_here.h"
 #include "state/for_mode.h"
 #include "state/kept_work.h"
 #include "state/message_box.h"
@@ -132,7 +133,10 @@ bool TakeBack(const Left& left) {
     MsgBox(Text(kMsgOtherMode, NameOf(left), Text(ModeNameId(left.work.mode))));
     return false;
   }
-  if (left.kind->TakeBack(left.work)) return true;
+  if (left.kind->TakeBack(left.work)) {
+    FileWasShown(left.work.path, left.work.mark);
+    return true;
+  }
   MsgBox(Text(kMsgNotBack, NameOf(left)));
   return false;
 }

@@ -41,7 +41,7 @@ KeepKind KeptTables(const DataKeeping<Table>& data) {
   const auto keep = [data](const std::string& which, KeptWork& work) {
     work.mode = ForMode::Positioner;
     if (which.empty()) {
-      work.name = data.path;
+      work.path = work.name = data.path;
       work.file = data.text_of(data.on_screen());
     } else {
       work.name = Text(kMsgClosed, Text(data.view.Tag));

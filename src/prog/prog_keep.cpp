@@ -1,7 +1,6 @@
 #include "prog/prog_keep.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,30 +41,16 @@ void Keep(const std::string& which, KeptWork& work) {
     work.file = ProgFileText(view->flgdProg);
     SeqWriter screen;
     screen.Number(view->Store.ProgCopyNo);
-    screen.Text(view->Store.FilePath);
     work.screen = screen.Result();
+    work.path = view->Store.FilePath;
   }
 }
 
-/// What is kept beside the listing.
-struct Beside {
-  int number = 0;
-  std::string path;  ///< empty also where an earlier version of the tool has kept it
-};
-
-std::optional<Beside> BesideOf(const KeptWork& work) {
-  Beside beside;
-  SeqReader screen(work.screen);
-  if (!screen.ReadInteger(0, kPrograms, beside.number)) return std::nullopt;
-  static_cast<void>(screen.ReadText(beside.path));
-  return beside;
-}
-
 /// Each cell as it stood, whatever the command list holds by now.
-bool PutProgram(const KeptWork& work, const Beside& beside, ProgView& view) {
+bool PutProgram(const KeptWork& work, int number, ProgView& view) {
   if (ReadProgText(work.file, work.name, view.Store) != 0) return false;
-  view.Store.ProgCopyNo = static_cast<std::int16_t>(beside.number);
-  view.Store.FilePath = beside.path;
+  view.Store.ProgCopyNo = static_cast<std::int16_t>(number);
+  view.Store.FilePath = work.path;
   view.Caption = work.name;
   PutListing(view.flgdProg, view.Store.ProgFileDA);
   FGProg_InitPos(view.flgdProg);
@@ -75,12 +60,13 @@ bool PutProgram(const KeptWork& work, const Beside& beside, ProgView& view) {
 
 /// Into the view of its file, where the start has opened that.
 bool TakeBack(const KeptWork& work) {
-  const auto beside = BesideOf(work);
-  if (!beside || ReadCommandLst() != 0) return false;
-  ProgView* of_file = UnchangedViewOf(beside->path);
+  int number = 0;
+  SeqReader screen(work.screen);
+  if (!screen.ReadInteger(0, kPrograms, number) || ReadCommandLst() != 0) return false;
+  ProgView* of_file = UnchangedViewOf(work.path);
   ProgView& view = of_file ? *of_file : NewProgView();
   ShowView(view);
-  if (PutProgram(work, *beside, view)) return true;
+  if (PutProgram(work, number, view)) return true;
   if (!of_file) UnloadView(view);
   return false;
 }

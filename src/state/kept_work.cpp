@@ -37,6 +37,9 @@ std::string BytesOfWork(const KeptWork& work) {
   content.Text(work.file);
   content.Text(work.screen);
   content.EndLine();
+  content.Text(work.path);
+  content.Text(work.mark);
+  content.EndLine();
   SeqWriter head;
   head.Bare(HashOf(content.Result()));
   head.Text(work.when);
@@ -60,6 +63,8 @@ std::optional<KeptWork> WorkOfBytes(std::string_view bytes) {
                     items.ReadInteger(0, kLastMode, mode) && items.ReadText(work.file) &&
                     items.ReadText(work.screen);
   if (!read) return std::nullopt;
+  // An earlier version of the tool has kept neither.
+  static_cast<void>(items.ReadText(work.path) && items.ReadText(work.mark));
   work.mode = static_cast<ForMode>(mode);
   return work;
 }

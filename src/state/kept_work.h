@@ -17,11 +17,13 @@ struct KeptWork {
   std::string kind;  ///< `KeepKind::Word`
   std::string name;  ///< what it was to the user: its file, its number; may be empty
   ForMode mode = ForMode::Any;
-  std::string when;  ///< date and time
+  std::string when;       ///< date and time
+  std::string path = {};  ///< the file that it belongs to; empty: none
+  std::string mark = {};  ///< `ShownMark` of that file, by who keeps
   /// In the form of the kind's files, as text in UTF-8: what the tables hold.
-  std::string file;
+  std::string file = {};
   /// What the screen shows beside, half-edited as it stands: in a form of the kind's own.
-  std::string screen;
+  std::string screen = {};
 };
 
 /// How unsaved work of a kind of data is kept, and comes back. One record a kind.

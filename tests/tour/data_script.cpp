@@ -140,12 +140,8 @@ void WorkOnData(User& user) {
 
 void TakeBackWork(User& user) {
   constexpr int kBack = 7814, kLost = 6491;
-  const KeptWork work{"grp",
-                      "/jobs/feeder.grp",
-                      ForMode::Positioner,
-                      "2024-08-31 16:05:33",
-                      "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n\"2\",10,25\r\n",
-                      ""};
+  KeptWork work{"grp", "/jobs/feeder.grp", ForMode::Positioner, "2024-08-31 16:05:33"};
+  work.file = "\"QV-R7\",\"GRP\"\r\n99,3\r\n\"1\",1,15\r\n\"2\",10,25\r\n";
   const QString folder = user.file.chopped(3) + "ini.kept";
   QDir().mkpath(folder);
   std::ofstream((folder + "/1-1.grp.kept").toStdString()) << BytesOfWork(work);
