@@ -163,9 +163,7 @@ void TakeUnit(bool mm) {
     MsgBox(TwoLines(2541, 2542));
     return;
   }
-  PutSetting("DispMmUnit", mm ? 1 : 0);
-  AppState.DispMmUnit = mm;
-  ShowInNewUnit();
+  ShowInUnit(mm);
 }
 
 void TakeOptions() {

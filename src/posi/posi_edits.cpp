@@ -41,6 +41,10 @@ bool ShowsShot(const PosiShot& shot) {
   return true;
 }
 
+bool EndsWithUnit(const std::vector<PosiShot>& shots) {
+  return !shots.empty() && shots.back().unit_step;
+}
+
 void ShowInMenu() {
   if (AppState.CommandsOffDepth > 0) return;  // they come on by what is kept then
   frmPosi.Edit.Undo = !PosiUndo.done.empty();
@@ -65,7 +69,8 @@ PosiShot PosiShotOf(const PosiShot& like) {
                 frmPosi.flgdData.Row,
                 frmPosi.flgdData.Col,
                 PosiUndo.commits,
-                static_cast<bool>(frmPosi.PosiChanged)};
+                static_cast<bool>(frmPosi.PosiChanged),
+                static_cast<bool>(AppState.DispMmUnit)};
   const int lines = Lines(), before = static_cast<int>(like.lines.size());
   const auto same = [&](int line, int old) {
     const PosiLine& of = *like.lines[static_cast<std::size_t>(old)];
@@ -106,9 +111,25 @@ PosiEditStep::~PosiEditStep() {
   ShowInMenu();
 }
 
+void RememberPosiUnit() {
+  auto& done = PosiUndo.done;
+  auto& undone = PosiUndo.undone;
+  const bool nothing = Lines() == 0 && done.empty() && undone.empty();
+  if (nothing) return;
+  if (EndsWithUnit(undone)) undone.pop_back();  // it is gone forward to
+  if (EndsWithUnit(done)) {
+    done.pop_back();
+  } else {
+    KeepPosiShot(done, PosiShotOf(LastShot()));
+    done.back().unit_step = true;
+  }
+  ShowInMenu();
+}
+
 void PosiEditsAreSaved() {
   for (auto* shots : {&PosiUndo.done, &PosiUndo.undone}) {
     for (PosiShot& shot : *shots) shot.changed = true;
+    if (EndsWithUnit(*shots)) shots->back().changed = frmPosi.PosiChanged;
   }
 }
 

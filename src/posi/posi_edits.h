@@ -11,7 +11,8 @@
 
 namespace tr7 {
 
-// What the user has done to the lines on show, edit by edit. What shows the table anew forgets it.
+// What the user has done to the lines on show, edit by edit. What shows the table anew forgets it;
+// another unit alone does not.
 
 /// A line of the grid as it stood. Lines that no edit touched are shared by the shots.
 struct PosiLine {
@@ -26,6 +27,10 @@ struct PosiShot {
   int row = 0, col = 0;
   int commits = 0;      ///< how often the grid had gone into the table by then
   bool changed = true;  ///< no file holds this
+  bool mm = false;      ///< the unit of the lengths
+  /// Of the step between this and what came behind it, or ahead of it where it was undone: nothing
+  /// but the unit is another.
+  bool unit_step = false;
 };
 
 struct PosiUndoRecord {
@@ -51,9 +56,14 @@ class PosiEditStep {
   PosiEditStep& operator=(const PosiEditStep&) = delete;
 };
 
+/// Before the grid shows its lines in the other unit, which is a step, too, but keeps what was
+/// undone. There and back is none.
+void RememberPosiUnit();
+
 void ForgetPosiEdits();
 
-/// What the grid shows is in a file now, and none of what can be brought back.
+/// What the grid shows is in a file now, and nothing else of what can be brought back, whatever its
+/// unit is.
 void PosiEditsAreSaved();
 
 /// The grid as it is; lines at head and end that stand in `like` too are shared with it.

@@ -91,9 +91,9 @@ int SaveFileAs2(const std::string& path, PosiFileTrouble& trouble) {
     return 1;
   }
   SetPosiTableFile(path);
-  PosiEditsAreSaved();
   // What lies outside a narrowed range is in no file yet.
   if (RangeIsWholeTable()) frmPosi.PosiChanged = False;
+  PosiEditsAreSaved();
   return 0;
 }
 

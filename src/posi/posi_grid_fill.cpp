@@ -30,8 +30,7 @@ void FillRow(int row, int number, bool program_mode) {
   }
 }
 
-void Show(bool program_mode) {
-  ForgetPosiEdits();
+void Fill(bool program_mode) {
   FG_HighSyoriStart();
   Grid& grid = frmPosi.flgdData;
   grid.SetRows(ShownPositions() + kPosiHeaderRows);
@@ -53,11 +52,17 @@ void Show(bool program_mode) {
   FG_HighSyoriEnd();
 }
 
+void Show(bool program_mode) {
+  ForgetPosiEdits();
+  Fill(program_mode);
+}
+
 }  // namespace
 
 void QvDataHyoji_3() { Show(false); }
 void QvDataHyoji_3Prg() { Show(true); }
 void FG_ShowTable() { Show(AppState.CtMode); }
+void FG_ShowTableAgain() { Fill(AppState.CtMode); }
 
 void FG_HighSyoriStart() { frmPosi.flgdData.Redraw = false; }
 

@@ -7,6 +7,8 @@ void QvDataHyoji_3();
 void QvDataHyoji_3Prg();
 /// The one of the two that the mode asks for.
 void FG_ShowTable();
+/// The same where the table is the one on show: edits of it can still be taken back.
+void FG_ShowTableAgain();
 
 // Bracket a bulk fill: painting off and on.
 void FG_HighSyoriStart();

@@ -1,6 +1,9 @@
 #include "posi/posi_grid_keep.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <set>
+#include <vector>
 
 #include "base/text_helpers.h"
 #include "device/unit_conversion.h"
@@ -10,13 +13,22 @@
 #include "posi/posi_table.h"
 
 namespace tr7 {
+namespace {
+
+/// A line that the table does not hold: a new one, or one brought back from before a commit.
+bool SomeLineIsNew(const std::vector<std::int16_t>& sources) {
+  return std::ranges::find(sources, 0) != sources.end();
+}
+
+}  // namespace
 
 KeptEdits::KeptEdits() : program_mode_(frmPosi.ShownPrgMode), source_(frmPosi.SourceNo) {
   muko_ = frmPosi.ShownMuko;
   lead_ = frmPosi.ShownLead;
   ppr_ = frmPosi.ShownPpr;
   const Grid& grid = frmPosi.flgdData;
-  if (!frmPosi.PosiChanged || grid.Rows() <= kPosiHeaderRows) return;
+  if (grid.Rows() <= kPosiHeaderRows) return;
+  if (!frmPosi.PosiChanged && !SomeLineIsNew(source_)) return;
   rows_ = grid.Rows();
   texts_.reserve(static_cast<std::size_t>(rows_) * kPosiColumns);
   for (int row = 0; row < rows_; ++row) {
@@ -35,6 +47,7 @@ void KeptEdits::PutBack(Unedited keeps) const {
     }
   }
   frmPosi.SourceNo = source_;
+  if (SomeLineIsNew(source_)) frmPosi.PosiChanged = True;
   grid.Touch();
 }
 

@@ -216,6 +216,28 @@ TEST_F(PosiUndoTest, AnyEditsComeBackOneByOneAndGoForwardAgain) {
   EXPECT_TRUE(PosiDataCheckAll()) << "numbers and range are those of the lines";
 }
 
+TEST_F(PosiUndoTest, AChangeOfUnitIsAStep) {
+  ShowTable(1, 3, false, true);
+  const auto state = [] {
+    return Shown() + (AppState.DispMmUnit ? "mm" : "pls") + (frmPosi.PosiChanged ? "*" : "");
+  };
+  std::vector<std::string> states{state()};
+  for (const char* typed : {"", "", "1.003", "", "135"}) {  // the unit, there and back, is no step
+    *typed ? static_cast<void>(Type(2, kPosi, typed)) : frmMain.mnuViewUnit.Press();
+    states.push_back(state());
+  }
+  EXPECT_EQ(states[2], states[0]);
+  for (const std::size_t at : {4, 3, 2}) {
+    frmMain.mnuEditUndo.Press();
+    EXPECT_EQ(state(), states[at]);
+  }
+  EXPECT_FALSE(frmMain.mnuEditUndo.Enabled);
+  for (const std::size_t at : {3, 4, 5}) {
+    frmMain.mnuEditRedo.Press();
+    EXPECT_EQ(state(), states[at]);
+  }
+}
+
 TEST_F(PosiUndoTest, WhatTheFileHoldsIsNoChange) {
   ShowTable(1, 3);
   Type(1, kVel, "7");
@@ -225,6 +247,16 @@ TEST_F(PosiUndoTest, WhatTheFileHoldsIsNoChange) {
   PosiEditsAreSaved();
   frmMain.mnuEditUndo.Press();
   EXPECT_TRUE(frmPosi.PosiChanged) << "the file holds the edit";
+}
+
+TEST_F(PosiUndoTest, ALengthThatWasTakenBackStaysSo) {
+  ShowTable(5, 12);
+  const std::string shown = Shown();
+  Type(10, kPosi, "500");
+  frmMain.mnuEditUndo.Press();
+  frmPosi.LayoutChanged();
+  EXPECT_EQ(Shown(), shown);
+  EXPECT_FALSE(frmPosi.PosiChanged);
 }
 
 }  // namespace
