@@ -57,9 +57,11 @@ const Road* RoadOf(FileKind kind) {
 /// holds takes its place.
 void OpenProgramAnew(Menu& opens, const std::string& path) {
   ProgView* before = UnchangedViewOf(path);
+  const View* front = ActiveView();
   opens.Press();
   const auto* now = dynamic_cast<const ProgView*>(ActiveView());
-  if (before && now && now != before && now->Store.FilePath == path) UnloadView(*before);
+  const bool opened = now && now != front && now->Store.FilePath == path;
+  if (before && opened && now != before) UnloadView(*before);
 }
 
 void TakeRoad(const Road& road, const std::string& path) {
@@ -86,7 +88,7 @@ void OpenRecent(FileKind kind, int index) {
 }  // namespace
 
 bool MayOpenFile() {
-  const bool moves = MotionNow.Kind != Motion::None || MotionNow.Stopping || MotionIsComing();
+  const bool moves = SomethingMoves() || MotionNow.Stopping || MotionIsComing();
   return frmMain.Visible && frmMain.mnuFile.Enabled && !HandlerRuns::Any() && !FlowRuns() &&
          !AppState.TeachingNow && !AppState.Closing && !moves;
 }

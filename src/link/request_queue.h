@@ -12,6 +12,9 @@ namespace tr7 {
 /// Requests that the queue holds at most, the one on the line included.
 inline constexpr int kQueueRows = 11;
 
+/// What an answer has told is old this long after it, where none renews it.
+inline constexpr std::int64_t kAnswerOldUs = 2'000'000;
+
 enum class TusinPriority {
   Ordinary,
   Start,  ///< starts a movement: a stop that overtakes it withdraws it, it never follows the stop

@@ -136,6 +136,29 @@ void TakeOneAnswer() {
   TusinQueue.late_reply_possible |= !AppState.TusinReplyText.starts_with(kErrorPrefix);
 }
 
+/// How an exchange ends that waits for the late reply of another to pass; nothing: it has not, or
+/// the controller has answered behind it.
+std::optional<TusinEnd> JudgeLateReply(const TusinRequest& request) {
+  if (PortIsLost()) return PortLost();
+  if (IsWithdrawn(request)) return TusinEnd::Withdrawn;
+  TusinQueue.late_reply_possible = false;
+  if (!AppState.TusinReplyReady) return TusinEnd::TimedOut;
+  const std::string_view line = LastLine(AppState.TusinReplyText);
+  if (line.starts_with(kErrorPrefix)) return TusinEnd::ErrorReply;
+  TusinQueue.late_reply_possible = !line.starts_with(kResyncPrefix);
+  AppState.TusinReplyReady = False;
+  return std::nullopt;
+}
+
+/// One more send of the request; false when the port has died.
+bool SendRequest(TusinRequest& request) {
+  ++request.sends;
+  const bool again = request.sends > 1;
+  if (!SendLine(request.message, request.timeout_ms, request.reply_length, again)) return false;
+  request.awaits_reply = true;
+  return true;
+}
+
 TusinEnd JudgeReply(TusinRequest& request) {
   const std::string& reply = AppState.TusinReplyText;
   const bool error = reply.starts_with(kErrorPrefix);
@@ -207,23 +230,12 @@ Exchange TusinExchange(TusinRequest& request) {
     }
     while (flush) {
       co_await Until{IsAnsweredOrCutShort};
-      if (PortIsLost()) co_return PortLost();
-      if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
-      TusinQueue.late_reply_possible = false;
-      if (!AppState.TusinReplyReady) co_return TusinEnd::TimedOut;
-      const std::string_view line = LastLine(AppState.TusinReplyText);
-      if (line.starts_with(kErrorPrefix)) co_return TusinEnd::ErrorReply;
-      TusinQueue.late_reply_possible = flush = !line.starts_with(kResyncPrefix);
-      AppState.TusinReplyReady = False;
+      if (const auto end = JudgeLateReply(request)) co_return *end;
+      flush = TusinQueue.late_reply_possible;
     }
 
     for (int sends = 1;; ++sends) {
-      ++request.sends;
-      const bool again = request.sends > 1;
-      if (!SendLine(request.message, request.timeout_ms, request.reply_length, again)) {
-        co_return PortLost();
-      }
-      request.awaits_reply = true;
+      if (!SendRequest(request)) co_return PortLost();
       co_await Until{IsAnsweredOrCutShort};
       if (DropLateReply(request)) co_await Until{IsAnswered};
       if (IsCutShort(request)) {

@@ -91,6 +91,17 @@ std::string TusinFailureText(TusinEnd end, bool to_offline) {
   return WithReason(text, FailureFollowers.WhatGoesOn(end));
 }
 
+std::string TakenFailureText(const TusinFailure& failure) {
+  const bool lost = failure.end == TusinEnd::PortLost && AppState.Offline;
+  const std::string text = lost ? TusinFailureText(failure.end) : failure.text;
+  return text.empty() || failure.since.empty() ? text : text + "\n\n" + failure.since;
+}
+
+void TellTakenFailure(const TusinFailure& failure) {
+  const std::string text = TakenFailureText(failure);
+  if (!text.empty()) MsgBox(text);
+}
+
 TusinOutcome TusinWait(const std::string& command, int reply_length, int timeout_ms,
                        std::string& reply, const TusinOptions& options) {
   TusinRequest request;

@@ -21,6 +21,7 @@ struct TusinFailure {
   int sends = 0;           ///< how often the request has been handed to the port
   std::string text;        ///< the words for the user; empty where there is nothing to tell
   std::string reply = {};  ///< the controller's own, with CR LF; of `TusinEnd::ErrorReply`
+  std::string since = {};  ///< what has been done about it by now, to be told behind the words
 };
 
 /// How one request ended, and how often it had been handed to the port by then.
@@ -44,6 +45,11 @@ extern FailureFollowersRecord FailureFollowers;
 /// The words for a failure, with what goes on in spite of it; empty where the user is not told.
 /// `to_offline`: the session ends with it, which a port that was lost tells.
 std::string TusinFailureText(TusinEnd end, bool to_offline = true);
+/// The same for a failure that a caller has taken, as things stand by now: a stop may have saved
+/// the session.
+std::string TakenFailureText(const TusinFailure& failure);
+/// Tells of it, where there is something to tell.
+void TellTakenFailure(const TusinFailure& failure);
 
 struct TusinOptions {
   TusinPriority priority = TusinPriority::Ordinary;

@@ -34,9 +34,7 @@ bool SendRelease() {
 
 TusinOutcome TellFailed(const TusinFailure& failure) {
   if (failure.end == TusinEnd::Withdrawn) return TusinOutcome::Withdrawn;
-  const bool lost = failure.end == TusinEnd::PortLost;
-  const std::string text = lost ? TusinFailureText(failure.end) : failure.text;
-  if (!text.empty()) MsgBox(text);
+  TellTakenFailure(failure);
   TusinAbort();
   return TusinOutcome::Failed;
 }

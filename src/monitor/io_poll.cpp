@@ -27,7 +27,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kFirstPollMs = 2000, kNextPollMs = 500;
-constexpr std::int64_t kOldMs = 2000, kOldBeforeAnyPaceMs = 10'000;
+constexpr std::int64_t kOldMs = kAnswerOldUs / 1000, kOldBeforeAnyPaceMs = 10'000;
 
 /// Between two requests: whether the poll has still someone to ask for, and the line for it. A hand
 /// on a jog button or on a slide takes it at once.

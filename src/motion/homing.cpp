@@ -54,7 +54,7 @@ std::string HomeSensorText() {
 /// failure may have been refused with another alarm since.
 void TellHomingFailure(const TusinFailure& failure) {
   const bool sensor = failure.reply.starts_with(kHomeSensorAlarm);
-  const std::string text = sensor ? HomeSensorText() : failure.text;
+  const std::string text = sensor ? HomeSensorText() : TakenFailureText(failure);
   if (!text.empty()) MsgBox(text);
 }
 

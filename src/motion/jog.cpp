@@ -75,7 +75,7 @@ void StartFailed(TusinFailure& failure) {
   if (MayHaveStarted(failure)) StopUnheard(failure);
   EndMotion();
   EndPress();
-  TellOf(failure);
+  TellTakenFailure(failure);
 }
 
 void StartJog(int index) {
@@ -107,7 +107,7 @@ bool MoveAStep(int step, int index) {
   const auto send = [&frame](TusinFailure* of) { return MoveDirectTextToCt(*frame, of); };
   const MotionScope motion(Motion::Inching);
   const Rest rest = StartAndWait(kActionInching, *frame, send, failure);
-  TellOf(failure);
+  TellTakenFailure(failure);
   return rest != Rest::Failed;
 }
 

@@ -13,7 +13,6 @@
 #include "motion/present_pos.h"
 #include "motion/stop.h"
 #include "platform/doors.h"
-#include "state/app_state.h"
 #include "state/message_box.h"
 #include "state/status_panel.h"
 #include "state/text.h"
@@ -84,22 +83,12 @@ Rest StartAndWait(MsgId action, const std::string& frame,
   return rest;
 }
 
-std::string WordsOf(const TusinFailure& failure) {
-  const bool lost = failure.end == TusinEnd::PortLost && AppState.Offline;
-  return lost ? TusinFailureText(failure.end) : failure.text;
-}
-
-void TellOf(const TusinFailure& failure) {
-  const std::string words = WordsOf(failure);
-  if (!words.empty()) MsgBox(words);
-}
-
 bool MoveToPosition(int number, bool without_macro) {
   const int kind = without_macro ? 1 : 0;
   const auto send = [=](TusinFailure* failure) { return MoveAxesToCt(number, kind, failure); };
   TusinFailure failure;
   const Rest rest = StartAndWait(kActionMove, MoveAxesFrame(number, kind), send, failure);
-  TellOf(failure);
+  TellTakenFailure(failure);
   return rest == Rest::Standing;
 }
 

@@ -20,17 +20,12 @@ enum class Rest { Standing, Failed, Stopped };
 /// and is told: nothing goes out that moves an axis.
 [[nodiscard]] bool MustRest();
 
-/// The words of a failure that a flow has taken, as things stand by now: a stop may have saved the
-/// session.
-std::string WordsOf(const TusinFailure& failure);
 /// Sends the start of a motion that ends by itself, unless all must rest, and polls until the axes
 /// stand; where they are is shown on the way. A start or a poll whose answer is lost is followed by
 /// a stop. Nobody is told of it: `failure` has the words.
 [[nodiscard]] Rest StartAndWait(MsgId action, const std::string& frame,
                                 const std::function<int(TusinFailure* failure)>& send,
                                 TusinFailure& failure);
-/// Tells of a failure that was taken, where there is something to tell.
-void TellOf(const TusinFailure& failure);
 
 /// Moves to a position, with or without its macro, and waits for the axes to stand. False after the
 /// user has been told, or has stopped it.

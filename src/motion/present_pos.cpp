@@ -22,7 +22,6 @@ PresentPosRecord PresentPos;
 namespace {
 
 constexpr int kTrueAt = 7338;
-constexpr std::int64_t kOldUs = 2'000'000;
 
 std::string InDisplayUnit(int axis, std::int32_t pulses) {
   if (!AppState.DispMmUnit) return std::to_string(pulses);
@@ -49,7 +48,7 @@ void ShowPresentPos() {
 void LookAtPresentPosAge() {
   if (MotionNow.Kind == Motion::None) return frmPosi.Readout.TimerAge.Stop();
   const std::int64_t now_us = doors.pump->NowUs();
-  if (now_us - PresentPos.TrueUs <= kOldUs || !TusinQueue.IsUnanswered(now_us)) return;
+  if (now_us - PresentPos.TrueUs <= kAnswerOldUs || !TusinQueue.IsUnanswered(now_us)) return;
   PresentPos.Old = true;
   ShowPresentPos();
 }

@@ -117,7 +117,7 @@ void StopUnheard(TusinFailure& failure) {
   TusinFailure of_poll;  // one failure is told
   ShowPosBehindStop(IsTaken(end) && WaitForBraking(&of_poll), &of_poll);
   EndMotion();
-  if (end == StopEnd::Taken && !failure.text.empty()) failure.text += "\n\n" + Text(kMsgStopped);
+  if (end == StopEnd::Taken) failure.since = Text(kMsgStopped);
   // The alarm that has ended the motion is told by the flow that met it. A second start that was
   // refused because the first one moves is not what refuses the stop.
   if (end != StopEnd::Alarm || failure.reply != AppState.LastCtErrorText) TellStop(end);

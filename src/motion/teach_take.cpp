@@ -35,7 +35,7 @@ bool ReadPlace() {
     return false;
   }
   if (rest == 1 && ReadnDisp_PresentPos(&failure) == 0) return true;
-  MsgBox(WithReason(Text(kMsgNotRead), WordsOf(failure)));
+  MsgBox(WithReason(Text(kMsgNotRead), TakenFailureText(failure)));
   return false;
 }
 

@@ -51,22 +51,22 @@ void OtherMode() {
   DispControlerMode();
 }
 void OtherStroke() { DevSetting[0].Stroke = 50; }
+/// An axis not in use has no limits.
+void ModeAndAxes() {
+  DropAxis4();
+  OtherMode();
+  RecalcLimits();
+}
+void Everything() {
+  ModeAndAxes();
+  OtherStroke();
+}
 
 TEST_F(ConnectTest, EveryDifferenceAndEveryAnswer) {
   using Prompts = std::vector<MsgId>;
   constexpr MsgId kMode = 490, kDevs = 371;
   const std::string mode = kVersion + kBlock0, write = mode + "0RD0 0WD0 ";
   const std::string take = kBlock0 + kDevices, took_mode = mode + kBlock0 + take;
-  // An axis not in use has no limits.
-  const auto mode_and_axes = [] {
-    DropAxis4();
-    OtherMode();
-    RecalcLimits();
-  };
-  const auto all = [&] {
-    mode_and_axes();
-    OtherStroke();
-  };
   const struct {
     const char* name;
     std::function<void()> change;  ///< of the PC, before it goes online
@@ -82,11 +82,11 @@ TEST_F(ConnectTest, EveryDifferenceAndEveryAnswer) {
       {"mode, Ct's", OtherMode, {0}, took_mode, true, {kMode}, true},
       {"mode, PC's", OtherMode, {1}, write, false, {kMode}, false},
       {"mode, none", OtherMode, {-1}, mode, false, {kMode}, false},
-      {"mode and axes, Ct's", mode_and_axes, {0}, took_mode, true, {kMode}, true},
+      {"mode and axes, Ct's", ModeAndAxes, {0}, took_mode, true, {kMode}, true},
       {"device, Ct's", OtherStroke, {0}, kEqual + take, true, {kDevs}, true},
       {"device, PC's", OtherStroke, {1}, kEqual, true, {kDevs}, false},
       {"device, none", OtherStroke, {-1}, kEqual, false, {kDevs}, false},
-      {"all, Ct's", all, {0, 0}, took_mode + take, true, {kMode, kDevs}, true},
+      {"all, Ct's", Everything, {0, 0}, took_mode + take, true, {kMode, kDevs}, true},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
@@ -146,8 +146,7 @@ class EditedTableTest : public ConnectTest {
 
 TEST_F(EditedTableTest, TakingTheControllersModeKeepsUnsavedData) {
   ReadAndGoOffline();
-  AppState.DispMmUnit = False;
-  ShowInNewUnit();
+  ShowInUnit(false);
   Edit(kWay, "2");
   OtherMode();  // the PC's becomes program mode, as if chosen offline
   RebuildPosiViewKeepingEdits();
