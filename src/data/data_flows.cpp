@@ -92,11 +92,11 @@ namespace {
 
 /// What no file and no controller holds is saved first where the user wants that.
 bool MayReplaceData(const DataKind& kind) {
-  constexpr int kMsgSaveBeforeOpen = 6450;
-  if (!kind.IsChanged()) return true;
-  const MsgAnswer answer = AskYesNoCancel(kMsgSaveBeforeOpen);
-  if (answer == MsgAnswer::Yes) SaveDataFile(kind);
-  return answer == MsgAnswer::No || (answer == MsgAnswer::Yes && !kind.IsChanged());
+  const auto save = [&kind] {
+    SaveDataFile(kind);
+    return !kind.IsChanged();
+  };
+  return !kind.IsChanged() || MayLoseUnsaved(kAskSaveBeforeOpen, save);
 }
 
 }  // namespace

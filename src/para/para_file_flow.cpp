@@ -116,15 +116,8 @@ bool ReadParaFileToVerify() {
 }
 
 bool MayDropParaChanges(MsgId question_id) {
-  if (!frmParameta2.Loaded || !ParaIsChanged()) return true;
-  switch (AskYesNoCancel(question_id)) {
-    case MsgAnswer::Yes:
-      return SaveParaToFile() == 0;
-    case MsgAnswer::No:
-      return true;
-    default:
-      return false;
-  }
+  return !frmParameta2.Loaded || !ParaIsChanged() ||
+         MayLoseUnsaved(question_id, [] { return SaveParaToFile() == 0; });
 }
 
 int OpenParaForDevice() {

@@ -20,7 +20,6 @@
 namespace tr7 {
 namespace {
 
-constexpr int kMsgSaveBefore = 6450;
 constexpr int kMostEntries = 9999;
 
 /// What a field shows. A list is found by its text, which its entries may have in another language,
@@ -45,7 +44,7 @@ void KeepField(SeqWriter& out, const Control& control) {
 }
 
 void Keep(KeptWork& work) {
-  work.name = frmParameta2.FilePath;
+  work.path = work.name = frmParameta2.FilePath;
   if (ParamSet != ParamSetRecord{}) work.file = ParaFileText();
   SeqWriter screen;
   screen.Number(ParaFlags.ShownAxisCount);
@@ -103,7 +102,8 @@ void PutFields(const std::map<std::string, Shown>& fields) {
 bool TakeBack(const KeptWork& work) {
   int axes = 0;
   std::map<std::string, Shown> fields;
-  if (!ReadScreen(work.screen, axes, fields) || !MayDropParaChanges(kMsgSaveBefore)) return false;
+  if (!ReadScreen(work.screen, axes, fields)) return false;
+  if (!MayDropParaChanges(kAskSaveBeforeOpen)) return false;
   ShowOrBringToFront(frmParameta2);
   if (!TakeSet(work.file)) return false;
   if (axes > 0) YukoJikuHyojiSettei2(axes);

@@ -26,7 +26,6 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgSaveBeforeClose = 6067;
-constexpr int kMsgSaveBeforeOpen = 6450;
 
 /// The lists of the axes in use, as far as they are not in memory yet. A missing file is told once.
 void ReadDeviceLists() {
@@ -79,7 +78,7 @@ bool QueryUnloadView(CloseReason) {
 }
 
 void OpenParameters() {
-  if (MayDropParaChanges(kMsgSaveBeforeOpen)) OpenParaFile();
+  if (MayDropParaChanges(kAskSaveBeforeOpen)) OpenParaFile();
 }
 
 void CommandsGoOff() {

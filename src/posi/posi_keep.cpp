@@ -16,29 +16,25 @@
 #include "posi/posi_table.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
-#include "state/files_here.h"
 #include "state/settings.h"
 #include "state/text.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kMsgPositions = 202, kMsgNewData = 213;
-constexpr int kMsgSaveBefore = 6450;
 
 /// The texts of the grid, the unit that they are in and the number of the first line.
 struct Screen {
   int in_mm = 0;
   int first = 0;
   KeptEdits edits;
-  std::string file_mark;  ///< empty also where an earlier version of the tool has kept it
 
   bool Read(const std::string& text) {
     SeqReader items(text);
-    const bool good = items.ReadInteger(0, 1, in_mm) && items.ReadInteger(1, kPosiMaxNo, first) &&
-                      edits.Read(items) && first + edits.Lines() - 1 <= kPosiMaxNo;
-    static_cast<void>(good && items.ReadText(file_mark));
-    return good;
+    return items.ReadInteger(0, 1, in_mm) && items.ReadInteger(1, kPosiMaxNo, first) &&
+           edits.Read(items) && first + edits.Lines() - 1 <= kPosiMaxNo;
   }
 };
 
@@ -47,14 +43,13 @@ void Keep(KeptWork& work) {
   if (edits.Lines() == 0) return;
   std::vector<int> numbers = edits.Sources();
   if (numbers.empty()) numbers.push_back(AppState.PosiFirstNo);  // a file has one at least
-  work.name = PosiTableHasFile() ? PosiTablePath() : std::string();
+  work.path = work.name = PosiTableHasFile() ? PosiTablePath() : std::string();
   work.mode = edits.InProgramMode() ? ForMode::Program : ForMode::Positioner;
   work.file = PosiFileText(numbers);
   SeqWriter screen;
   screen.Number(AppState.DispMmUnit ? 1 : 0);
   screen.Number(AppState.PosiFirstNo);
   edits.Write(screen);
-  screen.Text(ShownMark(work.name));
   work.screen = screen.Result();
 }
 
@@ -73,7 +68,7 @@ bool TakeTable(const std::string& file) {
 
 bool TakeBack(const KeptWork& work) {
   Screen screen;
-  if (!screen.Read(work.screen) || !MayReplaceTable(kMsgSaveBefore)) return false;
+  if (!screen.Read(work.screen) || !MayReplaceTable(kAskSaveBeforeOpen)) return false;
   EditCMD_Muko();
   const CommandsOff commands_off;
   const PosiGridOff grid_off;
@@ -90,7 +85,6 @@ bool TakeBack(const KeptWork& work) {
   FG_ShowTable();
   screen.edits.PutBack(KeptEdits::Unedited::Pulses);
   work.name.empty() ? SetPosiTableName(Text(kMsgNewData)) : SetPosiTableFile(work.name);
-  FileWasShown(work.name, screen.file_mark);
   frmPosi.PosiChanged = True;
   return true;
 }

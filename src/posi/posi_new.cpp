@@ -12,8 +12,8 @@
 #include "posi/range_dialogs.h"
 #include "state/app_state.h"
 #include "state/busy_scope.h"
-#include "state/message_box.h"
 #include "state/text.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
 namespace {
@@ -40,12 +40,11 @@ bool AskNewRange() {
 }  // namespace
 
 bool MayReplaceTable(MsgId question_id) {
-  if (!frmPosi.PosiChanged) return true;
-  const MsgAnswer answer = AskYesNoCancel(question_id);
-  if (answer == MsgAnswer::No) return true;
-  if (answer != MsgAnswer::Yes) return false;
-  frmPosi.Commands.Save();
-  return !frmPosi.PosiChanged;
+  const auto save = [] {
+    frmPosi.Commands.Save();
+    return !frmPosi.PosiChanged;
+  };
+  return !frmPosi.PosiChanged || MayLoseUnsaved(question_id, save);
 }
 
 void SinkiSakusei() {

@@ -20,11 +20,11 @@
 #include "state/busy_scope.h"
 #include "state/message_box.h"
 #include "state/text.h"
+#include "steps/file_steps.h"
 
 namespace tr7 {
 namespace {
 
-constexpr int kMsgSaveBeforeOpen = 6450;
 constexpr int kMsgLeftOut = 6458;
 constexpr int kMsgRefused = 7195;
 
@@ -68,7 +68,7 @@ void PosidataFileOpen() {
   EditCMD_Muko();
   const CommandsOff commands_off;
   const PosiGridOff grid_off;
-  if (!MayReplaceTable(kMsgSaveBeforeOpen)) return;
+  if (!MayReplaceTable(kAskSaveBeforeOpen)) return;
   const auto path = AskOpenPath(kPosiDataFile, 364);
   if (!path) TellDone(367);
   if (!path || path->empty()) return;

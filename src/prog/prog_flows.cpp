@@ -153,9 +153,7 @@ void LeaveFileTo(const ProgView& view) {
   for (View* open : OpenViews()) {
     auto* other = dynamic_cast<ProgView*>(open);
     if (!other || other == &view || other->Store.FilePath != view.Store.FilePath) continue;
-    other->Store.FilePath.clear();
-    ProgIsSaved(*other);  // none of its steps back is in a file
-    other->Store.ProgChanged = True;
+    ProgLosesItsFile(*other);
   }
 }
 

@@ -21,6 +21,12 @@ void Show(Grid& listing, const ListingShot& shot) {
   listing.SelectCell(std::min(shot.row, ListingSteps(listing)), shot.column);
 }
 
+void MarkShotsUnsaved(ProgStore& store) {
+  for (auto* shots : {&store.Undo, &store.Redo}) {
+    for (ListingShot& shot : *shots) shot.changed = true;
+  }
+}
+
 /// What stands at the end of `from` comes back, and what it replaces can be brought back from `to`.
 bool BringBack(ProgView& view, std::vector<ListingShot>& from, std::vector<ListingShot>& to) {
   if (from.empty()) return false;
@@ -43,9 +49,13 @@ void RememberForUndo(ProgView& view) {
 
 void ProgIsSaved(ProgView& view) {
   view.Store.ProgChanged = False;
-  for (auto* shots : {&view.Store.Undo, &view.Store.Redo}) {
-    for (ListingShot& shot : *shots) shot.changed = true;
-  }
+  MarkShotsUnsaved(view.Store);
+}
+
+void ProgLosesItsFile(ProgView& view) {
+  view.Store.FilePath.clear();
+  view.Store.ProgChanged = True;
+  MarkShotsUnsaved(view.Store);
 }
 
 bool ProgUndo(ProgView& view) { return BringBack(view, view.Store.Undo, view.Store.Redo); }

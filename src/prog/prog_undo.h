@@ -12,6 +12,10 @@ void RememberForUndo(ProgView& view);
 /// A file or the controller holds what the listing shows, and none of what can be brought back.
 void ProgIsSaved(ProgView& view);
 
+/// Its file holds another program from now on: nothing holds what the listing shows, nor what can
+/// be brought back.
+void ProgLosesItsFile(ProgView& view);
+
 /// Take back the last edit, or the last taking back. False: there is none.
 bool ProgUndo(ProgView& view);
 bool ProgRedo(ProgView& view);

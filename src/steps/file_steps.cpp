@@ -53,6 +53,11 @@ bool MayReplaceFile(const std::string& path) {
   return !FileIsChangedOutside(path) || AskYesToLose(Text(kMsgChangedOutside, FileTitle(path)));
 }
 
+bool MayLoseUnsaved(MsgId question_id, const std::function<bool()>& save) {
+  const MsgAnswer answer = AskYesNoCancel(question_id);
+  return answer == MsgAnswer::No || (answer == MsgAnswer::Yes && save());
+}
+
 bool TryFourTimes(const std::function<Attempt()>& attempt) {
   for (int tries = 1;; ++tries) {
     const Attempt ended = attempt();

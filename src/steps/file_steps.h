@@ -39,6 +39,13 @@ class GivenPath {
 /// changed it since; a file that is no view's has been asked about in the dialogue that named it.
 [[nodiscard]] bool MayReplaceFile(const std::string& path);
 
+/// The question ahead of an open.
+inline constexpr int kAskSaveBeforeOpen = 6450;
+
+/// Ahead of what replaces or closes unsaved data: the user may have them saved first. False: they
+/// are to be kept, or `save` has not saved them.
+[[nodiscard]] bool MayLoseUnsaved(MsgId question_id, const std::function<bool()>& save);
+
 /// How one attempt at a file ended.
 enum class [[nodiscard]] Attempt{
     Good,

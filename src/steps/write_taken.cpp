@@ -52,11 +52,11 @@ std::string WriteTakenText() {
 
 void TellWriteDone(MsgId id) {
   if (!WriteTaken.Repeated) return TellDone(id);
-  MsgBox(Text(id) + "\n\n" + Text(kMsgRepeated), MsgButtons::Ok, MsgIcon::Warning);
+  MsgBox(WithReason(Text(id), Text(kMsgRepeated)));
 }
 
 void WarnOfRepeats() {
-  if (WriteTaken.Repeated) MsgBox(Text(kMsgRepeated), MsgButtons::Ok, MsgIcon::Warning);
+  if (WriteTaken.Repeated) Tell(kMsgRepeated);
 }
 
 }  // namespace tr7
