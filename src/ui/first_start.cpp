@@ -1,5 +1,7 @@
 #include "ui/first_start.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -32,6 +34,23 @@ bool Fill(const QByteArray& address, sockaddr_un& to) {
   return true;
 }
 
+/// While it lives, no other start of the tool looks at the address or changes it.
+class AddressLock {
+ public:
+  explicit AddressLock(const QByteArray& address)
+      : file_(open((address + ".lock").constData(), O_CREAT | O_RDWR | O_CLOEXEC, 0600)) {
+    if (file_ >= 0) flock(file_, LOCK_EX);
+  }
+  ~AddressLock() {
+    if (file_ >= 0) close(file_);
+  }
+  AddressLock(const AddressLock&) = delete;
+  AddressLock& operator=(const AddressLock&) = delete;
+
+ private:
+  int file_;
+};
+
 template <typename Call>
 bool AtAddress(const QByteArray& address, Call call) {
   sockaddr_un to;
@@ -61,13 +80,9 @@ bool FirstStart::HandOver(const QString& file) {
 }
 
 bool FirstStart::Claim() {
+  if (listens_) return true;
   // Only one of several that start at once gets the address.
-  const auto take = [this] {
-    listens_ = AtAddress(
-        address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });
-    return listens_;
-  };
-  if (listens_ || take()) return true;
+  const AddressLock lock(address_);
   const auto is_there = [](const sockaddr* to, socklen_t size) {
     const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     const int result = connect(probe, to, size);
@@ -75,8 +90,10 @@ bool FirstStart::Claim() {
     return result;
   };
   if (AtAddress(address_, is_there)) return false;
-  QFile::remove(QString::fromUtf8(address_));  // left by one that was killed
-  return take();
+  QFile::remove(QString::fromUtf8(address_));  // left by one that was killed, if at all
+  listens_ = AtAddress(
+      address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });
+  return listens_;
 }
 
 void FirstStart::Listen(std::function<void(const QString& file)> open) {

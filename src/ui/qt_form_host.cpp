@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
-#include <algorithm>
 #include <string_view>
 
 #include "forms/control.h"
@@ -18,7 +17,6 @@
 #include "state/app_state.h"
 #include "state/views.h"
 #include "ui/dialog_room.h"
-#include "ui/grid_table.h"
 #include "ui/look.h"
 #include "ui/twips.h"
 #include "ui/window_list.h"
@@ -338,29 +336,6 @@ void QtFormHost::Refresh() {
 }
 
 // Asking.
-
-/// An open edit is finished before a command runs. A refused one stops it and comes to the front,
-/// where the bubble at the cell tells why; behind a dialogue nobody could mend it.
-bool QtFormHost::MayCommand() {
-  const QWidget* modal = QApplication::activeModalWidget();
-  for (const auto& [view, shown] : shown_) {
-    for (GridTable* grid : shown.bound->Grids()) {
-      if ((modal && grid->window() != modal) || grid->FinishEdit()) continue;
-      if (grid->Editor()) grid->Editor()->setFocus(Qt::OtherFocusReason);
-      BringToFront(shown.bound->Record());
-      return false;
-    }
-  }
-  return true;
-}
-
-bool QtFormHost::EditIsOpen() const {
-  return std::any_of(shown_.begin(), shown_.end(), [](const auto& entry) {
-    const std::vector<GridTable*>& grids = entry.second.bound->Grids();
-    return std::any_of(grids.begin(), grids.end(),
-                       [](const GridTable* grid) { return grid->Editor() != nullptr; });
-  });
-}
 
 void QtFormHost::Wait(const std::function<bool()>& answered) {
   while (!answered() && !ended_) pump_.Run();
