@@ -40,6 +40,8 @@ void Note(const std::string& key, const std::string& value) {
   if (Recall(key) != value) WindowState.notes[key] = value;
 }
 
+}  // namespace
+
 Numbers RecallNumbers(const std::string& key, int low, int high) {
   SeqReader items(Recall(key));
   Numbers numbers;
@@ -55,6 +57,8 @@ void NoteNumbers(const std::string& key, const Numbers& numbers) {
   for (const int number : numbers) items.Number(number);
   Note(key, items.Result());
 }
+
+namespace {
 
 /// There is one of it, inside the frame: its place is its own.
 bool HasPlace(const View& view) { return view.MdiChild && view.Renew; }
@@ -207,6 +211,7 @@ void RememberWindows() {
     if (view != front) note(*view);
   }
   if (front) note(*front);
+  if (WindowState.NotePart) WindowState.NotePart();
   Note(kOpen, open.Result());
   if (front) Note(kFilled, front->Maximised ? "1" : "0");
   for (const auto& [key, value] : WindowState.notes) doors.settings->Set(kSection, key, value);

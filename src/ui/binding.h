@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFocusEvent>
 #include <QWidget>
 #include <functional>
@@ -59,7 +60,8 @@ class WidgetBinding : public Binding {
  private:
   void PushToolTip();
 
-  std::optional<bool> enabled_, visible_, differs_;
+  std::optional<bool> enabled_, visible_;
+  std::optional<QColor> differs_;  ///< the colour of a difference; none where there was one
   std::optional<std::string> tool_tip_;
 };
 

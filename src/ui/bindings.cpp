@@ -42,12 +42,10 @@ void WidgetBinding::PushToolTip() {
     widget_.setToolTip(TipText(*tool_tip_));
   }
   if (!differs && !differs_) return;
-  if (Changed(differs_, differs)) {
-    widget_.setStyleSheet(
-        differs
-            ? QStringLiteral("font-weight: bold; color: %1;").arg(look::Colours().difference.name())
-            : QString());
-  }
+  const QColor red = differs ? look::Colours().difference : QColor();
+  if (!Changed(differs_, red)) return;
+  widget_.setStyleSheet(differs ? QStringLiteral("font-weight: bold; color: %1;").arg(red.name())
+                                : QString());
 }
 
 void WidgetBinding::Push() {

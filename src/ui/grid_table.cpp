@@ -55,8 +55,6 @@ GridTable::GridTable(QWidget* parent) : QTableView(parent), bubble_(new CellBubb
   setCornerButtonEnabled(false);
   corner_ = findChild<QAbstractButton*>();
   if (corner_) corner_->installEventFilter(this);
-  setStyleSheet(
-      QStringLiteral("QTableView { gridline-color: %1; }").arg(look::Colours().grid_line.name()));
 }
 
 void GridTable::Attach(Grid& grid) {

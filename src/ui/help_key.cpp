@@ -17,7 +17,9 @@ QString PageInFront() {
   if (const QWidget* modal = QApplication::activeModalWidget()) {
     return modal->property(kHelpPageProperty).toString();
   }
-  for (const QWidget* at = QApplication::focusWidget(); at; at = at->parentWidget()) {
+  const QWidget* at = QApplication::focusWidget();
+  if (!at) at = QApplication::activeWindow();
+  for (; at; at = at->parentWidget()) {
     const QString page = at->property(kHelpPageProperty).toString();
     if (!page.isEmpty()) return page;
   }

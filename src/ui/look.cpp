@@ -8,6 +8,7 @@
 #include <QProxyStyle>
 #include <QScreen>
 #include <QStyleOption>
+#include <QWidget>
 #include <optional>
 
 #include "ui/qt_texts.h"
@@ -77,9 +78,11 @@ Palette Dark() {
 
 Palette in_use = Light();
 bool is_dark = false;
+Theme asked_for = Theme::System, systems_word = Theme::System;
 
 QPalette PaletteOf(const Palette& colours) {
-  QPalette palette;
+  static const QPalette untouched;  // also when another one has been in use
+  QPalette palette = untouched;
   palette.setColor(QPalette::Window, colours.window);
   palette.setColor(QPalette::WindowText, colours.text);
   palette.setColor(QPalette::Base, colours.base);
@@ -108,6 +111,26 @@ QPalette FieldPalette() {
   QPalette palette = PaletteOf(in_use);
   palette.setColor(QPalette::Disabled, QPalette::Base, in_use.window);
   return palette;
+}
+
+bool WantsDark() {
+  // As long as the palette is still the system's, it says what the system looks like.
+  constexpr int kMiddle = 128;
+  static const bool palette_is_dark =
+      QApplication::palette().color(QPalette::Window).lightness() < kMiddle;
+  const Theme theme = asked_for == Theme::System ? systems_word : asked_for;
+  return theme == Theme::Dark || (theme == Theme::System && palette_is_dark);
+}
+
+/// Every widget draws itself anew with another palette. Style sheets keep the colours of the
+/// palette that they have met, unless they are set again.
+void UsePalette() {
+  in_use = is_dark ? Dark() : Light();
+  QApplication::setPalette(PaletteOf(in_use));
+  QApplication::setPalette(FieldPalette(), "QLineEdit");
+  for (QWidget* widget : QApplication::allWidgets()) {
+    if (!widget->styleSheet().isEmpty()) widget->setStyleSheet(widget->styleSheet());
+  }
 }
 
 /// The system's size, as far as the views have room for it: with letters of `kFontPoints` they fit
@@ -165,6 +188,7 @@ class Style : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
     if (hint == SH_ComboBox_AllowWheelScrolling || hint == SH_TabBar_AllowWheelScrolling) return 0;
+    if (hint == SH_Table_GridLineColor) return static_cast<int>(in_use.grid_line.rgba());
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 };
@@ -185,19 +209,22 @@ QColor Ground(const QColor& colour) {
 }
 
 void Apply(QApplication& application, Theme theme) {
-  // As long as the palette is still the system's, it says what the system looks like.
-  constexpr int kMiddle = 128;
-  const bool system_is_dark = QApplication::palette().color(QPalette::Window).lightness() < kMiddle;
-  is_dark = theme == Theme::Dark || (theme == Theme::System && system_is_dark);
-  in_use = is_dark ? Dark() : Light();
+  asked_for = theme;
+  is_dark = WantsDark();
   application.setStyle(new Style);
-  application.setPalette(PaletteOf(in_use));
-  QApplication::setPalette(FieldPalette(), "QLineEdit");
+  UsePalette();
   QCoreApplication::installTranslator(new QtTexts(&application));
   static const QFont systems = QApplication::font();
   QFont font = systems;
   font.setPointSizeF(PointsAfter(systems));
   QApplication::setFont(font);
+}
+
+void SystemSays(Theme theme) {
+  systems_word = theme;
+  if (WantsDark() == is_dark) return;
+  is_dark = !is_dark;
+  UsePalette();
 }
 
 void UseLanguage(bool japanese) {

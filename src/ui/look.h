@@ -28,6 +28,10 @@ QColor Ground(const QColor& colour);
 /// Style, palette and fonts of the whole program.
 void Apply(QApplication& application, Theme theme = Theme::System);
 
+/// What the system says of itself, at any time; `System`: no more than its palette shows. Windows
+/// that are open change with it, unless a theme was asked for.
+void SystemSays(Theme theme);
+
 /// Fonts of the language; does nothing when they are in use already.
 void UseLanguage(bool japanese);
 

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -11,6 +12,7 @@
 #include "ui/desktop.h"
 #include "ui/first_start.h"
 #include "ui/look.h"
+#include "ui/system_theme.h"
 
 namespace {
 
@@ -95,6 +97,9 @@ int main(int argc, char** argv) {
   // Several may start at once: one is the first, the others come to it.
   const bool is_first = first->Claim(), names_file = !arguments.file.isEmpty();
   if (!is_first && names_file && first->HandOver(arguments.file)) return 0;
+  const auto system_theme = arguments.theme == tr7::look::Theme::System
+                                ? tr7::FollowSystemTheme()
+                                : std::unique_ptr<tr7::SystemTheme>();
   tr7::Desktop desktop(arguments.profile);
   tr7::InstallViews();
   if (names_file) desktop.outside.Add({QFileInfo(arguments.file).absoluteFilePath()});

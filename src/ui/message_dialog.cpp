@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTextDocument>
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "state/text.h"
@@ -16,26 +17,33 @@
 #include "ui/dialog_room.h"
 #include "ui/help_key.h"
 #include "ui/icons.h"
+#include "ui/tip_text.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kYesText = 5150, kNoText = 5151, kOkText = 5152, kCancelText = 5153;
+constexpr int kReadTip = 7210, kOkTip = 7211, kCancelTip = 7212, kYesTip = 7213, kNoTip = 7214;
+constexpr int kNoGoesOnTip = 7215, kKeysTip = 7216;
 
 struct AnswerButton {
   MsgAnswer answer;
   MsgId text;
   QMessageBox::ButtonRole role;
+  MsgId tip;
 };
 
 std::vector<AnswerButton> ButtonsOf(MsgButtons buttons) {
-  const AnswerButton ok{MsgAnswer::Ok, kOkText, QMessageBox::AcceptRole};
-  const AnswerButton cancel{MsgAnswer::Cancel, kCancelText, QMessageBox::RejectRole};
-  const AnswerButton yes{MsgAnswer::Yes, kYesText, QMessageBox::YesRole};
+  const bool alone = buttons == MsgButtons::Ok;
+  const AnswerButton ok{MsgAnswer::Ok, kOkText, QMessageBox::AcceptRole,
+                        alone ? MsgId(kReadTip) : MsgId(kOkTip)};
+  const AnswerButton cancel{MsgAnswer::Cancel, kCancelText, QMessageBox::RejectRole, kCancelTip};
+  const AnswerButton yes{MsgAnswer::Yes, kYesText, QMessageBox::YesRole, kYesTip};
   // Without a Cancel, Escape is no answer: of a button with the role of a No it would be one.
   const bool escapes = buttons == MsgButtons::YesNoCancel;
   const AnswerButton no{MsgAnswer::No, kNoText,
-                        escapes ? QMessageBox::NoRole : QMessageBox::DestructiveRole};
+                        escapes ? QMessageBox::NoRole : QMessageBox::DestructiveRole,
+                        escapes ? MsgId(kNoGoesOnTip) : MsgId(kNoTip)};
   switch (buttons) {
     case MsgButtons::OkCancel:
       return {ok, cancel};
@@ -47,6 +55,13 @@ std::vector<AnswerButton> ButtonsOf(MsgButtons buttons) {
       break;
   }
   return {ok};
+}
+
+/// What the answer leads to, and the keys that give it.
+QString TipOf(const AnswerButton& answer, bool enter, bool escape) {
+  const char* keys = enter && escape ? "Enter, Esc" : enter ? "Enter" : escape ? "Esc" : nullptr;
+  const std::string what = Text(answer.tip);
+  return TipText(keys ? what + "\n" + Text(kKeysTip, keys) : what);
 }
 
 QPixmap PictureOf(MsgIcon icon) {
@@ -113,8 +128,11 @@ MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor&
   for (const AnswerButton& answer : answers) {
     QPushButton* button = box.addButton(Q(Text(answer.text)), answer.role);
     // Without a Cancel the box stays until it is answered; OK alone is its own cancel.
-    if (answer.answer == MsgAnswer::Cancel || answers.size() == 1) box.setEscapeButton(button);
-    if (&answer == (call.Loses ? &answers.back() : &answers.front())) box.setDefaultButton(button);
+    const bool escape = answer.answer == MsgAnswer::Cancel || answers.size() == 1;
+    const bool enter = &answer == (call.Loses ? &answers.back() : &answers.front());
+    if (escape) box.setEscapeButton(button);
+    if (enter) box.setDefaultButton(button);
+    button->setToolTip(TipOf(answer, enter, escape));
   }
   FoldLongText(box, call.Details.empty() ? 0 : kDetailsHeight);
   AddDetails(box, call.Details);

@@ -2,12 +2,16 @@
 
 #include <QAbstractEventDispatcher>
 #include <QAction>
+#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "platform/doors.h"
 #include "state/text.h"
@@ -15,12 +19,14 @@
 #include "ui/help_key.h"
 #include "ui/sim_picture.h"
 #include "ui/sim_point.h"
+#include "ui/tip_text.h"
 
 namespace tr7 {
 namespace {
 
 constexpr int kTitle = 6960, kPushHome = 6965, kPushAway = 6966, kServoHolds = 6967, kAxis1 = 220;
-constexpr int kToggleTip = 8905;
+constexpr int kToggleTip = 8905, kFloatTip = 7217, kHideTip = 7218;
+constexpr const char* kKey = "Ctrl+Shift+M";
 constexpr int kPower = 6968, kPowerTip = 6969;
 constexpr int kInputs = 7140, kOutputs = 7141;
 constexpr int kLookEveryMs = 33;
@@ -32,24 +38,68 @@ constexpr int kTitleGap = 4;
 
 void SimDock::AddTo(QMainWindow& frame, SimPort& machine) {
   auto* dock = new SimDock(frame, machine);
-  frame.addDockWidget(Qt::BottomDockWidgetArea, dock);
-  // Not in a menu: those are off while a flow or a teaching session runs.
-  auto* button = new QToolButton(&frame);
-  dock->toggleViewAction()->setToolTip(Q(Text(kToggleTip)));
-  button->setDefaultAction(dock->toggleViewAction());
-  button->setFocusPolicy(Qt::NoFocus);
-  if (QWidget* top = frame.findChild<QWidget*>("areaTop")) top->layout()->addWidget(button);
+  dock->place_.Take();
+  dock->AddSwitches(frame);
 }
 
 SimDock::SimDock(QMainWindow& frame, SimPort& machine)
-    : QDockWidget(Q(Text(kTitle)), &frame), machine_(machine) {
+    : QDockWidget(Q(Text(kTitle)), &frame), machine_(machine), place_(frame, *this, "SimMachine") {
   setObjectName("areaSimMachine");
   setProperty(kHelpPageProperty, "simulator");
   setAllowedAreas(Qt::TopDockWidgetArea | Qt::BottomDockWidgetArea);
+  NameTitleButtons();
   setWidget(MakeMachine());
   next_look_.setSingleShot(true);
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                    this, &SimDock::Look);
+}
+
+void SimDock::AddSwitches(QMainWindow& frame) {
+  toggleViewAction()->setToolTip(TipText(Text(kToggleTip)));
+  // Beside the menu: that is off while a flow or a teaching session runs.
+  auto* button = new QToolButton(&frame);
+  button->setDefaultAction(toggleViewAction());
+  button->setFocusPolicy(Qt::TabFocus);
+  if (QWidget* top = frame.findChild<QWidget*>("areaTop")) top->layout()->addWidget(button);
+  if (auto* views = frame.findChild<QMenu*>("mnuView")) {
+    views->addSeparator();
+    views->addAction(toggleViewAction());
+  }
+  auto* key = new QShortcut(QKeySequence(kKey), &frame);
+  QObject::connect(key, &QShortcut::activated, this, &SimDock::TurnTo);
+}
+
+/// The toolkit's buttons beside the title are pictures alone.
+void SimDock::NameTitleButtons() {
+  const std::pair<const char*, MsgId> names[] = {{"qt_dockwidget_floatbutton", MsgId(kFloatTip)},
+                                                 {"qt_dockwidget_closebutton", MsgId(kHideTip)}};
+  for (const auto& [name, tip] : names) {
+    auto* button = findChild<QAbstractButton*>(name);
+    if (!button) continue;
+    button->setToolTip(TipText(Text(tip)));
+    button->setAccessibleName(button->toolTip());
+  }
+}
+
+QWidget* SimDock::FirstControl() const {
+  for (QAbstractButton* button : widget()->findChildren<QAbstractButton*>()) {
+    if (button->isEnabled() && (button->focusPolicy() & Qt::TabFocus)) return button;
+  }
+  return nullptr;
+}
+
+/// The Tab key stays inside of a view, so a key of its own leads here, and back.
+void SimDock::TurnTo() {
+  QWidget* at = QApplication::focusWidget();
+  const bool here = at && isAncestorOf(at);
+  if (!here) {
+    before_ = at;
+    show();
+  }
+  QWidget* to = here ? before_.data() : FirstControl();
+  if (!to) return;
+  to->activateWindow();  // the dock may float
+  to->setFocus(Qt::ShortcutFocusReason);
 }
 
 QWidget* SimDock::MakeMachine() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QDockWidget>
+#include <QPointer>
 #include <QTimer>
 #include <array>
 
 #include "base/axes.h"
 #include "platform/sim_port.h"
+#include "ui/dock_place.h"
 
 class QGridLayout;
 class QLayout;
@@ -24,7 +26,8 @@ class SimDock : public QDockWidget {
   Q_OBJECT
 
  public:
-  /// Puts it into the frame, which owns it, with a button that shuts and opens it.
+  /// Puts it into the frame, which owns it, as it stood last; a button and an entry of the menu of
+  /// views shut and open it, a key goes into it and back.
   static void AddTo(QMainWindow& frame, SimPort& machine);
 
  private:
@@ -34,6 +37,10 @@ class SimDock : public QDockWidget {
   };
 
   SimDock(QMainWindow& frame, SimPort& machine);
+  void AddSwitches(QMainWindow& frame);
+  void NameTitleButtons();
+  QWidget* FirstControl() const;
+  void TurnTo();
   QWidget* MakeMachine();
   QGridLayout* MakeAxes();
   QLayout* MakePoints();
@@ -49,7 +56,9 @@ class SimDock : public QDockWidget {
   AxisArray<Row> rows_;
   std::array<SimPoint*, kSimInputs> inputs_{};
   std::array<SimPoint*, kSimOutputs> outputs_{};
-  QTimer next_look_;  ///< while it runs nobody looks
+  DockPlace place_;
+  QPointer<QWidget> before_;  ///< what had the focus when the key came here
+  QTimer next_look_;          ///< while it runs nobody looks
 };
 
 }  // namespace tr7

@@ -11,6 +11,7 @@
 #include "forms/control.h"
 #include "platform/doors.h"
 #include "state/views.h"
+#include "ui/on_screen.h"
 #include "ui/twips.h"
 
 namespace tr7 {
@@ -59,16 +60,12 @@ void PutPlace(const QRect& place, View& view) {
 }  // namespace
 
 void FrameWindow::PlaceByRecord() {
-  QRect wanted = PlaceOf(view_);
+  const QRect wanted = PlaceOf(view_);
   const QScreen* screen = QGuiApplication::screenAt(wanted.center());
   if (!screen) screen = QGuiApplication::primaryScreen();
   // The window's own bar stands above the rectangle.
   const int bar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
-  const QRect field = screen->availableGeometry().adjusted(0, bar, 0, 0);
-  wanted.setSize(wanted.size().boundedTo(field.size()));
-  wanted.moveTo(std::clamp(wanted.left(), field.left(), field.right() - wanted.width() + 1),
-                std::clamp(wanted.top(), field.top(), field.bottom() - wanted.height() + 1));
-  setGeometry(wanted);
+  setGeometry(Inside(wanted, screen->availableGeometry().adjusted(0, bar, 0, 0)));
 }
 
 void FrameWindow::ShowByRecord() {
@@ -81,10 +78,8 @@ void FrameWindow::ShowByRecord() {
 /// A window whose edges stand beyond the screen's moves in, and shrinks where that is not enough.
 void FrameWindow::KeepOnScreen() {
   if (!isVisible() || windowState() != Qt::WindowNoState) return;
-  const QRect field = screen()->availableGeometry(), outer = frameGeometry(), inner = geometry();
-  QRect place(outer.topLeft(), outer.size().boundedTo(field.size()));
-  place.moveTo(std::clamp(place.left(), field.left(), field.right() - place.width() + 1),
-               std::clamp(place.top(), field.top(), field.bottom() - place.height() + 1));
+  const QRect outer = frameGeometry(), inner = geometry();
+  const QRect place = Inside(outer, screen()->availableGeometry());
   if (place == outer) return;
   setGeometry(place.adjusted(inner.left() - outer.left(), inner.top() - outer.top(),
                              inner.right() - outer.right(), inner.bottom() - outer.bottom()));

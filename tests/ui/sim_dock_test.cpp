@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QToolButton>
 
+#include "core/window_state.h"
 #include "tests/ui/ui_test.h"
 #include "ui/sim_picture.h"
 #include "ui/sim_point.h"
@@ -53,6 +54,27 @@ TEST_F(SimDockTest, ThePowerTakesTheMotorsHoldAndHoming) {
   EXPECT_TRUE(Until([this] { return !machine_.Axes()[1].servo_on; }));
   QTest::mouseClick(frame_.findChildren<QToolButton*>("power").at(0), Qt::LeftButton);
   EXPECT_TRUE(machine_.Axes()[1].servo_on && Follows());
+}
+
+TEST_F(SimDockTest, ItComesBackWhereItStood) {
+  QMainWindow next;
+  for (QMainWindow* window : {&frame_, &next}) {
+    window->setCentralWidget(new QWidget);
+    window->resize(900, 700);
+  }
+  auto* dock = frame_.findChild<SimDock*>();
+  frame_.addDockWidget(Qt::TopDockWidgetArea, dock);
+  frame_.resizeDocks({dock}, {240}, Qt::Vertical);
+  Settle();
+  dock->hide();
+  RememberWindows();
+  SimDock::AddTo(next, machine_);
+  next.show();
+  auto* again = next.findChild<SimDock*>();
+  EXPECT_TRUE(again->isHidden() && next.dockWidgetArea(again) == Qt::TopDockWidgetArea);
+  again->show();
+  Settle();
+  EXPECT_EQ(again->height(), 240);
 }
 
 TEST_F(SimDockTest, AHandSwitchesAnInput) {
