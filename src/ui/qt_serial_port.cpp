@@ -5,8 +5,12 @@
 #include <QStringList>
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 #ifndef _WIN32
 #include <poll.h>
+#include <unistd.h>
+
+#include <array>
 #endif
 
 namespace tr7 {
@@ -32,6 +36,39 @@ bool HasHungUp([[maybe_unused]] const QSerialPort& port) {
   pollfd state{port.handle(), 0, 0};
   return poll(&state, 1, 0) > 0;
 #endif
+}
+
+// The port's own reading and writing switch its listening on and off for each frame, and every
+// switch wakes the loop once more: three turns for a frame in place of one. So what can be read
+// or written without a wait is, straight from and to the system.
+
+/// Adds all that has come in.
+void TakeIn(QSerialPort& port, std::string& bytes) {
+#ifdef _WIN32
+  static_cast<void>(port.waitForReadyRead(0));
+  bytes += port.readAll().toStdString();
+#else
+  std::array<char, 4096> part;
+  for (bool full = true; full;) {
+    const ssize_t count = read(port.handle(), part.data(), part.size());
+    if (count > 0) bytes.append(part.data(), static_cast<std::size_t>(count));
+    full = count == static_cast<ssize_t>(part.size());
+  }
+#endif
+}
+
+/// True: the bytes are on their way, those that the system did not take at once by the port.
+bool PutOut(QSerialPort& port, std::string_view bytes) {
+#ifndef _WIN32
+  const ssize_t count =
+      port.bytesToWrite() == 0 ? write(port.handle(), bytes.data(), bytes.size()) : 0;
+  if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
+  if (bytes.empty()) return true;
+#endif
+  const auto size = static_cast<qint64>(bytes.size());
+  if (port.write(bytes.data(), size) != size) return false;
+  port.flush();
+  return true;
 }
 
 /// 10 bits at the port's rate.
@@ -69,7 +106,10 @@ QtSerialPort::QtSerialPort() {
                    [this](QSerialPort::SerialPortError error) {
                      if (error == QSerialPort::ResourceError) Vanish(qt_error_string(ENODEV));
                    });
-  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { OnBytes(); });
+  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] {
+    in_ += port_.readAll().toStdString();
+    OnBytes();
+  });
   rest_.setSingleShot(true);
   rest_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&rest_, &QTimer::timeout, &port_, [this] { Look(); });
@@ -101,7 +141,7 @@ std::optional<std::int64_t> QtSerialPort::NextEventUs() {
 
 void QtSerialPort::ExpectReply(std::size_t bytes) {
   LetAllIn();
-  if (port_.isOpen() && port_.bytesAvailable() == 0) expected_ = static_cast<qint64>(bytes);
+  if (port_.isOpen() && in_.empty()) expected_ = static_cast<qint64>(bytes);
 }
 
 /// Every byte on its own would wake the tool a thousand times a second, for a reply that can do
@@ -116,18 +156,21 @@ void QtSerialPort::Gather(qint64 bytes_on_the_line) {
 }
 
 void QtSerialPort::Look() {
-  late_ = !port_.waitForReadyRead(0);  // else `OnBytes` has been told
+  const std::size_t before = in_.size();
+  TakeIn(port_, in_);
+  late_ = in_.size() == before;
+  if (!late_) OnBytes();
 }
 
 void QtSerialPort::OnBytes() {
   if (!gathering_) return;
-  if (port_.bytesAvailable() >= expected_ || port_.canReadLine()) return LetAllIn();
-  Gather(NextLook() - port_.bytesAvailable());
+  if (Arrived() >= expected_ || in_.find('\n') != std::string::npos) return LetAllIn();
+  Gather(NextLook() - Arrived());
 }
 
 /// How many bytes of the reply to let gather next.
 qint64 QtSerialPort::NextLook() const {
-  const bool may_be_error = port_.bytesAvailable() < kErrorReply && expected_ > 2 * kErrorReply;
+  const bool may_be_error = Arrived() < kErrorReply && expected_ > 2 * kErrorReply;
   return may_be_error ? kErrorReply : expected_;
 }
 
@@ -192,6 +235,7 @@ bool QtSerialPort::Configure(const std::string& settings, int carrier_detect_tim
   port_.setRequestToSend(true);
   port_.clearError();
   port_.clear();
+  in_.clear();
   byte_us_ = ByteUs(port_);
   return true;
 }
@@ -199,6 +243,7 @@ bool QtSerialPort::Configure(const std::string& settings, int carrier_detect_tim
 void QtSerialPort::Close() {
   sim_.Close();
   LetAllIn();
+  in_.clear();
   if (port_.isOpen()) port_.close();
   dead_ = false;
 }
@@ -206,23 +251,20 @@ void QtSerialPort::Close() {
 bool QtSerialPort::Write(std::string_view bytes) {
   if (sim_.IsOpen()) return sim_.Write(bytes);
   if (!port_.isOpen() || dead_) return false;
-  const auto size = static_cast<qint64>(bytes.size());
-  if (port_.write(bytes.data(), size) != size) return false;
-  port_.flush();
-  if (expected_ > 1 && !dead_) Gather(size + NextLook());
+  if (!PutOut(port_, bytes)) return false;
+  if (expected_ > 1 && !dead_) Gather(static_cast<qint64>(bytes.size()) + NextLook());
   return !dead_;
 }
 
 std::size_t QtSerialPort::InBufferCount() {
   if (sim_.IsOpen()) return sim_.InBufferCount();
-  return port_.isOpen() && !gathering_ ? static_cast<std::size_t>(port_.bytesAvailable()) : 0;
+  return gathering_ ? 0 : in_.size();
 }
 
 std::string QtSerialPort::ReadAll() {
   if (sim_.IsOpen()) return sim_.ReadAll();
   LetAllIn();
-  // Not all that may come: asked for more than there is, the port would begin to listen.
-  return port_.isOpen() ? port_.read(port_.bytesAvailable()).toStdString() : std::string();
+  return std::exchange(in_, {});
 }
 
 std::vector<std::string> QtSerialPort::PortNames() const {

@@ -49,8 +49,10 @@ class QtSerialPort : public SerialPort {
   void LetAllIn();
   void Listen(bool on);
   void Vanish(const QString& why);
+  qint64 Arrived() const { return static_cast<qint64>(in_.size()); }
 
   QSerialPort port_;
+  std::string in_;                      ///< has come in, and nobody has read it
   QPointer<QSocketNotifier> listener_;  ///< what wakes the loop for bytes that have come in
   QTimer rest_;                         ///< until what is expected can be there
   bool gathering_ =
