@@ -58,6 +58,7 @@ bool TableShowsTheSame() {
   for (int row = kPosiHeaderRows; row < frmPosi.flgdData.Rows(); ++row) {
     const int number = PositionOfRow(row);
     for (int col = 1; col < kPosiColumns; ++col) {
+      if (!IsShownColumn(col)) continue;  // a commit fills what is not shown
       if (frmPosi.flgdData.Text(row, col) != PosiCellText(col, number, AppState.CtMode)) {
         return false;
       }
@@ -69,9 +70,9 @@ bool TableShowsTheSame() {
 /// A file holds what the grid shows.
 bool IsSaved(const PosiShot& shot) {
   if (shot.changed) return false;
-  // Over a commit, pulses come back from texts alone: the file may hold others.
-  if (shot.commits != PosiUndo.commits) return TextsTellPulses(shot.mm);
-  PutLengthsBack();
+  // Over a commit, pulses come back from texts alone: the file may hold others. What was saved is
+  // on the other side of a change of unit.
+  if (shot.commits != PosiUndo.commits) return TextsTellPulses(shot.mm || shot.unit_step);
   return TableShowsTheSame();
 }
 
@@ -86,6 +87,7 @@ void Show(const PosiShot& shot) {
   }
   AppState.PosiFirstNo = shot.first;
   PosiLinesChanged();
+  PutLengthsBack();
   frmPosi.PosiChanged = !IsSaved(shot);
   grid.SelectCell(std::min(shot.row, grid.Rows() - 1), shot.col);
   FG_HighSyoriEnd();

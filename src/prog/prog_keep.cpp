@@ -47,10 +47,10 @@ void Keep(const std::string& which, KeptWork& work) {
 }
 
 /// Each cell as it stood, whatever the command list holds by now.
-bool PutProgram(const KeptWork& work, int number, ProgView& view) {
+bool PutProgram(const KeptWork& work, const std::string& path, int number, ProgView& view) {
   if (ReadProgText(work.file, work.name, view.Store) != 0) return false;
   view.Store.ProgCopyNo = static_cast<std::int16_t>(number);
-  view.Store.FilePath = work.path;
+  view.Store.FilePath = path;
   view.Caption = work.name;
   PutListing(view.flgdProg, view.Store.ProgFileDA);
   FGProg_InitPos(view.flgdProg);
@@ -63,10 +63,12 @@ bool TakeBack(const KeptWork& work) {
   int number = 0;
   SeqReader screen(work.screen);
   if (!screen.ReadInteger(0, kPrograms, number) || ReadCommandLst() != 0) return false;
-  ProgView* of_file = UnchangedViewOf(work.path);
+  std::string path = work.path;
+  if (path.empty()) static_cast<void>(screen.ReadText(path));  // an earlier version's place for it
+  ProgView* of_file = UnchangedViewOf(path);
   ProgView& view = of_file ? *of_file : NewProgView();
   ShowView(view);
-  if (PutProgram(work, number, view)) return true;
+  if (PutProgram(work, path, number, view)) return true;
   if (!of_file) UnloadView(view);
   return false;
 }

@@ -63,7 +63,7 @@ std::optional<KeptWork> WorkOfBytes(std::string_view bytes) {
                     items.ReadInteger(0, kLastMode, mode) && items.ReadText(work.file) &&
                     items.ReadText(work.screen);
   if (!read) return std::nullopt;
-  // An earlier version of the tool has kept neither.
+  // An earlier version of the tool has kept them elsewhere, if at all.
   static_cast<void>(items.ReadText(work.path) && items.ReadText(work.mark));
   work.mode = static_cast<ForMode>(mode);
   return work;

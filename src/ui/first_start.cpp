@@ -65,8 +65,11 @@ FirstStart::FirstStart(const QString& settings_path)
 
 FirstStart::~FirstStart() {
   notifier_.reset();
+  if (listens_) {
+    const AddressLock lock(address_);
+    QFile::remove(QString::fromUtf8(address_));  // while it is still this start's
+  }
   if (socket_ >= 0) close(socket_);
-  if (listens_) QFile::remove(QString::fromUtf8(address_));
 }
 
 bool FirstStart::HandOver(const QString& file) {

@@ -1,6 +1,7 @@
 #include "ui/sim_dock.h"
 
 #include <QAbstractEventDispatcher>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QGridLayout>
@@ -88,12 +89,19 @@ QWidget* SimDock::FirstControl() const {
   return nullptr;
 }
 
+/// The editor of a cell ends as it is left, its table stays.
+static QWidget* Lasting(QWidget* focus) {
+  QWidget* around = focus ? focus->parentWidget() : nullptr;
+  QWidget* table = around ? around->parentWidget() : nullptr;
+  return qobject_cast<QAbstractItemView*>(table) ? table : focus;
+}
+
 /// The Tab key stays inside of a view, so a key of its own leads here, and back.
 void SimDock::TurnTo() {
   QWidget* at = QApplication::focusWidget();
   const bool here = at && isAncestorOf(at);
   if (!here) {
-    before_ = at;
+    before_ = Lasting(at);
     show();
   }
   QWidget* to = here ? before_.data() : FirstControl();

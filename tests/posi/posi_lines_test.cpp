@@ -257,6 +257,11 @@ TEST_F(PosiUndoTest, ALengthThatWasTakenBackStaysSo) {
   frmPosi.LayoutChanged();
   EXPECT_EQ(Shown(), shown);
   EXPECT_FALSE(frmPosi.PosiChanged);
+  EXPECT_TRUE(AppendLine() && PosiDataCheckAll());
+  Type(10, kPosi, "500");
+  for (int steps = 0; steps < 2; ++steps) frmMain.mnuEditUndo.Press();
+  frmPosi.LayoutChanged();
+  EXPECT_EQ(Shown(), shown) << "also over a commit";
 }
 
 }  // namespace
