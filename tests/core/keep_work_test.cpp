@@ -147,6 +147,16 @@ TEST_F(KeepTest, WhatIsNotTakenBackWaits) {
   DieAndStart(true, frmKeptWork.cmdTakeBack);
   EXPECT_TRUE(BoxShown(Text(128)) && !frmPosi.PosiChanged) << "it is the other mode's";
   EXPECT_EQ(Files(), kept);
+  for (int call = 9; call < 18; call += 4) {  // behind what reads the lists a save makes five
+    virt.work.own += "1.";
+    StartAnew();
+    InDialog("frmKeptWork", {[&] {
+               virt.files.FailAt(call, FileFault::DiskFull);
+               frmKeptWork.cmdTakeBackAll.Press();
+             }});
+    StartOffline();
+    ASSERT_NE(Files(), Texts()) << call;
+  }
   forms.answers = {MsgAnswer::Ok};
   DieAndStart(false, frmKeptWork.cmdDiscard);
   EXPECT_EQ(Files(), Texts());

@@ -1,6 +1,7 @@
 // The monitor of inputs and outputs: what it asks and shows, what it forces, and how it ends.
 
 #include "forms/frm_io_check_fg.h"
+#include "link/task_commands.h"
 #include "monitor/io_state.h"
 #include "monitor/plot_data.h"
 #include "sim/signal_names.h"
@@ -162,13 +163,27 @@ TEST_F(IoMonitorTest, NothingIsForcedBeforeThePointsAreKnownNorWhenTheyAreNot) {
   EXPECT_FALSE(io.flgdInput.IsUnused(0, kPointState));
 }
 
+TEST_F(IoMonitorTest, AFlipThatAStopCutsShortGoesOutWithTheNextPoll) {
+  Start();
+  Spoil(FaultKind::kDeaf, "0WO");
+  Flip("OUT1");
+  pump.After(600 * kMs, [] { static_cast<void>(TaskMonitorStartToCt()); });
+  After(3000);
+  EXPECT_EQ(On(io.flgdOutput), "RDY IN-P OUT1 ");
+}
+
 TEST_F(IoMonitorTest, TheOverrideIsOnAgainBehindOtherFlowsAndIsTakenBackByWhoeverLeaves) {
   const std::string note = Text(7312);
   const std::string& panel = frmMain.sbStatusBar.Panels[kPanelOverride];
-  const std::function<void()> ends[] = {
-      [&] { f.cmdIoMonitor.Press(); }, [&] { f.cmdIoWinClose.Press(); },
-      [&] { CloseView(f, CloseReason::ControlMenu); }, [&] { CloseView(f, CloseReason::Code); },
-      [&] { GoOffline(); }};
+  const auto spoil_digits = [this] {  // a reply without sense on a line in order
+    for (int byte = 4; byte < 24; ++byte) Spoil(FaultKind::kChangedByte, "0RC", 1, byte);
+  };
+  const std::function<void()> ends[] = {[&] { f.cmdIoMonitor.Press(); },
+                                        [&] { f.cmdIoWinClose.Press(); },
+                                        [&] { CloseView(f, CloseReason::ControlMenu); },
+                                        [&] { CloseView(f, CloseReason::Code); },
+                                        spoil_digits,
+                                        [&] { GoOffline(); }};
   for (const auto& end : ends) {
     if (!f.Visible) frmMain.mnuMonitorIO.Press();
     Start();
@@ -177,7 +192,8 @@ TEST_F(IoMonitorTest, TheOverrideIsOnAgainBehindOtherFlowsAndIsTakenBackByWhoeve
     After(700);
     EXPECT_EQ(panel, note);
     EXPECT_EQ(port.Ct().ControlDigits(), "1111");
-    ReadRange(1, 1);
+    pump.After(100 * kMs, [&] { EXPECT_TRUE(io.flgdInput.IsUnused(0, kPointState)) << "old"; });
+    ReadRange(1, 9);
     forms.answers = {MsgAnswer::Ok};
     AnswerRange("frmSelectPosiNo3", 1, 1);
     frmPosi.cmdPosiWrite.Press();
@@ -191,6 +207,15 @@ TEST_F(IoMonitorTest, TheOverrideIsOnAgainBehindOtherFlowsAndIsTakenBackByWhoeve
     EXPECT_TRUE(BoxShown(Text(7313)));
     EXPECT_EQ(panel, "");
     EXPECT_FALSE(f.chkIgnore.Value);
+  }
+  frmMain.mnuSettingOnline.Press();
+  for (int ms = 0; ms < 700; ms += 50) {  // at any moment of its first frame
+    Start();
+    Spoil(FaultKind::kDelay, "0CM01");
+    f.chkIgnore.Set(true);
+    pump.After(ms * kMs, [&] { f.cmdIoMonitor.Press(); });
+    After(3000);
+    EXPECT_EQ(port.Ct().ControlDigits() + panel, "0000") << ms;
   }
 }
 

@@ -3,6 +3,7 @@
 #include "monitor/poll.h"
 
 #include "motion/motion_now.h"
+#include "state/busy_scope.h"
 #include "tests/support/flow_test.h"
 
 namespace tr7 {
@@ -31,7 +32,7 @@ struct Watcher {
 
 using PollTest = FlowTest;
 
-TEST_F(PollTest, MonitorsTakeTurnsKnowTheirPaceAndLeaveTheLineToAMotion) {
+TEST_F(PollTest, MonitorsTakeTurnsKnowTheirPaceAndLeaveTheLineToAMotionAndATransfer) {
   StartOnline();
   std::string polls;
   Watcher a(polls, 'a', 20), b(polls, 'b', 20), c(polls, 'c', 1);
@@ -39,12 +40,17 @@ TEST_F(PollTest, MonitorsTakeTurnsKnowTheirPaceAndLeaveTheLineToAMotion) {
   for (std::size_t i = 3; i < polls.size(); ++i) EXPECT_EQ(polls[i], polls[i - 3]) << polls;
   EXPECT_GT(c.poll.PaceMs(), 300);
   EXPECT_TRUE(c.poll.IsLate());
+  const auto rest = [&] {
+    pump.RunFor(1'000'000);
+    const std::size_t before = polls.size();
+    pump.RunFor(1'000'000);
+    return polls.size() == before;
+  };
   BeginMotion(Motion::Jog);
-  pump.RunFor(1'000'000);
-  const std::size_t before = polls.size();
-  pump.RunFor(1'000'000);
-  EXPECT_EQ(polls.size(), before);
+  EXPECT_TRUE(rest());
   EndMotion();
+  const BusyScope transfer;
+  EXPECT_TRUE(rest());
 }
 
 }  // namespace

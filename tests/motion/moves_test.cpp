@@ -144,6 +144,13 @@ TEST_F(MoveTest, EscapeEndsAFlowFromItsClickOn) {
   }
 }
 
+TEST_F(MoveTest, ACloseUnderAMoveStopsItAndEndsTheToolBehindIt) {
+  List({"1", "2"});
+  pump.After(120'000, [] { EXPECT_FALSE(CloseView(frmMain, CloseReason::ControlMenu)); });
+  frmPosi.Move.cmdSelectMove.Press();
+  EXPECT_TRUE(forms.ended && !Moves());
+}
+
 TEST_F(MoveTest, ARangeRepeatsUntilItIsStoppedAndGoesOnAfterAPause) {
   PosiMoveTest& f = frmPosi.Move;
   f.updownStartPosiNo.Set(2);
@@ -173,6 +180,13 @@ TEST_F(MoveTest, AGroupMovesThroughItsRange) {
   f.sldrGrpNo.Set(7);
   f.cmdGrpMove.Press();
   EXPECT_EQ(Moved(), "0MP002F 0MP003F ");
+  pump.After(120'000, [&] {
+    f.cmdGrpMoveStop.Press();
+    Spoil(FaultKind::kWrongPrefix, "0RA", 2);
+    frmMain.Escape();
+  });
+  f.cmdGrpMove.Press();
+  EXPECT_EQ(frmPosi.Readout.lblPosi[0].Caption, std::to_string(Pulses(1)));
   f.sldrGrpNo.Set(8);
   f.cmdGrpMove.Press();
   EXPECT_EQ(Boxes(), Texts{"The range of group 8 (No. 0 to 1) is not valid."});

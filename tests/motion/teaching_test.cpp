@@ -4,6 +4,7 @@
 #include "motion/inching.h"
 #include "motion/motion_log.h"
 #include "motion/present_pos.h"
+#include "state/busy_scope.h"
 #include "tests/motion/motion_user.h"
 
 namespace tr7 {
@@ -129,6 +130,7 @@ TEST_F(JogTest, EveryButtonRunsForAsLongAsItIsHeld) {
 
 TEST_F(JogTest, AStopThatNobodyAnswersIsSentOverANewConnectionAndThenTold) {
   Spoil(FaultKind::kSilence, "0SP", 0);
+  pump.After(4'000'000, [] { EXPECT_FALSE(frmPosi.Readout.lblPosi[0].Enabled) << "it is old"; });
   Jog(1, 500'000);
   EXPECT_EQ(Boxes(), Texts{Text(6540)});
   EXPECT_EQ(Acts(), "0JR12000 0SP 0SP 0SP 0SP 0SP 0SP 0SP 0SP ");
@@ -148,6 +150,14 @@ TEST_F(JogTest, ARefusedStopIsToldThoughItsStartWasRefusedAsWell) {
   ASSERT_EQ(told.size(), 2u) << "the start's second send finds the axis moving";
   EXPECT_TRUE(told[0].starts_with("The controller has an alarm (")) << told[0];
   port.Ct().ClearFaults();
+  frmMain.cmdStopNow.Press();
+}
+
+TEST_F(JogTest, AStopThatIsRefusedAndThenUnansweredIsToldAsNoAlarm) {
+  Spoil(FaultKind::kErrorReply, "0SP");
+  for (const int at : {2, 3, 4, 5}) Spoil(FaultKind::kSilence, "0SP", at);
+  Jog(1, 500'000);
+  EXPECT_EQ(Boxes(), Texts{Text(6540)});
   frmMain.cmdStopNow.Press();
 }
 
@@ -179,6 +189,11 @@ TEST_F(JogTest, APortThatVanishesLetsTheButtonGoAndIsTold) {
   EXPECT_EQ(Boxes(), (Texts{Text(6541), Text(5509)})) << "its stop found a new connection";
   StartTeaching();
   port.Vanish();
+  {
+    const BusyScope flow;  // it finds that out by itself
+    pump.RunFor(1'000'000);
+    EXPECT_EQ(Boxes(), Texts());
+  }
   pump.RunFor(1'000'000);
   EXPECT_EQ(Boxes(), Texts{Text(5905, "sim", "simulated fault") + "\n\n" + Text(5920) + "\n\n" +
                            Text(7135)});
@@ -254,13 +269,16 @@ TEST_F(JogTest, AtTheEndOfTheStrokeAButtonSaysSo) {
   }
 }
 
-/// The release falls on every moment of a press.
+/// The release, or a stop that lets the button go, falls on every moment of a press.
 TEST_F(JogTest, AReleaseAtAnyMomentStopsTheAxis) {
-  for (std::int64_t at_us = 0; at_us < 120'000; at_us += 1'500) {
-    SCOPED_TRACE(at_us);
+  for (std::int64_t moment = 0; moment < 240'000; moment += 1'500) {
+    SCOPED_TRACE(moment);
+    const bool escapes = moment >= 120'000;
+    const std::int64_t at_us = moment % 120'000;
     port.sent.clear();
     pump.RunFor(400'000);
-    Jog(1, at_us);
+    if (escapes) pump.After(at_us, [] { frmMain.Escape(); });
+    Jog(1, escapes ? 300'000 : at_us);
     EXPECT_FALSE(Moves());
     const std::string acts = Acts();
     EXPECT_TRUE(acts.empty() || acts == "0JR12000 0SP ") << acts;

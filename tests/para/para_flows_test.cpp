@@ -108,6 +108,7 @@ TEST_F(ParaFlows, AWriteThatFailsTellsWhatTheControllerHas) {
   const std::string some = Text(6511, Text(6520, "0"), Text(6521, "4", "AXIS1"));
   const std::tuple<qvr7sim::FaultKind, const char*, std::string> rows[] = {
       {kErrorReply, "0WD0", Text(6512, Text(6520, "0")) + "\n" + Text(6514)},
+      {kDeaf, "0WD0", Text(6513, Text(6520, "0")) + "\n" + Text(6515)},
       {kErrorReply, "0WD5",
        Text(6510, some) + "\n" + Text(6512, Text(6521, "5", "AXIS2")) + "\n" + Text(6515)},
       {kDeaf, "0WD1",

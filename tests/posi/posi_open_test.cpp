@@ -106,7 +106,7 @@ TEST_F(OpenTest, AFileReplacesTheTable) {
   }
   EXPECT_EQ(Boxes(), Texts{Text(6450)});
   for (const MsgAnswer answer : {MsgAnswer::No, MsgAnswer::Yes}) {
-    virt.files.Put(kPath, "of another program");
+    virt.files.Put(kPath, std::string(answer == MsgAnswer::No ? 5 << 20 : 9, ' '));
     frmPosi.PosiChanged = True;
     forms.answers = {answer};
     frmPosi.cmdPosiSave.Press();

@@ -165,6 +165,13 @@ TEST_F(WriteTest, ACancelledWriteStoresWhatHasGone) {
   ExpectOnline();
 }
 
+TEST_F(WriteTest, ACancelWhileTheStoreIsUnansweredDoesNotClaimThatItIsDone) {
+  Spoil(qvr7sim::FaultKind::kSilence, "0WA", 0);
+  pump.After(2'500'000, [] { frmMain.cmdComCancel.Press(); });
+  Write(2, 4);
+  EXPECT_TRUE(forms.LastBox().ends_with(Text(6517))) << forms.LastBox();
+}
+
 TEST_F(WriteTest, APositionAtTheStrokeGoesAndOnePulseMoreDoesNot) {
   EXPECT_TRUE(Goes("20000", false));
   EXPECT_FALSE(Goes("20001", false));

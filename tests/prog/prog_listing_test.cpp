@@ -3,6 +3,7 @@
 #include "prog/prog_clip.h"
 #include "prog/prog_lines.h"
 #include "prog/prog_targets.h"
+#include "prog/prog_undo.h"
 #include "tests/prog/prog_user.h"
 
 namespace tr7 {
@@ -113,7 +114,19 @@ TEST_F(ProgListing, AFileKeepsEveryCell) {
   view.flgdProg.TypeInto(1, 2, "2");
   view.Commands.Undo();
   EXPECT_FALSE(view.Store.ProgChanged);
+  forms.answers = {MsgAnswer::Ok};
+  forms.file_answers = {"/d/job.prg"};
+  Program({"VEL 1"}).cmdProgSaveAs.Press();
+  EXPECT_TRUE(view.Store.ProgChanged && view.Store.FilePath.empty()) << "it is in no file now";
+  SetActiveView(&view);
+  Boxes();
+  view.flgdProg.TypeInto(1, 2, "3");
   view.Commands.Redo();
+  EXPECT_EQ(view.flgdProg.Text(1, 2), "3") << "an edit leaves nothing to bring back";
+  ProgIsSaved(view);
+  view.Commands.Undo();
+  ProgIsSaved(view);
+  view.Commands.Redo();  // what stood there at the first save is not what was saved last
   forms.answers = {MsgAnswer::No};
   frmMain.mnuFileClose.Press();
   EXPECT_EQ(Boxes(), Texts{Text(1033) + "\n" + Text(1034)});

@@ -1,4 +1,5 @@
 #include "platform/atomic_save.h"
+#include "state/files_here.h"
 #include "tests/support/state_test.h"
 
 namespace tr7 {
@@ -71,6 +72,12 @@ TEST_F(TextFile, APowerCutAtAnyCallOfASaveLeavesOneFileWhole) {
       EXPECT_EQ(disk.Paths(), std::vector{kPath});
     }
   }
+}
+
+TEST_F(TextFile, AFileThatAViewShowsIsKnownHoweverItsPathIsSpelled) {
+  NoteBytes("/data/../a.qvd", "bytes");
+  FileIsShown("/./a.qvd");
+  EXPECT_NE(ShownMark("/a.qvd"), "");
 }
 
 }  // namespace

@@ -209,7 +209,13 @@ TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
     EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), escaped);
     user.on_box = [](const std::string&) {
       QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
-      QApplication::sendEvent(QApplication::activeModalWidget(), &held);
+      QKeyEvent up(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+      QKeyEvent down(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+      up.setTimestamp(1'000);
+      down.setTimestamp(1'005);
+      for (QKeyEvent* event : {&held, &up, &down}) {
+        QApplication::sendEvent(QApplication::activeModalWidget(), event);
+      }
       return MsgAnswer::No;
     };
     if (buttons == MsgButtons::YesNoCancel) {
