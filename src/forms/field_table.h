@@ -22,6 +22,7 @@ struct FieldTable {
   std::vector<FieldRow> Rows;
   /// Twips: of the names, then of each column of fields; empty: the usual ones.
   std::vector<double> Widths = {};
+  bool LabelsAtFields = false;  ///< each label stands close to the field behind it
 };
 
 }  // namespace tr7

@@ -4,11 +4,11 @@ namespace tr7 {
 namespace {
 
 constexpr std::size_t kFieldsInRow = 8;
-constexpr double kNumberWidth = 360, kValueWidth = 800;
+constexpr double kNumberWidth = 540, kValueWidth = 800;
 
 /// Each row begins with the number of its first field.
 FieldTable Group(FrmSystemPara& f, const std::string& place, std::size_t first, std::size_t count) {
-  FieldTable table{place, {}, {}, {kNumberWidth, kValueWidth}};
+  FieldTable table{place, {}, {}, {kNumberWidth, kValueWidth}, true};
   for (std::size_t i = 1; i < kFieldsInRow; ++i) {
     table.Widths.insert(table.Widths.end(), {kNumberWidth, kValueWidth});
   }

@@ -84,7 +84,13 @@ QLayout* InOnePlace(const FieldRow& row, QWidget& parent) {
 
 void AddRow(const FieldTable& table, const FieldRow& row, int at, int columns, QGridLayout& grid,
             QWidget& parent) {
-  grid.addWidget(Make(*row.Name, parent), at, 0);
+  const auto align = [&table](QWidget& widget) {
+    auto* label = table.LabelsAtFields ? qobject_cast<QLabel*>(&widget) : nullptr;
+    if (label) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  };
+  QWidget* name = Make(*row.Name, parent);
+  align(*name);
+  grid.addWidget(name, at, 0);
   if (row.InOnePlace) {
     grid.addLayout(InOnePlace(row, parent), at, 1, 1, columns + 1);
     return;
@@ -93,6 +99,7 @@ void AddRow(const FieldTable& table, const FieldRow& row, int at, int columns, Q
   for (const Control* control : row.Fields) {
     QWidget* field = Make(*control, parent);
     SetFieldSize(*field, WidthOf(table, column));
+    align(*field);
     grid.addWidget(field, at, column++);
   }
 }

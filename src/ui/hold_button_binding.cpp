@@ -17,6 +17,9 @@ HoldButtonBinding::HoldButtonBinding(HoldButton& record, QPushButton& button,
   const QKeySequence key(Q(record.Key));
   if (!key.isEmpty()) key_ = key[0].key();
   button.setAutoDefault(false);
+  key_up_.setSingleShot(true);
+  key_up_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&key_up_, &QTimer::timeout, this, [this] { LetGo(); });
   qApp->installEventFilter(this);
   QObject::connect(qApp, &QGuiApplication::applicationStateChanged, this,
                    [this](Qt::ApplicationState state) {
@@ -59,6 +62,7 @@ bool HoldButtonBinding::Press(Hand hand) {
 }
 
 void HoldButtonBinding::LetGo() {
+  key_up_.stop();
   if (hand_ == Hand::None) return;
   hand_ = Hand::None;
   button_.setDown(false);
@@ -71,10 +75,28 @@ bool HoldButtonBinding::IsOurKey(const QEvent& event) const {
   return key.key() == Qt::Key_Space && button_.hasFocus();
 }
 
-/// Where the window system does not say that a key repeats, the first release ends the hold, and
-/// the press right behind it begins none.
+/// Where the window system does not say that a key repeats, the press right behind a release takes
+/// the hold up that has not ended yet, and begins none where it has.
 bool HoldButtonBinding::Bounces(const QEvent& event) const {
   return ClosesPair(static_cast<const QKeyEvent&>(event), key_up_ms_);
+}
+
+/// True: a hold has begun, and may be over by now.
+bool HoldButtonBinding::KeyDown(const QEvent& event) {
+  if (static_cast<const QKeyEvent&>(event).isAutoRepeat()) return false;
+  if (!Bounces(event)) return Press(Hand::Key);
+  key_up_.stop();
+  return false;
+}
+
+/// The press of a pair is there as soon as its release, or the least bit behind it. Who waits for
+/// it loses a millisecond at the end of a jog; who does not ends one under the user's finger.
+void HoldButtonBinding::KeyUp(const QEvent& event) {
+  constexpr int kPressBehindMs = 1;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (key.isAutoRepeat()) return;
+  key_up_ms_ = key.timestamp();
+  if (hand_ == Hand::Key) key_up_.start(kPressBehindMs);
 }
 
 /// What ends a hold though no button and no key goes up.
@@ -102,7 +124,6 @@ bool HoldButtonBinding::eventFilter(QObject* watched, QEvent* event) {
   const auto is_left = [event] {
     return static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton;
   };
-  const auto repeats = [event] { return static_cast<const QKeyEvent*>(event)->isAutoRepeat(); };
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -121,14 +142,11 @@ bool HoldButtonBinding::eventFilter(QObject* watched, QEvent* event) {
       return watched == &button_;
     case QEvent::KeyPress:
       if (!watched->isWidgetType() || !IsOurKey(*event)) return false;
-      if (!repeats() && !Bounces(*event) && Press(Hand::Key)) return true;
+      if (KeyDown(*event)) return true;
       return hand_ == Hand::Key || watched == &button_;
     case QEvent::KeyRelease:
       if (!watched->isWidgetType() || !IsOurKey(*event)) return false;
-      if (!repeats()) {
-        key_up_ms_ = static_cast<const QKeyEvent*>(event)->timestamp();
-        if (hand_ == Hand::Key) LetGo();
-      }
+      KeyUp(*event);
       return watched == &button_;
     default:
       if (hand_ != Hand::None && TakesHandAway(*watched, *event)) LetGo();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <QTimer>
 #include <cstdint>
 
 #include "forms/hold_button.h"
@@ -27,12 +28,15 @@ class HoldButtonBinding : public QObject, public WidgetBinding {
   bool TakesHandAway(const QObject& watched, const QEvent& event) const;
   bool Press(Hand hand);
   void LetGo();
+  bool KeyDown(const QEvent& event);
+  void KeyUp(const QEvent& event);
 
   HoldButton& record_;
   QPushButton& button_;
   CommandGate gate_;
   Hand hand_ = Hand::None;
   int key_ = 0;
+  QTimer key_up_;                ///< until a release of the key is taken for one
   std::uint64_t key_up_ms_ = 0;  ///< when the key last went up, by the window system's clock
   std::optional<std::string> caption_;
 };
