@@ -11,6 +11,7 @@
 #include "forms/frm_select_posi_no.h"
 #include "forms/frm_sq_mcr.h"
 #include "tests/ui/ui_test.h"
+#include "ui/hold_button_binding.h"
 #include "ui/lamp.h"
 #include "ui/message_dialog.h"
 
@@ -150,6 +151,35 @@ TEST_F(BindingTest, ACommandThatGoesOnlineSaysSoWhileOffline) {
     const auto* sign = button.findChild<QWidget*>();
     EXPECT_EQ(sign && sign->isVisible(), offline);
   }
+}
+
+/// As some window systems tell it: a pair of a release and a press of one moment, and not as
+/// repeat.
+TEST_F(BindingTest, AHeldKeyHoldsOverTheRepeatsOfItsKeyAndEndsWithItsRelease) {
+  View view("frmHeld");
+  view.Visible = true;
+  HoldButton record(view, "cmdHeld", {}, "F6");
+  record.MouseDown = Note("down");
+  record.MouseUp = Note("up");
+  QPushButton button;
+  HoldButtonBinding binding(record, button, [] { return true; });
+  button.show();
+  button.activateWindow();
+  ASSERT_TRUE(Until([&button] { return button.isActiveWindow(); }));
+  const auto key = [&button](QEvent::Type type, int ms) {
+    QKeyEvent event(type, Qt::Key_F6, Qt::NoModifier);
+    event.setTimestamp(static_cast<std::uint64_t>(ms));
+    QApplication::sendEvent(&button, &event);
+  };
+  key(QEvent::KeyPress, 1'000);
+  for (int ms = 1'500; ms < 1'600; ms += 30) {
+    key(QEvent::KeyRelease, ms);
+    key(QEvent::KeyPress, ms);
+    WaitMs(5);
+  }
+  EXPECT_EQ(Events(), "down ");
+  key(QEvent::KeyRelease, 1'700);
+  EXPECT_TRUE(Until([this] { return events == "up "; }, 20));
 }
 
 TEST_F(BindingTest, WhatIsOffIsNotPressed) {
