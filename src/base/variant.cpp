@@ -3,6 +3,14 @@
 #include "base/text_helpers.h"
 
 namespace tr7 {
+namespace {
+
+void HoldAddress(const std::string* text, char* bytes) {
+  const auto address = reinterpret_cast<std::uintptr_t>(text);
+  std::memcpy(bytes, &address, sizeof address);
+}
+
+}  // namespace
 
 Variant::Variant(std::string_view text) {
   if (text.size() <= kRoom) {
@@ -10,21 +18,19 @@ Variant::Variant(std::string_view text) {
     kind_ = static_cast<std::uint8_t>(text.size());
     return;
   }
-  const auto* own = new std::string(text);
-  std::memcpy(bytes_, &own, sizeof own);
+  HoldAddress(new std::string(text), bytes_);
   kind_ = kLong;
 }
 
 const std::string* Variant::LongText() const {
-  const std::string* text = nullptr;
-  std::memcpy(&text, bytes_, sizeof text);
-  return text;
+  std::uintptr_t address = 0;
+  std::memcpy(&address, bytes_, sizeof address);
+  return reinterpret_cast<const std::string*>(address);
 }
 
 void Variant::OwnText() {
   kind_ = kNumber;  // holds nothing, should there be no room for the copy
-  const auto* own = new std::string(*LongText());
-  std::memcpy(bytes_, &own, sizeof own);
+  HoldAddress(new std::string(*LongText()), bytes_);
   kind_ = kLong;
 }
 
