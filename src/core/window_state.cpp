@@ -40,26 +40,6 @@ void Note(const std::string& key, const std::string& value) {
   if (Recall(key) != value) WindowState.notes[key] = value;
 }
 
-}  // namespace
-
-Numbers RecallNumbers(const std::string& key, int low, int high) {
-  SeqReader items(Recall(key));
-  Numbers numbers;
-  for (int number = 0; !items.AtEnd();) {
-    if (!items.ReadInteger(low, high, number)) return {};
-    numbers.push_back(number);
-  }
-  return numbers;
-}
-
-void NoteNumbers(const std::string& key, const Numbers& numbers) {
-  SeqWriter items;
-  for (const int number : numbers) items.Number(number);
-  Note(key, items.Result());
-}
-
-namespace {
-
 /// There is one of it, inside the frame: its place is its own.
 bool HasPlace(const View& view) { return view.MdiChild && view.Renew; }
 
@@ -181,6 +161,22 @@ void ReopenView(const std::string& name) {
 }
 
 }  // namespace
+
+std::vector<int> RecallNumbers(const std::string& key, int low, int high) {
+  SeqReader items(Recall(key));
+  Numbers numbers;
+  for (int number = 0; !items.AtEnd();) {
+    if (!items.ReadInteger(low, high, number)) return {};
+    numbers.push_back(number);
+  }
+  return numbers;
+}
+
+void NoteNumbers(const std::string& key, const std::vector<int>& numbers) {
+  SeqWriter items;
+  for (const int number : numbers) items.Number(number);
+  Note(key, items.Result());
+}
 
 void RestoreWindows() {
   constexpr int kMsgNotAgain = 7171;
