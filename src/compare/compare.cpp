@@ -264,8 +264,7 @@ void Comparison::TakeSelected() {
 }
 
 void Comparison::TakeAll() {
-  const std::string question = Text(kMsgTakeAll, std::to_string(differing_));
-  if (MsgBox(question, MsgButtons::YesNo, MsgIcon::Question) != MsgAnswer::Yes) return;
+  if (!AskYesToLose(Text(kMsgTakeAll, std::to_string(differing_)))) return;
   std::vector<int> keys;
   for (const CompareRow& row : rows_) {
     if (row.differs) keys.push_back(row.key);

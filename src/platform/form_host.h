@@ -19,6 +19,7 @@ struct MessageBoxCall {
   MsgIcon Icon = MsgIcon::None;
   bool Loses = false;        ///< the first answer loses something: Enter means the last one
   std::string Details = {};  ///< a list beside the text, one thing a line, folded until asked for
+  bool NoLoses = false;      ///< No loses something: nothing but its button means it
 };
 
 struct FileDialogCall {

@@ -65,8 +65,7 @@ bool AskWhetherCommentsStay() {
   for (int n = std::max(first, 1); n <= last; ++n) {
     if (CommentsOther(n)) ++others;
   }
-  return others == 0 || MsgBox(Text(kMsgCommentsStay, std::to_string(others)), MsgButtons::YesNo,
-                               MsgIcon::Question) != MsgAnswer::No;
+  return others == 0 || AskNoToLose(Text(kMsgCommentsStay, std::to_string(others)));
 }
 
 /// Comments do not travel: those of the loaded positions stay in the PC.

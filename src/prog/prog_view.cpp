@@ -100,10 +100,7 @@ std::string ToolTipOf(const Grid& listing, int row, int column) {
 
 bool AskAndLeave(ProgView& view) {
   if (FlowKeepsViewsOpen()) return true;
-  if (view.Store.ProgChanged &&
-      MsgBox(TwoLines(1033, 1034), MsgButtons::YesNo, MsgIcon::Question) == MsgAnswer::Yes) {
-    ProgDataSaveAs(view);
-  }
+  if (view.Store.ProgChanged && AskNoToLose(TwoLines(1033, 1034))) ProgDataSaveAs(view);
   return false;  // the view closes in any case
 }
 

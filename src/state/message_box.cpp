@@ -60,6 +60,14 @@ bool AskYesWarned(const std::string& question) {
              {question, Text(201), MsgButtons::YesNo, MsgIcon::Warning, true}) == MsgAnswer::Yes;
 }
 
+bool AskNoToLose(const std::string& question) {
+  return doors.forms->MessageBox({.Text = question,
+                                  .Title = Text(201),
+                                  .Buttons = MsgButtons::YesNo,
+                                  .Icon = MsgIcon::Question,
+                                  .NoLoses = true}) != MsgAnswer::No;
+}
+
 MsgAnswer AskYesNoCancel(MsgId id) {
   return MsgBox(Text(id), MsgButtons::YesNoCancel, MsgIcon::Question);
 }

@@ -8,7 +8,8 @@
 namespace tr7 {
 
 /// A box with the product's name as its title, in front of everything; returns the user's answer.
-/// Closing the box counts as Cancel, or as OK where OK is all it offers.
+/// Escape and closing the box count as Cancel, as No where it has no Cancel, or as OK where OK is
+/// all it offers.
 MsgAnswer MsgBox(const std::string& text, MsgButtons buttons = MsgButtons::Ok,
                  MsgIcon icon = MsgIcon::Warning);
 MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon,
@@ -46,6 +47,9 @@ void TellDone(MsgId id);
 [[nodiscard]] bool AskYesToLose(const std::string& question, const std::string& details = {});
 /// The same, where Yes leads into something that is not looked after: Enter is a No.
 [[nodiscard]] bool AskYesWarned(const std::string& question);
+/// The same, where No loses what cannot come back: the box stays until one of the two is pressed.
+/// True unless No was.
+[[nodiscard]] bool AskNoToLose(const std::string& question);
 /// A question with Yes, No and Cancel.
 [[nodiscard]] MsgAnswer AskYesNoCancel(MsgId id);
 

@@ -33,18 +33,19 @@ struct AnswerButton {
   MsgId tip;
 };
 
-std::vector<AnswerButton> ButtonsOf(MsgButtons buttons) {
-  const bool alone = buttons == MsgButtons::Ok;
+/// The last one is what Escape means, and Enter too where the first one loses something.
+std::vector<AnswerButton> ButtonsOf(const MessageBoxCall& call) {
+  const bool alone = call.Buttons == MsgButtons::Ok;
   const AnswerButton ok{MsgAnswer::Ok, kOkText, QMessageBox::AcceptRole,
                         alone ? MsgId(kReadTip) : MsgId(kOkTip)};
   const AnswerButton cancel{MsgAnswer::Cancel, kCancelText, QMessageBox::RejectRole, kCancelTip};
   const AnswerButton yes{MsgAnswer::Yes, kYesText, QMessageBox::YesRole, kYesTip};
-  // Without a Cancel, Escape is no answer: of a button with the role of a No it would be one.
-  const bool escapes = buttons == MsgButtons::YesNoCancel;
+  const bool goes_on = call.Buttons == MsgButtons::YesNoCancel;
+  // Of a lone button with the role of a No, Escape would be the answer.
   const AnswerButton no{MsgAnswer::No, kNoText,
-                        escapes ? QMessageBox::NoRole : QMessageBox::DestructiveRole,
-                        escapes ? MsgId(kNoGoesOnTip) : MsgId(kNoTip)};
-  switch (buttons) {
+                        call.NoLoses ? QMessageBox::DestructiveRole : QMessageBox::NoRole,
+                        goes_on ? MsgId(kNoGoesOnTip) : MsgId(kNoTip)};
+  switch (call.Buttons) {
     case MsgButtons::OkCancel:
       return {ok, cancel};
     case MsgButtons::YesNo:
@@ -124,12 +125,12 @@ MsgAnswer AskMessage(const MessageBoxCall& call, QWidget* parent, const WaitFor&
   box.setText(Q(call.Text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setIconPixmap(PictureOf(call.Icon));
-  const std::vector<AnswerButton> answers = ButtonsOf(call.Buttons);
+  const std::vector<AnswerButton> answers = ButtonsOf(call);
   for (const AnswerButton& answer : answers) {
     QPushButton* button = box.addButton(Q(Text(answer.text)), answer.role);
-    // Without a Cancel the box stays until it is answered; OK alone is its own cancel.
-    const bool escape = answer.answer == MsgAnswer::Cancel || answers.size() == 1;
-    const bool enter = &answer == (call.Loses ? &answers.back() : &answers.front());
+    const bool last = &answer == &answers.back();
+    const bool escape = last && !call.NoLoses;
+    const bool enter = call.Loses ? last : &answer == &answers.front();
     if (escape) box.setEscapeButton(button);
     if (enter) box.setDefaultButton(button);
     button->setToolTip(TipOf(answer, enter, escape));

@@ -180,6 +180,7 @@ TEST_P(CompareTest, AFileAgainstTheOtherTwoAndTakenOverAtOnce) {
          forms.answers = {No, Yes};
          frmCompare.cmdTakeAll.Press();
          EXPECT_EQ(kind.held(), kind.of_controller);
+         EXPECT_TRUE(forms.boxes.back().Loses) << "Enter is a No";
          frmCompare.cmdTakeAll.Press();
          EXPECT_EQ(Shown(), Texts());
        }});

@@ -191,8 +191,7 @@ TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
   const std::tuple<MsgButtons, std::vector<MsgAnswer>, MsgAnswer> kinds[] = {
       {MsgButtons::Ok, {MsgAnswer::Ok}, MsgAnswer::Ok},
       {MsgButtons::OkCancel, {MsgAnswer::Ok, MsgAnswer::Cancel}, MsgAnswer::Cancel},
-      // Escape is no answer to it: the button pressed next is.
-      {MsgButtons::YesNo, {MsgAnswer::Yes, MsgAnswer::No}, MsgAnswer::Yes},
+      {MsgButtons::YesNo, {MsgAnswer::Yes, MsgAnswer::No}, MsgAnswer::No},
       {MsgButtons::YesNoCancel,
        {MsgAnswer::Yes, MsgAnswer::No, MsgAnswer::Cancel},
        MsgAnswer::Cancel},
@@ -207,6 +206,7 @@ TEST_F(WindowTest, ABoxGivesBackItsButtonAndEscapeIsItsCancelAndNothingElse) {
       return MsgAnswer::Yes;
     };
     EXPECT_EQ(MsgBox("question", buttons, MsgIcon::Question), escaped);
+    EXPECT_TRUE(AskNoToLose("question")) << "Escape is no answer to it: the next button is";
     user.on_box = [](const std::string&) {
       QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
       QKeyEvent up(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
