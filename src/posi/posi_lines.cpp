@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/frm_posi.h"
+#include "platform/doors.h"
 #include "posi/posi_check.h"
 #include "posi/posi_edits.h"
 #include "posi/posi_format.h"
@@ -95,6 +96,8 @@ void cmdDeleteLine_Click() {
     FG_InitPos();
   }
   FG_HighSyoriEnd();
+  // An Enter that was meant for something else deletes nothing more.
+  doors.forms->SetFocus(grid);
 }
 
 }  // namespace tr7

@@ -153,6 +153,8 @@ void cmdDelLineProg_Click(ProgView& view) {
   }
   view.Store.ProgChanged = True;
   SelectLine(listing, std::min(first, ListingSteps(listing)));
+  // An Enter that was meant for something else deletes nothing more.
+  doors.forms->SetFocus(listing);
 }
 
 }  // namespace tr7

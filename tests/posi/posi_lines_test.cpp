@@ -60,6 +60,7 @@ TEST_F(PosiLines, DeleteTakesTheSelectedLines) {
   frmMain.mnuEditLineDelete.Press();
   EXPECT_EQ(Shown(), "1-2: 1 5");
   EXPECT_EQ(frmPosi.flgdData.Row, RowOfPosition(2));
+  EXPECT_EQ(forms.focus, &frmPosi.flgdData);
   Select(1, kVel, 2, kVel);
   frmPosi.cmdDeleteLine.Press();
   EXPECT_EQ(AppState.PosiLastNo, 0) << "no table is left";

@@ -46,6 +46,7 @@ TEST_F(ProgListing, LinesComeAndGo) {
   listing.Select(1, 0, 3, 0);
   view.cmdDelLineProg.Press();
   EXPECT_EQ(Steps(view), Texts{""}) << "the last line stays";
+  EXPECT_EQ(forms.focus, &listing);
   view.Store.ProgCopyNo = 100;
   Put(view, Texts(20, "LB 9"));
   listing.Select(1, 1, 1, 6);
