@@ -12,11 +12,13 @@
 #include <QStandardPaths>
 #include <array>
 #include <cstring>
+#include <utility>
 
 namespace tr7 {
 namespace {
 
 constexpr std::size_t kLongestPath = 4096;
+constexpr int kClaimAgainMs = 3000;
 
 /// One name for each settings file, short enough for a socket's address.
 QByteArray AddressFor(const QString& settings_path) {
@@ -61,7 +63,10 @@ bool AtAddress(const QByteArray& address, Call call) {
 
 FirstStart::FirstStart(const QString& settings_path)
     : address_(AddressFor(settings_path)),
-      socket_(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {}
+      socket_(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {
+  claim_again_.setInterval(kClaimAgainMs);
+  QObject::connect(&claim_again_, &QTimer::timeout, &claim_again_, [this] { ListenWhereFirst(); });
+}
 
 FirstStart::~FirstStart() {
   notifier_.reset();
@@ -74,12 +79,15 @@ FirstStart::~FirstStart() {
 
 bool FirstStart::HandOver(const QString& file) {
   const QByteArray path = QFileInfo(file).absoluteFilePath().toUtf8();
-  const auto connect_there = [this](const sockaddr* to, socklen_t size) {
-    return connect(socket_, to, size);
+  // Not over its own socket: one that has been connected would hear from nobody else later.
+  const auto send_there = [&path](const sockaddr* to, socklen_t size) {
+    const int sender = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const ssize_t sent = sendto(sender, path.constData(), static_cast<std::size_t>(path.size()),
+                                MSG_NOSIGNAL, to, size);
+    close(sender);
+    return sent == path.size() ? 0 : -1;
   };
-  if (!AtAddress(address_, connect_there)) return false;
-  return send(socket_, path.constData(), static_cast<std::size_t>(path.size()), MSG_NOSIGNAL) ==
-         path.size();
+  return AtAddress(address_, send_there);
 }
 
 bool FirstStart::Claim() {
@@ -100,12 +108,19 @@ bool FirstStart::Claim() {
 }
 
 void FirstStart::Listen(std::function<void(const QString& file)> open) {
-  if (!Claim()) return;
+  open_ = std::move(open);
+  ListenWhereFirst();
+}
+
+/// Who is not the first becomes it some time behind the end of the one that was.
+void FirstStart::ListenWhereFirst() {
+  if (!Claim()) return claim_again_.start();
+  claim_again_.stop();
   notifier_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
-  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this, open] {
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
     std::array<char, kLongestPath> path;
     const ssize_t size = recv(socket_, path.data(), path.size(), 0);
-    if (size > 0) open(QString::fromUtf8(path.data(), size));
+    if (size > 0) open_(QString::fromUtf8(path.data(), size));
   });
 }
 

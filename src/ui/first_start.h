@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 #include <QString>
+#include <QTimer>
 #include <functional>
 #include <memory>
 
@@ -22,14 +23,19 @@ class FirstStart {
   bool Claim();
   /// True: a tool is open and has been given the file.
   [[nodiscard]] bool HandOver(const QString& file);
-  /// From now on this one is told what later starts hand over, unless they come to another.
+  /// From now on this one is told what later starts hand over. While they come to another it waits
+  /// for the end of that one, and takes its place.
   void Listen(std::function<void(const QString& file)> open);
 
  private:
+  void ListenWhereFirst();
+
   QByteArray address_;
   int socket_ = -1;
   bool listens_ = false;
+  std::function<void(const QString& file)> open_;
   std::unique_ptr<QSocketNotifier> notifier_;
+  QTimer claim_again_;  ///< runs while another has the place
 };
 
 }  // namespace tr7

@@ -4,6 +4,8 @@
 
 #include "core/open_file.h"
 #include "forms/frm_main.h"
+#include "state/app_state.h"
+#include "state/busy_scope.h"
 #include "state/status_panel.h"
 #include "state/text.h"
 #include "state/text_file.h"
@@ -14,11 +16,21 @@ namespace {
 
 constexpr int kMsgWaits = 7170;
 
+const std::string& Panel() { return frmMain.sbStatusBar.Panels[kPanelError]; }
+
+/// Somebody is asked, or a flow runs: what they tell comes first.
+bool OthersTell() { return QApplication::activeModalWidget() || FlowRuns(); }
+
 }  // namespace
 
 OutsideFiles::OutsideFiles(QtFormHost& forms) : forms_(forms) {
   next_.HasWork = [this] { return !waiting_.empty() && IsFree() && !forms_.EditIsOpen(); };
   next_.Tick = [this] { OpenNext(); };
+  again_.HasWork = [this] { return MustTellAgain(); };
+  again_.Tick = [this] {
+    others_told_ = OthersTell();
+    if (!others_told_ || Panel().empty()) TellInPanel();
+  };
 }
 
 /// A box that stands may belong to no view, and a menu that is open has the keys.
@@ -37,18 +49,33 @@ void OutsideFiles::Add(const QStringList& paths) {
   TellWaiting();
 }
 
-void OutsideFiles::TellWaiting() const {
+void OutsideFiles::TellWaiting() {
   const QWidget* status = forms_.WidgetOf(frmMain.lblStatus);
   QWidget* modal = QApplication::activeModalWidget();
   if (modal || status) QApplication::alert(modal ? modal : status->window());
   forms_.Beep();
-  if (!waiting_.empty()) TellInStatusPanel(Text(kMsgWaits, FileTitle(waiting_.back())));
+  TellInPanel();
+}
+
+void OutsideFiles::TellInPanel() {
+  if (waiting_.empty()) return;
+  told_ = Text(kMsgWaits, FileTitle(waiting_.back()));
+  TellInStatusPanel(told_);
+}
+
+/// What was told is gone: a good reply empties the panel, and a flow and its boxes have their own
+/// texts. An alarm stands until it is cleared.
+bool OutsideFiles::MustTellAgain() const {
+  if (waiting_.empty() || !frmMain.Visible || AppState.AlarmOn) return false;
+  if (IsFree() && !forms_.EditIsOpen()) return false;
+  return Panel().empty() || others_told_ != OthersTell();
 }
 
 void OutsideFiles::OpenNext() {
   if (waiting_.empty()) return;
   const std::string path = waiting_.front();
   waiting_.pop_front();
+  if (Panel() == told_) TellInStatusPanel({});
   OpenFileByPath(path);
 }
 
