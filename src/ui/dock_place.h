@@ -24,13 +24,18 @@ class DockPlace : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void PutFloating();
+  void FollowFrame();
   void Note();
 
   QMainWindow& frame_;
   QDockWidget& dock_;
   std::string key_;
   int height_ = 0;  ///< in the frame, also while it floats or is hidden; 0: as its content asks for
-  QRect floating_;
+  QRect floating_;  ///< where it last floated; null: nowhere yet
+  bool has_floated_ = false;  ///< since the start
+  bool comes_after_frame_ = false;
+  bool twice_ = false;  ///< the last press of the mouse on it was the second of two
 };
 
 }  // namespace tr7

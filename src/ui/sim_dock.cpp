@@ -25,7 +25,8 @@
 namespace tr7 {
 namespace {
 
-constexpr int kTitle = 6960, kPushHome = 6965, kPushAway = 6966, kServoHolds = 6967, kAxis1 = 220;
+constexpr int kTitle = 6960, kMenuEntry = 7220, kPushHome = 6965, kPushAway = 6966,
+              kServoHolds = 6967, kAxis1 = 220;
 constexpr int kToggleTip = 8905, kFloatTip = 7217, kHideTip = 7218;
 constexpr const char* kKey = "Ctrl+Shift+M";
 constexpr int kPower = 6968, kPowerTip = 6969;
@@ -56,15 +57,18 @@ SimDock::SimDock(QMainWindow& frame, SimPort& machine)
 }
 
 void SimDock::AddSwitches(QMainWindow& frame) {
-  toggleViewAction()->setToolTip(TipText(Text(kToggleTip)));
+  QAction* toggle = toggleViewAction();
+  toggle->setIconText(windowTitle());  // on the button; the entry names the key as well
+  toggle->setText(Q(Text(kMenuEntry)) + '\t' + kKey);
+  toggle->setToolTip(TipText(Text(kToggleTip)));
   // Beside the menu: that is off while a flow or a teaching session runs.
   auto* button = new QToolButton(&frame);
-  button->setDefaultAction(toggleViewAction());
+  button->setDefaultAction(toggle);
   button->setFocusPolicy(Qt::TabFocus);
   if (QWidget* top = frame.findChild<QWidget*>("areaTop")) top->layout()->addWidget(button);
   if (auto* views = frame.findChild<QMenu*>("mnuView")) {
     views->addSeparator();
-    views->addAction(toggleViewAction());
+    views->addAction(toggle);
   }
   auto* key = new QShortcut(QKeySequence(kKey), &frame);
   QObject::connect(key, &QShortcut::activated, this, &SimDock::TurnTo);

@@ -77,6 +77,21 @@ TEST_F(SimDockTest, ItComesBackWhereItStood) {
   EXPECT_EQ(again->height(), 240);
 }
 
+TEST_F(SimDockTest, AFloatingOneComesBackAfterTheFrame) {
+  QMainWindow next;
+  auto* dock = frame_.findChild<SimDock*>();
+  dock->setFloating(true);
+  dock->move(60, 70);
+  Settle();
+  RememberWindows();
+  SimDock::AddTo(next, machine_);
+  auto* again = next.findChild<SimDock*>();
+  EXPECT_TRUE(again->isHidden()) << "there before the frame, it would lie behind it";
+  next.show();
+  EXPECT_TRUE(Until([again] { return again->isVisible(); }));
+  EXPECT_EQ(again->geometry(), dock->geometry());
+}
+
 TEST_F(SimDockTest, AHandSwitchesAnInput) {
   auto* input = frame_.findChildren<SimPoint*>("input3").at(0);
   QTest::mouseClick(input, Qt::LeftButton);
