@@ -57,8 +57,9 @@ void PlotWidget::Push() {
   update();
 }
 
-/// Right of the names, above the times.
-QRectF PlotWidget::Field() const {
+/// Right of the names, above the times. Every name is measured for it, so it is asked for once a
+/// drawing and not for each sample.
+QRectF PlotWidget::RoomForTraces() const {
   int names = 0;
   for (const PlotTrace* trace : plot_->Shown) {
     names = std::max(names, fontMetrics().horizontalAdvance(Q(trace->Name)));
@@ -70,14 +71,13 @@ QRectF PlotWidget::Field() const {
 }
 
 qreal PlotWidget::XOf(std::int64_t at_ms) const {
-  const QRectF field = Field();
   const auto span = static_cast<qreal>(std::max<std::int64_t>(plot_->ToMs - plot_->FromMs, 1));
   const qreal part = static_cast<qreal>(at_ms - plot_->FromMs) / span;
-  return field.left() + std::clamp(part, 0.0, 1.0) * field.width();
+  return field_.left() + std::clamp(part, 0.0, 1.0) * field_.width();
 }
 
 std::int64_t PlotWidget::TimeAt(qreal x) const {
-  const QRectF field = Field();
+  const QRectF field = RoomForTraces();
   const qreal part = std::clamp((x - field.left()) / field.width(), 0.0, 1.0);
   return plot_->FromMs +
          static_cast<std::int64_t>(part * static_cast<qreal>(plot_->ToMs - plot_->FromMs));
@@ -86,7 +86,6 @@ std::int64_t PlotWidget::TimeAt(qreal x) const {
 void PlotWidget::DrawTimes(QPainter& painter) const {
   constexpr std::int64_t kSteps[] = {1000, 2000, 5000, 10'000, 20'000, 60'000, 120'000};
   constexpr int kMostLines = 8;
-  const QRectF field = Field();
   std::int64_t step = kSteps[0];
   for (const std::int64_t wider : kSteps) {
     if ((plot_->ToMs - plot_->FromMs) / step > kMostLines) step = wider;
@@ -96,12 +95,12 @@ void PlotWidget::DrawTimes(QPainter& painter) const {
        at += step) {
     const qreal x = XOf(at + plot_->ZeroMs);
     painter.setPen(look::Colours().grid_line);
-    painter.drawLine(QPointF(x, field.top()), QPointF(x, field.bottom()));
+    painter.drawLine(QPointF(x, field_.top()), QPointF(x, field_.bottom()));
     painter.setPen(look::Colours().text);
     const QString text = QString::number(at / 1000) + QStringLiteral(" s");
     const qreal wide = fontMetrics().horizontalAdvance(text);
     const qreal left = std::min(x - wide / 2, width() - wide - 1);
-    painter.drawText(QPointF(left, field.bottom() + fontMetrics().ascent() + 3), text);
+    painter.drawText(QPointF(left, field_.bottom() + fontMetrics().ascent() + 3), text);
   }
 }
 
@@ -150,25 +149,24 @@ void PlotWidget::DrawLine(QPainter& painter, const PlotTrace& trace, const QRect
 }
 
 void PlotWidget::DrawTraces(QPainter& painter) const {
-  const QRectF field = Field();
   const qreal lane_height = fontMetrics().height() + 6;
   const auto lanes = std::count_if(plot_->Shown.begin(), plot_->Shown.end(),
                                    [](const PlotTrace* trace) { return trace->Digital; });
   const auto lines = static_cast<qreal>(plot_->Shown.size()) - static_cast<qreal>(lanes);
-  const qreal left = field.height() - static_cast<qreal>(lanes) * lane_height;
+  const qreal left = field_.height() - static_cast<qreal>(lanes) * lane_height;
   const qreal strip_height = lines > 0 ? std::max(left / lines, kLeastStrip) : 0;
-  qreal top = field.top();
+  qreal top = field_.top();
   for (const PlotTrace* trace : plot_->Shown) {
     const qreal height = trace->Digital ? lane_height : strip_height;
-    const QRectF strip(field.left(), top, field.width(), height);
-    const QRectF name(kGap, top, field.left() - 2 * kGap, height);
+    const QRectF strip(field_.left(), top, field_.width(), height);
+    const QRectF name(kGap, top, field_.left() - 2 * kGap, height);
     painter.setPen(look::Colours().text);
     painter.drawText(
         name, Qt::AlignLeft | Qt::AlignVCenter,
         fontMetrics().elidedText(Q(trace->Name), Qt::ElideRight, static_cast<int>(name.width())));
     trace->Digital ? DrawLane(painter, *trace, strip) : DrawLine(painter, *trace, strip);
     painter.setPen(look::Colours().header_line);
-    painter.drawLine(QPointF(kGap, strip.bottom()), QPointF(field.right(), strip.bottom()));
+    painter.drawLine(QPointF(kGap, strip.bottom()), QPointF(field_.right(), strip.bottom()));
     top += height;
   }
 }
@@ -176,11 +174,10 @@ void PlotWidget::DrawTraces(QPainter& painter) const {
 void PlotWidget::DrawCursor(QPainter& painter, const std::optional<std::int64_t>& at_ms,
                             const QString& name, Qt::PenStyle style) const {
   if (!at_ms || *at_ms < plot_->FromMs || *at_ms > plot_->ToMs) return;
-  const QRectF field = Field();
   const qreal x = XOf(*at_ms);
   painter.setPen(QPen(look::Colours().text, 1.2, style));
-  painter.drawLine(QPointF(x, field.top()), QPointF(x, field.bottom()));
-  const QRectF label(x + 2, field.top(), fontMetrics().horizontalAdvance(name) + 4,
+  painter.drawLine(QPointF(x, field_.top()), QPointF(x, field_.bottom()));
+  const QRectF label(x + 2, field_.top(), fontMetrics().horizontalAdvance(name) + 4,
                      fontMetrics().height());
   painter.fillRect(label, look::Colours().header);
   painter.drawText(label, Qt::AlignCenter, name);
@@ -198,6 +195,7 @@ void PlotWidget::paintEvent(QPaintEvent*) {
                      Q(plot_->Hint));
     return;
   }
+  field_ = RoomForTraces();
   DrawTimes(painter);
   DrawTraces(painter);
   DrawCursor(painter, plot_->CursorA, QStringLiteral("A"), Qt::SolidLine);

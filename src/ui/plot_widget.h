@@ -30,7 +30,7 @@ class PlotWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QRectF Field() const;
+  QRectF RoomForTraces() const;
   qreal XOf(std::int64_t at_ms) const;
   std::int64_t TimeAt(qreal x) const;
   void DrawTimes(QPainter& painter) const;
@@ -41,6 +41,7 @@ class PlotWidget : public QWidget {
                   Qt::PenStyle style) const;
 
   Plot* plot_ = nullptr;
+  QRectF field_;  ///< where the traces were drawn last
   std::optional<std::uint64_t> shown_revision_;
 };
 
