@@ -122,7 +122,7 @@ void BoundView::FindTabs() {
   for (QTabWidget* tabs : window_.findChildren<QTabWidget*>()) {
     FollowPage(*tabs);
     for (int index = 0; index < tabs->count(); ++index) {
-      TabPage page{tabs, index, {}};
+      TabPage page{tabs, index, {}, {}};
       for (const auto& [control, widget] : widgets_) {
         const bool frame = dynamic_cast<const Frame*>(control) != nullptr;
         if (frame && tabs->widget(index)->isAncestorOf(widget)) page.frames.push_back(control);
@@ -141,11 +141,21 @@ void BoundView::FollowPage(QTabWidget& tabs) {
 }
 
 void BoundView::PushTabTitles() {
-  for (const TabPage& page : tab_pages_) {
+  const auto stands = [](const Control* frame, const std::string& shown) {
+    return frame->Caption == shown;
+  };
+  for (TabPage& page : tab_pages_) {
+    if (std::equal(page.frames.begin(), page.frames.end(), page.shown.begin(), page.shown.end(),
+                   stands)) {
+      continue;
+    }
+    page.shown.clear();
     QStringList names;
-    for (const Control* frame : page.frames) names << Q(frame->Caption);
-    const QString title = names.join(" / ");
-    if (page.tabs->tabText(page.index) != title) page.tabs->setTabText(page.index, title);
+    for (const Control* frame : page.frames) {
+      page.shown.push_back(frame->Caption);
+      names << Q(frame->Caption);
+    }
+    page.tabs->setTabText(page.index, names.join(" / "));
   }
 }
 
@@ -181,10 +191,13 @@ void BoundView::SetTabOrder() {
 }
 
 void BoundView::PushAreas() {
-  std::vector<bool> visibility;
-  for (const auto& [control, widget] : widgets_) visibility.push_back(control->Visible);
-  if (visibility == shown_visibility_) return;
-  shown_visibility_ = std::move(visibility);
+  const auto stands = [](const auto& tied, bool shown) { return tied.first->Visible == shown; };
+  if (std::equal(widgets_.begin(), widgets_.end(), shown_visibility_.begin(),
+                 shown_visibility_.end(), stands)) {
+    return;
+  }
+  shown_visibility_.clear();
+  for (const auto& [control, widget] : widgets_) shown_visibility_.push_back(control->Visible);
   for (const Area& area : areas_) {
     const bool any = std::any_of(area.controls.begin(), area.controls.end(),
                                  [](const Control* control) { return control->Visible; });

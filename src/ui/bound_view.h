@@ -50,6 +50,7 @@ class BoundView {
     QTabWidget* tabs;
     int index;
     std::vector<const Control*> frames;
+    std::vector<std::string> shown;  ///< their captions, as the tab has them
   };
 
   void Tie(Control& control, const CommandGate& gate);
