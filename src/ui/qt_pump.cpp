@@ -14,6 +14,8 @@ namespace {
 
 /// Ticks that follow one another without a pause let the user in this often.
 constexpr std::int64_t kEventsEveryUs = 10'000;
+/// A drawing waits this long for a wake-up that comes anyway.
+constexpr std::int64_t kDrawingWaitsUs = 50'000;
 /// Longest sleep that the armed timer is set for.
 constexpr std::int64_t kLongestSleepMs = 3'600'000;
 
@@ -73,10 +75,9 @@ std::string QtPump::Date() const {
 
 void QtPump::Arm() {
   ++sleeps;
-  std::optional<std::int64_t> due = before_sleep ? before_sleep() : std::nullopt;
-  if (holds_ == 0) {
-    if (const auto next = NextDueUs()) due = std::min(due.value_or(*next), *next);
-  }
+  const auto drawing = before_sleep ? before_sleep() : std::nullopt;
+  std::optional<std::int64_t> due = holds_ == 0 ? NextDueUs() : std::nullopt;
+  if (drawing && (!due || *due > *drawing + kDrawingWaitsUs)) due = drawing;
   if (!due) {
     wake_.stop();
     return;

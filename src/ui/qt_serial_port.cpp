@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QSerialPortInfo>
 #include <QStringList>
+#include <QTimer>
 #include <algorithm>
 #include <cerrno>
 #include <utility>
@@ -13,12 +14,14 @@
 #include <array>
 #endif
 
+#include "platform/doors.h"
+
 namespace tr7 {
 namespace {
 
 constexpr const char* kSimDevice = "sim";
 /// Length of the shortest line that may come instead of the expected one: an error reply. It is
-/// looked for on the way to a longer one.
+/// looked for on the way to one that is much longer.
 constexpr qint64 kErrorReply = 8;
 
 std::optional<QSerialPort::Parity> ParityOf(const QString& letter) {
@@ -59,15 +62,18 @@ void TakeIn(QSerialPort& port, std::string& bytes) {
 
 /// True: the bytes are on their way, those that the system did not take at once by the port.
 bool PutOut(QSerialPort& port, std::string_view bytes) {
+  bool taken_in_part = false;
 #ifndef _WIN32
   const ssize_t count =
       port.bytesToWrite() == 0 ? write(port.handle(), bytes.data(), bytes.size()) : 0;
   if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
   if (bytes.empty()) return true;
+  taken_in_part = count > 0;
 #endif
   const auto size = static_cast<qint64>(bytes.size());
   if (port.write(bytes.data(), size) != size) return false;
-  port.flush();
+  // The system takes no more just now, and a try would count as a lost device: the port waits.
+  if (!taken_in_part) port.flush();
   return true;
 }
 
@@ -110,9 +116,6 @@ QtSerialPort::QtSerialPort() {
     in_ += port_.readAll().toStdString();
     OnBytes();
   });
-  rest_.setSingleShot(true);
-  rest_.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&rest_, &QTimer::timeout, &port_, [this] { Look(); });
 }
 
 /// A device that is gone calls for a read as long as it stays open, so it is shut; not from within
@@ -135,8 +138,8 @@ std::optional<std::int64_t> QtSerialPort::NextEventUs() {
     looked_.start();
     if (HasHungUp(port_)) Vanish(qt_error_string(ENODEV));
   }
-  Listen(!gathering_ || late_);
-  return sim_.NextEventUs();
+  Listen(!look_us_);
+  return look_us_ ? look_us_ : sim_.NextEventUs();
 }
 
 void QtSerialPort::ExpectReply(std::size_t bytes) {
@@ -148,18 +151,20 @@ void QtSerialPort::ExpectReply(std::size_t bytes) {
 /// nothing before its end. So nobody listens while the line takes its time for what was sent and
 /// for the answer; one that is late wakes by its first byte.
 void QtSerialPort::Gather(qint64 bytes_on_the_line) {
-  constexpr qint64 kLongestRestMs = 250;  // a hang-up is heard as well
+  constexpr qint64 kLeastRestUs = 1000, kLongestRestUs = 250'000;  // a hang-up is heard as well
   gathering_ = true;
-  late_ = false;
-  const qint64 due_ms = (bytes_on_the_line * byte_us_ + 999) / 1000;
-  rest_.start(static_cast<int>(std::clamp<qint64>(due_ms, 1, kLongestRestMs)));
+  const qint64 rest_us = std::clamp(bytes_on_the_line * byte_us_, kLeastRestUs, kLongestRestUs);
+  look_us_ = doors.pump->NowUs() + rest_us;
 }
 
+/// The port must not be woken for bytes that have been taken here: a read that finds none counts
+/// with it as a lost device.
 void QtSerialPort::Look() {
+  look_us_.reset();
+  Listen(false);
   const std::size_t before = in_.size();
   TakeIn(port_, in_);
-  late_ = in_.size() == before;
-  if (!late_) OnBytes();
+  if (in_.size() != before) OnBytes();
 }
 
 void QtSerialPort::OnBytes() {
@@ -170,13 +175,13 @@ void QtSerialPort::OnBytes() {
 
 /// How many bytes of the reply to let gather next.
 qint64 QtSerialPort::NextLook() const {
-  const bool may_be_error = Arrived() < kErrorReply && expected_ > 2 * kErrorReply;
+  const bool may_be_error = Arrived() < kErrorReply && expected_ > 4 * kErrorReply;
   return may_be_error ? kErrorReply : expected_;
 }
 
 /// From now on every byte is there as soon as it has arrived.
 void QtSerialPort::LetAllIn() {
-  rest_.stop();
+  look_us_.reset();
   gathering_ = false;
   expected_ = 0;
 }
@@ -258,6 +263,7 @@ bool QtSerialPort::Write(std::string_view bytes) {
 
 std::size_t QtSerialPort::InBufferCount() {
   if (sim_.IsOpen()) return sim_.InBufferCount();
+  if (look_us_ && doors.pump->NowUs() >= *look_us_) Look();
   return gathering_ ? 0 : in_.size();
 }
 

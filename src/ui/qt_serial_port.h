@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <QSerialPort>
 #include <QSocketNotifier>
-#include <QTimer>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,13 +54,12 @@ class QtSerialPort : public SerialPort {
   QSerialPort port_;
   std::string in_;                      ///< has come in, and nobody has read it
   QPointer<QSocketNotifier> listener_;  ///< what wakes the loop for bytes that have come in
-  QTimer rest_;                         ///< until what is expected can be there
   bool gathering_ =
-      false;              ///< the expected reply is on its way, its first part shown to nobody yet
-  bool late_ = false;     ///< it has not come in its time: the next byte wakes
-  QElapsedTimer looked_;  ///< since the last look whether the line has hung up
-  qint64 expected_ = 0;   ///< bytes of the reply; 0: nobody knows
-  qint64 byte_us_ = 0;    ///< time of a byte on the line
+      false;  ///< the expected reply is on its way, its first part shown to nobody yet
+  std::optional<std::int64_t> look_us_;  ///< when its next part can be there; none: a byte wakes
+  QElapsedTimer looked_;                 ///< since the last look whether the line has hung up
+  qint64 expected_ = 0;                  ///< bytes of the reply; 0: nobody knows
+  qint64 byte_us_ = 0;                   ///< time of a byte on the line
   SimPort sim_;
   bool dead_ = false;  ///< the device went away while open
   std::string fault_text_;
