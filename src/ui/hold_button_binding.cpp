@@ -6,6 +6,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include "ui/key_repeat.h"
 
@@ -71,6 +72,8 @@ void HoldButtonBinding::LetGo() {
 
 bool HoldButtonBinding::IsOurKey(const QEvent& event) const {
   const auto& key = static_cast<const QKeyEvent&>(event);
+  const bool held = hand_ == Hand::Key && held_code_ != 0;
+  if (held && key.nativeScanCode() == held_code_) return true;
   if (key.key() == key_ && key_ != 0) return true;
   return key.key() == Qt::Key_Space && button_.hasFocus();
 }
@@ -83,10 +86,19 @@ bool HoldButtonBinding::Bounces(const QEvent& event) const {
 
 /// True: a hold has begun, and may be over by now.
 bool HoldButtonBinding::KeyDown(const QEvent& event) {
-  if (static_cast<const QKeyEvent&>(event).isAutoRepeat()) return false;
-  if (!Bounces(event)) return Press(Hand::Key);
-  key_up_.stop();
-  return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (key.isAutoRepeat()) return false;
+  if (Bounces(event)) {
+    key_up_.stop();
+    return false;
+  }
+  if (hand_ == Hand::None) held_code_ = key.nativeScanCode();
+  if (!key_up_.isActive()) return Press(Hand::Key);
+  // Another press, behind a release that still waits: that one comes first. Its handler may wait,
+  // and this binding may be gone behind it.
+  const QPointer<HoldButtonBinding> here(this);
+  LetGo();
+  return !here || Press(Hand::Key);
 }
 
 /// The press of a pair is there as soon as its release, or the least bit behind it. Who waits for

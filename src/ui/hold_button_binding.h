@@ -36,6 +36,7 @@ class HoldButtonBinding : public QObject, public WidgetBinding {
   CommandGate gate_;
   Hand hand_ = Hand::None;
   int key_ = 0;
+  std::uint32_t held_code_ = 0;  ///< of the key that holds, whatever Ctrl and Alt make of its name
   QTimer key_up_;                ///< until a release of the key is taken for one
   std::uint64_t key_up_ms_ = 0;  ///< when the key last went up, by the window system's clock
   std::optional<std::string> caption_;
