@@ -8,12 +8,15 @@
 namespace tr7 {
 namespace {
 
-/// Ahead of a sleep; the time of the next question where it is too early for one.
+/// A question that is asked now and then waits this long for a sleep that comes anyway.
+constexpr std::int64_t kQuestionWaitsUs = 50'000;
+
+/// Ahead of a sleep; the latest time of the next question where it is too early for one.
 std::optional<std::int64_t> AskNowAndThen(Timer& timer, std::int64_t now) {
   if (!timer.Enabled) return std::nullopt;
   if (timer.Wanted) return now;
   const std::int64_t next = timer.AskedUs + std::int64_t{timer.AskEveryMs} * 1000;
-  if (timer.AskedUs != Timer::kNotArmed && now < next) return next;
+  if (timer.AskedUs != Timer::kNotArmed && now < next) return next + kQuestionWaitsUs;
   timer.AskedUs = now;
   timer.Wanted = timer.HasWork();
   return timer.Wanted ? std::optional(now) : std::nullopt;

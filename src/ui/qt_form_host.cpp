@@ -7,9 +7,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QScreen>
-#include <QTimer>
 #include <QVBoxLayout>
-#include <QWindow>
 #include <string_view>
 
 #include "forms/control.h"
@@ -24,11 +22,6 @@
 
 namespace tr7 {
 namespace {
-
-/// Records that change all the time are drawn this often.
-constexpr std::int64_t kPushEveryUs = 100'000;
-/// How long a picture may take to get to the screen before the start goes on without it.
-constexpr std::int64_t kExposeUs = 200'000;
 
 bool Is(const View& view, std::string_view name) { return name == view.Name; }
 
@@ -111,7 +104,9 @@ void QtFormHost::ShowFrame() {
     }
     QObject::connect(mdi_, &QMdiArea::subWindowActivated, frame_, [this](QMdiSubWindow* window) {
       for (const auto& [view, shown] : shown_) {
-        if (shown.window == window) SetActiveView(&shown.bound->Record());
+        if (shown.window != window) continue;
+        SetActiveView(&shown.bound->Record());
+        if (!pushing_) shown.bound->Push();  // what it has missed behind another one
       }
     });
     if (frame_built) frame_built(*frame_);
@@ -278,61 +273,6 @@ void QtFormHost::ArrangeWindows(WindowArrangement how) {
     windows[i]->setGeometry(rows ? QRect(0, from, field.width(), to - from)
                                  : QRect(from, 0, to - from, field.height()));
   }
-}
-
-// Drawing.
-
-BoundView* QtFormHost::Find(const View& view) const {
-  const auto found = shown_.find(&view);
-  return found == shown_.end() ? nullptr : found->second.bound.get();
-}
-
-QWidget* QtFormHost::WidgetOf(const Control& control) const {
-  const BoundView* bound = Find(*control.Owner);
-  return bound ? bound->WidgetOf(control) : nullptr;
-}
-
-void QtFormHost::Push() {
-  if (pushing_ || ended_) return;
-  pushing_ = true;
-  for (const auto& [view, shown] : shown_) shown.bound->Push();
-  pushing_ = false;
-  // Not in here: what the focus leaves may have a handler, and that may wait.
-  if (MayGiveFocus()) QTimer::singleShot(0, wants_focus_, [this] { GiveFocus(); });
-  last_push_us_ = pump_.NowUs();
-}
-
-/// Before the loop sleeps: what handlers and ticks have changed is drawn, not more often than an
-/// eye can follow. A button that can be held no longer is let go of at once.
-std::optional<std::int64_t> QtFormHost::PushWhenDue() {
-  LetGoOfLostButton();
-  if (pump_.NowUs() - last_push_us_ < kPushEveryUs) return last_push_us_ + kPushEveryUs;
-  Push();
-  return std::nullopt;
-}
-
-void QtFormHost::PaintNow() {
-  for (const auto& [view, shown] : shown_) {
-    if (shown.window->isVisible()) shown.window->repaint();
-  }
-}
-
-/// A window that has just come up is waited for until it is exposed, with the timers held.
-void QtFormHost::Refresh() {
-  Push();
-  const QtPump::HoldTimers hold(pump_);
-  const std::int64_t until = pump_.NowUs() + kExposeUs;
-  const auto all_exposed = [this] {
-    for (const auto& [view, shown] : shown_) {
-      const QWindow* handle = shown.window->windowHandle();
-      if (shown.window->isVisible() && handle && !handle->isExposed()) return false;
-    }
-    return true;
-  };
-  while (!all_exposed() && pump_.NowUs() < until) {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 5);
-  }
-  PaintNow();
 }
 
 // Asking.

@@ -76,6 +76,8 @@ class QtFormHost : public FormHost {
   void ShowChild(View& view, ChildWindow& child);
   void FillFrame(const QWidget& gone);
   void ShowDialog(View& view, QWidget& window, bool modal);
+  bool IsCovered(const QWidget& window) const;
+  void PushViews(bool covered_ones_too);
   std::optional<std::int64_t> PushWhenDue();
   bool MayGiveFocus() const;
   void GiveFocus();
@@ -89,7 +91,7 @@ class QtFormHost : public FormHost {
   FrameWindow* frame_ = nullptr;
   QMdiArea* mdi_ = nullptr;
   QPointer<QWidget> wants_focus_;
-  std::int64_t last_push_us_ = 0;
+  std::int64_t last_push_us_ = 0, last_full_push_us_ = 0;
   bool pushing_ = false;
   int wait_cursors_ = 0;
   bool ended_ = false;

@@ -152,8 +152,10 @@ void QtSerialPort::ExpectReply(std::size_t bytes) {
 /// for the answer; one that is late wakes by its first byte.
 void QtSerialPort::Gather(qint64 bytes_on_the_line) {
   constexpr qint64 kLeastRestUs = 1000, kLongestRestUs = 250'000;  // a hang-up is heard as well
+  constexpr qint64 kMarginUs = 500;  // a look just ahead of the last byte is one for nothing
   gathering_ = true;
-  const qint64 rest_us = std::clamp(bytes_on_the_line * byte_us_, kLeastRestUs, kLongestRestUs);
+  const qint64 rest_us =
+      std::clamp(bytes_on_the_line * byte_us_ + kMarginUs, kLeastRestUs, kLongestRestUs);
   look_us_ = doors.pump->NowUs() + rest_us;
 }
 
