@@ -156,6 +156,18 @@ TEST_F(WindowTest, KeysPressTheirButtons) {
   EXPECT_EQ(news, 1) << frmPosi.cmdPosiNew.Caption;
 }
 
+TEST_F(WindowTest, ACoveredViewIsDrawnTooThoughMoreSeldom) {
+  StartOffline();
+  frmMain.mnuViewWire.Press();
+  Settle();
+  const auto& button = static_cast<QPushButton&>(*desktop.forms.WidgetOf(frmPosi.cmdPosiNew));
+  frmPosi.cmdPosiNew.Caption = "covered";
+  EXPECT_TRUE(Until([&] { return button.text() == "covered"; }, 1000));
+  frmPosi.cmdPosiNew.Caption = "in front";
+  desktop.forms.BringToFront(frmPosi);
+  EXPECT_EQ(button.text(), "in front");
+}
+
 // Dialogues.
 
 TEST_F(WindowTest, KeysAnswerADialogueAndOneWithoutCancelStays) {
