@@ -59,6 +59,15 @@ bool AtAddress(const QByteArray& address, Call call) {
   return Fill(address, to) && call(reinterpret_cast<const sockaddr*>(&to), sizeof to) == 0;
 }
 
+bool SomebodyListens(const QByteArray& address) {
+  return AtAddress(address, [](const sockaddr* to, socklen_t size) {
+    const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const int result = connect(probe, to, size);
+    close(probe);
+    return result;
+  });
+}
+
 }  // namespace
 
 FirstStart::FirstStart(const QString& settings_path)
@@ -92,15 +101,10 @@ bool FirstStart::HandOver(const QString& file) {
 
 bool FirstStart::Claim() {
   if (listens_) return true;
+  if (SomebodyListens(address_)) return false;
   // Only one of several that start at once gets the address.
   const AddressLock lock(address_);
-  const auto is_there = [](const sockaddr* to, socklen_t size) {
-    const int probe = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    const int result = connect(probe, to, size);
-    close(probe);
-    return result;
-  };
-  if (AtAddress(address_, is_there)) return false;
+  if (SomebodyListens(address_)) return false;
   QFile::remove(QString::fromUtf8(address_));  // left by one that was killed, if at all
   listens_ = AtAddress(
       address_, [this](const sockaddr* at, socklen_t size) { return bind(socket_, at, size); });

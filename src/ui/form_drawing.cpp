@@ -60,11 +60,19 @@ void QtFormHost::PushViews(bool covered_ones_too) {
   if (!left_out) last_full_push_us_ = last_push_us_;
 }
 
+void QtFormHost::PushOne(BoundView& bound) {
+  if (pushing_ || ended_) return;
+  pushing_ = true;
+  bound.Push();
+  pushing_ = false;
+}
+
 /// Before the loop sleeps: what handlers and ticks have changed is drawn, not more often than an
 /// eye can follow, and what nobody sees more seldom. A button that can be held no longer is let go
 /// of at once.
 std::optional<std::int64_t> QtFormHost::PushWhenDue() {
   LetGoOfLostButton();
+  if (pushing_ || ended_) return std::nullopt;
   const std::int64_t now = pump_.NowUs();
   if (now - last_push_us_ < kPushEveryUs) return last_push_us_ + kPushEveryUs;
   PushViews(now - last_full_push_us_ >= kPushCoveredEveryUs);

@@ -6,7 +6,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
-#include <QPointer>
 
 #include "ui/key_repeat.h"
 
@@ -93,12 +92,9 @@ bool HoldButtonBinding::KeyDown(const QEvent& event) {
     return false;
   }
   if (hand_ == Hand::None) held_code_ = key.nativeScanCode();
-  if (!key_up_.isActive()) return Press(Hand::Key);
-  // Another press, behind a release that still waits: that one comes first. Its handler may wait,
-  // and this binding may be gone behind it.
-  const QPointer<HoldButtonBinding> here(this);
-  LetGo();
-  return !here || Press(Hand::Key);
+  // Behind a release that still waits it begins nothing: what that ends waits for the controller,
+  // and meanwhile the hand may have gone again.
+  return Press(Hand::Key);
 }
 
 /// The press of a pair is there as soon as its release, or the least bit behind it. Who waits for

@@ -1,6 +1,7 @@
 #include "ui/outside_files.h"
 
 #include <QApplication>
+#include <string_view>
 
 #include "core/open_file.h"
 #include "forms/frm_main.h"
@@ -15,6 +16,7 @@ namespace tr7 {
 namespace {
 
 constexpr int kMsgWaits = 7170;
+constexpr std::string_view kGap = "   ";
 
 const std::string& Panel() { return frmMain.sbStatusBar.Panels[kPanelError]; }
 
@@ -29,7 +31,7 @@ OutsideFiles::OutsideFiles(QtFormHost& forms) : forms_(forms) {
   again_.HasWork = [this] { return MustTellAgain(); };
   again_.Tick = [this] {
     others_told_ = OthersTell();
-    if (!others_told_ || Panel().empty()) TellInPanel();
+    TellInPanel();
   };
 }
 
@@ -57,10 +59,20 @@ void OutsideFiles::TellWaiting() {
   TellInPanel();
 }
 
+/// Behind what others have told: that may be the end of a stroke or a jog without its guard.
 void OutsideFiles::TellInPanel() {
   if (waiting_.empty()) return;
+  const std::string others = OthersWords();
   told_ = Text(kMsgWaits, FileTitle(waiting_.back()));
-  TellInStatusPanel(told_);
+  TellInStatusPanel(others.empty() ? told_ : others + std::string(kGap) + told_);
+}
+
+std::string OutsideFiles::OthersWords() const {
+  std::string words = Panel();
+  if (told_.empty() || !words.ends_with(told_)) return words;
+  words.resize(words.size() - told_.size());
+  if (words.ends_with(kGap)) words.resize(words.size() - kGap.size());
+  return words;
 }
 
 /// What was told is gone: a good reply empties the panel, and a flow and its boxes have their own
@@ -75,7 +87,7 @@ void OutsideFiles::OpenNext() {
   if (waiting_.empty()) return;
   const std::string path = waiting_.front();
   waiting_.pop_front();
-  if (Panel() == told_) TellInStatusPanel({});
+  TellInStatusPanel(OthersWords());
   OpenFileByPath(path);
 }
 

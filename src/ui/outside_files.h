@@ -25,6 +25,7 @@ class OutsideFiles {
   bool IsFree() const;
   void TellWaiting();
   void TellInPanel();
+  std::string OthersWords() const;
   bool MustTellAgain() const;
   void OpenNext();
 

@@ -106,7 +106,7 @@ void QtFormHost::ShowFrame() {
       for (const auto& [view, shown] : shown_) {
         if (shown.window != window) continue;
         SetActiveView(&shown.bound->Record());
-        if (!pushing_) shown.bound->Push();  // what it has missed behind another one
+        return PushOne(*shown.bound);  // what it has missed behind another one
       }
     });
     if (frame_built) frame_built(*frame_);

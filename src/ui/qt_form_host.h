@@ -78,6 +78,7 @@ class QtFormHost : public FormHost {
   void ShowDialog(View& view, QWidget& window, bool modal);
   bool IsCovered(const QWidget& window) const;
   void PushViews(bool covered_ones_too);
+  void PushOne(BoundView& bound);
   std::optional<std::int64_t> PushWhenDue();
   bool MayGiveFocus() const;
   void GiveFocus();

@@ -62,18 +62,17 @@ void TakeIn(QSerialPort& port, std::string& bytes) {
 
 /// True: the bytes are on their way, those that the system did not take at once by the port.
 bool PutOut(QSerialPort& port, std::string_view bytes) {
-  bool taken_in_part = false;
+  bool is_full = port.bytesToWrite() != 0;
 #ifndef _WIN32
-  const ssize_t count =
-      port.bytesToWrite() == 0 ? write(port.handle(), bytes.data(), bytes.size()) : 0;
+  const ssize_t count = is_full ? 0 : write(port.handle(), bytes.data(), bytes.size());
+  is_full = is_full || count > 0 || (count < 0 && errno == EAGAIN);
   if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
   if (bytes.empty()) return true;
-  taken_in_part = count > 0;
 #endif
   const auto size = static_cast<qint64>(bytes.size());
   if (port.write(bytes.data(), size) != size) return false;
-  // The system takes no more just now, and a try would count as a lost device: the port waits.
-  if (!taken_in_part) port.flush();
+  // Where the system takes no more just now, a try would count as a lost device: the port waits.
+  if (!is_full) port.flush();
   return true;
 }
 
@@ -138,6 +137,7 @@ std::optional<std::int64_t> QtSerialPort::NextEventUs() {
     looked_.start();
     if (HasHungUp(port_)) Vanish(qt_error_string(ENODEV));
   }
+  if (look_us_ && doors.pump->NowUs() >= *look_us_) Look();  // offline nobody asks for it
   Listen(!look_us_);
   return look_us_ ? look_us_ : sim_.NextEventUs();
 }

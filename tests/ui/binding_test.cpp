@@ -180,9 +180,10 @@ TEST_F(BindingTest, AHeldKeyHoldsOverTheRepeatsOfItsKeyAndEndsWithItsRelease) {
   EXPECT_EQ(Events(), "down ");
   key(QEvent::KeyRelease, 1'700);
   key(QEvent::KeyPress, 1'730);
-  EXPECT_EQ(Events(), "up down ") << "a hand's own, served late in one go";
-  key(QEvent::KeyRelease, 1'800, Qt::Key_Execute);
-  EXPECT_TRUE(Until([this] { return events == "up "; }, 20)) << "whatever Ctrl and Alt name it";
+  EXPECT_TRUE(Until([this] { return events == "up "; }, 20)) << "late and in one go: not again";
+  key(QEvent::KeyPress, 2'000);
+  key(QEvent::KeyRelease, 2'100, Qt::Key_Execute);
+  EXPECT_TRUE(Until([this] { return events == "up down up "; }, 20)) << "of whatever name";
 }
 
 TEST_F(BindingTest, WhatIsOffIsNotPressed) {
