@@ -232,14 +232,17 @@ void User::ChooseFile(const QString& path, const char* picture) {
   See("the file dialogue", [] { return FrontDialog<QFileDialog>() != nullptr; });
   if (picture) Picture(picture);
   // A list of fitting names that comes up between two keys may take one: who sees that types anew.
-  for (int tries = 0; tries == 0 || (tries < 3 && !InTool([path] { return NameTyped() == path; }));
-       ++tries) {
+  const auto typed = [path] { return NameTyped() == path; };
+  constexpr int kMostTries = 4, kTypedMs = 1000;
+  for (int tries = 0; tries < kMostTries; ++tries) {
     ClickInDialog("fileNameEdit");
     Key(Qt::Key_A, Qt::ControlModifier);
     Keys(path.toStdString());
     // The list of names that fit what was typed goes first.
     if (InTool(PopupIsUp)) Key(Qt::Key_Escape);
+    if (Comes(typed, kTypedMs)) break;
   }
+  See("the file's name as it was typed", typed);
   Key(Qt::Key_Return);
   See("the file dialogue's end", [] { return !FrontDialog<QFileDialog>(); });
 }
@@ -263,11 +266,15 @@ void User::TellSim(const char* command) {
 
 void User::See(const std::string& what, const std::function<bool()>& seen, int within_ms) {
   doing_ = "see " + what;
+  if (!Comes(seen, within_ms)) throw TourFailure("the screen does not show " + what);
+}
+
+bool User::Comes(const std::function<bool()>& seen, int within_ms) {
   for (int waited = 0; waited < within_ms; waited += kLookAgainMs) {
-    if (InTool(seen)) return;
+    if (InTool(seen)) return true;
     QThread::msleep(kLookAgainMs);
   }
-  throw TourFailure("the screen does not show " + what);
+  return false;
 }
 
 template <typename Widget, typename Seen>

@@ -87,6 +87,8 @@ class User {
   const QString file;  ///< what the session saves
 
  private:
+  /// The same; false where it does not come.
+  bool Comes(const std::function<bool()>& seen, int within_ms);
   /// Where on the screen; nowhere while there is no widget.
   struct Place {
     QWidget* widget = nullptr;
