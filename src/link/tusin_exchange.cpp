@@ -30,6 +30,8 @@ constexpr int kLateReplyTimeoutMs = 1000;
 /// A reply that is under way when a wait is cut short is let in: then the line stays in step.
 constexpr int kCutShortMs = 150;
 constexpr std::int64_t kStopEveryUs = 300'000;
+/// Whatever a stop's time-out is: an axis that runs on must not wait for it where a frame is lost.
+constexpr int kStopAgainMs = 500;
 /// 10 bits at 9600, the slowest pace of the line.
 constexpr std::int64_t kUsPerByte = 10 * 1'000'000 / 9600;
 constexpr std::size_t kPrefixLength = 3;
@@ -150,11 +152,23 @@ std::optional<TusinEnd> JudgeLateReply(const TusinRequest& request) {
   return std::nullopt;
 }
 
+bool IsStop(const TusinRequest& request) {
+  return request.priority == TusinPriority::Stop && request.timeout_ms > kStopAgainMs;
+}
+int AnswerMs(const TusinRequest& request) {
+  return IsStop(request) ? kStopAgainMs : request.timeout_ms;
+}
+/// In the time of four time-outs.
+int MostSends(const TusinRequest& request) {
+  return IsStop(request) ? kSends * request.timeout_ms / kStopAgainMs : kSends;
+}
+
 /// One more send of the request; false when the port has died.
 bool SendRequest(TusinRequest& request) {
   ++request.sends;
   const bool again = request.sends > 1;
-  if (!SendLine(request.message, request.timeout_ms, request.reply_length, again)) return false;
+  request.sent_again |= again && IsStop(request);
+  if (!SendLine(request.message, AnswerMs(request), request.reply_length, again)) return false;
   request.awaits_reply = true;
   return true;
 }
@@ -246,7 +260,7 @@ Exchange TusinExchange(TusinRequest& request) {
       if (PortIsLost()) co_return PortLost();
       TusinQueue.late_reply_possible |= IsCutShort(request);
       if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
-      if (sends == kSends) co_return TusinEnd::TimedOut;
+      if (sends == MostSends(request)) co_return TusinEnd::TimedOut;
     }
     request.awaits_reply = false;
     TusinQueue.line_busy_us = 0;
