@@ -91,6 +91,8 @@ bool HoldButtonBinding::KeyDown(const QEvent& event) {
     key_up_.stop();
     return false;
   }
+  // With them it is another key, one that goes through windows perhaps.
+  if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
   if (hand_ == Hand::None) held_code_ = key.nativeScanCode();
   // Behind a release that still waits it begins nothing: what that ends waits for the controller,
   // and meanwhile the hand may have gone again.

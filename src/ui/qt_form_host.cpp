@@ -102,6 +102,7 @@ void QtFormHost::ShowFrame() {
     if (auto* windows = frame_->findChild<QMenu*>(QStringLiteral("mnuWindow"))) {
       ListWindowsIn(*windows, *mdi_, [this] { return MayCommand(); });
     }
+    StepThroughWindows(*frame_, *mdi_, [this] { return MayCommand(); });
     QObject::connect(mdi_, &QMdiArea::subWindowActivated, frame_, [this](QMdiSubWindow* window) {
       for (const auto& [view, shown] : shown_) {
         if (shown.window != window) continue;

@@ -4,6 +4,8 @@
 #include <QActionGroup>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QShortcut>
+#include <utility>
 
 namespace tr7 {
 namespace {
@@ -37,6 +39,18 @@ void ListWindowsIn(QMenu& menu, QMdiArea& area, const CommandGate& gate) {
       });
     }
   });
+}
+
+void StepThroughWindows(QWidget& frame, QMdiArea& area, const CommandGate& gate) {
+  const std::pair<QKeySequence, void (QMdiArea::*)()> steps[] = {
+      {Qt::CTRL | Qt::Key_Tab, &QMdiArea::activateNextSubWindow},
+      {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, &QMdiArea::activatePreviousSubWindow}};
+  for (const auto& [key, step] : steps) {
+    auto* shortcut = new QShortcut(key, &frame);
+    QObject::connect(shortcut, &QShortcut::activated, &area, [&area, step = step, gate] {
+      if (gate()) (area.*step)();
+    });
+  }
 }
 
 }  // namespace tr7

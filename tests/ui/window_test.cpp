@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
+#include <set>
 
 #include "forms/frm_grp.h"
 #include "forms/frm_parameta2.h"
@@ -166,6 +167,21 @@ TEST_F(WindowTest, ACoveredViewIsDrawnTooThoughMoreSeldom) {
   frmPosi.cmdPosiNew.Caption = "in front";
   desktop.forms.BringToFront(frmPosi);
   EXPECT_EQ(button.text(), "in front");
+}
+
+TEST_F(WindowTest, CtrlTabGoesThroughAllOpenViews) {
+  StartOffline();
+  frmMain.mnuViewWire.Press();
+  frmMain.mnuHelpMotionLog.Press();
+  Settle();
+  const auto& area = *Frame().findChild<QMdiArea*>();
+  std::set<const QMdiSubWindow*> seen;
+  for (int times = 0; times < 3; ++times) {
+    KeyInFrame(Qt::Key_Tab, Qt::ControlModifier);
+    Settle();
+    seen.insert(area.activeSubWindow());
+  }
+  EXPECT_EQ(seen.size(), 3u);
 }
 
 // Dialogues.
