@@ -27,13 +27,13 @@ enum class TusinPriority {
 struct TusinRequest {
   std::string message;   ///< command and data, without CR LF
   int reply_length = 0;  ///< with CR LF; 0: any
-  int timeout_ms = 0;    ///< of each send; 0: none
+  int timeout_ms = 0;    ///< of each send, of a stop the last; 0: none
   TusinPriority priority = TusinPriority::Ordinary;
   bool may_cancel = false;  ///< the cancel button, when it is pressed from now on, ends it
 
   int sends = 0;              ///< how often it has been handed to the port
   bool awaits_reply = false;  ///< its own, not that to a sign of sense
-  bool sent_again = false;    ///< beside its own sends: two answers may come
+  bool sent_again = false;    ///< a stop, whose sends may each have an answer
   bool done = false;
   TusinEnd end = TusinEnd::GivenUp;
   std::string reply;  ///< with CR LF; of `TusinEnd::Good` and `TusinEnd::ErrorReply`

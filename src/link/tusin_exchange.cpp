@@ -30,7 +30,8 @@ constexpr int kLateReplyTimeoutMs = 1000;
 /// A reply that is under way when a wait is cut short is let in: then the line stays in step.
 constexpr int kCutShortMs = 150;
 constexpr std::int64_t kStopEveryUs = 300'000;
-/// Whatever a stop's time-out is: an axis that runs on must not wait for it where a frame is lost.
+/// Between the sends of a stop, whose last has the whole time-out: an axis that runs on must not
+/// wait for that where a frame is lost.
 constexpr int kStopAgainMs = 500;
 /// 10 bits at 9600, the slowest pace of the line.
 constexpr std::int64_t kUsPerByte = 10 * 1'000'000 / 9600;
@@ -132,7 +133,7 @@ bool DropLateReply(const TusinRequest& request) {
   return !AppState.TusinReplyReady;
 }
 
-/// The answers to a stop that was sent once more: both in one piece, or one is still to come.
+/// The answers to a stop that was sent once more: all in one piece, or more are still to come.
 void TakeOneAnswer() {
   AppState.TusinReplyText = LastLine(AppState.TusinReplyText);
   TusinQueue.late_reply_possible |= !AppState.TusinReplyText.starts_with(kErrorPrefix);
@@ -152,23 +153,15 @@ std::optional<TusinEnd> JudgeLateReply(const TusinRequest& request) {
   return std::nullopt;
 }
 
-bool IsStop(const TusinRequest& request) {
-  return request.priority == TusinPriority::Stop && request.timeout_ms > kStopAgainMs;
-}
-int AnswerMs(const TusinRequest& request) {
-  return IsStop(request) ? kStopAgainMs : request.timeout_ms;
-}
-/// In the time of four time-outs.
-int MostSends(const TusinRequest& request) {
-  return IsStop(request) ? kSends * request.timeout_ms / kStopAgainMs : kSends;
-}
+bool IsStop(const TusinRequest& request) { return request.priority == TusinPriority::Stop; }
 
-/// One more send of the request; false when the port has died.
-bool SendRequest(TusinRequest& request) {
+/// One more send of the request, the `send`th of `kSends`; false when the port has died.
+bool SendRequest(TusinRequest& request, int send) {
   ++request.sends;
   const bool again = request.sends > 1;
-  request.sent_again |= again && IsStop(request);
-  if (!SendLine(request.message, AnswerMs(request), request.reply_length, again)) return false;
+  const bool hurries = IsStop(request) && send < kSends;
+  const int wait_ms = hurries ? std::min(request.timeout_ms, kStopAgainMs) : request.timeout_ms;
+  if (!SendLine(request.message, wait_ms, request.reply_length, again)) return false;
   request.awaits_reply = true;
   return true;
 }
@@ -249,7 +242,8 @@ Exchange TusinExchange(TusinRequest& request) {
     }
 
     for (int sends = 1;; ++sends) {
-      if (!SendRequest(request)) co_return PortLost();
+      request.sent_again |= sends > 1 && IsStop(request);
+      if (!SendRequest(request, sends)) co_return PortLost();
       co_await Until{IsAnsweredOrCutShort};
       if (DropLateReply(request)) co_await Until{IsAnswered};
       if (IsCutShort(request)) {
@@ -260,7 +254,7 @@ Exchange TusinExchange(TusinRequest& request) {
       if (PortIsLost()) co_return PortLost();
       TusinQueue.late_reply_possible |= IsCutShort(request);
       if (IsWithdrawn(request)) co_return TusinEnd::Withdrawn;
-      if (sends == MostSends(request)) co_return TusinEnd::TimedOut;
+      if (sends == kSends) co_return TusinEnd::TimedOut;
     }
     request.awaits_reply = false;
     TusinQueue.line_busy_us = 0;

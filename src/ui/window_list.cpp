@@ -7,6 +7,8 @@
 #include <QShortcut>
 #include <utility>
 
+#include "forms/hold_button.h"
+
 namespace tr7 {
 namespace {
 
@@ -47,7 +49,10 @@ void StepThroughWindows(QWidget& frame, QMdiArea& area, const CommandGate& gate)
       {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, &QMdiArea::activatePreviousSubWindow}};
   for (const auto& [key, step] : steps) {
     auto* shortcut = new QShortcut(key, &frame);
+    shortcut->setAutoRepeat(false);
     QObject::connect(shortcut, &QShortcut::activated, &area, [&area, step = step, gate] {
+      // What that stops waits for the controller: not within the area's change of windows.
+      LetGoOfHeldButton();
       if (gate()) (area.*step)();
     });
   }

@@ -75,6 +75,7 @@ class JogWatch : public SerialPort {
   std::int64_t flight_us_ = 0;
   std::map<std::string, int> late_;  ///< commands that were overtaken: their answers may come
   int opened_at_press_ = 0;
+  int stops_ = 0;  ///< sent in a row, unanswered
 };
 
 }  // namespace tr7
